@@ -1,0 +1,29 @@
+# The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
+
+BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest
+WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
+PRESETS = native x64 x86
+
+.PHONY: help build test run packages
+.DEFAULT_GOAL := help
+
+help:
+	@echo "make run      open the item dialog on the sample door (without a display: driven by itself,"
+	@echo "              the result printed, a screenshot in out/)"
+	@echo "make test     build and run every test"
+	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
+	@echo "make help     this list"
+
+packages:
+	@scripts/install-packages $(BUILD_PACKAGES) $(WINDOW_PACKAGES)
+
+build: packages
+	@for preset in $(PRESETS); do scripts/build $$preset || exit 1; done
+
+test: build
+	@printf 'subdirs("native" "x64")\n' > build/CTestTestfile.cmake
+	@scripts/with-wine ctest --test-dir build --output-on-failure
+
+run: packages
+	@scripts/build x64
+	@scripts/run-door
