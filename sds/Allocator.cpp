@@ -24,9 +24,21 @@ void* OrThrow(void* block) {
 
 }  // namespace
 
-void* operator new(std::size_t size) { return OrThrow(td_new(size)); }
-void* operator new[](std::size_t size) { return OrThrow(td_new_array(size)); }
-void operator delete(void* block) noexcept { td_delete(block); }
-void operator delete[](void* block) noexcept { td_delete_array(block); }
-void operator delete(void* block, std::size_t) noexcept { td_delete(block); }
-void operator delete[](void* block, std::size_t) noexcept { td_delete_array(block); }
+void* operator new(std::size_t size) {
+    return OrThrow(td_new(size));
+}
+void* operator new[](std::size_t size) {
+    return OrThrow(td_new_array(size));
+}
+void operator delete(void* block) noexcept {
+    td_delete(block);
+}
+void operator delete[](void* block) noexcept {
+    td_delete_array(block);
+}
+void operator delete(void* block, std::size_t) noexcept {
+    td_delete(block);
+}
+void operator delete[](void* block, std::size_t) noexcept {
+    td_delete_array(block);
+}

@@ -1,0 +1,43 @@
+#include "CommandTable.h"
+
+#include "Commands.h"
+#include "sds.h"
+
+namespace {
+
+constexpr CommandRow commandTable[] = {
+    {L"tavrinwnd", RunItemDialog},
+    {L"tavrinselmask", RunChoiceDialog},
+    {L"tavrinprevmask", RunPreviewDialog},
+};
+
+}  // namespace
+
+std::span<const CommandRow> CommandTable() {
+    return commandTable;
+}
+
+void RegisterCommands() {
+    short code = 0;
+    for (const CommandRow& row : commandTable) {
+        if (sds_defun(row.name, code++) == 0)
+            return;
+    }
+}
+
+void UnregisterCommands() {
+    short code = 0;
+    for (const CommandRow& row : commandTable) {
+        if (sds_undef(row.name, code++) == 0)
+            return;
+    }
+}
+
+void InvokeCommand() {
+    const int code = sds_getfuncode();
+    if (code < 0 || code >= static_cast<int>(std::size(commandTable))) {
+        sds_fail(L"Invalid function code.");
+        return;
+    }
+    commandTable[code].run();
+}

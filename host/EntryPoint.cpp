@@ -1,0 +1,51 @@
+// The door through which the host talks to the module.
+#include <windows.h>
+
+#include <string>
+
+#include "CommandTable.h"
+#include "HostBinding.h"
+#include "sds.h"
+
+namespace {
+
+// The host does not offer all that the module calls, so nothing of it may be called.
+bool hostIsBound = false;
+
+constexpr int requestServed = 0;
+constexpr int requestRefused = 3;
+
+int Load() {
+    const std::wstring missing = BindHost(GetModuleHandleW(nullptr));
+    hostIsBound = missing.empty();
+    if (!hostIsBound) {
+        const std::wstring message =
+            L"TavrinWnd cannot work in this host application. The host does not offer:\n\n" + missing +
+            L"\n\nPlease load it in a version of the host that does.";
+        MessageBoxW(nullptr, message.c_str(), L"Error!", MB_OK | MB_TASKMODAL);
+        return requestRefused;
+    }
+    RegisterCommands();
+    return requestServed;
+}
+
+}  // namespace
+
+// The host's requests: 1 loads, 2 unloads, 5 invokes the function that LISP called; the others up to 17
+// ask for nothing here. Answers 0, or 3 for a request that is not known and for a load in a host that
+// lacks a function.
+extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*packet*/) {
+    try {
+        if (request > SDS_LAST_REQUEST)
+            return requestRefused;
+        if (request == SDS_LOAD)
+            return Load();
+        if (request == SDS_UNLOAD && hostIsBound)
+            UnregisterCommands();
+        if (request == SDS_INVOKE && hostIsBound)
+            InvokeCommand();
+    } catch (...) {
+        // An exception of this compiler's means nothing to the host.
+    }
+    return requestServed;
+}

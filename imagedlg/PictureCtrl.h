@@ -1,0 +1,39 @@
+// A static control that shows one picture file, stretched over its whole client area.
+//
+// It holds the file's bytes, not a decoded picture: each paint decodes them again, so a cell of any size
+// costs no more memory than its file.
+#pragma once
+
+#include <afxwin.h>
+#include <objidl.h>
+
+class CPictureCtrl : public CStatic {
+public:
+    // Starts GDI+ for this control; the destructor stops it.
+    CPictureCtrl();
+    ~CPictureCtrl() override;
+
+    // Takes the bytes of the file `path` and repaints. FALSE when it cannot be read: the control is then
+    // empty, whatever it showed before, and GetLastError tells why (the file exception's system error, -1
+    // when there was none; the HRESULT of the memory stream). Whether the bytes are a picture shows only
+    // in painting: a file that cannot be decoded, an empty one included, is loaded and draws nothing.
+    // May be called before the window exists.
+    BOOL LoadFromFile(const CString& path);
+
+    // Paints like DrawItem, on `pDC`, and answers TRUE; what the framework answers when the control is
+    // empty. Not wired to a message: the dialog's background must show where nothing is drawn.
+    virtual BOOL OnEraseBkgnd(CDC* pDC);
+
+protected:
+    void PreSubclassWindow() override;
+    void DrawItem(LPDRAWITEMSTRUCT drawItem) override;
+
+private:
+    void ReleaseImageStream();
+    bool ReadFileIntoStream(const CString& path);
+    void Draw(HDC dc) const;
+
+    IStream* m_pStream = nullptr;  // the file's bytes, owned; null when there are none
+    BOOL m_bLoaded = FALSE;        // a file was read completely into the stream
+    ULONG_PTR m_gdiplusToken = 0;
+};

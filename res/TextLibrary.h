@@ -1,0 +1,16 @@
+// The texts of the companion resource module TavrinRes.dll, by number.
+#pragma once
+
+#include <afxwin.h>
+
+// Loads texts from TavrinRes.dll. The library is loaded by its bare name at the first text that is
+// asked for and then kept for the life of the process, so an object of this class is a static one.
+class CTextLibrary {
+public:
+    // Text `id`, at most 255 characters. An empty text when the library cannot be loaded (the next
+    // call tries again), holds no such text, or `id` is above 65535 and so cannot be a resource number.
+    CString Load(unsigned id);
+
+private:
+    HINSTANCE m_library = nullptr;
+};

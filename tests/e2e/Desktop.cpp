@@ -1,0 +1,86 @@
+#include "Desktop.h"
+
+#include <array>
+#include <cstdio>
+#include <sstream>
+
+std::string OutputOf(const std::string& command) {
+    std::string output;
+    FILE* pipe = popen((command + " 2>/dev/null").c_str(), "r");
+    if (pipe == nullptr)
+        return output;
+    std::array<char, 65536> buffer;
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
+        output.append(buffer.data(), count);
+    pclose(pipe);
+    return output;
+}
+
+bool WaitUntil(const std::function<bool()>& condition, int seconds) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return true;
+}
+
+Screenshot::Screenshot(const std::string& ppm) {
+    std::istringstream stream(ppm);
+    std::string magic;
+    int depth = 0;
+    stream >> magic >> m_width >> m_height >> depth;
+    stream.get();
+    if (magic == "P6" && depth == 255)
+        m_pixels = ppm.substr(static_cast<std::size_t>(stream.tellg()));
+}
+
+Rgb Screenshot::At(int x, int y) const {
+    if (x < 0 || y < 0 || x >= m_width || y >= m_height)
+        return {-1, -1, -1};
+    const auto at = static_cast<std::size_t>(3 * (y * m_width + x));
+    const auto channel = [&](std::size_t offset) { return static_cast<unsigned char>(m_pixels.at(at + offset)); };
+    return {channel(0), channel(1), channel(2)};
+}
+
+Window Window::WithTitle(const std::string& title) {
+    Window window;
+    WaitUntil([&] {
+        std::istringstream found(OutputOf("xdotool search --onlyvisible --name '^" + title + "$'"));
+        return static_cast<bool>(std::getline(found, window.m_id));
+    });
+    return window;
+}
+
+bool Window::IsOpen() const {
+    return OutputOf("xwininfo -id " + m_id).find("IsViewable") != std::string::npos;
+}
+
+void Window::Activate() const {
+    OutputOf("xdotool windowactivate --sync " + m_id);
+}
+
+void Window::Click(int x, int y) const {
+    std::ostringstream command;
+    command << "xdotool mousemove --window " << m_id << ' ' << x << ' ' << y << " click 1";
+    OutputOf(command.str());
+}
+
+void Window::Press(const std::string& key) const {
+    Activate();
+    OutputOf("xdotool key " + key);
+}
+
+Screenshot Window::Look() const { return Screenshot(OutputOf("import -window " + m_id + " -depth 8 ppm:-")); }
+
+Screenshot Window::LookWhenStill() const {
+    Screenshot last = Look();
+    WaitUntil([&] {
+        Screenshot next = Look();
+        const bool still = next.Width() > 0 && next == last;
+        last = std::move(next);
+        return still;
+    });
+    return last;
+}

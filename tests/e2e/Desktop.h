@@ -1,0 +1,55 @@
+// A person's hands and eyes on the X display: windows found by their title, clicks and keys by xdotool,
+// pixels as they stand on the screen.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+// What a shell command printed; its exit status is dropped.
+std::string OutputOf(const std::string& command);
+
+// Asks again and again until `condition` holds; false when it does not within `seconds`.
+bool WaitUntil(const std::function<bool()>& condition, int seconds = 20);
+
+struct Rgb {
+    int red, green, blue;
+    bool operator==(const Rgb&) const = default;
+};
+
+// A picture of a window, with the pixels of its client area.
+class Screenshot {
+public:
+    explicit Screenshot(const std::string& ppm);
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    Rgb At(int x, int y) const;
+    bool operator==(const Screenshot&) const = default;
+
+private:
+    int m_width = 0;
+    int m_height = 0;
+    std::string m_pixels;
+};
+
+// A top-level window. Coordinates are pixels from the upper left of its client area.
+class Window {
+public:
+    // The visible window with exactly this title, once it is there; an invalid one after 20 seconds.
+    static Window WithTitle(const std::string& title);
+
+    bool IsValid() const { return !m_id.empty(); }
+    bool IsOpen() const;
+    void Activate() const;
+    void Click(int x, int y) const;
+    // Presses a key (a name that xdotool knows) in the window.
+    void Press(const std::string& key) const;
+    Screenshot Look() const;
+    // Looks once the window has stopped changing.
+    Screenshot LookWhenStill() const;
+
+private:
+    std::string m_id;
+};

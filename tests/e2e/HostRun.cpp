@@ -1,0 +1,80 @@
+#include "HostRun.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include "Desktop.h"
+
+namespace {
+
+void RedirectTo(const std::filesystem::path& file, int descriptor) {
+    const int opened = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    dup2(opened, descriptor);
+    close(opened);
+}
+
+}  // namespace
+
+HostRun::HostRun() : m_program(BIN_DIR "/DevHost.exe") {
+    std::string name = (std::filesystem::path(WORK_DIR) / "host-XXXXXX").string();
+    std::filesystem::create_directories(WORK_DIR);
+    m_folder = mkdtemp(name.data());
+}
+
+HostRun::~HostRun() {
+    if (m_process > 0) {
+        kill(m_process, SIGKILL);
+        waitpid(m_process, nullptr, 0);
+    }
+    std::error_code ignored;
+    std::filesystem::remove_all(m_folder, ignored);
+}
+
+void HostRun::UseSample(const std::string& name) const {
+    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(SAMPLES_DIR) / name))
+        std::filesystem::copy(file.path(), m_folder / file.path().filename(),
+                              std::filesystem::copy_options::overwrite_existing);
+}
+
+void HostRun::Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(m_folder / name, std::ios::binary) << bytes;
+}
+
+std::string HostRun::Read(const std::string& name) const {
+    std::ifstream file(m_folder / name, std::ios::binary);
+    if (!file)
+        return "(no file)";
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void HostRun::Start(const std::vector<std::string>& arguments) {
+    m_process = fork();
+    if (m_process != 0)
+        return;
+    std::filesystem::current_path(m_folder);
+    RedirectTo(".output", STDOUT_FILENO);
+    RedirectTo(".errors", STDERR_FILENO);
+    std::vector<std::string> words = {std::getenv("WINE"), m_program, "--search", "."};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    std::vector<char*> argv;
+    for (std::string& word : words)
+        argv.push_back(word.data());
+    argv.push_back(nullptr);
+    execv(argv[0], argv.data());
+    _exit(127);
+}
+
+int HostRun::Wait(int seconds) {
+    int status = 0;
+    const bool ended = WaitUntil([&] { return waitpid(m_process, &status, WNOHANG) == m_process; }, seconds);
+    if (!ended)
+        return -1;
+    m_process = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
+}

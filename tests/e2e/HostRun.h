@@ -1,0 +1,41 @@
+// One run of the stand-in host in a folder of its own, with its output and its exit status.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class HostRun {
+public:
+    HostRun();
+    ~HostRun();  // ends the program if it still runs, removes the folder
+    HostRun(const HostRun&) = delete;
+    HostRun& operator=(const HostRun&) = delete;
+
+    // The folder that the host searches: put the item's files there.
+    const std::filesystem::path& Folder() const { return m_folder; }
+    // Copies a sample item into the folder.
+    void UseSample(const std::string& name) const;
+    void Write(const std::string& name, const std::string& bytes) const;
+    std::string Read(const std::string& name) const;
+
+    // Another copy of the program than build/x64/bin/DevHost.exe.
+    void UseProgram(const std::filesystem::path& program) { m_program = program; }
+
+    // Starts the host with `arguments` (and --search for the folder) in the folder.
+    void Start(const std::vector<std::string>& arguments);
+
+    // Waits for the end. The exit status, or -1 when it does not end within `seconds`.
+    int Wait(int seconds = 30);
+
+    // What it has printed so far on standard output and standard error.
+    std::string Output() const { return Read(".output"); }
+    std::string Errors() const { return Read(".errors"); }
+
+private:
+    std::filesystem::path m_folder;
+    std::filesystem::path m_program;
+    pid_t m_process = -1;
+};

@@ -1,0 +1,163 @@
+#include "Commands.h"
+
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "Arguments.h"
+#include "FakeHost.h"
+#include "HandleCount.h"
+#include "ModalHands.h"
+#include "TempFolder.h"
+
+namespace {
+
+TEST(ItemArguments, NeedAStringFirst) {
+    EXPECT_FALSE(ReadItemArguments(nullptr));
+    EXPECT_FALSE(ReadItemArguments(CArguments().Short(5).List()));
+    EXPECT_FALSE(ReadItemArguments(CArguments().Real(1).String(L"door").List()));
+}
+
+TEST(ItemArguments, HaveDefaults) {
+    CArguments list;
+    const auto arguments = ReadItemArguments(list.String(L"door").List());
+    ASSERT_TRUE(arguments);
+    EXPECT_STREQ(arguments->baseName, L"door");
+    EXPECT_EQ(arguments->scale, 1.0);
+    EXPECT_EQ(arguments->mode, 0);
+}
+
+TEST(ItemArguments, AreAStringARealAndAShort) {
+    CArguments list;
+    const auto arguments = ReadItemArguments(list.String(L"door").Real(0.001).Short(-3).List());
+    ASSERT_TRUE(arguments);
+    EXPECT_EQ(arguments->scale, 0.001);
+    EXPECT_EQ(arguments->mode, -3);
+}
+
+TEST(ItemArguments, ReadTheThirdWhateverTheSecondIs) {
+    CArguments list;
+    const auto arguments = ReadItemArguments(list.String(L"door").String(L"x").Short(1).List());
+    ASSERT_TRUE(arguments);
+    EXPECT_EQ(arguments->scale, 1.0);
+    EXPECT_EQ(arguments->mode, 1);
+}
+
+TEST(ItemArguments, MayEndAfterTheScale) {
+    CArguments list;
+    const auto arguments = ReadItemArguments(list.String(L"door").Real(2).List());
+    ASSERT_TRUE(arguments);
+    EXPECT_EQ(arguments->scale, 2.0);
+    EXPECT_EQ(arguments->mode, 0);
+}
+
+TEST(ItemArguments, LeaveTheModeWhenTheThirdIsNoShort) {
+    CArguments list;
+    const auto arguments = ReadItemArguments(list.String(L"door").Short(7).Real(1).List());
+    ASSERT_TRUE(arguments);
+    EXPECT_EQ(arguments->scale, 1.0);
+    EXPECT_EQ(arguments->mode, 0);
+}
+
+class ItemCommand : public testing::Test {
+protected:
+    void SetUp() override {
+        fakeHost = {};
+        m_folder.Write(L"item_TMP.TXT", "free\r\nTitle\r\nVAR\r\n$1 = \"<<1501>>\"R 5\r\nEND_VAR\r\n");
+        m_folder.Write(L"item.TXT", "free\r\nTitle\r\nVAR\r\n$1 = \"<<1501>>\"R 5\r\nEND_VAR\r\n");
+        fakeHost.searchFolders = {m_folder.Path(L"")};
+    }
+
+    CTempFolder m_folder;
+    CModalHands m_hands;
+};
+
+TEST_F(ItemCommand, AnswersZeroAfterOk) {
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").Real(1).Short(0).List();
+    m_hands.Then([](HWND dialog) { PressButton(dialog, IDOK); });
+    EXPECT_EQ(RunItemDialog(), 0);
+    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"0"});
+}
+
+TEST_F(ItemCommand, AnswersNilAfterCancel) {
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").List();
+    m_hands.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
+    EXPECT_EQ(RunItemDialog(), 0);
+    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
+}
+
+TEST_F(ItemCommand, ANumberAsOnlyArgumentOpensNothingAndSetsNoResult) {
+    CArguments list;
+    fakeHost.arguments = list.Short(5).List();
+    EXPECT_EQ(RunItemDialog(), 0);
+    EXPECT_TRUE(fakeHost.results.empty());
+    EXPECT_TRUE(fakeHost.searched.empty());
+}
+
+TEST_F(ItemCommand, OpensOverTheHostsMainWindow) {
+    CWnd host;
+    host.CreateEx(0, AfxRegisterWndClass(0), L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 900, 700),
+                  nullptr, 0);
+    fakeHost.mainWindow = host;
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").List();
+    HWND owner = nullptr;
+    bool hostEnabled = true;
+    m_hands.Then([&](HWND dialog) {
+        owner = ::GetWindow(dialog, GW_OWNER);
+        hostEnabled = ::IsWindowEnabled(host) != FALSE;
+        PressButton(dialog, IDCANCEL);
+    });
+    RunItemDialog();
+    EXPECT_EQ(owner, host.m_hWnd);
+    EXPECT_FALSE(hostEnabled);
+    EXPECT_TRUE(::IsWindowEnabled(host));
+    host.DestroyWindow();
+}
+
+TEST_F(ItemCommand, AnExceptionEndsWithNil) {
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").List();
+    fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
+    EXPECT_EQ(RunItemDialog(), 0);
+    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
+}
+
+TEST_F(ItemCommand, RestoresTheModuleStateOnEveryWayOut) {
+    AFX_MODULE_STATE* const before = AfxGetModuleState();
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").List();
+    m_hands.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
+    RunItemDialog();
+    EXPECT_EQ(AfxGetModuleState(), before);
+    fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
+    RunItemDialog();
+    EXPECT_EQ(AfxGetModuleState(), before);
+}
+
+TEST(ChoiceCommand, AnswersNilForNowAndNothingWithoutArguments) {
+    fakeHost = {};
+    EXPECT_EQ(RunChoiceDialog(), 0);
+    EXPECT_TRUE(fakeHost.results.empty());
+    CArguments list;
+    fakeHost.arguments = list.String(L"Replace").Short(0).List();
+    EXPECT_EQ(RunChoiceDialog(), 0);
+    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
+}
+
+TEST(PreviewCommand, NeedsAString) {
+    fakeHost = {};
+    CArguments number;
+    fakeHost.arguments = number.Short(5).List();
+    EXPECT_EQ(RunPreviewDialog(), 0);
+    EXPECT_TRUE(fakeHost.results.empty());
+    CArguments list;
+    fakeHost.arguments = list.String(L"door").List();
+    EXPECT_EQ(RunPreviewDialog(), 0);
+    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
+}
+
+}  // namespace

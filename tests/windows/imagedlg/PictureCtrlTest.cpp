@@ -1,0 +1,166 @@
+#include "PictureCtrl.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "Bitmap.h"
+#include "HandleCount.h"
+#include "Pixels.h"
+#include "TempFolder.h"
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
+
+// A parent window that paints itself white and hands owner drawing on to its children.
+class CParent : public CWnd {
+public:
+    CParent() {
+        const LPCTSTR name = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW),
+                                                 static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+        CreateEx(0, name, L"parent", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, CRect(50, 50, 450, 350), nullptr, 0);
+    }
+    ~CParent() override { DestroyWindow(); }
+};
+
+class PictureCtrl : public testing::Test {
+protected:
+    // The control over a plain static of the parent, as a dialog binds it.
+    void Bind(CPictureCtrl& picture, const RECT& area) {
+        const HWND control =
+            ::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, area.left, area.top, area.right - area.left,
+                              area.bottom - area.top, m_parent.m_hWnd, nullptr, nullptr, nullptr);
+        ASSERT_TRUE(picture.SubclassWindow(control));
+        PumpMessages();
+    }
+
+    CTempFolder m_folder;
+    CParent m_parent;
+};
+
+TEST_F(PictureCtrl, IsEmptyForAFileThatIsNotThere) {
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 100, 100});
+    EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"missing.png").c_str()));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 100, 100}, RGB(255, 255, 255)), 10000);
+}
+
+TEST_F(PictureCtrl, StretchesThePictureOverTheWholeCell) {
+    m_folder.Write(L"wide.bmp", BitmapFile(2, 1, {0xFF0000, 0x0000FF}));
+    CPictureCtrl picture;
+    Bind(picture, {10, 10, 60, 210});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"wide.bmp").c_str()));
+    PumpMessages();
+    const CClientPixels pixels(picture);
+    // A wide picture in a tall cell: both colours from top to bottom, no letterbox.
+    for (const int y : {0, 100, 199}) {
+        EXPECT_EQ(pixels.At(0, y), red) << y;
+        EXPECT_NE(pixels.At(49, y), RGB(255, 255, 255)) << y;
+    }
+}
+
+TEST_F(PictureCtrl, DrawsAPngAgainOnEveryPaint) {
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 300, 200});
+    ASSERT_TRUE(picture.LoadFromFile(SAMPLE_PICTURE));
+    for (int paint = 0; paint < 3; ++paint) {
+        picture.Invalidate();
+        picture.UpdateWindow();
+        EXPECT_GT(CClientPixels(picture).Count({0, 0, 150, 200}, RGB(255, 255, 255)), 5000) << paint;
+        EXPECT_LT(CClientPixels(picture).Count({0, 0, 150, 200}, RGB(255, 255, 255)), 25000) << paint;
+    }
+}
+
+TEST_F(PictureCtrl, TakesAnEmptyFileAndDrawsNothing) {
+    m_folder.Write(L"empty.png", "");
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_TRUE(picture.LoadFromFile(m_folder.Path(L"empty.png").c_str()));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+}
+
+TEST_F(PictureCtrl, TakesAFileThatIsNoPictureAndDrawsNothing) {
+    m_folder.Write(L"text.png", std::string(5000, 'x'));
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_TRUE(picture.LoadFromFile(m_folder.Path(L"text.png").c_str()));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+}
+
+TEST_F(PictureCtrl, ReplacesThePictureByTheNextOne) {
+    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    m_folder.Write(L"blue.bmp", BitmapFile(1, 1, {0x0000FF}));
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    EXPECT_EQ(CClientPixels(picture).At(25, 25), red);
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"blue.bmp").c_str()));
+    EXPECT_EQ(CClientPixels(picture).At(25, 25), blue);
+}
+
+TEST_F(PictureCtrl, IsEmptyAfterALoadThatFailed) {
+    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"missing.bmp").c_str()));
+    m_parent.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, red), 0);
+}
+
+TEST_F(PictureCtrl, KeepsAPictureThatIsLoadedBeforeTheWindowExists) {
+    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    CPictureCtrl picture;
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    Bind(picture, {0, 0, 50, 50});
+    m_parent.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    EXPECT_EQ(CClientPixels(picture).At(25, 25), red);
+}
+
+TEST_F(PictureCtrl, MakesThePlainStaticOwnerDrawn) {
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_EQ(picture.GetStyle() & SS_OWNERDRAW, static_cast<DWORD>(SS_OWNERDRAW));
+}
+
+TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
+    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    CClientDC dc(&picture);
+    dc.FillSolidRect(0, 0, 50, 50, blue);
+    EXPECT_TRUE(picture.OnEraseBkgnd(&dc));
+    EXPECT_EQ(CClientPixels(picture).At(25, 25), red);
+    EXPECT_TRUE(picture.OnEraseBkgnd(nullptr));
+}
+
+TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {
+    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    const auto cycle = [&] {
+        CPictureCtrl picture;
+        Bind(picture, {0, 0, 50, 50});
+        picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str());
+        picture.LoadFromFile(m_folder.Path(L"missing.bmp").c_str());
+        picture.LoadFromFile(SAMPLE_PICTURE);
+        picture.DestroyWindow();
+    };
+    cycle();
+    const int gdi = GdiObjectCount();
+    const int windows = WindowCount();
+    const long long blocks = HeapBlockCount();
+    for (int round = 0; round < 50; ++round)
+        cycle();
+    EXPECT_EQ(GdiObjectCount(), gdi);
+    EXPECT_EQ(WindowCount(), windows);
+    EXPECT_EQ(HeapBlockCount(), blocks);
+}
+
+}  // namespace

@@ -1,0 +1,176 @@
+#define SDS_HOST
+#include "FakeHost.h"
+
+#include <cstdarg>
+#include <cstdio>
+#include <cwchar>
+#include <memory>
+#include <string>
+
+#include "sds.h"
+
+FakeHost fakeHost;
+
+namespace {
+
+std::string Narrow(const wchar_t* text) {
+    std::string narrow;
+    for (; *text != L'\0'; ++text)
+        narrow += *text < 0x80 ? static_cast<char>(*text) : '?';
+    return narrow;
+}
+
+std::string ListText(const sds_resbuf* list) {
+    std::string text = "(";
+    for (; list != nullptr; list = list->next) {
+        if (text.size() > 1)
+            text += ' ';
+        if (list->type == RTSTR)
+            text += '"' + Narrow(list->value.string) + '"';
+        else
+            text += std::to_string(list->value.integer);
+    }
+    return text + ')';
+}
+
+bool IsFile(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+int Found(const std::wstring& path, wchar_t* result, size_t capacity) {
+    if (path.size() >= capacity || !IsFile(path))
+        return RTNORM - 1;
+    std::wmemcpy(result, path.c_str(), path.size() + 1);
+    return RTNORM;
+}
+
+// Lists handed to the module live in the host, outside the module's heap, until the program ends.
+std::vector<std::unique_ptr<sds_resbuf>>& BuiltLists() {
+    static std::vector<std::unique_ptr<sds_resbuf>> lists;
+    return lists;
+}
+
+}  // namespace
+
+int sds_defun(const wchar_t* name, short code) {
+    fakeHost.defined.emplace_back(name, code);
+    return fakeHost.defunStatus;
+}
+
+int sds_undef(const wchar_t* name, short code) {
+    fakeHost.undefined.emplace_back(name, code);
+    return fakeHost.defunStatus;
+}
+
+int sds_getfuncode(void) {
+    return fakeHost.functionCode;
+}
+
+sds_resbuf* sds_getargs(void) {
+    return fakeHost.arguments;
+}
+
+int sds_retint(int value) {
+    fakeHost.results.push_back(std::to_string(value));
+    return RTNORM;
+}
+
+int sds_retnil(void) {
+    fakeHost.results.push_back("nil");
+    return RTNORM;
+}
+
+int sds_retlist(const sds_resbuf* list) {
+    fakeHost.results.push_back(ListText(list));
+    return RTNORM;
+}
+
+sds_resbuf* sds_buildlist(int type, ...) {
+    std::va_list values;
+    va_start(values, type);
+    sds_resbuf* first = nullptr;
+    sds_resbuf** link = &first;
+    for (; type != RTNONE; type = va_arg(values, int)) {
+        BuiltLists().push_back(std::make_unique<sds_resbuf>());
+        sds_resbuf* item = BuiltLists().back().get();
+        item->type = static_cast<short>(type);
+        if (type == RTREAL)
+            item->value.real = va_arg(values, double);
+        else if (type == RTSTR)
+            item->value.string = _wcsdup(va_arg(values, const wchar_t*));
+        else
+            item->value.integer = static_cast<short>(va_arg(values, int));
+        *link = item;
+        link = &item->next;
+    }
+    va_end(values);
+    return first;
+}
+
+int sds_fail(const wchar_t* message) {
+    fakeHost.failures.push_back(message);
+    return RTNORM;
+}
+
+int sds_alert(const wchar_t* message) {
+    fakeHost.alerts.push_back(message);
+    return RTNORM;
+}
+
+HWND sds_getmainhwnd(void) {
+    return fakeHost.mainWindow;
+}
+
+int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity) {
+    fakeHost.searched.push_back(name);
+    if (fakeHost.findFile)
+        return fakeHost.findFile(name, result, capacity);
+    for (const std::wstring& folder : fakeHost.searchFolders) {
+        if (Found(folder + name, result, capacity) == RTNORM)
+            return RTNORM;
+    }
+    return Found(name, result, capacity);
+}
+
+int sds_getvar(const wchar_t* name, sds_resbuf* result) {
+    if (std::wcscmp(name, L"LUNITS") != 0)
+        return RTNORM - 1;
+    result->type = RTSHORT;
+    result->value.integer = fakeHost.linearUnits;
+    return RTNORM;
+}
+
+// "U2:900.0000": the units that were asked for can be read in the text.
+int sds_rtos(double value, int units, int precision, wchar_t* text) {
+    const int digits = precision < 0 ? fakeHost.precision : precision;
+    std::swprintf(text, 256, L"U%d:%.*f", units, digits, value);
+    return RTNORM;
+}
+
+int sds_distof(const wchar_t* text, int units, double* result) {
+    const std::wstring prefix = L"U" + std::to_wstring(units) + L":";
+    const std::wstring whole = text;
+    const std::wstring number = whole.rfind(prefix, 0) == 0 ? whole.substr(prefix.size()) : whole;
+    wchar_t* end = nullptr;
+    const double value = std::wcstod(number.c_str(), &end);
+    if (number.empty() || *end != L'\0')
+        return RTNORM - 1;
+    *result = value;
+    return RTNORM;
+}
+
+int sds_getpoint(const double* /*base*/, const wchar_t* prompt, double* point) {
+    fakeHost.prompts.push_back(prompt);
+    if (fakeHost.duringPick)
+        fakeHost.duringPick();
+    point[0] = point[1] = point[2] = 0;
+    return fakeHost.pointStatus;
+}
+
+int sds_getdist(const double* /*base*/, const wchar_t* prompt, double* distance) {
+    fakeHost.prompts.push_back(prompt);
+    if (fakeHost.distanceStatus == RTNORM)
+        *distance = fakeHost.distance;
+    return fakeHost.distanceStatus;
+}

@@ -1,0 +1,42 @@
+// A host for tests: the test program exports the functions of the host interface, so the module's code
+// binds to them exactly as it does to a real host. Tests fill `fakeHost` before and read it afterwards.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+struct sds_resbuf;
+
+struct FakeHost {
+    // What the host was asked to do.
+    std::vector<std::pair<std::wstring, int>> defined;    // sds_defun
+    std::vector<std::pair<std::wstring, int>> undefined;  // sds_undef
+    std::vector<std::wstring> failures;                   // sds_fail
+    std::vector<std::wstring> alerts;                     // sds_alert
+    std::vector<std::wstring> prompts;                    // sds_getpoint, sds_getdist
+    std::vector<std::string> results;                     // "0", "nil", "(100 \"A\")" per result call
+    std::vector<std::wstring> searched;                   // sds_findfile
+
+    // What it answers.
+    int defunStatus = RtNorm;
+    int functionCode = 0;
+    sds_resbuf* arguments = nullptr;
+    HWND mainWindow = nullptr;
+    std::vector<std::wstring> searchFolders;  // each with its trailing backslash
+    std::function<int(const wchar_t* name, wchar_t* result, size_t capacity)> findFile;  // instead of folders
+    short linearUnits = 2;
+    int precision = 4;
+    int pointStatus = RtNorm;
+    int distanceStatus = RtNorm;
+    double distance = 0;
+    std::function<void()> duringPick;  // called inside sds_getpoint
+
+    static constexpr int RtNorm = 5100;
+};
+
+extern FakeHost fakeHost;

@@ -1,0 +1,61 @@
+// main() of the window tests: binds the host interface to this program's own exports and ends a test that
+// hangs, naming it.
+#include <gtest/gtest.h>
+#include <objbase.h>
+#include <windows.h>
+
+#include <atomic>
+#include <cstdio>
+
+#include "HostBinding.h"
+
+namespace {
+
+constexpr DWORD secondsPerTest = 120;
+constexpr UINT statusHung = 4;
+
+std::atomic<ULONGLONG> testStarted{0};
+std::atomic<const char*> suiteName{""};
+std::atomic<const char*> testName{""};
+
+class CWatchdogListener : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo& test) override {
+        suiteName = test.test_suite_name();
+        testName = test.name();
+        testStarted = GetTickCount64();
+    }
+    void OnTestEnd(const testing::TestInfo&) override { testStarted = 0; }
+};
+
+DWORD WINAPI Watch(void*) {
+    for (;;) {
+        Sleep(500);
+        const ULONGLONG started = testStarted;
+        if (started == 0 || GetTickCount64() - started < secondsPerTest * 1000)
+            continue;
+        wchar_t title[200] = {};
+        GetWindowTextW(GetForegroundWindow(), title, 200);
+        std::fprintf(stderr, "HUNG: %s.%s did not end within %lu s; the window in front is \"%ls\"\n",
+                     suiteName.load(), testName.load(), secondsPerTest, title);
+        std::fflush(stderr);
+        TerminateProcess(GetCurrentProcess(), statusHung);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new CWatchdogListener);
+    const std::wstring missing = BindHost(GetModuleHandleW(nullptr));
+    if (!missing.empty()) {
+        std::fprintf(stderr, "the test program does not export: %ls\n", missing.c_str());
+        return 1;
+    }
+    const HRESULT com = CoInitialize(nullptr);
+    CloseHandle(CreateThread(nullptr, 0, Watch, nullptr, 0, nullptr));
+    const int result = RUN_ALL_TESTS();
+    if (SUCCEEDED(com))
+        CoUninitialize();
+    return result;
+}

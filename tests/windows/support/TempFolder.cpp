@@ -1,0 +1,33 @@
+#include "TempFolder.h"
+
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+CTempFolder::CTempFolder() {
+    static int number = 0;
+    wchar_t base[MAX_PATH];
+    GetTempPathW(MAX_PATH, base);
+    m_path = std::wstring(base) + L"tavrin_" + std::to_wstring(GetCurrentProcessId()) + L"_" +
+             std::to_wstring(++number) + L"\\";
+    std::filesystem::create_directories(m_path);
+}
+
+CTempFolder::~CTempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+void CTempFolder::Write(const std::wstring& name, const std::string& bytes) const {
+    std::ofstream file(std::filesystem::path(m_path + name), std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+std::string CTempFolder::Read(const std::wstring& name) const {
+    std::ifstream file(std::filesystem::path(m_path + name), std::ios::binary);
+    if (!file)
+        return "(no file)";
+    return {std::istreambuf_iterator<char>(file), {}};
+}
