@@ -1,0 +1,91 @@
+#include "Options.h"
+
+namespace {
+
+// Walks over the arguments; an option takes the next one as its value.
+class CArguments {
+public:
+    explicit CArguments(std::span<const std::wstring> arguments) : m_rest(arguments) {}
+
+    bool AtEnd() const { return m_rest.empty(); }
+
+    const std::wstring& Take() {
+        const std::wstring& argument = m_rest.front();
+        m_rest = m_rest.subspan(1);
+        return argument;
+    }
+
+    const std::wstring& TakeValue(const std::wstring& option, const wchar_t* meaning) {
+        if (AtEnd() || m_rest.front().empty() || m_rest.front().starts_with(L"--"))
+            throw COptionError(option + L" lacks its value: give " + meaning + L" behind it");
+        return Take();
+    }
+
+    short TakeNumber(const std::wstring& option, wchar_t lowest, wchar_t highest) {
+        const std::wstring range = std::wstring(L"a number from ") + lowest + L" to " + highest;
+        const std::wstring& value = TakeValue(option, range.c_str());
+        if (value.size() != 1 || value[0] < lowest || value[0] > highest)
+            throw COptionError(option + L" does not take '" + value + L"': give " + range);
+        return short(value[0] - L'0');
+    }
+
+private:
+    std::span<const std::wstring> m_rest;
+};
+
+}  // namespace
+
+const char* COptionError::what() const noexcept {
+    return "wrong command line";
+}
+
+SOptions ParseOptions(std::span<const std::wstring> arguments) {
+    SOptions options;
+    CArguments rest(arguments);
+    while (!rest.AtEnd() && !options.help) {
+        const std::wstring& option = rest.Take();
+        if (option == L"--plugin")
+            options.plugIn = rest.TakeValue(option, L"the plug-in's file");
+        else if (option == L"--search")
+            options.searchFolders.push_back(rest.TakeValue(option, L"a folder"));
+        else if (option == L"--eval")
+            options.evaluations.push_back(rest.TakeValue(option, L"a LISP expression"));
+        else if (option == L"--lunits")
+            options.lunits = rest.TakeNumber(option, L'1', L'5');
+        else if (option == L"--luprec")
+            options.luprec = rest.TakeNumber(option, L'0', L'8');
+        else if (option == L"--check-heap")
+            options.checkHeap = true;
+        else if (option == L"--help")
+            options.help = true;
+        else if (option.starts_with(L"-"))
+            throw COptionError(L"the option '" + option + L"' is not known: see --help");
+        else
+            throw COptionError(L"the argument '" + option + L"' belongs to no option: see --help");
+    }
+    return options;
+}
+
+const wchar_t* HelpText() {
+    return LR"(DevHost: a stand-in host for trying plug-in modules without the CAD application
+
+  DevHost.exe [OPTIONS]
+
+  --plugin FILE   the plug-in to load (TavrinWnd.dll beside DevHost.exe)
+  --search DIR    where the plug-in's files are looked for, before the current folder; repeatable, in order
+  --lunits N      LUNITS: 1 scientific, 2 decimal (the default), 3 engineering, 4 architectural, 5 fractional
+  --luprec N      LUPREC: digits, or the exponent of the largest denominator, 0 to 8 (4)
+  --eval TEXT     evaluate the LISP expressions in TEXT, print what each gives, and end; repeatable, in order
+  --check-heap    give the plug-in the checking allocator, checked\TD_Alloc.dll beside DevHost.exe
+  --help          print this text
+
+Without --eval DevHost stays open; its prompt takes LISP calls such as (tavrinwnd "door" 1.0 1).
+
+What a call gave is printed in LISP notation, or "; no result". The first call that fails ends the run: the
+plug-in reported an error, or the call could not be made. When the plug-in has been unloaded, the blocks of
+the host's heap that it still holds are counted.
+
+Exit status: 0 everything went well; 1 something failed, or the plug-in still held memory; 3 the plug-in or
+DevHost crashed; 4 the checking allocator found the heap misused.
+)";
+}

@@ -1,0 +1,5 @@
+#include "LispError.h"
+
+const char* CLispError::what() const noexcept {
+    return "LISP error";
+}

@@ -1,0 +1,101 @@
+// Evaluation of calls with the functions of a table.
+#include "Evaluator.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Printer.h"
+#include "Reader.h"
+
+namespace {
+
+class Evaluator : public testing::Test {
+protected:
+    Evaluator() {
+        m_evaluator.Define(L"list", [](std::span<const CValue> arguments) -> CLispResult {
+            return CValue::List(arguments);
+        });
+        m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> CLispResult { return {}; });
+        m_evaluator.Define(L"fail",
+                           [](std::span<const CValue>) -> CLispResult { throw CLispError(L"as asked"); });
+    }
+
+    // The result of the expression, printed.
+    std::wstring Evaluate(std::wstring_view text) {
+        const CLispResult result = m_evaluator.Evaluate(CReader(text).Read().value());
+        return result ? Print(*result) : L"; no result";
+    }
+
+    std::wstring Mistake(std::wstring_view text) {
+        try {
+            return L"gave " + Evaluate(text);
+        } catch (const CLispError& error) {
+            return error.Text();
+        }
+    }
+
+    CEvaluator m_evaluator;
+};
+
+TEST_F(Evaluator, ConstantsAreTheirOwnValue) {
+    for (const wchar_t* text : {L"42", L"-1.5", L"\"text\"", L"nil", L"T"})
+        EXPECT_EQ(Evaluate(text), text);
+}
+
+TEST_F(Evaluator, QuoteLeavesItsArgumentAsItIs) {
+    EXPECT_EQ(Evaluate(L"'(1 . a)"), L"(1 . A)");
+    EXPECT_EQ(Evaluate(L"(quote (unknown 1))"), L"(UNKNOWN 1)");
+    for (const wchar_t* text : {L"(quote)", L"(quote 1 2)", L"(quote . 1)"})
+        EXPECT_EQ(Mistake(text), L"QUOTE takes one argument");
+}
+
+TEST_F(Evaluator, ACallGetsItsArgumentsEvaluated) {
+    EXPECT_EQ(Evaluate(L"(list)"), L"nil");
+    EXPECT_EQ(Evaluate(L"(LIST 1 \"a\" 'b (list 2.5 nil))"), L"(1 \"a\" B (2.5 nil))");
+}
+
+TEST_F(Evaluator, AFunctionMayGiveNoResult) {
+    EXPECT_EQ(Evaluate(L"(nothing 1)"), L"; no result");
+    EXPECT_EQ(Mistake(L"(list (nothing))"), L"(NOTHING), an argument of LIST, has no result");
+}
+
+TEST_F(Evaluator, MistakesNameWhatTheyAreAbout) {
+    EXPECT_EQ(Mistake(L"(unknown 1)"), L"the function UNKNOWN is not known");
+    EXPECT_EQ(Mistake(L"(list (unknown))"), L"the function UNKNOWN is not known");
+    EXPECT_EQ(Mistake(L"door"), L"the symbol DOOR has no value");
+    EXPECT_EQ(Mistake(L"(list door)"), L"the symbol DOOR has no value");
+    EXPECT_EQ(Mistake(L"(5 1)"), L"5 is not the name of a function");
+    EXPECT_EQ(Mistake(L"((list) 1)"), L"(LIST) is not the name of a function");
+    EXPECT_EQ(Mistake(L"(nil)"), L"nil is not the name of a function");
+    EXPECT_EQ(Mistake(L"(list 1 . 2)"), L"the call of LIST ends in a dot and 2");
+    EXPECT_EQ(Mistake(L"(fail)"), L"as asked");
+}
+
+TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
+    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    EXPECT_TRUE(m_evaluator.Define(L"one", one));
+    EXPECT_FALSE(m_evaluator.Define(L"ONE", one));
+    EXPECT_EQ(Evaluate(L"(one)"), L"1");
+    EXPECT_TRUE(m_evaluator.Undefine(L"One"));
+    EXPECT_FALSE(m_evaluator.Undefine(L"one"));
+    EXPECT_EQ(Mistake(L"(one)"), L"the function ONE is not known");
+}
+
+TEST_F(Evaluator, WhatIsNoNameIsNotDefined) {
+    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    for (const wchar_t* name : {L"", L"5", L"nil", L"t", L"quote", L"a b", L"(a"})
+        EXPECT_FALSE(m_evaluator.Define(name, one)) << testing::PrintToString(name);
+}
+
+TEST_F(Evaluator, AFunctionMayTakeItselfAway) {
+    m_evaluator.Define(L"once",
+                       [this, big = std::wstring(100, L'x')](std::span<const CValue>) -> CLispResult {
+                           m_evaluator.Undefine(L"once");
+                           return CValue::String(big);
+                       });
+    EXPECT_EQ(Evaluate(L"(once)"), L'"' + std::wstring(100, L'x') + L'"');
+    EXPECT_EQ(Mistake(L"(once)"), L"the function ONCE is not known");
+}
+
+}  // namespace

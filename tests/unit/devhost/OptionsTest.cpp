@@ -1,0 +1,77 @@
+// DevHost's command line.
+#include "Options.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+SOptions Parse(std::initializer_list<std::wstring> arguments) {
+    return ParseOptions(std::vector<std::wstring>(arguments));
+}
+
+std::wstring Mistake(std::initializer_list<std::wstring> arguments) {
+    try {
+        Parse(arguments);
+        return L"none";
+    } catch (const COptionError& error) {
+        return error.Text();
+    }
+}
+
+TEST(Options, WithoutArgumentsTheDefaultsHold) {
+    const SOptions options = Parse({});
+    EXPECT_EQ(options.plugIn, L"");
+    EXPECT_TRUE(options.searchFolders.empty());
+    EXPECT_TRUE(options.evaluations.empty());
+    EXPECT_EQ(options.lunits, LU_DECIMAL);
+    EXPECT_EQ(options.luprec, 4);
+    EXPECT_FALSE(options.checkHeap);
+    EXPECT_FALSE(options.help);
+}
+
+TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
+    const SOptions options =
+        Parse({L"--search", L"a", L"--plugin", L"p.dll", L"--search", L"b c", L"--eval", L"(f 1)", L"--eval",
+               L"-1", L"--lunits", L"5", L"--luprec", L"0", L"--check-heap"});
+    EXPECT_EQ(options.plugIn, L"p.dll");
+    EXPECT_EQ(options.searchFolders, (std::vector<std::wstring>{L"a", L"b c"}));
+    EXPECT_EQ(options.evaluations, (std::vector<std::wstring>{L"(f 1)", L"-1"}));
+    EXPECT_EQ(options.lunits, LU_FRACTIONAL);
+    EXPECT_EQ(options.luprec, 0);
+    EXPECT_TRUE(options.checkHeap);
+}
+
+TEST(Options, AMissingValueNamesItsOption) {
+    EXPECT_EQ(Mistake({L"--plugin"}), L"--plugin lacks its value: give the plug-in's file behind it");
+    EXPECT_EQ(Mistake({L"--search", L"--eval", L"(f)"}),
+              L"--search lacks its value: give a folder behind it");
+    EXPECT_EQ(Mistake({L"--eval", L""}), L"--eval lacks its value: give a LISP expression behind it");
+    EXPECT_EQ(Mistake({L"--lunits"}), L"--lunits lacks its value: give a number from 1 to 5 behind it");
+}
+
+TEST(Options, ANumberOutOfRangeNamesTheRange) {
+    for (const wchar_t* value : {L"0", L"6", L"22", L"x", L"-1", L"2.0"})
+        EXPECT_EQ(Mistake({L"--lunits", value}),
+                  std::wstring(L"--lunits does not take '") + value + L"': give a number from 1 to 5");
+    EXPECT_EQ(Mistake({L"--luprec", L"9"}), L"--luprec does not take '9': give a number from 0 to 8");
+}
+
+TEST(Options, UnknownArgumentsAreNamed) {
+    EXPECT_EQ(Mistake({L"--evil"}), L"the option '--evil' is not known: see --help");
+    EXPECT_EQ(Mistake({L"-h"}), L"the option '-h' is not known: see --help");
+    EXPECT_EQ(Mistake({L"--check-heap", L"door"}), L"the argument 'door' belongs to no option: see --help");
+    EXPECT_EQ(Mistake({L""}), L"the argument '' belongs to no option: see --help");
+}
+
+TEST(Options, HelpWinsOverWhatFollows) {
+    EXPECT_TRUE(Parse({L"--help", L"--evil"}).help);
+}
+
+TEST(Options, TheHelpNamesEveryOption) {
+    const std::wstring help = HelpText();
+    for (const wchar_t* option :
+         {L"--plugin", L"--search", L"--lunits", L"--luprec", L"--eval", L"--check-heap", L"--help"})
+        EXPECT_NE(help.find(option), std::wstring::npos) << testing::PrintToString(option);
+}
+
+}  // namespace
