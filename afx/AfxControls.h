@@ -1,0 +1,78 @@
+// The system's plain controls.
+#pragma once
+
+#include "AfxWnd.h"
+
+class CStatic : public CWnd {
+    DECLARE_DYNAMIC(CStatic)
+    CStatic() = default;
+    virtual BOOL Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF);
+    HICON SetIcon(HICON icon) { return (HICON)SendMessage(STM_SETICON, (WPARAM)icon); }
+    HBITMAP SetBitmap(HBITMAP bitmap) {
+        return (HBITMAP)SendMessage(STM_SETIMAGE, IMAGE_BITMAP, (LPARAM)bitmap);
+    }
+    // Draws a control of style SS_OWNERDRAW.
+    virtual void DrawItem(LPDRAWITEMSTRUCT) {}
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+};
+
+class CButton : public CWnd {
+    DECLARE_DYNAMIC(CButton)
+    CButton() = default;
+    virtual BOOL Create(LPCTSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
+    void SetCheck(int check) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
+    UINT GetState() const { return static_cast<UINT>(SendMessage(BM_GETSTATE)); }
+    void SetState(BOOL highlight) { SendMessage(BM_SETSTATE, static_cast<WPARAM>(highlight)); }
+    UINT GetButtonStyle() const { return GetStyle() & 0xFF; }
+    void SetButtonStyle(UINT style, BOOL redraw = TRUE) { SendMessage(BM_SETSTYLE, style, redraw); }
+    // Draws a control of style BS_OWNERDRAW.
+    virtual void DrawItem(LPDRAWITEMSTRUCT) {}
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+};
+
+class CEdit : public CWnd {
+    DECLARE_DYNAMIC(CEdit)
+    CEdit() = default;
+    virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    void GetSel(int& start, int& end) const { SendMessage(EM_GETSEL, (WPARAM)&start, (LPARAM)&end); }
+    DWORD GetSel() const { return static_cast<DWORD>(SendMessage(EM_GETSEL)); }
+    void SetSel(int start, int end, BOOL noScroll = FALSE);
+    void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { SendMessage(EM_REPLACESEL, canUndo, (LPARAM)text); }
+    void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
+    BOOL GetModify() const { return static_cast<BOOL>(SendMessage(EM_GETMODIFY)); }
+    void SetModify(BOOL modified = TRUE) { SendMessage(EM_SETMODIFY, modified); }
+    BOOL SetReadOnly(BOOL readOnly = TRUE) {
+        return static_cast<BOOL>(SendMessage(EM_SETREADONLY, readOnly));
+    }
+};
+
+class CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
+    CScrollBar() = default;
+    virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
+    int SetScrollPos(int position, BOOL redraw = TRUE) {
+        return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw);
+    }
+    void GetScrollRange(LPINT minimum, LPINT maximum) const {
+        ::GetScrollRange(m_hWnd, SB_CTL, minimum, maximum);
+    }
+    void SetScrollRange(int minimum, int maximum, BOOL redraw = TRUE) {
+        ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, redraw);
+    }
+    BOOL GetScrollInfo(LPSCROLLINFO info, UINT mask = SIF_ALL) {
+        return CWnd::GetScrollInfo(SB_CTL, info, mask);
+    }
+    BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE) {
+        return CWnd::SetScrollInfo(SB_CTL, info, redraw);
+    }
+    BOOL EnableScrollBar(UINT arrowFlags = ESB_ENABLE_BOTH) {
+        return ::EnableScrollBar(m_hWnd, SB_CTL, arrowFlags);
+    }
+    void ShowScrollBar(BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, show); }
+};

@@ -1,0 +1,28 @@
+// Exchange between a dialog's controls and its members (DDX).
+#pragma once
+
+#include "AfxDialog.h"
+
+// One exchange, in one direction.
+class CDataExchange {
+public:
+    CDataExchange(CWnd* dialog, BOOL saveAndValidate)
+        : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
+
+    // The control with this id. Throws CNotSupportedException* when there is none.
+    HWND PrepareCtrl(int id);
+    // As above, for a control whose text the user types: Fail brings the focus back to it.
+    HWND PrepareEditCtrl(int id);
+    // Ends the exchange with a CUserException*, after the user has been told why.
+    [[noreturn]] void Fail();
+
+    BOOL m_bSaveAndValidate;  // TRUE: from the controls into the members
+    CWnd* m_pDlgWnd;
+
+private:
+    HWND m_lastControl = nullptr;
+    bool m_lastIsEdit = false;
+};
+
+// Binds a member to the control, which then gets the control's messages.
+void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control);

@@ -1,0 +1,102 @@
+// The framework's exceptions: thrown as pointers, deleted with Delete by whoever ends their way.
+#pragma once
+
+#include "AfxObject.h"
+#include "AfxString.h"
+
+class CException : public CObject {
+    DECLARE_DYNAMIC(CException)
+
+    // autoDelete: the object was made with new, so Delete frees it.
+    explicit CException(BOOL autoDelete = TRUE) : m_bAutoDelete(autoDelete) {}
+
+    void Delete();
+    // Writes at most maxLength code units, final NUL included. FALSE, and an empty text, when the
+    // exception has nothing to say.
+    virtual BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) const;
+    // Shows the text in a message box and returns the button pressed.
+    virtual int ReportError(UINT type = MB_OK, UINT idMessage = 0);
+
+private:
+    BOOL m_bAutoDelete;
+};
+
+// The exceptions that carry nothing but their class.
+class CSimpleException : public CException {
+    DECLARE_DYNAMIC(CSimpleException)
+    CSimpleException(BOOL autoDelete, LPCTSTR message) : CException(autoDelete), m_message(message) {}
+    BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) const override;
+
+private:
+    LPCTSTR m_message;
+};
+
+class CMemoryException : public CSimpleException {
+    DECLARE_DYNAMIC(CMemoryException)
+    explicit CMemoryException(BOOL autoDelete = TRUE) : CSimpleException(autoDelete, L"Out of memory.") {}
+};
+
+class CNotSupportedException : public CSimpleException {
+    DECLARE_DYNAMIC(CNotSupportedException)
+    explicit CNotSupportedException(BOOL autoDelete = TRUE)
+        : CSimpleException(autoDelete, L"An unsupported operation was attempted.") {}
+};
+
+class CInvalidArgException : public CSimpleException {
+    DECLARE_DYNAMIC(CInvalidArgException)
+    explicit CInvalidArgException(BOOL autoDelete = TRUE)
+        : CSimpleException(autoDelete, L"Encountered an improper argument.") {}
+};
+
+class CResourceException : public CSimpleException {
+    DECLARE_DYNAMIC(CResourceException)
+    explicit CResourceException(BOOL autoDelete = TRUE)
+        : CSimpleException(autoDelete, L"A required resource was unavailable.") {}
+};
+
+// Ends an operation whose reason the user has been told already.
+class CUserException : public CSimpleException {
+    DECLARE_DYNAMIC(CUserException)
+    explicit CUserException(BOOL autoDelete = TRUE) : CSimpleException(autoDelete, L"") {}
+};
+
+class CFileException : public CException {
+    DECLARE_DYNAMIC(CFileException)
+
+    enum {
+        none,
+        genericException,
+        fileNotFound,
+        badPath,
+        tooManyOpenFiles,
+        accessDenied,
+        invalidFile,
+        removeCurrentDir,
+        directoryFull,
+        badSeek,
+        hardIO,
+        sharingViolation,
+        lockViolation,
+        diskFull,
+        endOfFile
+    };
+
+    // osError is Windows' error code, or -1 when Windows gave none.
+    explicit CFileException(int cause = none, LONG osError = -1, LPCTSTR fileName = nullptr)
+        : m_cause(cause), m_lOsError(osError), m_strFileName(fileName) {}
+
+    static int OsErrorToException(LONG osError);
+    static void ThrowOsError(LONG osError, LPCTSTR fileName = nullptr);
+    BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) const override;
+
+    int m_cause;
+    LONG m_lOsError;
+    CString m_strFileName;
+};
+
+[[noreturn]] void AfxThrowMemoryException();
+[[noreturn]] void AfxThrowNotSupportedException();
+[[noreturn]] void AfxThrowInvalidArgException();
+[[noreturn]] void AfxThrowResourceException();
+[[noreturn]] void AfxThrowUserException();
+[[noreturn]] void AfxThrowFileException(int cause, LONG osError = -1, LPCTSTR fileName = nullptr);

@@ -1,0 +1,237 @@
+// CString's printf-like formatting.
+//
+// Numbers go through the narrow snprintf, one at a time: it is the one formatting function that writes
+// exponents as the C standard says whichever C runtime lies beneath. Texts are copied here, because the
+// meaning of %s in wide formats differs between the runtimes.
+#include <algorithm>
+#include <cstdio>
+#include <cwchar>
+
+#include "afxwin.h"
+
+namespace {
+
+// One conversion of a format, as "%-08.3lld" is.
+struct CConversion {
+    std::string flags;
+    int width = 0;
+    int precision = -1;  // -1: none given
+    enum { normal, narrow, wide, wide64, pointerSized } size = normal;
+    wchar_t type = 0;
+};
+
+class CFormatter {
+public:
+    CFormatter(std::wstring& output, LPCTSTR format, va_list arguments) : m_output(output), m_next(format) {
+        va_copy(m_arguments, arguments);
+    }
+    ~CFormatter() { va_end(m_arguments); }
+    CFormatter(const CFormatter&) = delete;
+    CFormatter& operator=(const CFormatter&) = delete;
+
+    void Run() {
+        while (*m_next != L'\0') {
+            const LPCTSTR percent = m_next + std::wcscspn(m_next, L"%");
+            m_output.append(m_next, percent);
+            m_next = percent;
+            if (*m_next == L'%')
+                Convert(ReadConversion());
+        }
+    }
+
+private:
+    CConversion ReadConversion() {
+        CConversion conversion;
+        ++m_next;
+        for (; *m_next != L'\0' && std::wcschr(L"-+ 0#", *m_next) != nullptr; ++m_next)
+            conversion.flags += static_cast<char>(*m_next);
+        conversion.width = ReadNumber();
+        if (conversion.width < 0) {  // only through "*": as a minus flag before the number
+            conversion.flags += '-';
+            conversion.width = -conversion.width;
+        }
+        if (*m_next == L'.') {
+            ++m_next;
+            conversion.precision = std::max(ReadNumber(), -1);
+        }
+        ReadSize(conversion);
+        conversion.type = *m_next;
+        if (*m_next != L'\0')
+            ++m_next;
+        return conversion;
+    }
+
+    int ReadNumber() {
+        if (*m_next == L'*') {
+            ++m_next;
+            return va_arg(m_arguments, int);
+        }
+        wchar_t* end = nullptr;
+        const long number = std::wcstol(m_next, &end, 10);
+        m_next = end;
+        return static_cast<int>(number);
+    }
+
+    bool Skip(LPCTSTR text) {
+        const size_t length = std::wcslen(text);
+        if (std::wcsncmp(m_next, text, length) != 0)
+            return false;
+        m_next += length;
+        return true;
+    }
+
+    void ReadSize(CConversion& conversion) {
+        if (Skip(L"I64") || Skip(L"ll") || Skip(L"j"))
+            conversion.size = CConversion::wide64;
+        else if (Skip(L"I32"))
+            conversion.size = CConversion::normal;
+        else if (Skip(L"I") || Skip(L"z") || Skip(L"t"))
+            conversion.size = CConversion::pointerSized;
+        else if (Skip(L"l") || Skip(L"w"))
+            conversion.size = CConversion::wide;
+        else if (Skip(L"h"))
+            conversion.size = CConversion::narrow;
+    }
+
+    void Convert(const CConversion& conversion) {
+        switch (conversion.type) {
+            case L'd':
+            case L'i':
+                AppendNumber(conversion, "ll", ReadSigned(conversion));
+                break;
+            case L'u':
+            case L'o':
+            case L'x':
+            case L'X':
+                AppendNumber(conversion, "ll", ReadUnsigned(conversion));
+                break;
+            case L'e':
+            case L'E':
+            case L'f':
+            case L'F':
+            case L'g':
+            case L'G':
+                AppendNumber(conversion, "", va_arg(m_arguments, double));
+                break;
+            case L'c':
+            case L'C':
+                AppendText(conversion, std::wstring(1, static_cast<wchar_t>(va_arg(m_arguments, int))));
+                break;
+            case L's':
+            case L'S':
+                AppendText(conversion, ReadText(conversion));
+                break;
+            default:  // "%%", and as they stand characters that no conversion has
+                if (conversion.type != L'\0')
+                    m_output += conversion.type;
+        }
+    }
+
+    long long ReadSigned(const CConversion& conversion) {
+        switch (conversion.size) {
+            case CConversion::wide64:
+                return va_arg(m_arguments, long long);
+            case CConversion::pointerSized:
+                return va_arg(m_arguments, INT_PTR);
+            case CConversion::narrow:
+                return static_cast<short>(va_arg(m_arguments, int));
+            default:
+                return va_arg(m_arguments, int);
+        }
+    }
+
+    unsigned long long ReadUnsigned(const CConversion& conversion) {
+        switch (conversion.size) {
+            case CConversion::wide64:
+                return va_arg(m_arguments, unsigned long long);
+            case CConversion::pointerSized:
+                return va_arg(m_arguments, UINT_PTR);
+            case CConversion::narrow:
+                return static_cast<unsigned short>(va_arg(m_arguments, unsigned));
+            default:
+                return va_arg(m_arguments, unsigned);
+        }
+    }
+
+    // Narrow texts are taken as Latin-1: the program's own, class names for the most part, are ASCII.
+    std::wstring ReadText(const CConversion& conversion) {
+        const bool isNarrow = conversion.type == L's' ? conversion.size == CConversion::narrow
+                                                      : conversion.size != CConversion::wide;
+        const void* const pointer = va_arg(m_arguments, const void*);
+        if (pointer == nullptr)
+            return L"(null)";
+        const size_t limit = conversion.precision < 0 ? SIZE_MAX : static_cast<size_t>(conversion.precision);
+        std::wstring text;
+        if (isNarrow) {
+            for (auto byte = static_cast<const unsigned char*>(pointer); text.size() < limit && *byte != 0;
+                 ++byte)
+                text += static_cast<wchar_t>(*byte);
+        } else {
+            const auto units = static_cast<const wchar_t*>(pointer);
+            text.assign(units, limit == SIZE_MAX ? std::wcslen(units) : ::wcsnlen(units, limit));
+        }
+        return text;
+    }
+
+    void AppendText(const CConversion& conversion, const std::wstring& text) {
+        const size_t width = static_cast<size_t>(conversion.width);
+        const std::wstring padding(width > text.size() ? width - text.size() : 0, L' ');
+        if (conversion.flags.find('-') != std::string::npos)
+            m_output.append(text).append(padding);
+        else
+            m_output.append(padding).append(text);
+    }
+
+    template <class TNumber>
+    void AppendNumber(const CConversion& conversion, const char* size, TNumber number) {
+        const std::string format = '%' + conversion.flags + "*.*" + size + static_cast<char>(conversion.type);
+        const int length =
+            std::snprintf(nullptr, 0, format.c_str(), conversion.width, conversion.precision, number);
+        std::string digits(static_cast<size_t>(std::max(length, 0)), '\0');
+        std::snprintf(digits.data(), digits.size() + 1, format.c_str(), conversion.width,
+                      conversion.precision, number);
+        for (const char digit : digits)
+            m_output += static_cast<unsigned char>(digit);
+    }
+
+    std::wstring& m_output;
+    LPCTSTR m_next;
+    va_list m_arguments;
+};
+
+}  // namespace
+
+void CString::AppendFormatV(LPCTSTR format, va_list arguments) {
+    std::wstring text;  // apart, because the arguments may point into this text
+    CFormatter(text, format, arguments).Run();
+    m_text += text;
+}
+
+void CString::FormatV(LPCTSTR format, va_list arguments) {
+    std::wstring text;
+    CFormatter(text, format, arguments).Run();
+    m_text.swap(text);
+}
+
+void CString::Format(LPCTSTR format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    FormatV(format, arguments);
+    va_end(arguments);
+}
+
+void CString::Format(UINT formatId, ...) {
+    CString format;
+    format.LoadString(formatId);
+    va_list arguments;
+    va_start(arguments, formatId);
+    FormatV(format, arguments);
+    va_end(arguments);
+}
+
+void CString::AppendFormat(LPCTSTR format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    AppendFormatV(format, arguments);
+    va_end(arguments);
+}

@@ -1,0 +1,84 @@
+// GDI objects: pens, brushes, fonts, bitmaps. Each owns its handle and deletes it in its destructor.
+//
+// FromHandle gives the object that owns a handle, or a temporary one that lives until the message or
+// command at work ends and owns nothing.
+#pragma once
+
+#include "AfxObject.h"
+#include "AfxString.h"
+#include "atltypes.h"
+
+class CDC;
+
+class CGdiObject : public CObject {
+    DECLARE_DYNAMIC(CGdiObject)
+
+    CGdiObject() = default;
+    ~CGdiObject() override;
+
+    static CGdiObject* FromHandle(HGDIOBJ handle);
+
+    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    // Takes the handle over. FALSE for a null one.
+    BOOL Attach(HGDIOBJ handle);
+    HGDIOBJ Detach();
+    BOOL DeleteObject();
+    BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
+    int GetObject(int count, LPVOID object) const { return ::GetObject(m_hObject, count, object); }
+
+    HGDIOBJ m_hObject = nullptr;
+};
+
+class CPen : public CGdiObject {
+    DECLARE_DYNAMIC(CPen)
+
+    CPen() = default;
+    CPen(int style, int width, COLORREF colour);  // throws CResourceException* on failure
+    static CPen* FromHandle(HPEN handle) { return dynamic_cast<CPen*>(CGdiObject::FromHandle(handle)); }
+    BOOL CreatePen(int style, int width, COLORREF colour) {
+        return Attach(::CreatePen(style, width, colour));
+    }
+    int GetLogPen(LOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
+    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+};
+
+class CBrush : public CGdiObject {
+    DECLARE_DYNAMIC(CBrush)
+
+    CBrush() = default;
+    explicit CBrush(COLORREF colour);  // throws CResourceException* on failure
+    static CBrush* FromHandle(HBRUSH handle) { return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle)); }
+    BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
+    BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
+    int GetLogBrush(LOGBRUSH* brush) const { return GetObject(sizeof *brush, brush); }
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+};
+
+class CFont : public CGdiObject {
+    DECLARE_DYNAMIC(CFont)
+
+    CFont() = default;
+    static CFont* FromHandle(HFONT handle) { return dynamic_cast<CFont*>(CGdiObject::FromHandle(handle)); }
+    BOOL CreateFontIndirect(const LOGFONT* font) { return Attach(::CreateFontIndirect(font)); }
+    // The size is in tenths of a point, for the given device context or for the screen.
+    BOOL CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc = nullptr);
+    // As above; lfHeight holds the size in tenths of a point.
+    BOOL CreatePointFontIndirect(const LOGFONT* font, CDC* dc = nullptr);
+    int GetLogFont(LOGFONT* font) const { return GetObject(sizeof *font, font); }
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+};
+
+class CBitmap : public CGdiObject {
+    DECLARE_DYNAMIC(CBitmap)
+
+    CBitmap() = default;
+    static CBitmap* FromHandle(HBITMAP handle) {
+        return dynamic_cast<CBitmap*>(CGdiObject::FromHandle(handle));
+    }
+    BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
+    BOOL CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
+        return Attach(::CreateBitmap(width, height, planes, bitCount, bits));
+    }
+    int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
+    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+};

@@ -1,0 +1,131 @@
+// Module state, the application object, message boxes.
+#include "afxwin.h"
+
+#include "AfxHandleMap.h"
+
+IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
+
+// The linker puts this at the start of the module (DLL or program) that the code becomes part of.
+extern "C" IMAGE_DOS_HEADER __ImageBase;
+
+namespace {
+
+AFX_MODULE_STATE* currentState = nullptr;
+CWinApp* application = nullptr;
+
+AFX_MODULE_STATE* GetProgramState() {
+    static AFX_MODULE_STATE state = {::GetModuleHandle(nullptr), ::GetModuleHandle(nullptr)};
+    AFX_MODULE_STATE* const own = AfxGetStaticModuleState();
+    return own->m_hCurrentInstanceHandle == state.m_hCurrentInstanceHandle ? own : &state;
+}
+
+HWND GetMessageBoxOwner() {
+    if (const CWnd* const main = AfxGetMainWnd())
+        return ::GetLastActivePopup(main->m_hWnd);
+    return ::GetActiveWindow();
+}
+
+}  // namespace
+
+AFX_MODULE_STATE* AfxGetStaticModuleState() {
+    const auto instance = reinterpret_cast<HINSTANCE>(&__ImageBase);
+    static AFX_MODULE_STATE state = {instance, instance};
+    return &state;
+}
+
+AFX_MODULE_STATE* AfxGetModuleState() {
+    return currentState != nullptr ? currentState : GetProgramState();
+}
+
+AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
+    : m_previous(currentState), m_temporaries(CAfxTemporaries::Count()) {
+    currentState = state;
+}
+
+AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2() {
+    CAfxTemporaries::FreeDownTo(m_temporaries);
+    currentState = m_previous;
+}
+
+std::vector<CAfxTemporaries::Temporary>& CAfxTemporaries::Stack() {
+    static std::vector<Temporary> stack;
+    return stack;
+}
+
+void CAfxTemporaries::Push(void* handle, FFree free) {
+    Stack().push_back({handle, free});
+}
+
+size_t CAfxTemporaries::Count() {
+    return Stack().size();
+}
+
+void CAfxTemporaries::FreeDownTo(size_t count) {
+    auto& stack = Stack();
+    while (stack.size() > count) {
+        const Temporary top = stack.back();
+        stack.pop_back();
+        top.free(top.handle);
+    }
+    // What the module allocates comes from its host: at rest it holds nothing of it.
+    if (stack.empty())
+        std::vector<Temporary>().swap(stack);
+}
+
+HINSTANCE AfxGetInstanceHandle() {
+    return AfxGetModuleState()->m_hCurrentInstanceHandle;
+}
+
+HINSTANCE AfxGetResourceHandle() {
+    return AfxGetModuleState()->m_hCurrentResourceHandle;
+}
+
+void AfxSetResourceHandle(HINSTANCE instance) {
+    AfxGetModuleState()->m_hCurrentResourceHandle = instance;
+}
+
+CWinApp::CWinApp(LPCTSTR appName) : m_pszAppName(appName) {
+    ASSERT(application == nullptr);
+    application = this;
+}
+
+CWinApp::~CWinApp() {
+    application = nullptr;
+}
+
+CWinApp* AfxGetApp() {
+    return application;
+}
+
+LPCTSTR AfxGetAppName() {
+    if (application != nullptr && application->m_pszAppName != nullptr)
+        return application->m_pszAppName;
+    static TCHAR name[MAX_PATH] = L"";
+    if (name[0] == L'\0') {
+        TCHAR path[MAX_PATH];
+        const DWORD length =
+            ::GetModuleFileName(AfxGetStaticModuleState()->m_hCurrentInstanceHandle, path, MAX_PATH);
+        CString file(path, static_cast<int>(length));
+        file = file.Mid(file.ReverseFind(L'\\') + 1);
+        if (const int dot = file.ReverseFind(L'.'); dot > 0)
+            file.Truncate(dot);
+        ::lstrcpyn(name, file, MAX_PATH);
+    }
+    return name;
+}
+
+CWnd* AfxGetMainWnd() {
+    return application != nullptr ? application->m_pMainWnd : nullptr;
+}
+
+int AfxMessageBox(LPCTSTR text, UINT type, UINT) {
+    if ((type & MB_ICONMASK) == 0)
+        type |= MB_ICONEXCLAMATION;
+    return ::MessageBox(GetMessageBoxOwner(), text, AfxGetAppName(), type);
+}
+
+int AfxMessageBox(UINT textId, UINT type, UINT helpId) {
+    CString text;
+    text.LoadString(textId);
+    return AfxMessageBox(text, type, helpId);
+}

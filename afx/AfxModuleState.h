@@ -1,0 +1,63 @@
+// Whose resources are used, and when: the state of the module that the framework is linked into.
+#pragma once
+
+#include "AfxMessageMap.h"
+
+class CWnd;
+
+struct AFX_MODULE_STATE {
+    HINSTANCE m_hCurrentInstanceHandle;
+    HINSTANCE m_hCurrentResourceHandle;
+};
+
+// The state of the module (DLL or program) that this code is linked into.
+AFX_MODULE_STATE* AfxGetStaticModuleState();
+// The state at work: the program's, until an AFX_MAINTAIN_STATE2 puts another in its place. Window
+// procedures of the framework do so by themselves.
+AFX_MODULE_STATE* AfxGetModuleState();
+
+// Puts a module state to work until the end of the scope; the one before comes back on every way out.
+// The outermost code of every entry into the module needs one. Temporary objects (CWnd::FromHandle and
+// its like) made in the scope end with it.
+struct AFX_MAINTAIN_STATE2 {
+    explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state);
+    ~AFX_MAINTAIN_STATE2();
+    AFX_MAINTAIN_STATE2(const AFX_MAINTAIN_STATE2&) = delete;
+    AFX_MAINTAIN_STATE2& operator=(const AFX_MAINTAIN_STATE2&) = delete;
+
+private:
+    AFX_MODULE_STATE* m_previous;
+    size_t m_temporaries;
+};
+#define AFX_MANAGE_STATE(state) AFX_MAINTAIN_STATE2 afxManagedState(state);
+
+// Of the state at work.
+HINSTANCE AfxGetInstanceHandle();
+HINSTANCE AfxGetResourceHandle();
+void AfxSetResourceHandle(HINSTANCE instance);
+
+// The module's application object, at most one.
+class CWinApp : public CCmdTarget {
+    DECLARE_DYNAMIC(CWinApp)
+    explicit CWinApp(LPCTSTR appName = nullptr);
+    ~CWinApp() override;
+
+    LPCTSTR m_pszAppName;
+    CWnd* m_pMainWnd = nullptr;  // not owned
+};
+
+CWinApp* AfxGetApp();
+// The application object's name, else the module's file name without folder and extension.
+LPCTSTR AfxGetAppName();
+// Null when there is no application object or it names no window.
+CWnd* AfxGetMainWnd();
+
+// Without an icon among the flags the exclamation mark is shown. The box is owned by the last active
+// pop-up of the main window, else by the active window.
+int AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
+int AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
+
+// The name of a window class with these attributes, registered for this module when it is new and
+// unregistered with it. Throws CResourceException* when it cannot be registered.
+LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
+                            HICON icon = nullptr);

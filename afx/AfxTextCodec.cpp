@@ -1,0 +1,84 @@
+// Conversion between the C runtime's locale and UTF-16.
+#include "AfxTextCodec.h"
+
+#include <climits>
+#include <cstring>
+#include <cwchar>
+
+namespace {
+
+// How many of the bytes make the next character, provided that it turns back into just these bytes; else 0.
+size_t ConvertThereAndBack(const char* bytes, size_t count, wchar_t& unit) {
+    if (*bytes == '\0') {
+        unit = L'\0';
+        return 1;
+    }
+    std::mbstate_t reading{};
+    const size_t used = std::mbrtowc(&unit, bytes, count, &reading);
+    if (used == 0 || used > count)
+        return 0;
+    char back[MB_LEN_MAX];
+    std::mbstate_t writing{};
+    const size_t written = std::wcrtomb(back, unit, &writing);
+    return written == used && std::memcmp(back, bytes, used) == 0 ? used : 0;
+}
+
+bool IsHighSurrogate(wchar_t unit) {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+bool IsLowSurrogate(wchar_t unit) {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+}  // namespace
+
+CAfxTextCodec::CAfxTextCodec() {
+    for (int number = 0; number < 256; ++number) {
+        const char byte = static_cast<char>(number);
+        m_isSingle[number] = ConvertThereAndBack(&byte, 1, m_units[number]) == 1;
+        if (!m_isSingle[number])
+            m_units[number] = static_cast<wchar_t>(firstEscape + number);
+    }
+}
+
+size_t CAfxTextCodec::DecodeOne(const char* bytes, size_t count, wchar_t& unit) const {
+    const auto first = static_cast<unsigned char>(*bytes);
+    if (!m_isSingle[first])
+        if (const size_t used = ConvertThereAndBack(bytes, count, unit))
+            return used;
+    unit = m_units[first];
+    return 1;
+}
+
+std::wstring CAfxTextCodec::Decode(const std::string& bytes) const {
+    std::wstring text;
+    text.reserve(bytes.size());
+    for (size_t at = 0; at < bytes.size();) {
+        wchar_t unit = 0;
+        at += DecodeOne(bytes.data() + at, bytes.size() - at, unit);
+        text += unit;
+    }
+    return text;
+}
+
+bool CAfxTextCodec::Encode(const std::wstring& text, std::string& bytes) const {
+    bytes.clear();
+    bytes.reserve(text.size());
+    for (size_t at = 0; at < text.size(); ++at) {
+        const wchar_t unit = text[at];
+        const bool isPair = IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1]);
+        char encoded[MB_LEN_MAX];
+        std::mbstate_t state{};
+        if (unit < 0x80 && m_isSingle[unit] && m_units[unit] == unit)
+            bytes += static_cast<char>(unit);
+        else if (unit >= firstEscape && unit < firstEscape + 256 && !m_isSingle[unit - firstEscape])
+            bytes += static_cast<char>(unit - firstEscape);
+        else if (const size_t count = isPair ? 0 : std::wcrtomb(encoded, unit, &state);
+                 count > 0 && count <= MB_LEN_MAX)
+            bytes.append(encoded, count);
+        else
+            return false;
+    }
+    return true;
+}

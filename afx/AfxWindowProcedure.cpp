@@ -1,0 +1,113 @@
+// Where Windows enters the framework: the window procedure and the hook on window creation.
+#include "AfxFence.h"
+#include "AfxWindowHook.h"
+#include "afxwin.h"
+
+namespace {
+
+MSG currentMessage = {};
+
+// Keeps the message that is being handled known, through messages sent meanwhile.
+class CCurrentMessage {
+public:
+    CCurrentMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) : m_previous(currentMessage) {
+        currentMessage = {window, message, wParam, lParam, 0, {0, 0}};
+    }
+    ~CCurrentMessage() { currentMessage = m_previous; }
+    CCurrentMessage(const CCurrentMessage&) = delete;
+    CCurrentMessage& operator=(const CCurrentMessage&) = delete;
+
+private:
+    MSG m_previous;
+};
+
+// What Windows is told of a message whose handling ended with an exception.
+LRESULT GetResultOfFailure(HWND window, UINT message) {
+    switch (message) {
+        case WM_CREATE:
+            return -1;
+        case WM_PAINT:
+            ::ValidateRect(window, nullptr);  // else Windows would ask for it again at once, for ever
+            return 0;
+        default:
+            return message == WM_COMMAND;
+    }
+}
+
+}  // namespace
+
+void AfxReportCaught(bool isCommand) {
+    CString text = isCommand ? L"Command failed." : L"Internal application error.";
+    try {
+        throw;
+    } catch (CUserException* error) {
+        error->Delete();
+        return;
+    } catch (CException* error) {
+        TCHAR reason[512];
+        if (error->GetErrorMessage(reason, 512))
+            text.AppendFormat(L"\n%s", reason);
+        error->Delete();
+    } catch (const std::exception& error) {
+        text.AppendFormat(L"\n%hs", error.what());
+    } catch (...) {
+    }
+    AfxMessageBox(text, MB_ICONSTOP);
+}
+
+const MSG* CWnd::GetCurrentMessage() {
+    return &currentMessage;
+}
+
+LRESULT CALLBACK CWnd::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CWnd* const object = FromHandlePermanent(window);
+    if (object == nullptr)
+        return ::DefWindowProc(window, message, wParam, lParam);
+    const AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
+    const CCurrentMessage current(window, message, wParam, lParam);
+    LRESULT result = 0;
+    if (!AfxGuard([&] { result = object->WindowProc(message, wParam, lParam); }, message == WM_COMMAND))
+        return GetResultOfFailure(window, message);
+    return result;
+}
+
+CAfxWindowHook* CAfxWindowHook::s_current = nullptr;
+
+CAfxWindowHook::CAfxWindowHook(CWnd* window)
+    : m_outer(s_current),
+      m_window(window),
+      m_hook(::SetWindowsHookEx(WH_CBT, Procedure, nullptr, ::GetCurrentThreadId())) {
+    if (m_hook == nullptr)
+        AfxThrowResourceException();
+    s_current = this;
+}
+
+CAfxWindowHook::~CAfxWindowHook() {
+    ::UnhookWindowsHookEx(m_hook);
+    s_current = m_outer;
+}
+
+LRESULT CALLBACK CAfxWindowHook::Procedure(int code, WPARAM wParam, LPARAM lParam) {
+    CAfxWindowHook* const hook = s_current;
+    if (hook == nullptr)
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    if (code == HCBT_CREATEWND && hook->m_window != nullptr) {
+        const auto window = reinterpret_cast<HWND>(wParam);
+        // Windows makes input-method windows of its own accord along with a thread's first window.
+        const bool isInputMethod = (::GetClassLong(window, GCL_STYLE) & CS_IME) != 0;
+        if (!isInputMethod && !hook->Attach(window))
+            return 1;  // ends the creation
+    }
+    return ::CallNextHookEx(hook->m_hook, code, wParam, lParam);
+}
+
+bool CAfxWindowHook::Attach(HWND window) {
+    const AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
+    CWnd* const object = m_window;
+    m_window = nullptr;
+    return AfxGuard([&] {
+        object->Attach(window);
+        object->PreSubclassWindow();
+        object->TakeMessages();
+    });
+}

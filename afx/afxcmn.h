@@ -1,0 +1,4 @@
+// The framework's common controls.
+#pragma once
+
+#include "afxwin.h"

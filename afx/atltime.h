@@ -1,0 +1,4 @@
+// Calendar times.
+#pragma once
+
+#include "afx.h"
