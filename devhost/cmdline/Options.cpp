@@ -17,7 +17,7 @@ public:
 
     const std::wstring& TakeValue(const std::wstring& option, const wchar_t* meaning) {
         if (AtEnd() || m_rest.front().empty() || m_rest.front().starts_with(L"--"))
-            throw COptionError(option + L" lacks its value: give " + meaning + L" behind it");
+            throw CUserError(option + L" lacks its value: give " + meaning + L" behind it");
         return Take();
     }
 
@@ -25,7 +25,7 @@ public:
         const std::wstring range = std::wstring(L"a number from ") + lowest + L" to " + highest;
         const std::wstring& value = TakeValue(option, range.c_str());
         if (value.size() != 1 || value[0] < lowest || value[0] > highest)
-            throw COptionError(option + L" does not take '" + value + L"': give " + range);
+            throw CUserError(option + L" does not take '" + value + L"': give " + range);
         return short(value[0] - L'0');
     }
 
@@ -34,10 +34,6 @@ private:
 };
 
 }  // namespace
-
-const char* COptionError::what() const noexcept {
-    return "wrong command line";
-}
 
 SOptions ParseOptions(std::span<const std::wstring> arguments) {
     SOptions options;
@@ -59,9 +55,9 @@ SOptions ParseOptions(std::span<const std::wstring> arguments) {
         else if (option == L"--help")
             options.help = true;
         else if (option.starts_with(L"-"))
-            throw COptionError(L"the option '" + option + L"' is not known: see --help");
+            throw CUserError(L"the option '" + option + L"' is not known: see --help");
         else
-            throw COptionError(L"the argument '" + option + L"' belongs to no option: see --help");
+            throw CUserError(L"the argument '" + option + L"' belongs to no option: see --help");
     }
     return options;
 }

@@ -1,12 +1,12 @@
 // The command line of DevHost.
 #pragma once
 
-#include <exception>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "LinearUnits.h"
+#include "UserError.h"
 
 struct SOptions {
     std::wstring plugIn;  // empty: TavrinWnd.dll beside the executable
@@ -18,19 +18,7 @@ struct SOptions {
     bool help = false;
 };
 
-// A mistake in the command line: one line for the user that names it and what to do.
-class COptionError : public std::exception {
-public:
-    explicit COptionError(std::wstring message) : m_message(std::move(message)) {}
-
-    const std::wstring& Text() const { return m_message; }
-    const char* what() const noexcept override;
-
-private:
-    std::wstring m_message;
-};
-
-// Reads the arguments behind the program's name. Throws COptionError for an option or an argument that is
+// Reads the arguments behind the program's name. Throws CUserError for an option or an argument that is
 // not known, for one without its value and for a number out of range. --help wins over what follows it.
 SOptions ParseOptions(std::span<const std::wstring> arguments);
 

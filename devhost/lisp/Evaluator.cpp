@@ -32,7 +32,8 @@ CLispResult CEvaluator::Call(const CValue& call) const {
         return Quote(call.Cdr());
     const auto found = m_functions.find(name);
     if (found == m_functions.end())
-        throw CLispError(L"the function " + name + L" is not known");
+        throw CLispError(L"the function " + name +
+                         L" is not known: check its name and whether the plug-in defines it");
 
     std::vector<CValue> arguments;
     const CValue* rest = &call.Cdr();

@@ -1,16 +1,9 @@
-// The one exception of the LISP folder: a text for the user, on one line, without a full stop.
+// A mistake in a LISP text or in its evaluation.
 #pragma once
 
-#include <exception>
-#include <string>
+#include "UserError.h"
 
-class CLispError : public std::exception {
+class CLispError : public CUserError {
 public:
-    explicit CLispError(std::wstring message) : m_message(std::move(message)) {}
-
-    const std::wstring& Text() const { return m_message; }
-    const char* what() const noexcept override;
-
-private:
-    std::wstring m_message;
+    using CUserError::CUserError;
 };

@@ -35,6 +35,10 @@ protected:
         }
     }
 
+    static std::wstring Unknown(const std::wstring& name) {
+        return L"the function " + name + L" is not known: check its name and whether the plug-in defines it";
+    }
+
     CEvaluator m_evaluator;
 };
 
@@ -61,8 +65,8 @@ TEST_F(Evaluator, AFunctionMayGiveNoResult) {
 }
 
 TEST_F(Evaluator, MistakesNameWhatTheyAreAbout) {
-    EXPECT_EQ(Mistake(L"(unknown 1)"), L"the function UNKNOWN is not known");
-    EXPECT_EQ(Mistake(L"(list (unknown))"), L"the function UNKNOWN is not known");
+    EXPECT_EQ(Mistake(L"(unknown 1)"), Unknown(L"UNKNOWN"));
+    EXPECT_EQ(Mistake(L"(list (unknown))"), Unknown(L"UNKNOWN"));
     EXPECT_EQ(Mistake(L"door"), L"the symbol DOOR has no value");
     EXPECT_EQ(Mistake(L"(list door)"), L"the symbol DOOR has no value");
     EXPECT_EQ(Mistake(L"(5 1)"), L"5 is not the name of a function");
@@ -79,7 +83,7 @@ TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
     EXPECT_EQ(Evaluate(L"(one)"), L"1");
     EXPECT_TRUE(m_evaluator.Undefine(L"One"));
     EXPECT_FALSE(m_evaluator.Undefine(L"one"));
-    EXPECT_EQ(Mistake(L"(one)"), L"the function ONE is not known");
+    EXPECT_EQ(Mistake(L"(one)"), Unknown(L"ONE"));
 }
 
 TEST_F(Evaluator, WhatIsNoNameIsNotDefined) {
@@ -95,7 +99,7 @@ TEST_F(Evaluator, AFunctionMayTakeItselfAway) {
                            return CValue::String(big);
                        });
     EXPECT_EQ(Evaluate(L"(once)"), L'"' + std::wstring(100, L'x') + L'"');
-    EXPECT_EQ(Mistake(L"(once)"), L"the function ONCE is not known");
+    EXPECT_EQ(Mistake(L"(once)"), Unknown(L"ONCE"));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ std::wstring Mistake(std::initializer_list<std::wstring> arguments) {
     try {
         Parse(arguments);
         return L"none";
-    } catch (const COptionError& error) {
+    } catch (const CUserError& error) {
         return error.Text();
     }
 }

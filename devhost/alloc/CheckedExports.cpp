@@ -1,0 +1,74 @@
+// The checking TD_Alloc.dll: its exports, and the watch over faults in its blocks.
+#include <windows.h>
+
+#include <new>
+
+#include "CheckedHeap.h"
+#include "CodeAddress.h"
+#include "HostHeap.h"
+
+namespace {
+
+// Never destroyed: a plug-in's static objects give blocks back while the process ends.
+CCheckedHeap& Heap() {
+    alignas(CCheckedHeap) static unsigned char memory[sizeof(CCheckedHeap)];
+    static CCheckedHeap* heap = new (memory) CCheckedHeap;
+    return *heap;
+}
+
+LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
+    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2)
+        Heap().EndIfMisused(reinterpret_cast<const void*>(record.ExceptionInformation[1]),
+                            record.ExceptionInformation[0] == 1 ? "writes" : "reads",
+                            SCodeAddress(record.ExceptionAddress).text);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+PVOID watch = nullptr;
+
+}  // namespace
+
+void* td_new(std::size_t size) {
+    return Heap().Allocate(size, EBlockKind::Single);
+}
+
+void* td_new_array(std::size_t size) {
+    return Heap().Allocate(size, EBlockKind::Array);
+}
+
+void td_delete(void* block) {
+    Heap().Release(block, EBlockKind::Single);
+}
+
+void td_delete_array(void* block) {
+    Heap().Release(block, EBlockKind::Array);
+}
+
+std::size_t td_live_blocks() {
+    return Heap().LiveBlocks();
+}
+
+std::size_t td_live_bytes() {
+    return Heap().LiveBytes();
+}
+
+std::size_t td_allocations() {
+    return Heap().Requests();
+}
+
+void td_fail_after(std::size_t count) {
+    Heap().FailAfter(count);
+}
+
+void td_print_live(std::size_t most) {
+    Heap().PrintLive(most);
+}
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+    if (reason == DLL_PROCESS_ATTACH)
+        watch = AddVectoredExceptionHandler(TRUE, OnException);
+    else if (reason == DLL_PROCESS_DETACH && watch != nullptr)
+        RemoveVectoredExceptionHandler(watch);
+    return TRUE;
+}

@@ -1,0 +1,164 @@
+#include "GuardArena.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr std::size_t kPageSize = 4096;
+constexpr std::size_t kArenaPages = (sizeof(void*) == 8 ? 1024u : 256u) * 1024 * 1024 / kPageSize;
+constexpr std::size_t kMaxBlockSize = 16 * 1024 * 1024;
+constexpr std::size_t kMaxLiveBlocks = 12'000;
+constexpr std::size_t kMaxQuarantinedBlocks = 4096;
+constexpr std::size_t kMaxQuarantinedPages = kArenaPages / 4;
+constexpr std::size_t kNoPage = SIZE_MAX;
+
+std::size_t RoundUp(std::size_t size, std::size_t step) {
+    return (size + step - 1) / step * step;
+}
+
+}  // namespace
+
+unsigned char* CGuardArena::Allocate(const SHeapBlock& block) {
+    if (block.size > kMaxBlockSize || m_liveBlocks == kMaxLiveBlocks || !Reserve())
+        return nullptr;
+    const std::size_t pages = std::max<std::size_t>(1, RoundUp(block.size, kPageSize) / kPageSize);
+    const std::size_t first = FindRun(pages + 1);
+    if (first == kNoPage ||
+        VirtualAlloc(PageAt(first), pages * kPageSize, MEM_COMMIT, PAGE_READWRITE) == nullptr)
+        return nullptr;
+
+    std::fill_n(m_records.begin() + std::ptrdiff_t(first), pages + 1, SRecord());
+    std::fill_n(m_taken.begin() + std::ptrdiff_t(first), pages + 1, true);
+    m_records[first] = {block, std::uint32_t(pages), true};
+    m_cursor = first + pages + 1;
+    ++m_liveBlocks;
+
+    unsigned char* data = DataOf(first);
+    std::fill(PageAt(first), data, kBorderByte);
+    std::fill_n(data, block.size, kFreshByte);
+    std::fill(data + block.size, PageAt(first + pages), kBorderByte);
+    return data;
+}
+
+bool CGuardArena::Reserve() {
+    if (m_base != nullptr)
+        return true;
+    m_records.resize(kArenaPages);
+    m_taken.resize(kArenaPages);
+    m_base = static_cast<unsigned char*>(
+        VirtualAlloc(nullptr, kArenaPages * kPageSize, MEM_RESERVE, PAGE_NOACCESS));
+    return m_base != nullptr;
+}
+
+// The first of `pages` free pages in a row. The search goes round the arena, so that a place is used again
+// as late as possible.
+std::size_t CGuardArena::FindRun(std::size_t pages) {
+    std::size_t run = 0;
+    std::size_t page = m_cursor;
+    for (std::size_t steps = 0; steps < kArenaPages + pages; ++steps, ++page) {
+        if (page >= kArenaPages) {
+            page = 0;
+            run = 0;
+        }
+        run = m_taken[page] ? 0 : run + 1;
+        if (run == pages)
+            return page + 1 - pages;
+    }
+    return kNoPage;
+}
+
+bool CGuardArena::Holds(const void* address) const {
+    const auto* byte = static_cast<const unsigned char*>(address);
+    return m_base != nullptr && byte >= m_base && byte < m_base + kArenaPages * kPageSize;
+}
+
+std::size_t CGuardArena::PageOf(const void* address) const {
+    return std::size_t(static_cast<const unsigned char*>(address) - m_base) / kPageSize;
+}
+
+unsigned char* CGuardArena::PageAt(std::size_t page) const {
+    return m_base + page * kPageSize;
+}
+
+// Where the block that begins on `page` has its first byte. Its last one is up to 15 bytes away from the
+// guard page, as far as alignment asks.
+unsigned char* CGuardArena::DataOf(std::size_t page) const {
+    const SRecord& record = m_records[page];
+    const std::size_t room = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
+    return PageAt(page + record.pages) - room;
+}
+
+const CGuardArena::SRecord* CGuardArena::RecordAt(const void* address) const {
+    if (!Holds(address))
+        return nullptr;
+    const std::size_t page = PageOf(address);
+    return m_records[page].pages != 0 && DataOf(page) == address ? &m_records[page] : nullptr;
+}
+
+const SHeapBlock* CGuardArena::FindLive(const void* address) const {
+    const SRecord* record = RecordAt(address);
+    return record != nullptr && record->live ? &record->block : nullptr;
+}
+
+const SHeapBlock* CGuardArena::FindFreed(const void* address) const {
+    const SRecord* record = RecordAt(address);
+    return record != nullptr && !record->live ? &record->block : nullptr;
+}
+
+void CGuardArena::CheckBorder(const void* address) const {
+    const std::size_t page = PageOf(address);
+    const SRecord& record = m_records[page];
+    const unsigned char* data = DataOf(page);
+    if (!IsFilled(PageAt(page), data, kBorderByte))
+        EndOverHeapMisuse("%s was written in front of its start", SBlockName(record.block).text);
+    if (!IsFilled(data + record.block.size, PageAt(page + record.pages), kBorderByte))
+        EndOverHeapMisuse("%s was written behind its end", SBlockName(record.block).text);
+}
+
+void CGuardArena::Release(const void* address) {
+    const std::size_t page = PageOf(address);
+    SRecord& record = m_records[page];
+    record.live = false;
+    --m_liveBlocks;
+    VirtualFree(PageAt(page), record.pages * kPageSize, MEM_DECOMMIT);
+    Quarantine(page);
+}
+
+// Keeps the place of a block that was given back from being used again soon.
+void CGuardArena::Quarantine(std::size_t page) {
+    m_quarantine.push_back(page);
+    m_quarantinedPages += m_records[page].pages + 1;
+    while (m_quarantine.size() > kMaxQuarantinedBlocks || m_quarantinedPages > kMaxQuarantinedPages) {
+        const std::size_t oldest = m_quarantine.front();
+        const std::size_t pages = m_records[oldest].pages + 1;
+        m_quarantine.pop_front();
+        m_quarantinedPages -= pages;
+        std::fill_n(m_taken.begin() + std::ptrdiff_t(oldest), pages, false);
+    }
+}
+
+void CGuardArena::EndOverFault(const void* address, const char* access, const char* culprit) const {
+    std::size_t page = PageOf(address);
+    const std::size_t faulted = page;
+    while (page > 0 && m_records[page].pages == 0)
+        --page;
+    const SRecord& record = m_records[page];
+    if (record.pages == 0 || faulted > page + record.pages)
+        EndOverHeapMisuse("%s %s where no block is (%p)", culprit, access, address);
+    const SBlockName name(record.block);
+    if (!record.live)
+        EndOverHeapMisuse("%s %s %s after it was deleted", culprit, access, name.text);
+    const auto behind = static_cast<const unsigned char*>(address) - (DataOf(page) + record.block.size);
+    EndOverHeapMisuse("%s %s behind the end of %s, %lld bytes from it", culprit, access, name.text,
+                      static_cast<long long>(behind));
+}
+
+void CGuardArena::ForEachLive(
+    const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const {
+    for (std::size_t page = 0; page < m_records.size(); ++page)
+        if (m_records[page].live)
+            visit(m_records[page].block, DataOf(page));
+}

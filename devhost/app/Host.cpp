@@ -1,0 +1,230 @@
+#include "Host.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cwchar>
+
+#include "CrashReport.h"
+#include "LinearUnits.h"
+
+namespace {
+
+CHost* theHost = nullptr;
+
+constexpr std::size_t kTextRoom = 256;  // characters that sds_rtos may write
+
+// The prompts of CAD programs begin with a line break that a status line has no use for.
+std::wstring StatusText(const wchar_t* prompt) {
+    std::wstring text = prompt != nullptr ? prompt : L"";
+    text.erase(0, text.find_first_not_of(L"\r\n"));
+    return text;
+}
+
+}  // namespace
+
+CHost::CHost(CMainWindow& window, CTextOutput& output, CSearchPath searchPath, SLinearFormat format)
+    : m_window(window),
+      m_output(output),
+      m_searchPath(std::move(searchPath)),
+      m_format(format),
+      m_thread(GetCurrentThreadId()) {
+    theHost = this;
+}
+
+CHost::~CHost() {
+    theHost = nullptr;
+}
+
+CHost* CHost::OfThisThread() {
+    return theHost != nullptr && theHost->m_thread == GetCurrentThreadId() ? theHost : nullptr;
+}
+
+int CHost::Run(CEntryPoint& entry, SRequest& request) {
+    SRequest* const before = m_request;
+    m_request = &request;
+    try {
+        const int answer = entry(request.code, nullptr);
+        m_request = before;
+        return answer;
+    } catch (...) {
+        EndOverException(request.code);
+    }
+}
+
+bool CHost::Send(CEntryPoint& entry, unsigned code) {
+    SRequest request(code);
+    return Run(entry, request) == 0 && !request.failure;
+}
+
+std::wstring CHost::ForgetFunctions() {
+    std::wstring names;
+    for (const auto& [name, code] : m_codes) {
+        m_evaluator.Undefine(name);
+        names += names.empty() ? name : L' ' + name;
+    }
+    m_codes.clear();
+    return names;
+}
+
+CLispResult CHost::Evaluate(const CValue& expression) {
+    return m_evaluator.Evaluate(expression);
+}
+
+CLispResult CHost::Invoke(const std::wstring& name, short code, std::span<const CValue> arguments) {
+    if (m_request != nullptr)
+        throw CLispError(name + L" cannot be called while another call is running");
+    SRequest request(SDS_INVOKE, code);
+    for (const CValue& argument : arguments)
+        AddArgument(request.arguments, argument, name);
+    m_window.SetBusy(true);
+    const int answer = Run(*m_entry, request);
+    m_window.SetBusy(false);
+    if (request.failure)
+        throw CReportedError(*request.failure);
+    if (answer != 0)
+        throw CLispError(L"the plug-in answered " + std::to_wstring(answer) + L" to the call of " + name);
+    return request.result;
+}
+
+bool CHost::Define(const wchar_t* name, short code) {
+    if (name == nullptr || m_entry == nullptr)
+        return false;
+    const std::wstring upperCase = UpperCase(name);
+    const bool defined =
+        m_evaluator.Define(upperCase, [this, upperCase, code](std::span<const CValue> arguments) {
+            return Invoke(upperCase, code, arguments);
+        });
+    if (defined)
+        m_codes[upperCase] = code;
+    return defined;
+}
+
+bool CHost::Undefine(const wchar_t* name, short code) {
+    if (name == nullptr)
+        return false;
+    const auto found = m_codes.find(UpperCase(name));
+    if (found == m_codes.end() || found->second != code)
+        return false;
+    m_evaluator.Undefine(found->first);
+    m_codes.erase(found);
+    return true;
+}
+
+int CHost::FunctionCode() const {
+    return m_request != nullptr ? m_request->functionCode : -1;
+}
+
+sds_resbuf* CHost::Arguments() {
+    return m_request != nullptr ? m_request->arguments.First() : nullptr;
+}
+
+bool CHost::SetResult(CValue result) {
+    if (m_request == nullptr || m_request->code != SDS_INVOKE)
+        return false;
+    m_request->result = std::move(result);
+    return true;
+}
+
+CResbufList* CHost::NewList() {
+    return m_request != nullptr ? &m_request->lists.emplace_back() : nullptr;
+}
+
+int CHost::Fail(const wchar_t* message) {
+    const std::wstring text = message != nullptr ? message : L"";
+    m_output.Line(L"; error: " + text);
+    if (m_request == nullptr)
+        return kStatusError;
+    m_request->failure = text;
+    return RTNORM;
+}
+
+int CHost::Alert(const wchar_t* message) {
+    const std::wstring text = message != nullptr ? message : L"";
+    m_output.Line(L"; alert: " + text);
+    // Over the dialog that is open, if one is: a box over the window behind it would leave it usable.
+    MessageBoxW(GetLastActivePopup(m_window.Handle()), text.c_str(), L"DevHost", MB_OK | MB_ICONINFORMATION);
+    return RTNORM;
+}
+
+int CHost::FindFile(const wchar_t* name, wchar_t* result, std::size_t capacity) const {
+    if (name == nullptr || result == nullptr)
+        return kStatusError;
+    const auto path = m_searchPath.Find(name);
+    if (!path || path->size() >= capacity)
+        return kStatusError;
+    std::wmemcpy(result, path->c_str(), path->size() + 1);
+    return RTNORM;
+}
+
+int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
+    if (name == nullptr || result == nullptr)
+        return kStatusError;
+    const std::wstring upperCase = UpperCase(name);
+    if (upperCase != L"LUNITS" && upperCase != L"LUPREC")
+        return kStatusError;
+    result->next = nullptr;
+    result->type = RTSHORT;
+    result->value.integer = upperCase == L"LUNITS" ? m_format.lunits : m_format.luprec;
+    return RTNORM;
+}
+
+int CHost::ToText(double value, int units, int precision, wchar_t* text) const {
+    if (text == nullptr)
+        return kStatusError;
+    // Also on failure, since a caller may show the buffer without a look at the status.
+    text[0] = L'\0';
+    const auto formatted = FormatLinear(value, units, precision < 0 ? m_format.luprec : precision);
+    if (!formatted || formatted->size() >= kTextRoom)
+        return kStatusError;
+    std::wmemcpy(text, formatted->c_str(), formatted->size() + 1);
+    return RTNORM;
+}
+
+int CHost::ToNumber(const wchar_t* text, double* result) const {
+    const auto number = text != nullptr ? ParseLinear(text) : std::nullopt;
+    if (!number || result == nullptr)
+        return kStatusError;
+    *result = *number;
+    return RTNORM;
+}
+
+int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picked) {
+    // With the main window disabled the user could never answer.
+    if (m_request == nullptr || m_window.IsPicking() || !IsWindowEnabled(m_window.Handle()))
+        return kStatusError;
+    const auto point = m_window.PickPoint(StatusText(prompt), base);
+    if (!point)
+        return kStatusCancelled;
+    picked = *point;
+    return RTNORM;
+}
+
+int CHost::GetPoint(const double* base, const wchar_t* prompt, double* point) {
+    if (point == nullptr)
+        return kStatusError;
+    SPoint picked;
+    const int status =
+        Pick(base != nullptr ? std::optional(SPoint{base[0], base[1]}) : std::nullopt, prompt, picked);
+    if (status == RTNORM) {
+        point[0] = picked.x;
+        point[1] = picked.y;
+        point[2] = 0;
+    }
+    return status;
+}
+
+int CHost::GetDistance(const double* base, const wchar_t* prompt, double* distance) {
+    if (distance == nullptr)
+        return kStatusError;
+    double from[3] = {0, 0, 0};
+    if (base != nullptr) {
+        std::copy_n(base, 3, from);
+    } else if (const int status = GetPoint(nullptr, prompt, from); status != RTNORM) {
+        return status;
+    }
+    double to[3];
+    const int status = GetPoint(from, base != nullptr ? prompt : L"Second point: ", to);
+    if (status == RTNORM)
+        *distance = std::hypot(to[0] - from[0], to[1] - from[1], to[2] - from[2]);
+    return status;
+}

@@ -1,0 +1,80 @@
+#include "PlugIn.h"
+
+#include "CrashReport.h"
+
+namespace {
+
+constexpr char kEntryPoint[] = "icrxEntryPoint";
+
+std::wstring Quoted(const std::wstring& path) {
+    return L"the plug-in '" + path + L"'";
+}
+
+std::wstring WhyNotLoaded(DWORD error) {
+    constexpr int bits = 8 * sizeof(void*);
+    switch (error) {
+        case ERROR_BAD_EXE_FORMAT:
+            return L"is no library for this DevHost: it takes a " + std::to_wstring(bits) + L"-bit DLL";
+        case ERROR_MOD_NOT_FOUND:
+            return L"cannot be loaded: a library that it needs is missing";
+        case ERROR_PROC_NOT_FOUND:
+            return L"cannot be loaded: a function that it needs is missing from a library";
+        case ERROR_DLL_INIT_FAILED:
+            return L"cannot be loaded: its own start failed";
+        default:
+            return L"cannot be loaded: system error " + std::to_wstring(error);
+    }
+}
+
+}  // namespace
+
+CPlugIn::CPlugIn(CHost& host, const std::wstring& path) : m_host(host), m_path(path) {
+    const std::wstring full = FullPath(path);
+    if (!IsFile(full))
+        throw CUserError(Quoted(path) + L" does not exist: give --plugin an existing file");
+    // A name without an extension would get one, but for a point at its end.
+    const bool hasExtension = full.find(L'.', full.find_last_of(L'\\')) != std::wstring::npos;
+    m_library = LoadLibraryW(hasExtension ? full.c_str() : (full + L'.').c_str());
+    if (m_library == nullptr)
+        throw CUserError(Quoted(path) + L' ' + WhyNotLoaded(GetLastError()));
+    WatchPlugIn(m_library);
+
+    m_entry = reinterpret_cast<CEntryPoint*>(reinterpret_cast<void*>(GetProcAddress(m_library, kEntryPoint)));
+    if (m_entry == nullptr) {
+        Free();
+        throw CUserError(Quoted(path) + L" lacks the entry point icrxEntryPoint: give --plugin a plug-in");
+    }
+    m_host.SetEntryPoint(m_entry);
+    if (!m_host.Send(*m_entry, SDS_LOAD)) {
+        Free();
+        throw CUserError(Quoted(path) + L" refused to be loaded: see what it said");
+    }
+}
+
+CPlugIn::~CPlugIn() {
+    if (m_library == nullptr)
+        return;
+    try {
+        Unload();
+    } catch (const CUserError&) {
+        // Another failure is on its way to the user.
+    }
+}
+
+void CPlugIn::Unload() {
+    const bool agreed = m_host.Send(*m_entry, SDS_UNLOAD);
+    const std::wstring leftBehind = m_host.ForgetFunctions();
+    Free();
+    if (!agreed)
+        throw CUserError(Quoted(m_path) + L" reported a failure when it was unloaded");
+    if (!leftBehind.empty())
+        throw CUserError(Quoted(m_path) + L" left functions defined when it was unloaded: " + leftBehind);
+}
+
+void CPlugIn::Free() {
+    m_host.SetEntryPoint(nullptr);
+    m_host.ForgetFunctions();
+    FreeLibrary(m_library);
+    m_library = nullptr;
+    WatchPlugIn(nullptr);
+}

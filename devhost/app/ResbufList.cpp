@@ -1,0 +1,88 @@
+#include "ResbufList.h"
+
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+#include "LispError.h"
+#include "Printer.h"
+
+namespace {
+
+// More records than any result has; a list that is longer runs in a circle.
+constexpr std::size_t kMaxRecords = 1'000'000;
+
+std::optional<CValue> ToLispValue(const sds_resbuf& record) {
+    switch (record.type) {
+        case RTNONE:
+            return CValue();
+        case RTREAL:
+            return CValue::Real(record.value.real);
+        case RTSHORT:
+            return CValue::Integer(record.value.integer);
+        case RTSTR:
+            if (record.value.string == nullptr)
+                return std::nullopt;
+            return CValue::String(record.value.string);
+        default:
+            return std::nullopt;
+    }
+}
+
+}  // namespace
+
+void CResbufList::AddReal(double number) {
+    Add(RTREAL).value.real = number;
+}
+
+void CResbufList::AddShort(short number) {
+    Add(RTSHORT).value.integer = number;
+}
+
+void CResbufList::AddString(std::wstring_view text) {
+    m_texts.emplace_back(text);
+    Add(RTSTR).value.string = m_texts.back().data();
+}
+
+sds_resbuf& CResbufList::Add(short type) {
+    sds_resbuf* last = m_records.empty() ? nullptr : &m_records.back();
+    sds_resbuf& record = m_records.emplace_back();
+    record.type = type;
+    if (last != nullptr)
+        last->next = &record;
+    return record;
+}
+
+void AddArgument(CResbufList& list, const CValue& value, std::wstring_view name) {
+    switch (value.Type()) {
+        case VT_INTEGER: {
+            const std::int32_t number = value.AsInteger();
+            using limits = std::numeric_limits<short>;
+            if (number < limits::min() || number > limits::max())
+                throw CLispError(std::wstring(name) + L" cannot take " + Print(value) +
+                                 L": whole numbers are passed in 16 bits, -32768 to 32767");
+            list.AddShort(short(number));
+            break;
+        }
+        case VT_REAL:
+            list.AddReal(value.AsReal());
+            break;
+        case VT_STRING:
+            list.AddString(value.AsString());
+            break;
+        default:
+            throw CLispError(std::wstring(name) + L" cannot take " + Print(value) +
+                             L": only numbers and texts are passed");
+    }
+}
+
+std::optional<CValue> ToLisp(const sds_resbuf* list) {
+    std::vector<CValue> elements;
+    for (; list != nullptr; list = list->next) {
+        const auto element = ToLispValue(*list);
+        if (!element || elements.size() == kMaxRecords)
+            return std::nullopt;
+        elements.push_back(*element);
+    }
+    return CValue::List(elements);
+}

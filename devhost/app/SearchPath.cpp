@@ -1,0 +1,47 @@
+#include "SearchPath.h"
+
+#include <windows.h>
+
+#include <shlwapi.h>
+
+#include "UserError.h"
+
+std::wstring FullPath(const std::wstring& path) {
+    const DWORD room = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(room, L'\0');
+    full.resize(GetFullPathNameW(path.c_str(), room, full.data(), nullptr));
+    return full;
+}
+
+bool IsFile(const std::wstring& fullPath) {
+    if (fullPath.empty() || fullPath.starts_with(L"\\\\.\\") || fullPath.ends_with(L'\\'))
+        return false;
+    const DWORD attributes = GetFileAttributesW(fullPath.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
+}
+
+CSearchPath::CSearchPath(const std::vector<std::wstring>& folders) {
+    for (const std::wstring& folder : folders) {
+        const std::wstring full = FullPath(folder);
+        const DWORD attributes = full.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(full.c_str());
+        if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+            throw CUserError(L"the search folder '" + folder +
+                             L"' does not exist: give --search an existing folder");
+        m_folders.push_back(full);
+    }
+}
+
+std::optional<std::wstring> CSearchPath::Find(const std::wstring& name) const {
+    if (name.empty())
+        return std::nullopt;
+    std::vector<std::wstring> places;
+    if (PathIsRelativeW(name.c_str()))
+        for (const std::wstring& folder : m_folders)
+            places.push_back(folder + L'\\' + name);
+    places.push_back(name);
+    for (const std::wstring& place : places)
+        if (const std::wstring full = FullPath(place); IsFile(full))
+            return full;
+    return std::nullopt;
+}

@@ -1,0 +1,73 @@
+#include "TextOutput.h"
+
+#include <windows.h>
+
+namespace {
+
+constexpr wchar_t kProgram[] = L"DevHost";
+
+bool IsConsole(HANDLE handle) {
+    DWORD mode;
+    return GetConsoleMode(handle, &mode) != FALSE;
+}
+
+std::string ToUtf8(std::wstring_view text) {
+    const int length =
+        WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
+    std::string bytes(std::size_t(length), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), bytes.data(), length, nullptr, nullptr);
+    return bytes;
+}
+
+// Unbuffered, so that what was said stands there when the process crashes after it.
+void Write(DWORD standardHandle, std::wstring_view text) {
+    const HANDLE handle = GetStdHandle(standardHandle);
+    DWORD written;
+    if (IsConsole(handle)) {
+        WriteConsoleW(handle, text.data(), DWORD(text.size()), &written, nullptr);
+    } else {
+        const std::string bytes = ToUtf8(text);
+        WriteFile(handle, bytes.data(), DWORD(bytes.size()), &written, nullptr);
+    }
+}
+
+// One line whatever a plug-in put into its text.
+std::wstring OnOneLine(std::wstring_view text) {
+    std::wstring line;
+    for (const wchar_t c : text)
+        line += c == L'\n' || c == L'\r' || c == L'\0' ? L' ' : c;
+    return line;
+}
+
+}  // namespace
+
+CTextOutput::CTextOutput() {
+    DWORD processes[2];
+    const bool isOurs = GetConsoleProcessList(processes, 2) == 1;
+    if (isOurs && IsConsole(GetStdHandle(STD_OUTPUT_HANDLE)) && IsConsole(GetStdHandle(STD_ERROR_HANDLE))) {
+        FreeConsole();
+        m_useBoxes = true;
+    }
+}
+
+void CTextOutput::Line(std::wstring_view text) {
+    const std::wstring line = OnOneLine(text);
+    Write(STD_OUTPUT_HANDLE, line + L'\n');
+    if (m_listener)
+        m_listener(line);
+}
+
+void CTextOutput::Error(std::wstring_view text) {
+    const std::wstring line = OnOneLine(text);
+    Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
+    if (m_listener)
+        m_listener(L"; error: " + line);
+    if (m_useBoxes)
+        MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
+}
+
+void CTextOutput::Help(std::wstring_view text) {
+    Write(STD_OUTPUT_HANDLE, text);
+    if (m_useBoxes)
+        MessageBoxW(nullptr, std::wstring(text).c_str(), kProgram, MB_OK);
+}

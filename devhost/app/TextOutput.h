@@ -1,0 +1,30 @@
+// DevHost's two outputs: results on the standard output, mistakes on the standard error output, UTF-8 when
+// they go into a file or a pipe. Both are repeated to a listener, the main window's list.
+//
+// A console that the system opened for this process alone, because a click and no shell started it, is let
+// go of; then mistakes are shown in a message box.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+class CTextOutput {
+public:
+    CTextOutput();
+
+    void SetListener(std::function<void(std::wstring_view line)> listener) {
+        m_listener = std::move(listener);
+    }
+
+    // A result, as a line.
+    void Line(std::wstring_view text);
+    // A mistake, as a line that begins with the program's name.
+    void Error(std::wstring_view text);
+    // A longer text that is for the shell alone.
+    void Help(std::wstring_view text);
+
+private:
+    std::function<void(std::wstring_view)> m_listener;
+    bool m_useBoxes = false;
+};

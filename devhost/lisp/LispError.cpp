@@ -1,5 +1,0 @@
-#include "LispError.h"
-
-const char* CLispError::what() const noexcept {
-    return "LISP error";
-}

@@ -1,0 +1,65 @@
+// Owners of what GDI lends: each gives back in its destructor what it took.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+
+struct SGdiDeleter {
+    using pointer = HGDIOBJ;
+    void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
+using CGdiObject = std::unique_ptr<HGDIOBJ, SGdiDeleter>;
+
+// An object selected into a device context.
+class CSelection {
+public:
+    CSelection(HDC dc, HGDIOBJ object) : m_dc(dc), m_before(SelectObject(dc, object)) {}
+    CSelection(HDC dc, const CGdiObject& object) : CSelection(dc, object.get()) {}
+    ~CSelection() { SelectObject(m_dc, m_before); }
+    CSelection(const CSelection&) = delete;
+    CSelection& operator=(const CSelection&) = delete;
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_before;
+};
+
+// Answers WM_PAINT through a bitmap, so that the window never shows a picture half drawn: what is drawn on
+// Dc() appears when the scope ends.
+class CBufferedPaint {
+public:
+    explicit CBufferedPaint(HWND window)
+        : m_window(window),
+          m_target(BeginPaint(window, &m_paint)),
+          m_dc(CreateCompatibleDC(m_target)),
+          m_client(ClientOf(window)),
+          m_bitmap(CreateCompatibleBitmap(m_target, m_client.right, m_client.bottom)),
+          m_before(SelectObject(m_dc, m_bitmap.get())) {}
+    ~CBufferedPaint() {
+        BitBlt(m_target, 0, 0, m_client.right, m_client.bottom, m_dc, 0, 0, SRCCOPY);
+        SelectObject(m_dc, m_before);
+        DeleteDC(m_dc);
+        EndPaint(m_window, &m_paint);
+    }
+    CBufferedPaint(const CBufferedPaint&) = delete;
+    CBufferedPaint& operator=(const CBufferedPaint&) = delete;
+
+    HDC Dc() const { return m_dc; }
+    const RECT& Client() const { return m_client; }
+
+private:
+    static RECT ClientOf(HWND window) {
+        RECT client;
+        GetClientRect(window, &client);
+        return client;
+    }
+
+    HWND m_window;
+    PAINTSTRUCT m_paint;
+    HDC m_target;
+    HDC m_dc;
+    RECT m_client;
+    CGdiObject m_bitmap;
+    HGDIOBJ m_before;
+};
