@@ -13,7 +13,7 @@ public:
     CAfxWindowHook(const CAfxWindowHook&) = delete;
     CAfxWindowHook& operator=(const CAfxWindowHook&) = delete;
 
-    // A window was created and attached, whatever became of it since.
+    // A window was created and attached, whatever has become of it since.
     bool HasAttached() const { return m_window == nullptr; }
 
 private:

@@ -105,9 +105,14 @@ bool CAfxWindowHook::Attach(HWND window) {
     const AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
     CWnd* const object = m_window;
     m_window = nullptr;
-    return AfxGuard([&] {
+    const bool attached = AfxGuard([&] {
         object->Attach(window);
         object->PreSubclassWindow();
         object->TakeMessages();
     });
+    if (!attached) {
+        object->Detach();
+        m_window = object;
+    }
+    return attached;
 }

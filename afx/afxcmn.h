@@ -2,3 +2,5 @@
 #pragma once
 
 #include "afxwin.h"
+// Needs Windows.
+#include <commctrl.h>

@@ -1,8 +1,6 @@
 // COleDateTime: a date and time as OLE automation counts it.
 #pragma once
 
-#include <oleauto.h>
-
 #include "afx.h"
 
 // Days since 30 December 1899, midnight, the time of day as the fraction. Before that day the whole part

@@ -1,0 +1,387 @@
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "DialogTemplate.h"
+
+namespace {
+
+// A dialog that runs a step when it is initialised and one when it has been shown.
+class CSteppedDialog : public CDialog {
+public:
+    explicit CSteppedDialog(const CDialogTemplate& dialogTemplate, CWnd* parent = nullptr) {
+        InitModalIndirect(dialogTemplate.Get(), parent);
+    }
+
+    std::function<BOOL()> m_onInit = [] { return TRUE; };
+    std::function<void()> m_onShown = [this] { EndDialog(IDOK); };
+    std::function<BOOL(MSG*)> m_preTranslate = [](MSG*) { return FALSE; };
+    bool m_wasShown = false;
+    CRect m_rect;
+    std::string* m_log = nullptr;
+
+    BOOL PreTranslateMessage(MSG* message) override {
+        return m_preTranslate(message) || CDialog::PreTranslateMessage(message);
+    }
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && m_onInit(); }
+    void OnShowWindow(BOOL show, UINT status) {
+        CDialog::OnShowWindow(show, status);
+        if (show && !m_wasShown)
+            PostMessage(WM_APP);
+        m_wasShown |= show != FALSE;
+        if (!show && m_log != nullptr)
+            *m_log += "hidden;";
+    }
+    void OnDestroy() {
+        if (m_log != nullptr)
+            *m_log += "destroyed;";
+        CDialog::OnDestroy();
+    }
+    LRESULT OnShown(WPARAM, LPARAM) {
+        GetWindowRect(m_rect);
+        m_onShown();
+        return 0;
+    }
+};
+
+BEGIN_MESSAGE_MAP(CSteppedDialog, CDialog)
+    ON_WM_SHOWWINDOW()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_APP, OnShown)
+END_MESSAGE_MAP()
+
+class CLoggingOwner : public CWnd {
+public:
+    std::string m_log;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_ENABLE)
+            m_log += wParam != 0 ? "enabled;" : "disabled;";
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+class Dialog : public testing::Test {
+protected:
+    void SetUp() override {
+        m_owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 400, 300,
+                         nullptr, nullptr);
+        m_edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &m_owner, 1);
+        m_owner.SetActiveWindow();
+        m_edit.SetFocus();
+    }
+    static CDialogTemplate WithControls() {
+        CDialogTemplate made;
+        made.Add(editClass, 10, L"", childStyle | WS_TABSTOP, 5, 5, 50, 12)
+            .Add(editClass, 11, L"", childStyle | WS_TABSTOP, 5, 20, 50, 12)
+            .Add(buttonClass, IDOK, L"OK", childStyle | WS_TABSTOP | BS_DEFPUSHBUTTON, 5, 40, 40, 14)
+            .Add(buttonClass, IDCANCEL, L"Cancel", childStyle | WS_TABSTOP, 50, 40, 40, 14);
+        return made;
+    }
+    static void PressKey(HWND window, WPARAM key) {
+        ::PostMessage(window, WM_KEYDOWN, key, 1);
+        ::PostMessage(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    }
+
+    CLoggingOwner m_owner;
+    CEdit m_edit;
+    const CDialogTemplate m_empty;
+};
+
+TEST_F(Dialog, EndsWithTheResultItIsGiven) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_onShown = [&] { dialog.EndDialog(4711); };
+    EXPECT_EQ(dialog.DoModal(), 4711);
+    EXPECT_TRUE(dialog.m_wasShown);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST_F(Dialog, CanRunAgain) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    dialog.m_wasShown = false;
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_TRUE(dialog.m_wasShown);
+}
+
+TEST_F(Dialog, CannotRunWithoutATemplate) {
+    CDialog none(4711u, &m_owner);
+    EXPECT_EQ(none.DoModal(), -1);
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+}
+
+class CResourceDialog : public CDialog {
+public:
+    CResourceDialog() : CDialog(102u) {}
+    CString m_title, m_ok;
+
+private:
+    BOOL OnInitDialog() override {
+        GetWindowText(m_title);
+        GetDlgItemText(IDOK, m_ok);
+        EndDialog(5);
+        return TRUE;
+    }
+};
+
+TEST_F(Dialog, ComesFromAResource) {
+    CResourceDialog dialog;
+    EXPECT_EQ(dialog.DoModal(), 5);
+    EXPECT_EQ(dialog.m_title, L"Item - Property");
+    EXPECT_EQ(dialog.m_ok, L"OK");
+    EXPECT_FALSE(dialog.InitModalIndirect(m_empty.Get())) << "it has a template already";
+}
+
+TEST_F(Dialog, DisablesItsOwnerAndEnablesItBeforeItGoesAway) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_log = &m_owner.m_log;
+    dialog.m_onShown = [&] {
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), m_owner.m_hWnd);
+        dialog.EndDialog(IDOK);
+    };
+    dialog.DoModal();
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+    EXPECT_EQ(m_owner.m_log.substr(0, 17), "disabled;enabled;");
+    EXPECT_NE(m_owner.m_log.find("destroyed;"), std::string::npos);
+}
+
+TEST_F(Dialog, LeavesADisabledOwnerDisabled) {
+    m_owner.EnableWindow(FALSE);
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.DoModal();
+    EXPECT_FALSE(m_owner.IsWindowEnabled());
+}
+
+TEST_F(Dialog, IsOwnedByTheWindowAboveAControl) {
+    CSteppedDialog dialog(m_empty, &m_edit);
+    dialog.m_onShown = [&] {
+        EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), m_owner.m_hWnd);
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        dialog.EndDialog(IDOK);
+    };
+    dialog.DoModal();
+}
+
+TEST_F(Dialog, GivesActivationAndFocusBack) {
+    const CDialogTemplate withControls = WithControls();
+    CSteppedDialog dialog(withControls, &m_owner);
+    dialog.m_onShown = [&] {
+        EXPECT_EQ(::GetActiveWindow(), dialog.m_hWnd);
+        EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog.m_hWnd, 10)) << "the first control that can have it";
+        dialog.EndDialog(IDOK);
+    };
+    dialog.DoModal();
+    EXPECT_EQ(::GetActiveWindow(), m_owner.m_hWnd);
+    EXPECT_EQ(::GetFocus(), m_edit.m_hWnd);
+}
+
+TEST_F(Dialog, LeavesTheFocusToOnInitDialogThatReturnsFalse) {
+    const CDialogTemplate withControls = WithControls();
+    CSteppedDialog dialog(withControls, &m_owner);
+    dialog.m_onInit = [&] {
+        dialog.GetDlgItem(11)->SetFocus();
+        return FALSE;
+    };
+    dialog.m_onShown = [&] {
+        EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog.m_hWnd, 11));
+        dialog.EndDialog(IDOK);
+    };
+    dialog.DoModal();
+}
+
+TEST_F(Dialog, ThatEndsInOnInitDialogIsNeverSeen) {
+    for (const DWORD style : {DWORD{WS_POPUP | WS_CAPTION}, DWORD{WS_POPUP | WS_CAPTION | WS_VISIBLE}}) {
+        const CDialogTemplate made(style);
+        CSteppedDialog dialog(made, &m_owner);
+        HWND seen = nullptr;
+        bool visible = false;
+        dialog.m_onInit = [&] {
+            seen = dialog.m_hWnd;
+            dialog.EndDialog(6);
+            return TRUE;
+        };
+        dialog.m_onShown = [&] { visible = true; };
+        EXPECT_EQ(dialog.DoModal(), 6);
+        EXPECT_FALSE(visible);
+        EXPECT_FALSE(::IsWindow(seen));
+        EXPECT_TRUE(m_owner.IsWindowEnabled());
+        EXPECT_EQ(::GetFocus(), m_edit.m_hWnd);
+    }
+}
+
+TEST_F(Dialog, ThatPostsItsOwnEndIsNeverSeen) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_onInit = [&] {
+        dialog.PostMessage(WM_CLOSE);
+        return FALSE;
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_FALSE(dialog.m_wasShown);
+}
+
+TEST_F(Dialog, EndsByEnterEscapeAndTheCloseBox) {
+    const CDialogTemplate withControls = WithControls();
+    const auto run = [&](auto act) {
+        CSteppedDialog dialog(withControls, &m_owner);
+        dialog.m_onShown = [&] { act(dialog.m_hWnd); };
+        return dialog.DoModal();
+    };
+    EXPECT_EQ(run([](HWND) { PressKey(::GetFocus(), VK_RETURN); }), IDOK);
+    EXPECT_EQ(run([](HWND) { PressKey(::GetFocus(), VK_ESCAPE); }), IDCANCEL);
+    EXPECT_EQ(run([](HWND dialog) { ::PostMessage(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); }), IDCANCEL);
+    EXPECT_EQ(run([](HWND dialog) { ::PostMessage(::GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0); }), IDOK);
+}
+
+TEST_F(Dialog, MovesTheFocusByTheTabKey) {
+    const CDialogTemplate withControls = WithControls();
+    CSteppedDialog dialog(withControls, &m_owner);
+    HWND focus = nullptr;
+    dialog.m_preTranslate = [&](MSG* message) {
+        if (message->message == WM_KEYUP && message->wParam == VK_TAB) {
+            focus = ::GetFocus();
+            dialog.EndDialog(IDOK);
+        }
+        return FALSE;
+    };
+    HWND second = nullptr;
+    dialog.m_onShown = [&] {
+        second = ::GetDlgItem(dialog.m_hWnd, 11);
+        PressKey(::GetFocus(), VK_TAB);
+    };
+    dialog.DoModal();
+    EXPECT_EQ(focus, second);
+}
+
+class CTranslatingEdit : public CEdit {
+public:
+    std::string& m_log;
+    bool m_swallow = false;
+    explicit CTranslatingEdit(std::string& log) : m_log(log) {}
+    BOOL PreTranslateMessage(MSG* message) override {
+        if (message->message == WM_SYSCHAR)
+            m_log += "edit;";
+        return m_swallow || CEdit::PreTranslateMessage(message);
+    }
+};
+
+TEST_F(Dialog, OffersAMessageToItsWindowThenToTheParents) {
+    const CDialogTemplate withControls = WithControls();
+    for (const bool swallow : {false, true}) {
+        std::string log;
+        CTranslatingEdit edit(log);
+        edit.m_swallow = swallow;
+        CSteppedDialog dialog(withControls, &m_owner);
+        dialog.m_onInit = [&] { return edit.SubclassDlgItem(10, &dialog); };
+        dialog.m_preTranslate = [&](MSG* message) {
+            if (message->message == WM_SYSCHAR)
+                log += "dialog;";
+            return FALSE;
+        };
+        dialog.m_onShown = [&] {
+            edit.PostMessage(WM_SYSCHAR, 'q');
+            dialog.PostMessage(WM_COMMAND, IDCANCEL);
+        };
+        dialog.DoModal();
+        EXPECT_EQ(log, swallow ? "edit;" : "edit;dialog;");
+    }
+}
+
+TEST_F(Dialog, RunsWithinAnother) {
+    CSteppedDialog outer(m_empty, &m_owner), inner(m_empty, &outer);
+    outer.m_onShown = [&] {
+        inner.m_onShown = [&] {
+            EXPECT_FALSE(outer.IsWindowEnabled());
+            EXPECT_FALSE(m_owner.IsWindowEnabled());
+            inner.EndDialog(8);
+        };
+        EXPECT_EQ(inner.DoModal(), 8);
+        EXPECT_TRUE(outer.IsWindowEnabled());
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_EQ(::GetActiveWindow(), outer.m_hWnd);
+        outer.EndDialog(9);
+    };
+    EXPECT_EQ(outer.DoModal(), 9);
+}
+
+TEST_F(Dialog, EndsWhenTheProgramIsToEndAndPassesThatOn) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_onShown = [] { ::PostQuitMessage(3); };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+    MSG message;
+    ASSERT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 3u);
+}
+
+TEST_F(Dialog, EndsWithItsWindow) {
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_onShown = [&] { dialog.DestroyWindow(); };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+}
+
+TEST_F(Dialog, IsCentredOverItsOwnerUnlessItIsPlaced) {
+    CRect owner;
+    m_owner.GetWindowRect(owner);
+    CSteppedDialog centred(m_empty, &m_owner);
+    centred.DoModal();
+    EXPECT_NEAR(centred.m_rect.CenterPoint().x, owner.CenterPoint().x, 1);
+    EXPECT_NEAR(centred.m_rect.CenterPoint().y, owner.CenterPoint().y, 1);
+    CSteppedDialog placed(m_empty, &m_owner);
+    placed.m_onInit = [&] { return placed.SetWindowPos(&CWnd::wndTop, 100, 5, 0, 0, SWP_NOSIZE); };
+    placed.DoModal();
+    EXPECT_TRUE(placed.m_rect.TopLeft() == CPoint(100, 5));
+}
+
+class CBoundDialog : public CDialog {
+public:
+    CEdit m_edit;
+    CButton m_button;
+    HWND m_editWindow = nullptr;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override {
+        CDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, 10, m_edit);
+        DDX_Control(exchange, IDOK, m_button);
+    }
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        m_editWindow = m_edit.m_hWnd;
+        EXPECT_EQ(m_edit.m_hWnd, ::GetDlgItem(m_hWnd, 10));
+        EXPECT_EQ(GetDlgItem(10), &m_edit);
+        EXPECT_TRUE(UpdateData(TRUE)) << "binding happens once";
+        OnOK();
+        return TRUE;
+    }
+};
+
+TEST_F(Dialog, BindsItsMembersToItsControls) {
+    const CDialogTemplate withControls = WithControls();
+    CBoundDialog dialog;
+    dialog.InitModalIndirect(withControls.Get(), &m_owner);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_NE(dialog.m_editWindow, nullptr);
+    EXPECT_EQ(dialog.m_edit.m_hWnd, nullptr) << "freed with the control";
+}
+
+TEST_F(Dialog, WithoutModalLoopIsHiddenByItsEnd) {
+    CDialog dialog;
+    const CDialogTemplate made(WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    ASSERT_TRUE(dialog.CreateIndirect(made.Get(), &m_owner));
+    EXPECT_TRUE(dialog.IsWindowVisible());
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
+    dialog.SendMessage(WM_COMMAND, IDCANCEL);
+    EXPECT_NE(dialog.m_hWnd, nullptr);
+    EXPECT_FALSE(dialog.IsWindowVisible());
+    dialog.DestroyWindow();
+}
+
+}  // namespace

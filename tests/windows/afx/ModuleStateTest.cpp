@@ -1,0 +1,120 @@
+// Whose resources and classes are used when two modules of a process have the framework inside.
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include "ModalHands.h"
+
+namespace {
+
+class OtherModule : public testing::Test {
+protected:
+    void SetUp() override {
+        TCHAR path[MAX_PATH];
+        ::GetModuleFileName(nullptr, path, MAX_PATH);
+        CString file = path;
+        file = file.Left(file.ReverseFind(L'\\') + 1) + L"afx_other_module.dll";
+        m_module = ::LoadLibrary(file);
+        ASSERT_NE(m_module, nullptr) << ::GetLastError();
+    }
+    void TearDown() override {
+        if (m_module != nullptr)
+            ::FreeLibrary(m_module);
+    }
+    template <class TFunction>
+    TFunction* Find(const char* name) const {
+        return reinterpret_cast<TFunction*>(reinterpret_cast<void*>(::GetProcAddress(m_module, name)));
+    }
+
+    HMODULE m_module = nullptr;
+    const HINSTANCE m_program = ::GetModuleHandle(nullptr);
+};
+
+TEST_F(OtherModule, UsesItsOwnResourcesWhileItsStateIsAtWork) {
+    EXPECT_EQ(Find<HINSTANCE()>("ResourcesOutside")(), m_program);
+    EXPECT_EQ(Find<HINSTANCE(bool)>("ResourcesInside")(false), m_module);
+    EXPECT_EQ(Find<HINSTANCE()>("ResourcesOutside")(), m_program);
+}
+
+TEST_F(OtherModule, GetsTheStateBackThatAnExceptionLeaves) {
+    EXPECT_EQ(Find<HINSTANCE(bool)>("ResourcesInside")(true), m_module);
+    EXPECT_EQ(Find<HINSTANCE()>("ResourcesOutside")(), m_program);
+}
+
+TEST_F(OtherModule, LoadsItsOwnStrings) {
+    wchar_t text[50];
+    Find<void(wchar_t*, int)>("ReadString")(text, 50);
+    EXPECT_STREQ(text, L"Other module");
+    CString own;
+    own.LoadString(100);
+    EXPECT_EQ(own, L"TavrinWnd");
+}
+
+TEST_F(OtherModule, HandlesItsWindowsMessagesInItsOwnState) {
+    EXPECT_EQ(Find<HINSTANCE()>("ResourcesInWindow")(), m_module);
+    EXPECT_EQ(Find<HINSTANCE()>("ResourcesOutside")(), m_program);
+}
+
+TEST_F(OtherModule, SharesNoWindowClassAndTakesItsOwnAway) {
+    wchar_t name[100];
+    Find<void(wchar_t*, int)>("RegisterClassName")(name, 100);
+    const CString own = AfxRegisterWndClass(CS_DBLCLKS);
+    EXPECT_STRNE(name, own);
+    WNDCLASS found;
+    EXPECT_TRUE(::GetClassInfo(m_module, name, &found));
+    const HMODULE module = m_module;
+    ::FreeLibrary(m_module);
+    m_module = nullptr;
+    EXPECT_FALSE(::GetClassInfo(module, name, &found));
+    EXPECT_TRUE(::GetClassInfo(m_program, own, &found));
+}
+
+TEST(ModuleState, OfTheProgramIsItsOwn) {
+    EXPECT_EQ(AfxGetModuleState(), AfxGetStaticModuleState());
+    EXPECT_EQ(AfxGetInstanceHandle(), ::GetModuleHandle(nullptr));
+    EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr));
+}
+
+TEST(ModuleState, TakesTheResourcesFromWhereItIsTold) {
+    AFX_MODULE_STATE other = {AfxGetInstanceHandle(), AfxGetResourceHandle()};
+    {
+        AFX_MAINTAIN_STATE2 state(&other);
+        AfxSetResourceHandle(::GetModuleHandle(L"user32"));
+        CString text;
+        EXPECT_FALSE(text.LoadString(100));
+    }
+    CString text;
+    EXPECT_TRUE(text.LoadString(100));
+}
+
+TEST(RegisterWndClass, GivesOneNameForTheSameAttributes) {
+    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW);
+    const LPCTSTR name = AfxRegisterWndClass(CS_VREDRAW, arrow);
+    EXPECT_STREQ(AfxRegisterWndClass(CS_VREDRAW, arrow), name);
+    EXPECT_STRNE(AfxRegisterWndClass(CS_VREDRAW), name);
+    EXPECT_STRNE(AfxRegisterWndClass(CS_HREDRAW, arrow), name);
+}
+
+TEST(MessageBoxes, AreOwnedByTheMainWindowAndCarryTheProgramsName) {
+    CWinApp application(L"Some name");
+    CWnd main;
+    main.CreateEx(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr);
+    application.m_pMainWnd = &main;
+    EXPECT_EQ(AfxGetMainWnd(), &main);
+    CModalHands hands;
+    hands.ThenPressOk();
+    EXPECT_EQ(AfxMessageBox(L"text"), IDOK);
+    hands.ThenPressOk();
+    EXPECT_EQ(AfxMessageBox(100), IDOK);
+    ASSERT_EQ(hands.messages.size(), 2u);
+    EXPECT_EQ(hands.messages[0].text, L"text");
+    EXPECT_EQ(hands.messages[0].caption, L"Some name");
+    EXPECT_EQ(hands.messages[0].owner, main.m_hWnd);
+    EXPECT_EQ(hands.messages[1].text, L"TavrinWnd");
+}
+
+TEST(MessageBoxes, CarryTheFilesNameWithoutAnApplicationObject) {
+    EXPECT_STREQ(AfxGetAppName(), L"afx_tests");
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
+}
+
+}  // namespace
