@@ -1,0 +1,110 @@
+#include "GridContents.h"
+
+#include <algorithm>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+std::size_t CGridContents::NameHash::operator()(const CGridItem* item) const {
+    // Spreads the few bits of the section's id over the whole code, so that the same name in many
+    // sections gives many codes.
+    constexpr std::size_t spread = 0x9E3779B1;
+    return std::hash<std::wstring_view>{}(item->name) ^ (item->section->id + 1) * spread;
+}
+
+bool CGridContents::NameEqual::operator()(const CGridItem* a, const CGridItem* b) const {
+    ++*comparisons;
+    return a->section == b->section && a->name == b->name;
+}
+
+UINT CGridContents::AddSection(const std::wstring& name, bool collapsed, UINT before) {
+    CGridSection& section = *m_sections.emplace_back(std::make_unique<CGridSection>());
+    section.id = static_cast<UINT>(m_sections.size() - 1);
+    section.name = name;
+    section.collapsed = collapsed;
+    // An unknown id deliberately means the end: the usual call passes NO_ID.
+    auto place = m_sectionOrder.end();
+    if (before < section.id)
+        place = std::find(m_sectionOrder.begin(), m_sectionOrder.end(), m_sections[before].get());
+    m_sectionOrder.insert(place, &section);
+    return section.id;
+}
+
+UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& name, CGridValue value,
+                            bool editable, bool undefined) {
+    CGridSection* section = FindSection(sectionId);
+    if (section == nullptr)
+        return NO_ID;
+    CGridItem& item = *m_items.emplace_back(std::make_unique<CGridItem>());
+    item.id = static_cast<UINT>(m_items.size() - 1);
+    item.kind = kind;
+    item.section = section;
+    item.editable = editable;
+    item.undefined = undefined;
+    item.name = name;
+    item.value = std::move(value);
+    if (!m_names.insert(&item).second) {
+        m_items.pop_back();
+        return NO_ID;
+    }
+    section->items.push_back(&item);
+    if (!section->collapsed)
+        ++m_expandedItems;
+    // Last of all: a custom item that is asked to accept its value may do anything to the grid.
+    const UINT id = item.id;
+    item.TakeSavedCopy();
+    return id;
+}
+
+void CGridContents::Clear() {
+    m_names.clear();
+    m_items.clear();
+    m_sectionOrder.clear();
+    m_sections.clear();
+    m_expandedItems = 0;
+}
+
+const CGridSection* CGridContents::FindSection(UINT id) const {
+    return id < m_sections.size() ? m_sections[id].get() : nullptr;
+}
+
+CGridSection* CGridContents::FindSection(UINT id) {
+    return const_cast<CGridSection*>(std::as_const(*this).FindSection(id));
+}
+
+const CGridItem* CGridContents::FindItem(UINT id) const {
+    return id < m_items.size() ? m_items[id].get() : nullptr;
+}
+
+CGridItem* CGridContents::FindItem(UINT id) {
+    return const_cast<CGridItem*>(std::as_const(*this).FindItem(id));
+}
+
+void CGridContents::SetCollapsed(CGridSection& section, bool collapsed) {
+    if (section.collapsed == collapsed)
+        return;
+    section.collapsed = collapsed;
+    if (collapsed)
+        m_expandedItems -= section.items.size();
+    else
+        m_expandedItems += section.items.size();
+}
+
+const std::vector<CGridItem*>& CGridContents::Walk(const CGridSection& section) const {
+    m_itemsWalked += section.items.size();
+    return section.items;
+}
+
+std::vector<CGridItem*> CGridContents::WalkAll() const {
+    std::vector<CGridItem*> all;
+    all.reserve(m_items.size());
+    for (const CGridSection* section : m_sectionOrder) {
+        const std::vector<CGridItem*>& items = Walk(*section);
+        all.insert(all.end(), items.begin(), items.end());
+    }
+    return all;
+}
+
+std::size_t CGridContents::GetRowCount(bool categorised) const {
+    return categorised ? m_sections.size() + m_expandedItems : m_items.size();
+}

@@ -1,0 +1,287 @@
+// The painting of the property grid. Everything is drawn into an off-screen picture that is then shown
+// at once, so that nothing flickers. Painting reads the state and changes nothing but the rectangles
+// that it records of what it drew, for hit tests.
+#include <shlwapi.h>
+
+#include <algorithm>
+#include <cwchar>
+#include <string_view>
+
+#include "GdiScope.h"
+#include "PropertyGrid.h"
+
+namespace {
+
+// Behind a modified value. Deliberately not one of the colours that a client can set.
+constexpr COLORREF modifiedColor = RGB(255, 255, 80);
+
+// Where an item's parts begin, from the left edge: the band and the name.
+constexpr int itemIndent = 10;
+constexpr int bandWidth = itemIndent + 4;
+constexpr int nameLeft = itemIndent + 8;
+
+constexpr UINT lineOfText = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+
+// Text output takes no more than this, and no window is wide enough to show it; longer texts would be
+// measured for nothing.
+constexpr std::size_t longestDrawnText = 8192;
+
+void DrawTextIn(CDC& dc, std::wstring_view text, CRect rect, UINT format) {
+    if (text.empty() || rect.Width() <= 0 || rect.Height() <= 0)
+        return;
+    text = text.substr(0, longestDrawnText);
+    dc.DrawText(text.data(), static_cast<int>(text.size()), &rect, format);
+}
+
+void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
+    dc.MoveTo(x1, y1);
+    dc.LineTo(x2, y2);
+}
+
+// Shortens a path to `width` pixels in the selected font by an ellipsis among its folders.
+std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
+    wchar_t buffer[1024] = {};
+    path.copy(buffer, std::size(buffer) - 1);
+    // The shell keeps the file name in a buffer of its own, for which no real name is too long.
+    if (width > 0 && wcslen(::PathFindFileName(buffer)) < MAX_PATH)
+        ::PathCompactPath(dc.GetSafeHdc(), buffer, static_cast<UINT>(width));
+    return buffer;
+}
+
+bool Overlap(const CRect& a, const CRect& b) {
+    CRect common;
+    return common.IntersectRect(&a, &b) != FALSE;
+}
+
+}  // namespace
+
+// What one paint draws with.
+struct CPropertyGrid::CPaintTools {
+    CDC& dc;
+    CRect area;         // the client area without the scroll bar
+    CBrush textBrush;   // solid, of the text colour
+    CBrush titleBrush;  // solid, of the title text colour
+    CPen shadePen;      // one pixel wide, as all pens
+    CPen titlePen;
+
+    CPaintTools(CDC& paintDc, const CRect& paintArea, const CColors& colors) : dc(paintDc), area(paintArea) {
+        textBrush.CreateSolidBrush(colors.text);
+        titleBrush.CreateSolidBrush(colors.title);
+        shadePen.CreatePen(PS_SOLID, 1, colors.shade);
+        titlePen.CreatePen(PS_SOLID, 1, colors.title);
+    }
+};
+
+// Always paints the whole client area, however little of it is invalid: every visible row gets its
+// rectangles recorded.
+void CPropertyGrid::Paint(CDC& target) {
+    CRect client;
+    GetClientRect(&client);
+    CRect area = client;
+    if (m_scrollBarShown)
+        area.right -= ::GetSystemMetrics(SM_CXVSCROLL);
+
+    CMemoryCanvas canvas(target, client.Size());
+    {
+        CDC& dc = canvas.Dc();
+        CPaintTools tools(dc, area, m_colors);
+        const CSelectedObject pen(dc, tools.shadePen);
+        const CSelectedObject font(dc, m_font);
+        dc.FillSolidRect(&client, m_colors.back);
+        dc.SetBkMode(TRANSPARENT);
+
+        for (CGridSection* const section : m_contents.GetSections()) {
+            section->glyphRect.SetRectEmpty();
+            section->headerRect.SetRectEmpty();
+        }
+        if (m_contents.GetSections().empty())
+            PaintEmptyList(tools);
+        else if (m_displayMode == DM_SORTED)
+            PaintSorted(tools);
+        else
+            PaintSections(tools);
+    }
+    canvas.CopyTo(target);
+}
+
+void CPropertyGrid::PaintEmptyList(CPaintTools& tools) {
+    CRect rect = tools.area;
+    const int margin = rect.Width() / 4;
+    rect.DeflateRect(margin, 10, margin, 0);
+    tools.dc.SetTextColor(m_colors.text);
+    DrawTextIn(tools.dc, m_texts.emptyList, rect, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+}
+
+void CPropertyGrid::PaintSections(CPaintTools& tools) {
+    const bool categorized = m_displayMode == DM_CATEGORIZED;
+    int y = -GetScrollPosition();
+    for (CGridSection* const section : m_contents.GetSections()) {
+        const CRect row(0, y, tools.area.right, y + m_rowHeight);
+        section->headerRect = row;
+        if (categorized) {
+            if (Overlap(row, tools.area))
+                PaintHeader(tools, row, *section);
+            y += m_rowHeight;
+            // Their rectangles deliberately stay as an earlier paint recorded them.
+            if (section->collapsed)
+                continue;
+        }
+        for (CGridItem* const item : m_contents.Walk(*section)) {
+            PaintItemRow(tools, y, *item);
+            y += m_rowHeight;
+        }
+    }
+}
+
+void CPropertyGrid::PaintSorted(CPaintTools& tools) {
+    std::vector<CGridItem*> items = m_contents.WalkAll();
+    // Stable, so that equal names of different sections stay in section order.
+    std::stable_sort(items.begin(), items.end(),
+                     [](const CGridItem* a, const CGridItem* b) { return a->name < b->name; });
+    int y = -GetScrollPosition();
+    for (CGridItem* const item : items) {
+        PaintItemRow(tools, y, *item);
+        y += m_rowHeight;
+    }
+}
+
+void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSection& section) {
+    CDC& dc = tools.dc;
+    if (m_shadeHeaders)
+        dc.FillSolidRect(&row, m_colors.shade);
+    if (m_drawLines) {
+        DrawLine(dc, 0, row.top, row.right + 1, row.top);
+        DrawLine(dc, 0, row.bottom, row.right + 1, row.bottom);
+    }
+    if (m_drawDivider)
+        DrawLine(dc, m_gutter, row.top, m_gutter, row.bottom + 1);
+
+    section.glyphRect.SetRect(2, row.top + 4, 11, row.top + 13);
+    section.headerRect.SetRect(14, row.top, row.right, row.bottom);
+    dc.FrameRect(&section.glyphRect, &tools.titleBrush);
+    {
+        const CSelectedObject pen(dc, tools.titlePen);
+        DrawLine(dc, 4, row.top + 8, 9, row.top + 8);
+        if (section.collapsed)
+            DrawLine(dc, 6, row.top + 6, 6, row.top + 11);
+    }
+
+    const CSelectedObject font(dc, m_boldFont);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(m_colors.title);
+    if (section.id == m_focusedSection) {
+        const std::size_t length = std::min(section.name.size(), longestDrawnText);
+        const CSize size = dc.GetTextExtent(section.name.c_str(), static_cast<int>(length));
+        const int top = row.top + (m_rowHeight - size.cy) / 2;
+        const CRect focus(14, top, size.cx + 20, top + size.cy);
+        dc.DrawFocusRect(&focus);
+    }
+    DrawTextIn(dc, section.name, CRect(18, row.top, row.right, row.bottom), lineOfText | DT_END_ELLIPSIS);
+}
+
+// A row that is scrolled away only leaves word of where it would be.
+void CPropertyGrid::PaintItemRow(CPaintTools& tools, int y, CGridItem& item) {
+    const CRect row(0, y, tools.area.right, y + m_rowHeight);
+    item.nameRect = row;
+    item.valueRect.SetRectEmpty();
+    if (Overlap(row, tools.area))
+        PaintItem(tools, row, item);
+}
+
+void CPropertyGrid::PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item) {
+    CDC& dc = tools.dc;
+    if (m_shadeHeaders)
+        dc.FillSolidRect(0, row.top, bandWidth, m_rowHeight, m_colors.shade);
+    if (m_drawLines)
+        DrawLine(dc, 0, row.bottom, row.right + 1, row.bottom);
+    if (m_drawDivider)
+        DrawLine(dc, m_gutter, row.top, m_gutter, row.bottom + 1);
+
+    const int valueRight = PaintEditButton(tools, row, item);
+    item.nameRect.SetRect(0, row.top, m_gutter, row.bottom);
+    item.valueRect.SetRect(m_gutter, row.top, valueRight, row.bottom);
+    PaintName(tools, row, item);
+    PaintValue(tools, item);
+}
+
+// Draws and records the edit button of the focused item. Returns where the value column ends.
+int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, const CGridItem& item) {
+    if (item.id != m_focusedItem || !item.editable)
+        return row.right;
+    const int mode = item.GetEditMode();
+    if (mode == EM_CUSTOM)
+        return row.right;
+
+    CDC& dc = tools.dc;
+    CRect button(row.right - m_rowHeight, row.top, row.right, row.bottom);
+    // Deliberately so for an item without a drawn button (EM_INPLACE) too.
+    const int valueRight = button.left;
+    const UINT pushed = m_buttonPressed ? DFCS_PUSHED : 0;
+    if (mode == EM_DROPDOWN) {
+        dc.DrawFrameControl(&button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | pushed);
+    } else if (mode == EM_MODAL || mode == EM_INPLACE_BUTTON) {
+        const UINT flat = mode == EM_INPLACE_BUTTON ? DFCS_FLAT : 0;
+        dc.DrawFrameControl(&button, DFC_BUTTON, DFCS_BUTTONPUSH | flat | pushed);
+        const CSelectedObject font(dc, m_boldFont);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
+        DrawTextIn(dc, L"...", button, lineOfText | DT_CENTER);
+    }
+    // Where a press anywhere on the value opens the text edit, the whole of it counts as the button.
+    if (mode == EM_INPLACE || mode == EM_INPLACE_BUTTON)
+        button.left = m_gutter;
+    m_editButtonRect = button;
+    return valueRight;
+}
+
+void CPropertyGrid::PaintName(CPaintTools& tools, const CRect& row, const CGridItem& item) {
+    CDC& dc = tools.dc;
+    const bool focused = item.id == m_focusedItem;
+    if (focused) {
+        const CRect highlight(nameLeft - 4, row.top, m_gutter, row.bottom);
+        dc.FillSolidRect(&highlight, m_colors.focus);
+    }
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(focused ? m_colors.focusText : m_colors.text);
+    DrawTextIn(dc, item.name, CRect(nameLeft, row.top, m_gutter - 1, row.bottom),
+               lineOfText | DT_END_ELLIPSIS);
+}
+
+void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
+    CDC& dc = tools.dc;
+    dc.SetTextColor(item.editable ? m_colors.editable : m_colors.nonEditable);
+    if (item.kind == IT_CUSTOM) {
+        const CSavedDcState state(dc);
+        std::get<ICustomItem*>(item.value)->DrawItem(dc, item.valueRect, item.id == m_focusedItem);
+        return;
+    }
+
+    CRect cell = item.valueRect;
+    cell.left += TEXT_MARGIN;
+    if (item.kind == IT_COLOR)
+        cell.left = PaintSwatch(tools, cell, std::get<COLORREF>(item.value)).right + 6;
+
+    const bool modified = item.IsModified();
+    const bool changed = modified || item.undefined != item.savedUndefined;
+    const bool bold =
+        (m_boldEditable && item.editable && !(modified && m_boldModified)) || (m_boldModified && changed);
+    const CSelectedObject font(dc, bold ? m_boldFont : m_font);
+    std::wstring text = item.GetText(m_texts, dc.GetDeviceCaps(LOGPIXELSY));
+    if (item.IsPath() && !item.undefined)
+        text = CompactPath(dc, text, cell.Width());
+    if (modified) {
+        dc.SetBkMode(OPAQUE);
+        dc.SetBkColor(modifiedColor);
+    }
+    DrawTextIn(dc, text, cell, lineOfText | DT_END_ELLIPSIS);
+    dc.SetBkMode(TRANSPARENT);
+}
+
+CRect CPropertyGrid::PaintSwatch(CPaintTools& tools, const CRect& cell, COLORREF color) {
+    const CRect swatch(cell.left, cell.top + 3, cell.left + m_rowHeight, cell.bottom - 2);
+    tools.dc.FrameRect(&swatch, &tools.textBrush);
+    CRect inside = swatch;
+    inside.DeflateRect(1, 1);
+    tools.dc.FillSolidRect(&inside, color);
+    return swatch;
+}

@@ -1,0 +1,150 @@
+#include "DistanceItem.h"
+
+#include <string>
+
+#include "FakeHost.h"
+#include "GridFixture.h"
+#include "ModalHands.h"
+#include "Pixels.h"
+
+namespace {
+
+// The fake host writes 2 in units 2 as "U2:2.0000" and reads back that or a plain number.
+class DistanceItem : public GridTest {
+protected:
+    DistanceItem() {
+        fakeHost = FakeHost{};
+        fakeHost.mainWindow = hostWindow.m_hWnd;
+        grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
+        id = grid.AddCustomItem(grid.AddSection(L""), L"Width", &item);
+    }
+    ~DistanceItem() override { fakeHost = FakeHost{}; }
+
+    bool Highlighted() { return CGridPicture(grid).Has({0, 0, 300, 200}, modified); }
+
+    CGridParent hostWindow;
+    CDistanceItem item{parent.m_hWnd, 2.0};
+    UINT id = 0;
+};
+
+TEST_F(DistanceItem, IsEditedInPlaceWithAButton) {
+    EXPECT_EQ(item.GetEditMode(), EM_INPLACE_BUTTON);
+}
+
+TEST_F(DistanceItem, ShowsItsLengthInTheDrawingsUnits) {
+    EXPECT_EQ(item.GetStringValue(), L"U2:2.0000");
+    fakeHost.linearUnits = 4;
+    fakeHost.precision = 1;
+    EXPECT_EQ(item.GetStringValue(), L"U4:2.0");
+}
+
+TEST_F(DistanceItem, DrawsItsTextAtTheGridsMargin) {
+    grid.SetDrawDivider(false);
+    const CGridPicture picture(grid);
+    EXPECT_TRUE(picture.Has({154, 0, 300, RowHeight()}, editable));
+    EXPECT_TRUE(picture.Is({150, 0, 154, RowHeight()}, back));
+}
+
+TEST_F(DistanceItem, TakesATypedLength) {
+    EXPECT_TRUE(item.SetStringValue(L"2.5"));
+    EXPECT_EQ(item.GetDistance(), 2.5);
+}
+
+TEST_F(DistanceItem, ReportsNoChangeForAnotherSpellingOfTheSameLength) {
+    EXPECT_FALSE(item.SetStringValue(L"2.000"));
+    EXPECT_FALSE(item.SetStringValue(item.GetStringValue()));
+    EXPECT_EQ(item.GetDistance(), 2.0);
+}
+
+TEST_F(DistanceItem, ReadsATypedLengthInTheDrawingsUnits) {
+    fakeHost.linearUnits = 4;
+    EXPECT_TRUE(item.SetStringValue(L"U4:3"));
+    EXPECT_EQ(item.GetDistance(), 3.0);
+}
+
+TEST_F(DistanceItem, ReportsATextThatIsNoLengthOnceAndKeepsItsValue) {
+    CModalHands hands;
+    hands.ThenPressOk();
+    EXPECT_FALSE(item.SetStringValue(L"wide"));
+    ASSERT_EQ(hands.messages.size(), 1U);
+    EXPECT_EQ(hands.messages[0].caption, L"Invalid value");
+    EXPECT_EQ(hands.messages[0].text, L"The value you have input is invalid, please specify another one.");
+    EXPECT_EQ(hands.messages[0].buttons, 1);
+    EXPECT_EQ(hands.messages[0].owner, nullptr);
+    EXPECT_EQ(item.GetDistance(), 2.0);
+    EXPECT_FALSE(Highlighted());
+}
+
+TEST_F(DistanceItem, IsHighlightedWhileItDiffersFromTheLengthItWasMadeWith) {
+    EXPECT_FALSE(Highlighted());
+    item.SetStringValue(L"2.5");
+    EXPECT_TRUE(Highlighted());
+    item.SetStringValue(L"2");
+    EXPECT_FALSE(Highlighted());
+}
+
+TEST_F(DistanceItem, StaysHighlightedWhenTheGridAcceptsItsValues) {
+    item.SetStringValue(L"2.5");
+    grid.AcceptValues();
+    EXPECT_TRUE(Highlighted());
+}
+
+TEST_F(DistanceItem, TakesTheDistanceBetweenTwoPickedPoints) {
+    fakeHost.distance = 7.25;
+    EXPECT_TRUE(item.OnButtonClicked());
+    EXPECT_EQ(item.GetDistance(), 7.25);
+    EXPECT_EQ(fakeHost.prompts,
+              (std::vector<std::wstring>{L"\nSelect first point: ", L"\nSelect second point: "}));
+}
+
+TEST_F(DistanceItem, ReportsAPickOfTheSameDistanceAsAChange) {
+    fakeHost.distance = 2.0;
+    EXPECT_TRUE(item.OnButtonClicked());
+    EXPECT_EQ(item.GetDistance(), 2.0);
+    EXPECT_FALSE(Highlighted());
+}
+
+TEST_F(DistanceItem, GivesTheHostTheFloorWhileTheUserPicks) {
+    hostWindow.EnableWindow(FALSE);
+    bool hidden = false;
+    bool enabled = false;
+    fakeHost.duringPick = [&] {
+        hidden = !parent.IsWindowVisible();
+        enabled = hostWindow.IsWindowEnabled();
+        EXPECT_EQ(::GetActiveWindow(), hostWindow.m_hWnd);
+    };
+    item.OnButtonClicked();
+    EXPECT_TRUE(hidden);
+    EXPECT_TRUE(enabled);
+    EXPECT_TRUE(parent.IsWindowVisible());
+    EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd);
+    EXPECT_TRUE(hostWindow.IsWindowEnabled()) << "left enabled";
+}
+
+TEST_F(DistanceItem, KeepsItsValueWhenTheFirstPointIsCancelled) {
+    fakeHost.pointStatus = -5002;
+    fakeHost.distance = 9.0;
+    EXPECT_FALSE(item.OnButtonClicked());
+    EXPECT_EQ(item.GetDistance(), 2.0);
+    EXPECT_EQ(fakeHost.prompts.size(), 1U);
+    EXPECT_TRUE(parent.IsWindowVisible());
+}
+
+TEST_F(DistanceItem, KeepsItsValueWhenTheSecondPointIsCancelled) {
+    fakeHost.distanceStatus = -5002;
+    EXPECT_FALSE(item.OnButtonClicked());
+    EXPECT_EQ(item.GetDistance(), 2.0);
+    EXPECT_TRUE(parent.IsWindowVisible());
+    EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd);
+}
+
+TEST_F(DistanceItem, LeavesTheMouseAndTheDropDownToOthers) {
+    EXPECT_FALSE(item.OnLButtonDown(CRect(0, 0, 10, 10), CPoint(1, 1)));
+    item.OnMouseMove(CRect(0, 0, 10, 10), CPoint(1, 1));
+    item.OnLButtonUp(CRect(0, 0, 10, 10), CPoint(1, 1));
+    item.ShowDropDown(CRect(0, 0, 10, 10));
+    EXPECT_EQ(item.GetDistance(), 2.0);
+    EXPECT_TRUE(fakeHost.prompts.empty());
+}
+
+}  // namespace
