@@ -40,7 +40,9 @@ Rgb Screenshot::At(int x, int y) const {
     if (x < 0 || y < 0 || x >= m_width || y >= m_height)
         return {-1, -1, -1};
     const auto at = static_cast<std::size_t>(3 * (y * m_width + x));
-    const auto channel = [&](std::size_t offset) { return static_cast<unsigned char>(m_pixels.at(at + offset)); };
+    const auto channel = [&](std::size_t offset) {
+        return static_cast<unsigned char>(m_pixels.at(at + offset));
+    };
     return {channel(0), channel(1), channel(2)};
 }
 
@@ -72,7 +74,9 @@ void Window::Press(const std::string& key) const {
     OutputOf("xdotool key " + key);
 }
 
-Screenshot Window::Look() const { return Screenshot(OutputOf("import -window " + m_id + " -depth 8 ppm:-")); }
+Screenshot Window::Look() const {
+    return Screenshot(OutputOf("import -window " + m_id + " -depth 8 ppm:-"));
+}
 
 Screenshot Window::LookWhenStill() const {
     Screenshot last = Look();

@@ -44,16 +44,18 @@ TEST_F(ItemDialog, OkWritesBothFilesAndAnswersZero) {
     ClickAt(564, 279);
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
     EXPECT_NE(m_host.Output().find("\n0"), std::string::npos) << m_host.Output();
-    EXPECT_EQ(m_host.Read("door_TMP.TXT"),
-              "(working file of door.lsp)\r\n<<2001>>\r\nVAR\r\n#1 = 900\r\n#2 = 2100\r\n#3 = 125\r\n#4 = 80\r\n"
-              "#5 = 1050\r\n#6 = 20\r\n$7 = 1\r\n$8 = 3\r\n#9 = 75\r\n#10 = 0.35\r\nEND_VAR\r\n"
-              "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
-    EXPECT_EQ(m_host.Read("door.TXT"),
-              "Hinged door: sample item of TavrinWnd\r\n<<2001>>\r\nVAR\r\n$1 = \"<<1501>>\"D900\r\n"
-              "$2 = \"<<1502>>%\"D2100\r\n$3 = \"<<1503>>\"D125\r\n$4 = \"<<1504>>\"D80\r\n"
-              "$5 = \"<<1505>>\"D1050\r\n$6 = \"<<1506>>\"D20\r\n$7 = \"<<1507>>\"I1\r\n$8 = \"<<1508>>\"I3\r\n"
-              "$9 = \"<<1509>>\"R75\r\n$10 = \"<<1510>>\"R0.35\r\nEND_VAR\r\n"
-              "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
+    EXPECT_EQ(
+        m_host.Read("door_TMP.TXT"),
+        "(working file of door.lsp)\r\n<<2001>>\r\nVAR\r\n#1 = 900\r\n#2 = 2100\r\n#3 = 125\r\n#4 = 80\r\n"
+        "#5 = 1050\r\n#6 = 20\r\n$7 = 1\r\n$8 = 3\r\n#9 = 75\r\n#10 = 0.35\r\nEND_VAR\r\n"
+        "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
+    EXPECT_EQ(
+        m_host.Read("door.TXT"),
+        "Hinged door: sample item of TavrinWnd\r\n<<2001>>\r\nVAR\r\n$1 = \"<<1501>>\"D900\r\n"
+        "$2 = \"<<1502>>%\"D2100\r\n$3 = \"<<1503>>\"D125\r\n$4 = \"<<1504>>\"D80\r\n"
+        "$5 = \"<<1505>>\"D1050\r\n$6 = \"<<1506>>\"D20\r\n$7 = \"<<1507>>\"I1\r\n$8 = \"<<1508>>\"I3\r\n"
+        "$9 = \"<<1509>>\"R75\r\n$10 = \"<<1510>>\"R0.35\r\nEND_VAR\r\n"
+        "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
 }
 
 TEST_F(ItemDialog, CancelAnswersNilAndLeavesTheFilesAlone) {

@@ -40,19 +40,22 @@ TEST_P(ModuleFile, ExportsTheEntryPointAlone) {
     const std::string headers = Headers("TavrinWnd.dll");
     const std::size_t table = headers.find("[Ordinal/Name Pointer] Table");
     ASSERT_NE(table, std::string::npos);
-    EXPECT_EQ(All(headers.substr(table), R"(\[\s*\d+\][^\n]*?(\w+)\n)"), std::set<std::string>{"icrxEntryPoint"});
+    EXPECT_EQ(All(headers.substr(table), R"(\[\s*\d+\][^\n]*?(\w+)\n)"),
+              std::set<std::string>{"icrxEntryPoint"});
 }
 
 TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
     const std::string headers = Headers("TavrinWnd.dll");
     std::set<std::string> libraries;
     for (std::string name : All(headers, R"(DLL Name: (\S+))")) {
-        std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
+        std::transform(name.begin(), name.end(), name.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
         libraries.insert(name);
     }
-    const std::set<std::string> allowed = {
-        "td_alloc.dll", "kernel32.dll", "user32.dll",  "gdi32.dll",    "msvcrt.dll",  "comctl32.dll", "comdlg32.dll",
-        "ole32.dll",    "oleaut32.dll", "shell32.dll", "shlwapi.dll",  "gdiplus.dll", "advapi32.dll"};
+    const std::set<std::string> allowed = {"td_alloc.dll", "kernel32.dll", "user32.dll",   "gdi32.dll",
+                                           "msvcrt.dll",   "comctl32.dll", "comdlg32.dll", "ole32.dll",
+                                           "oleaut32.dll", "shell32.dll",  "shlwapi.dll",  "gdiplus.dll",
+                                           "advapi32.dll"};
     for (const std::string& library : libraries)
         EXPECT_TRUE(allowed.contains(library)) << library;
     EXPECT_TRUE(libraries.contains("td_alloc.dll"));
@@ -62,22 +65,22 @@ TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
 }
 
 TEST_P(ModuleFile, ComesWithItsCompanions) {
-    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"})
+    for (const char* file :
+         {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"})
         EXPECT_TRUE(fs::exists(fs::path(GetParam().folder) / file)) << file;
 }
 
-INSTANTIATE_TEST_SUITE_P(Built, ModuleFile,
-                         testing::Values(Architecture{"x64",
-                                                      BIN_DIR,
-                                                      "x86_64-w64-mingw32-objdump",
-                                                      {"??2@YAPEAX_K@Z", "??_U@YAPEAX_K@Z", "??3@YAXPEAX@Z",
-                                                       "??_V@YAXPEAX@Z"}},
-                                         Architecture{"x86",
-                                                      BIN_DIR_X86,
-                                                      "i686-w64-mingw32-objdump",
-                                                      {"??2@YAPAXI@Z", "??_U@YAPAXI@Z", "??3@YAXPAX@Z",
-                                                       "??_V@YAXPAX@Z"}}),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(
+    Built, ModuleFile,
+    testing::Values(Architecture{"x64",
+                                 BIN_DIR,
+                                 "x86_64-w64-mingw32-objdump",
+                                 {"??2@YAPEAX_K@Z", "??_U@YAPEAX_K@Z", "??3@YAXPEAX@Z", "??_V@YAXPEAX@Z"}},
+                    Architecture{"x86",
+                                 BIN_DIR_X86,
+                                 "i686-w64-mingw32-objdump",
+                                 {"??2@YAPAXI@Z", "??_U@YAPAXI@Z", "??3@YAXPAX@Z", "??_V@YAXPAX@Z"}}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     HostRun host;

@@ -122,6 +122,7 @@ TEST_F(ItemCommand, AnExceptionEndsWithNil) {
     CArguments list;
     fakeHost.arguments = list.String(L"item").List();
     fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
+    m_hands.ThenPressOk();
     EXPECT_EQ(RunItemDialog(), 0);
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
 }
@@ -134,6 +135,7 @@ TEST_F(ItemCommand, RestoresTheModuleStateOnEveryWayOut) {
     RunItemDialog();
     EXPECT_EQ(AfxGetModuleState(), before);
     fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
+    m_hands.ThenPressOk();
     RunItemDialog();
     EXPECT_EQ(AfxGetModuleState(), before);
 }

@@ -15,13 +15,31 @@ namespace {
 constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
 
+// A picture of one colour, or of a left and a right one. Large enough for its middle to be free of the soft
+// edge that stretching gives it.
+std::string Coloured(unsigned left, unsigned right) {
+    constexpr int size = 64;
+    std::vector<unsigned> pixels;
+    for (int pixel = 0; pixel < size * size; ++pixel)
+        pixels.push_back(pixel % size < size / 2 ? left : right);
+    return BitmapFile(size, size, pixels);
+}
+
+std::string Red() {
+    return Coloured(0xFF0000, 0xFF0000);
+}
+
+std::string Blue() {
+    return Coloured(0x0000FF, 0x0000FF);
+}
+
 // A parent window that paints itself white and hands owner drawing on to its children.
 class CParent : public CWnd {
 public:
     CParent() {
         const LPCTSTR name = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW),
                                                  static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-        CreateEx(0, name, L"parent", WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, CRect(50, 50, 450, 350), nullptr, 0);
+        CreateEx(0, name, L"parent", WS_POPUP | WS_VISIBLE, CRect(50, 50, 450, 350), nullptr, 0);
     }
     ~CParent() override { DestroyWindow(); }
 };
@@ -30,9 +48,9 @@ class PictureCtrl : public testing::Test {
 protected:
     // The control over a plain static of the parent, as a dialog binds it.
     void Bind(CPictureCtrl& picture, const RECT& area) {
-        const HWND control =
-            ::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, area.left, area.top, area.right - area.left,
-                              area.bottom - area.top, m_parent.m_hWnd, nullptr, nullptr, nullptr);
+        const HWND control = ::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, area.left, area.top,
+                                               area.right - area.left, area.bottom - area.top,
+                                               m_parent.m_hWnd, nullptr, nullptr, nullptr);
         ASSERT_TRUE(picture.SubclassWindow(control));
         PumpMessages();
     }
@@ -51,16 +69,16 @@ TEST_F(PictureCtrl, IsEmptyForAFileThatIsNotThere) {
 }
 
 TEST_F(PictureCtrl, StretchesThePictureOverTheWholeCell) {
-    m_folder.Write(L"wide.bmp", BitmapFile(2, 1, {0xFF0000, 0x0000FF}));
+    m_folder.Write(L"square.bmp", Coloured(0xFF0000, 0x0000FF));
     CPictureCtrl picture;
     Bind(picture, {10, 10, 60, 210});
-    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"wide.bmp").c_str()));
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"square.bmp").c_str()));
     PumpMessages();
     const CClientPixels pixels(picture);
-    // A wide picture in a tall cell: both colours from top to bottom, no letterbox.
-    for (const int y : {0, 100, 199}) {
-        EXPECT_EQ(pixels.At(0, y), red) << y;
-        EXPECT_NE(pixels.At(49, y), RGB(255, 255, 255)) << y;
+    // A square picture in a tall cell: both colours from top to bottom, no letterbox.
+    for (const int y : {8, 100, 190}) {
+        EXPECT_EQ(pixels.At(12, y), red) << y;
+        EXPECT_EQ(pixels.At(37, y), blue) << y;
     }
 }
 
@@ -95,8 +113,8 @@ TEST_F(PictureCtrl, TakesAFileThatIsNoPictureAndDrawsNothing) {
 }
 
 TEST_F(PictureCtrl, ReplacesThePictureByTheNextOne) {
-    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
-    m_folder.Write(L"blue.bmp", BitmapFile(1, 1, {0x0000FF}));
+    m_folder.Write(L"red.bmp", Red());
+    m_folder.Write(L"blue.bmp", Blue());
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});
     ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
@@ -106,7 +124,7 @@ TEST_F(PictureCtrl, ReplacesThePictureByTheNextOne) {
 }
 
 TEST_F(PictureCtrl, IsEmptyAfterALoadThatFailed) {
-    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    m_folder.Write(L"red.bmp", Red());
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});
     ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
@@ -116,7 +134,7 @@ TEST_F(PictureCtrl, IsEmptyAfterALoadThatFailed) {
 }
 
 TEST_F(PictureCtrl, KeepsAPictureThatIsLoadedBeforeTheWindowExists) {
-    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    m_folder.Write(L"red.bmp", Red());
     CPictureCtrl picture;
     ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
     Bind(picture, {0, 0, 50, 50});
@@ -131,7 +149,7 @@ TEST_F(PictureCtrl, MakesThePlainStaticOwnerDrawn) {
 }
 
 TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
-    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    m_folder.Write(L"red.bmp", Red());
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});
     ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
@@ -143,7 +161,7 @@ TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
 }
 
 TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {
-    m_folder.Write(L"red.bmp", BitmapFile(1, 1, {0xFF0000}));
+    m_folder.Write(L"red.bmp", Red());
     const auto cycle = [&] {
         CPictureCtrl picture;
         Bind(picture, {0, 0, 50, 50});

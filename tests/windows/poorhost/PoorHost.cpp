@@ -7,22 +7,54 @@
 
 #include "sds.h"
 
-int sds_defun(const wchar_t*, short) { return RTNORM; }
-int sds_undef(const wchar_t*, short) { return RTNORM; }
-int sds_getfuncode(void) { return 0; }
-sds_resbuf* sds_getargs(void) { return nullptr; }
-int sds_retint(int) { return RTNORM; }
-int sds_retnil(void) { return RTNORM; }
-int sds_retlist(const sds_resbuf*) { return RTNORM; }
-sds_resbuf* sds_buildlist(int, ...) { return nullptr; }
-int sds_fail(const wchar_t*) { return RTNORM; }
-HWND sds_getmainhwnd(void) { return nullptr; }
-int sds_findfile(const wchar_t*, wchar_t*, size_t) { return 0; }
-int sds_getvar(const wchar_t*, sds_resbuf*) { return 0; }
-int sds_rtos(double, int, int, wchar_t*) { return 0; }
-int sds_distof(const wchar_t*, int, double*) { return 0; }
-int sds_getpoint(const double*, const wchar_t*, double*) { return 0; }
-int sds_getdist(const double*, const wchar_t*, double*) { return 0; }
+int sds_defun(const wchar_t*, short) {
+    return RTNORM;
+}
+int sds_undef(const wchar_t*, short) {
+    return RTNORM;
+}
+int sds_getfuncode(void) {
+    return 0;
+}
+sds_resbuf* sds_getargs(void) {
+    return nullptr;
+}
+int sds_retint(int) {
+    return RTNORM;
+}
+int sds_retnil(void) {
+    return RTNORM;
+}
+int sds_retlist(const sds_resbuf*) {
+    return RTNORM;
+}
+sds_resbuf* sds_buildlist(int, ...) {
+    return nullptr;
+}
+int sds_fail(const wchar_t*) {
+    return RTNORM;
+}
+HWND sds_getmainhwnd(void) {
+    return nullptr;
+}
+int sds_findfile(const wchar_t*, wchar_t*, size_t) {
+    return 0;
+}
+int sds_getvar(const wchar_t*, sds_resbuf*) {
+    return 0;
+}
+int sds_rtos(double, int, int, wchar_t*) {
+    return 0;
+}
+int sds_distof(const wchar_t*, int, double*) {
+    return 0;
+}
+int sds_getpoint(const double*, const wchar_t*, double*) {
+    return 0;
+}
+int sds_getdist(const double*, const wchar_t*, double*) {
+    return 0;
+}
 
 int wmain() {
     wchar_t program[MAX_PATH];

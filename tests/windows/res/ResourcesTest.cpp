@@ -91,8 +91,8 @@ private:
     const BYTE* m_next;
 };
 
-void ExpectControl(const DialogControl& control, unsigned id, const std::wstring& text, int x, int y, int width,
-                   int height) {
+void ExpectControl(const DialogControl& control, unsigned id, const std::wstring& text, int x, int y,
+                   int width, int height) {
     EXPECT_EQ(control.id, id);
     EXPECT_EQ(control.text, text) << id;
     EXPECT_EQ(control.x, x) << id;

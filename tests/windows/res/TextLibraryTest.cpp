@@ -20,7 +20,9 @@ TEST_F(TextLibrary, GivesNoTextWhileTheResourceModuleIsMissingAndTriesAgain) {
     EXPECT_EQ(m_texts.Load(2001), CString(L"Porta a battente"));
 }
 
-TEST_F(TextLibrary, GivesAnEmptyTextForANumberThatIsNotThere) { EXPECT_EQ(m_texts.Load(60000), CString()); }
+TEST_F(TextLibrary, GivesAnEmptyTextForANumberThatIsNotThere) {
+    EXPECT_EQ(m_texts.Load(60000), CString());
+}
 
 TEST_F(TextLibrary, DoesNotMistakeALargeNumberForAnother) {
     EXPECT_EQ(m_texts.Load(2001), CString(L"Porta a battente"));

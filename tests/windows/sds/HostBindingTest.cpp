@@ -27,7 +27,8 @@ TEST_F(HostBinding, NamesEveryFunctionThatTheHostDoesNotExport) {
          {L"sds_defun", L"sds_undef", L"sds_getfuncode", L"sds_getargs", L"sds_retint", L"sds_retnil",
           L"sds_retlist", L"sds_buildlist", L"sds_fail", L"sds_alert", L"sds_getmainhwnd", L"sds_findfile",
           L"sds_getvar", L"sds_rtos", L"sds_distof", L"sds_getpoint", L"sds_getdist"}) {
-        EXPECT_NE((L'\n' + missing + L'\n').find(L'\n' + std::wstring(name) + L'\n'), std::wstring::npos) << name;
+        EXPECT_NE((L'\n' + missing + L'\n').find(L'\n' + std::wstring(name) + L'\n'), std::wstring::npos)
+            << name;
     }
 }
 

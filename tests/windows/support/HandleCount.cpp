@@ -3,8 +3,6 @@
 #include <windows.h>
 #include <winternl.h>
 
-extern "C" __declspec(dllimport) long long td_live_blocks(void);
-
 namespace {
 
 // The documented layout of an entry of the handle table that the system shares with each process.
@@ -25,7 +23,11 @@ constexpr int gdiTableOffset = 0x94;
 #endif
 
 int CountInSharedTable() {
-    const auto* environment = reinterpret_cast<const char*>(NtCurrentTeb()->ProcessEnvironmentBlock);
+    PROCESS_BASIC_INFORMATION process = {};
+    if (NtQueryInformationProcess(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof(process),
+                                  nullptr) != 0)
+        return -1;
+    const auto* environment = reinterpret_cast<const char*>(process.PebBaseAddress);
     const auto* table = *reinterpret_cast<const GdiTableEntry* const*>(environment + gdiTableOffset);
     if (table == nullptr)
         return -1;
@@ -73,5 +75,8 @@ int WindowCount() {
 }
 
 long long HeapBlockCount() {
-    return td_live_blocks();
+    using LiveBlocks = size_t (*)();
+    static const auto liveBlocks = reinterpret_cast<LiveBlocks>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"TD_Alloc.dll"), "td_live_blocks")));
+    return static_cast<long long>(liveBlocks());
 }

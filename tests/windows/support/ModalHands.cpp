@@ -49,6 +49,12 @@ void CModalHands::Then(Step step) {
     m_steps.push_back(std::move(step));
 }
 
+void CModalHands::Forget() {
+    m_steps.clear();
+    m_next = 0;
+    messages.clear();
+}
+
 void CModalHands::ThenPressOk() {
     Then([this](HWND box) {
         messages.push_back(ReadMessageBox(box));

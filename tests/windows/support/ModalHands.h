@@ -33,6 +33,9 @@ public:
     // Steps that have not run. A test that ends with steps left did not see what it expected.
     size_t StepsLeft() const { return m_steps.size() - m_next; }
 
+    // Back to an empty script.
+    void Forget();
+
     std::vector<MessageBoxSeen> messages;
 
 private:

@@ -1,0 +1,240 @@
+#include "TavrinWndDlg.h"
+
+#include <optional>
+#include <utility>
+
+#include "BlockTracker.h"
+#include "FindFile.h"
+#include "NumberText.h"
+#include "TemplateRewrite.h"
+#include "TemplateText.h"
+#include "TextFile.h"
+#include "TextLibrary.h"
+
+namespace {
+
+constexpr COLORREF backColor = 0xE1E1E1;
+constexpr COLORREF headerColor = 0xC8C8C8;
+constexpr int gutterWidth = 210;  // pixels
+constexpr unsigned headerPrefixText = 1363;
+constexpr int titleLine = 1;
+
+constexpr const wchar_t* workingFileEnding = L"_TMP.TXT";
+constexpr const wchar_t* templateFileEnding = L".TXT";
+constexpr const wchar_t* pictureEnding = L".png";
+
+constexpr const wchar_t* errorCaption = L"Error!";
+constexpr const wchar_t* systemCaption = nullptr;  // the system's own default
+constexpr const wchar_t* fileNotFound = L"File not found!";
+constexpr const wchar_t* unableToOpen = L"Error - unable to open file";
+constexpr const wchar_t* unableToWrite = L"Error - unable to write file";
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CTavrinWndDlg, CDialog)
+
+CTavrinWndDlg::CTavrinWndDlg(CWnd* parent) : CDialog(IDD, parent) {}
+
+CTavrinWndDlg::~CTavrinWndDlg() = default;
+
+void CTavrinWndDlg::SetArguments(CString baseName, double scale, int mode) {
+    m_baseName = baseName;
+    m_scale = scale;
+    m_mode = mode;
+}
+
+void CTavrinWndDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_ITEM_GRID, m_grid);
+    DDX_Control(pDX, IDC_ITEM_PICTURE, m_picture);
+    DDX_Control(pDX, IDC_ITEM_HEADER, m_header);
+}
+
+BEGIN_MESSAGE_MAP(CTavrinWndDlg, CDialog)
+    ON_WM_CTLCOLOR()
+    ON_BN_CLICKED(IDOK, &CTavrinWndDlg::OnClickedOk)
+END_MESSAGE_MAP()
+
+// A dialog that could not be filled must not stay open: OK would write what was not shown.
+BOOL CTavrinWndDlg::OnInitDialog() {
+    try {
+        return Initialize();
+    } catch (...) {
+        EndDialog(IDCANCEL);
+        throw;
+    }
+}
+
+BOOL CTavrinWndDlg::Initialize() {
+    m_backBrush.CreateSolidBrush(backColor);
+    m_headerBrush.CreateSolidBrush(headerColor);
+    CDialog::OnInitDialog();
+    if (!ArgumentsAreUsable()) {
+        PostMessage(WM_CLOSE);
+        return FALSE;
+    }
+    SetWindowText(m_baseName);
+    ShowPicture();
+    m_headerFont.CreatePointFont(160, L"Microsoft Sans Serif");
+    m_header.SetFont(&m_headerFont, TRUE);
+    m_grid.SetBackColor(backColor);
+    m_grid.SetShadeColor(headerColor);
+    LoadTemplate();
+    return TRUE;
+}
+
+HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {
+    if (pWnd->GetDlgCtrlID() != IDC_ITEM_HEADER)
+        return m_backBrush;
+    pDC->SetBkColor(headerColor);
+    return m_headerBrush;
+}
+
+// Closes with IDOK whatever happened to the files: what went wrong was shown.
+void CTavrinWndDlg::OnClickedOk() {
+    WriteValueFile();
+    UpdateTemplateDefaults();
+    OnOK();
+}
+
+bool CTavrinWndDlg::ArgumentsAreUsable() {
+    if (m_baseName.IsEmpty()) {
+        ShowError(L"Please specify a file name!", errorCaption);
+        return false;
+    }
+    const std::wstring workingFile = FileName(workingFileEnding);
+    if (!FindFile(workingFile)) {
+        ShowError((L"File not found '" + workingFile + L"'!").c_str(), errorCaption);
+        return false;
+    }
+    return true;
+}
+
+// An item without a picture is in order.
+void CTavrinWndDlg::ShowPicture() {
+    if (const std::optional<std::wstring> picture = FindFile(FileName(pictureEnding)))
+        m_picture.LoadFromFile(picture->c_str());
+}
+
+void CTavrinWndDlg::ShowTitle(const std::wstring& line) {
+    const std::wstring title = TitleText(line, Texts());
+    CString prefix;
+    m_header.SetWindowText(LoadResString(prefix, headerPrefixText) + title.c_str());
+    SetWindowText(title.c_str());
+}
+
+void CTavrinWndDlg::LoadTemplate() {
+    m_params.clear();
+    m_grid.ResetContents();
+    m_distanceItems.clear();
+    m_grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
+    m_grid.SetGutterWidth(gutterWidth);
+    const UINT section = m_grid.AddSection(L"Item Data");
+
+    const std::optional<std::wstring> path = FindFile(FileName(workingFileEnding));
+    if (!path) {
+        ShowError(fileNotFound, errorCaption);
+        return;
+    }
+    TextLines lines;
+    const bool readWhole = ReadTextFile(*path, lines);
+    CBlockTracker block;
+    for (int index = 0; index < static_cast<int>(lines.size()); ++index) {
+        const std::wstring& line = lines[static_cast<size_t>(index)];
+        if (index == titleLine)
+            ShowTitle(line);
+        if (!block.TakeLine(line))
+            continue;
+        if (std::optional<ParameterRow> row = ReadParameter(line, index, m_scale, m_mode, Texts()))
+            AddRow(section, *std::move(row));
+    }
+    if (!readWhole)
+        ShowError(unableToOpen, systemCaption);
+}
+
+// Adds the grid's row of a parameter and keeps its record. A row that the grid refuses, because another has
+// the same label, leaves a record without row: its value is written as it was read.
+void CTavrinWndDlg::AddRow(UINT section, ParameterRow row) {
+    ParamRecord& record = row.record;
+    switch (record.type) {
+        case 'D':
+            m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
+            record.customItem = m_distanceItems.back().get();
+            record.itemId = m_grid.AddCustomItem(section, record.label, record.customItem, row.editable);
+            break;
+        case 'I':
+            record.itemId =
+                m_grid.AddIntegerItem(section, record.label, record.intValue, L"%d", row.editable);
+            break;
+        case 'R':
+            record.itemId =
+                m_grid.AddDoubleItem(section, record.label, record.realValue, L"%g", row.editable);
+            break;
+        default:
+            ShowError(L"Warning! Found invalid type code.", L"Warning!");
+    }
+    m_params[record.lineIndex] = std::move(record);
+}
+
+// The text of a parameter's value as its row holds it now; what it was created with when the row gives none.
+std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
+    ParamRecord current = record;
+    if (record.type == 'D')
+        current.realValue = static_cast<const CDistanceItem*>(record.customItem)->GetDistance();
+    else if (record.type == 'I')
+        m_grid.GetItemValue(record.itemId, current.intValue);
+    else
+        m_grid.GetItemValue(record.itemId, current.realValue);
+    return ValueText(current, m_scale);
+}
+
+void CTavrinWndDlg::WriteValueFile() {
+    RewriteFile(workingFileEnding, RewriteWorkingFile);
+}
+
+void CTavrinWndDlg::UpdateTemplateDefaults() {
+    RewriteFile(templateFileEnding, RewriteTemplateFile);
+}
+
+// Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,
+// which is required: the file then ends where reading failed.
+void CTavrinWndDlg::RewriteFile(const wchar_t* ending, Rewriter rewrite) {
+    const std::wstring name = FileName(ending);
+    TextLines lines;
+    const std::optional<std::wstring> source = FindFile(name);
+    if (!source) {
+        ShowError(fileNotFound, errorCaption);
+        return;
+    }
+    if (!ReadTextFile(*source, lines))
+        ShowError(unableToOpen, systemCaption);
+    rewrite(lines, m_params, [this](const ParamRecord& record) { return CurrentValueText(record); });
+    const std::optional<std::wstring> target = FindFile(name);
+    if (!target) {
+        ShowError(fileNotFound, errorCaption);
+        return;
+    }
+    if (!WriteTextFile(*target, lines))
+        ShowError(unableToWrite, systemCaption);
+}
+
+int CTavrinWndDlg::GetPlaceholderNumber(CString line) {
+    return PlaceholderNumber(line.GetString());
+}
+
+CString CTavrinWndDlg::LoadResString(CString& out, unsigned id) {
+    static CTextLibrary texts;
+    out = texts.Load(id);
+    return out;
+}
+
+std::function<std::wstring(unsigned)> CTavrinWndDlg::Texts() {
+    return [this](unsigned id) {
+        CString text;
+        return std::wstring(LoadResString(text, id));
+    };
+}
+
+void CTavrinWndDlg::ShowError(const wchar_t* text, const wchar_t* caption) {
+    ::MessageBoxW(m_hWnd, text, caption, MB_OK);
+}
