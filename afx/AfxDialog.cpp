@@ -102,7 +102,7 @@ CDialog::CDialog(LPCTSTR templateName, CWnd* parent)
 CDialog::CDialog(UINT templateId, CWnd* parent) : CDialog(MAKEINTRESOURCE(templateId), parent) {}
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData) {
-    if (m_lpszTemplateName != nullptr || m_template != nullptr)
+    if (m_lpszTemplateName != nullptr)
         return FALSE;
     m_template = dialogTemplate;
     m_initData = initData;

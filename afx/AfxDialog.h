@@ -12,8 +12,8 @@ class CDialog : public CWnd {
     CDialog() = default;
     explicit CDialog(LPCTSTR templateName, CWnd* parent = nullptr);
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
-    // For DoModal with a template in memory, which must live until DoModal returns. FALSE when the dialog
-    // has a template already.
+    // For DoModal with a template in memory, which must live until DoModal returns; it takes the place of one
+    // that was given before. FALSE when the dialog comes from a resource.
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* initData = nullptr);
 
     // Modeless.

@@ -18,7 +18,7 @@ public:
     std::function<BOOL()> m_onInit = [] { return TRUE; };
     std::function<void()> m_onShown = [this] { EndDialog(IDOK); };
     std::function<BOOL(MSG*)> m_preTranslate = [](MSG*) { return FALSE; };
-    bool m_wasShown = false;
+    bool m_wasShown = false;  // has been on the screen
     CRect m_rect;
     std::string* m_log = nullptr;
 
@@ -29,13 +29,14 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
     BOOL OnInitDialog() override { return CDialog::OnInitDialog() && m_onInit(); }
-    void OnShowWindow(BOOL show, UINT status) {
-        CDialog::OnShowWindow(show, status);
-        if (show && !m_wasShown)
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
+        if (message == WM_WINDOWPOSCHANGED &&
+            (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) != 0 && !m_wasShown) {
+            m_wasShown = true;
             PostMessage(WM_APP);
-        m_wasShown |= show != FALSE;
-        if (!show && m_log != nullptr)
-            *m_log += "hidden;";
+        }
+        return result;
     }
     void OnDestroy() {
         if (m_log != nullptr)
@@ -50,7 +51,6 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CSteppedDialog, CDialog)
-    ON_WM_SHOWWINDOW()
     ON_WM_DESTROY()
     ON_MESSAGE(WM_APP, OnShown)
 END_MESSAGE_MAP()
@@ -135,7 +135,7 @@ TEST_F(Dialog, ComesFromAResource) {
     EXPECT_EQ(dialog.DoModal(), 5);
     EXPECT_EQ(dialog.m_title, L"Item - Property");
     EXPECT_EQ(dialog.m_ok, L"OK");
-    EXPECT_FALSE(dialog.InitModalIndirect(m_empty.Get())) << "it has a template already";
+    EXPECT_FALSE(dialog.InitModalIndirect(m_empty.Get())) << "it comes from a resource";
 }
 
 TEST_F(Dialog, DisablesItsOwnerAndEnablesItBeforeItGoesAway) {
@@ -167,6 +167,20 @@ TEST_F(Dialog, IsOwnedByTheWindowAboveAControl) {
         dialog.EndDialog(IDOK);
     };
     dialog.DoModal();
+}
+
+TEST_F(Dialog, DisablesTheTopOfItsChainOfOwnersToo) {
+    CWnd popup;
+    popup.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, m_owner.m_hWnd, nullptr);
+    CSteppedDialog dialog(m_empty, &popup);
+    dialog.m_onShown = [&] {
+        EXPECT_FALSE(popup.IsWindowEnabled());
+        EXPECT_FALSE(m_owner.IsWindowEnabled());
+        dialog.EndDialog(IDOK);
+    };
+    dialog.DoModal();
+    EXPECT_TRUE(popup.IsWindowEnabled());
+    EXPECT_TRUE(m_owner.IsWindowEnabled());
 }
 
 TEST_F(Dialog, GivesActivationAndFocusBack) {
@@ -201,15 +215,13 @@ TEST_F(Dialog, ThatEndsInOnInitDialogIsNeverSeen) {
         const CDialogTemplate made(style);
         CSteppedDialog dialog(made, &m_owner);
         HWND seen = nullptr;
-        bool visible = false;
         dialog.m_onInit = [&] {
             seen = dialog.m_hWnd;
             dialog.EndDialog(6);
             return TRUE;
         };
-        dialog.m_onShown = [&] { visible = true; };
         EXPECT_EQ(dialog.DoModal(), 6);
-        EXPECT_FALSE(visible);
+        EXPECT_FALSE(dialog.m_wasShown);
         EXPECT_FALSE(::IsWindow(seen));
         EXPECT_TRUE(m_owner.IsWindowEnabled());
         EXPECT_EQ(::GetFocus(), m_edit.m_hWnd);
@@ -338,6 +350,10 @@ TEST_F(Dialog, IsCentredOverItsOwnerUnlessItIsPlaced) {
     placed.m_onInit = [&] { return placed.SetWindowPos(&CWnd::wndTop, 100, 5, 0, 0, SWP_NOSIZE); };
     placed.DoModal();
     EXPECT_TRUE(placed.m_rect.TopLeft() == CPoint(100, 5));
+    const CDialogTemplate elsewhere(WS_POPUP | WS_CAPTION, 10, 20);
+    CSteppedDialog templatePlaced(elsewhere, &m_owner);
+    templatePlaced.DoModal();
+    EXPECT_LT(templatePlaced.m_rect.top, owner.top + 80);
 }
 
 class CBoundDialog : public CDialog {
