@@ -1,0 +1,227 @@
+#include "TavrinSelMaskDlg.h"
+
+#include "FindFile.h"
+
+namespace {
+
+constexpr wchar_t flatSlide[] = L"_t.png";
+constexpr wchar_t slideInSpace[] = L"_t_3d.png";
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF black = RGB(0, 0, 0);
+constexpr int frameWidth = 3;
+
+std::optional<std::wstring> FindSlide(const CString& name, const wchar_t* ending) {
+    return FindFile(std::wstring(name) + ending);
+}
+
+PixelRect ScreenRectOf(const CWnd& window) {
+    CRect rect;
+    window.GetWindowRect(&rect);
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+// White erases the black frame of an earlier selection.
+void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
+    const PixelRect outline = GetFrameOutline({cell.left, cell.top, cell.right, cell.bottom});
+    CPen pen(PS_SOLID, frameWidth, colour);
+    CPen* const previous = dc.SelectObject(&pen);
+    dc.MoveTo(outline.left, outline.top);
+    dc.LineTo(outline.right, outline.top);
+    dc.LineTo(outline.right, outline.bottom);
+    dc.LineTo(outline.left, outline.bottom);
+    dc.LineTo(outline.left, outline.top);
+    dc.SelectObject(previous);
+}
+
+// To a place in the client area of its parent, keeping its size.
+void MoveButton(CWnd& button, PixelPoint place) {
+    button.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+}
+
+}  // namespace
+
+IMPLEMENT_DYNAMIC(CTavrinSelMaskDlg, CDialog)
+
+CTavrinSelMaskDlg::CTavrinSelMaskDlg(CWnd* parent) : CDialog(IDD, parent) {}
+
+void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+        DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, m_pictures[cell - 1]);
+    DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
+}
+
+BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
+    ON_WM_CTLCOLOR()
+    ON_WM_PAINT()
+    ON_BN_CLICKED(IDOK, OnClickedOk)
+    ON_BN_CLICKED(IDCANCEL, OnCancel)
+    ON_CONTROL_RANGE(STN_CLICKED, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, OnClickedCell)
+    ON_CONTROL_RANGE(STN_DBLCLK, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, OnDoubleClickedCell)
+    ON_BN_CLICKED(IDC_CHOICE_REPLACE, OnClickedReplace)
+END_MESSAGE_MAP()
+
+BOOL CTavrinSelMaskDlg::OnInitDialog() {
+    m_brush.CreateSolidBrush(white);
+    CDialog::OnInitDialog();
+    // There is no paging: what does not fit is not offered at all.
+    if (m_nCount == 0 || m_nCount > MAX_CHOICES)
+        OnCancel();
+    ArrangeForCount();
+    m_btnReplace.SetWindowText(m_strReplaceText);
+    return TRUE;
+}
+
+HBRUSH CTavrinSelMaskDlg::OnCtlColor(CDC*, CWnd*, UINT) {
+    return GetBackgroundBrush();
+}
+
+void CTavrinSelMaskDlg::OnPaint() {
+    CDialog::OnPaint();
+    PaintFrames();
+}
+
+void CTavrinSelMaskDlg::OnClickedOk() {
+    EndWith(RESULT_CHOSEN);
+}
+
+void CTavrinSelMaskDlg::OnClickedCell(UINT id) {
+    SelectCell(static_cast<int>(id) - IDC_CHOICE_CELL1 + 1);
+}
+
+void CTavrinSelMaskDlg::OnDoubleClickedCell(UINT id) {
+    ActivateCell(static_cast<int>(id) - IDC_CHOICE_CELL1 + 1);
+}
+
+void CTavrinSelMaskDlg::OnClickedReplace() {
+    EndWith(RESULT_REPLACE);
+}
+
+void CTavrinSelMaskDlg::EndWith(EResult result) {
+    m_nResult = result;
+    OnOK();
+}
+
+void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
+    m_strReplaceText = replaceText;
+    m_nSkip3D = skip3D;
+}
+
+bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
+    if (!FindSlide(name, flatSlide) && (!FindSlide(name, slideInSpace) || m_nSkip3D != 0))
+        return false;
+    m_choices[static_cast<int>(m_nCount)] = name;
+    ++m_nCount;
+    return true;
+}
+
+HBRUSH CTavrinSelMaskDlg::GetBackgroundBrush() {
+    return m_brush;
+}
+
+void CTavrinSelMaskDlg::RefreshSlides() {
+    LoadSlides();
+}
+
+CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
+    if (!name.IsEmpty()) {
+        // Whether slides in space count was settled when the name became a choice.
+        for (const wchar_t* ending : {flatSlide, slideInSpace}) {
+            if (const auto path = FindSlide(name, ending))
+                return path->c_str();
+        }
+    }
+    if (const auto path = FindFile(L"empty.png"))
+        return path->c_str();
+    // Without an owner while the dialog has no window yet.
+    ::MessageBox(m_hWnd, L"Missing slide file! Unable to load correctly!", L"Error!", MB_OK);
+    return {};
+}
+
+CString CTavrinSelMaskDlg::GetLogoPath() {
+    const auto path = FindFile(L"logo.png");
+    return path ? path->c_str() : L"";
+}
+
+void CTavrinSelMaskDlg::SelectCell(int cell) {
+    if (!IsCellSelectable(cell))
+        return;
+    m_nSelChoice = GetChoiceOfCell(m_nCount, cell, m_nSelChoice);
+    m_nSelCell = cell - 1;
+    PaintFrames();
+}
+
+void CTavrinSelMaskDlg::ActivateCell(int cell) {
+    if (!IsCellSelectable(cell))
+        return;
+    SelectCell(cell);
+    EndWith(RESULT_CHOSEN);
+}
+
+void CTavrinSelMaskDlg::EnableItem(UINT id, BOOL enable) {
+    if (CWnd* const item = GetDlgItem(static_cast<int>(id)))
+        item->EnableWindow(enable);
+}
+
+CString CTavrinSelMaskDlg::GetCellPath(int cell) {
+    const int content = GetCellContent(m_nCount, cell);
+    if (content == CELL_EMPTY)
+        return {};
+    return content == CELL_LOGO ? GetLogoPath() : GetSlidePath(m_choices[content]);
+}
+
+void CTavrinSelMaskDlg::LoadSlides() {
+    // An empty path cannot be loaded, and a load that fails leaves the cell empty.
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+        m_pictures[cell - 1].LoadFromFile(GetCellPath(cell));
+    SelectCell(1);
+}
+
+void CTavrinSelMaskDlg::ArrangeForCount() {
+    CWnd& ok = *GetDlgItem(IDOK);
+    CWnd& cancel = *GetDlgItem(IDCANCEL);
+    const auto arrangement = ArrangeChoiceWindow(m_nCount, ScreenRectOf(*this), ScreenRectOf(ok),
+                                                 ScreenRectOf(cancel), ScreenRectOf(m_btnReplace));
+    if (arrangement) {
+        MoveWindow(0, 0, arrangement->width, arrangement->height);
+        MoveButton(ok, arrangement->ok);
+        MoveButton(cancel, arrangement->cancel);
+        if (arrangement->replace)
+            MoveButton(m_btnReplace, *arrangement->replace);
+        // With one row the buttons stand where empty cells of the other row are, which would take their
+        // clicks: the buttons must lie above.
+        for (CPictureCtrl& picture : m_pictures)
+            picture.SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    CenterWindow();
+}
+
+bool CTavrinSelMaskDlg::IsCellSelectable(int cell) {
+    return IsChoiceCellSelectable(m_nCount, cell);
+}
+
+void CTavrinSelMaskDlg::PaintFrames() {
+    if (m_hWnd == nullptr)
+        return;
+    // On the dialog's surface: what a control's own device context reaches outside the control differs
+    // from system to system.
+    CClientDC dc(this);
+    // With one or two choices there are frames in the bottom row too, where the buttons now stand.
+    for (CWnd* const button : {GetDlgItem(IDOK), GetDlgItem(IDCANCEL), GetDlgItem(IDC_CHOICE_REPLACE)}) {
+        if (button->IsWindowVisible())
+            dc.ExcludeClipRect(AreaOf(*button));
+    }
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+        if (HasChoiceFrame(m_nCount, cell))
+            PaintFrame(dc, AreaOf(m_pictures[cell - 1]), cell - 1 == m_nSelCell ? black : white);
+    }
+}
+
+// The client area of a control, in the dialog's coordinates.
+CRect CTavrinSelMaskDlg::AreaOf(const CWnd& control) {
+    CRect area;
+    control.GetClientRect(&area);
+    control.MapWindowPoints(this, &area);
+    return area;
+}

@@ -1,0 +1,108 @@
+// The choice dialog: up to six named choices, each a picture (a slide) in a cell. One cell is selected and
+// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h says what stands where.
+//
+// Fill it, load the slides, then run it:
+//
+//     CTavrinSelMaskDlg dialog(parent);
+//     dialog.SetArguments(L"Replace", 0);
+//     dialog.AddChoice(L"door_single");
+//     ...
+//     dialog.LoadSlides();
+//     if (dialog.DoModal() == IDOK)
+//         use(dialog.GetResult(), dialog.GetSelectedName());
+//
+// With no choice or with more than six DoModal returns IDCANCEL and nothing is seen. Cells are numbered
+// from 1, choices from 0.
+#pragma once
+
+#include <afxwin.h>
+
+#include <map>
+
+#include "ChoiceLayout.h"
+#include "PictureCtrl.h"
+#include "resource.h"
+
+class CTavrinSelMaskDlg : public CDialog {
+    DECLARE_DYNAMIC(CTavrinSelMaskDlg)
+
+public:
+    enum { IDD = IDD_CHOICE };
+
+    // How the dialog ended with IDOK; part of the result that LISP routines compare with.
+    enum EResult : int {
+        RESULT_CHOSEN = 100,    // OK, Enter, a double-click
+        RESULT_REPLACE = 1000,  // the Replace button
+    };
+
+    explicit CTavrinSelMaskDlg(CWnd* parent = nullptr);
+
+    // The caption of the Replace button, and whether AddChoice takes only names with a flat slide (any
+    // value but 0).
+    void SetArguments(const CString& replaceText, int skip3D);
+
+    // Takes the name as the next choice if the host finds a slide for it, NAME_t.png or, where those in
+    // space count too, NAME_t_3d.png. False when it finds none; the name is dropped.
+    bool AddChoice(const CString& name);
+
+    unsigned GetCount() const { return m_nCount; }
+
+    // After DoModal returned IDOK. The name is empty when the selected cell has no choice.
+    int GetResult() const { return m_nResult; }
+    CString GetSelectedName() { return m_choices[m_nSelChoice]; }
+
+    virtual HBRUSH GetBackgroundBrush();
+    virtual void RefreshSlides();
+
+    // The file to show for a choice: its slide, flat or in space; "empty.png" when the host finds neither
+    // any more or the name is empty. When that is missing too the user is told and the path is empty.
+    virtual CString GetSlidePath(CString name);
+    // Empty, without a message, when there is no "logo.png".
+    virtual CString GetLogoPath();
+
+    // Selects the cell, if it can be, and moves the black frame to it. Works before the window exists.
+    virtual void SelectCell(int cell);
+    // Selects the cell, if it can be, and ends the dialog with it.
+    virtual void ActivateCell(int cell);
+
+    // Enables or disables the control with this id, if there is one.
+    virtual void EnableItem(UINT id, BOOL enable);
+
+    // Loads every cell's picture and selects cell 1. May be called before the window exists.
+    virtual void LoadSlides();
+
+    // Cuts the window to the cells in use, moves the buttons into it and centres it over its owner.
+    virtual void ArrangeForCount();
+
+    virtual bool IsCellSelectable(int cell);
+    virtual void PaintFrames();
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+
+    HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    void OnPaint();
+    void OnClickedOk();
+    void OnClickedCell(UINT id);
+    void OnDoubleClickedCell(UINT id);
+    void OnClickedReplace();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CString GetCellPath(int cell);
+    void EndWith(EResult result);
+    CRect AreaOf(const CWnd& control);
+
+    CPictureCtrl m_pictures[CHOICE_CELLS];  // of cell 1 and on
+    CBrush m_brush;                         // white, behind everything
+    unsigned m_nCount = 0;
+    int m_nSelChoice = 0;  // from 0
+    int m_nSelCell = 0;    // from 0
+    int m_nResult = 0;     // EResult once the dialog ended with IDOK
+    int m_nSkip3D = 0;
+    // By index. Looking an index up that it does not hold inserts the empty name.
+    std::map<int, CString> m_choices;
+    CString m_strReplaceText;
+    CButton m_btnReplace;
+};

@@ -1,0 +1,153 @@
+// The frames of the choice dialog, pixel by pixel.
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "ChoiceFixture.h"
+#include "DialogInput.h"
+
+namespace {
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF grey = RGB(128, 128, 128);
+
+// By count, from 1. Cells outside the window show nothing.
+constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- ", "B-----",
+                                                    "B- -- ", "B-----", "B-----"};
+
+class ChoiceFrames : public CChoiceFixture {
+protected:
+    // Runs a dialog with `count` choices; `look` sees it painted.
+    void RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look) {
+        WriteSlides(count);
+        CTavrinSelMaskDlg dialog;
+        Run(dialog, count, [&](HWND window) {
+            EXPECT_TRUE(WaitForFrame(window, 1)) << count;
+            look(dialog);
+            PressCloseBox(window);
+        });
+    }
+};
+
+// Paints over all that the dialog shows, so that white frames can be told from its white surface.
+void CoverWithGrey(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    const HDC dc = GetDC(window);
+    const HBRUSH brush = CreateSolidBrush(grey);
+    FillRect(dc, &client, brush);
+    DeleteObject(brush);
+    ReleaseDC(window, dc);
+}
+
+TEST_F(ChoiceFrames, TheFirstCellHasABlackFrameOfThreePixelsForEveryCount) {
+    for (size_t count = 1; count <= 6; ++count) {
+        RunPainted(static_cast<int>(count), [&](CTavrinSelMaskDlg& dialog) {
+            EXPECT_EQ(FramesIn(dialog, white), shownFrames[count]) << count;
+        });
+    }
+}
+
+TEST_F(ChoiceFrames, TheOtherCellsHaveWhiteOnesAndSkippedCellsNone) {
+    constexpr std::array<const char*, 7> painted = {"",       "B  W  ", "BW WW ", "BWW---",
+                                                    "BW WW ", "BWWW-W", "BWWWWW"};
+    for (size_t count = 1; count <= 6; ++count) {
+        RunPainted(static_cast<int>(count), [&](CTavrinSelMaskDlg& dialog) {
+            CoverWithGrey(dialog);
+            dialog.PaintFrames();
+            EXPECT_EQ(FramesIn(dialog, grey), painted[count]) << count;
+        });
+    }
+}
+
+TEST_F(ChoiceFrames, MoveWithTheSelection) {
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        for (int cell = CHOICE_CELLS; cell >= 1; --cell) {
+            Click(CellOf(dialog, cell));
+            EXPECT_TRUE(WaitForFrame(dialog, cell)) << cell;
+            std::string expected = "------";
+            expected[static_cast<size_t>(cell - 1)] = 'B';
+            EXPECT_EQ(FramesIn(dialog, white), expected);
+        }
+    });
+}
+
+TEST_F(ChoiceFrames, DoNotMoveToTheLogo) {
+    RunPainted(5, [&](CTavrinSelMaskDlg& dialog) {
+        Click(CellOf(dialog, 4));
+        EXPECT_TRUE(WaitForFrame(dialog, 4));
+        Click(CellOf(dialog, 5));
+        // The click on a cell's neighbour shows that the one before was handled.
+        Click(CellOf(dialog, 6));
+        EXPECT_TRUE(WaitForFrame(dialog, 6));
+        dialog.SelectCell(5);
+        EXPECT_EQ(FramesIn(dialog, white), "-----B");
+    });
+}
+
+TEST_F(ChoiceFrames, StandAgainAfterAnotherWindowCoveredTheDialog) {
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        Click(CellOf(dialog, 2));
+        EXPECT_TRUE(WaitForFrame(dialog, 2));
+        CRect area;
+        dialog.GetWindowRect(&area);
+        CWnd cover;
+        cover.CreateEx(WS_EX_TOPMOST,
+                       AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH))),
+                       L"cover", WS_POPUP | WS_VISIBLE, area, nullptr, 0);
+        PumpMessages();
+        cover.DestroyWindow();
+        EXPECT_TRUE(WaitForFrame(dialog, 2));
+        EXPECT_EQ(FramesIn(dialog, white), "-B----");
+        EXPECT_EQ(ShownIn(dialog), "012345");
+    });
+}
+
+TEST_F(ChoiceFrames, StandAgainAfterTheWholeDialogIsRepainted) {
+    RunPainted(4, [&](CTavrinSelMaskDlg& dialog) {
+        dialog.SelectCell(5);
+        CoverWithGrey(dialog);
+        dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        EXPECT_EQ(FramesIn(dialog, white), "-- -B ");
+        EXPECT_EQ(ShownIn(dialog), "01 23 ");
+    });
+}
+
+TEST_F(ChoiceFrames, StandAgainAfterAPartOfTheDialogIsRepainted) {
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        const CRect leftHalfOfFrame(0, 0, 50, 100);
+        dialog.InvalidateRect(leftHalfOfFrame);
+        dialog.UpdateWindow();
+        PumpMessages();
+        EXPECT_EQ(FramesIn(dialog, white), "B-----");
+    });
+}
+
+TEST_F(ChoiceFrames, StayWhenACellIsRepainted) {
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        for (const int cell : {1, 2, 4}) {
+            ::InvalidateRect(CellOf(dialog, cell), nullptr, TRUE);
+            ::UpdateWindow(CellOf(dialog, cell));
+            EXPECT_EQ(FramesIn(dialog, white), "B-----") << cell;
+            EXPECT_EQ(ShownIn(dialog), "012345") << cell;
+        }
+    });
+}
+
+// With one and two choices cells of the bottom row have frames where the buttons now stand.
+TEST_F(ChoiceFrames, NeverRunOverAButton) {
+    for (const int count : {1, 2}) {
+        RunPainted(count, [&](CTavrinSelMaskDlg& dialog) {
+            CoverWithGrey(dialog);
+            dialog.PaintFrames();
+            const CClientPixels pixels(dialog);
+            for (const int button : {IDOK, IDCANCEL}) {
+                const RECT place = PlaceOf(dialog, ::GetDlgItem(dialog, button));
+                EXPECT_EQ(pixels.Count(place, grey), (place.right - place.left) * (place.bottom - place.top))
+                    << count;
+            }
+        });
+    }
+}
+
+}  // namespace
