@@ -51,9 +51,12 @@ int CHost::Run(CEntryPoint& entry, SRequest& request) {
     }
 }
 
-bool CHost::Send(CEntryPoint& entry, unsigned code) {
+std::wstring CHost::Send(CEntryPoint& entry, unsigned code) {
     SRequest request(code);
-    return Run(entry, request) == 0 && !request.failure;
+    const int answer = Run(entry, request);
+    if (request.failure)
+        return L"it said '" + *request.failure + L"'";
+    return answer != 0 ? L"it answered " + std::to_wstring(answer) : L"";
 }
 
 std::wstring CHost::ForgetFunctions() {

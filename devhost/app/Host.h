@@ -47,9 +47,9 @@ public:
     // The host, when this is its thread; otherwise null.
     static CHost* OfThisThread();
 
-    // Sends a request other than an invocation. True when the plug-in answered 0 and did not report failure.
-    // A C++ exception that the plug-in lets out ends the process.
-    bool Send(CEntryPoint& entry, unsigned request);
+    // Sends a request other than an invocation. What the plug-in has against it, for the user; empty when
+    // it answered 0 and did not report a failure. A C++ exception that it lets out ends the process.
+    std::wstring Send(CEntryPoint& entry, unsigned request);
     // The plug-in that the functions defined from now on belong to.
     void SetEntryPoint(CEntryPoint* entry) { m_entry = entry; }
     // Forgets the functions that are still defined; their names, separated by blanks.

@@ -45,9 +45,9 @@ CPlugIn::CPlugIn(CHost& host, const std::wstring& path) : m_host(host), m_path(p
         throw CUserError(Quoted(path) + L" lacks the entry point icrxEntryPoint: give --plugin a plug-in");
     }
     m_host.SetEntryPoint(m_entry);
-    if (!m_host.Send(*m_entry, SDS_LOAD)) {
+    if (const std::wstring refusal = m_host.Send(*m_entry, SDS_LOAD); !refusal.empty()) {
         Free();
-        throw CUserError(Quoted(path) + L" refused to be loaded: see what it said");
+        throw CUserError(Quoted(path) + L" refused to be loaded: " + refusal);
     }
 }
 
@@ -62,11 +62,11 @@ CPlugIn::~CPlugIn() {
 }
 
 void CPlugIn::Unload() {
-    const bool agreed = m_host.Send(*m_entry, SDS_UNLOAD);
+    const std::wstring refusal = m_host.Send(*m_entry, SDS_UNLOAD);
     const std::wstring leftBehind = m_host.ForgetFunctions();
     Free();
-    if (!agreed)
-        throw CUserError(Quoted(m_path) + L" reported a failure when it was unloaded");
+    if (!refusal.empty())
+        throw CUserError(Quoted(m_path) + L" refused to be unloaded: " + refusal);
     if (!leftBehind.empty())
         throw CUserError(Quoted(m_path) + L" left functions defined when it was unloaded: " + leftBehind);
 }

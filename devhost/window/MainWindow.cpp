@@ -24,7 +24,7 @@ constexpr int kPointWidth = 260;
 constexpr int kUnitsWidth = 160;
 
 // The list of outputs forgets its older half when it grows past this.
-constexpr int kMaxOutputLength = 200'000;
+constexpr int kMaxOutputLength = 60'000;
 
 HWND CreateControl(HWND parent, EControl id, const wchar_t* className, const wchar_t* text, DWORD style,
                    DWORD extendedStyle = WS_EX_CLIENTEDGE) {
@@ -34,6 +34,17 @@ HWND CreateControl(HWND parent, EControl id, const wchar_t* className, const wch
     if (control == nullptr)
         throw CUserError(L"the main window cannot be opened");
     return control;
+}
+
+// Where the window opens: in the middle of the screen, no larger than that.
+RECT FirstPlace() {
+    RECT screen;
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    const int width = std::min<int>(kWidth, screen.right - screen.left);
+    const int height = std::min<int>(kHeight, screen.bottom - screen.top);
+    const int left = (screen.left + screen.right - width) / 2;
+    const int top = (screen.top + screen.bottom - height) / 2;
+    return {left, top, left + width, top + height};
 }
 
 std::wstring TextOf(HWND window) {
@@ -64,8 +75,10 @@ CMainWindow::CMainWindow() {
     windowClass.lpszClassName = kClassName;
     RegisterClassExW(&windowClass);
 
-    CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                    CW_USEDEFAULT, kWidth, kHeight, nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    const RECT place = FirstPlace();
+    CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place.left, place.top,
+                    place.right - place.left, place.bottom - place.top, nullptr, nullptr,
+                    GetModuleHandleW(nullptr), this);
     if (m_window == nullptr)
         throw CUserError(L"the main window cannot be opened");
     try {

@@ -1,0 +1,88 @@
+// DevHost without --eval: LISP typed at the prompt, results in the list above it.
+#include <gtest/gtest.h>
+
+#include "HostProcess.h"
+
+namespace {
+
+constexpr int kOutput = 101;
+constexpr int kPrompt = 102;
+
+class Prompt : public testing::Test {
+protected:
+    Prompt()
+        : m_host({}),
+          m_output(m_host.Control(L"Edit", kOutput)),
+          m_prompt(m_host.Control(L"Edit", kPrompt)) {}
+
+    void Type(const std::wstring& text) const {
+        SendMessageW(m_prompt, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        PostMessageW(m_prompt, WM_KEYDOWN, VK_RETURN, 0);
+    }
+
+    bool WaitForOutput(const std::wstring& text) const {
+        return WaitUntil([&] { return TextOf(m_output) == text; });
+    }
+
+    SOutcome Close() {
+        PostMessageW(m_host.MainWindow(), WM_CLOSE, 0, 0);
+        return m_host.Wait();
+    }
+
+    CHostProcess m_host;
+    HWND m_output;
+    HWND m_prompt;
+};
+
+TEST_F(Prompt, EnterEvaluatesAndClosingEnds) {
+    Type(L"(echo 1 \"two\")");
+    EXPECT_TRUE(WaitForOutput(L"(echo 1 \"two\")\r\n(1 \"two\")"));
+    EXPECT_EQ(TextOf(m_prompt), L"");
+    Type(L"(give-nothing)");
+    EXPECT_TRUE(WaitForOutput(L"(echo 1 \"two\")\r\n(1 \"two\")\r\n(give-nothing)\r\n; no result"));
+    const SOutcome outcome = Close();
+    EXPECT_EQ(outcome.status, 0u);
+    EXPECT_EQ(outcome.output,
+              "(echo 1 \"two\")\n(1 \"two\")\n(give-nothing)\n; no result\n; heap: 0 blocks held\n");
+}
+
+TEST_F(Prompt, MistakesAreShownAndDoNotEndTheSession) {
+    Type(L"(unknown");
+    EXPECT_TRUE(WaitForOutput(L"(unknown\r\n; error: line 1, column 1: a parenthesis is not closed"));
+    Type(L"(fail-with \"no\")");
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"(fail-with \"no\")\r\n; error: no"); }));
+    Type(L"door");
+    EXPECT_TRUE(
+        WaitUntil([&] { return TextOf(m_output).ends_with(L"; error: the symbol DOOR has no value"); }));
+    EXPECT_EQ(Close().status, 0u);
+}
+
+TEST_F(Prompt, AnEmptyLineDoesNothing) {
+    Type(L"");
+    Type(L"5");
+    EXPECT_TRUE(WaitForOutput(L"5\r\n5"));
+    Close();
+}
+
+TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
+    Type(L"(leak 1 8)");
+    EXPECT_TRUE(WaitForOutput(L"(leak 1 8)\r\nnil"));
+    const SOutcome outcome = Close();
+    EXPECT_EQ(outcome.status, 1u);
+    EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 blocks held, 8 bytes\n");
+}
+
+TEST_F(Prompt, TheListOfOutputsForgetsWhatIsLongPast) {
+    const std::wstring line = L"\"" + std::wstring(5'000, L'x') + L"\"";
+    for (int i = 0; i < 9; ++i) {
+        Type(line);
+        ASSERT_TRUE(WaitUntil([&] { return TextOf(m_prompt).empty(); }));
+    }
+    EXPECT_GT(TextOf(m_output).size(), 40'000u);
+    Type(L"(echo 7)");
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"(echo 7)\r\n(7)"); }));
+    EXPECT_LT(TextOf(m_output).size(), 65'000u);
+    Close();
+}
+
+}  // namespace
