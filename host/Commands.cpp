@@ -4,7 +4,10 @@
 
 #include <exception>
 
+#include "TavrinPreviewDlg.h"
+#include "TavrinSelMaskDlg.h"
 #include "TavrinWndDlg.h"
+#include "TextLibrary.h"
 #include "sds.h"
 
 namespace {
@@ -26,6 +29,32 @@ int RunFramed(Body body) {
 
 bool BeginsWithString(const sds_resbuf* list) {
     return list != nullptr && list->type == RTSTR;
+}
+
+// The result of a function that answers no more than whether its dialog was confirmed.
+void SetResultOf(INT_PTR dialogResult) {
+    if (dialogResult == IDOK)
+        sds_retint(0);
+    else
+        sds_retnil();
+}
+
+// The text of TavrinRes.dll that says that no choice has a slide.
+constexpr unsigned noSlideText = 5019;
+
+// Gives the dialog the caption, the 3D flag and each of the names that has a slide.
+void TakeChoiceArguments(const sds_resbuf* list, CTavrinSelMaskDlg& dialog) {
+    // Only the value of a string is the address of a text. The flag is taken from any value, and a caller
+    // that gives none is in error but must not bring the host down.
+    const wchar_t* const caption = list->type == RTSTR ? list->value.string : L"";
+    const sds_resbuf* const flag = list->next;
+    dialog.SetArguments(caption, flag != nullptr ? flag->value.integer : 0);
+    if (flag == nullptr)
+        return;
+    for (const sds_resbuf* item = flag->next; item != nullptr; item = item->next) {
+        if (item->type == RTSTR)
+            dialog.AddChoice(item->value.string);
+    }
 }
 
 }  // namespace
@@ -53,22 +82,43 @@ int RunItemDialog() {
     return RunFramed([&](CWnd* parent) {
         CTavrinWndDlg dialog(parent);
         dialog.SetArguments(arguments->baseName, arguments->scale, arguments->mode);
+        SetResultOf(dialog.DoModal());
+        return 0;
+    });
+}
+
+int RunChoiceDialog() {
+    const sds_resbuf* const list = sds_getargs();
+    if (list == nullptr)
+        return 0;
+    return RunFramed([&](CWnd* parent) {
+        CTavrinSelMaskDlg dialog(parent);
+        TakeChoiceArguments(list, dialog);
+        if (dialog.GetCount() == 0) {
+            static CTextLibrary texts;
+            sds_alert(texts.Load(noSlideText));
+            sds_retnil();
+            return 1;
+        }
+        dialog.LoadSlides();
+        // The host keeps the list: it is not released here.
         if (dialog.DoModal() == IDOK)
-            sds_retint(0);
+            sds_retlist(sds_buildlist(RTSHORT, dialog.GetResult(), RTSTR,
+                                      dialog.GetSelectedName().GetString(), RTNONE));
         else
             sds_retnil();
         return 0;
     });
 }
 
-int RunChoiceDialog() {
-    if (sds_getargs() != nullptr)
-        sds_retnil();
-    return 0;
-}
-
 int RunPreviewDialog() {
-    if (BeginsWithString(sds_getargs()))
-        sds_retnil();
-    return 0;
+    const sds_resbuf* const list = sds_getargs();
+    if (!BeginsWithString(list))
+        return 0;
+    return RunFramed([&](CWnd* parent) {
+        CTavrinPreviewDlg dialog(parent);
+        dialog.SetName(list->value.string);
+        SetResultOf(dialog.DoModal());
+        return 0;
+    });
 }

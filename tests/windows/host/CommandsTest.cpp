@@ -140,26 +140,4 @@ TEST_F(ItemCommand, RestoresTheModuleStateOnEveryWayOut) {
     EXPECT_EQ(AfxGetModuleState(), before);
 }
 
-TEST(ChoiceCommand, AnswersNilForNowAndNothingWithoutArguments) {
-    fakeHost = {};
-    EXPECT_EQ(RunChoiceDialog(), 0);
-    EXPECT_TRUE(fakeHost.results.empty());
-    CArguments list;
-    fakeHost.arguments = list.String(L"Replace").Short(0).List();
-    EXPECT_EQ(RunChoiceDialog(), 0);
-    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
-}
-
-TEST(PreviewCommand, NeedsAString) {
-    fakeHost = {};
-    CArguments number;
-    fakeHost.arguments = number.Short(5).List();
-    EXPECT_EQ(RunPreviewDialog(), 0);
-    EXPECT_TRUE(fakeHost.results.empty());
-    CArguments list;
-    fakeHost.arguments = list.String(L"door").List();
-    EXPECT_EQ(RunPreviewDialog(), 0);
-    EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
-}
-
 }  // namespace

@@ -3,8 +3,8 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstdlib>
 #include <cwchar>
-#include <memory>
 #include <string>
 
 #include "sds.h"
@@ -46,9 +46,8 @@ int Found(const std::wstring& path, wchar_t* result, size_t capacity) {
 }
 
 // Lists handed to the module live in the host, outside the module's heap, until the program ends.
-std::vector<std::unique_ptr<sds_resbuf>>& BuiltLists() {
-    static std::vector<std::unique_ptr<sds_resbuf>> lists;
-    return lists;
+sds_resbuf* NewListItem() {
+    return static_cast<sds_resbuf*>(std::calloc(1, sizeof(sds_resbuf)));
 }
 
 }  // namespace
@@ -92,8 +91,7 @@ sds_resbuf* sds_buildlist(int type, ...) {
     sds_resbuf* first = nullptr;
     sds_resbuf** link = &first;
     for (; type != RTNONE; type = va_arg(values, int)) {
-        BuiltLists().push_back(std::make_unique<sds_resbuf>());
-        sds_resbuf* item = BuiltLists().back().get();
+        sds_resbuf* const item = NewListItem();
         item->type = static_cast<short>(type);
         if (type == RTREAL)
             item->value.real = va_arg(values, double);

@@ -1,0 +1,151 @@
+// tavrinprevmask from its argument to its result.
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "Arguments.h"
+#include "Bitmap.h"
+#include "Commands.h"
+#include "FakeHost.h"
+#include "HandleCount.h"
+#include "ModalHands.h"
+#include "ProcessHeap.h"
+#include "TempFolder.h"
+
+namespace {
+
+using Results = std::vector<std::string>;
+
+class PreviewCommand : public testing::Test {
+protected:
+    void SetUp() override {
+        fakeHost = {};
+        fakeHost.searchFolders = {m_folder.Path(L"")};
+        // A stream that stayed would show: 1000 of these are 64 MB.
+        m_folder.Write(L"door.png", BitmapFile(148, 148, std::vector<unsigned>(148 * 148, 0x3060C0)));
+    }
+
+    int Run(CArguments& arguments, const CModalHands::Step& step) {
+        m_hands.Forget();
+        fakeHost.results.clear();
+        fakeHost.arguments = arguments.List();
+        m_hands.Then(step);
+        return RunPreviewDialog();
+    }
+
+    CTempFolder m_folder;
+    CModalHands m_hands;
+};
+
+void PressEnter(HWND dialog) {
+    PostMessageW(dialog, WM_KEYDOWN, VK_RETURN, 0);
+}
+
+void PressEscape(HWND dialog) {
+    PostMessageW(dialog, WM_KEYDOWN, VK_ESCAPE, 0);
+}
+
+void PressCloseBox(HWND dialog) {
+    PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+TEST_F(PreviewCommand, AnythingButAStringSetsNoResultAndOpensNothing) {
+    CArguments none;
+    CArguments number;
+    number.Short(5);
+    CArguments real;
+    real.Real(1).String(L"door");
+    for (CArguments* arguments : {&none, &number, &real}) {
+        EXPECT_EQ(Run(*arguments, PressEnter), 0);
+        EXPECT_TRUE(fakeHost.results.empty());
+        EXPECT_TRUE(fakeHost.searched.empty());
+        EXPECT_EQ(m_hands.StepsLeft(), 1U);
+    }
+}
+
+TEST_F(PreviewCommand, EnterAnswersZero) {
+    CArguments list;
+    list.String(L"door");
+    EXPECT_EQ(Run(list, PressEnter), 0);
+    EXPECT_EQ(fakeHost.results, Results{"0"});
+    EXPECT_EQ(fakeHost.searched, std::vector<std::wstring>{L"door.png"});
+}
+
+TEST_F(PreviewCommand, EscapeAndTheCloseBoxAnswerNil) {
+    CArguments list;
+    list.String(L"door");
+    for (const auto press : {PressEscape, PressCloseBox}) {
+        EXPECT_EQ(Run(list, press), 0);
+        EXPECT_EQ(fakeHost.results, Results{"nil"});
+    }
+}
+
+TEST_F(PreviewCommand, EnterAnswersZeroWithoutThePictureToo) {
+    CArguments list;
+    list.String(L"missing");
+    Run(list, PressEnter);
+    EXPECT_EQ(fakeHost.results, Results{"0"});
+    EXPECT_TRUE(fakeHost.alerts.empty());
+}
+
+TEST_F(PreviewCommand, FurtherArgumentsDoNotMatter) {
+    CArguments list;
+    list.String(L"door").Short(1).Other();
+    Run(list, PressEnter);
+    EXPECT_EQ(fakeHost.results, Results{"0"});
+}
+
+TEST_F(PreviewCommand, OpensOverTheHostsMainWindow) {
+    CWnd host;
+    host.CreateEx(0, AfxRegisterWndClass(0), L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 900, 700),
+                  nullptr, 0);
+    fakeHost.mainWindow = host;
+    CArguments list;
+    list.String(L"door");
+    Run(list, [&](HWND dialog) {
+        EXPECT_EQ(::GetWindow(dialog, GW_OWNER), host.m_hWnd);
+        EXPECT_FALSE(::IsWindowEnabled(host));
+        PressCloseBox(dialog);
+    });
+    EXPECT_TRUE(::IsWindowEnabled(host));
+    host.DestroyWindow();
+}
+
+TEST_F(PreviewCommand, AnExceptionEndsWithNilAndTheOldModuleState) {
+    AFX_MODULE_STATE* const before = AfxGetModuleState();
+    fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
+    CArguments list;
+    list.String(L"door");
+    m_hands.Forget();
+    fakeHost.arguments = list.List();
+    m_hands.ThenPressOk();
+    EXPECT_EQ(RunPreviewDialog(), 0);
+    EXPECT_EQ(fakeHost.results, Results{"nil"});
+    EXPECT_EQ(AfxGetModuleState(), before);
+}
+
+TEST_F(PreviewCommand, AThousandCallsLeaveNothingBehind) {
+    CArguments list;
+    list.String(L"door");
+    const auto call = [&](int round) {
+        Run(list, round % 2 == 0 ? PressEnter : PressCloseBox);
+        m_hands.Forget();
+        fakeHost.searched.clear();
+        fakeHost.results.clear();
+    };
+    for (int round = 0; round < 4; ++round)
+        call(round);
+    const int gdi = GdiObjectCount();
+    const int windows = WindowCount();
+    const long long blocks = HeapBlockCount();
+    const long long memory = ProcessHeapSize();
+    for (int round = 0; round < 1000; ++round)
+        call(round);
+    EXPECT_EQ(GdiObjectCount(), gdi);
+    EXPECT_EQ(WindowCount(), windows);
+    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_LT(ProcessHeapSize() - memory, 4'000'000);
+}
+
+}  // namespace
