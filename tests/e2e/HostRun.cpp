@@ -78,3 +78,8 @@ int HostRun::Wait(int seconds) {
     m_process = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
+
+std::string HostRun::Answer() const {
+    const std::string output = Output();
+    return output.substr(0, output.find_first_of("\r\n"));
+}

@@ -30,6 +30,9 @@ public:
     // Waits for the end. The exit status, or -1 when it does not end within `seconds`.
     int Wait(int seconds = 30);
 
+    // What LISP was answered: the first line of the output.
+    std::string Answer() const;
+
     // What it has printed so far on standard output and standard error.
     std::string Output() const { return Read(".output"); }
     std::string Errors() const { return Read(".errors"); }

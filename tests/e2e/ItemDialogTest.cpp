@@ -43,7 +43,7 @@ TEST_F(ItemDialog, OkWritesBothFilesAndAnswersZero) {
     Open();
     ClickAt(564, 279);
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("\n0"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "0");
     EXPECT_EQ(
         m_host.Read("door_TMP.TXT"),
         "(working file of door.lsp)\r\n<<2001>>\r\nVAR\r\n#1 = 900\r\n#2 = 2100\r\n#3 = 125\r\n#4 = 80\r\n"
@@ -62,7 +62,7 @@ TEST_F(ItemDialog, CancelAnswersNilAndLeavesTheFilesAlone) {
     Open();
     ClickAt(616, 279);
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("nil"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "nil");
     ExpectFilesUntouched();
 }
 
@@ -70,7 +70,7 @@ TEST_F(ItemDialog, EscapeAnswersNilAndLeavesTheFilesAlone) {
     Open();
     m_dialog.Press("Escape");
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("nil"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "nil");
     ExpectFilesUntouched();
 }
 
@@ -78,7 +78,7 @@ TEST_F(ItemDialog, TheCloseBoxAnswersNilAndLeavesTheFilesAlone) {
     Open();
     m_dialog.Press("alt+F4");
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("nil"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "nil");
     ExpectFilesUntouched();
 }
 
@@ -86,7 +86,7 @@ TEST_F(ItemDialog, EnterPressesOk) {
     Open();
     m_dialog.Press("Return");
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("\n0"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "0");
 }
 
 TEST_F(ItemDialog, TheHeaderIsADarkerBandThanTheRest) {
@@ -127,7 +127,7 @@ TEST_F(ItemDialog, AMissingItemIsNamedAndAnswersNil) {
     ASSERT_TRUE(box.IsValid());
     box.Press("Return");
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
-    EXPECT_NE(m_host.Output().find("nil"), std::string::npos) << m_host.Output();
+    EXPECT_EQ(m_host.Answer(), "nil");
 }
 
 }  // namespace

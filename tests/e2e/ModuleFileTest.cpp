@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ostream>
 #include <regex>
 #include <set>
 #include <string>
@@ -20,6 +21,10 @@ struct Architecture {
     const char* objdump;
     std::set<std::string> allocator;
 };
+
+void PrintTo(const Architecture& architecture, std::ostream* stream) {
+    *stream << architecture.name;
+}
 
 class ModuleFile : public testing::TestWithParam<Architecture> {
 protected:
@@ -40,8 +45,8 @@ TEST_P(ModuleFile, ExportsTheEntryPointAlone) {
     const std::string headers = Headers("TavrinWnd.dll");
     const std::size_t table = headers.find("[Ordinal/Name Pointer] Table");
     ASSERT_NE(table, std::string::npos);
-    EXPECT_EQ(All(headers.substr(table), R"(\[\s*\d+\][^\n]*?(\w+)\n)"),
-              std::set<std::string>{"icrxEntryPoint"});
+    const std::string names = headers.substr(table, headers.find("\n\n", table) + 1 - table);
+    EXPECT_EQ(All(names, R"(\[\s*\d+\][^\n]*?(\w+)\n)"), std::set<std::string>{"icrxEntryPoint"});
 }
 
 TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
@@ -96,7 +101,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     ASSERT_TRUE(dialog.IsValid()) << host.Errors();
     dialog.Press("Return");
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
-    EXPECT_NE(host.Output().find("\n0"), std::string::npos) << host.Output();
+    EXPECT_EQ(host.Answer(), "0");
 }
 
 TEST(AnyHost, IsToldWhichFunctionItLacks) {
