@@ -1,5 +1,5 @@
 // Exchange between a dialog's controls and its members.
-#include "afxwin.h"
+#include "afxcmn.h"
 
 HWND CDataExchange::PrepareCtrl(int id) {
     m_lastControl = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
@@ -47,4 +47,58 @@ void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control) {
         return;
     if (!control.SubclassWindow(exchange->PrepareCtrl(id)))
         AfxThrowNotSupportedException();
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value) {
+    const HWND control = exchange->PrepareEditCtrl(id);
+    CString shown;
+    const int length = ::GetWindowTextLength(control);
+    ::GetWindowText(control, shown.GetBufferSetLength(length), length + 1);
+    shown.ReleaseBuffer();
+    if (exchange->m_bSaveAndValidate)
+        value = shown;
+    else if (value != shown)  // an equal text is left alone, and with it the caret and the selection
+        ::SetWindowText(control, value);
+}
+
+void AFXAPI DDX_Check(CDataExchange* exchange, int id, int& value) {
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
+    else
+        ::SendMessage(control, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0,
+                      0);
+}
+
+void AFXAPI DDX_Radio(CDataExchange* exchange, int id, int& value) {
+    HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = -1;
+    int index = 0;
+    do {
+        if ((::SendMessage(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0) {
+            if (!exchange->m_bSaveAndValidate)
+                ::SendMessage(control, BM_SETCHECK, index == value, 0);
+            else if (::SendMessage(control, BM_GETCHECK, 0, 0) != 0)
+                value = index;
+            ++index;
+        }
+        control = ::GetWindow(control, GW_HWNDNEXT);
+    } while (control != nullptr && (::GetWindowLong(control, GWL_STYLE) & WS_GROUP) == 0);
+}
+
+void AFXAPI DDX_Scroll(CDataExchange* exchange, int id, int& value) {
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = ::GetScrollPos(control, SB_CTL);
+    else
+        ::SetScrollPos(control, SB_CTL, value, TRUE);
+}
+
+void AFXAPI DDX_Slider(CDataExchange* exchange, int id, int& value) {
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = static_cast<int>(::SendMessage(control, TBM_GETPOS, 0, 0));
+    else
+        ::SendMessage(control, TBM_SETPOS, TRUE, value);
 }

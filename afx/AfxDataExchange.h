@@ -26,3 +26,11 @@ private:
 
 // Binds a member to the control, which then gets the control's messages.
 void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+
+// Values of controls.
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value);
+void AFXAPI DDX_Check(CDataExchange* exchange, int id, int& value);  // 0, 1, or 2 for neither
+// The radio button chosen in the group that begins with the control, counted from 0; -1 for none.
+void AFXAPI DDX_Radio(CDataExchange* exchange, int id, int& value);
+void AFXAPI DDX_Scroll(CDataExchange* exchange, int id, int& value);
+void AFXAPI DDX_Slider(CDataExchange* exchange, int id, int& value);

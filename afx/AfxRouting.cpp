@@ -129,7 +129,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
 void CWnd::OnNcDestroy() {
     Default();
-    UnsubclassWindow();
+    Detach();
     PostNcDestroy();  // the object may be gone after this
 }
 

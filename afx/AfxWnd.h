@@ -216,6 +216,7 @@ protected:
     afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg BOOL OnHelpInfo(HELPINFO*) { return static_cast<BOOL>(Default()); }
+    afx_msg void OnHelp() {}  // shows the program's help: the module has none
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
 

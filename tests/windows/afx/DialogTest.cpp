@@ -164,6 +164,7 @@ TEST_F(Dialog, IsOwnedByTheWindowAboveAControl) {
     dialog.m_onShown = [&] {
         EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), m_owner.m_hWnd);
         EXPECT_FALSE(m_owner.IsWindowEnabled());
+        EXPECT_TRUE(m_edit.GetStyle() & WS_VISIBLE && !(m_edit.GetStyle() & WS_DISABLED));
         dialog.EndDialog(IDOK);
     };
     dialog.DoModal();

@@ -31,6 +31,14 @@ protected:
         return m_folder.Read(L"out.txt");
     }
 
+    // A file object whose handle allows no writing, as when the disk or the network fails later on.
+    void OpenForFailingWrites(CStdioFile& file) {
+        const std::wstring path = m_folder.Path(L"out.txt");
+        ASSERT_TRUE(file.Open(path.c_str(), CFile::modeCreate | CFile::modeWrite | CFile::typeText));
+        CloseHandle(file.m_hFile);
+        file.m_hFile = CreateFile(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    }
+
     CTempFolder m_folder;
 
 private:
@@ -148,35 +156,42 @@ TEST_F(StdioFile, SharesNothingUnlessAskedTo) {
     EXPECT_TRUE(second.Open(path.c_str(), CFile::modeRead | CFile::shareDenyNone));
 }
 
-// A write cannot fail on an open file here, unless its handle is taken away.
 TEST_F(StdioFile, ThrowsFromCloseWhatKeepsTheRestFromBeingWritten) {
-    CStdioFile file(m_folder.Path(L"out.txt").c_str(),
-                    CFile::modeCreate | CFile::modeWrite | CFile::typeText);
+    CStdioFile file;
+    OpenForFailingWrites(file);
     file.WriteString(L"text");
-    CloseHandle(file.m_hFile);
     try {
         file.Close();
         FAIL() << "closed";
     } catch (CFileException* error) {
-        EXPECT_EQ(error->m_cause, CFileException::invalidFile);
-        EXPECT_EQ(error->m_lOsError, ERROR_INVALID_HANDLE);
+        EXPECT_EQ(error->m_cause, CFileException::accessDenied);
+        EXPECT_EQ(error->m_lOsError, ERROR_ACCESS_DENIED);
         error->Delete();
     }
-    EXPECT_EQ(file.m_hFile, INVALID_HANDLE_VALUE);
+    EXPECT_EQ(file.m_hFile, INVALID_HANDLE_VALUE) << "closed all the same";
 }
 
-TEST_F(StdioFile, ThrowsWhatKeepsItFromReadingAndWriting) {
-    m_folder.Write(L"in.txt", "a");
-    CStdioFile reading(m_folder.Path(L"in.txt").c_str(), CFile::modeRead);
-    CloseHandle(reading.m_hFile);
-    CString line;
-    EXPECT_THROW(reading.ReadString(line), CFileException*);
-    reading.Abort();
+TEST_F(StdioFile, ThrowsFromCloseWhatKeepsTheHandleFromClosing) {
+    CStdioFile file(m_folder.Path(L"out.txt").c_str(),
+                    CFile::modeCreate | CFile::modeWrite | CFile::typeText);
+    CloseHandle(file.m_hFile);
+    EXPECT_THROW(file.Close(), CFileException*);
+}
 
-    CStdioFile writing(m_folder.Path(L"out.txt").c_str(), CFile::modeCreate | CFile::modeWrite);
-    CloseHandle(writing.m_hFile);
-    EXPECT_THROW(writing.WriteString(CString(L'x', 100000)), CFileException*);
-    writing.Abort();
+TEST_F(StdioFile, ThrowsWhatKeepsItFromWritingOnceItsBufferIsFull) {
+    CStdioFile file;
+    OpenForFailingWrites(file);
+    EXPECT_THROW(file.WriteString(CString(L'x', 100000)), CFileException*);
+    file.Abort();
+}
+
+TEST_F(StdioFile, ThrowsWhatKeepsItFromReading) {
+    m_folder.Write(L"in.txt", "a");
+    CStdioFile file(m_folder.Path(L"in.txt").c_str(), CFile::modeRead);
+    CloseHandle(file.m_hFile);
+    CString line;
+    EXPECT_THROW(file.ReadString(line), CFileException*);
+    file.Abort();
 }
 
 TEST_F(StdioFile, RefusesACharacterThatTheLocaleCannotExpress) {
