@@ -24,11 +24,8 @@
 
 #include "GridContents.h"
 #include "GridItem.h"
+#include "GridMessages.h"
 #include "ICustomItem.h"
-
-// Sent (synchronously) to the grid's owner window, its parent unless an owner was set, after the user
-// changed a value: wParam is the item's id, lParam 0.
-inline constexpr UINT WM_GRID_ITEM_CHANGED = WM_USER + 486;
 
 class CPropertyGrid : public CWnd {
     DECLARE_DYNAMIC(CPropertyGrid)
