@@ -1,4 +1,4 @@
-// A person's mouse and keyboard for a dialog of the test's own thread.
+// A person's mouse and keyboard for a window of the test's own thread.
 #pragma once
 
 #include <windows.h>
