@@ -32,7 +32,7 @@ struct DialogTemplate {
     std::wstring_view caption = {};
     std::uint16_t pointSize = 0;
     std::wstring_view faceName = {};
-    std::vector<DialogTemplateItem> items;
+    std::vector<DialogTemplateItem> items = {};
 };
 
 // How many bytes the template takes. The last item is not rounded up.

@@ -1,0 +1,36 @@
+#include "ActiveXHost.h"
+
+#include <objidl.h>
+
+namespace {
+
+using CreateControlFunction = HRESULT(WINAPI*)(LPCOLESTR name, HWND window, IStream* data,
+                                               IUnknown** container);
+
+template <typename Function>
+Function Find(HMODULE library, const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+}
+
+CreateControlFunction LoadHosting() {
+    for (const LPCTSTR name : {_T("atl.dll"), _T("atl110.dll")}) {
+        // Never freed: it registers window classes, and its windows may live as long as the process.
+        const HMODULE library = ::LoadLibraryEx(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        if (library == nullptr)
+            continue;
+        const auto initialise = Find<BOOL(WINAPI*)()>(library, "AtlAxWinInit");
+        const auto create = Find<CreateControlFunction>(library, "AtlAxCreateControl");
+        if (initialise != nullptr && create != nullptr && initialise())
+            return create;
+        ::FreeLibrary(library);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+bool CreateActiveXIn(HWND window, LPCTSTR progId) {
+    static const CreateControlFunction create = LoadHosting();
+    // The hosting would take an empty name for a window without a control.
+    return *progId != _T('\0') && create != nullptr && SUCCEEDED(create(progId, window, nullptr, nullptr));
+}
