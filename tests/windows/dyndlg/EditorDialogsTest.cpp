@@ -144,6 +144,29 @@ TEST_F(EditorDialogs, ADateAndATimeAreChosen) {
     EXPECT_EQ(time.GetSecond(), 15);
 }
 
+TEST_F(EditorDialogs, ADateThatIsNoneBecomesOneByOk) {
+    for (const COleDateTime::DateTimeStatus status : {COleDateTime::null, COleDateTime::invalid}) {
+        COleDateTime date;
+        date.SetStatus(status);
+        CTime time(-1);  // what parts that are no time give
+        EXPECT_EQ(RunDateEditor(date, time, IDOK,
+                                [this](HWND window) {
+                                    SYSTEMTIME day = ShownBy(::GetDlgItem(window, m_dateId));
+                                    day.wYear = 1999;
+                                    ::SendDlgItemMessageW(window, m_dateId, DTM_SETSYSTEMTIME, GDT_VALID,
+                                                          reinterpret_cast<LPARAM>(&day));
+                                    SYSTEMTIME hour = ShownBy(::GetDlgItem(window, m_timeId));
+                                    hour.wHour = 7;
+                                    ::SendDlgItemMessageW(window, m_timeId, DTM_SETSYSTEMTIME, GDT_VALID,
+                                                          reinterpret_cast<LPARAM>(&hour));
+                                }),
+                  IDOK);
+        EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
+        EXPECT_EQ(date.GetYear(), 1999);
+        EXPECT_EQ(time.GetHour(), 7);
+    }
+}
+
 TEST_F(EditorDialogs, ADateIsLeftAloneByCancel) {
     COleDateTime date(2024, 2, 29, 0, 0, 0);
     CTime time(2024, 2, 29, 13, 14, 15);
