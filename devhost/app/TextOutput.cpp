@@ -11,6 +11,13 @@ bool IsConsole(HANDLE handle) {
     return GetConsoleMode(handle, &mode) != FALSE;
 }
 
+// Whether the console is there for this process alone. Wine gives a program in a Linux terminal one as well,
+// with a hidden window; what is written there appears in the terminal.
+bool HasConsoleOfItsOwn() {
+    DWORD processes[2];
+    return GetConsoleProcessList(processes, 2) == 1 && IsWindowVisible(GetConsoleWindow());
+}
+
 std::string ToUtf8(std::wstring_view text) {
     const int length =
         WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
@@ -42,9 +49,8 @@ std::wstring OnOneLine(std::wstring_view text) {
 }  // namespace
 
 CTextOutput::CTextOutput() {
-    DWORD processes[2];
-    const bool isOurs = GetConsoleProcessList(processes, 2) == 1;
-    if (isOurs && IsConsole(GetStdHandle(STD_OUTPUT_HANDLE)) && IsConsole(GetStdHandle(STD_ERROR_HANDLE))) {
+    if (HasConsoleOfItsOwn() && IsConsole(GetStdHandle(STD_OUTPUT_HANDLE)) &&
+        IsConsole(GetStdHandle(STD_ERROR_HANDLE))) {
         FreeConsole();
         m_useBoxes = true;
     }

@@ -10,7 +10,7 @@
 namespace {
 
 SOutcome RunBare(const std::vector<std::wstring>& arguments) {
-    return CHostProcess(CHostProcess::SBare(), arguments).Wait();
+    return CHostProcess(arguments, EStart::Bare).Wait();
 }
 
 // DevHost ended before anything was loaded or printed, with this one line.
@@ -76,6 +76,32 @@ TEST(CommandLine, TheFirstFailureEndsTheEvaluations) {
     EXPECT_EQ(
         outcome.errors,
         "DevHost: the function UNKNOWN is not known: check its name and whether the plug-in defines it\n");
+}
+
+// The program has a console as long as another process can attach to it.
+bool HasConsole(const CHostProcess& host) {
+    FreeConsole();
+    const bool attached = AttachConsole(host.ProcessId()) != FALSE;
+    FreeConsole();
+    AttachConsole(ATTACH_PARENT_PROCESS);
+    return attached;
+}
+
+TEST(CommandLine, AConsoleOfItsOwnIsLetGo) {
+    CHostProcess host({}, EStart::OwnConsole);
+    ASSERT_NE(host.MainWindow(), nullptr);
+    EXPECT_FALSE(HasConsole(host));
+    PostMessageW(host.MainWindow(), WM_CLOSE, 0, 0);
+    EXPECT_EQ(host.Wait().status, 0u);
+}
+
+TEST(CommandLine, WithoutTheConsoleAMistakeIsShownInABox) {
+    CHostProcess host({L"--evil"}, EStart::OwnConsole);
+    const HWND box = host.WindowWithTitle(L"#32770", L"DevHost");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), L"the option '--evil' is not known: see --help");
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(host.Wait().status, 1u);
 }
 
 TEST(CommandLine, TextsPassWholeInBothDirections) {

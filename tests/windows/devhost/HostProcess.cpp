@@ -45,32 +45,28 @@ std::string Contents(const std::wstring& file) {
 
 }  // namespace
 
-CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments) {
-    std::vector<std::wstring> all = {L"--plugin", TestPlugIn()};
-    all.insert(all.end(), arguments.begin(), arguments.end());
-    Start(all);
-}
-
-CHostProcess::CHostProcess(SBare, const std::vector<std::wstring>& arguments) {
-    Start(arguments);
-}
-
-void CHostProcess::Start(const std::vector<std::wstring>& arguments) {
-    m_outputFile = TestsFolder() / L"devhost_tests.output";
-    m_errorsFile = TestsFolder() / L"devhost_tests.errors";
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = CreateOutput(m_outputFile);
-    startup.hStdError = CreateOutput(m_errorsFile);
-
+CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments, EStart start)
+    : m_outputFile(TestsFolder() / L"devhost_tests.output"),
+      m_errorsFile(TestsFolder() / L"devhost_tests.errors") {
     std::wstring commandLine = Quoted(HostProgram());
+    if (start != EStart::Bare)
+        commandLine += L" --plugin " + Quoted(TestPlugIn());
     for (const std::wstring& argument : arguments)
         commandLine += L' ' + Quoted(argument);
-    EXPECT_TRUE(CreateProcessW(HostProgram().c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                               nullptr, &startup, &m_process));
-    CloseHandle(startup.hStdOutput);
-    CloseHandle(startup.hStdError);
+
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    if (start != EStart::OwnConsole) {
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdOutput = CreateOutput(m_outputFile);
+        startup.hStdError = CreateOutput(m_errorsFile);
+    }
+    EXPECT_TRUE(CreateProcessW(
+        HostProgram().c_str(), commandLine.data(), nullptr, nullptr, start != EStart::OwnConsole,
+        start == EStart::OwnConsole ? CREATE_NEW_CONSOLE : 0, nullptr, nullptr, &startup, &m_process));
+    for (const HANDLE output : {startup.hStdOutput, startup.hStdError})
+        if (output != nullptr)
+            CloseHandle(output);
 }
 
 CHostProcess::~CHostProcess() {

@@ -13,13 +13,15 @@ struct SOutcome {
     std::string errors;
 };
 
+enum class EStart {
+    Usual,       // with the test plug-in, outputs captured
+    Bare,        // with the given arguments alone
+    OwnConsole,  // with the test plug-in, as a click on its icon does it: the outputs go into a new console
+};
+
 class CHostProcess {
 public:
-    // Starts it with the test plug-in and in a folder of its own.
-    explicit CHostProcess(const std::vector<std::wstring>& arguments);
-    // Starts it with exactly these arguments.
-    struct SBare {};
-    CHostProcess(SBare, const std::vector<std::wstring>& arguments);
+    explicit CHostProcess(const std::vector<std::wstring>& arguments, EStart start = EStart::Usual);
     ~CHostProcess();  // ends it if it still runs
     CHostProcess(const CHostProcess&) = delete;
     CHostProcess& operator=(const CHostProcess&) = delete;
@@ -32,10 +34,9 @@ public:
     HWND Control(const wchar_t* className, int id) const;
     HWND WindowWithTitle(const wchar_t* className, const wchar_t* title) const;
     DWORD ThreadId() const { return m_process.dwThreadId; }
+    DWORD ProcessId() const { return m_process.dwProcessId; }
 
 private:
-    void Start(const std::vector<std::wstring>& arguments);
-
     PROCESS_INFORMATION m_process = {};
     std::wstring m_outputFile;
     std::wstring m_errorsFile;

@@ -13,8 +13,7 @@ std::string Narrow(const std::wstring& text) {
 
 // Loading this file fails with one line that names it and says why.
 void ExpectNotLoaded(const std::wstring& file, const std::string& why) {
-    const SOutcome outcome =
-        CHostProcess(CHostProcess::SBare(), {L"--plugin", file, L"--eval", L"(give-nil)"}).Wait();
+    const SOutcome outcome = CHostProcess({L"--plugin", file, L"--eval", L"(give-nil)"}, EStart::Bare).Wait();
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors, "DevHost: the plug-in '" + Narrow(file) + "' " + why + "\n");
