@@ -51,12 +51,7 @@ public:
         m_dc.CreateCompatibleDC(&target);
         // A window may have no area at all; a bitmap may not.
         m_bitmap.CreateCompatibleBitmap(&target, std::max<int>(size.cx, 1), std::max<int>(size.cy, 1));
-        m_previous = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
-    }
-    // The bitmap must leave the device context before its owner deletes it.
-    ~CMemoryCanvas() {
-        if (m_previous != nullptr)
-            ::SelectObject(m_dc.GetSafeHdc(), m_previous);
+        ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
     }
     CMemoryCanvas(const CMemoryCanvas&) = delete;
     CMemoryCanvas& operator=(const CMemoryCanvas&) = delete;
@@ -66,7 +61,7 @@ public:
 
 private:
     CSize m_size;
-    CDC m_dc;
+    // Outlives the device context: a bitmap that is still selected cannot be deleted.
     CBitmap m_bitmap;
-    HGDIOBJ m_previous = nullptr;
+    CDC m_dc;
 };

@@ -140,7 +140,8 @@ int CGridItem::GetEditMode() const {
 std::wstring CGridItem::GetText(const CGridTexts& texts, int pixelsPerInch) const {
     if (undefined)
         return texts.undefined;
-    const std::wstring format = options.empty() ? std::wstring() : options.front();
+    static const std::wstring noFormat;
+    const std::wstring& format = options.empty() ? noFormat : options.front();
     switch (kind) {
         case IT_CUSTOM:
             return {};
@@ -155,11 +156,9 @@ std::wstring CGridItem::GetText(const CGridTexts& texts, int pixelsPerInch) cons
         case IT_DOUBLE:
             return Formatted(format.empty() ? L"%g" : format, std::get<double>(value));
         case IT_COMBO: {
-            // An index without a choice is a legal value that shows nothing.
-            const int index = std::get<int>(value);
-            if (index < 0 || static_cast<std::size_t>(index) >= options.size())
-                return {};
-            return options[static_cast<std::size_t>(index)];
+            // An index without a choice, negative ones too, is a legal value that shows nothing.
+            const auto index = static_cast<std::size_t>(std::get<int>(value));
+            return index < options.size() ? options[index] : std::wstring();
         }
         case IT_BOOLEAN:
             return std::get<bool>(value) ? texts.trueText : texts.falseText;

@@ -167,7 +167,6 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
     }
 
     const CSelectedObject font(dc, m_boldFont);
-    dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(m_colors.title);
     if (section.id == m_focusedSection) {
         const std::size_t length = std::min(section.name.size(), longestDrawnText);
@@ -223,7 +222,6 @@ int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, const C
         const UINT flat = mode == EM_INPLACE_BUTTON ? DFCS_FLAT : 0;
         dc.DrawFrameControl(&button, DFC_BUTTON, DFCS_BUTTONPUSH | flat | pushed);
         const CSelectedObject font(dc, m_boldFont);
-        dc.SetBkMode(TRANSPARENT);
         dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
         DrawTextIn(dc, L"...", button, lineOfText | DT_CENTER);
     }
@@ -241,7 +239,6 @@ void CPropertyGrid::PaintName(CPaintTools& tools, const CRect& row, const CGridI
         const CRect highlight(nameLeft - 4, row.top, m_gutter, row.bottom);
         dc.FillSolidRect(&highlight, m_colors.focus);
     }
-    dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(focused ? m_colors.focusText : m_colors.text);
     DrawTextIn(dc, item.name, CRect(nameLeft, row.top, m_gutter - 1, row.bottom),
                lineOfText | DT_END_ELLIPSIS);
@@ -263,8 +260,7 @@ void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
 
     const bool modified = item.IsModified();
     const bool changed = modified || item.undefined != item.savedUndefined;
-    const bool bold =
-        (m_boldEditable && item.editable && !(modified && m_boldModified)) || (m_boldModified && changed);
+    const bool bold = (m_boldEditable && item.editable) || (m_boldModified && changed);
     const CSelectedObject font(dc, bold ? m_boldFont : m_font);
     std::wstring text = item.GetText(m_texts, dc.GetDeviceCaps(LOGPIXELSY));
     if (item.IsPath() && !item.undefined)

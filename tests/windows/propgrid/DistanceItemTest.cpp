@@ -105,6 +105,8 @@ TEST_F(DistanceItem, ReportsAPickOfTheSameDistanceAsAChange) {
 }
 
 TEST_F(DistanceItem, GivesTheHostTheFloorWhileTheUserPicks) {
+    CGridParent inFrontOfTheHost;
+    parent.SetActiveWindow();
     hostWindow.EnableWindow(FALSE);
     bool hidden = false;
     bool enabled = false;
@@ -119,6 +121,15 @@ TEST_F(DistanceItem, GivesTheHostTheFloorWhileTheUserPicks) {
     EXPECT_TRUE(parent.IsWindowVisible());
     EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd);
     EXPECT_TRUE(hostWindow.IsWindowEnabled()) << "left enabled";
+}
+
+TEST_F(DistanceItem, ActivatesADialogThatIsShownAlready) {
+    fakeHost.duringPick = [&] {
+        parent.ShowWindow(SW_SHOWNA);
+        hostWindow.SetActiveWindow();
+    };
+    item.OnButtonClicked();
+    EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd);
 }
 
 TEST_F(DistanceItem, KeepsItsValueWhenTheFirstPointIsCancelled) {

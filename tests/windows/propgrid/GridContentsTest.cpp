@@ -81,7 +81,7 @@ TEST(GridContents, RefusesAnItemForASectionThatDoesNotExist) {
 
 TEST(GridContents, StartsItsIdsAgainAfterClear) {
     CGridContents contents;
-    contents.AddSection(L"A", true, none);
+    contents.AddSection(L"A", false, none);
     AddNumber(contents, 0, L"x");
     contents.Clear();
     EXPECT_EQ(contents.GetRowCount(true), 0U);

@@ -75,6 +75,8 @@ int CGridPicture::Count(const CRect& area, COLORREF color) const {
 // Leaves the device context in a state that would spoil every later row.
 void CRecordingItem::DrawItem(CDC& dc, CRect rect, bool focused) {
     drawings.push_back({rect, focused, dc.GetTextColor(), dc.GetBkMode()});
+    if (whileDrawing)
+        whileDrawing();
     dc.SetBkMode(OPAQUE);
     dc.SetBkColor(RGB(255, 0, 0));
     dc.SetTextColor(RGB(255, 0, 0));

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,7 @@ public:
         int backMode;
     };
     std::vector<Drawing> drawings;
+    std::function<void()> whileDrawing;
 
     int GetEditMode() override { return mode; }
     void DrawItem(CDC& dc, CRect rect, bool focused) override;
@@ -146,6 +148,16 @@ protected:
     // Pixels that are not the background.
     static int Ink(const CGridPicture& picture, const CRect& area) {
         return area.Width() * area.Height() - picture.Count(area, back);
+    }
+    // Whether two rows look alike from x = `left` on.
+    bool SameRows(const CGridPicture& picture, int left, int a, int b) const {
+        for (int y = 0; y < RowHeight(); ++y) {
+            for (int x = left; x < 300; ++x) {
+                if (picture.At(x, a * RowHeight() + y) != picture.At(x, b * RowHeight() + y))
+                    return false;
+            }
+        }
+        return true;
     }
     void FillWindow(UINT section) {
         for (int row = 0; row < 40; ++row)

@@ -192,17 +192,17 @@ TEST_F(PropertyGridCell, ShortensALongPathInTheMiddle) {
     grid.AddStringItem(section, L"string", path);
     const CGridPicture picture(grid);
     // The file's name stands at the end of the paths, and fits; the string is cut off before it.
-    const auto same = [&](int a, int b) {
-        for (int y = 0; y < RowHeight(); ++y) {
-            for (int x = 154; x < 300; ++x) {
-                if (picture.At(x, a * RowHeight() + y) != picture.At(x, b * RowHeight() + y))
-                    return false;
-            }
-        }
-        return true;
-    };
-    EXPECT_TRUE(same(0, 1));
-    EXPECT_FALSE(same(0, 2));
+    EXPECT_TRUE(SameRows(picture, 154, 0, 1));
+    EXPECT_FALSE(SameRows(picture, 154, 0, 2));
+}
+
+TEST_F(PropertyGridCell, ShortensAFileNameThatIsTooLongForTheShellAtItsEnd) {
+    Plain();
+    const std::wstring path = L"C:\\" + std::wstring(700, L'n');
+    const UINT section = grid.AddSection(L"");
+    grid.AddFileItem(section, L"file", path, L"");
+    grid.AddStringItem(section, L"string", path);
+    EXPECT_TRUE(SameRows(CGridPicture(grid), 154, 0, 1));
 }
 
 TEST_F(PropertyGridCell, SurvivesPathsThatNoFileSystemWouldTake) {
@@ -261,7 +261,8 @@ TEST_F(PropertyGridCell, LetsACustomItemDrawItsValueAndTakesTheDeviceContextBack
     CRecordingItem locked;
     const UINT id = grid.AddCustomItem(section, L"custom", &custom);
     grid.AddCustomItem(section, L"locked", &locked, false);
-    grid.AddStringItem(section, L"after", L"HH");
+    grid.AddStringItem(section, L"HH", L"HH");
+    grid.AddStringItem(section, L"HH ", L"HH");
     const CGridPicture picture(grid);
     ASSERT_EQ(custom.drawings.size(), 1U);
     EXPECT_EQ(custom.drawings[0].rect, ValueRect(id));
@@ -272,6 +273,7 @@ TEST_F(PropertyGridCell, LetsACustomItemDrawItsValueAndTakesTheDeviceContextBack
     EXPECT_EQ(locked.drawings[0].textColor, nonEditable);
     EXPECT_EQ(locked.drawings[0].backMode, TRANSPARENT);
     EXPECT_TRUE(picture.Has(ValueOfRow(2), editable));
+    EXPECT_TRUE(SameRows(picture, 0, 2, 3));
     EXPECT_FALSE(picture.Has({0, 0, 300, 200}, RGB(255, 0, 0)));
     grid.SetFocusedItem(id);
     CGridPicture again(grid);

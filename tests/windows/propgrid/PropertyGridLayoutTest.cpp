@@ -173,6 +173,29 @@ TEST_F(PropertyGridLayout, LaysOutRowsThatWereAddedBeforeTheWindow) {
     EXPECT_TRUE(early.GetDlgItem(1000)->IsWindowVisible());
 }
 
+// A start before the window has its size would find no room for the row.
+TEST_F(PropertyGridLayout, StartsOnceAndNotBeforeTheWindowHasItsSize) {
+    CTestGrid early;
+    early.AddSection(L"Section");
+    ASSERT_TRUE(
+        early.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &parent, 1));
+    EXPECT_EQ(early.GetDlgItem(1000), nullptr);
+}
+
+TEST_F(PropertyGridLayout, HasTheWholeWidthInANewWindow) {
+    grid.SetEmptyListText(L"nothing");
+    const CGridPicture first(grid);
+    Fill(9, 5);
+    ASSERT_TRUE(ScrollBarShows());
+    grid.DestroyWindow();
+    grid.ResetContents();
+    CreateGrid(300, 200);
+    const CGridPicture again(grid);
+    EXPECT_TRUE(again.Has({100, 0, 200, 200}, text));
+    for (int x = 0; x < 300; ++x)
+        EXPECT_EQ(again.Count({x, 0, x + 1, 200}, text), first.Count({x, 0, x + 1, 200}, text)) << x;
+}
+
 TEST_F(PropertyGridLayout, AsksForARepaintAfterEveryChange) {
     const auto repaints = [this](auto change) {
         grid.UpdateWindow();

@@ -57,15 +57,6 @@ TEST_F(PropertyGridLife, LeavesTheStyleOfOtherWindowsToTheirCreator) {
     EXPECT_EQ(grid.GetStyle() & (WS_TABSTOP | SS_NOTIFY), 0U);
 }
 
-TEST_F(PropertyGridLife, StartsOnceWhetherCreatedOrSubclassed) {
-    // A custom text given before the start is kept; a second start would take it for the first's.
-    MakeControl(L"Button", L"Accetta", 0, IDOK);
-    CTestGrid created;
-    ASSERT_TRUE(Create(created));
-    EXPECT_EQ(created.GetGutterWidth(), 100) << "initialised after the window has its size";
-    EXPECT_EQ(created.GetOkText(), L"Accetta");
-}
-
 TEST_F(PropertyGridLife, TakesTheButtonTextsOfItsParent) {
     MakeControl(L"Button", L"Accetta", 0, IDOK);
     MakeControl(L"Button", L"Rinuncia", 0, IDCANCEL);

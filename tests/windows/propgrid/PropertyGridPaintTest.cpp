@@ -352,6 +352,8 @@ TEST_F(PropertyGridPaint, MovesTheRowsUpByTheScrollPosition) {
 TEST_F(PropertyGridPaint, RecordsWholeRowsAndNoValuesForRowsThatAreScrolledAway) {
     FillWindow(grid.AddSection(L"HHH"));
     const int h = RowHeight();
+    CGridPicture before(grid);
+    EXPECT_FALSE(ValueRect(0).IsRectEmpty());
     ScrollTo(3 * h);
     CGridPicture picture(grid);
     const int width = 300 - ::GetSystemMetrics(SM_CXVSCROLL);
@@ -398,6 +400,15 @@ TEST_F(PropertyGridPaint, LeavesNothingToPaint) {
     EXPECT_TRUE(::GetUpdateRect(grid.m_hWnd, nullptr, FALSE));
     grid.SendMessage(WM_PAINT);
     EXPECT_FALSE(::GetUpdateRect(grid.m_hWnd, nullptr, FALSE));
+}
+
+TEST_F(PropertyGridPaint, LeavesNothingToPaintWhateverIsInvalidatedMeanwhile) {
+    CRecordingItem custom;
+    custom.whileDrawing = [this] { grid.Invalidate(); };
+    grid.AddCustomItem(grid.AddSection(L"section"), L"custom", &custom);
+    grid.UpdateWindow();
+    EXPECT_FALSE(::GetUpdateRect(grid.m_hWnd, nullptr, FALSE));
+    EXPECT_EQ(custom.drawings.size(), 1U);
 }
 
 TEST_F(PropertyGridPaint, RecordsAllVisibleRowsHoweverLittleIsInvalid) {

@@ -152,10 +152,9 @@ int sds_distof(const wchar_t* text, int units, double* result) {
     const std::wstring number = whole.rfind(prefix, 0) == 0 ? whole.substr(prefix.size()) : whole;
     wchar_t* end = nullptr;
     const double value = std::wcstod(number.c_str(), &end);
-    if (number.empty() || *end != L'\0')
-        return RTNORM - 1;
+    // The result of a text that cannot be read is spoilt, as a host may leave it.
     *result = value;
-    return RTNORM;
+    return number.empty() || *end != L'\0' ? RTNORM - 1 : RTNORM;
 }
 
 int sds_getpoint(const double* /*base*/, const wchar_t* prompt, double* point) {
