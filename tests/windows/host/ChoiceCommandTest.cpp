@@ -8,6 +8,7 @@
 #include "Arguments.h"
 #include "Bitmap.h"
 #include "Commands.h"
+#include "DialogInput.h"
 #include "FakeHost.h"
 #include "HandleCount.h"
 #include "ModalHands.h"
@@ -78,7 +79,7 @@ TEST_F(ChoiceCommand, EnterAnswersAHundred) {
     WriteSlide(L"A_t.png");
     CArguments list;
     list.String(L"Replace").Short(0).String(L"A");
-    Run(list, [](HWND dialog) { PostMessageW(dialog, WM_KEYDOWN, VK_RETURN, 0); });
+    Run(list, [](HWND dialog) { PressKey(dialog, VK_RETURN); });
     EXPECT_EQ(fakeHost.results, Results{"(100 \"A\")"});
 }
 
@@ -101,8 +102,8 @@ TEST_F(ChoiceCommand, CancelEscapeAndTheCloseBoxAnswerNil) {
     CArguments list;
     list.String(L"Replace").Short(0).String(L"A");
     for (const CModalHands::Step& step :
-         {Press(IDCANCEL), CModalHands::Step([](HWND d) { PostMessageW(d, WM_KEYDOWN, VK_ESCAPE, 0); }),
-          CModalHands::Step([](HWND d) { PostMessageW(d, WM_SYSCOMMAND, SC_CLOSE, 0); })}) {
+         {Press(IDCANCEL), CModalHands::Step([](HWND dialog) { PressKey(dialog, VK_ESCAPE); }),
+          CModalHands::Step(PressCloseBox)}) {
         EXPECT_EQ(Run(list, step), 0);
         EXPECT_EQ(fakeHost.results, Results{"nil"});
     }

@@ -7,6 +7,7 @@
 #include "Arguments.h"
 #include "Bitmap.h"
 #include "Commands.h"
+#include "DialogInput.h"
 #include "FakeHost.h"
 #include "HandleCount.h"
 #include "ModalHands.h"
@@ -39,15 +40,11 @@ protected:
 };
 
 void PressEnter(HWND dialog) {
-    PostMessageW(dialog, WM_KEYDOWN, VK_RETURN, 0);
+    PressKey(dialog, VK_RETURN);
 }
 
 void PressEscape(HWND dialog) {
-    PostMessageW(dialog, WM_KEYDOWN, VK_ESCAPE, 0);
-}
-
-void PressCloseBox(HWND dialog) {
-    PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+    PressKey(dialog, VK_ESCAPE);
 }
 
 TEST_F(PreviewCommand, AnythingButAStringSetsNoResultAndOpensNothing) {

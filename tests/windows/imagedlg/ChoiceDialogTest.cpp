@@ -14,14 +14,8 @@ class ChoiceDialog : public CChoiceFixture {
 protected:
     // What the cells of a dialog with `count` choices show.
     std::string ShownWith(int count) {
-        WriteSlides(count);
         std::string shown;
-        CTavrinSelMaskDlg dialog;
-        Run(dialog, count, [&](HWND window) {
-            PumpMessages();
-            shown = ShownIn(window);
-            PressCloseBox(window);
-        });
+        RunPainted(count, [&](CTavrinSelMaskDlg& dialog) { shown = ShownIn(dialog); });
         return shown;
     }
 
@@ -80,15 +74,11 @@ TEST_F(ChoiceDialog, ClosesUnseenWithoutAChoice) {
 }
 
 TEST_F(ChoiceDialog, IsWhite) {
-    WriteSlides(6);
-    CTavrinSelMaskDlg dialog;
-    Run(dialog, 6, [&](HWND window) {
-        PumpMessages();
-        const CClientPixels pixels(window);
+    RunPainted(6, [](CTavrinSelMaskDlg& dialog) {
+        const CClientPixels pixels(dialog);
         EXPECT_EQ(pixels.At(0, 0), white);
         EXPECT_EQ(pixels.At(pixels.Width() - 1, pixels.Height() - 1), white);
         EXPECT_EQ(pixels.At(pixels.Width() / 4, pixels.Height() - 5), white);
-        PressCloseBox(window);
     });
 }
 
@@ -233,6 +223,23 @@ TEST_F(ChoiceDialog, AnEmptyCellOfTheTopRowCanBeSelectedAndHasNoName) {
     EXPECT_EQ(dialog.GetSelectedName(), L"c0");
 }
 
+TEST_F(ChoiceDialog, ActivatingACellSelectsItAndEndsTheDialog) {
+    EXPECT_EQ(ChosenBy(5,
+                       [](HWND window) {
+                           SendMessageW(window, WM_COMMAND, MAKELONG(IDC_CHOICE_CELL6, STN_DBLCLK),
+                                        reinterpret_cast<LPARAM>(CellOf(window, 6)));
+                       }),
+              (Chosen{100, L"c4"}));
+}
+
+TEST_F(ChoiceDialog, ActivatingTheLogoEndsNothing) {
+    RunPainted(5, [](CTavrinSelMaskDlg& dialog) {
+        dialog.ActivateCell(5);
+        EXPECT_EQ(dialog.GetResult(), 0);
+        EXPECT_EQ(dialog.GetSelectedName(), L"c0");
+    });
+}
+
 TEST_F(ChoiceDialog, TakesOnlyNamesThatHaveASlide) {
     WriteSlide(0);
     WriteSlide(1, L"_t_3d.png");
@@ -290,7 +297,7 @@ TEST_F(ChoiceDialog, TheStandInIsShownForASlideThatVanished) {
     CTavrinSelMaskDlg dialog;
     std::string shown;
     m_hands.Then([&](HWND window) {
-        PumpMessages();
+        EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
     });
@@ -325,7 +332,7 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedForEachCellBeforeTheDialogShows) {
     }
     std::string shown;
     m_hands.Then([&](HWND window) {
-        PumpMessages();
+        EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
     });
@@ -358,7 +365,7 @@ TEST_F(ChoiceDialog, AMissingLogoLeavesItsCellEmptyWithoutAMessage) {
     EXPECT_EQ(dialog.GetLogoPath(), L"");
     std::string shown;
     Run(dialog, 5, [&](HWND window) {
-        PumpMessages();
+        EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressCloseBox(window);
     });
@@ -375,7 +382,7 @@ TEST_F(ChoiceDialog, RefreshingShowsTheSlidesAsTheyAreNowAndSelectsTheFirst) {
         EXPECT_TRUE(WaitForFrame(window, 2));
         CopyFileW(m_folder.Path(L"c1_t.png").c_str(), m_folder.Path(L"c0_t.png").c_str(), FALSE);
         dialog.RefreshSlides();
-        PumpMessages();
+        EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
     });

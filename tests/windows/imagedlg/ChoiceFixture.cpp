@@ -5,6 +5,7 @@
 #include <set>
 #include <vector>
 
+#include "DialogInput.h"
 #include "FakeHost.h"
 #include "PngFile.h"
 
@@ -102,6 +103,16 @@ INT_PTR CChoiceFixture::Run(CTavrinSelMaskDlg& dialog, int count, const CModalHa
     Fill(dialog, count);
     m_hands.Then(step);
     return dialog.DoModal();
+}
+
+void CChoiceFixture::RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look) {
+    WriteSlides(count);
+    CTavrinSelMaskDlg dialog;
+    Run(dialog, count, [&](HWND window) {
+        EXPECT_TRUE(WaitForFrame(window, 1)) << count;
+        look(dialog);
+        PressCloseBox(window);
+    });
 }
 
 HWND CellOf(HWND dialog, int cell) {

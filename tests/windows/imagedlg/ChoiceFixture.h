@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "ModalHands.h"
@@ -25,6 +26,9 @@ protected:
 
     // Fills a dialog and runs it while `step` acts on it. What DoModal returned.
     INT_PTR Run(CTavrinSelMaskDlg& dialog, int count, const CModalHands::Step& step);
+
+    // Runs a dialog with `count` choices and their slides until `look` has seen it painted.
+    void RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look);
 
     CTempFolder m_folder;
     CModalHands m_hands;

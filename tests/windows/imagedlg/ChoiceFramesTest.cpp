@@ -15,19 +15,7 @@ constexpr COLORREF grey = RGB(128, 128, 128);
 constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- ", "B-----",
                                                     "B- -- ", "B-----", "B-----"};
 
-class ChoiceFrames : public CChoiceFixture {
-protected:
-    // Runs a dialog with `count` choices; `look` sees it painted.
-    void RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look) {
-        WriteSlides(count);
-        CTavrinSelMaskDlg dialog;
-        Run(dialog, count, [&](HWND window) {
-            EXPECT_TRUE(WaitForFrame(window, 1)) << count;
-            look(dialog);
-            PressCloseBox(window);
-        });
-    }
-};
+using ChoiceFrames = CChoiceFixture;
 
 // Paints over all that the dialog shows, so that white frames can be told from its white surface.
 void CoverWithGrey(HWND window) {

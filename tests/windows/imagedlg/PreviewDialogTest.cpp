@@ -38,12 +38,13 @@ protected:
     CModalHands m_hands;
 };
 
-// What the window shows where there is no picture: its background, all over.
+// Waits until the window shows nothing but its background.
 bool IsEmpty(HWND window) {
-    PumpMessages();
     RECT client;
     GetClientRect(window, &client);
-    return CClientPixels(window).Count(client, GetSysColor(COLOR_3DFACE)) == client.right * client.bottom;
+    return PumpUntil([&] {
+        return CClientPixels(window).Count(client, GetSysColor(COLOR_3DFACE)) == client.right * client.bottom;
+    });
 }
 
 TEST_F(PreviewDialog, StandsInTheCornerOfTheScreenInItsOwnSize) {
@@ -80,9 +81,10 @@ TEST_F(PreviewDialog, StandsThereWhateverOwnsIt) {
 
 TEST_F(PreviewDialog, StretchesThePictureOverItsCell) {
     Run(L"two", [](HWND window) {
-        PumpMessages();
         RECT cell = {7, 7, 460, 297};
         MapDialogRect(window, &cell);
+        EXPECT_TRUE(
+            PumpUntil([&] { return CClientPixels(window).At(cell.left + 20, cell.top + 20) == red; }));
         const CClientPixels pixels(window);
         const int quarter = (cell.right - cell.left) / 4;
         for (const int y : {cell.top + 20, (cell.top + cell.bottom) / 2, cell.bottom - 20}) {
