@@ -1,5 +1,5 @@
 // The door through which the host talks to the module.
-#include <windows.h>
+#include <afxwin.h>
 
 #include <string>
 
@@ -8,6 +8,9 @@
 #include "sds.h"
 
 namespace {
+
+// The framework finds the module's instance, and with it the module's resources, through this object.
+CWinApp application(L"TavrinWnd");
 
 // The host does not offer all that the module calls, so nothing of it may be called.
 bool hostIsBound = false;

@@ -13,6 +13,7 @@ namespace {
 
 constexpr DWORD secondsPerTest = 120;
 constexpr UINT statusHung = 4;
+constexpr UINT statusCrashed = 5;
 
 std::atomic<ULONGLONG> testStarted{0};
 std::atomic<const char*> suiteName{""};
@@ -26,6 +27,15 @@ class CWatchdogListener : public testing::EmptyTestEventListener {
     }
     void OnTestEnd(const testing::TestInfo&) override { testStarted = 0; }
 };
+
+// Left to itself a crash may end with status 0 under Wine.
+LONG WINAPI EndCrashed(EXCEPTION_POINTERS* exception) {
+    std::fprintf(stderr, "CRASHED: %s.%s, exception %08lx at %p\n", suiteName.load(), testName.load(),
+                 exception->ExceptionRecord->ExceptionCode, exception->ExceptionRecord->ExceptionAddress);
+    std::fflush(stderr);
+    TerminateProcess(GetCurrentProcess(), statusCrashed);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
 
 DWORD WINAPI Watch(void*) {
     for (;;) {
@@ -45,6 +55,7 @@ DWORD WINAPI Watch(void*) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    SetUnhandledExceptionFilter(EndCrashed);
     testing::InitGoogleTest(&argc, argv);
     testing::UnitTest::GetInstance()->listeners().Append(new CWatchdogListener);
     const std::wstring missing = BindHost(GetModuleHandleW(nullptr));
