@@ -55,11 +55,11 @@ void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
 BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
     ON_WM_CTLCOLOR()
     ON_WM_PAINT()
-    ON_BN_CLICKED(IDOK, OnClickedOk)
-    ON_BN_CLICKED(IDCANCEL, OnCancel)
-    ON_CONTROL_RANGE(STN_CLICKED, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, OnClickedCell)
-    ON_CONTROL_RANGE(STN_DBLCLK, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, OnDoubleClickedCell)
-    ON_BN_CLICKED(IDC_CHOICE_REPLACE, OnClickedReplace)
+    ON_BN_CLICKED(IDOK, &CTavrinSelMaskDlg::OnClickedOk)
+    ON_BN_CLICKED(IDCANCEL, &CTavrinSelMaskDlg::OnCancel)
+    ON_CONTROL_RANGE(STN_CLICKED, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, &CTavrinSelMaskDlg::OnClickedCell)
+    ON_CONTROL_RANGE(STN_DBLCLK, IDC_CHOICE_CELL1, IDC_CHOICE_CELL6, &CTavrinSelMaskDlg::OnDoubleClickedCell)
+    ON_BN_CLICKED(IDC_CHOICE_REPLACE, &CTavrinSelMaskDlg::OnClickedReplace)
 END_MESSAGE_MAP()
 
 BOOL CTavrinSelMaskDlg::OnInitDialog() {
