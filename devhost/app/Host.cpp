@@ -195,6 +195,8 @@ int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picke
     // With the main window disabled the user could never answer.
     if (m_request == nullptr || m_window.IsPicking() || !IsWindowEnabled(m_window.Handle()))
         return kStatusError;
+    if (base && !(std::isfinite(base->x) && std::isfinite(base->y)))
+        return kStatusError;
     const auto point = m_window.PickPoint(StatusText(prompt), base);
     if (!point)
         return kStatusCancelled;

@@ -68,7 +68,7 @@ void CTextOutput::Error(std::wstring_view text) {
     Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
     if (m_listener)
         m_listener(L"; error: " + line);
-    if (m_useBoxes)
+    else if (m_useBoxes)
         MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
 }
 

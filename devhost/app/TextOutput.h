@@ -2,7 +2,7 @@
 // they go into a file or a pipe. Both are repeated to a listener, the main window's list.
 //
 // A console that the system opened for this process alone, because a click and no shell started it, is let
-// go of; then mistakes are shown in a message box.
+// go of; then mistakes are shown in a message box unless there is a listener.
 #pragma once
 
 #include <functional>

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "GdiScope.h"
@@ -135,5 +136,8 @@ SPoint CDrawingView::ToDrawing(POINT pixel) const {
 }
 
 POINT CDrawingView::ToPixel(SPoint point) const {
-    return {std::lround(point.x), Height() - 1 - std::lround(point.y)};
+    // Nothing that far away is seen, and larger numbers do not fit the system's.
+    constexpr double kFar = 1e6;
+    return {std::lround(std::clamp(point.x, -kFar, kFar)),
+            Height() - 1 - std::lround(std::clamp(point.y, -kFar, kFar))};
 }

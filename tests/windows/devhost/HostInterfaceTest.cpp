@@ -157,8 +157,8 @@ TEST(HostInterface, APathThatDoesNotFitIsNotFoundAndNothingIsWritten) {
     EXPECT_EQ(status(0), "(-5001 0 ");
 }
 
-TEST(HostInterface, NullPointersFail) {
-    EXPECT_EQ(Evaluate(L"(use-null-pointers)"), "11\n");
+TEST(HostInterface, NullPointersAndPointsThatAreNoneFail) {
+    EXPECT_EQ(Evaluate(L"(use-bad-pointers)"), "12\n");
 }
 
 TEST(HostInterface, OtherThreadsGetNothing) {

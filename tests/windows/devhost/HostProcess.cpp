@@ -63,7 +63,8 @@ CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments, EStart st
     }
     EXPECT_TRUE(CreateProcessW(
         HostProgram().c_str(), commandLine.data(), nullptr, nullptr, start != EStart::OwnConsole,
-        start == EStart::OwnConsole ? CREATE_NEW_CONSOLE : 0, nullptr, nullptr, &startup, &m_process));
+        start == EStart::OwnConsole ? CREATE_NEW_CONSOLE : 0, nullptr, nullptr, &startup, &m_process))
+        << "error " << GetLastError();
     for (const HANDLE output : {startup.hStdOutput, startup.hStdError})
         if (output != nullptr)
             CloseHandle(output);

@@ -13,7 +13,6 @@ namespace {
 
 // Identifiers of the main window's parts.
 constexpr int kDrawing = 100;
-constexpr int kPrompt = 102;
 constexpr int kStatus = 103;
 
 class Pick : public testing::Test {
@@ -186,13 +185,6 @@ TEST_F(Pick, TheStatusLineShowsTheMouseInTheDrawingsUnits) {
     }));
     Press(VK_ESCAPE);
     host.Wait();
-}
-
-TEST_F(Pick, WhileACallRunsThePromptTakesNothingAndTheWindowStays) {
-    Start(L"(pick-behind-dialog)", L"Behind the dialog: ");
-    EXPECT_FALSE(IsWindowEnabled(GetDlgItem(m_host->MainWindow(), kPrompt)));
-    Click(7, 8);
-    Result();
 }
 
 }  // namespace

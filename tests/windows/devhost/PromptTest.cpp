@@ -57,6 +57,19 @@ TEST_F(Prompt, MistakesAreShownAndDoNotEndTheSession) {
     EXPECT_EQ(Close().status, 0u);
 }
 
+TEST_F(Prompt, WhileACallRunsThePromptTakesNothingAndTheWindowStays) {
+    Type(L"(alert-with \"wait\")");
+    const HWND box = m_host.WindowWithTitle(L"#32770", L"DevHost");
+    ASSERT_NE(box, nullptr);
+    EXPECT_FALSE(IsWindowEnabled(m_prompt));
+    SendMessageW(m_host.MainWindow(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(IsWindow(m_prompt));
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(WaitForOutput(L"(alert-with \"wait\")\r\n; alert: wait\r\n5100"));
+    EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(m_prompt) != FALSE; }));
+    EXPECT_EQ(Close().status, 0u);
+}
+
 TEST_F(Prompt, AnEmptyLineDoesNothing) {
     Type(L"");
     Type(L"5");

@@ -1,6 +1,7 @@
 // Commands that use the functions of the interface that need no hands.
 #include <algorithm>
 #include <climits>
+#include <cmath>
 #include <thread>
 
 #include "TestPlugin.h"
@@ -116,8 +117,8 @@ void UseOtherThread() {
     HOST(sds_retint)(failed);
 }
 
-// How many of the functions failed on a null pointer.
-void UseNullPointers() {
+// How many of the functions failed on a null pointer or on a point that is none.
+void UseBadPointers() {
     wchar_t text[kRoom];
     double number = 0;
     sds_resbuf value;
@@ -133,6 +134,8 @@ void UseNullPointers() {
     failed += HOST(sds_distof)(L"1", 2, nullptr) != RTNORM;
     failed += HOST(sds_getpoint)(nullptr, nullptr, nullptr) != RTNORM;
     failed += HOST(sds_getdist)(nullptr, nullptr, nullptr) != RTNORM;
+    const double noPoint[3] = {1, std::nan(""), 0};
+    failed += HOST(sds_getdist)(noPoint, nullptr, &number) != RTNORM;
     HOST(sds_retint)(failed);
 }
 

@@ -27,7 +27,7 @@ const SCommand kCommands[] = {
     {L"pick-while-disabled", PickWhileDisabled},
     {L"pick-behind-dialog", PickBehindDialog},
     {L"use-other-thread", UseOtherThread},
-    {L"use-null-pointers", UseNullPointers},
+    {L"use-bad-pointers", UseBadPointers},
     {L"define-odd-names", DefineOddNames},
     {L"answer-seven", nullptr},  // the request itself is answered with 7
     {L"leak", Leak},

@@ -34,7 +34,7 @@ void ReadVariable();
 void FormatLength();
 void ReadLength();
 void UseOtherThread();
-void UseNullPointers();
+void UseBadPointers();
 void DefineOddNames();
 
 // Picks.cpp
