@@ -1,0 +1,27 @@
+// Keeps account of the parameter blocks of a file while its lines pass by.
+#pragma once
+
+#include <string>
+
+class CBlockTracker {
+public:
+    // Takes the next line of the file. True for an ordinary line inside an open block, which may hold a
+    // parameter; false outside of blocks and for the two lines that open and close one.
+    //
+    // A block is opened by the line "VAR", in an open block an ordinary line, and closed by "END_VAR". Both
+    // are compared with the whole line, null characters in it included: no blanks, no other case.
+    bool TakeLine(const std::wstring& line) {
+        if (line == L"END_VAR") {
+            m_open = false;
+            return false;
+        }
+        if (!m_open) {
+            m_open = line == L"VAR";
+            return false;
+        }
+        return true;
+    }
+
+private:
+    bool m_open = false;
+};

@@ -1,0 +1,53 @@
+// What one match found: where the whole match and each capturing group lie in the caller's input. The
+// context owns its array of pairs and keeps it from match to match; the pointers in it point into the
+// caller's input and must not be used longer than that lives.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+class CMatchContext {
+public:
+    // [start, end). Both null: the group took no part in the match. Equal: it matched an empty stretch.
+    struct Pair {
+        const wchar_t* start = nullptr;
+        const wchar_t* end = nullptr;
+    };
+
+    // The whole match, the end one past its last character. Both null unless the last match succeeded.
+    const wchar_t* MatchStart() const { return m_match.start; }
+    const wchar_t* MatchEnd() const { return m_match.end; }
+
+    // One pair for each capturing group of the pattern, in the order of their opening braces, from 0.
+    std::size_t GroupCount() const { return m_groups.size(); }
+    const Pair& Group(std::size_t index) const { return m_groups[index]; }
+
+    // The text of a group; empty when it took no part in the match.
+    std::wstring_view GroupText(std::size_t index) const {
+        const Pair& group = m_groups[index];
+        return group.start == nullptr
+                   ? std::wstring_view()
+                   : std::wstring_view(group.start, static_cast<std::size_t>(group.end - group.start));
+    }
+
+    // The work that the last match took: instructions executed, choices taken back and characters passed
+    // over. It is the same on every machine, which lets a test state how the work grows with the input.
+    std::size_t Steps() const { return m_steps; }
+
+private:
+    friend class CPatternMatcher;
+
+    // As many pairs as that, all null.
+    void ResetGroups(std::size_t count) {
+        if (m_groups.size() != count) {
+            m_groups.resize(count);
+        }
+        std::fill(m_groups.begin(), m_groups.end(), Pair());
+    }
+
+    Pair m_match;
+    std::vector<Pair> m_groups;
+    std::size_t m_steps = 0;
+};

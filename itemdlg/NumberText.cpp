@@ -1,0 +1,137 @@
+// Reading and writing numbers.
+#include "NumberText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <system_error>
+
+namespace {
+
+// Takes a number apart from left to right, beginning behind the white space that stands before it.
+class CScanner {
+public:
+    explicit CScanner(std::wstring_view text) : m_text(text) {
+        while (Peek() == L' ' || (Peek() >= L'\t' && Peek() <= L'\r')) {
+            ++m_position;
+        }
+    }
+
+    std::size_t Position() const { return m_position; }
+    void Return(std::size_t position) { m_position = position; }
+
+    bool Take(wchar_t character) {
+        const bool found = m_position < m_text.size() && m_text[m_position] == character;
+        m_position += found ? 1 : 0;
+        return found;
+    }
+
+    // Takes a sign if there is one; true for a minus.
+    bool TakeSign() {
+        const bool negative = Take(L'-');
+        if (!negative) {
+            Take(L'+');
+        }
+        return negative;
+    }
+
+    // The digits from here on, as single bytes.
+    std::string TakeDigits() {
+        std::string digits;
+        for (; Peek() >= L'0' && Peek() <= L'9'; ++m_position) {
+            digits.push_back(static_cast<char>(Peek()));
+        }
+        return digits;
+    }
+
+private:
+    wchar_t Peek() const { return m_position < m_text.size() ? m_text[m_position] : L'\0'; }
+
+    std::wstring_view m_text;
+    std::size_t m_position = 0;
+};
+
+// A whole number from digits alone; beyond a limit far above all that matters here it is that limit, which
+// leaves room for sums.
+std::int64_t WholeValue(const std::string& digits) {
+    constexpr std::int64_t kLimit = 1'000'000'000'000'000;
+    std::int64_t value = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return result.ec == std::errc::result_out_of_range ? kLimit : std::min(value, kLimit);
+}
+
+// The exponent behind a number's digits. An "e" without digits behind it is none and is not taken.
+std::int64_t TakeExponent(CScanner& scanner) {
+    const std::size_t start = scanner.Position();
+    if (scanner.Take(L'e') || scanner.Take(L'E')) {
+        const bool negative = scanner.TakeSign();
+        const std::string digits = scanner.TakeDigits();
+        if (!digits.empty()) {
+            return negative ? -WholeValue(digits) : WholeValue(digits);
+        }
+    }
+    scanner.Return(start);
+    return 0;
+}
+
+// The value of "whole.fraction" times ten to the power of the exponent.
+double ScaledValue(const std::string& whole, const std::string& fraction, std::int64_t exponent) {
+    const std::string text = whole + '.' + fraction + 'e' + std::to_string(exponent);
+    double value = 0.0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec != std::errc::result_out_of_range) {
+        return value;
+    }
+    // The conversion does not tell too large from too small; the place of the first digit that counts does.
+    const std::size_t leading = std::min((whole + fraction).find_first_not_of('0'), text.size());
+    const auto magnitude = static_cast<std::int64_t>(whole.size()) - static_cast<std::int64_t>(leading);
+    return magnitude + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
+}  // namespace
+
+double DecimalValue(std::wstring_view text) {
+    CScanner scanner(text);
+    const bool negative = scanner.TakeSign();
+    const std::string whole = scanner.TakeDigits();
+    const std::string fraction = scanner.Take(L'.') ? scanner.TakeDigits() : std::string();
+    if (whole.empty() && fraction.empty()) {
+        return 0.0;
+    }
+    const double value = ScaledValue(whole, fraction, TakeExponent(scanner));
+    return negative ? -value : value;
+}
+
+int FloorToInt(double value) {
+    if (std::isnan(value)) {
+        return 0;
+    }
+    constexpr double kLowest = std::numeric_limits<int>::min();
+    constexpr double kHighest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::floor(value), kLowest, kHighest));
+}
+
+int LeadingInt(std::wstring_view text) {
+    CScanner scanner(text);
+    const bool negative = scanner.TakeSign();
+    const std::int64_t value = WholeValue(scanner.TakeDigits());
+    constexpr std::int64_t kLowest = std::numeric_limits<int>::min();
+    constexpr std::int64_t kHighest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(negative ? -value : value, kLowest, kHighest));
+}
+
+std::wstring GeneralText(double value) {
+    constexpr int kSignificantDigits = 6;
+    std::array<char, 32> text{};
+    const auto result = std::to_chars(text.data(), text.data() + text.size(), value,
+                                      std::chars_format::general, kSignificantDigits);
+    return {text.data(), result.ptr};
+}
+
+std::wstring IntText(int value) {
+    return std::to_wstring(value);
+}

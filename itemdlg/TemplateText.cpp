@@ -1,0 +1,116 @@
+// Reading the lines of an item's files.
+#include "TemplateText.h"
+
+#include <new>
+
+#include "NumberText.h"
+#include "PatternMatcher.h"
+
+namespace {
+
+constexpr wchar_t kParameterPattern[] = L"^\\${[0-9]*}[ ]*=[ ]*\"{.*}\"{[IDR]}{.*}$";
+constexpr wchar_t kPlaceholderPattern[] = L"^.*<<{[0-9]*}>>.*";
+
+constexpr int kHighestTextNumber = 0xFFFF;
+
+// A failure can only be a want of memory. It must not be remembered: since it leaves the caller's variable
+// uninitialised, the next call compiles again.
+CPatternMatcher Compiled(const wchar_t* pattern) {
+    CPatternMatcher matcher;
+    if (matcher.Parse(pattern, false) != PE_NONE) {
+        throw std::bad_alloc();
+    }
+    return matcher;
+}
+
+// Only capital type letters are types, although the pattern, matched without regard to case, lets small ones
+// through.
+std::int32_t TypeOf(wchar_t letter) {
+    return letter == L'I' || letter == L'D' || letter == L'R' ? letter : L'U';
+}
+
+}  // namespace
+
+std::optional<ParameterLine> ParseParameterLine(const std::wstring& line) {
+    static const CPatternMatcher matcher = Compiled(kParameterPattern);
+    CMatchContext context;
+    if (!matcher.Match(line.c_str(), &context)) {
+        return std::nullopt;
+    }
+    ParameterLine parameter;
+    parameter.number = context.GroupText(0);
+    parameter.label = context.GroupText(1);
+    parameter.typeLetter = context.GroupText(2).front();
+    parameter.value = context.GroupText(3);
+    return parameter;
+}
+
+int PlaceholderNumber(const std::wstring& text) {
+    static const CPatternMatcher matcher = Compiled(kPlaceholderPattern);
+    CMatchContext context;
+    return matcher.Match(text.c_str(), &context) ? LeadingInt(context.GroupText(0)) : 0;
+}
+
+std::wstring ResourceText(int number, const TextLookup& lookup) {
+    if (number < 1 || number > kHighestTextNumber) {
+        return std::wstring();
+    }
+    return lookup(static_cast<unsigned>(number));
+}
+
+std::wstring TitleText(const std::wstring& line, const TextLookup& lookup) {
+    const int number = PlaceholderNumber(line);
+    return number != 0 ? ResourceText(number, lookup) : line;
+}
+
+std::wstring LabelPrefix(const std::wstring& label) {
+    const std::size_t opening = label.find(L"<<");
+    return opening == std::wstring::npos ? std::wstring() : label.substr(0, opening);
+}
+
+std::wstring LabelSuffix(const std::wstring& label) {
+    const std::size_t closing = label.find(L">>");
+    if (closing != std::wstring::npos) {
+        return label.substr(closing + 2);
+    }
+    // Position -1 and two characters for the signs that are not there: one character is lost.
+    return label.empty() ? label : label.substr(1);
+}
+
+bool TakeReadOnlyMark(std::wstring& label) {
+    const bool marked = !label.empty() && label.back() == L'%';
+    if (marked) {
+        label.pop_back();
+    }
+    return marked;
+}
+
+std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
+                                          int mode, const TextLookup& lookup) {
+    const std::optional<ParameterLine> parameter = ParseParameterLine(line);
+    if (!parameter) {
+        return std::nullopt;
+    }
+    ParameterRow row;
+    ParamRecord& record = row.record;
+    record.number = parameter->number;
+    record.lineIndex = lineIndex;
+    // Also for a label without placeholder, which so loses its first character when it is written back.
+    record.labelPrefix = LabelPrefix(parameter->label);
+    record.labelSuffix = LabelSuffix(parameter->label);
+    record.label = parameter->label;
+    if (const int number = PlaceholderNumber(parameter->label); number != 0) {
+        record.label = record.labelPrefix + ResourceText(number, lookup) + record.labelSuffix;
+        // Of the whole line: a placeholder in the value would be the last one and count.
+        record.resourceId = PlaceholderNumber(line);
+    }
+    const bool marked = TakeReadOnlyMark(record.label);
+    row.editable = !marked || mode != kReadOnlyMode;
+    record.type = TypeOf(parameter->typeLetter);
+    if (record.type == 'I') {
+        record.intValue = FloorToInt(DecimalValue(parameter->value));
+    } else if (record.type == 'D' || record.type == 'R') {
+        record.realValue = DecimalValue(parameter->value) * scale;
+    }
+    return row;
+}

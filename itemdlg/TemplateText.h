@@ -1,0 +1,80 @@
+// What the lines of an item's files mean: the working file that the item dialog is filled from and the
+// template file that keeps its defaults, which share one syntax.
+//
+//   index 0    free text
+//   index 1    the title, perhaps as a placeholder: <<2001>>
+//   VAR        opens a parameter block (see CBlockTracker)
+//   $3 = "Leaves: <<1503>>"I 2
+//              in a block a parameter: number, label, type letter, value; blanks may stand around the "="
+//   END_VAR    closes the block
+//
+// Any other line means nothing and is kept. A placeholder, two less-than signs, a number and two greater-than
+// signs, stands for a text of the resource module, so that labels can be translated without touching the
+// files.
+//
+// A line is one text without its line end. It may hold null characters: the patterns see what stands before
+// the first one, while a line that is written back unchanged keeps all of it. Running out of memory shows as
+// std::bad_alloc, or as a line that is not recognised.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "ParamRecord.h"
+
+// Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
+// 1 to 65535 only.
+using TextLookup = std::function<std::wstring(unsigned id)>;
+
+// The four parts of a parameter line as they are written.
+struct ParameterLine {
+    std::wstring number;  // digits, perhaps none
+    std::wstring label;
+    wchar_t typeLetter = L'\0';  // one of I, D, R, i, d, r
+    std::wstring value;          // all behind the type letter, blanks included
+};
+
+// The parts of a line if it has the form of a parameter line. Its label ends at the last quote that stands
+// directly before a type letter, so that a label may hold quotes. Small type letters have the form as well,
+// though they are no valid types: ReadParameter gives them type 'U'. Does not look at blocks.
+std::optional<ParameterLine> ParseParameterLine(const std::wstring& line);
+
+// The number in the last placeholder of a text; 0 when there is none, when it holds no digits or when the
+// number is 0, which all mean that the text has no placeholder. Beyond the range of int it is the largest
+// int.
+int PlaceholderNumber(const std::wstring& text);
+
+// The text with that number. A number that cannot name a text, above 65535 or below 1, gives an empty text:
+// the lookup is not asked, since the system would cut the number off to 16 bits and find a wrong text.
+std::wstring ResourceText(int number, const TextLookup& lookup);
+
+// The title that a line stands for: the text that its placeholder names, in place of the whole line, or the
+// line itself.
+std::wstring TitleText(const std::wstring& line, const TextLookup& lookup);
+
+// The parts of a label around its placeholder, to put the label together again: what stands before the first
+// "<<" (nothing when there is none), and the last (length - position of the first ">>" - 2) characters.
+// Without ">>" that position counts as -1, so that the suffix is the label without its first character: the
+// files are meant to use a placeholder in every label.
+std::wstring LabelPrefix(const std::wstring& label);
+std::wstring LabelSuffix(const std::wstring& label);
+
+// Removes the read-only mark, a "%" at the end of a label; false when there is none.
+bool TakeReadOnlyMark(std::wstring& label);
+
+// A parameter as it enters the grid.
+struct ParameterRow {
+    ParamRecord record;
+    bool editable = true;
+};
+
+// The mode in which the read-only mark makes a row read-only; in any other it is only removed.
+constexpr int kReadOnlyMode = 1;
+
+// The record and row of a line inside a block, nothing when the line is no parameter. Distances and reals are
+// multiplied by the scale. Left to the caller: the warning for a record of type 'U', which gets no row, and
+// the row itself with its customItem and itemId.
+std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
+                                          int mode, const TextLookup& lookup);
