@@ -11,6 +11,20 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_MESSAGE(WM_PRINTCLIENT, &CPropertyGrid::OnPrintClient)
+    ON_WM_DESTROY()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_VSCROLL()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_GETDLGCODE()
+    ON_MESSAGE(WM_GRID_CHOICE_MADE, &CPropertyGrid::OnChoiceMade)
+    ON_MESSAGE(WM_GRID_EDIT_DONE, &CPropertyGrid::OnEditDone)
+    ON_MESSAGE(WM_GRID_DATE_CHOSEN, &CPropertyGrid::OnDateChosen)
 END_MESSAGE_MAP()
 
 CPropertyGrid::CPropertyGrid() = default;
@@ -84,7 +98,7 @@ void CPropertyGrid::Initialize() {
     TakeParentText(IDOK, L"OK", m_texts.ok);
     TakeParentText(IDCANCEL, L"Cancel", m_texts.cancel);
     // Rows that were added before there was a window to lay them out in.
-    if (m_contents.GetRowCount(m_displayMode == DM_CATEGORIZED) > 0)
+    if (m_contents.GetRowCount(IsCategorized()) > 0)
         Relayout();
 }
 
@@ -124,6 +138,12 @@ void CPropertyGrid::TakeParentText(int controlId, const wchar_t* otherwise, std:
 void CPropertyGrid::NotifyChanged(UINT item) {
     if (CWnd* const owner = GetOwner())
         owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
+}
+
+// The owner may do anything while it hears of the change: remove the rows, or the grid.
+void CPropertyGrid::ReportChange(UINT item) {
+    NotifyChanged(item);
+    Repaint();
 }
 
 void CPropertyGrid::Repaint() {

@@ -14,11 +14,16 @@
 //
 // Coordinates are pixels of the client area. A setter repaints if the window exists. Nothing that the
 // client itself sets is notified; a change by the user is, see WM_GRID_ITEM_CHANGED.
+//
+// The user edits the focused row's value: in a text edit laid over it, in a list or a calendar dropped down
+// under it, or in a dialog, see EItemType and EEditMode. The grid owns the one editor that may be open; it
+// ends when the grid or another window takes the focus.
 #pragma once
 
 #include <afxwin.h>
 #include <atlcomtime.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -186,6 +191,14 @@ public:
     // From the left edge of the value rectangle to the value's text; custom items place theirs alike.
     int GetTextMargin() const { return TEXT_MARGIN; }
 
+    // ---- Editing
+
+    // Whether an in-place edit, a list or a calendar is open.
+    bool IsEditing() const { return m_editor != nullptr && m_editor->GetSafeHwnd() != nullptr; }
+    // Ends it: the typed text becomes the value, a list or a calendar closes without a choice. For a client
+    // that is about to read the values without the user having left the grid.
+    void EndEditing();
+
     // ---- Appearance
 
     // One of EDisplayMode; the initial one is DM_CATEGORIZED. Any other number shows as DM_FLAT.
@@ -261,6 +274,20 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
+    afx_msg void OnDestroy();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* window);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg LRESULT OnChoiceMade(WPARAM index, LPARAM zero);
+    afx_msg LRESULT OnEditDone(WPARAM text, LPARAM zero);
+    afx_msg LRESULT OnDateChosen(WPARAM alsoZero, LPARAM zero);
     DECLARE_MESSAGE_MAP()
 
     const CGridContents& GetContents() const { return m_contents; }
@@ -268,6 +295,17 @@ protected:
 private:
     static constexpr int TEXT_MARGIN = 4;
     static constexpr UINT SCROLL_BAR_ID = 1000;
+    static constexpr UINT IN_PLACE_EDIT_ID = 1000;
+
+    // What the grid holds the mouse for.
+    enum EMouseUse { MU_NONE, MU_EDIT_BUTTON, MU_CUSTOM_ITEM, MU_DIVIDER };
+
+    // A header row or an item's row; the other id is NO_ID.
+    struct CRow {
+        UINT section = NO_ID;
+        UINT item = NO_ID;
+        bool operator==(const CRow&) const = default;
+    };
 
     struct CColors {
         COLORREF text = ::GetSysColor(COLOR_WINDOWTEXT);
@@ -291,6 +329,9 @@ private:
         setting = value;
         Repaint();
     }
+
+    bool IsCategorized() const { return m_displayMode == DM_CATEGORIZED; }
+    void ReportChange(UINT item);
 
     // Values: PropertyGridValues.cpp.
     UINT AddItemWithOption(UINT section, EItemType kind, const std::wstring& name, const void* value,
@@ -322,6 +363,60 @@ private:
     void PaintValue(CPaintTools& tools, const CGridItem& item);
     CRect PaintSwatch(CPaintTools& tools, const CRect& cell, COLORREF color);
 
+    // The mouse: PropertyGridMouse.cpp.
+    bool Press(CPoint point);
+    bool PressCustomItem(CPoint point);
+    bool PressSection(CPoint point);
+    bool PressItem(CPoint point);
+    void MoveMouse(CPoint point);
+    void MoveDivider(int x);
+    void Release(CPoint point);
+    void DoubleClick();
+    void HoldMouse(EMouseUse use);
+    EMouseUse LetMouseGo();
+    bool TakeFocus();
+    bool IsOnDivider(CPoint point) const;
+    bool IsOnEditButton(CPoint point) const;
+    bool CanFocus(const CGridItem& item) const { return item.editable || m_focusNonEditable; }
+    CGridItem* FindItemAt(CPoint point);
+    CGridItem* FindFocusedItem() { return m_contents.FindItem(m_focusedItem); }
+    void TellCustomItem(void (ICustomItem::*event)(CRect, CPoint), CPoint point);
+
+    // The keyboard: PropertyGridKeyboard.cpp.
+    bool PressKey(UINT key);
+    bool TypeCharacter(UINT character);
+    bool CollapseFocusedSection(bool collapse);
+    void CollapseAllSections(bool collapse);
+    std::vector<CRow> ListFocusRows() const;
+    void FocusNextRow();
+    void FocusPreviousRow();
+    void FocusRow(const CRow& row);
+    void RevealFocusedRow();
+
+    // Scrolling: PropertyGridScroll.cpp.
+    bool ScrollByBar(UINT code, UINT position, const CScrollBar* bar);
+    void ScrollByWheel(int delta);
+    bool Scroll(UINT code, int position = 0);
+    int FindThumbPosition(UINT position);
+
+    // Editors and their results: PropertyGridEdit.cpp.
+    void OpenEditor(CPoint point);
+    void OpenInPlaceEdit(const CRect& rect, const std::wstring& text);
+    void OpenInPlaceOrModal(const CGridItem& item, CPoint point);
+    void DropDown(const CGridItem& item);
+    void OpenList(const CGridItem& item, const CRect& under);
+    void OpenCalendar(const CGridItem& item, CRect under);
+    void TakeChoice(int index);
+    void TakeText(const std::wstring& text);
+    void TakeDate();
+    void CloseEditor();
+
+    // Dialogs: PropertyGridModalEdit.cpp.
+    void EditInDialog(UINT id);
+    template <class T, class TAsk>
+    void EditCopy(const CGridItem& item, TAsk ask);
+    void PressCustomButton(const CGridItem& item);
+
     CGridContents m_contents;
     UINT m_focusedSection = NO_ID;
     UINT m_focusedItem = NO_ID;
@@ -343,4 +438,11 @@ private:
     CRect m_editButtonRect;
     bool m_buttonPressed = false;  // paints the edit button pushed
     bool m_creating = false;       // between PreCreateWindow and PreSubclassWindow
+    EMouseUse m_mouseUse = MU_NONE;
+    int m_lastDividerX = 0;        // of the mouse, while it moves the divider
+    bool m_editOnRelease = false;  // the left button went down on a value whose editor opens on release
+    // The press that focused the EM_INPLACE_BUTTON item was left of its button. Once true, a release on the
+    // button means the button; until then every release opens the text edit.
+    bool m_textPartPressed = true;
+    std::unique_ptr<CWnd> m_editor;  // the open one; or what is left of one that closed by itself
 };
