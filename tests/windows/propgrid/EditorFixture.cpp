@@ -2,8 +2,14 @@
 
 #include <utility>
 
+#include "DialogInput.h"
 #include "ModalHands.h"
 #include "Pixels.h"
+
+std::ostream& operator<<(std::ostream& out, const SReport& report) {
+    return out << "message " << report.message << ", index " << report.index << ", text "
+               << testing::PrintToString(report.text.substr(0, 200));
+}
 
 BEGIN_MESSAGE_MAP(CEditorGrid, CPropertyGrid)
     ON_MESSAGE(WM_GRID_CHOICE_MADE, &CEditorGrid::OnChoiceMade)
@@ -62,13 +68,24 @@ EditorTest::EditorTest() {
     EXPECT_TRUE(
         sibling.Create(windowClass, L"", WS_CHILD | WS_VISIBLE, CRect(320, 10, 420, 110), &parent, 101));
     parent.SetActiveWindow();
-    grid.SetFocus();
-    PumpMessages();
+    ::SetFocus(grid.m_hWnd);
 }
 
 EditorTest::~EditorTest() {
     grid.beforeClosing = nullptr;
     grid.CloseEditor();
+}
+
+void EditorTest::ClickOn(const std::function<HWND()>& open, const std::function<POINT(HWND editor)>& point) {
+    for (int tries = 0; tries < 20 && grid.reports.empty(); ++tries) {
+        grid.CloseEditor();
+        const HWND editor = open();
+        PumpMessages();
+        if (!::IsWindow(editor))
+            continue;
+        Click(editor, point(editor));
+        PumpUntil([&] { return !::IsWindow(editor); });
+    }
 }
 
 namespace {

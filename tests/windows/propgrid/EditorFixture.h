@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct SReport {
     std::wstring text;  // of WM_GRID_EDIT_DONE
     bool operator==(const SReport&) const = default;
 };
+std::ostream& operator<<(std::ostream& out, const SReport& report);
 
 // Keeps the editors' messages. Unless told otherwise it destroys and deletes its editor inside the message
 // as the grid does: what the editor then still touches, the checking allocator shows.
@@ -51,10 +53,14 @@ protected:
     // The rectangle of a row's value, in client coordinates of the grid.
     static CRect Cell() { return {150, 20, 300, 36}; }
 
+    // Opens a pop-up editor and clicks with the real mouse on a point of it, until the grid hears of it. A
+    // window manager may give the keyboard to an earlier window in the meantime, which closes the editor;
+    // then once more.
+    void ClickOn(const std::function<HWND()>& open, const std::function<POINT(HWND editor)>& point);
+
     CGridParent parent;
     CEditorGrid grid;
-    CWnd sibling;         // a child of the same parent
-    CGridParent another;  // top-level
+    CWnd sibling;  // a child of the same parent
 };
 
 // Down for as long as it lives, for GetKeyState.

@@ -68,8 +68,8 @@ TEST_F(InPlaceEdit, IsAHiddenChildOfTheGridAtThePlaceGiven) {
 }
 
 TEST_F(InPlaceEdit, HasTheStyleGivenToo) {
-    CPropertyGridInPlaceEdit edit(&grid, Cell(), WS_BORDER | WS_VISIBLE, 1, L"x");
-    EXPECT_EQ(edit.GetStyle(), static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL));
+    CPropertyGridInPlaceEdit edit(&grid, Cell(), WS_TABSTOP | WS_VISIBLE, 1, L"x");
+    EXPECT_EQ(edit.GetStyle(), static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL));
 }
 
 TEST_F(InPlaceEdit, OpensWithTheCaretBehindTheTextAndNothingSelected) {
@@ -81,6 +81,7 @@ TEST_F(InPlaceEdit, OpensWithTheCaretBehindTheTextAndNothingSelected) {
 }
 
 TEST_F(InPlaceEdit, ScrollsTheEndOfALongTextIntoView) {
+    grid.font = &parent.font;
     const HWND edit = Open(std::wstring(200, L'm')).m_hWnd;
     const auto first = static_cast<int>(::SendMessage(edit, EM_CHARFROMPOS, 0, MAKELPARAM(1, 5)));
     const auto end = static_cast<short>(LOWORD(::SendMessage(edit, EM_POSFROMCHAR, 199, 0)));
@@ -257,12 +258,6 @@ void PressWithCtrl(HWND edit, UINT key) {
     ::SendMessage(edit, WM_KEYDOWN, key, 1);
 }
 
-// A thread's own keyboard input, from the queue.
-void PostKey(HWND edit, UINT key) {
-    ::PostMessage(edit, WM_KEYDOWN, key, 1);
-    PumpMessages();
-}
-
 HWND FindSibling(HWND grid) {
     return ::GetDlgItem(::GetParent(grid), 101);
 }
@@ -270,24 +265,20 @@ HWND FindSibling(HWND grid) {
 const SEnding endings[] = {
     {"Enter", [](auto&, auto&, HWND edit) { SendChar(edit, VK_RETURN); }},
     {"Tab", [](auto&, auto&, HWND edit) { SendChar(edit, VK_TAB); }},
-    {"EnterKey", [](auto&, auto&, HWND edit) { PostKey(edit, VK_RETURN); }},
-    {"TabKey", [](auto&, auto&, HWND edit) { PostKey(edit, VK_TAB); }},
     {"CtrlLeft", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_LEFT); }},
     {"CtrlUp", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_UP); }},
     {"CtrlRight", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_RIGHT); }},
     {"CtrlDown", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_DOWN); }},
     {"CtrlPageUp", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_PRIOR); }},
     {"CtrlPageDown", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_NEXT); }},
-    {"FocusToTheGrid", [](auto&, auto& grid, HWND) { grid.SetFocus(); }},
+    {"FocusToTheGrid", [](auto&, auto& grid, HWND) { ::SetFocus(grid.m_hWnd); }},
     {"FocusToASibling", [](auto&, auto& grid, HWND) { ::SetFocus(FindSibling(grid.m_hWnd)); }},
     {"FocusNowhere", [](auto&, auto&, HWND) { ::SetFocus(nullptr); }},
-    {"FocusBesideTheParent", [](auto&, auto& grid, HWND) { grid.GetParent()->SetFocus(); }},
+    {"FocusBesideTheParent", [](auto&, auto& grid, HWND) { ::SetFocus(::GetParent(grid.m_hWnd)); }},
     {"Hiding", [](auto&, auto&, HWND edit) { ::ShowWindow(edit, SW_HIDE); }},
-    {"HidingTheGrid", [](auto&, auto& grid, HWND) { grid.ShowWindow(SW_HIDE); }},
     {"Closing", [](auto&, auto&, HWND edit) { ::SendMessage(edit, WM_CLOSE, 0, 0); }},
     {"DestroyingItsWindow", [](auto&, auto&, HWND edit) { ::DestroyWindow(edit); }},
     {"Escape", [](auto&, auto&, HWND edit) { SendChar(edit, VK_ESCAPE); }, true},
-    {"EscapeKey", [](auto&, auto&, HWND edit) { PostKey(edit, VK_ESCAPE); }, true},
 };
 
 class InPlaceEditEnding : public InPlaceEdit, public testing::WithParamInterface<SEnding> {
@@ -303,7 +294,6 @@ TEST_P(InPlaceEditEnding, TellsTheTextOnceToAGridThatDeletesIt) {
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
     End(edit);
-    PumpMessages();
     EXPECT_EQ(grid.reports, std::vector{Expected()});
     EXPECT_FALSE(::IsWindow(edit));
     EXPECT_EQ(grid.editor, nullptr);
@@ -315,7 +305,6 @@ TEST_P(InPlaceEditEnding, TellsTheTextOnceAndGoesByItselfWhenTheGridKeepsIt) {
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
     End(edit);
-    PumpMessages();
     EXPECT_EQ(grid.reports, std::vector{Expected()});
     EXPECT_FALSE(::IsWindow(edit));
     ASSERT_NE(grid.editor, nullptr);
@@ -324,11 +313,9 @@ TEST_P(InPlaceEditEnding, TellsTheTextOnceAndGoesByItselfWhenTheGridKeepsIt) {
 
 TEST_P(InPlaceEditEnding, LeavesTheNextEditToEndLikeTheFirst) {
     End(Open(L"1").m_hWnd);
-    grid.ShowWindow(SW_SHOW);
     const HWND next = Open(L"12.5").m_hWnd;
     Type(next, L"7");
     End(next);
-    PumpMessages();
     ASSERT_EQ(grid.reports.size(), 2U);
     EXPECT_EQ(grid.reports.back(), Expected());
 }
@@ -347,9 +334,7 @@ TEST_P(InPlaceEditEnding, TellsTheTextToAnOwnerThatIsNotTheParent) {
 TEST_P(InPlaceEditEnding, LeavesNothingBehind) {
     const auto cycle = [&] {
         End(Open(L"a text too long for the object to hold inside").m_hWnd);
-        PumpMessages();
         grid.reports = {};
-        grid.ShowWindow(SW_SHOW);
     };
     for (int i = 0; i < 3; ++i)
         cycle();
@@ -365,6 +350,7 @@ TEST_P(InPlaceEditEnding, LeavesNothingBehind) {
 
 TEST_F(InPlaceEdit, EndsWhenAnotherTopLevelWindowTakesTheFocus) {
     const HWND edit = Open(L"12.5").m_hWnd;
+    CGridParent another;
     another.SetFocus();
     EXPECT_EQ(grid.reports, std::vector{Done(L"12.5")});
     EXPECT_FALSE(::IsWindow(edit));
@@ -414,7 +400,7 @@ TEST_F(InPlaceEdit, LeavesByPlainNavigationKeysWhenToldTo) {
 }
 
 TEST_F(InPlaceEdit, GivesTheFocusToTheGridByEnterTabAndCtrlWithAnArrow) {
-    for (const auto& end : {endings[0].end, endings[1].end, endings[6].end}) {
+    for (const auto& end : {endings[0].end, endings[1].end, endings[2].end}) {
         end(*this, grid, Open(L"x").m_hWnd);
         EXPECT_EQ(::GetFocus(), grid.m_hWnd);
     }
