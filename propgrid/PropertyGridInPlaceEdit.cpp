@@ -12,6 +12,7 @@
 BEGIN_MESSAGE_MAP(CPropertyGridInPlaceEdit, CEdit)
     ON_WM_CHAR()
     ON_WM_KEYDOWN()
+    ON_WM_MOUSEWHEEL()
     ON_WM_KILLFOCUS()
     ON_WM_GETDLGCODE()
     ON_WM_CTLCOLOR_REFLECT()
@@ -81,6 +82,13 @@ void CPropertyGridInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
         Leave();
     else
         CEdit::OnKeyDown(key, repeat, flags);
+}
+
+// The rows are what scrolls. An edit of one line would hand the wheel on by itself on Windows, but not under
+// Wine.
+BOOL CPropertyGridInPlaceEdit::OnMouseWheel(UINT flags, short delta, CPoint point) {
+    const auto turn = MAKEWPARAM(flags, static_cast<WORD>(delta));
+    return GetParent()->SendMessage(WM_MOUSEWHEEL, turn, MAKELPARAM(point.x, point.y)) != 0;
 }
 
 void CPropertyGridInPlaceEdit::OnKillFocus(CWnd* newFocus) {

@@ -50,6 +50,7 @@ public:
 protected:
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg UINT OnGetDlgCode();
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);

@@ -1,0 +1,583 @@
+// The grid's in-place edit: when and where it opens, with which text, each of its endings, what becomes of
+// the text. All runs on the checking allocator: what touches a freed editor ends the program.
+#include <clocale>
+#include <cmath>
+
+#include "EditorFixture.h"
+#include "GridInputFixture.h"
+#include "HandleCount.h"
+#include "ModalHands.h"
+#include "TypedNumber.h"
+
+namespace {
+
+class GridEdit : public GridInputTest {
+protected:
+    // The edit's place in client coordinates of the grid.
+    CRect EditRect() {
+        CRect rect;
+        ::GetWindowRect(Edit(), &rect);
+        grid.ScreenToClient(&rect);
+        return rect;
+    }
+    // The row's value from the divider to the right edge.
+    CRect CellOf(UINT item) {
+        const CRect name = RectsOf(item).first;
+        return {grid.GetGutterWidth(), name.top, 300, name.bottom};
+    }
+};
+
+// ---- Opening
+
+TEST_F(GridEdit, OpensWhenTheButtonIsReleasedOverTheValue) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    const CPoint value = ValueOf(item);
+    Press(value);
+    EXPECT_EQ(EditorCount(), 0);
+    Release(value);
+    ASSERT_NE(Edit(), nullptr);
+    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_TRUE(::IsWindowVisible(Edit()));
+    EXPECT_EQ(::GetFocus(), Edit());
+    EXPECT_EQ(TextOf(Edit()), L"value");
+    EXPECT_EQ(::GetDlgCtrlID(Edit()), 1000);
+}
+
+TEST_F(GridEdit, DoesNotOpenWhenTheButtonIsReleasedElsewhere) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    Press(ValueOf(item));
+    Release(CPoint(200, 180));
+    EXPECT_EQ(EditorCount(), 0);
+    Press(NameOf(item));
+    Release(ValueOf(item));
+    EXPECT_EQ(EditorCount(), 0) << "the press on the value was another one";
+}
+
+TEST_F(GridEdit, OpensOnAFocusedRowTooIfPressAndReleaseAreOnTheValue) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    Focus(item);
+    Press(ValueOf(item));
+    Release(CPoint(200, 180));
+    EXPECT_EQ(EditorCount(), 0);
+    ClickOn(ButtonOf(item));
+    EXPECT_NE(Edit(), nullptr);
+}
+
+TEST_F(GridEdit, OpensWithoutAPaintBetweenPressAndRelease) {
+    const UINT first = grid.AddStringItem(section, L"first", L"1");
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    Focus(first);
+    ClickOn(ValueOf(item));
+    ASSERT_NE(Edit(), nullptr);
+    EXPECT_EQ(EditRect(), CRect(151, CellOf(item).top + 2, 300, CellOf(item).bottom));
+}
+
+TEST_F(GridEdit, NeverOpensOnAnItemThatIsNotEditable) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value", false);
+    ClickOn(ValueOf(item));
+    ClickOn(ButtonOf(item));
+    EXPECT_EQ(EditorCount(), 0);
+}
+
+TEST_F(GridEdit, LiesOverTheCellAOnePixelIn) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    ClickOn(ValueOf(item));
+    const CRect cell = CellOf(item);
+    EXPECT_EQ(EditRect(), CRect(cell.left + 1, cell.top + 2, cell.right, cell.bottom));
+}
+
+TEST_F(GridEdit, LeavesRoomForTheButtonOfAnItemThatHasOne) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    ClickOn(ValueOf(item));
+    const CRect cell = CellOf(item);
+    EXPECT_EQ(EditRect(), CRect(cell.left + 2, cell.top + 2, cell.right - RowHeight(), cell.bottom));
+}
+
+TEST_F(GridEdit, HasTheGridsColoursAndFont) {
+    const UINT item = grid.AddStringItem(section, L"name", L"HHHH");
+    ClickOn(ValueOf(item));
+    PumpMessages();
+    const CClientPixels pixels(Edit());
+    const RECT all = {0, 0, pixels.Width(), pixels.Height()};
+    EXPECT_GT(pixels.Count(all, back), pixels.Width() * pixels.Height() / 2);
+    EXPECT_GT(pixels.Count(all, text), 10);
+    LOGFONT font = {};
+    ::GetObject(reinterpret_cast<HFONT>(::SendMessage(Edit(), WM_GETFONT, 0, 0)), sizeof(font), &font);
+    EXPECT_EQ(font.lfHeight, -12);
+}
+
+TEST_F(GridEdit, ShowsNumbersInAFormatOfItsOwn) {
+    const UINT integer = grid.AddIntegerItem(section, L"integer", -7, L"<%05d>");
+    const UINT real = grid.AddDoubleItem(section, L"real", 1234567.0, L"<%.9f>");
+    ClickOn(ValueOf(integer));
+    EXPECT_EQ(TextOf(Edit()), L"-7");
+    ClickOn(ValueOf(real));
+    EXPECT_EQ(TextOf(Edit()), L"1.23457e+06");
+}
+
+TEST_F(GridEdit, IsEmptyForANumberThatIsUndefined) {
+    grid.SetUndefinedText(L"?");
+    const UINT integer = grid.AddIntegerItem(section, L"integer", 7, L"%d", true, true);
+    const UINT real = grid.AddDoubleItem(section, L"real", 7, L"%g", true, true);
+    const UINT string = grid.AddStringItem(section, L"string", L"value", true, true);
+    ClickOn(ValueOf(integer));
+    EXPECT_EQ(TextOf(Edit()), L"");
+    ClickOn(ValueOf(real));
+    EXPECT_EQ(TextOf(Edit()), L"");
+    ClickOn(ValueOf(string));
+    EXPECT_EQ(TextOf(Edit()), L"value");
+}
+
+TEST_F(GridEdit, TakesATextOf100000Characters) {
+    const std::wstring longText(100000, L'x');
+    const UINT item = grid.AddStringItem(section, L"name", longText);
+    ClickOn(ValueOf(item));
+    EXPECT_EQ(TextOf(Edit()), longText);
+    Enter(longText + L"y");
+    EXPECT_EQ(Value<std::wstring>(item), longText + L"y");
+}
+
+// ---- Endings
+
+TEST_F(GridEdit, EachEndingStoresTheTextAndTellsOfItOnce) {
+    CWnd sibling;
+    sibling.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(310, 0, 350, 50), &parent, 101);
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    const UINT other = grid.AddStringItem(section, L"other", L"");
+    const auto sendKey = [&](UINT message, UINT key) { ::SendMessage(Edit(), message, key, 1); };
+    const auto navigate = [&](UINT key) {
+        const CKeyHeldDown control(VK_CONTROL);
+        sendKey(WM_KEYDOWN, key);
+    };
+    const std::vector<std::function<void()>> endings = {
+        [&] { sendKey(WM_CHAR, VK_RETURN); }, [&] { sendKey(WM_CHAR, VK_TAB); },
+        [&] { Press(NameOf(other)); },        [&] { Press(CPoint(20, 190)); },
+        [&] { Press(ValueOf(other)); },       [&] { navigate(VK_UP); },
+        [&] { navigate(VK_NEXT); },           [&] { sibling.SetFocus(); },
+        [&] { parent.SetFocus(); },           [&] { grid.EndEditing(); },
+    };
+    int number = 0;
+    for (const auto& end : endings) {
+        ClickOn(ValueOf(item));
+        const std::wstring typed = L"typed " + std::to_wstring(++number);
+        ::SetWindowText(Edit(), typed.c_str());
+        end();
+        ExpectNoEditorLeft();
+        EXPECT_EQ(Value<std::wstring>(item), typed);
+        EXPECT_EQ(parent.changedItems, Ids{item}) << number;
+        parent.changedItems.clear();
+        Release(CPoint(20, 190));
+    }
+}
+
+TEST_F(GridEdit, EscapeKeepsTheValue) {
+    const UINT string = grid.AddStringItem(section, L"string", L"value");
+    const UINT real = grid.AddDoubleItem(section, L"real", 1.23456789012);
+    for (const UINT item : {string, real}) {
+        ClickOn(ValueOf(item));
+        ::SetWindowText(Edit(), L"99");
+        ::SendMessage(Edit(), WM_CHAR, VK_ESCAPE, 1);
+        ExpectNoEditorLeft();
+        EXPECT_EQ(::GetFocus(), grid.m_hWnd);
+    }
+    EXPECT_EQ(Value<std::wstring>(string), L"value");
+    EXPECT_EQ(Value<double>(real), 1.23456789012);
+    EXPECT_EQ(parent.changedItems, (Ids{string, real}));
+}
+
+TEST_F(GridEdit, LeavingANumberAsItStandsKeepsAllItsDigits) {
+    const UINT real = grid.AddDoubleItem(section, L"real", 1.23456789012);
+    ClickOn(ValueOf(real));
+    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
+    EXPECT_EQ(Value<double>(real), 1.23456789012);
+    EXPECT_FALSE(grid.IsItemModified(real));
+    ClickOn(ValueOf(real));
+    Enter(L"1.234567");
+    EXPECT_EQ(Value<double>(real), 1.234567);
+}
+
+TEST_F(GridEdit, AfterEnterTheGridHasTheFocusAndTheKeysMoveOn) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    const UINT other = grid.AddStringItem(section, L"other", L"");
+    ClickOn(ValueOf(item));
+    Enter(L"x");
+    EXPECT_EQ(::GetFocus(), grid.m_hWnd);
+    PressKey(VK_DOWN);
+    EXPECT_EQ(grid.GetFocusedItem(), other);
+}
+
+TEST_F(GridEdit, OneValueAfterTheOtherIsEditedWithoutAnotherClick) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    const UINT other = grid.AddStringItem(section, L"other", L"old");
+    ClickOn(ValueOf(item));
+    ::SetWindowText(Edit(), L"new");
+    ClickOn(ValueOf(other));
+    EXPECT_EQ(Value<std::wstring>(item), L"new");
+    EXPECT_EQ(TextOf(Edit()), L"old");
+    EXPECT_EQ(EditorCount(), 1);
+}
+
+TEST_F(GridEdit, TheEndOfTheGridStoresTheTextAndFreesTheEdit) {
+    const long long blocks = HeapBlockCount();
+    {
+        CTestGrid other;
+        other.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(310, 0, 600, 100), &parent, 5);
+        other.SetDisplayMode(CPropertyGrid::DM_FLAT);
+        const UINT item = other.AddIntegerItem(other.AddSection(L""), L"name", 1);
+        other.UpdateWindow();
+        const LPARAM point = MAKELPARAM(200, RowHeight() / 2);
+        other.SendMessage(WM_LBUTTONDOWN, 0, point);
+        other.SendMessage(WM_LBUTTONUP, 0, point);
+        ASSERT_TRUE(other.IsEditing());
+        ::SetWindowText(::FindWindowEx(other.m_hWnd, nullptr, L"Edit", nullptr), L"23");
+        other.DestroyWindow();
+        EXPECT_FALSE(other.IsEditing());
+        int value = 0;
+        EXPECT_TRUE(other.GetItemValue(item, value));
+        EXPECT_EQ(value, 23);
+        EXPECT_EQ(parent.changedItems, Ids{item});
+        Ids().swap(parent.changedItems);
+    }
+    EXPECT_EQ(HeapBlockCount(), blocks);
+}
+
+// ---- Values
+
+TEST_F(GridEdit, AnIntegerTakesTheLeadingNumber) {
+    const UINT item = grid.AddIntegerItem(section, L"name", 7);
+    const std::pair<const wchar_t*, int> cases[] = {{L"12abc", 12}, {L"-3", -3}, {L"abc", 0}, {L" 8 ", 8}};
+    for (const auto& [typed, value] : cases) {
+        ClickOn(ValueOf(item));
+        Enter(typed);
+        EXPECT_EQ(Value<int>(item), value);
+    }
+    EXPECT_EQ(parent.changedItems.size(), 4U);
+}
+
+TEST_F(GridEdit, ADoubleTakesTheLeadingNumber) {
+    const UINT item = grid.AddDoubleItem(section, L"name", 7);
+    const std::pair<const wchar_t*, double> cases[] = {
+        {L"12.5abc", 12.5}, {L"-3e2", -300}, {L"abc", 0}, {L".5", 0.5}};
+    for (const auto& [typed, value] : cases) {
+        ClickOn(ValueOf(item));
+        Enter(typed);
+        EXPECT_EQ(Value<double>(item), value);
+    }
+    EXPECT_EQ(parent.changedItems.size(), 4U);
+}
+
+TEST_F(GridEdit, NothingTypedForANumberKeepsItAndTellsNobody) {
+    const UINT integer = grid.AddIntegerItem(section, L"integer", 7);
+    const UINT real = grid.AddDoubleItem(section, L"real", 7.5);
+    const UINT undefined = grid.AddIntegerItem(section, L"undefined", 7, L"%d", true, true);
+    for (const UINT item : {integer, real, undefined}) {
+        ClickOn(ValueOf(item));
+        Enter(L"");
+        ExpectNoEditorLeft();
+    }
+    EXPECT_EQ(Value<int>(integer), 7);
+    EXPECT_EQ(Value<double>(real), 7.5);
+    EXPECT_TRUE(grid.IsItemUndefined(undefined));
+    EXPECT_TRUE(parent.changedItems.empty());
+}
+
+TEST_F(GridEdit, AStringMayBecomeEmpty) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    ClickOn(ValueOf(item));
+    Enter(L"");
+    EXPECT_EQ(Value<std::wstring>(item), L"");
+    EXPECT_EQ(parent.changedItems, Ids{item});
+}
+
+TEST_F(GridEdit, WhatWasTypedIsDefined) {
+    const UINT integer = grid.AddIntegerItem(section, L"integer", 7, L"%d", true, true);
+    const UINT real = grid.AddDoubleItem(section, L"real", 7, L"%g", true, true);
+    const UINT string = grid.AddStringItem(section, L"string", L"7", true, true);
+    for (const UINT item : {integer, real, string}) {
+        ClickOn(ValueOf(item));
+        Enter(L"8");
+        EXPECT_FALSE(grid.IsItemUndefined(item));
+    }
+    EXPECT_EQ(Value<int>(integer), 8);
+    EXPECT_EQ(Value<double>(real), 8);
+}
+
+TEST(TypedNumber, WholeNumbersStopAtTheLimits) {
+    EXPECT_EQ(ReadTypedInteger(L"2147483647"), INT_MAX);
+    EXPECT_EQ(ReadTypedInteger(L"2147483648"), INT_MAX);
+    EXPECT_EQ(ReadTypedInteger(L"99999999999999999999 m"), INT_MAX);
+    EXPECT_EQ(ReadTypedInteger(L"-2147483648"), INT_MIN);
+    EXPECT_EQ(ReadTypedInteger(L"-2147483649"), INT_MIN);
+    EXPECT_EQ(ReadTypedInteger(std::wstring(100000, L'9')), INT_MAX);
+}
+
+TEST(TypedNumber, WholeNumbersAreDecimal) {
+    EXPECT_EQ(ReadTypedInteger(L"\t +12abc"), 12);
+    EXPECT_EQ(ReadTypedInteger(L"0x1F"), 0);
+    EXPECT_EQ(ReadTypedInteger(L"012"), 12);
+    EXPECT_EQ(ReadTypedInteger(L"1.9"), 1);
+    EXPECT_EQ(ReadTypedInteger(L"- 5"), 0);
+    EXPECT_EQ(ReadTypedInteger(L""), 0);
+}
+
+TEST(TypedNumber, RealNumbersEndWhereTheTextIsNoNumberAnyMore) {
+    EXPECT_EQ(ReadTypedReal(L" -2.5e-3x"), -0.0025);
+    EXPECT_EQ(ReadTypedReal(L"1e"), 1);
+    EXPECT_EQ(ReadTypedReal(L"1.2.3"), 1.2);
+    EXPECT_EQ(ReadTypedReal(L"1,5"), 1);
+    EXPECT_EQ(ReadTypedReal(L"inf"), 0);
+    EXPECT_EQ(ReadTypedReal(L"nan"), 0);
+    EXPECT_EQ(ReadTypedReal(L"0x10"), 0);
+    EXPECT_EQ(ReadTypedReal(L""), 0);
+    EXPECT_TRUE(std::isinf(ReadTypedReal(L"1e999")));
+    EXPECT_TRUE(std::isinf(ReadTypedReal(std::wstring(100000, L'9'))));
+}
+
+TEST(TypedNumber, TheDecimalPointIsAPointInEveryLocale) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    ASSERT_NE(std::setlocale(LC_ALL, "German"), nullptr);
+    ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    EXPECT_EQ(ReadTypedReal(L"12.5"), 12.5);
+    EXPECT_EQ(ReadTypedReal(L"12,5"), 12.5);
+    std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST_F(GridEdit, ANumberIsReadBackAsItShowsInEveryLocale) {
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    const UINT item = grid.AddDoubleItem(section, L"name", 12.5);
+    ASSERT_NE(std::setlocale(LC_ALL, "German"), nullptr);
+    ClickOn(ValueOf(item));
+    Enter(TextOf(Edit()) + L"0");
+    std::setlocale(LC_ALL, before.c_str());
+    EXPECT_EQ(Value<double>(item), 12.5);
+}
+
+// ---- Custom items
+
+TEST_F(GridEdit, ACustomItemGivesAndTakesTheText) {
+    for (const int mode : {EM_INPLACE, EM_INPLACE_BUTTON}) {
+        parent.changedItems.clear();
+        custom.calls.clear();
+        custom.text = L"old";
+        custom.mode = mode;
+        grid.ResetContents();
+        const UINT item = grid.AddCustomItem(grid.AddSection(L""), L"name", &custom);
+        ClickOn(ValueOf(item));
+        EXPECT_EQ(TextOf(Edit()), L"old");
+        Enter(L"new");
+        EXPECT_EQ(custom.calls, std::vector<std::string>{"text new"});
+        EXPECT_EQ(parent.changedItems, Ids{item});
+        ExpectNoEditorLeft();
+    }
+}
+
+TEST_F(GridEdit, ACustomItemThatDidNotChangeIsNotToldOf) {
+    custom.mode = EM_INPLACE;
+    custom.takesText = false;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    ClickOn(ValueOf(item));
+    Enter(L"new");
+    EXPECT_EQ(custom.calls.size(), 1U);
+    EXPECT_TRUE(parent.changedItems.empty());
+    ExpectNoEditorLeft();
+}
+
+TEST_F(GridEdit, TheReleaseOfTheFocusingPressOnTheButtonOpensTheEdit) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    ClickOn(ButtonOf(item));
+    EXPECT_NE(Edit(), nullptr);
+    EXPECT_TRUE(custom.calls.empty());
+    Enter(L"new");
+    custom.calls.clear();
+    ClickOn(ButtonOf(item));
+    EXPECT_EQ(Edit(), nullptr);
+    EXPECT_EQ(custom.calls, std::vector<std::string>{"button"});
+}
+
+TEST_F(GridEdit, AClickOnTheButtonOfAFocusedItemIsTheButtons) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    Focus(item);
+    ClickOn(ButtonOf(item));
+    EXPECT_EQ(custom.calls, std::vector<std::string>{"button"});
+    EXPECT_EQ(parent.changedItems, Ids{item});
+    ClickOn(ValueOf(item));
+    EXPECT_NE(Edit(), nullptr);
+}
+
+TEST_F(GridEdit, TheButtonOfAnItemThatTheKeyboardFocusedAfterAnotherWasEditedFirstOpensTheEdit) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT other = grid.AddStringItem(section, L"other", L"value");
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    ClickOn(ValueOf(other));
+    Enter(L"x");
+    PressKey(VK_DOWN);
+    ClickOn(ButtonOf(item));
+    EXPECT_NE(Edit(), nullptr);
+    Enter(L"x");
+    custom.calls.clear();
+    ClickOn(ButtonOf(item));
+    EXPECT_EQ(custom.calls, std::vector<std::string>{"button"});
+}
+
+TEST_F(GridEdit, TheEdgeOfTheButtonIsARowsHeightFromTheRight) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    Focus(item);
+    ClickOn(CPoint(300 - RowHeight(), ButtonOf(item).y));
+    EXPECT_EQ(custom.calls.size(), 1U);
+    ClickOn(CPoint(300 - RowHeight() - 1, ButtonOf(item).y));
+    EXPECT_NE(Edit(), nullptr);
+}
+
+TEST_F(GridEdit, AMessageBoxOfTheCustomItemLeavesTheOrderAsItIs) {
+    custom.mode = EM_INPLACE;
+    custom.takesText = false;
+    custom.during = [] { ::MessageBox(nullptr, L"invalid", L"Invalid value", MB_OK); };
+    CModalHands hands;
+    hands.ThenPressOk();
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    const UINT other = grid.AddStringItem(section, L"other", L"value");
+    ClickOn(ValueOf(item));
+    ClickOn(ValueOf(other));
+    EXPECT_EQ(hands.messages.size(), 1U);
+    EXPECT_EQ(custom.calls.size(), 1U);
+    EXPECT_EQ(grid.GetFocusedItem(), other);
+    EXPECT_EQ(TextOf(Edit()), L"value");
+}
+
+TEST_F(GridEdit, AnEditThatOpensDuringTheEndOfAnotherStaysOpen) {
+    custom.mode = EM_INPLACE;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    const UINT other = grid.AddStringItem(section, L"other", L"value");
+    custom.during = [&] {
+        custom.during = nullptr;
+        ClickOn(ValueOf(other));
+    };
+    ClickOn(ValueOf(item));
+    Enter(L"x");
+    ASSERT_EQ(EditorCount(), 1);
+    EXPECT_EQ(TextOf(Edit()), L"value");
+    EXPECT_TRUE(grid.IsEditing());
+    Press(CPoint(20, 190));
+    ExpectNoEditorLeft();
+}
+
+// ---- The owner's ear
+
+TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChange) {
+    CListeningOwner owner;
+    grid.SetOwner(&owner);
+    for (const EItemType kind : {IT_STRING, IT_INTEGER, IT_DOUBLE, IT_CUSTOM}) {
+        custom.mode = EM_INPLACE;
+        int heard = 0;
+        owner.heard = [&](UINT) {
+            ++heard;
+            grid.ResetContents();
+        };
+        const UINT s = grid.AddSection(L"");
+        const UINT item = kind == IT_STRING    ? grid.AddStringItem(s, L"a", L"b")
+                          : kind == IT_INTEGER ? grid.AddIntegerItem(s, L"a", 1)
+                          : kind == IT_DOUBLE  ? grid.AddDoubleItem(s, L"a", 1)
+                                               : grid.AddCustomItem(s, L"a", &custom);
+        ClickOn(ValueOf(item));
+        Enter(L"2");
+        EXPECT_EQ(heard, 1);
+        EXPECT_EQ(grid.GetItemCount(), 0U);
+        ExpectNoEditorLeft();
+    }
+    grid.SetOwner(nullptr);
+}
+
+TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenItHearsOfTheChange) {
+    CListeningOwner owner;
+    grid.SetOwner(&owner);
+    owner.heard = [&](UINT) { grid.DestroyWindow(); };
+    const UINT item = grid.AddStringItem(section, L"a", L"b");
+    ClickOn(ValueOf(item));
+    ::SetWindowText(Edit(), L"c");
+    Press(CPoint(20, 190));
+    EXPECT_EQ(grid.m_hWnd, nullptr);
+    EXPECT_EQ(Value<std::wstring>(item), L"c");
+}
+
+TEST_F(GridEdit, RemovingTheRowsLeavesAnOpenEditAlone) {
+    const UINT item = grid.AddStringItem(section, L"a", L"b");
+    ClickOn(ValueOf(item));
+    ::SetWindowText(Edit(), L"typed");
+    grid.ResetContents();
+    ASSERT_NE(Edit(), nullptr);
+    // The focus stays with the id, and so does the text.
+    const UINT again = grid.AddStringItem(grid.AddSection(L""), L"z", L"");
+    ASSERT_EQ(again, item);
+    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
+    EXPECT_EQ(Value<std::wstring>(again), L"typed");
+    ExpectNoEditorLeft();
+}
+
+TEST_F(GridEdit, ATextForARowThatIsGoneIsDropped) {
+    const UINT item = grid.AddStringItem(section, L"a", L"b");
+    ClickOn(ValueOf(item));
+    grid.ResetContents();
+    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
+    EXPECT_EQ(EditorCount(), 0);
+    EXPECT_TRUE(parent.changedItems.empty());
+}
+
+TEST_F(GridEdit, ATextForAnotherKindIsIgnoredAndLeavesTheEdit) {
+    const UINT item = grid.AddStringItem(section, L"a", L"b");
+    const UINT first = AddAllKinds(L"kinds");
+    for (const EItemType kind :
+         {IT_TEXT, IT_COMBO, IT_BOOLEAN, IT_DATE, IT_DATETIME, IT_FILE, IT_FOLDER, IT_COLOR, IT_FONT}) {
+        grid.SetFocusedItem(item);
+        grid.UpdateWindow();
+        ClickOn(ValueOf(item));
+        const HWND edit = Edit();
+        ASSERT_NE(edit, nullptr);
+        grid.SetFocusedItem(first + kind);
+        const std::wstring before = grid.GetItemText(first + kind);
+        grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
+        EXPECT_EQ(Edit(), edit);
+        EXPECT_EQ(grid.GetItemText(first + kind), before);
+        grid.SetFocusedItem(CPropertyGrid::NO_ID);
+        grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
+        EXPECT_EQ(Edit(), edit);
+        EXPECT_TRUE(parent.changedItems.empty());
+        Press(CPoint(20, 195));
+        ExpectNoEditorLeft();
+        Release(CPoint(20, 195));
+        parent.changedItems.clear();
+    }
+}
+
+TEST_F(GridEdit, ATextWithoutAnEditIsTakenTheSame) {
+    const UINT item = grid.AddIntegerItem(section, L"a", 1);
+    grid.SetFocusedItem(item);
+    grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"12"));
+    EXPECT_EQ(Value<int>(item), 12);
+}
+
+TEST_F(GridEdit, LeavesNothingBehind) {
+    const UINT item = grid.AddIntegerItem(section, L"a", 1);
+    const auto cycle = [&](int number) {
+        ClickOn(ValueOf(item));
+        Enter(std::to_wstring(number));
+        ClickOn(ValueOf(item));
+        ::SendMessage(Edit(), WM_CHAR, VK_ESCAPE, 1);
+        parent.changedItems.clear();
+        PumpMessages();
+    };
+    for (int number = 0; number < 3; ++number)
+        cycle(number);
+    const int objects = GdiObjectCount(), windows = WindowCount();
+    const long long blocks = HeapBlockCount();
+    for (int number = 0; number < 100; ++number)
+        cycle(number);
+    EXPECT_EQ(GdiObjectCount(), objects);
+    EXPECT_EQ(WindowCount(), windows);
+    EXPECT_EQ(HeapBlockCount(), blocks);
+}
+
+}  // namespace
