@@ -92,6 +92,8 @@ HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {
 
 // Closes with IDOK whatever happened to the files: what went wrong was shown.
 void CTavrinWndDlg::OnClickedOk() {
+    // A click on the button has ended an open edit already; the command alone has not.
+    m_grid.EndEditing();
     WriteValueFile();
     UpdateTemplateDefaults();
     OnOK();
