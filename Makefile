@@ -22,7 +22,7 @@ build: packages
 
 test: build
 	@printf 'subdirs("native" "x64")\n' > build/CTestTestfile.cmake
-	@scripts/with-wine ctest --test-dir build --output-on-failure
+	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
 
 run: packages
 	@scripts/build x64

@@ -18,7 +18,15 @@ protected:
         m_host.Start({"--check-heap", "--lunits", "2", "--luprec", "2", "--eval", call});
         m_dialog = Window::WithTitle("Porta a battente");
         ASSERT_TRUE(m_dialog.IsValid()) << m_host.Errors();
-        m_screen = m_dialog.LookWhenStill();
+        LookWhenPainted();
+    }
+
+    // The header is the last of the controls and so the last to be painted.
+    void LookWhenPainted() {
+        EXPECT_TRUE(WaitUntil([this] {
+            m_screen = m_dialog.Look();
+            return m_screen.At(X(643), Y(9)) == headerGrey;
+        })) << "the header's grey never came up";
     }
 
     // A point given in the dialog's own units, as pixels.
@@ -115,7 +123,7 @@ TEST_F(ItemDialog, OpensWithoutAPicture) {
     m_host.Start({"--check-heap", "--eval", R"((tavrinwnd "door"))"});
     m_dialog = Window::WithTitle("Porta a battente");
     ASSERT_TRUE(m_dialog.IsValid());
-    m_screen = m_dialog.LookWhenStill();
+    LookWhenPainted();
     EXPECT_EQ(m_screen.At(X(200), Y(150)), dialogGrey);
     m_dialog.Press("Escape");
     EXPECT_EQ(m_host.Wait(), 0) << m_host.Errors();
