@@ -1,0 +1,43 @@
+#include "ItemDialogWindow.h"
+
+void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
+    host.UseSample("door");
+    host.Start({"--check-heap", "--lunits", std::to_string(units), "--luprec", std::to_string(precision),
+                "--eval", call});
+    dialog = Window::WithTitle("Porta a battente");
+    ASSERT_TRUE(dialog.IsValid()) << host.Errors();
+    LookWhenPainted();
+}
+
+// The height of the grid's first row: its bottom line has the header's grey. 0 when there is no line.
+int ItemDialogWindow::FindRowHeight() const {
+    for (int y = Y(18) + 2; y < Y(18) + 100; ++y) {
+        if (screen.At(X(645) - 3, y) == headerGrey)
+            return y - Y(18);
+    }
+    return 0;
+}
+
+void ItemDialogWindow::LookWhenPainted() {
+    EXPECT_TRUE(WaitUntil([this] {
+        screen = dialog.Look();
+        m_rowHeight = FindRowHeight();
+        return screen.At(X(643), Y(9)) == headerGrey && m_rowHeight > 0;
+    })) << "the header or the grid's rows never came up";
+}
+
+bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
+    const Screenshot now = dialog.Look();
+    for (int y = RowY(row) - m_rowHeight / 2; y < RowY(row) + m_rowHeight / 2; ++y) {
+        for (int x = X(453) + 211; x < now.Width(); ++x) {
+            if (now.At(x, y) == colour)
+                return true;
+        }
+    }
+    return false;
+}
+
+std::string ItemDialogWindow::Answer() {
+    EXPECT_EQ(host.Wait(), 0) << host.Errors() << host.Output();
+    return host.Answer();
+}

@@ -1,0 +1,50 @@
+// The item dialog on the sample door under a person's hands. Points are given in the dialog's own units, or
+// as rows of its grid.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "Desktop.h"
+#include "HostRun.h"
+
+inline constexpr Rgb headerGrey{0xC8, 0xC8, 0xC8};
+inline constexpr Rgb dialogGrey{0xE1, 0xE1, 0xE1};
+inline constexpr Rgb modifiedYellow{255, 255, 80};
+
+class ItemDialogWindow : public testing::Test {
+protected:
+    // Opens the dialog through the stand-in host on the checking allocator, with its units and precision.
+    void Open(const std::string& call = R"((tavrinwnd "door" 1.0 1))", int units = 2, int precision = 2);
+    // Looks until the header and the grid's rows are painted.
+    void LookWhenPainted();
+
+    int X(int units) const { return units * screen.Width() / 645; }
+    int Y(int units) const { return units * screen.Height() / 290; }
+    void ClickAt(int x, int y) const { dialog.Click(X(x), Y(y)); }
+    void PressOk() const { ClickAt(564, 279); }
+    void PressCancel() const { ClickAt(616, 279); }
+
+    // Pixels of a row of the grid, counted from 0: the middle of its value, and of the button at its end.
+    int RowY(int row) const { return Y(18) + row * m_rowHeight + m_rowHeight / 2; }
+    int ValueX() const { return X(453) + 210 + 20; }
+    int ButtonX() const { return X(645) - m_rowHeight / 2; }
+    void ClickValue(int row) const { dialog.Click(ValueX(), RowY(row)); }
+    void ClickButton(int row) const { dialog.Click(ButtonX(), RowY(row)); }
+    // Whether some pixel of the row's value has the colour.
+    bool ValueShows(int row, Rgb colour) const;
+
+    // Waits for the host's end, which must be a good one, and gives LISP's answer.
+    std::string Answer();
+
+    HostRun host;
+    Window dialog;
+    Screenshot screen{""};
+
+private:
+    int FindRowHeight() const;
+
+    int m_rowHeight = 0;
+};
