@@ -4,12 +4,14 @@ BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
 PRESETS = native x64 x86
 
-.PHONY: help build test run packages
+.PHONY: help build test run gallery packages
 .DEFAULT_GOAL := help
 
 help:
-	@echo "make run      open the item dialog on the sample door (without a display: driven by itself,"
-	@echo "              the result printed, a screenshot in out/)"
+	@echo "make run      the dialogs on the sample door (without a display: driven by itself, the results"
+	@echo "              printed, screenshots in out/)"
+	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
+	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make test     build and run every test"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make help     this list"
@@ -27,3 +29,7 @@ test: build
 run: packages
 	@scripts/build x64
 	@scripts/run-door
+
+gallery: packages
+	@scripts/build x64
+	@scripts/run-gallery

@@ -19,18 +19,25 @@ TEST_F(ItemDialog, OkWritesBothFilesAndAnswersZero) {
     Open();
     PressOk();
     EXPECT_EQ(Answer(), "0");
+    const std::string working = host.Read("door_TMP.TXT");
     EXPECT_EQ(
-        host.Read("door_TMP.TXT"),
+        working.substr(0, working.find("#11")),
         "(working file of door.lsp)\r\n<<2001>>\r\nVAR\r\n#1 = 900\r\n#2 = 2100\r\n#3 = 125\r\n#4 = 80\r\n"
-        "#5 = 1050\r\n#6 = 20\r\n$7 = 1\r\n$8 = 3\r\n#9 = 75\r\n#10 = 0.35\r\nEND_VAR\r\n"
-        "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
+        "#5 = 1050\r\n#6 = 20\r\n$7 = 1\r\n$8 = 3\r\n#9 = 75\r\n#10 = 0.35\r\n");
+    const std::string changed = host.Read("door.TXT");
     EXPECT_EQ(
-        host.Read("door.TXT"),
+        changed.substr(0, changed.find("$11")),
         "Hinged door: sample item of TavrinWnd\r\n<<2001>>\r\nVAR\r\n$1 = \"<<1501>>\"D900\r\n"
         "$2 = \"<<1502>>%\"D2100\r\n$3 = \"<<1503>>\"D125\r\n$4 = \"<<1504>>\"D80\r\n"
         "$5 = \"<<1505>>\"D1050\r\n$6 = \"<<1506>>\"D20\r\n$7 = \"<<1507>>\"I1\r\n$8 = \"<<1508>>\"I3\r\n"
-        "$9 = \"<<1509>>\"R75\r\n$10 = \"<<1510>>\"R0.35\r\nEND_VAR\r\n"
-        "Lengths in millimetres, the angle in degrees, the glazing as a share of the leaf.\r\n");
+        "$9 = \"<<1509>>\"R75\r\n$10 = \"<<1510>>\"R0.35\r\n");
+    // The last parameter, the end of the block, and the line behind it just as it was.
+    HostRun untouched;
+    untouched.UseSample("door");
+    const std::string before = untouched.Read("door.TXT");
+    const std::string tail = before.substr(before.find("END_VAR"));
+    EXPECT_EQ(working.substr(working.find("$27")), "$27 = 30\r\n" + tail);
+    EXPECT_EQ(changed.substr(changed.find("$27")), "$27 = \"<<1527>>\"I30\r\n" + tail);
 }
 
 TEST_F(ItemDialog, CancelAnswersNilAndLeavesTheFilesAlone) {
@@ -65,10 +72,10 @@ TEST_F(ItemDialog, TheHeaderIsADarkerBandThanTheRest) {
     // Behind the header's text, and at the far end of its line.
     EXPECT_EQ(screen.At(X(454), Y(2)), headerGrey);
     EXPECT_EQ(screen.At(X(643), Y(9)), headerGrey);
-    // Around the buttons, and in the grid's rows below the last.
+    // Around the buttons, and behind the rows of the grid.
     EXPECT_EQ(screen.At(X(500), Y(279)), dialogGrey);
     EXPECT_EQ(screen.At(X(590), Y(271)), dialogGrey);
-    EXPECT_EQ(screen.At(X(560), Y(260)), dialogGrey);
+    EXPECT_EQ(screen.At(X(453) + 190, RowY(1)), dialogGrey);
 }
 
 TEST_F(ItemDialog, ThePictureTakesTheWholeLeftPart) {

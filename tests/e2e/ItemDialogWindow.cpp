@@ -12,7 +12,7 @@ void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
 // The height of the grid's first row: its bottom line has the header's grey. 0 when there is no line.
 int ItemDialogWindow::FindRowHeight() const {
     for (int y = Y(18) + 2; y < Y(18) + 100; ++y) {
-        if (screen.At(X(645) - 3, y) == headerGrey)
+        if (screen.At(RowEnd() - 3, y) == headerGrey)
             return y - Y(18);
     }
     return 0;
@@ -29,7 +29,7 @@ void ItemDialogWindow::LookWhenPainted() {
 bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
     const Screenshot now = dialog.Look();
     for (int y = RowY(row) - m_rowHeight / 2; y < RowY(row) + m_rowHeight / 2; ++y) {
-        for (int x = X(453) + 211; x < now.Width(); ++x) {
+        for (int x = X(453) + 211; x < RowEnd(); ++x) {
             if (now.At(x, y) == colour)
                 return true;
         }

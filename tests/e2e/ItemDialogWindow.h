@@ -29,8 +29,10 @@ protected:
 
     // Pixels of a row of the grid, counted from 0: the middle of its value, and of the button at its end.
     int RowY(int row) const { return Y(18) + row * m_rowHeight + m_rowHeight / 2; }
+    // The door has more rows than fit: the scroll bar stands right of them.
+    int RowEnd() const { return X(645) - 17; }
     int ValueX() const { return X(453) + 210 + 20; }
-    int ButtonX() const { return X(645) - m_rowHeight / 2; }
+    int ButtonX() const { return RowEnd() - m_rowHeight / 2; }
     void ClickValue(int row) const { dialog.Click(ValueX(), RowY(row)); }
     void ClickButton(int row) const { dialog.Click(ButtonX(), RowY(row)); }
     // Whether some pixel of the row's value has the colour.
