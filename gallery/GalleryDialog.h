@@ -1,0 +1,54 @@
+// The gallery: one property grid that holds every kind of value, the switches of its appearance, and a log
+// of what the user changed. An example for whoever puts the grid on a dialog.
+//
+// Each change is written to standard output too, as a line "Width = 12.5" in UTF-8. F1 writes where the
+// values are shown, for programs that drive the mouse: a line "place LEFT TOP RIGHT BOTTOM NAME" for each
+// visible value, in pixels of the dialog's client area, then the line "places end".
+#pragma once
+
+#include <vector>
+
+#include "PercentItem.h"
+#include "PropertyGrid.h"
+
+class CGalleryDialog final : public CDialog {
+public:
+    CGalleryDialog();
+
+    const CPropertyGrid& GetGrid() const { return m_grid; }
+    CPropertyGrid& GetGrid() { return m_grid; }
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg LRESULT OnGridItemChanged(WPARAM item, LPARAM zero);
+    afx_msg void OnClickedMode(UINT id);
+    afx_msg void OnClickedFlag(UINT id);
+    afx_msg void OnClickedAcceptValues();
+    afx_msg void OnClickedReset();
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnGetMinMaxInfo(WPARAM zero, LPARAM info);
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Fill();
+    void FillBasics();
+    void FillChoices();
+    void FillDates();
+    void FillPlaces();
+    void FillLooks();
+    void FillStates();
+    void FillManyRows();
+    void ShowFlags();
+    void RememberLayout();
+    void PrintPlaces();
+
+    CPercentItem m_gloss;  // custom items outlive the grid that holds them
+    CPropertyGrid m_grid;
+    CSize m_smallest;              // of the window
+    CSize m_initialSize;           // of the client area
+    std::vector<CRect> m_initial;  // of the controls that a resize moves, in their table's order
+};
