@@ -115,6 +115,14 @@ TEST_F(ComboList, IsAsHighAsItsStringsWhenShownAndHasTheFocus) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
+TEST_F(ComboList, TakesTheFocusHoweverItIsShown) {
+    auto list = std::make_unique<CPropertyGridCombo>();
+    list->Create(WS_CHILD, Under(), &grid, 0);
+    grid.editor = std::move(list);
+    grid.editor->ShowWindow(SW_SHOWNA);
+    EXPECT_EQ(::GetFocus(), grid.editor->m_hWnd);
+}
+
 TEST_F(ComboList, OfABooleanIsTwoRowsAndTwoPixelsHigh) {
     CRect client;
     Open(0, {L"True", L"False"}).GetClientRect(&client);
@@ -280,6 +288,17 @@ TEST_F(ComboListPaint, CentresTheTextInItsRow) {
     grid.CloseEditor();
 }
 
+TEST_F(ComboListPaint, WritesInItsFont) {
+    CFont large;
+    large.CreatePointFont(240, L"Tahoma");
+    Open(1);
+    const int small = Picture().Count(Row(0), textColor);
+    grid.CloseEditor();
+    OpenList(grid, Three(), 1, Under(), &large);
+    EXPECT_GT(Picture().Count({1, 1, 149, 1 + HeightOfGg(large) + 4}, textColor), 2 * small);
+    grid.CloseEditor();
+}
+
 TEST_F(ComboListPaint, TakesNoCharacterForAMnemonic) {
     Open(2, {L"&&", L"&", L""});
     const CClientPixels picture = Picture();
@@ -426,6 +445,7 @@ TEST_F(ComboList, FollowsTheMouseWhileTheButtonIsDownAlone) {
     EXPECT_EQ(List().GetCurSel(), 2);
     EXPECT_TRUE(IsPaintDue());
     grid.keepsEditor = true;
+    Paint();
     Mouse(WM_LBUTTONUP, 2 * RowHeight() + 3);
     Mouse(WM_MOUSEMOVE, 3);
     EXPECT_EQ(List().GetCurSel(), 2);
