@@ -3,7 +3,7 @@
 //
 // Each change is written to standard output too, as a line "Width = 12.5" in UTF-8. F1 writes where the
 // values are shown, for programs that drive the mouse: a line "place LEFT TOP RIGHT BOTTOM NAME" for each
-// visible value, in pixels of the dialog's client area, then the line "places end".
+// value (where it was last shown, in pixels of the dialog's client area), then the line "places end".
 #pragma once
 
 #include <vector>
