@@ -21,9 +21,6 @@ public:
         }
     }
 
-    std::size_t Position() const { return m_position; }
-    void Return(std::size_t position) { m_position = position; }
-
     bool Take(wchar_t character) {
         const bool found = m_position < m_text.size() && m_text[m_position] == character;
         m_position += found ? 1 : 0;
@@ -64,18 +61,14 @@ std::int64_t WholeValue(const std::string& digits) {
     return result.ec == std::errc::result_out_of_range ? kLimit : std::min(value, kLimit);
 }
 
-// The exponent behind a number's digits. An "e" without digits behind it is none and is not taken.
+// The exponent behind a number's digits; 0 when there is none, or an "e" without digits behind it.
 std::int64_t TakeExponent(CScanner& scanner) {
-    const std::size_t start = scanner.Position();
-    if (scanner.Take(L'e') || scanner.Take(L'E')) {
-        const bool negative = scanner.TakeSign();
-        const std::string digits = scanner.TakeDigits();
-        if (!digits.empty()) {
-            return negative ? -WholeValue(digits) : WholeValue(digits);
-        }
+    if (!scanner.Take(L'e') && !scanner.Take(L'E')) {
+        return 0;
     }
-    scanner.Return(start);
-    return 0;
+    const bool negative = scanner.TakeSign();
+    const std::int64_t value = WholeValue(scanner.TakeDigits());
+    return negative ? -value : value;
 }
 
 // The value of "whole.fraction" times ten to the power of the exponent.

@@ -285,7 +285,7 @@ bool CPatternCompiler::FoldIntoRun(const Frame& frame, const Quantifier& quantif
         return false;
     }
     code.resize(frame.places);
-    if (BarFollows()) {
+    if (Peek() == L'|') {
         Emit(EOp::Nothing);
     }
     if (repeated) {
@@ -320,7 +320,7 @@ void CPatternCompiler::CompleteElement(bool canBeEmpty) {
         return;
     }
     frame.chainEmpty = frame.chainEmpty || canBeEmpty;
-    if (BarFollows()) {
+    if (Peek() == L'|') {
         Advance();
         frame.chainJumps = Emit(EOp::Jump, frame.chainJumps);
         m_program.code[frame.places].op = EOp::NextFirst;
@@ -405,10 +405,6 @@ void CPatternCompiler::CloseLooks(Frame& frame) {
         frame.looks = operand;
         operand = Here();
     }
-}
-
-bool CPatternCompiler::BarFollows() const {
-    return m_frames.back().kind != EFrame::Expansion && Peek() == L'|';
 }
 
 CPatternCompiler::Address CPatternCompiler::Emit(EOp op, Address operand) {

@@ -70,7 +70,6 @@ private:
     Address Here() const { return static_cast<Address>(m_program.code.size()); }
 
     wchar_t Peek() const;
-    bool BarFollows() const;
     void Advance() { ++m_position; }
 
     const wchar_t* m_position;          // the next character of the pattern, or of an expansion

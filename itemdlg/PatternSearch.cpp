@@ -45,12 +45,16 @@ const wchar_t* CPatternSearch::MatchAt(const wchar_t* start) {
     const Instruction* at = m_code;
     const wchar_t* place = start;
     for (std::size_t steps = 1;; ++steps) {
-        // Instructions that consume set `end` behind what they consumed and leave the switch, all others go
-        // on with the loop by themselves. Null stands for failure.
+        // A case goes on with the loop by itself, or leaves the switch with `end` behind what it consumed;
+        // null stands for failure.
         const wchar_t* end = nullptr;
         switch (at->op) {
             case EOp::Character:
-                end = IsOneOf(*at, *place) ? place + 1 : nullptr;
+                if (IsOneOf(*at, *place)) {
+                    ++place;
+                    ++at;
+                    continue;
+                }
                 break;
             case EOp::CharacterRange:
                 end = IsInRange(*at, *place) ? place + 1 : nullptr;

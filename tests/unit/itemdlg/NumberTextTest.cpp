@@ -76,6 +76,7 @@ TEST(DecimalValue, SkipsWhiteSpaceInFront) {
 TEST(DecimalValue, IsZeroWithoutANumber) {
     for (const wchar_t* text : {L"", L" ", L"wide", L"-", L"+", L".", L"-.", L"e5", L"+-1", L"--1", L"%1"}) {
         EXPECT_EQ(DecimalValue(text), 0.0) << text;
+        EXPECT_FALSE(std::signbit(DecimalValue(text))) << text;
     }
 }
 

@@ -92,6 +92,15 @@ TEST(PatternWork, IsCountedSoThatAPatternOfSquareCostShows) {
     EXPECT_GT(tenfold, 50 * once);
 }
 
+TEST(PatternWork, CountsEveryCharacterThatIsPassedOver) {
+    // Once forwards and once backwards.
+    EXPECT_GE(Steps(L"^.*b", Fill(L"a", 1000)), std::size_t{2000});
+    EXPECT_GE(Steps(L"^[a-z]*b", Fill(L"a", 1000)), std::size_t{2000});
+    EXPECT_GE(Steps(L"^a*b", Fill(L"a", 1000)), std::size_t{1000});
+    EXPECT_GE(Steps(L"^.*?b", Fill(L"a", 1000)), std::size_t{1000});
+    EXPECT_GE(Steps(L"^{.*}b\\0", Fill(L"a", 1000) + L"b" + Fill(L"a", 1000)), std::size_t{4000});
+}
+
 TEST(PatternWork, OfRepeatedAbbreviationsStaysInProportion) {
     // A word is already a repetition; a repetition of words must not try every way to cut one into words.
     EXPECT_LE(Steps(L"^\\w+1", Fill(L"a", 10000)), std::size_t{50000});

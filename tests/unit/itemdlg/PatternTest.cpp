@@ -181,6 +181,7 @@ TEST(PatternSet, HoldsCharactersBeyondLatin1) {
     EXPECT_EQ(Find(L"[\u00f0-\u0110]+", L"a\u00ff\u0100\u0111"), L"\u00ff\u0100");
     EXPECT_EQ(Find(L"[^\u0100-\u0110]+", L"\u0105a\u2020\u0106"), L"a\u2020");
     EXPECT_EQ(Find(L"[a\u2020]+", L"b\u2020a\u2021"), L"\u2020a");
+    EXPECT_EQ(Find(L"[x\u0150-\u0160]+", L"\u0120\u014f\u0150\u0160\u0161"), L"\u0150\u0160");
 }
 
 TEST(PatternGroup, CapturesInTheOrderOfOpeningBraces) {
@@ -380,6 +381,35 @@ TEST(PatternQuantifier, GivesBackUntilTheRestMatches) {
     EXPECT_EQ(Find(L"^[ab]*b.$", L"abba"), L"abba");
     EXPECT_EQ(Find(L"^a*ab?$", L"aa"), L"aa");
     EXPECT_EQ(Find(L"^(ab)*abc$", L"ababc"), L"ababc");
+}
+
+TEST(PatternQuantifier, GivesBackFromALongRunToThePlaceThatFits) {
+    const std::wstring filler(200, L'x');
+    for (std::size_t before : {0u, 1u, 30u, 31u, 32u, 33u, 64u, 100u}) {
+        const std::wstring head(before, L'y');
+        for (const wchar_t* mark : {L"b", L"B"}) {
+            const std::wstring input = head + mark + filler;
+            EXPECT_EQ(Captures(L"^{.*}b", input, false), (Groups{head}));
+            EXPECT_EQ(Captures(L"^{[a-z]*}b", input, false), (Groups{head}));
+            EXPECT_EQ(Captures(L"^{.*?}b{.*}$", input, false), (Groups{head, filler}));
+        }
+        EXPECT_EQ(Find(L"^.*b", head + filler), kNoMatch);
+        EXPECT_EQ(Captures(L"^{.*}bc", head + L"bc" + filler + L"b"), (Groups{head}));
+        EXPECT_EQ(Captures(L"^{.*}bcd", head + L"bcd" + filler + L"bcbbc"), (Groups{head}));
+    }
+}
+
+TEST(PatternQuantifier, GivesBackCharactersBeyondLatin1) {
+    const std::wstring input = L"\u2020\u2021\u2020\u2022";
+    EXPECT_EQ(Find(L"^[\u2020-\u2021]*\u2020", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^[\u2020\u2021]*\u2020", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^[^a]*\u2020", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^[^\u2022]*\u2020", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^.*[\u2020-\u2021]", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^.*[^\u2022]", input), L"\u2020\u2021\u2020");
+    EXPECT_EQ(Find(L"^\u2020*\u2020", L"\u2020\u2020"), L"\u2020\u2020");
+    EXPECT_EQ(Find(L"^.*a\u2020", L"a\u2020a\u2021"), L"a\u2020");
+    EXPECT_EQ(Find(L"^.*a\u2020b", L"a\u2020ba\u2020c"), L"a\u2020b");
 }
 
 TEST(PatternAlternation, StandsBetweenTwoElements) {

@@ -156,7 +156,7 @@ TEST(TitleText, IsTheLineOrTheTextThatItNames) {
     EXPECT_TRUE(texts.asked.empty());
     EXPECT_EQ(TitleText(L"before <<2001>> behind", texts.Lookup()), L"A door")
         << "the whole line is replaced";
-    EXPECT_EQ(TitleText(L"<<9>>", texts.Lookup()), L"") << "a text that is missing";
+    EXPECT_EQ(TitleText(L"<<1>>", texts.Lookup()), L"") << "a text that is missing";
     EXPECT_EQ(TitleText(L"<<99999999999>>", texts.Lookup()), L"") << "a number that is too large";
 }
 
