@@ -27,9 +27,9 @@ test: build
 	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
 
 run: packages
-	@scripts/build x64
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
 	@scripts/run-door
 
 gallery: packages
-	@scripts/build x64
+	@scripts/build x64 GridGallery TD_Alloc TD_Alloc_checked
 	@scripts/run-gallery
