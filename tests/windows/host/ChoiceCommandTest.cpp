@@ -319,10 +319,10 @@ TEST_F(ChoiceCommand, TakesALongNameAsItIs) {
     }
 }
 
-TEST_F(ChoiceCommand, AThousandCallsLeaveNothingBehind) {
+TEST_F(ChoiceCommand, FiveHundredCallsLeaveNothingBehind) {
     CArguments list;
     list.String(L"Replace").Short(0);
-    // A stream that stayed would show: 1000 of these are 64 MB.
+    // A stream that stayed would show: 500 of these are 32 MB.
     for (const wchar_t* name : {L"a", L"b"}) {
         m_folder.Write(std::wstring(name) + L"_t.png",
                        BitmapFile(104, 104, std::vector<unsigned>(104 * 104, 0x3060C0)));
@@ -345,7 +345,7 @@ TEST_F(ChoiceCommand, AThousandCallsLeaveNothingBehind) {
     const int windows = WindowCount();
     const long long blocks = HeapBlockCount();
     const long long memory = ProcessHeapSize();
-    for (int round = 0; round < 1000; ++round)
+    for (int round = 0; round < 500; ++round)
         call(round);
     EXPECT_EQ(GdiObjectCount(), gdi);
     EXPECT_EQ(WindowCount(), windows);
