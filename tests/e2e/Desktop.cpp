@@ -55,6 +55,16 @@ Window Window::WithTitle(const std::string& title) {
     return window;
 }
 
+Window Window::WithId(const std::string& id) {
+    Window window;
+    window.m_id = id;
+    return window;
+}
+
+bool Window::IsActive() const {
+    return OutputOf("xdotool getactivewindow") == m_id + "\n";
+}
+
 bool Window::IsOpen() const {
     return OutputOf("xwininfo -id " + m_id).find("IsViewable") != std::string::npos;
 }
@@ -66,6 +76,20 @@ void Window::Activate() const {
 void Window::Click(int x, int y) const {
     std::ostringstream command;
     command << "xdotool mousemove --window " << m_id << ' ' << x << ' ' << y << " click 1";
+    OutputOf(command.str());
+}
+
+void Window::DoubleClick(int x, int y) const {
+    std::ostringstream command;
+    command << "xdotool mousemove --window " << m_id << ' ' << x << ' ' << y
+            << " click --repeat 2 --delay 60 1";
+    OutputOf(command.str());
+}
+
+void Window::Drag(int fromX, int fromY, int toX, int toY) const {
+    std::ostringstream command;
+    command << "xdotool mousemove --window " << m_id << ' ' << fromX << ' ' << fromY
+            << " mousedown 1 mousemove --window " << m_id << ' ' << toX << ' ' << toY << " mouseup 1";
     OutputOf(command.str());
 }
 

@@ -40,10 +40,17 @@ public:
     // The visible window with exactly this title, once it is there; an invalid one after 20 seconds.
     static Window WithTitle(const std::string& title);
 
+    // A window that is known by its X id.
+    static Window WithId(const std::string& id);
+
     bool IsValid() const { return !m_id.empty(); }
     bool IsOpen() const;
+    bool IsActive() const;
     void Activate() const;
     void Click(int x, int y) const;
+    void DoubleClick(int x, int y) const;
+    // Moves the mouse with the button held.
+    void Drag(int fromX, int fromY, int toX, int toY) const;
     // Presses a key (a name that xdotool knows) in the window.
     void Press(const std::string& key) const;
     Screenshot Look() const;

@@ -54,13 +54,19 @@ std::string HostRun::Read(const std::string& name) const {
 }
 
 void HostRun::Start(const std::vector<std::string>& arguments) {
+    std::vector<std::string> words = {"--search", "."};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    StartProgram(words);
+}
+
+void HostRun::StartProgram(const std::vector<std::string>& arguments) {
     m_process = fork();
     if (m_process != 0)
         return;
     std::filesystem::current_path(m_folder);
     RedirectTo(".output", STDOUT_FILENO);
     RedirectTo(".errors", STDERR_FILENO);
-    std::vector<std::string> words = {std::getenv("WINE"), m_program, "--search", "."};
+    std::vector<std::string> words = {std::getenv("WINE"), m_program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
     for (std::string& word : words)

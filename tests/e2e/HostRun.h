@@ -26,6 +26,8 @@ public:
 
     // Starts the host with `arguments` (and --search for the folder) in the folder.
     void Start(const std::vector<std::string>& arguments);
+    // Starts a program that is not the host, with `arguments` alone.
+    void StartProgram(const std::vector<std::string>& arguments);
 
     // Waits for the end. The exit status, or -1 when it does not end within `seconds`.
     int Wait(int seconds = 30);

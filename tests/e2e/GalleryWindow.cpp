@@ -1,0 +1,155 @@
+#include "GalleryWindow.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::string> GalleryWindows() {
+    std::istringstream found(OutputOf("xdotool search --onlyvisible --class gridgallery.exe"));
+    std::vector<std::string> windows;
+    for (std::string id; std::getline(found, id);)
+        windows.push_back(id);
+    return windows;
+}
+
+}  // namespace
+
+GalleryWindow::GalleryWindow() {
+    const fs::path folder = run.Folder() / "program";
+    fs::create_directory(folder);
+    fs::copy_file(fs::path(BIN_DIR) / "GridGallery.exe", folder / "GridGallery.exe");
+    fs::copy_file(fs::path(BIN_DIR) / "checked" / "TD_Alloc.dll", folder / "TD_Alloc.dll");
+    run.UseProgram(folder / "GridGallery.exe");
+}
+
+void GalleryWindow::Open() {
+    run.StartProgram({});
+    gallery = Window::WithTitle("Grid gallery");
+    ASSERT_TRUE(gallery.IsValid()) << run.Errors();
+    // The window manager gives it the focus some time after it has come up.
+    gallery.Activate();
+    ASSERT_TRUE(WaitUntil([this] { return gallery.IsActive(); }));
+    gallery.LookWhenStill();
+    ReadPlaces();
+}
+
+void GalleryWindow::ReadPlaces() {
+    const auto ends = [this] {
+        const std::vector<std::string> lines = Lines();
+        return std::count(lines.begin(), lines.end(), "places end");
+    };
+    // A key may come before Wine knows that the window has the focus: it is pressed again.
+    const auto before = ends();
+    ASSERT_TRUE(WaitUntil([&] {
+        PressKeys("F1");
+        return WaitUntil([&] { return ends() > before; }, 2);
+    })) << "the gallery did not tell its places";
+    places.clear();
+    placeOrder.clear();
+    const std::vector<std::string> all = Lines();
+    // The last telling counts.
+    const auto last = std::find(std::next(all.rbegin()), all.rend(), "places end").base();
+    for (const std::string& line : std::vector<std::string>(last, all.end())) {
+        std::istringstream words(line);
+        std::string word;
+        words >> word;
+        Place place{};
+        if (word == "place" && words >> place.left >> place.top >> place.right >> place.bottom) {
+            std::getline(words >> std::ws, word);
+            places[word] = place;
+        }
+    }
+    for (const auto& [name, place] : places)
+        placeOrder.push_back(name);
+    std::sort(placeOrder.begin(), placeOrder.end(),
+              [this](const auto& one, const auto& other) { return places[one].top < places[other].top; });
+}
+
+void GalleryWindow::ClickValue(const std::string& name) const {
+    const Place& place = places.at(name);
+    gallery.Click(place.MiddleX(), place.MiddleY());
+}
+
+void GalleryWindow::DoubleClickValue(const std::string& name) const {
+    const Place& place = places.at(name);
+    gallery.DoubleClick(place.MiddleX(), place.MiddleY());
+}
+
+Window GalleryWindow::OpenDialog(const std::string& name, const std::string& title) const {
+    EXPECT_TRUE(WaitUntil([this] { return gallery.IsActive(); })) << "the gallery did not come to the front";
+    DoubleClickValue(name);
+    Window dialog = Window::WithTitle(title);
+    EXPECT_TRUE(dialog.IsValid()) << "no dialog for " << name;
+    EXPECT_TRUE(WaitUntil([&] { return dialog.IsActive(); })) << "the dialog has not the focus";
+    if (dialog.IsValid())
+        dialog.LookWhenStill();
+    return dialog;
+}
+
+Window GalleryWindow::DropDown(const std::string& name) const {
+    const std::vector<std::string> before = GalleryWindows();
+    ClickValue(name);
+    Window opened;
+    EXPECT_TRUE(WaitUntil([&] {
+        for (const std::string& id : GalleryWindows()) {
+            if (std::find(before.begin(), before.end(), id) == before.end()) {
+                opened = Window::WithId(id);
+                return true;
+            }
+        }
+        return false;
+    })) << "nothing drops down under "
+        << name;
+    if (opened.IsValid())
+        opened.LookWhenStill();
+    return opened;
+}
+
+void GalleryWindow::PressKeys(const std::string& keys) {
+    OutputOf("xdotool key " + keys);
+}
+
+void GalleryWindow::Type(const std::string& text) {
+    OutputOf("xdotool type --delay 8 -- '" + text + "'");
+}
+
+void GalleryWindow::TypeOver(const std::string& text) {
+    PressKeys("ctrl+a");
+    Type(text);
+}
+
+std::vector<std::string> GalleryWindow::Lines() const {
+    std::istringstream output(run.Output());
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(output, line);) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::vector<std::string> GalleryWindow::Changes() const {
+    std::vector<std::string> lines = Lines();
+    std::erase_if(lines, [](const std::string& line) { return line.starts_with("place"); });
+    return lines;
+}
+
+void GalleryWindow::ExpectChanges(const std::vector<std::string>& changes) const {
+    WaitUntil([&] { return Changes().size() >= changes.size(); }, 10);
+    EXPECT_EQ(Changes(), changes);
+}
+
+void GalleryWindow::CloseExpecting(const std::vector<std::string>& changes) {
+    ExpectChanges(changes);
+    EXPECT_TRUE(WaitUntil([this] { return gallery.IsActive(); }));
+    PressKeys("Escape");
+    EXPECT_EQ(run.Wait(), 0) << run.Errors();
+    EXPECT_EQ(Changes(), changes);
+    EXPECT_EQ(run.Errors().find("heap check"), std::string::npos) << run.Errors();
+}

@@ -1,0 +1,57 @@
+// The gallery of the property grid under a person's hands, on the checking allocator: values are found by
+// their names, changes by the lines that the gallery prints.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "Desktop.h"
+#include "HostRun.h"
+
+class GalleryWindow : public testing::Test {
+protected:
+    // A value's cell, in pixels of the gallery's client area.
+    struct Place {
+        int left, top, right, bottom;
+        int MiddleX() const { return (left + right) / 2; }
+        int MiddleY() const { return (top + bottom) / 2; }
+    };
+
+    GalleryWindow();
+    // Opens the gallery and learns where its values are shown.
+    void Open();
+    // Asks the gallery again where its values are shown.
+    void ReadPlaces();
+
+    void ClickValue(const std::string& name) const;
+    void DoubleClickValue(const std::string& name) const;
+    // A double click opens the dialog of a value; its title.
+    Window OpenDialog(const std::string& name, const std::string& title) const;
+    // A click opens the list or the calendar of a value: the window that came up.
+    Window DropDown(const std::string& name) const;
+
+    // Presses keys in whatever window has the focus; types a text there.
+    static void PressKeys(const std::string& keys);
+    static void Type(const std::string& text);
+    // Replaces the text of the edit that has the focus.
+    static void TypeOver(const std::string& text);
+
+    // Waits until the gallery has printed exactly these changes from the start on.
+    void ExpectChanges(const std::vector<std::string>& changes) const;
+    // Closes the gallery with Escape; it must end well, with no changes but these.
+    void CloseExpecting(const std::vector<std::string>& changes);
+
+    // What the gallery has printed, but for the places.
+    std::vector<std::string> Changes() const;
+
+    HostRun run;
+    Window gallery;
+    std::map<std::string, Place> places;
+    std::vector<std::string> placeOrder;  // the names of `places` from the top down
+
+private:
+    std::vector<std::string> Lines() const;
+};
