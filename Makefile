@@ -23,7 +23,7 @@ build: packages
 	@for preset in $(PRESETS); do scripts/build $$preset || exit 1; done
 
 test: build
-	@printf 'subdirs("native" "x64")\n' > build/CTestTestfile.cmake
+	@printf 'subdirs("x64" "native")\n' > build/CTestTestfile.cmake
 	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
 
 run: packages

@@ -157,7 +157,7 @@ TEST_F(GridRandomInput, LeavesNothingBehind) {
     run(1500);
     const int objects = GdiObjectCount(), windows = WindowCount();
     const long long blocks = HeapBlockCount();
-    run(10000);
+    run(3000);
     EXPECT_GT(dismisser.dialogs, 20);
     EXPECT_EQ(WindowCount(), windows);
     EXPECT_EQ(HeapBlockCount(), blocks);
