@@ -290,7 +290,7 @@ TEST_F(Gallery, TenThousandRandomEventsLeaveNothingBehind) {
     const std::string seed = given != nullptr ? given : std::to_string(std::random_device()());
     RecordProperty("seed", seed);
     run.StartProgram({"--monkey", "10000", seed});
-    EXPECT_EQ(run.Wait(200), 0) << "GALLERY_SEED=" << seed << '\n' << run.Errors();
+    EXPECT_EQ(run.Wait(200), 0) << "GALLERY_SEED=" << seed << '\n' << run.Errors() << run.Output();
     EXPECT_NE(run.Output().find("heap blocks "), std::string::npos) << "GALLERY_SEED=" << seed;
 }
 
