@@ -75,7 +75,7 @@ TEST_F(GridDropDown, AListLiesUnderTheRowFromTheDividerOn) {
 TEST_F(GridDropDown, AListHasTheGridsColours) {
     const UINT item = AddCombo();
     ClickOn(ValueOf(item));
-    PumpMessages();
+    ::UpdateWindow(List());
     const CClientPixels pixels(List());
     EXPECT_EQ(pixels.At(0, 0), text);
     EXPECT_EQ(pixels.At(140, 4), back);
@@ -99,7 +99,7 @@ TEST_F(GridDropDown, AListOfAnUndefinedItemHasNothingSelected) {
     const UINT item = AddCombo(2, true);
     ClickOn(ValueOf(item));
     EXPECT_EQ(ListObject().GetCurSel(), -1);
-    PumpMessages();
+    ::UpdateWindow(List());  // pumping messages could bring late news of another window and close the list
     EXPECT_EQ(ListObject().GetCurSel(), 0) << "until it has painted";
     ::SendMessage(List(), WM_KEYDOWN, VK_RETURN, 1);
     EXPECT_EQ(Value<int>(item), 0);
@@ -215,7 +215,7 @@ TEST_F(GridDropDown, AListWithoutChoicesIsHarmless) {
     const UINT item = grid.AddComboItem(section, L"combo", {}, 0);
     ClickOn(ValueOf(item));
     ASSERT_NE(List(), nullptr);
-    PumpMessages();
+    ::UpdateWindow(List());
     for (const UINT key : {VK_DOWN, VK_UP, VK_RETURN})
         ::SendMessage(List(), WM_KEYDOWN, key, 1);
     EXPECT_EQ(grid.GetItemText(item), L"");
@@ -382,8 +382,8 @@ TEST_F(GridDropDown, LeavesNothingBehind) {
     const auto cycle = [&](UINT key) {
         for (const UINT item : {combo, date}) {
             ClickOn(ValueOf(item));
-            PumpMessages();
             const HWND editor = List() != nullptr ? List() : Calendar();
+            ::UpdateWindow(editor);
             ::SendMessage(editor, WM_KEYDOWN, key, 1);
         }
         Press(CPoint(20, 190));

@@ -95,7 +95,7 @@ TEST_F(GridEdit, LeavesRoomForTheButtonOfAnItemThatHasOne) {
 TEST_F(GridEdit, HasTheGridsColoursAndFont) {
     const UINT item = grid.AddStringItem(section, L"name", L"HHHH");
     ClickOn(ValueOf(item));
-    PumpMessages();
+    ::UpdateWindow(Edit());
     const CClientPixels pixels(Edit());
     const RECT all = {0, 0, pixels.Width(), pixels.Height()};
     EXPECT_GT(pixels.Count(all, back), pixels.Width() * pixels.Height() / 2);
