@@ -2,6 +2,7 @@
 #include <memory>
 #include <thread>
 
+#include "FileLock.h"
 #include "ItemDialogFixture.h"
 
 namespace {
@@ -237,19 +238,6 @@ TEST_F(ItemFiles, AFileThatVanishesBeforeWritingIsReported) {
     EXPECT_EQ(Working(), "$1 = \"<<1501>>\"R 1\n");
     EXPECT_EQ(Template(), "$1 = \"<<1501>>\"R 1\n");
 }
-
-// Keeps a file from being opened by anybody else, as another program may.
-class CFileLock {
-public:
-    explicit CFileLock(const std::wstring& path)
-        : m_file(::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {}
-    ~CFileLock() { ::CloseHandle(m_file); }
-    CFileLock(const CFileLock&) = delete;
-    CFileLock& operator=(const CFileLock&) = delete;
-
-private:
-    HANDLE m_file;
-};
 
 TEST_F(ItemFiles, AWorkingFileThatCannotBeOpenedIsReportedAndTheDialogStaysOpen) {
     WriteItem("$1 = \"<<1501>>\"R 1\n");

@@ -1,21 +1,30 @@
-// The item dialog where the companion resource module cannot be found.
+// The item dialog where the companion resource module cannot be found, is no module, or holds no texts.
+#include <filesystem>
+
 #include "ItemDialogFixture.h"
 
 namespace {
 
-class WithoutTexts : public ItemDialogFixture {};
+class WithoutTexts : public ItemDialogFixture {
+protected:
+    void TearDown() override { ::SetDllDirectoryW(nullptr); }
+
+    void ExpectEmptyTexts() {
+        folder.Write(L"item_TMP.TXT",
+                     "x\n<<2001>>\nVAR\n$1 = \"<<1501>>\"R 5\n$2 = \"a <<1502>> b\"R 6\nEND_VAR\n");
+        InDialog(
+            [](HWND dialog, CPropertyGrid& grid) {
+                EXPECT_EQ(TextOf(dialog), L"");
+                EXPECT_EQ(Rows(grid), L" = 5 *\na  b = 6 *\n");
+            },
+            IDCANCEL);
+        Run();
+        EXPECT_TRUE(hands.messages.empty());
+    }
+};
 
 TEST_F(WithoutTexts, TitlesAndLabelsGivenAsPlaceholdersComeOutEmpty) {
-    folder.Write(L"item_TMP.TXT",
-                 "x\n<<2001>>\nVAR\n$1 = \"<<1501>>\"R 5\n$2 = \"a <<1502>> b\"R 6\nEND_VAR\n");
-    InDialog(
-        [](HWND dialog, CPropertyGrid& grid) {
-            EXPECT_EQ(TextOf(dialog), L"");
-            EXPECT_EQ(Rows(grid), L" = 5 *\na  b = 6 *\n");
-        },
-        IDCANCEL);
-    Run();
-    EXPECT_TRUE(hands.messages.empty());
+    ExpectEmptyTexts();
 }
 
 TEST_F(WithoutTexts, TheHeaderShowsTheTitleAlone) {
@@ -23,6 +32,22 @@ TEST_F(WithoutTexts, TheHeaderShowsTheTitleAlone) {
     InDialog([](HWND dialog, CPropertyGrid&) { EXPECT_EQ(TextOf(::GetDlgItem(dialog, 102)), L"Item title"); },
              IDCANCEL);
     Run();
+}
+
+TEST_F(WithoutTexts, AFileThatIsNoModuleIsAsGoodAsNone) {
+    folder.Write(L"TavrinRes.dll", "no module");
+    ::SetDllDirectoryW(folder.Path(L"").c_str());
+    ExpectEmptyTexts();
+}
+
+// Once loaded the module stays, so this test must remain the last one.
+TEST_F(WithoutTexts, AModuleThatHoldsNoTextsIsAsGoodAsNone) {
+    wchar_t other[MAX_PATH];
+    ::GetModuleFileNameW(::GetModuleHandleW(L"TD_Alloc.dll"), other, MAX_PATH);
+    std::filesystem::copy_file(other, folder.Path(L"TavrinRes.dll"));
+    ::SetDllDirectoryW(folder.Path(L"").c_str());
+    ExpectEmptyTexts();
+    EXPECT_NE(::GetModuleHandleW(L"TavrinRes.dll"), nullptr);
 }
 
 }  // namespace

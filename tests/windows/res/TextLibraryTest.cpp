@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "TempFolder.h"
 #include "TextModule.h"
 
 namespace {
@@ -18,6 +21,29 @@ TEST_F(TextLibrary, GivesNoTextWhileTheResourceModuleIsMissingAndTriesAgain) {
     EXPECT_EQ(m_texts.Load(2001), CString());
     OfferTextModule();
     EXPECT_EQ(m_texts.Load(2001), CString(L"Porta a battente"));
+}
+
+TEST_F(TextLibrary, TakesAFileThatIsNoModuleAsMissing) {
+    TakeTextModuleAway();
+    const CTempFolder folder;
+    folder.Write(L"TavrinRes.dll", "no module");
+    SetDllDirectoryW(folder.Path(L"").c_str());
+    EXPECT_EQ(m_texts.Load(2001), CString());
+    OfferTextModule();
+    EXPECT_EQ(m_texts.Load(2001), CString(L"Porta a battente"));
+}
+
+TEST_F(TextLibrary, KeepsAModuleWithoutTextsAndGivesEmptyOnes) {
+    TakeTextModuleAway();
+    const CTempFolder folder;
+    wchar_t other[MAX_PATH];
+    GetModuleFileNameW(GetModuleHandleW(L"TD_Alloc.dll"), other, MAX_PATH);
+    std::filesystem::copy_file(other, folder.Path(L"TavrinRes.dll"));
+    SetDllDirectoryW(folder.Path(L"").c_str());
+    EXPECT_EQ(m_texts.Load(2001), CString());
+    OfferTextModule();
+    EXPECT_EQ(m_texts.Load(2001), CString());
+    TakeTextModuleAway();
 }
 
 TEST_F(TextLibrary, GivesAnEmptyTextForANumberThatIsNotThere) {

@@ -1,0 +1,210 @@
+// What the item dialog tells and leaves behind where its files, folders and paths fail.
+#include <filesystem>
+#include <memory>
+
+#include "FileLock.h"
+#include "FullVolume.h"
+#include "ItemDialogFixture.h"
+
+namespace {
+
+constexpr const wchar_t* working = L"item_TMP.TXT";
+constexpr const wchar_t* defaults = L"item.TXT";
+constexpr const char* parameter = "$1 = \"<<1501>>\"R 1\n";
+constexpr const char* asWritten = "first line\nItem title\nVAR\n$1 = \"<<1501>>\"R 1\nEND_VAR\n";
+constexpr const char* withAssignment = "first line\r\nItem title\r\nVAR\r\n#1 = 1\r\nEND_VAR\r\n";
+constexpr const char* withNewDefault =
+    "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R1\r\nEND_VAR\r\n";
+
+class ItemFaults : public ItemDialogFixture {
+protected:
+    void SetUp() override {
+        ItemDialogFixture::SetUp();
+        OfferTextModule();
+    }
+
+    // Opens the dialog on an item with one parameter, lets the fault happen while it is open, and presses OK,
+    // which closes it whatever the fault is. Gives the messages as "text / caption" lines.
+    std::wstring ConfirmDespite(const std::function<void()>& fault, size_t messages) {
+        WriteItem(parameter);
+        InDialog([&](HWND, CPropertyGrid&) { fault(); });
+        for (size_t message = 0; message < messages; ++message)
+            hands.ThenPressOk();
+        EXPECT_EQ(Run(), IDOK);
+        std::wstring seen;
+        for (const MessageBoxSeen& message : hands.messages) {
+            EXPECT_EQ(message.buttons, 1);
+            seen += message.text + L" / " + message.caption + L"\n";
+        }
+        return seen;
+    }
+
+    void MakeReadOnly(const wchar_t* name) {
+        ASSERT_TRUE(::SetFileAttributesW(folder.Path(name).c_str(), FILE_ATTRIBUTE_READONLY));
+    }
+
+    // Under Wine a file server that root started may write whatever it likes.
+    bool ReadOnlyCounts() {
+        folder.Write(L"probe", "");
+        MakeReadOnly(L"probe");
+        const HANDLE file = ::CreateFileW(folder.Path(L"probe").c_str(), GENERIC_WRITE, 0, nullptr,
+                                          OPEN_EXISTING, 0, nullptr);
+        ::CloseHandle(file);
+        MakeWritable(L"probe");
+        return file == INVALID_HANDLE_VALUE;
+    }
+
+    // Back to what can be removed.
+    void MakeWritable(const wchar_t* name) {
+        ::SetFileAttributesW(folder.Path(name).c_str(), FILE_ATTRIBUTE_NORMAL);
+    }
+};
+
+TEST_F(ItemFaults, AReadOnlyWorkingFileIsReportedAndKept) {
+    if (!ReadOnlyCounts())
+        GTEST_SKIP() << "no file is read-only to this user";
+    EXPECT_EQ(ConfirmDespite([&] { MakeReadOnly(working); }, 1), L"Error - unable to write file / Error\n");
+    EXPECT_EQ(folder.Read(working), asWritten);
+    EXPECT_EQ(folder.Read(defaults), withNewDefault);
+    MakeWritable(working);
+}
+
+TEST_F(ItemFaults, AReadOnlyTemplateIsReportedAndKept) {
+    if (!ReadOnlyCounts())
+        GTEST_SKIP() << "no file is read-only to this user";
+    EXPECT_EQ(ConfirmDespite([&] { MakeReadOnly(defaults); }, 1), L"Error - unable to write file / Error\n");
+    EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), asWritten);
+    MakeWritable(defaults);
+}
+
+TEST_F(ItemFaults, ATemplateThatAnotherProgramHoldsIsReportedTwiceAndKept) {
+    std::unique_ptr<CFileLock> lock;
+    EXPECT_EQ(ConfirmDespite([&] { lock = std::make_unique<CFileLock>(folder.Path(defaults)); }, 2),
+              L"Error - unable to open file / Error\nError - unable to write file / Error\n");
+    lock.reset();
+    EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), asWritten);
+}
+
+// Gone behind the back of the host, which still finds them: nothing was read, so nothing is written.
+TEST_F(ItemFaults, FilesThatAreGoneWhenTheyAreReadComeBackEmpty) {
+    const auto loseBoth = [&] {
+        ::DeleteFileW(folder.Path(working).c_str());
+        ::DeleteFileW(folder.Path(defaults).c_str());
+        fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
+            std::wcscpy(result, folder.Path(name).c_str());
+            return FakeHost::RtNorm;
+        };
+    };
+    EXPECT_EQ(ConfirmDespite(loseBoth, 2),
+              L"Error - unable to open file / Error\nError - unable to open file / Error\n");
+    EXPECT_EQ(folder.Read(working), "");
+    EXPECT_EQ(folder.Read(defaults), "");
+}
+
+TEST_F(ItemFaults, FilesThatAreGoneWhenTheyAreWrittenAreMadeAnew) {
+    const auto loseEachAfterReading = [&] {
+        fakeHost.findFile = [&, searches = 0](const wchar_t* name, wchar_t* result, size_t) mutable {
+            if (++searches % 2 == 0)
+                ::DeleteFileW(folder.Path(name).c_str());
+            std::wcscpy(result, folder.Path(name).c_str());
+            return FakeHost::RtNorm;
+        };
+    };
+    EXPECT_EQ(ConfirmDespite(loseEachAfterReading, 0), L"");
+    EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), withNewDefault);
+}
+
+TEST_F(ItemFaults, AFullVolumeIsReportedForEachFileWhichHoldsWhatWasWrittenBefore) {
+    std::unique_ptr<CFullVolume> volume;
+    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(20); }, 2),
+              L"Error - unable to write file / Error\nError - unable to write file / Error\n");
+    volume.reset();
+    EXPECT_EQ(folder.Read(working), std::string(withAssignment).substr(0, 20));
+    EXPECT_EQ(folder.Read(defaults), "");
+}
+
+TEST_F(ItemFaults, AVolumeThatHasRoomForOneFileLeavesTheOtherEmpty) {
+    std::unique_ptr<CFullVolume> volume;
+    const size_t room = std::string(withAssignment).size();
+    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(room); }, 1),
+              L"Error - unable to write file / Error\n");
+    volume.reset();
+    EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), "");
+}
+
+TEST_F(ItemFaults, AFolderThatVanishedIsReportedForEachFile) {
+    EXPECT_EQ(ConfirmDespite([&] { std::filesystem::remove_all(folder.Path(L"")); }, 2),
+              L"File not found! / Error!\nFile not found! / Error!\n");
+    EXPECT_EQ(folder.Read(working), "(no file)");
+}
+
+// The host cannot know the folder gone while it searches: it answers with a path into it.
+TEST_F(ItemFaults, AFolderThatVanishedBehindTheHostsBackIsReportedForReadingAndWriting) {
+    const auto loseFolder = [&] {
+        std::filesystem::remove_all(folder.Path(L""));
+        fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
+            std::wcscpy(result, folder.Path(name).c_str());
+            return FakeHost::RtNorm;
+        };
+    };
+    const std::wstring both = L"Error - unable to open file / Error\nError - unable to write file / Error\n";
+    EXPECT_EQ(ConfirmDespite(loseFolder, 4), both + both);
+    EXPECT_EQ(folder.Read(working), "(no file)");
+}
+
+// The base name that makes the working file's full path that long.
+std::wstring BaseNameFor(size_t pathLength, const CTempFolder& folder) {
+    return std::wstring(pathLength - folder.Path(L"_TMP.TXT").size(), L'n');
+}
+
+TEST_F(ItemFaults, APathOf253CharactersIsTheLongestThatIsFound) {
+    const std::wstring name = BaseNameFor(253, folder);
+    ASSERT_EQ(folder.Path(name + L"_TMP.TXT").size(), 253U);
+    folder.Write(name + L"_TMP.TXT", asWritten);
+    folder.Write(name + L".TXT", asWritten);
+    PressInDialog(IDOK);
+    EXPECT_EQ(Run(1, 0, name.c_str()), IDOK);
+    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), withAssignment);
+    EXPECT_EQ(folder.Read(name + L".TXT"), withNewDefault);
+}
+
+TEST_F(ItemFaults, LongerPathsCountAsNotFoundAndTheFilesAreKept) {
+    for (const size_t length : {254U, 255U}) {
+        const std::wstring name = BaseNameFor(length, folder);
+        folder.Write(name + L"_TMP.TXT", asWritten);
+        folder.Write(name + L".TXT", asWritten);
+        hands.Forget();
+        hands.ThenPressOk();
+        EXPECT_EQ(Run(1, 0, name.c_str()), IDCANCEL) << length;
+        ASSERT_EQ(hands.messages.size(), 1U) << length;
+        EXPECT_EQ(hands.messages[0].text, L"File not found '" + name + L"_TMP.TXT'!");
+        EXPECT_EQ(hands.messages[0].caption, L"Error!");
+        EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), asWritten);
+        EXPECT_EQ(folder.Read(name + L".TXT"), asWritten);
+    }
+}
+
+// Nothing keeps a host from finding more than it was asked for.
+TEST_F(ItemFaults, ALongerPathThatTheHostFindsAllTheSameIsOpened) {
+    for (const size_t length : {254U, 255U}) {
+        const std::wstring name = BaseNameFor(length, folder);
+        folder.Write(name + L"_TMP.TXT", asWritten);
+        folder.Write(name + L".TXT", asWritten);
+        fakeHost.findFile = [&](const wchar_t* file, wchar_t* result, size_t) {
+            const std::wstring path = folder.Path(file);
+            std::wcscpy(result, path.c_str());
+            return std::filesystem::exists(path) ? FakeHost::RtNorm : 0;
+        };
+        hands.Forget();
+        PressInDialog(IDOK);
+        EXPECT_EQ(Run(1, 0, name.c_str()), IDOK) << length;
+        EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), withAssignment) << length;
+    }
+}
+
+}  // namespace
