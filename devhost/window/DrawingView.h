@@ -10,11 +10,7 @@
 #include <optional>
 #include <vector>
 
-// A point in drawing units.
-struct SPoint {
-    double x = 0;
-    double y = 0;
-};
+#include "Point.h"
 
 class CDrawingView {
 public:

@@ -1,0 +1,139 @@
+#include "SvgWriter.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <numbers>
+
+namespace {
+
+constexpr double kLongerSide = 1000;  // pixels
+constexpr double kMargin = 0.04;      // of the longer side
+
+// The shortest text that reads as the same number.
+std::string Number(double number) {
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, number == 0 ? 0.0 : number).ptr;
+    return {text, end};
+}
+
+std::string Attribute(const char* name, double number) {
+    return std::string(" ") + name + "=\"" + Number(number) + "\"";
+}
+
+// The picture's y goes downwards, the drawing's upwards.
+std::string Pair(SPoint point) {
+    return Number(point.x) + ' ' + Number(-point.y);
+}
+
+// What XML cannot hold becomes the sign for that.
+bool IsXmlCharacter(std::uint32_t code) {
+    if (code < 0x20)
+        return code == '\t' || code == '\n' || code == '\r';
+    return (code < 0xD800 || code > 0xDFFF) && code != 0xFFFE && code != 0xFFFF && code <= 0x10FFFF;
+}
+
+void AddUtf8(std::string& text, std::uint32_t code) {
+    const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
+    const auto addTail = [&](int shift) { add(0x80 | (code >> shift & 0x3F)); };
+    if (code < 0x80) {
+        add(code);
+    } else if (code < 0x800) {
+        add(0xC0 | code >> 6);
+        addTail(0);
+    } else if (code < 0x10000) {
+        add(0xE0 | code >> 12);
+        addTail(6);
+        addTail(0);
+    } else {
+        add(0xF0 | code >> 18);
+        addTail(12);
+        addTail(6);
+        addTail(0);
+    }
+}
+
+// Text between tags. Pairs of surrogates are joined wherever wide characters have 16 bits or more.
+std::string Escaped(const std::wstring& text) {
+    constexpr std::uint32_t kReplacement = 0xFFFD;
+    std::string escaped;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        auto code = static_cast<std::uint32_t>(text[i]);
+        if (code >= 0xD800 && code < 0xDC00 && i + 1 < text.size()) {
+            const auto low = static_cast<std::uint32_t>(text[i + 1]);
+            if (low >= 0xDC00 && low < 0xE000) {
+                code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
+                ++i;
+            }
+        }
+        if (code == '<')
+            escaped += "&lt;";
+        else if (code == '&')
+            escaped += "&amp;";
+        else
+            AddUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
+    }
+    return escaped;
+}
+
+struct SElement {
+    std::string operator()(const SLine& line) const {
+        return "<line" + Attribute("x1", line.from.x) + Attribute("y1", -line.from.y) +
+               Attribute("x2", line.to.x) + Attribute("y2", -line.to.y) + "/>";
+    }
+    std::string operator()(const SPolyline& line) const {
+        std::string points;
+        for (const SPoint& point : line.points)
+            points += (points.empty() ? "" : ", ") + Pair(point);
+        return (line.closed ? "<polygon points=\"" : "<polyline points=\"") + points + "\"/>";
+    }
+    std::string operator()(const SCircle& circle) const {
+        return "<circle" + Attribute("cx", circle.centre.x) + Attribute("cy", -circle.centre.y) +
+               Attribute("r", circle.radius) + "/>";
+    }
+    std::string operator()(const SArc& arc) const {
+        const double sweep = SweepOf(arc);
+        // A path cannot lead from a point to itself.
+        if (sweep == 2 * std::numbers::pi)
+            return (*this)(SCircle{arc.centre, arc.radius});
+        const char* large = sweep > std::numbers::pi ? "1" : "0";
+        return "<path d=\"M " + Pair(PointOnCircle(arc.centre, arc.radius, arc.start)) + " A " +
+               Number(arc.radius) + ' ' + Number(arc.radius) + " 0 " + large + " 0 " +
+               Pair(PointOnCircle(arc.centre, arc.radius, arc.start + sweep)) + "\"/>";
+    }
+    std::string operator()(const SText& text) const {
+        const double degrees = text.angle * 180 / std::numbers::pi;
+        return "<text transform=\"translate(" + Pair(text.place) + ") rotate(" + Number(-degrees) + ")\"" +
+               Attribute("font-size", text.height / kCapitalPart) + ">" + Escaped(text.text) + "</text>";
+    }
+};
+
+// The part of the drawing that the picture shows.
+SBox ShownPart(const CDrawing& drawing) {
+    SBox box = drawing.Extents().value_or(SBox{{0, 0}, {1, 1}});
+    const double side = std::max(box.Width(), box.Height());
+    constexpr double kPoint = 1e-9;  // as good as a point, which needs room around it all the same
+    const double margin = side > kPoint ? kMargin * side : 0.5;
+    return {{box.low.x - margin, box.low.y - margin}, {box.high.x + margin, box.high.y + margin}};
+}
+
+}  // namespace
+
+std::string ToSvg(const CDrawing& drawing) {
+    const SBox part = ShownPart(drawing);
+    const double scale = kLongerSide / std::max(part.Width(), part.Height());
+    std::string svg =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
+        Attribute("width", std::max(1.0, part.Width() * scale)) +
+        Attribute("height", std::max(1.0, part.Height() * scale)) + " viewBox=\"" + Number(part.low.x) + ' ' +
+        Number(-part.high.y) + ' ' + Number(part.Width()) + ' ' + Number(part.Height()) +
+        "\">\n"
+        "<style>\n"
+        "line, polyline, polygon, circle, path { fill: none; stroke: black; stroke-width: 1.5px;"
+        " vector-effect: non-scaling-stroke; stroke-linecap: round; stroke-linejoin: round }\n"
+        "text { font-family: Arial, 'Liberation Sans', sans-serif; white-space: pre }\n"
+        "</style>\n";
+    for (const CEntity& entity : drawing.Entities())
+        svg += std::visit(SElement(), entity) + '\n';
+    return svg + "</svg>\n";
+}
