@@ -7,6 +7,13 @@
 
 namespace {
 
+constexpr char kStyle[] =
+    "<style>\n"
+    "line, polyline, polygon, circle, path { fill: none; stroke: black; stroke-width: 1.5px;"
+    " vector-effect: non-scaling-stroke; stroke-linecap: round; stroke-linejoin: round }\n"
+    "text { font-family: Arial, 'Liberation Sans', sans-serif; white-space: pre }\n"
+    "</style>\n";
+
 constexpr double kLongerSide = 1000;  // pixels
 constexpr double kMargin = 0.04;      // of the longer side
 
@@ -122,17 +129,15 @@ SBox ShownPart(const CDrawing& drawing) {
 std::string ToSvg(const CDrawing& drawing) {
     const SBox part = ShownPart(drawing);
     const double scale = kLongerSide / std::max(part.Width(), part.Height());
-    std::string svg =
-        "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-        Attribute("width", std::max(1.0, part.Width() * scale)) +
-        Attribute("height", std::max(1.0, part.Height() * scale)) + " viewBox=\"" + Number(part.low.x) + ' ' +
-        Number(-part.high.y) + ' ' + Number(part.Width()) + ' ' + Number(part.Height()) +
-        "\">\n"
-        "<style>\n"
-        "line, polyline, polygon, circle, path { fill: none; stroke: black; stroke-width: 1.5px;"
-        " vector-effect: non-scaling-stroke; stroke-linecap: round; stroke-linejoin: round }\n"
-        "text { font-family: Arial, 'Liberation Sans', sans-serif; white-space: pre }\n"
-        "</style>\n";
+    const double width = std::max(1.0, part.Width() * scale);
+    const double height = std::max(1.0, part.Height() * scale);
+    const std::string corner = Number(part.low.x) + ' ' + Number(-part.high.y);
+    const std::string size = Number(part.Width()) + ' ' + Number(part.Height());
+    std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\"" + Attribute("width", width) +
+                      Attribute("height", height) + " viewBox=\"" + corner + ' ' + size + "\">\n";
+    svg += kStyle;
+    svg += "<rect" + Attribute("x", part.low.x) + Attribute("y", -part.high.y) +
+           " width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
     for (const CEntity& entity : drawing.Entities())
         svg += std::visit(SElement(), entity) + '\n';
     return svg + "</svg>\n";

@@ -46,7 +46,7 @@ TEST(SvgWriter, ShowsTheWholeDrawingWithAMargin) {
 TEST(SvgWriter, AnEmptyDrawingAndAPointHaveAPictureToo) {
     const std::string empty = ToSvg(CDrawing());
     EXPECT_TRUE(Contains(empty, "width=\"1000\" height=\"1000\"")) << empty;
-    EXPECT_TRUE(empty.ends_with("</style>\n</svg>\n"));
+    EXPECT_TRUE(empty.ends_with("fill=\"white\"/>\n</svg>\n"));
     const std::string point = SvgOf(SLine{{5, 5}, {5, 5}});
     EXPECT_TRUE(Contains(point, "viewBox=\"4.5 -5.5 1 1\"")) << point;
     const std::string far = SvgOf(SLine{{1e12, 1e12}, {1e12, 1e12}});
