@@ -1,10 +1,10 @@
 # The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
 
-BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest
+BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
 PRESETS = native x64 x86
 
-.PHONY: help build test run gallery packages
+.PHONY: help build test run gallery dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -14,6 +14,7 @@ help:
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make test     build and run every test"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
+	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
 	@echo "make help     this list"
 
 packages:
@@ -33,3 +34,6 @@ run: packages
 gallery: packages
 	@scripts/build x64 GridGallery TD_Alloc TD_Alloc_checked
 	@scripts/run-gallery
+
+dist: packages
+	@scripts/make-dist

@@ -10,6 +10,14 @@ else()
   # The runtime's number formats are the standard's, and no DLL of the compiler's is shipped.
   add_compile_definitions(__USE_MINGW_ANSI_STDIO=1)
   add_link_options(-static $<$<CONFIG:Release>:-s>)
+  # The same sources give the same bytes, wherever and whenever they are built.
+  add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+  add_link_options(-Wl,--no-insert-timestamp)
+  # The system may load a program anywhere, and runs no data.
+  add_link_options(-Wl,--dynamicbase,--nxcompat)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_link_options(-Wl,--high-entropy-va)
+  endif()
 endif()
 set(CMAKE_SHARED_LIBRARY_PREFIX "")
 set(CMAKE_SHARED_MODULE_PREFIX "")

@@ -98,6 +98,14 @@ void Window::Press(const std::string& key) const {
     OutputOf("xdotool key " + key);
 }
 
+bool Window::PressUntilClosed(const std::string& key) const {
+    for (int tries = 0; tries < 20 && IsOpen(); ++tries) {
+        Press(key);
+        WaitUntil([this] { return !IsOpen(); }, 1);
+    }
+    return !IsOpen();
+}
+
 Screenshot Window::Look() const {
     return Screenshot(OutputOf("import -window " + m_id + " -depth 8 ppm:-"));
 }

@@ -53,6 +53,9 @@ public:
     void Drag(int fromX, int fromY, int toX, int toY) const;
     // Presses a key (a name that xdotool knows) in the window.
     void Press(const std::string& key) const;
+    // Presses a key that closes the window: again when the program did not yet know that it has the focus.
+    // False when the window stays.
+    bool PressUntilClosed(const std::string& key) const;
     Screenshot Look() const;
     // Looks once the window has stopped changing.
     Screenshot LookWhenStill() const;
