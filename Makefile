@@ -1,6 +1,7 @@
 # The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
 
-BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip
+BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
+  nlohmann-json3-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
 PRESETS = native x64 x86
 

@@ -1,0 +1,18 @@
+// Files and their names. A name inside the program is UTF-8 with slashes, as the user gave it or put together
+// from that.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+// What the user did wrong or must know: one line in UTF-8, without a full stop, that names the thing.
+class CToolError : public std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::filesystem::path PathOf(const std::string& name);
+std::string NameOf(const std::filesystem::path& path);
+
+// All bytes of a file. Throws CToolError when it cannot be read.
+std::string ReadBytes(const std::string& name);
