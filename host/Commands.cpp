@@ -4,6 +4,7 @@
 
 #include <exception>
 
+#include "ChoiceSlides.h"
 #include "TavrinPreviewDlg.h"
 #include "TavrinSelMaskDlg.h"
 #include "TavrinWndDlg.h"
@@ -38,9 +39,6 @@ void SetResultOf(INT_PTR dialogResult) {
     else
         sds_retnil();
 }
-
-// The text of TavrinRes.dll that says that no choice has a slide.
-constexpr unsigned noSlideText = 5019;
 
 // Gives the dialog the caption, the 3D flag and each of the names that has a slide.
 void TakeChoiceArguments(const sds_resbuf* list, CTavrinSelMaskDlg& dialog) {
@@ -96,7 +94,7 @@ int RunChoiceDialog() {
         TakeChoiceArguments(list, dialog);
         if (dialog.GetCount() == 0) {
             static CTextLibrary texts;
-            sds_alert(texts.Load(noSlideText));
+            sds_alert(texts.Load(NO_SLIDE_TEXT));
             sds_retnil();
             return 1;
         }

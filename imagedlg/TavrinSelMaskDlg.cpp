@@ -1,11 +1,9 @@
 #include "TavrinSelMaskDlg.h"
 
+#include "ChoiceSlides.h"
 #include "FindFile.h"
 
 namespace {
-
-constexpr wchar_t flatSlide[] = L"_t.png";
-constexpr wchar_t slideInSpace[] = L"_t_3d.png";
 
 constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF black = RGB(0, 0, 0);
@@ -109,7 +107,7 @@ void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
 }
 
 bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
-    if (!FindSlide(name, flatSlide) && (!FindSlide(name, slideInSpace) || m_nSkip3D != 0))
+    if (!FindSlide(name, FLAT_SLIDE_ENDING) && (!FindSlide(name, SPACE_SLIDE_ENDING) || m_nSkip3D != 0))
         return false;
     m_choices[static_cast<int>(m_nCount)] = name;
     ++m_nCount;
@@ -127,7 +125,7 @@ void CTavrinSelMaskDlg::RefreshSlides() {
 CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
     if (!name.IsEmpty()) {
         // Whether slides in space count was settled when the name became a choice.
-        for (const wchar_t* ending : {flatSlide, slideInSpace}) {
+        for (const wchar_t* ending : {FLAT_SLIDE_ENDING, SPACE_SLIDE_ENDING}) {
             if (const auto path = FindSlide(name, ending))
                 return path->c_str();
         }

@@ -5,22 +5,28 @@
 
 class CBlockTracker {
 public:
+    static constexpr wchar_t kOpeningLine[] = L"VAR";
+    static constexpr wchar_t kClosingLine[] = L"END_VAR";
+
     // Takes the next line of the file. True for an ordinary line inside an open block, which may hold a
     // parameter; false outside of blocks and for the two lines that open and close one.
     //
-    // A block is opened by the line "VAR", in an open block an ordinary line, and closed by "END_VAR". Both
-    // are compared with the whole line, null characters in it included: no blanks, no other case.
+    // A block is opened by the line VAR, in an open block an ordinary line, and closed by END_VAR. Both are
+    // compared with the whole line, null characters in it included: no blanks, no other case.
     bool TakeLine(const std::wstring& line) {
-        if (line == L"END_VAR") {
+        if (line == kClosingLine) {
             m_open = false;
             return false;
         }
         if (!m_open) {
-            m_open = line == L"VAR";
+            m_open = line == kOpeningLine;
             return false;
         }
         return true;
     }
+
+    // Whether a block is open behind the lines taken so far.
+    bool IsOpen() const { return m_open; }
 
 private:
     bool m_open = false;

@@ -45,6 +45,9 @@ public:
         return digits;
     }
 
+    std::size_t Position() const { return m_position; }
+    void GoBackTo(std::size_t position) { m_position = position; }
+
 private:
     wchar_t Peek() const { return m_position < m_text.size() ? m_text[m_position] : L'\0'; }
 
@@ -61,13 +64,18 @@ std::int64_t WholeValue(const std::string& digits) {
     return result.ec == std::errc::result_out_of_range ? kLimit : std::min(value, kLimit);
 }
 
-// The exponent behind a number's digits; 0 when there is none, or an "e" without digits behind it.
+// The exponent behind a number's digits; 0 when there is none. An "e" without digits behind it is left alone.
 std::int64_t TakeExponent(CScanner& scanner) {
+    const std::size_t start = scanner.Position();
     if (!scanner.Take(L'e') && !scanner.Take(L'E')) {
         return 0;
     }
     const bool negative = scanner.TakeSign();
-    const std::int64_t value = WholeValue(scanner.TakeDigits());
+    const std::string digits = scanner.TakeDigits();
+    if (digits.empty()) {
+        scanner.GoBackTo(start);
+    }
+    const std::int64_t value = WholeValue(digits);
     return negative ? -value : value;
 }
 
@@ -88,15 +96,19 @@ double ScaledValue(const std::string& whole, const std::string& fraction, std::i
 }  // namespace
 
 double DecimalValue(std::wstring_view text) {
+    return ReadLeadingNumber(text).value;
+}
+
+LeadingNumber ReadLeadingNumber(std::wstring_view text) {
     CScanner scanner(text);
     const bool negative = scanner.TakeSign();
     const std::string whole = scanner.TakeDigits();
     const std::string fraction = scanner.Take(L'.') ? scanner.TakeDigits() : std::string();
     if (whole.empty() && fraction.empty()) {
-        return 0.0;
+        return {};
     }
     const double value = ScaledValue(whole, fraction, TakeExponent(scanner));
-    return negative ? -value : value;
+    return {negative ? -value : value, scanner.Position()};
 }
 
 int FloorToInt(double value) {

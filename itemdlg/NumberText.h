@@ -2,6 +2,7 @@
 // point.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,14 @@
 // Too large a number gives an infinity and too small a one zero, each with its sign. "inf", "nan" and
 // hexadecimal digits are no numbers here: a drawing has no use for them, so that "0x1F" is 0.
 double DecimalValue(std::wstring_view text);
+
+// The same number with the place where it ends: how many characters belong to it and to the white space
+// before it. 0 when the text begins with no number.
+struct LeadingNumber {
+    double value = 0.0;
+    std::size_t end = 0;
+};
+LeadingNumber ReadLeadingNumber(std::wstring_view text);
 
 // The largest whole number not above the value: 2.9 gives 2, -2.1 gives -3. Beyond the range of int it is the
 // nearest int; what is not a number gives 0.

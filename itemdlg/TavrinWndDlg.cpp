@@ -5,6 +5,7 @@
 
 #include "BlockTracker.h"
 #include "FindFile.h"
+#include "ItemFiles.h"
 #include "NumberText.h"
 #include "TemplateRewrite.h"
 #include "TemplateText.h"
@@ -16,12 +17,6 @@ namespace {
 constexpr COLORREF backColor = 0xE1E1E1;
 constexpr COLORREF headerColor = 0xC8C8C8;
 constexpr int gutterWidth = 210;  // pixels
-constexpr unsigned headerPrefixText = 1363;
-constexpr int titleLine = 1;
-
-constexpr const wchar_t* workingFileEnding = L"_TMP.TXT";
-constexpr const wchar_t* templateFileEnding = L".TXT";
-constexpr const wchar_t* pictureEnding = L".png";
 
 constexpr const wchar_t* errorCaption = L"Error!";
 constexpr const wchar_t* systemCaption = nullptr;  // the system's own default
@@ -104,7 +99,7 @@ bool CTavrinWndDlg::ArgumentsAreUsable() {
         ShowError(L"Please specify a file name!", errorCaption);
         return false;
     }
-    const std::wstring workingFile = FileName(workingFileEnding);
+    const std::wstring workingFile = FileName(kWorkingFileEnding);
     if (!FindFile(workingFile)) {
         ShowError((L"File not found '" + workingFile + L"'!").c_str(), errorCaption);
         return false;
@@ -114,14 +109,14 @@ bool CTavrinWndDlg::ArgumentsAreUsable() {
 
 // An item without a picture is in order.
 void CTavrinWndDlg::ShowPicture() {
-    if (const std::optional<std::wstring> picture = FindFile(FileName(pictureEnding)))
+    if (const std::optional<std::wstring> picture = FindFile(FileName(kPictureEnding)))
         m_picture.LoadFromFile(picture->c_str());
 }
 
 void CTavrinWndDlg::ShowTitle(const std::wstring& line) {
     const std::wstring title = TitleText(line, Texts());
     CString prefix;
-    m_header.SetWindowText(LoadResString(prefix, headerPrefixText) + title.c_str());
+    m_header.SetWindowText(LoadResString(prefix, kHeaderPrefixText) + title.c_str());
     SetWindowText(title.c_str());
 }
 
@@ -133,7 +128,7 @@ void CTavrinWndDlg::LoadTemplate() {
     m_grid.SetGutterWidth(gutterWidth);
     const UINT section = m_grid.AddSection(L"Item Data");
 
-    const std::optional<std::wstring> path = FindFile(FileName(workingFileEnding));
+    const std::optional<std::wstring> path = FindFile(FileName(kWorkingFileEnding));
     if (!path) {
         ShowError(fileNotFound, errorCaption);
         return;
@@ -143,7 +138,7 @@ void CTavrinWndDlg::LoadTemplate() {
     CBlockTracker block;
     for (int index = 0; index < static_cast<int>(lines.size()); ++index) {
         const std::wstring& line = lines[static_cast<size_t>(index)];
-        if (index == titleLine)
+        if (index == kTitleLine)
             ShowTitle(line);
         if (!block.TakeLine(line))
             continue;
@@ -191,11 +186,11 @@ std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
 }
 
 void CTavrinWndDlg::WriteValueFile() {
-    RewriteFile(workingFileEnding, RewriteWorkingFile);
+    RewriteFile(kWorkingFileEnding, RewriteWorkingFile);
 }
 
 void CTavrinWndDlg::UpdateTemplateDefaults() {
-    RewriteFile(templateFileEnding, RewriteTemplateFile);
+    RewriteFile(kTemplateFileEnding, RewriteTemplateFile);
 }
 
 // Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,

@@ -36,6 +36,21 @@ std::string Narrow(const std::wstring& text) {
 
 }  // namespace
 
+TEST(ReadLeadingNumber, TellsWhereTheNumberEnds) {
+    const auto end = [](const wchar_t* text) { return ReadLeadingNumber(text).end; };
+    EXPECT_EQ(end(L"900"), 3u);
+    EXPECT_EQ(end(L" 900 mm"), 4u);
+    EXPECT_EQ(end(L"-2.5e3x"), 6u);
+    EXPECT_EQ(end(L"5."), 2u);
+    EXPECT_EQ(end(L"1e+"), 1u);
+    EXPECT_EQ(end(L"1ex"), 1u);
+    EXPECT_EQ(end(L"0,9"), 1u);
+    EXPECT_EQ(end(L"1e999 "), 5u);
+    EXPECT_EQ(end(L"  wide"), 0u);
+    EXPECT_EQ(end(L" -."), 0u);
+    EXPECT_EQ(end(L""), 0u);
+}
+
 TEST(DecimalValue, ReadsTheNumberThatATextBeginsWith) {
     EXPECT_EQ(DecimalValue(L"900"), 900.0);
     EXPECT_EQ(DecimalValue(L"0.08"), 0.08);

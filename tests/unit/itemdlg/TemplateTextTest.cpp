@@ -67,6 +67,17 @@ TEST(BlockTracker, FindsTheLinesBetweenVarAndEndVar) {
     EXPECT_TRUE(LinesInBlocks({}).empty());
 }
 
+TEST(BlockTracker, TellsWhetherABlockIsOpen) {
+    CBlockTracker block;
+    EXPECT_FALSE(block.IsOpen());
+    block.TakeLine(CBlockTracker::kOpeningLine);
+    EXPECT_TRUE(block.IsOpen());
+    block.TakeLine(L"x");
+    EXPECT_TRUE(block.IsOpen());
+    block.TakeLine(CBlockTracker::kClosingLine);
+    EXPECT_FALSE(block.IsOpen());
+}
+
 TEST(BlockTracker, TakesSeveralBlocks) {
     EXPECT_EQ(LinesInBlocks({L"VAR", L"a", L"END_VAR", L"b", L"VAR", L"c", L"END_VAR", L"END_VAR", L"d"}),
               (std::vector<std::size_t>{1, 5}));
