@@ -19,8 +19,9 @@ bool IsInRange(const Instruction& range, wchar_t character) {
 }
 
 // Whether one of the characters from `block` on is a given literal. Without a branch in between, which
-// compilers turn into vector instructions.
-constexpr std::ptrdiff_t kBlock = 32;
+// compilers turn into vector instructions. The usual line is short: larger blocks cost it more than they save
+// in long ones.
+constexpr std::ptrdiff_t kBlock = 8;
 bool BlockHolds(const Instruction& literal, const wchar_t* block) {
     int found = 0;
     for (std::ptrdiff_t index = 0; index < kBlock; ++index) {
@@ -301,8 +302,9 @@ const wchar_t* CPatternSearch::FindLastFollow(const Instruction& run, const wcha
     const wchar_t* place = last;
     bool found = false;
     while (!found && place != first) {
+        // The last block may reach back over places that were tried already.
         const wchar_t* stop = place - first >= kBlock ? place - kBlock : first;
-        if (place - stop == kBlock && !BlockHolds(run, stop)) {
+        if (last - stop >= kBlock && !BlockHolds(run, stop)) {
             place = stop;
             continue;
         }
