@@ -3,9 +3,10 @@
 BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
   nlohmann-json3-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
+BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 PRESETS = native x64 x86
 
-.PHONY: help build test run gallery dist packages
+.PHONY: help build test run gallery bench dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -14,6 +15,7 @@ help:
 	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make test     build and run every test"
+	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
 	@echo "make help     this list"
@@ -38,3 +40,7 @@ gallery: packages
 
 dist: packages
 	@scripts/make-dist
+
+bench: packages
+	@scripts/install-packages $(BENCH_PACKAGES)
+	@scripts/bench

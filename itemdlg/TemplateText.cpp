@@ -5,11 +5,9 @@
 
 #include "NumberText.h"
 #include "PatternMatcher.h"
+#include "TemplatePatterns.h"
 
 namespace {
-
-constexpr wchar_t kParameterPattern[] = L"^\\${[0-9]*}[ ]*=[ ]*\"{.*}\"{[IDR]}{.*}$";
-constexpr wchar_t kPlaceholderPattern[] = L"^.*<<{[0-9]*}>>.*";
 
 constexpr int kHighestTextNumber = 0xFFFF;
 

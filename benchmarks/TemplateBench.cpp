@@ -1,0 +1,159 @@
+// Reading and rewriting an item's files beside reading and writing the same files with the C++ standard
+// library alone.
+//
+// The module's own way to the disk exists on Windows only. Here both sides read and write lines with the same
+// two functions, so that the ratio says what the meaning of the lines costs on top of having them.
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <stdexcept>
+#include <string>
+
+#include "BenchTable.h"
+#include "BlockTracker.h"
+#include "TemplateRewrite.h"
+#include "TemplateText.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder of its own that goes away with the object.
+class CWorkFolder {
+public:
+    CWorkFolder() {
+        std::string name = (fs::temp_directory_path() / "tavrin-bench-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("no folder for files can be made at " + name);
+        }
+        m_path = name;
+    }
+    CWorkFolder(const CWorkFolder&) = delete;
+    CWorkFolder& operator=(const CWorkFolder&) = delete;
+    ~CWorkFolder() {
+        std::error_code ignored;
+        fs::remove_all(m_path, ignored);
+    }
+
+    fs::path File(const char* name) const { return m_path / name; }
+
+private:
+    fs::path m_path;
+};
+
+TextLines TemplateOf(std::size_t parameters) {
+    const wchar_t* const kinds[] = {L"\"D ", L"%\"I ", L"\"R 0.", L" (mm)\"D"};
+    TextLines lines = {L"A sample item", L"<<2001>>", L"VAR"};
+    for (std::size_t number = 1; number <= parameters; ++number) {
+        lines.push_back(L'$' + std::to_wstring(number) + L" = \"<<" + std::to_wstring(1000 + number % 50000) +
+                        L">>" + kinds[number % std::size(kinds)] + std::to_wstring(number * 7 % 5000));
+    }
+    lines.push_back(L"END_VAR");
+    return lines;
+}
+
+TextLines ReadLines(const fs::path& path) {
+    std::wifstream file(path);
+    TextLines lines;
+    for (std::wstring line; std::getline(file, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+void WriteLines(const fs::path& path, const TextLines& lines) {
+    std::wofstream file(path);
+    for (const std::wstring& line : lines) {
+        file << line << L'\n';
+    }
+}
+
+ParamRecordMap RecordsOf(const TextLines& lines) {
+    ParamRecordMap records;
+    CBlockTracker block;
+    const TextLookup lookup = [](unsigned id) { return L"Text " + std::to_wstring(id); };
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        if (!block.TakeLine(lines[index])) {
+            continue;
+        }
+        const auto lineIndex = static_cast<std::int32_t>(index);
+        if (std::optional<ParameterRow> row =
+                ReadParameter(lines[index], lineIndex, 1.0, kReadOnlyMode, lookup)) {
+            records[lineIndex] = std::move(row->record);
+        }
+    }
+    return records;
+}
+
+struct Task {
+    const char* name;
+    const char* peer;
+    std::function<void()> ours;
+    std::function<void()> theirs;
+};
+
+// What a call does with its files: it reads the parameters from the working file, and after OK it rewrites
+// that file and the template. A file ten times as large takes ten times as long: the time per parameter may
+// not grow. Opening files weighs on the small ones, so that a thousand parameters are the measure, which
+// `perParameter` keeps; twice as much is left for what the caches of the machine hold.
+void Measure(std::size_t parameters, std::map<std::string, double>& perParameter) {
+    constexpr std::size_t kMeasure = 1000;
+    const CWorkFolder folder;
+    const fs::path source = folder.File("door.TXT");
+    const fs::path target = folder.File("written.TXT");
+    WriteLines(source, TemplateOf(parameters));
+    const ParamRecordMap records = RecordsOf(ReadLines(source));
+    if (records.size() != parameters) {
+        throw std::runtime_error("not every parameter was read");
+    }
+    const ValueTextOf valueTextOf = [](const ParamRecord& record) { return ValueText(record, 1.0); };
+    const auto copy = [&] { WriteLines(target, ReadLines(source)); };
+    const Task tasks[] = {
+        {"reading the parameters", "reading the lines", [&] { Use(RecordsOf(ReadLines(source)).size()); },
+         [&] { Use(ReadLines(source).size()); }},
+        {"rewriting the working file", "reading and writing the lines",
+         [&] {
+             TextLines lines = ReadLines(source);
+             RewriteWorkingFile(lines, records, valueTextOf);
+             WriteLines(target, lines);
+         },
+         copy},
+        {"rewriting the template", "reading and writing the lines",
+         [&] {
+             TextLines lines = ReadLines(source);
+             RewriteTemplateFile(lines, records, valueTextOf);
+             WriteLines(target, lines);
+         },
+         copy},
+    };
+    const std::string size = std::to_string(parameters) + " parameters";
+    for (const Task& task : tasks) {
+        const std::vector<double> times = MedianTimes({task.ours, task.theirs});
+        const double ours = times[0] / static_cast<double>(parameters);
+        const double theirs = times[1] / static_cast<double>(parameters);
+        PrintRow({"files", task.name, size, ours, "ns/parameter", task.peer, theirs, 3.0});
+        if (parameters == kMeasure) {
+            perParameter[task.name] = ours;
+        } else if (parameters > kMeasure) {
+            PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 1000",
+                      perParameter[task.name], 2.0});
+        }
+    }
+}
+
+}  // namespace
+
+int main() {
+    try {
+        std::map<std::string, double> perParameter;
+        for (std::size_t parameters = 10; parameters <= 100'000; parameters *= 10) {
+            Measure(parameters, perParameter);
+        }
+        return 0;
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "bench_template: %s\n", failure.what());
+        return 1;
+    }
+}
