@@ -11,6 +11,20 @@ namespace {
 
 using CDCMap = CAfxHandleMap<CDC, HDC, &CDC::m_hDC>;
 
+// Attaches a context that is not to be deleted but released in a way of its own, also when attaching fails.
+template <class TRelease>
+void AttachOrRelease(CDC& dc, HDC handle, TRelease release) {
+    if (handle == nullptr)
+        AfxThrowResourceException();
+    try {
+        dc.Attach(handle);
+    } catch (...) {
+        dc.Detach();
+        release();
+        throw;
+    }
+}
+
 }  // namespace
 
 CDC::~CDC() {
@@ -66,8 +80,7 @@ CSize CDC::GetTextExtent(LPCTSTR text, int length) const {
 }
 
 CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) {
-    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
-        AfxThrowResourceException();
+    AttachOrRelease(*this, ::BeginPaint(m_hWnd, &m_ps), [this] { ::EndPaint(m_hWnd, &m_ps); });
 }
 
 CPaintDC::~CPaintDC() {
@@ -76,8 +89,8 @@ CPaintDC::~CPaintDC() {
 }
 
 CClientDC::CClientDC(CWnd* window) : m_hWnd(window != nullptr ? window->m_hWnd : nullptr) {
-    if (!Attach(::GetDC(m_hWnd)))
-        AfxThrowResourceException();
+    const HDC handle = ::GetDC(m_hWnd);
+    AttachOrRelease(*this, handle, [=, this] { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CClientDC::~CClientDC() {
@@ -85,8 +98,8 @@ CClientDC::~CClientDC() {
 }
 
 CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window != nullptr ? window->m_hWnd : nullptr) {
-    if (!Attach(::GetWindowDC(m_hWnd)))
-        AfxThrowResourceException();
+    const HDC handle = ::GetWindowDC(m_hWnd);
+    AttachOrRelease(*this, handle, [=, this] { ::ReleaseDC(m_hWnd, handle); });
 }
 
 CWindowDC::~CWindowDC() {

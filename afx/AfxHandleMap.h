@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <new>
 #include <unordered_map>
 #include <vector>
@@ -14,6 +15,8 @@
 class CAfxTemporaries {
 public:
     using FFree = void (*)(void* handle);
+    // Makes sure that the next Push needs no memory.
+    static void MakeRoom();
     static void Push(void* handle, FFree free);
     static std::size_t Count();
     // Frees those above the given height.
@@ -41,13 +44,14 @@ public:
             return nullptr;
         if (TObject* const known = FindPermanent(handle))
             return known;
-        TObject*& temporary = Temporary()[handle];
-        if (temporary == nullptr) {
-            temporary = make();
-            temporary->*Handle = handle;
-            CAfxTemporaries::Push(handle, FreeTemporary);
-        }
-        return temporary;
+        if (TObject* const known = Find(Temporary(), handle))
+            return known;
+        CAfxTemporaries::MakeRoom();
+        std::unique_ptr<TObject> temporary(make());
+        Temporary().emplace(handle, temporary.get());
+        CAfxTemporaries::Push(handle, FreeTemporary);
+        temporary.get()->*Handle = handle;
+        return temporary.release();
     }
 
 private:

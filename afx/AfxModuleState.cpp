@@ -52,6 +52,12 @@ std::vector<CAfxTemporaries::Temporary>& CAfxTemporaries::Stack() {
     return stack;
 }
 
+void CAfxTemporaries::MakeRoom() {
+    auto& stack = Stack();
+    if (stack.size() == stack.capacity())
+        stack.reserve(2 * stack.size() + 4);
+}
+
 void CAfxTemporaries::Push(void* handle, FFree free) {
     Stack().push_back({handle, free});
 }

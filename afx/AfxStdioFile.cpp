@@ -34,9 +34,10 @@ BOOL CStdioFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
         AfxThrowNotSupportedException();
     if (m_hFile != INVALID_HANDLE_VALUE)
         CStdioFile::Close();
+    // Before the file is emptied: with no memory for this it stays as it is.
+    m_codec = std::make_unique<CAfxTextCodec>();
     if (!CFile::Open(fileName, openFlags, error))
         return FALSE;
-    m_codec = std::make_unique<CAfxTextCodec>();
     m_writing = (openFlags & 3) == modeWrite;
     m_buffer.clear();
     m_position = 0;

@@ -36,22 +36,30 @@ LRESULT GetResultOfFailure(HWND window, UINT message) {
 
 }  // namespace
 
+// Without memory of the heap: the want of that may be what is reported.
 void AfxReportCaught(bool isCommand) {
-    CString text = isCommand ? L"Command failed." : L"Internal application error.";
+    constexpr int size = 1024;
+    TCHAR text[size];
+    ::lstrcpyn(text, isCommand ? L"Command failed." : L"Internal application error.", size);
+    const int length = ::lstrlen(text);
+    TCHAR* const reason = text + length + 1;
+    const int room = size - length - 1;
+    reason[0] = L'\0';
     try {
         throw;
     } catch (CUserException* error) {
         error->Delete();
         return;
     } catch (CException* error) {
-        TCHAR reason[512];
-        if (error->GetErrorMessage(reason, 512))
-            text.AppendFormat(L"\n%s", reason);
+        error->GetErrorMessage(reason, static_cast<UINT>(room));
         error->Delete();
     } catch (const std::exception& error) {
-        text.AppendFormat(L"\n%hs", error.what());
+        ::MultiByteToWideChar(CP_ACP, 0, error.what(), -1, reason, room);
+        reason[room - 1] = L'\0';
     } catch (...) {
     }
+    if (reason[0] != L'\0')
+        text[length] = L'\n';
     AfxMessageBox(text, MB_ICONSTOP);
 }
 

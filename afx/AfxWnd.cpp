@@ -57,8 +57,8 @@ BOOL CWnd::Attach(HWND window) {
     ASSERT(m_hWnd == nullptr);
     if (window == nullptr || FromHandlePermanent(window) != nullptr)
         return FALSE;
-    m_hWnd = window;
     CWndMap::SetPermanent(window, this);
+    m_hWnd = window;
     return TRUE;
 }
 

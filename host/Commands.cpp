@@ -99,10 +99,13 @@ int RunChoiceDialog() {
             return 1;
         }
         dialog.LoadSlides();
-        // The host keeps the list: it is not released here.
-        if (dialog.DoModal() == IDOK)
-            sds_retlist(sds_buildlist(RTSHORT, dialog.GetResult(), RTSTR,
-                                      dialog.GetSelectedName().GetString(), RTNONE));
+        // The host keeps the list: it is not released here. It has none to give when its memory runs out.
+        const sds_resbuf* const result = dialog.DoModal() == IDOK
+                                             ? sds_buildlist(RTSHORT, dialog.GetResult(), RTSTR,
+                                                             dialog.GetSelectedName().GetString(), RTNONE)
+                                             : nullptr;
+        if (result != nullptr)
+            sds_retlist(result);
         else
             sds_retnil();
         return 0;

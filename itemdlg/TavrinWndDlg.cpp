@@ -1,5 +1,6 @@
 #include "TavrinWndDlg.h"
 
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -194,25 +195,32 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
 }
 
 // Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,
-// which is required: the file then ends where reading failed.
+// which is required: the file then ends where reading failed. A want of memory is told as a failure of what
+// it ended, and the file stays as it is unless it was being written.
 void CTavrinWndDlg::RewriteFile(const wchar_t* ending, Rewriter rewrite) {
-    const std::wstring name = FileName(ending);
-    TextLines lines;
-    const std::optional<std::wstring> source = FindFile(name);
-    if (!source) {
-        ShowError(fileNotFound, errorCaption);
-        return;
+    const wchar_t* failure = unableToOpen;
+    try {
+        const std::wstring name = FileName(ending);
+        TextLines lines;
+        const std::optional<std::wstring> source = FindFile(name);
+        if (!source) {
+            ShowError(fileNotFound, errorCaption);
+            return;
+        }
+        if (!ReadTextFile(*source, lines))
+            ShowError(unableToOpen, systemCaption);
+        rewrite(lines, m_params, [this](const ParamRecord& record) { return CurrentValueText(record); });
+        failure = unableToWrite;
+        const std::optional<std::wstring> target = FindFile(name);
+        if (!target) {
+            ShowError(fileNotFound, errorCaption);
+            return;
+        }
+        if (!WriteTextFile(*target, lines))
+            ShowError(unableToWrite, systemCaption);
+    } catch (const std::bad_alloc&) {
+        ShowError(failure, systemCaption);
     }
-    if (!ReadTextFile(*source, lines))
-        ShowError(unableToOpen, systemCaption);
-    rewrite(lines, m_params, [this](const ParamRecord& record) { return CurrentValueText(record); });
-    const std::optional<std::wstring> target = FindFile(name);
-    if (!target) {
-        ShowError(fileNotFound, errorCaption);
-        return;
-    }
-    if (!WriteTextFile(*target, lines))
-        ShowError(unableToWrite, systemCaption);
 }
 
 int CTavrinWndDlg::GetPlaceholderNumber(CString line) {

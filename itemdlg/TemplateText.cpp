@@ -21,6 +21,16 @@ CPatternMatcher Compiled(const wchar_t* pattern) {
     return matcher;
 }
 
+// The groups of a match, false when the text does not match. The matcher says no more than that when memory
+// runs out, but then leaves no groups: a parameter must not go unnoticed for that.
+bool MatchesPattern(const CPatternMatcher& matcher, const std::wstring& text, CMatchContext& context) {
+    const bool matches = matcher.Match(text.c_str(), &context);
+    if (context.GroupCount() == 0) {
+        throw std::bad_alloc();
+    }
+    return matches;
+}
+
 // Only capital type letters are types, although the pattern, matched without regard to case, lets small ones
 // through.
 std::int32_t TypeOf(wchar_t letter) {
@@ -32,7 +42,7 @@ std::int32_t TypeOf(wchar_t letter) {
 std::optional<ParameterLine> ParseParameterLine(const std::wstring& line) {
     static const CPatternMatcher matcher = Compiled(kParameterPattern);
     CMatchContext context;
-    if (!matcher.Match(line.c_str(), &context)) {
+    if (!MatchesPattern(matcher, line, context)) {
         return std::nullopt;
     }
     ParameterLine parameter;
@@ -46,7 +56,7 @@ std::optional<ParameterLine> ParseParameterLine(const std::wstring& line) {
 int PlaceholderNumber(const std::wstring& text) {
     static const CPatternMatcher matcher = Compiled(kPlaceholderPattern);
     CMatchContext context;
-    return matcher.Match(text.c_str(), &context) ? LeadingInt(context.GroupText(0)) : 0;
+    return MatchesPattern(matcher, text, context) ? LeadingInt(context.GroupText(0)) : 0;
 }
 
 std::wstring ResourceText(int number, const TextLookup& lookup) {

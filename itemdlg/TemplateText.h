@@ -14,7 +14,7 @@
 //
 // A line is one text without its line end. It may hold null characters: the patterns see what stands before
 // the first one, while a line that is written back unchanged keeps all of it. Running out of memory shows as
-// std::bad_alloc, or as a line that is not recognised.
+// std::bad_alloc.
 #pragma once
 
 #include <cstdint>

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <filesystem>
 #include <ostream>
 #include <set>
@@ -147,6 +148,18 @@ TEST(AnyHost, IsToldWhichFunctionItLacks) {
     box.Press("Return");
     // Its exit status is what the load request answered: refused, without a crash.
     EXPECT_EQ(host.Wait(), 3) << host.Errors();
+}
+
+// Pictures need GDI+, which every supported Windows has.
+TEST(AnyHost, IsToldThatALibraryIsMissing) {
+    const std::string overrides = std::getenv("WINEDLLOVERRIDES");
+    setenv("WINEDLLOVERRIDES", (overrides + ";gdiplus=").c_str(), 1);
+    HostRun host;
+    host.Start({"--eval", R"((tavrinwnd "door"))"});
+    EXPECT_EQ(host.Wait(), 1);
+    setenv("WINEDLLOVERRIDES", overrides.c_str(), 1);
+    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it needs is missing"), std::string::npos)
+        << host.Errors();
 }
 
 }  // namespace

@@ -353,22 +353,24 @@ TEST(ReadParameter, ReadsALineOfAMegabyte) {
     EXPECT_EQ(record.intValue, 2147483647);
 }
 
-TEST(TemplateText, RecoversFromAWantOfMemory) {
+TEST(TemplateText, TellsAWantOfMemoryAndRecovers) {
     const std::wstring line =
         L"$1 = \"<<1501>> and a rather long label behind it\"D 900 and a rather long value";
     bool failed = true;
     for (std::size_t allocations = 0; failed; ++allocations) {
+        bool told = false;
         bool recognised = false;
         {
             const CFailingMemory memory(allocations);
             try {
                 recognised = ParseParameterLine(line).has_value() && PlaceholderNumber(line) == 1501;
             } catch (const std::bad_alloc&) {
-                recognised = false;
+                told = true;
             }
             failed = memory.HasFailed();
         }
         EXPECT_EQ(recognised, !failed);
+        EXPECT_EQ(told, failed);
         EXPECT_EQ(ParseParameterLine(line)->number, L"1");
         EXPECT_EQ(PlaceholderNumber(line), 1501);
     }

@@ -1,7 +1,5 @@
 #include "LocalMemoryHook.h"
 
-#include <windows.h>
-
 // The import table's entries, by the names under which the import library declares them.
 extern "C" {
 extern HLOCAL(WINAPI* __imp_LocalAlloc)(UINT, SIZE_T);
@@ -10,69 +8,45 @@ extern BOOL(WINAPI* __imp_LocalUnlock)(HLOCAL);
 extern HLOCAL(WINAPI* __imp_LocalFree)(HLOCAL);
 }
 
-namespace {
+CLocalMemoryHook* CLocalMemoryHook::s_active = nullptr;
 
-CLocalMemoryHook* active = nullptr;
-decltype(__imp_LocalAlloc) systemAlloc;
-decltype(__imp_LocalLock) systemLock;
-decltype(__imp_LocalUnlock) systemUnlock;
-decltype(__imp_LocalFree) systemFree;
-
-HLOCAL WINAPI HookedAlloc(UINT flags, SIZE_T size) {
-    active->flags = flags;
-    active->lastSize = size;
-    const HLOCAL memory = active->failAlloc ? nullptr : systemAlloc(flags, size);
+HLOCAL WINAPI CLocalMemoryHook::Alloc(UINT flags, SIZE_T size) {
+    s_active->flags = flags;
+    s_active->lastSize = size;
+    const HLOCAL memory = s_active->failAlloc ? nullptr : s_active->m_alloc.System()(flags, size);
     if (memory != nullptr) {
-        ++active->allocated;
-        ++active->alive;
+        ++s_active->allocated;
+        ++s_active->alive;
     }
     return memory;
 }
 
-LPVOID WINAPI HookedLock(HLOCAL memory) {
-    void* const address = active->failLock ? nullptr : systemLock(memory);
+LPVOID WINAPI CLocalMemoryHook::Lock(HLOCAL memory) {
+    void* const address = s_active->failLock ? nullptr : s_active->m_lock.System()(memory);
     if (address != nullptr)
-        ++active->locked;
+        ++s_active->locked;
     return address;
 }
 
-BOOL WINAPI HookedUnlock(HLOCAL memory) {
-    --active->locked;
-    return systemUnlock(memory);
+BOOL WINAPI CLocalMemoryHook::Unlock(HLOCAL memory) {
+    --s_active->locked;
+    return s_active->m_unlock.System()(memory);
 }
 
-HLOCAL WINAPI HookedFree(HLOCAL memory) {
-    ++active->freed;
-    --active->alive;
-    return systemFree(memory);
+HLOCAL WINAPI CLocalMemoryHook::Free(HLOCAL memory) {
+    ++s_active->freed;
+    --s_active->alive;
+    return s_active->m_free.System()(memory);
 }
 
-template <typename Function>
-void Replace(Function& entry, Function function) {
-    DWORD protection = 0;
-    VirtualProtect(&entry, sizeof(entry), PAGE_READWRITE, &protection);
-    entry = function;
-    VirtualProtect(&entry, sizeof(entry), protection, &protection);
-}
-
-}  // namespace
-
-CLocalMemoryHook::CLocalMemoryHook() {
-    active = this;
-    systemAlloc = __imp_LocalAlloc;
-    systemLock = __imp_LocalLock;
-    systemUnlock = __imp_LocalUnlock;
-    systemFree = __imp_LocalFree;
-    Replace(__imp_LocalAlloc, HookedAlloc);
-    Replace(__imp_LocalLock, HookedLock);
-    Replace(__imp_LocalUnlock, HookedUnlock);
-    Replace(__imp_LocalFree, HookedFree);
+CLocalMemoryHook::CLocalMemoryHook()
+    : m_alloc(__imp_LocalAlloc, Alloc),
+      m_lock(__imp_LocalLock, Lock),
+      m_unlock(__imp_LocalUnlock, Unlock),
+      m_free(__imp_LocalFree, Free) {
+    s_active = this;
 }
 
 CLocalMemoryHook::~CLocalMemoryHook() {
-    Replace(__imp_LocalAlloc, systemAlloc);
-    Replace(__imp_LocalLock, systemLock);
-    Replace(__imp_LocalUnlock, systemUnlock);
-    Replace(__imp_LocalFree, systemFree);
-    active = nullptr;
+    s_active = nullptr;
 }

@@ -127,6 +127,34 @@ TEST_F(ItemCommand, AnExceptionEndsWithNil) {
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
 }
 
+// Takes the module's dialogs away.
+class COtherResources {
+public:
+    COtherResources() { Set(::GetModuleHandleW(L"kernel32.dll")); }
+    ~COtherResources() { Set(m_own); }
+    COtherResources(const COtherResources&) = delete;
+    COtherResources& operator=(const COtherResources&) = delete;
+
+private:
+    static void Set(HINSTANCE resources) { AfxGetStaticModuleState()->m_hCurrentResourceHandle = resources; }
+
+    const HINSTANCE m_own = AfxGetStaticModuleState()->m_hCurrentResourceHandle;
+};
+
+TEST_F(ItemCommand, AMissingDialogResourceAnswersNilAndOpensNothing) {
+    m_folder.Write(L"item_t.png", "");
+    const std::string before = m_folder.Read(L"item_TMP.TXT");
+    const COtherResources resources;
+    CArguments list;
+    fakeHost.arguments = list.String(L"item").Short(0).String(L"item").List();
+    for (const auto command : {RunItemDialog, RunChoiceDialog, RunPreviewDialog}) {
+        fakeHost.results.clear();
+        EXPECT_EQ(command(), 0);
+        EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
+    }
+    EXPECT_EQ(m_folder.Read(L"item_TMP.TXT"), before);
+}
+
 TEST_F(ItemCommand, RestoresTheModuleStateOnEveryWayOut) {
     AFX_MODULE_STATE* const before = AfxGetModuleState();
     CArguments list;

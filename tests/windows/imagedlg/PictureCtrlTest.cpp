@@ -7,8 +7,15 @@
 
 #include "Bitmap.h"
 #include "HandleCount.h"
+#include "ImportHook.h"
 #include "Pixels.h"
 #include "TempFolder.h"
+
+extern "C" {
+extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output);
+extern int(WINAPI* __imp_GdipCreateFromHDC)(HDC dc, void** graphics);
+extern int(WINAPI* __imp_GdipLoadImageFromStream)(IStream* stream, void** image);
+}
 
 namespace {
 
@@ -108,6 +115,24 @@ TEST_F(PictureCtrl, TakesAFileThatIsNoPictureAndDrawsNothing) {
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});
     EXPECT_TRUE(picture.LoadFromFile(m_folder.Path(L"text.png").c_str()));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+}
+
+// What GDI+ answers when it could not be started.
+constexpr int notInitialised = 18;
+
+TEST_F(PictureCtrl, DrawsNothingWhereGdiPlusCannotBeStarted) {
+    const CImportHook start(
+        __imp_GdiplusStartup, +[](ULONG_PTR*, const void*, void*) WINAPI { return 1; });
+    const CImportHook create(
+        __imp_GdipCreateFromHDC, +[](HDC, void**) WINAPI { return notInitialised; });
+    const CImportHook load(
+        __imp_GdipLoadImageFromStream, +[](IStream*, void**) WINAPI { return notInitialised; });
+    m_folder.Write(L"red.bmp", Red());
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
     PumpMessages();
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
 }

@@ -1,7 +1,11 @@
 // A volume without room: while an object lives, the files that the program writes take so many bytes more.
 #pragma once
 
+#include <windows.h>
+
 #include <cstddef>
+
+#include "ImportHook.h"
 
 class CFullVolume {
 public:
@@ -9,4 +13,13 @@ public:
     ~CFullVolume();
     CFullVolume(const CFullVolume&) = delete;
     CFullVolume& operator=(const CFullVolume&) = delete;
+
+private:
+    using FWrite = BOOL(WINAPI*)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED);
+
+    static BOOL WINAPI Write(HANDLE file, LPCVOID data, DWORD size, LPDWORD written, LPOVERLAPPED overlapped);
+
+    static CFullVolume* s_active;
+    std::size_t m_room;
+    CImportHook<FWrite> m_hook;
 };

@@ -45,6 +45,14 @@ int Found(const std::wstring& path, wchar_t* result, size_t capacity) {
     return RTNORM;
 }
 
+bool Fails(const char* function) {
+    return fakeHost.failing == function;
+}
+
+int StatusOf(const char* function) {
+    return Fails(function) ? RTNORM - 1 : RTNORM;
+}
+
 // Lists handed to the module live in the host, outside the module's heap, until the program ends.
 sds_resbuf* NewListItem() {
     return static_cast<sds_resbuf*>(std::calloc(1, sizeof(sds_resbuf)));
@@ -54,38 +62,40 @@ sds_resbuf* NewListItem() {
 
 int sds_defun(const wchar_t* name, short code) {
     fakeHost.defined.emplace_back(name, code);
-    return fakeHost.defunStatus;
+    return Fails("sds_defun") ? 0 : fakeHost.defunStatus;
 }
 
 int sds_undef(const wchar_t* name, short code) {
     fakeHost.undefined.emplace_back(name, code);
-    return fakeHost.defunStatus;
+    return Fails("sds_undef") ? 0 : fakeHost.defunStatus;
 }
 
 int sds_getfuncode(void) {
-    return fakeHost.functionCode;
+    return Fails("sds_getfuncode") ? RTNORM - 1 : fakeHost.functionCode;
 }
 
 sds_resbuf* sds_getargs(void) {
-    return fakeHost.arguments;
+    return Fails("sds_getargs") ? nullptr : fakeHost.arguments;
 }
 
 int sds_retint(int value) {
     fakeHost.results.push_back(std::to_string(value));
-    return RTNORM;
+    return StatusOf("sds_retint");
 }
 
 int sds_retnil(void) {
     fakeHost.results.push_back("nil");
-    return RTNORM;
+    return StatusOf("sds_retnil");
 }
 
 int sds_retlist(const sds_resbuf* list) {
     fakeHost.results.push_back(ListText(list));
-    return RTNORM;
+    return StatusOf("sds_retlist");
 }
 
 sds_resbuf* sds_buildlist(int type, ...) {
+    if (Fails("sds_buildlist"))
+        return nullptr;
     std::va_list values;
     va_start(values, type);
     sds_resbuf* first = nullptr;
@@ -108,20 +118,22 @@ sds_resbuf* sds_buildlist(int type, ...) {
 
 int sds_fail(const wchar_t* message) {
     fakeHost.failures.push_back(message);
-    return RTNORM;
+    return StatusOf("sds_fail");
 }
 
 int sds_alert(const wchar_t* message) {
     fakeHost.alerts.push_back(message);
-    return RTNORM;
+    return StatusOf("sds_alert");
 }
 
 HWND sds_getmainhwnd(void) {
-    return fakeHost.mainWindow;
+    return Fails("sds_getmainhwnd") ? nullptr : fakeHost.mainWindow;
 }
 
 int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity) {
     fakeHost.searched.push_back(name);
+    if (Fails("sds_findfile"))
+        return RTNORM - 1;
     if (fakeHost.findFile)
         return fakeHost.findFile(name, result, capacity);
     for (const std::wstring& folder : fakeHost.searchFolders) {
@@ -132,7 +144,7 @@ int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity) {
 }
 
 int sds_getvar(const wchar_t* name, sds_resbuf* result) {
-    if (std::wcscmp(name, L"LUNITS") != 0)
+    if (Fails("sds_getvar") || std::wcscmp(name, L"LUNITS") != 0)
         return RTNORM - 1;
     result->type = RTSHORT;
     result->value.integer = fakeHost.linearUnits;
@@ -141,6 +153,8 @@ int sds_getvar(const wchar_t* name, sds_resbuf* result) {
 
 // "U2:900.0000": the units that were asked for can be read in the text.
 int sds_rtos(double value, int units, int precision, wchar_t* text) {
+    if (Fails("sds_rtos"))
+        return RTNORM - 1;
     const int digits = precision < 0 ? fakeHost.precision : precision;
     std::swprintf(text, 256, L"U%d:%.*f", units, digits, value);
     return RTNORM;
@@ -154,7 +168,7 @@ int sds_distof(const wchar_t* text, int units, double* result) {
     const double value = std::wcstod(number.c_str(), &end);
     // The result of a text that cannot be read is spoilt, as a host may leave it.
     *result = value;
-    return number.empty() || *end != L'\0' ? RTNORM - 1 : RTNORM;
+    return Fails("sds_distof") || number.empty() || *end != L'\0' ? RTNORM - 1 : RTNORM;
 }
 
 int sds_getpoint(const double* /*base*/, const wchar_t* prompt, double* point) {
@@ -162,11 +176,13 @@ int sds_getpoint(const double* /*base*/, const wchar_t* prompt, double* point) {
     if (fakeHost.duringPick)
         fakeHost.duringPick();
     point[0] = point[1] = point[2] = 0;
-    return fakeHost.pointStatus;
+    return Fails("sds_getpoint") ? RTNORM - 1 : fakeHost.pointStatus;
 }
 
 int sds_getdist(const double* /*base*/, const wchar_t* prompt, double* distance) {
     fakeHost.prompts.push_back(prompt);
+    if (Fails("sds_getdist"))
+        return RTNORM - 1;
     if (fakeHost.distanceStatus == RTNORM)
         *distance = fakeHost.distance;
     return fakeHost.distanceStatus;

@@ -35,6 +35,7 @@ struct FakeHost {
     int distanceStatus = RtNorm;
     double distance = 0;
     std::function<void()> duringPick;  // called inside sds_getpoint
+    std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
 
     static constexpr int RtNorm = 5100;
 };

@@ -1,0 +1,145 @@
+// Memory that runs out at each allocation of a call in turn, from a module just loaded: the host hears one
+// result and nothing else, the user is told, the files are whole or told of, nothing stays behind, and the
+// next call works.
+#include <afxwin.h>
+#include <gtest/gtest.h>
+
+#include "Arguments.h"
+#include "Bitmap.h"
+#include "CommandHands.h"
+#include "DialogInput.h"
+#include "FakeHost.h"
+#include "HandleCount.h"
+#include "LoadedModule.h"
+#include "TempFolder.h"
+#include "TextModule.h"
+
+namespace {
+
+const std::string item =
+    "free\r\nTitle\r\nVAR\r\n$1 = \"<<1501>>\"D 900\r\n$2 = \"<<1502>>\"I 2\r\nEND_VAR\r\n";
+const std::string assigned = "free\r\nTitle\r\nVAR\r\n#1 = 900\r\n$2 = 2\r\nEND_VAR\r\n";
+const std::string updated =
+    "free\r\nTitle\r\nVAR\r\n$1 = \"<<1501>>\"D900\r\n$2 = \"<<1502>>\"I2\r\nEND_VAR\r\n";
+
+// What a call gave.
+struct SOutcome {
+    std::vector<std::string> results;
+    std::vector<std::wstring> messages;
+    size_t allocations = 0;
+    std::string workingFile;
+    std::string templateFile;
+};
+
+class MemoryFaults : public testing::Test {
+protected:
+    void SetUp() override {
+        OfferTextModule();
+        fakeHost = {};
+        fakeHost.searchFolders = {m_folder.Path(L"")};
+        for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png"})
+            m_folder.Write(picture, BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
+    }
+
+    // Calls the function whose `failing`-th allocation fails; 0 for none.
+    SOutcome Call(const CLoadedModule& module, int code, CArguments& arguments, size_t failing) {
+        m_folder.Write(L"item_TMP.TXT", item);
+        m_folder.Write(L"item.TXT", item);
+        fakeHost.results.clear();
+        fakeHost.arguments = arguments.List();
+        CCommandHands hands(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
+                                      : std::function<void(HWND)>());
+        const size_t before = m_heap.allocations();
+        m_heap.failAfter(failing);
+        EXPECT_EQ(module.Invoke(code), 0);
+        m_heap.failAfter(0);
+        return {fakeHost.results, hands.messages, m_heap.allocations() - before,
+                m_folder.Read(L"item_TMP.TXT"), m_folder.Read(L"item.TXT")};
+    }
+
+    // Lets each allocation of a call fail, one call each. `check` judges the outcome; the call that no longer
+    // reaches its failing allocation must be a good one.
+    void FailEachAllocation(int code, CArguments& arguments, const std::string& goodResult,
+                            const std::function<void(const SOutcome&)>& check) {
+        const auto callInFreshModule = [&](size_t failing) {
+            const CLoadedModule module;
+            const SOutcome outcome = Call(module, code, arguments, failing);
+            if (failing % 16 == 0) {
+                EXPECT_EQ(Call(module, code, arguments, 0).results, std::vector<std::string>{goodResult});
+            }
+            return outcome;
+        };
+        callInFreshModule(0);
+        int gdiObjects = GdiObjectCount();
+        const int windows = WindowCount();
+        for (size_t failing = 1;; ++failing) {
+            SCOPED_TRACE(failing);
+            const SOutcome outcome = callInFreshModule(failing);
+            ASSERT_EQ(m_heap.liveBlocks(), 0U);
+            // The system makes some objects for the first box or the first nested paint and keeps them: what
+            // comes about again is the module's.
+            if (GdiObjectCount() > gdiObjects) {
+                gdiObjects = GdiObjectCount();
+                callInFreshModule(failing);
+                ASSERT_LE(GdiObjectCount(), gdiObjects);
+            }
+            if (outcome.allocations < failing) {
+                EXPECT_EQ(outcome.results, std::vector<std::string>{goodResult});
+                EXPECT_TRUE(outcome.messages.empty());
+                EXPECT_GT(failing, 10U);
+                break;
+            }
+            ASSERT_EQ(outcome.results.size(), 1U);
+            if (outcome.results[0] != "nil") {
+                EXPECT_EQ(outcome.results[0], goodResult);
+            }
+            check(outcome);
+        }
+        EXPECT_EQ(WindowCount(), windows);
+    }
+
+    CTempFolder m_folder;
+    SModuleHeap m_heap;
+};
+
+bool IsTold(const SOutcome& outcome, const wchar_t* text) {
+    return std::find(outcome.messages.begin(), outcome.messages.end(), text) != outcome.messages.end();
+}
+
+// A file is as it was or completely new. Where it is new it may also end early, which is told.
+void ExpectWhole(const std::string& now, const std::string& rewritten, const SOutcome& outcome) {
+    if (outcome.results[0] == "nil") {
+        EXPECT_EQ(now, item);
+    } else if (now == item) {
+        EXPECT_TRUE(IsTold(outcome, L"Error - unable to open file") ||
+                    IsTold(outcome, L"Error - unable to write file"));
+    } else if (IsTold(outcome, L"Error - unable to write file")) {
+        EXPECT_EQ(now, rewritten.substr(0, now.size()));
+    } else {
+        EXPECT_EQ(now, rewritten);
+    }
+}
+
+TEST_F(MemoryFaults, TheItemDialogWritesWholeFilesOrTells) {
+    CArguments arguments;
+    arguments.String(L"item").Real(1).Short(0);
+    FailEachAllocation(0, arguments, "0", [](const SOutcome& outcome) {
+        EXPECT_FALSE(outcome.messages.empty());
+        ExpectWhole(outcome.workingFile, assigned, outcome);
+        ExpectWhole(outcome.templateFile, updated, outcome);
+    });
+}
+
+TEST_F(MemoryFaults, TheChoiceAnswersTheChosenNameOrNil) {
+    CArguments arguments;
+    arguments.String(L"Replace").Short(0).String(L"a").String(L"b");
+    FailEachAllocation(1, arguments, "(100 \"a\")", [](const SOutcome&) {});
+}
+
+TEST_F(MemoryFaults, ThePreviewAnswersZeroOrNil) {
+    CArguments arguments;
+    arguments.String(L"item");
+    FailEachAllocation(2, arguments, "0", [](const SOutcome&) {});
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+// A function of the system replaced by a test's own, for as long as the object lives.
+//
+// The entry is the import table's, declared under the name that the import library gives it:
+//
+//     extern "C" BOOL(WINAPI* __imp_DeleteFileW)(LPCWSTR);
+//     const CImportHook hook(__imp_DeleteFileW, FailToDelete);
+#pragma once
+
+#include <windows.h>
+
+template <typename Function>
+class CImportHook {
+public:
+    CImportHook(Function& entry, Function replacement) : m_entry(entry), m_system(entry) { Set(replacement); }
+    ~CImportHook() { Set(m_system); }
+    CImportHook(const CImportHook&) = delete;
+    CImportHook& operator=(const CImportHook&) = delete;
+
+    // The system's own function.
+    Function System() const { return m_system; }
+
+private:
+    void Set(Function function) {
+        DWORD protection = 0;
+        VirtualProtect(&m_entry, sizeof(m_entry), PAGE_READWRITE, &protection);
+        m_entry = function;
+        VirtualProtect(&m_entry, sizeof(m_entry), protection, &protection);
+    }
+
+    Function& m_entry;
+    const Function m_system;
+};
