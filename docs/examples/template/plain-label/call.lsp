@@ -1,0 +1,1 @@
+(tavrinwnd "shelf" 1.0 1)

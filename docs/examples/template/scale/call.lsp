@@ -1,0 +1,1 @@
+(tavrinwnd "shelf" 1000.0 1)

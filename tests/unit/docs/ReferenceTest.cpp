@@ -1,0 +1,65 @@
+// Tables of the documentation against the code that they describe.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "ChoiceLayout.h"
+#include "Pages.h"
+
+namespace {
+
+// What the page on pictures calls the content of a cell: a choice by its number, counted from 1.
+std::string NameOf(int content) {
+    if (content == CELL_EMPTY)
+        return "empty";
+    return content == CELL_LOGO ? "`logo.png`" : std::to_string(content + 1);
+}
+
+TEST(Documentation, TellsWhereEachChoiceStands) {
+    int countsSeen = 0;
+    for (const std::vector<std::string>& row : ReadPage("docs/authors/pictures.md").rows) {
+        if (row.size() != 1 + CHOICE_CELLS || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6')
+            continue;
+        ++countsSeen;
+        const auto count = static_cast<unsigned>(row[0][0] - '0');
+        for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+            EXPECT_EQ(row[static_cast<std::size_t>(cell)], NameOf(GetCellContent(count, cell)))
+                << count << " choices, cell " << cell;
+    }
+    EXPECT_EQ(countsSeen, 6);
+}
+
+// All source text of the folders whose messages authors and installers meet.
+std::string SourcesOfTheModule() {
+    std::string sources;
+    for (const char* folder : {"host", "imagedlg", "itemdlg", "propgrid"}) {
+        for (const auto& file :
+             std::filesystem::directory_iterator(std::filesystem::path(SOURCE_DIR) / folder)) {
+            if (file.path().extension() == ".cpp")
+                sources += TextOf(file.path());
+        }
+    }
+    return sources;
+}
+
+// The first cells that are texts set as code: `File not found 'NAME_TMP.TXT'!`. What the module puts together
+// is compared up to the name.
+TEST(Documentation, QuotesTheModulesMessages) {
+    const std::string sources = SourcesOfTheModule();
+    int messagesSeen = 0;
+    for (const char* page : {"docs/authors/functions.md", "docs/install.md"}) {
+        for (const std::vector<std::string>& row : ReadPage(page).rows) {
+            if (row[0][0] != '`')
+                continue;
+            const std::string text = row[0].substr(1, row[0].find('`', 1) - 1);
+            if (text.find(' ') == std::string::npos)
+                continue;
+            ++messagesSeen;
+            EXPECT_NE(sources.find("L\"" + text.substr(0, text.find("NAME"))), std::string::npos) << text;
+        }
+    }
+    EXPECT_EQ(messagesSeen, 10);
+}
+
+}  // namespace
