@@ -9,7 +9,6 @@
 #include "ExitStatus.h"
 #include "HeapLibrary.h"
 #include "Host.h"
-#include "LinearUnits.h"
 #include "Options.h"
 #include "PlugIn.h"
 #include "Printer.h"
@@ -97,15 +96,6 @@ std::wstring ProgramFolder() {
     return path.substr(0, path.find_last_of(L'\\'));
 }
 
-void ShowUnits(CMainWindow& window, SLinearFormat format) {
-    const auto text = [=](SPoint point) {
-        return FormatLinear(point.x, format.lunits, format.luprec).value_or(L"") + L", " +
-               FormatLinear(point.y, format.lunits, format.luprec).value_or(L"");
-    };
-    window.SetPointFormat(
-        text, L"LUNITS " + std::to_wstring(format.lunits) + L", LUPREC " + std::to_wstring(format.luprec));
-}
-
 bool Run(const SOptions& options, CTextOutput& output) {
     const std::vector<CValue> expressions = ReadEvaluations(options);
     const CSearchPath searchPath(options.searchFolders);
@@ -113,12 +103,13 @@ bool Run(const SOptions& options, CTextOutput& output) {
     const SLinearFormat format = {options.lunits, options.luprec};
 
     const CHeapLibrary heap(folder, options.checkHeap);
-    CMainWindow window;
+    CDrawing drawing;
+    CMainWindow window(drawing);
     CHost host(window, output, searchPath, format);
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
 
     output.SetListener([&](std::wstring_view line) { window.AddOutput(line); });
-    ShowUnits(window, format);
+    window.SetFormat(format.lunits, format.luprec);
     window.Show();
     bool succeeded = true;
     if (expressions.empty())

@@ -2,81 +2,128 @@
 
 #include <windowsx.h>
 
-#include <algorithm>
 #include <cmath>
 
-#include "GdiScope.h"
+#include "Snap.h"
 #include "UserError.h"
 #include "WindowProc.h"
 
 namespace {
 
 constexpr wchar_t kClassName[] = L"DevHostDrawing";
-constexpr int kCrossArm = 5;  // pixels
-
-constexpr COLORREF kSheet = RGB(250, 250, 245);
-constexpr COLORREF kCross = RGB(0, 60, 160);
-constexpr COLORREF kRubberLine = RGB(120, 120, 120);
+constexpr int kFitMargin = 30;        // pixels
+constexpr int kSnapReach = 10;        // pixels
+constexpr double kZoomOfNotch = 1.2;  // of the wheel
 
 void RegisterDrawingClass() {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof windowClass;
-    windowClass.style = CS_HREDRAW | CS_VREDRAW;
+    windowClass.style = CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
     windowClass.lpfnWndProc = WindowProc<CDrawingView>;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.lpszClassName = kClassName;
     RegisterClassExW(&windowClass);
 }
 
-void DrawLine(HDC dc, POINT from, POINT to) {
-    MoveToEx(dc, from.x, from.y, nullptr);
-    LineTo(dc, to.x, to.y);
+SPoint AsPoint(POINT pixel) {
+    return {double(pixel.x), double(pixel.y)};
 }
 
-void DrawCross(HDC dc, POINT middle) {
-    DrawLine(dc, {middle.x - kCrossArm, middle.y}, {middle.x + kCrossArm + 1, middle.y});
-    DrawLine(dc, {middle.x, middle.y - kCrossArm}, {middle.x, middle.y + kCrossArm + 1});
+POINT PlaceIn(LPARAM lParam) {
+    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
 }  // namespace
 
-CDrawingView::CDrawingView(HWND parent, int id) {
+CDrawingView::CDrawingView(HWND parent, int id, CDrawing& drawing) : m_drawing(drawing) {
     RegisterDrawingClass();
-    CreateWindowExW(WS_EX_CLIENTEDGE, kClassName, L"", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
+    CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
                     reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), this);
     if (m_window == nullptr)
         throw CUserError(L"the drawing area cannot be opened");
+    m_drawing.SetListener([this] { RefreshScene(); });
 }
 
 CDrawingView::~CDrawingView() {
+    m_drawing.SetListener(nullptr);
     if (m_window != nullptr)
         DestroyWindow(m_window);
+}
+
+SPoint CDrawingView::MousePoint() const {
+    return m_snapped ? *m_snapped : m_view.ToDrawing(AsPoint(m_mouse));
+}
+
+void CDrawingView::Fit() {
+    m_crosses.clear();
+    if (const auto extents = m_drawing.Extents()) {
+        m_view.Fit(*extents, m_scale(kFitMargin));
+    } else {
+        m_view = CViewTransform();
+        RECT client;
+        GetClientRect(m_window, &client);
+        m_view.Resize(client.right, client.bottom);
+    }
+    RefreshScene();
+}
+
+void CDrawingView::ClearMarks() {
+    m_crosses.clear();
+    Invalidate();
+}
+
+void CDrawingView::SetSnap(bool snap) {
+    m_hasSnap = snap;
+    MoveMouse(m_mouse);
 }
 
 void CDrawingView::BeginPick(std::optional<SPoint> base, std::function<void(SPoint)> onPicked) {
     m_base = base;
     m_onPicked = std::move(onPicked);
-    Invalidate();
+    MoveMouse(m_mouse);
 }
 
 void CDrawingView::EndPick() {
     m_base.reset();
     m_onPicked = nullptr;
-    Invalidate();
+    MoveMouse(m_mouse);
 }
 
 LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_SIZE:
+            OnSize(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+            return 0;
         case WM_MOUSEMOVE:
-            OnMouseMove({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            OnMouseMove(PlaceIn(lParam));
+            return 0;
+        case WM_MOUSELEAVE:
+            OnMouseLeave();
             return 0;
         case WM_LBUTTONDOWN:
-            OnLeftButton({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        case WM_LBUTTONDBLCLK:  // two quick clicks are two points
+            OnLeftButton(PlaceIn(lParam));
+            return 0;
+        case WM_MBUTTONDOWN:
+            OnMiddleButton(PlaceIn(lParam));
+            return 0;
+        case WM_MBUTTONDBLCLK:
+            Fit();
+            return 0;
+        case WM_MBUTTONUP:
+            ReleaseCapture();
+            return 0;
+        case WM_CAPTURECHANGED:
+            m_isPanning = false;
+            return 0;
+        case WM_MOUSEWHEEL:
+            OnWheel(PlaceIn(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
             return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) != HTCLIENT)
                 break;
-            SetCursor(LoadCursorW(nullptr, m_onPicked ? IDC_CROSS : IDC_ARROW));
+            // Otherwise the crosshair is the cursor.
+            SetCursor(m_isPanning ? LoadCursorW(nullptr, IDC_SIZEALL) : nullptr);
             return TRUE;
         case WM_ERASEBKGND:
             return TRUE;  // Paint covers everything
@@ -87,57 +134,69 @@ LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefWindowProcW(m_window, message, wParam, lParam);
 }
 
+void CDrawingView::OnSize(int width, int height) {
+    m_view.Resize(width, height);
+    RefreshScene();
+}
+
 void CDrawingView::OnMouseMove(POINT pixel) {
-    m_mouse = pixel;
-    if (m_base)
-        Invalidate();
-    if (m_onMove)
-        m_onMove(ToDrawing(pixel));
+    if (!m_isMouseInside) {
+        TRACKMOUSEEVENT leave = {sizeof leave, TME_LEAVE, m_window, 0};
+        TrackMouseEvent(&leave);
+        m_isMouseInside = true;
+    }
+    if (m_isPanning) {
+        m_view.PanBy(pixel.x - m_mouse.x, pixel.y - m_mouse.y);
+        m_scene.reset();
+    }
+    MoveMouse(pixel);
+}
+
+void CDrawingView::OnMouseLeave() {
+    m_isMouseInside = false;
+    Invalidate();
 }
 
 void CDrawingView::OnLeftButton(POINT pixel) {
     if (!m_onPicked)
         return;
-    m_mouse = pixel;
-    m_crosses.push_back(ToDrawing(pixel));
-    Invalidate();
+    MoveMouse(pixel);
+    const SPoint point = MousePoint();
+    m_crosses.push_back(point);
     // A copy, since the handler may end the pick.
     const auto onPicked = m_onPicked;
-    onPicked(ToDrawing(pixel));
+    onPicked(point);
 }
 
-void CDrawingView::Paint() {
-    const CBufferedPaint paint(m_window);
-    const CGdiObject sheet(CreateSolidBrush(kSheet));
-    FillRect(paint.Dc(), &paint.Client(), static_cast<HBRUSH>(sheet.get()));
-    if (m_base && m_mouse) {
-        const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
-        const CSelection selection(paint.Dc(), pen);
-        DrawLine(paint.Dc(), ToPixel(*m_base), *m_mouse);
-    }
-    const CGdiObject pen(CreatePen(PS_SOLID, 1, kCross));
-    const CSelection selection(paint.Dc(), pen);
-    for (const SPoint& cross : m_crosses)
-        DrawCross(paint.Dc(), ToPixel(cross));
+void CDrawingView::OnMiddleButton(POINT pixel) {
+    SetCapture(m_window);
+    m_mouse = pixel;
+    m_isPanning = true;
+    SetCursor(LoadCursorW(nullptr, IDC_SIZEALL));
+}
+
+void CDrawingView::OnWheel(POINT screen, int delta) {
+    ScreenToClient(m_window, &screen);
+    m_view.ZoomAbout(AsPoint(screen), std::pow(kZoomOfNotch, double(delta) / WHEEL_DELTA));
+    RefreshScene();
+}
+
+void CDrawingView::MoveMouse(POINT pixel) {
+    m_mouse = pixel;
+    m_snapped.reset();
+    if (m_hasSnap && m_onPicked)
+        m_snapped = NearestEnd(m_drawing, m_view.ToDrawing(AsPoint(pixel)),
+                               m_scale(kSnapReach) * m_view.UnitsPerPixel());
+    Invalidate();
+    if (m_onMove)
+        m_onMove(MousePoint());
+}
+
+void CDrawingView::RefreshScene() {
+    m_scene.reset();
+    MoveMouse(m_mouse);
 }
 
 void CDrawingView::Invalidate() {
     InvalidateRect(m_window, nullptr, FALSE);
-}
-
-int CDrawingView::Height() const {
-    RECT client;
-    GetClientRect(m_window, &client);
-    return client.bottom;
-}
-
-SPoint CDrawingView::ToDrawing(POINT pixel) const {
-    return {double(pixel.x), double(Height() - 1 - pixel.y)};
-}
-
-POINT CDrawingView::ToPixel(SPoint point) const {
-    // Nothing that far away is seen, and larger numbers do not fit the system's.
-    constexpr double kFar = 1e6;
-    return {std::lround(std::clamp(point.x, -kFar, kFar)),
-            Height() - 1 - std::lround(std::clamp(point.y, -kFar, kFar))};
 }

@@ -25,6 +25,25 @@ private:
     HGDIOBJ m_before;
 };
 
+// A device context in memory that draws into a bitmap.
+class CBitmapDc {
+public:
+    CBitmapDc(HDC like, HGDIOBJ bitmap)
+        : m_dc(CreateCompatibleDC(like)), m_before(SelectObject(m_dc, bitmap)) {}
+    ~CBitmapDc() {
+        SelectObject(m_dc, m_before);
+        DeleteDC(m_dc);
+    }
+    CBitmapDc(const CBitmapDc&) = delete;
+    CBitmapDc& operator=(const CBitmapDc&) = delete;
+
+    HDC Get() const { return m_dc; }
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_before;
+};
+
 // Answers WM_PAINT through a bitmap, so that the window never shows a picture half drawn: what is drawn on
 // Dc() appears when the scope ends.
 class CBufferedPaint {
@@ -32,20 +51,17 @@ public:
     explicit CBufferedPaint(HWND window)
         : m_window(window),
           m_target(BeginPaint(window, &m_paint)),
-          m_dc(CreateCompatibleDC(m_target)),
           m_client(ClientOf(window)),
           m_bitmap(CreateCompatibleBitmap(m_target, m_client.right, m_client.bottom)),
-          m_before(SelectObject(m_dc, m_bitmap.get())) {}
+          m_dc(m_target, m_bitmap.get()) {}
     ~CBufferedPaint() {
-        BitBlt(m_target, 0, 0, m_client.right, m_client.bottom, m_dc, 0, 0, SRCCOPY);
-        SelectObject(m_dc, m_before);
-        DeleteDC(m_dc);
+        BitBlt(m_target, 0, 0, m_client.right, m_client.bottom, m_dc.Get(), 0, 0, SRCCOPY);
         EndPaint(m_window, &m_paint);
     }
     CBufferedPaint(const CBufferedPaint&) = delete;
     CBufferedPaint& operator=(const CBufferedPaint&) = delete;
 
-    HDC Dc() const { return m_dc; }
+    HDC Dc() const { return m_dc.Get(); }
     const RECT& Client() const { return m_client; }
 
 private:
@@ -58,8 +74,7 @@ private:
     HWND m_window;
     PAINTSTRUCT m_paint;
     HDC m_target;
-    HDC m_dc;
     RECT m_client;
     CGdiObject m_bitmap;
-    HGDIOBJ m_before;
+    CBitmapDc m_dc;
 };

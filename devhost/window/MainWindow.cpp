@@ -1,10 +1,13 @@
 #include "MainWindow.h"
 
-#include <commctrl.h>
+#include <windowsx.h>
 
 #include <algorithm>
 #include <iterator>
 
+#include "Commands.h"
+#include "LinearUnits.h"
+#include "ProgramVersion.h"
 #include "UserError.h"
 #include "WindowProc.h"
 
@@ -13,69 +16,38 @@ namespace {
 constexpr wchar_t kClassName[] = L"DevHostMain";
 constexpr wchar_t kTitle[] = L"DevHost";
 
-enum EControl { IDC_DRAWING = 100, IDC_OUTPUT, IDC_PROMPT, IDC_STATUS };
-
 // Pixels.
-constexpr int kWidth = 1000;
-constexpr int kHeight = 750;
-constexpr int kOutputHeight = 130;
-constexpr int kPromptHeight = 26;
-constexpr int kPointWidth = 260;
-constexpr int kUnitsWidth = 160;
-
-// The list of outputs forgets its older half when it grows past this.
-constexpr int kMaxOutputLength = 60'000;
-
-HWND CreateControl(HWND parent, EControl id, const wchar_t* className, const wchar_t* text, DWORD style,
-                   DWORD extendedStyle = WS_EX_CLIENTEDGE) {
-    HWND control =
-        CreateWindowExW(extendedStyle, className, text, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
-                        reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), nullptr);
-    if (control == nullptr)
-        throw CUserError(L"the main window cannot be opened");
-    return control;
-}
+constexpr int kWidth = 1100;
+constexpr int kHeight = 800;
+constexpr int kOutputHeight = 140;
 
 // Where the window opens: in the middle of the screen, no larger than that.
-RECT FirstPlace() {
+RECT FirstPlace(const CScale& scale) {
     RECT screen;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
-    const int width = std::min<int>(kWidth, screen.right - screen.left);
-    const int height = std::min<int>(kHeight, screen.bottom - screen.top);
+    const int width = std::min<int>(scale(kWidth), screen.right - screen.left);
+    const int height = std::min<int>(scale(kHeight), screen.bottom - screen.top);
     const int left = (screen.left + screen.right - width) / 2;
     const int top = (screen.top + screen.bottom - height) / 2;
     return {left, top, left + width, top + height};
 }
 
-std::wstring TextOf(HWND window) {
-    std::wstring text(std::size_t(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(std::size_t(GetWindowTextW(window, text.data(), int(text.size()))));
-    return text;
-}
-
-int HeightOf(HWND window) {
-    RECT rect;
-    GetWindowRect(window, &rect);
-    return rect.bottom - rect.top;
-}
-
-}  // namespace
-
-CMainWindow::CMainWindow() {
-    const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES};
-    InitCommonControlsEx(&controls);
-
+void RegisterMainClass() {
     WNDCLASSEXW windowClass = {};
     windowClass.cbSize = sizeof windowClass;
     windowClass.lpfnWndProc = WindowProc<CMainWindow>;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
     windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR(COLOR_BTNFACE + 1));
     windowClass.lpszClassName = kClassName;
     RegisterClassExW(&windowClass);
+}
 
-    const RECT place = FirstPlace();
+}  // namespace
+
+CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m_scale(kOutputHeight)) {
+    RegisterMainClass();
+    const RECT place = FirstPlace(m_scale);
     CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place.left, place.top,
                     place.right - place.left, place.bottom - place.top, nullptr, nullptr,
                     GetModuleHandleW(nullptr), this);
@@ -87,6 +59,7 @@ CMainWindow::CMainWindow() {
         DestroyWindow(m_window);
         throw;
     }
+    ShowIdlePrompt();
 }
 
 CMainWindow::~CMainWindow() {
@@ -94,61 +67,93 @@ CMainWindow::~CMainWindow() {
         DestroyWindow(m_window);
 }
 
-void CMainWindow::CreateControls() {
-    m_font.reset(CreateFontW(-14, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                             OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                             FIXED_PITCH | FF_MODERN, L"Courier New"));
-    m_drawing = std::make_unique<CDrawingView>(m_window, IDC_DRAWING);
-    m_output = CreateControl(m_window, IDC_OUTPUT, L"EDIT", L"",
-                             ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_VSCROLL);
-    m_prompt = CreateControl(m_window, IDC_PROMPT, L"EDIT", L"", ES_AUTOHSCROLL | WS_TABSTOP);
-    m_status = CreateControl(m_window, IDC_STATUS, STATUSCLASSNAMEW, L"", SBARS_SIZEGRIP, 0);
-    for (const HWND control : {m_output, m_prompt})
-        SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(m_font.get()), FALSE);
-    SendMessageW(m_output, EM_SETLIMITTEXT, 0, 0);
-    SendMessageW(m_prompt, EM_SETCUEBANNER, TRUE,
-                 reinterpret_cast<LPARAM>(L"LISP, for example (tavrinwnd \"door\" 1.0 1)"));
-    Layout();
-}
-
 void CMainWindow::Show() {
     ShowWindow(m_window, SW_SHOWDEFAULT);
     UpdateWindow(m_window);
-    SetFocus(m_prompt);
-}
-
-void CMainWindow::AddOutput(std::wstring_view line) {
-    if (GetWindowTextLengthW(m_output) > kMaxOutputLength) {
-        SendMessageW(m_output, EM_SETSEL, 0, kMaxOutputLength / 2);
-        SendMessageW(m_output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
-    }
-    const int end = GetWindowTextLengthW(m_output);
-    const std::wstring text = (end == 0 ? L"" : L"\r\n") + std::wstring(line);
-    SendMessageW(m_output, EM_SETSEL, WPARAM(end), end);
-    SendMessageW(m_output, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(text.c_str()));
+    Focus();
 }
 
 void CMainWindow::SetCommandHandler(std::function<void(const std::wstring&)> onCommand) {
     m_onCommand = std::move(onCommand);
 }
 
-void CMainWindow::SetPointFormat(std::function<std::wstring(SPoint)> format, const std::wstring& units) {
-    m_drawing->SetMoveHandler(
-        [this, format = std::move(format)](SPoint point) { ShowInStatus(SP_POINT, format(point)); });
-    ShowInStatus(SP_UNITS, units);
+void CMainWindow::SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem) {
+    m_itemCount = titles.size();
+    m_onItem = std::move(onItem);
+    m_menu->SetItems(titles);
+}
+
+void CMainWindow::SetReloadHandler(std::function<void()> onReload) {
+    m_onReload = std::move(onReload);
+}
+
+void CMainWindow::SetFormat(int lunits, int luprec) {
+    m_status->SetFormat(lunits, luprec);
+}
+
+void CMainWindow::SetFormatHandler(std::function<void(int, int)> onFormat) {
+    m_onFormat = std::move(onFormat);
 }
 
 void CMainWindow::SetBusy(bool busy) {
-    m_busy = busy;
-    EnableWindow(m_prompt, !busy);
-    if (!busy)
-        SetFocus(m_prompt);
+    m_busy += busy ? 1 : -1;
+    EnableWindow(m_prompt, m_busy == 0);
+    if (m_busy == 0) {
+        m_isEscapePressed = false;
+        ShowIdlePrompt();
+    } else if (m_busy == 1) {
+        m_status->ShowText(L"Running. Escape stops it.");
+    }
+    Focus();
 }
 
 LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SIZE:
             Layout();
+            return 0;
+        case WM_ERASEBKGND:
+            PaintBackground(reinterpret_cast<HDC>(wParam));
+            return TRUE;
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLOREDIT:
+            return reinterpret_cast<LRESULT>(
+                PaintControl(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
+        case WM_SETFOCUS:
+            Focus();
+            return 0;
+        case WM_SETCURSOR:
+            if (reinterpret_cast<HWND>(wParam) != m_window || !IsOverStrip())
+                break;
+            SetCursor(LoadCursorW(nullptr, IDC_SIZENS));
+            return TRUE;
+        case WM_LBUTTONDOWN:
+            m_isStripMoving = IsOverStrip();
+            if (m_isStripMoving)
+                SetCapture(m_window);
+            return 0;
+        case WM_MOUSEMOVE:
+            if (m_isStripMoving)
+                MoveStrip(GET_Y_LPARAM(lParam));
+            return 0;
+        case WM_LBUTTONUP:
+            ReleaseCapture();
+            return 0;
+        case WM_CAPTURECHANGED:
+            m_isStripMoving = false;
+            return 0;
+        case WM_NOTIFY:
+            m_status->OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+            return 0;
+        case WM_DRAWITEM:
+            m_status->DrawPart(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+            return TRUE;
+        case WM_INITMENU:
+            UpdateMenu();
+            return 0;
+        case WM_COMMAND:
+            if (lParam == 0)
+                OnCommand(LOWORD(wParam));
             return 0;
         case WM_CLOSE:
             OnClose();
@@ -161,49 +166,83 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void CMainWindow::OnClose() {
-    if (m_picking)
-        EndPick(std::nullopt);
-    else if (m_busy)
-        MessageBeep(MB_ICONWARNING);  // a call runs in this window's name; its dialog has to end first
-    else
+    if (m_isAsking) {
+        EndAsk(SCancelled());
+    } else if (m_busy != 0) {
+        // What runs has to end first.
+        m_isEscapePressed = true;
+        MessageBeep(MB_ICONWARNING);
+    } else {
         DestroyWindow(m_window);
-}
-
-void CMainWindow::Layout() {
-    if (m_status == nullptr)
-        return;
-    RECT client;
-    GetClientRect(m_window, &client);
-    SendMessageW(m_status, WM_SIZE, 0, 0);
-    const int parts[] = {client.right - kPointWidth - kUnitsWidth, client.right - kUnitsWidth, -1};
-    SendMessageW(m_status, SB_SETPARTS, std::size(parts), reinterpret_cast<LPARAM>(parts));
-
-    const int promptTop = client.bottom - HeightOf(m_status) - kPromptHeight;
-    const int outputTop = promptTop - kOutputHeight;
-    MoveWindow(m_drawing->Handle(), 0, 0, client.right, std::max(outputTop, 0), TRUE);
-    MoveWindow(m_output, 0, outputTop, client.right, kOutputHeight, TRUE);
-    MoveWindow(m_prompt, 0, promptTop, client.right, kPromptHeight, TRUE);
-}
-
-void CMainWindow::ShowInStatus(EStatusPart part, const std::wstring& text) {
-    SendMessageW(m_status, SB_SETTEXTW, WPARAM(part), reinterpret_cast<LPARAM>(text.c_str()));
-}
-
-void CMainWindow::TakeCommand() {
-    const std::wstring command = TextOf(m_prompt);
-    SetWindowTextW(m_prompt, L"");
-    if (m_onCommand && !m_busy && !command.empty())
-        m_onCommand(command);
-}
-
-void CMainWindow::Run() {
-    MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (message.hwnd == m_prompt && message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
-            TakeCommand();
-            continue;
-        }
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
     }
+}
+
+// The menu makes grey what cannot be done at the moment; a command that was sent all the same is refused
+// here.
+void CMainWindow::OnCommand(int command) {
+    if (command == IDM_FIT)
+        FitDrawing();
+    else if (command == IDM_SNAP)
+        m_drawing->SetSnap(!m_drawing->HasSnap());
+    else if (command - IDM_UNITS >= LU_SCIENTIFIC && command - IDM_UNITS <= LU_FRACTIONAL)
+        ChooseFormat(command - IDM_UNITS, m_status->Precision());
+    else if (command >= IDM_PRECISION && command <= IDM_PRECISION + kMaxLinearPrecision)
+        ChooseFormat(m_status->Units(), command - IDM_PRECISION);
+    else if (!IsIdle())
+        MessageBeep(MB_ICONWARNING);
+    else if (command == IDM_RELOAD && m_onReload)
+        m_onReload();
+    else if (command == IDM_CLEAR)
+        ClearDrawing();
+    else if (command == IDM_ABOUT)
+        ShowAbout();
+    else if (command == IDM_EXIT)
+        OnClose();
+    else if (command >= IDM_ITEM)
+        OnItem(std::size_t(command - IDM_ITEM));
+}
+
+void CMainWindow::OnItem(std::size_t index) {
+    if (index < m_itemCount && m_onItem)
+        m_onItem(index);
+}
+
+void CMainWindow::ChooseFormat(int lunits, int luprec) {
+    SetFormat(lunits, luprec);
+    if (m_onFormat)
+        m_onFormat(lunits, luprec);
+}
+
+void CMainWindow::ClearDrawing() {
+    m_drawing->ClearMarks();
+    m_shown.Clear();
+}
+
+void CMainWindow::ShowAbout() {
+    const std::wstring text = kTitle + (L"\n\n" + ProgramVersion());
+    MessageBoxW(m_window, text.c_str(), L"About DevHost", MB_OK | MB_ICONINFORMATION);
+}
+
+void CMainWindow::UpdateMenu() {
+    SMenuState state;
+    state.isIdle = IsIdle();
+    state.canReload = m_onReload != nullptr;
+    state.hasDrawing = !m_shown.Entities().empty();
+    state.hasSnap = m_drawing->HasSnap();
+    m_menu->Update(state);
+}
+
+void CMainWindow::Focus() {
+    if (GetActiveWindow() == m_window)
+        SetFocus(IsWindowEnabled(m_prompt) ? m_prompt : m_drawing->Handle());
+}
+
+void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint) {
+    SetWindowTextW(m_label, label.c_str());
+    m_status->ShowText(hint);
+    Layout();
+}
+
+void CMainWindow::ShowIdlePrompt() {
+    ShowPrompt(L"LISP", L"Wheel: zoom. Middle button: pan, twice: fit.");
 }

@@ -1,0 +1,6 @@
+// The dots behind a drawing that give a feeling for its size.
+#pragma once
+
+// The distance between the dots in drawing units: the smallest of 1, 2, 5, 10, 20, 50 … (and 0.5, 0.2 …)
+// that spans at least `leastPixels` at so many drawing units per pixel.
+double GridSpacing(double unitsPerPixel, double leastPixels);

@@ -1,0 +1,16 @@
+// The numbers of the main window's parts and of its menu's commands.
+#pragma once
+
+enum EControl { IDC_DRAWING = 100, IDC_OUTPUT, IDC_PROMPT, IDC_STATUS, IDC_LABEL };
+
+enum ECommand {
+    IDM_RELOAD = 200,
+    IDM_FIT,
+    IDM_SNAP,
+    IDM_CLEAR,
+    IDM_ABOUT,
+    IDM_EXIT,
+    IDM_UNITS = 300,      // plus a value of LUNITS
+    IDM_PRECISION = 320,  // plus a value of LUPREC
+    IDM_ITEM = 1000,      // plus the item's index
+};

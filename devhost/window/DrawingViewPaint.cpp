@@ -1,0 +1,94 @@
+// What the drawing area shows: the drawing, painted once for as long as it stays the same, and above it what
+// moves with the mouse.
+#include <algorithm>
+#include <cmath>
+
+#include "DrawingView.h"
+#include "ScenePaint.h"
+
+namespace {
+
+// Pixels.
+constexpr int kCrossArm = 5;
+constexpr int kCrosshairArm = 18;
+constexpr int kSnapArm = 6;
+
+constexpr COLORREF kCross = RGB(0, 60, 160);
+constexpr COLORREF kCrosshair = RGB(40, 40, 40);
+constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
+constexpr COLORREF kRubberLine = RGB(120, 120, 120);
+constexpr COLORREF kSnapMark = RGB(214, 112, 0);
+
+void DrawLine(HDC dc, POINT from, POINT to) {
+    MoveToEx(dc, from.x, from.y, nullptr);
+    LineTo(dc, to.x, to.y);
+}
+
+void DrawCross(HDC dc, POINT middle, int arm) {
+    DrawLine(dc, {middle.x - arm, middle.y}, {middle.x + arm + 1, middle.y});
+    DrawLine(dc, {middle.x, middle.y - arm}, {middle.x, middle.y + arm + 1});
+}
+
+}  // namespace
+
+void CDrawingView::Paint() {
+    const CBufferedPaint paint(m_window);
+    PaintScene(paint.Dc(), paint.Client());
+    PaintRubberLine(paint.Dc());
+    PaintCrosshair(paint.Dc());
+    PaintSnapMark(paint.Dc());
+    PaintCrosses(paint.Dc());
+}
+
+void CDrawingView::PaintScene(HDC dc, const RECT& client) {
+    const bool isNew = m_scene == nullptr;
+    if (isNew)
+        m_scene.reset(CreateCompatibleBitmap(dc, client.right, client.bottom));
+    const CBitmapDc scene(dc, m_scene.get());
+    if (isNew)
+        ::PaintScene(scene.Get(), client, m_drawing, m_view);
+    BitBlt(dc, 0, 0, client.right, client.bottom, scene.Get(), 0, 0, SRCCOPY);
+}
+
+void CDrawingView::PaintRubberLine(HDC dc) const {
+    if (!m_base)
+        return;
+    const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
+    const CSelection selection(dc, pen);
+    SetBkMode(dc, TRANSPARENT);
+    DrawLine(dc, ToPixel(*m_base), ToPixel(MousePoint()));
+}
+
+void CDrawingView::PaintCrosshair(HDC dc) const {
+    if (!m_isMouseInside || m_isPanning)
+        return;
+    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
+    const CSelection selection(dc, pen);
+    DrawCross(dc, m_mouse, m_scale(kCrosshairArm));
+}
+
+void CDrawingView::PaintSnapMark(HDC dc) const {
+    if (!m_snapped)
+        return;
+    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
+    const CSelection penSelection(dc, pen);
+    const CSelection brushSelection(dc, GetStockObject(NULL_BRUSH));
+    const POINT middle = ToPixel(*m_snapped);
+    const int arm = m_scale(kSnapArm);
+    Rectangle(dc, middle.x - arm, middle.y - arm, middle.x + arm + 1, middle.y + arm + 1);
+}
+
+void CDrawingView::PaintCrosses(HDC dc) const {
+    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
+    const CSelection selection(dc, pen);
+    for (const SPoint& cross : m_crosses)
+        DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
+}
+
+POINT CDrawingView::ToPixel(SPoint point) const {
+    // Nothing that far away is seen, and larger numbers do not fit the system's.
+    constexpr double kFar = 1e6;
+    const SPoint pixel = m_view.ToPixel(point);
+    return {LONG(std::lround(std::clamp(pixel.x, -kFar, kFar))),
+            LONG(std::lround(std::clamp(pixel.y, -kFar, kFar)))};
+}

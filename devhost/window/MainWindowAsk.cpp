@@ -1,0 +1,190 @@
+// The main window's message loops: the one that runs until it closes, the one of a question, since what asks
+// returns only with the answer, and the short one while something runs. All give keys the same meaning.
+#include <windows.h>
+
+#include <windowsx.h>
+
+#include <utility>
+
+#include "MainWindow.h"
+#include "TypedPoint.h"
+
+namespace {
+
+std::wstring TextOf(HWND window) {
+    std::wstring text(std::size_t(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(std::size_t(GetWindowTextW(window, text.data(), int(text.size()))));
+    return text;
+}
+
+void ShowInPrompt(HWND prompt, const std::wstring& text) {
+    SetWindowTextW(prompt, text.c_str());
+    SendMessageW(prompt, EM_SETSEL, text.size(), LPARAM(text.size()));
+}
+
+std::wstring WithoutBlanksBehind(std::wstring_view text) {
+    const std::size_t last = text.find_last_not_of(L" \t\r\n");
+    return std::wstring(text.substr(0, last == text.npos ? 0 : last + 1));
+}
+
+}  // namespace
+
+void CMainWindow::Run() {
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        Handle(message);
+}
+
+CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, EAsk what) {
+    m_isAsking = true;
+    m_isAnswered = false;
+    m_answer = SCancelled();
+    ShowPrompt(WithoutBlanksBehind(prompt), std::wstring(prompt));
+    SetWindowTextW(m_prompt, L"");
+    EnableWindow(m_prompt, TRUE);
+    if (what == ASK_POINT)
+        m_drawing->BeginPick(base, [this](SPoint point) { EndAsk(point); });
+    if (IsIconic(m_window))
+        ShowWindow(m_window, SW_RESTORE);
+    SetForegroundWindow(m_window);
+    Focus();
+
+    MSG message;
+    while (!m_isAnswered) {
+        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+            // The loops around this one have to end as well.
+            PostQuitMessage(int(message.wParam));
+            break;
+        }
+        Handle(message);
+    }
+
+    m_drawing->EndPick();
+    m_isAsking = false;
+    AddOutput(std::wstring(prompt) + ShownAnswer());
+    SetWindowTextW(m_prompt, L"");
+    EnableWindow(m_prompt, m_busy == 0);
+    ShowIdlePrompt();
+    Focus();
+    return m_answer;
+}
+
+std::optional<SPoint> CMainWindow::PickPoint(std::wstring_view prompt, std::optional<SPoint> base) {
+    for (;;) {
+        const CAnswer answer = Ask(prompt, base, ASK_POINT);
+        if (std::holds_alternative<SCancelled>(answer))
+            return std::nullopt;
+        if (const auto* point = std::get_if<SPoint>(&answer))
+            return *point;
+        if (const auto* text = std::get_if<std::wstring>(&answer)) {
+            if (const auto point = ParsePoint(*text, base, m_drawing->MousePoint()))
+                return point;
+            AddOutput(L"'" + *text + L"' is no point: click one, or type it as X,Y");
+        }
+    }
+}
+
+// Ends the loop, also when the message that led here was sent to the window and did not come through it.
+void CMainWindow::EndAsk(CAnswer answer) {
+    if (m_isAnswered)
+        return;
+    m_isAnswered = true;
+    m_answer = std::move(answer);
+    PostMessageW(m_window, WM_NULL, 0, 0);
+}
+
+std::wstring CMainWindow::ShownAnswer() const {
+    if (std::holds_alternative<SCancelled>(m_answer))
+        return L"(cancelled)";
+    if (const auto* point = std::get_if<SPoint>(&m_answer))
+        return m_status->TextOf(*point);
+    const auto* text = std::get_if<std::wstring>(&m_answer);
+    return text != nullptr ? *text : L"";
+}
+
+bool CMainWindow::PollEscape() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            PostQuitMessage(int(message.wParam));
+            return true;
+        }
+        Handle(message);
+    }
+    return std::exchange(m_isEscapePressed, false);
+}
+
+void CMainWindow::Handle(MSG message) {
+    if (TakeMessage(message))
+        return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+// True when the message is for the window as a whole, and done. Others it may turn to the prompt.
+bool CMainWindow::TakeMessage(MSG& message) {
+    if (message.hwnd != m_window && !IsChild(m_window, message.hwnd))
+        return false;
+    if (message.message == WM_MOUSEWHEEL) {
+        // The wheel turns what is under the mouse, wherever the focus is.
+        const POINT mouse = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+        if (WindowFromPoint(mouse) == m_drawing->Handle())
+            message.hwnd = m_drawing->Handle();
+        return false;
+    }
+    if (message.message == WM_CHAR && message.wParam >= L' ' && IsWindowEnabled(m_prompt)) {
+        message.hwnd = m_prompt;
+        SetFocus(m_prompt);
+        return false;
+    }
+    if (TranslateAcceleratorW(m_window, m_menu->Keys(), &message))
+        return true;
+    return message.message == WM_KEYDOWN && TakeKey(message);
+}
+
+bool CMainWindow::TakeKey(const MSG& message) {
+    const bool isInPrompt = message.hwnd == m_prompt;
+    switch (message.wParam) {
+        case VK_ESCAPE:
+            TakeEscape();
+            return true;
+        case VK_RETURN:
+            TakeEnter();
+            return true;
+        case VK_UP:
+            if (isInPrompt)
+                ShowInPrompt(m_prompt, m_history.Older(TextOf(m_prompt)));
+            return isInPrompt;
+        case VK_DOWN:
+            if (isInPrompt)
+                ShowInPrompt(m_prompt, m_history.Newer(TextOf(m_prompt)));
+            return isInPrompt;
+        case VK_PRIOR:
+        case VK_NEXT:
+            m_output->ScrollPages(message.wParam == VK_PRIOR ? -1 : 1);
+            return true;
+    }
+    return false;
+}
+
+void CMainWindow::TakeEscape() {
+    if (m_isAsking)
+        EndAsk(SCancelled());
+    else if (m_busy != 0)
+        m_isEscapePressed = true;
+    else
+        SetWindowTextW(m_prompt, L"");
+}
+
+void CMainWindow::TakeEnter() {
+    if (!m_isAsking && !IsIdle())
+        return;
+    const std::wstring text = TextOf(m_prompt);
+    SetWindowTextW(m_prompt, L"");
+    if (!text.empty())
+        m_history.Add(text);
+    if (m_isAsking)
+        EndAsk(text.empty() ? CAnswer(SPlainEnter()) : CAnswer(text));
+    else if (m_onCommand && !text.empty())
+        m_onCommand(text);
+}

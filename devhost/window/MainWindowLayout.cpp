@@ -1,0 +1,163 @@
+// The main window's parts and their places: the drawing on top, a strip that is dragged to share the height,
+// the list of outputs, and one row with a label and the prompt. The lower part is white throughout, so that
+// it reads as one sheet of paper.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "Commands.h"
+#include "MainWindow.h"
+#include "UserError.h"
+
+namespace {
+
+// Pixels.
+constexpr int kStripHeight = 6;
+constexpr int kPromptHeight = 30;
+constexpr int kMargin = 10;
+constexpr int kLabelGap = 8;
+constexpr int kLeastOutput = 40;
+constexpr int kLeastDrawing = 60;
+constexpr int kCodeHeight = 14;
+
+constexpr COLORREF kLabelColour = RGB(0, 60, 160);
+constexpr COLORREF kCodeColour = RGB(28, 36, 48);
+
+HWND CreateControl(HWND parent, EControl id, const wchar_t* className, DWORD style) {
+    HWND control = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
+                                   reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), nullptr);
+    if (control == nullptr)
+        throw CUserError(L"the main window cannot be opened");
+    return control;
+}
+
+HGDIOBJ CreateTextFont() {
+    NONCLIENTMETRICSW metrics = {};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    return CreateFontIndirectW(&metrics.lfStatusFont);
+}
+
+void SetFont(HWND control, const CGdiObject& font) {
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+}
+
+SIZE TextSize(HWND control, const CGdiObject& font) {
+    wchar_t text[256];
+    const int length = GetWindowTextW(control, text, 256);
+    const HDC dc = GetDC(control);
+    SIZE size = {};
+    {
+        const CSelection selection(dc, font);
+        GetTextExtentPoint32W(dc, text, length, &size);
+    }
+    ReleaseDC(control, dc);
+    return size;
+}
+
+// The height of a line in the font.
+int LineHeight(HWND control, const CGdiObject& font) {
+    const HDC dc = GetDC(control);
+    TEXTMETRICW metrics = {};
+    {
+        const CSelection selection(dc, font);
+        GetTextMetricsW(dc, &metrics);
+    }
+    ReleaseDC(control, dc);
+    return metrics.tmHeight;
+}
+
+}  // namespace
+
+void CMainWindow::CreateControls() {
+    const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES};
+    InitCommonControlsEx(&controls);
+    m_textFont.reset(CreateTextFont());
+    m_codeFont.reset(CreateFontW(-m_scale(kCodeHeight), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
+                                 DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                                 FIXED_PITCH | FF_MODERN, L"Courier New"));
+    m_menu = std::make_unique<CMainMenu>(m_window);
+    m_drawing = std::make_unique<CDrawingView>(m_window, IDC_DRAWING, m_shown);
+    m_output = std::make_unique<COutputList>(m_window);
+    m_label = CreateControl(m_window, IDC_LABEL, L"STATIC", SS_NOPREFIX | SS_LEFTNOWORDWRAP);
+    m_prompt = CreateControl(m_window, IDC_PROMPT, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP);
+    m_status = std::make_unique<CStatusLine>(m_window);
+    m_drawing->SetMoveHandler([this](SPoint point) { m_status->ShowPoint(point); });
+    SetFont(m_output->Handle(), m_codeFont);
+    SetFont(m_prompt, m_codeFont);
+    SetFont(m_label, m_codeFont);
+    SetFont(m_status->Handle(), m_textFont);
+    for (const HWND edit : {m_output->Handle(), m_prompt})
+        SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    SendMessageW(m_prompt, EM_SETCUEBANNER, TRUE,
+                 reinterpret_cast<LPARAM>(L"for example (tavrinwnd \"door\" 1.0 1)"));
+    Layout();
+}
+
+void CMainWindow::Layout() {
+    if (m_status == nullptr)
+        return;
+    RECT client;
+    GetClientRect(m_window, &client);
+    m_status->Layout();
+    const int width = client.right;
+    const int bottom = client.bottom - m_status->Height();
+    const RECT strip = Strip();
+    const int margin = m_scale(kMargin);
+
+    const int promptTop = bottom - m_scale(kPromptHeight);
+    const int line = LineHeight(m_prompt, m_codeFont);
+    const int textTop = promptTop + (m_scale(kPromptHeight) - line) / 2;
+    const int labelWidth = std::min<int>(TextSize(m_label, m_codeFont).cx + m_scale(2), width / 2);
+    const int promptLeft = margin + labelWidth + m_scale(kLabelGap);
+
+    MoveWindow(m_drawing->Handle(), 0, 0, width, strip.top, TRUE);
+    MoveWindow(m_output->Handle(), margin, strip.bottom + m_scale(4), std::max(width - margin, 0),
+               std::max<int>(promptTop - strip.bottom - m_scale(4), 0), TRUE);
+    MoveWindow(m_label, margin, textTop, labelWidth, line, TRUE);
+    MoveWindow(m_prompt, promptLeft, textTop, std::max(width - promptLeft - margin, 0), line, TRUE);
+    InvalidateRect(m_window, nullptr, TRUE);
+}
+
+// Where the height is shared: between the drawing and the list of outputs.
+RECT CMainWindow::Strip() const {
+    RECT client;
+    GetClientRect(m_window, &client);
+    const int room = client.bottom - m_status->Height() - m_scale(kPromptHeight) - m_scale(kStripHeight);
+    const int output = std::min(m_outputHeight, std::max(room - m_scale(kLeastDrawing), 0));
+    const int top = std::max(room - output, 0);
+    return {0, top, client.right, top + m_scale(kStripHeight)};
+}
+
+bool CMainWindow::IsOverStrip() const {
+    POINT mouse;
+    GetCursorPos(&mouse);
+    ScreenToClient(m_window, &mouse);
+    const RECT strip = Strip();
+    return PtInRect(&strip, mouse);
+}
+
+void CMainWindow::MoveStrip(int y) {
+    const RECT strip = Strip();
+    m_outputHeight =
+        std::max<int>(m_outputHeight + strip.top - (y - m_scale(kStripHeight) / 2), m_scale(kLeastOutput));
+    Layout();
+}
+
+void CMainWindow::PaintBackground(HDC dc) const {
+    RECT client;
+    GetClientRect(m_window, &client);
+    FillRect(dc, &client, GetSysColorBrush(COLOR_WINDOW));
+    const RECT strip = Strip();
+    FillRect(dc, &strip, GetSysColorBrush(COLOR_BTNFACE));
+    const RECT edge = {0, strip.bottom - 1, client.right, strip.bottom};
+    FillRect(dc, &edge, GetSysColorBrush(COLOR_BTNSHADOW));
+}
+
+HBRUSH CMainWindow::PaintControl(HDC dc, HWND control) const {
+    SetTextColor(dc, control == m_label ? kLabelColour : kCodeColour);
+    SetBkColor(dc, GetSysColor(COLOR_WINDOW));
+    return GetSysColorBrush(COLOR_WINDOW);
+}

@@ -1,0 +1,19 @@
+// Sizes for the screen's resolution.
+#pragma once
+
+#include <windows.h>
+
+// Turns pixels of a screen with 96 dots per inch into those of this one.
+class CScale {
+public:
+    CScale() {
+        const HDC screen = GetDC(nullptr);
+        m_dots = GetDeviceCaps(screen, LOGPIXELSY);
+        ReleaseDC(nullptr, screen);
+    }
+
+    int operator()(int pixels) const { return MulDiv(pixels, m_dots, 96); }
+
+private:
+    int m_dots = 96;
+};

@@ -1,0 +1,151 @@
+#include "ScenePaint.h"
+
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "GdiScope.h"
+#include "Grid.h"
+#include "Outline.h"
+#include "Scale.h"
+
+namespace {
+
+constexpr COLORREF kSheet = RGB(250, 250, 245);
+constexpr COLORREF kDot = RGB(200, 200, 194);
+constexpr COLORREF kLargeDot = RGB(110, 110, 106);
+constexpr COLORREF kAxisX = RGB(226, 170, 165);
+constexpr COLORREF kAxisY = RGB(160, 205, 165);
+constexpr COLORREF kInk = RGB(28, 36, 48);
+
+constexpr int kDotDistance = 20;  // pixels, at least
+constexpr int kLargeDotEvery = 5;
+
+// Of a text: below the first it is only a stroke, beyond the second the system's fonts end.
+constexpr double kLeastTextSize = 3;
+constexpr double kMostTextSize = 8000;
+
+POINT Rounded(SPoint pixel) {
+    return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
+}
+
+class CScenePainter {
+public:
+    CScenePainter(HDC dc, const RECT& client, const CViewTransform& view)
+        : m_dc(dc),
+          m_view(view),
+          m_client(client),
+          // A little more than what is seen, so that cut ends do not show.
+          m_limits({{-20.0, -20.0}, {client.right + 20.0, client.bottom + 20.0}}) {}
+
+    void Sheet() {
+        const CGdiObject brush(CreateSolidBrush(kSheet));
+        FillRect(m_dc, &m_client, static_cast<HBRUSH>(brush.get()));
+    }
+
+    void Dots() {
+        const double spacing = GridSpacing(m_view.UnitsPerPixel(), m_scale(kDotDistance));
+        const SBox shown = m_view.Shown();
+        const double left = std::ceil(shown.low.x / spacing);
+        const double bottom = std::ceil(shown.low.y / spacing);
+        for (double column = left; column * spacing <= shown.high.x; ++column)
+            for (double row = bottom; row * spacing <= shown.high.y; ++row)
+                Dot(column, row, spacing);
+    }
+
+    void Axes() {
+        const POINT origin = Rounded(m_view.ToPixel({0, 0}));
+        Stroke(kAxisX, {0, origin.y}, {m_client.right, origin.y});
+        Stroke(kAxisY, {origin.x, 0}, {origin.x, m_client.bottom});
+    }
+
+    void Entities(const CDrawing& drawing) {
+        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kInk));
+        const CSelection selection(m_dc, pen);
+        for (const CEntity& entity : drawing.Entities())
+            if (const auto* text = std::get_if<SText>(&entity))
+                Text(*text);
+            else
+                Outline(OutlineOf(entity, m_view.UnitsPerPixel() / 8));
+    }
+
+private:
+    void Dot(double column, double row, double spacing) {
+        const bool large = std::fmod(column, kLargeDotEvery) == 0 && std::fmod(row, kLargeDotEvery) == 0;
+        const POINT place = Rounded(m_view.ToPixel({column * spacing, row * spacing}));
+        SetPixelV(m_dc, place.x, place.y, large ? kLargeDot : kDot);
+    }
+
+    void Stroke(COLORREF colour, POINT from, POINT to) {
+        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), colour));
+        const CSelection selection(m_dc, pen);
+        MoveToEx(m_dc, from.x, from.y, nullptr);
+        LineTo(m_dc, to.x, to.y);
+    }
+
+    // Line by line within the limits, since the system's coordinates end long before a zoomed drawing does;
+    // pieces that hang together are drawn as one, which joins them well.
+    void Outline(const std::vector<SPoint>& points) {
+        std::vector<POINT> run;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            const auto piece = Clip({m_view.ToPixel(points[i - 1]), m_view.ToPixel(points[i])}, m_limits);
+            if (!piece)
+                continue;
+            const POINT from = Rounded(piece->from);
+            if (run.empty() || run.back().x != from.x || run.back().y != from.y) {
+                Draw(run);
+                run = {from};
+            }
+            run.push_back(Rounded(piece->to));
+        }
+        Draw(run);
+    }
+
+    void Draw(const std::vector<POINT>& run) {
+        if (run.size() < 2)
+            return;
+        Polyline(m_dc, run.data(), int(run.size()));
+        // The system leaves a line's last pixel out.
+        SetPixelV(m_dc, run.back().x, run.back().y, kInk);
+    }
+
+    void Text(const SText& text) {
+        const double size = text.height / kCapitalPart / m_view.UnitsPerPixel();
+        const SPoint pixel = m_view.ToPixel(text.place);
+        if (!(size <= kMostTextSize) || std::abs(pixel.x) > 2 * kMostTextSize ||
+            std::abs(pixel.y) > 2 * kMostTextSize)
+            return;
+        if (size < kLeastTextSize) {
+            const double length = double(text.text.size()) * text.height / 2;
+            Outline({text.place, PointOnCircle(text.place, length, text.angle)});
+            return;
+        }
+        const int tenths =
+            int(std::lround(std::fmod(text.angle, 2 * std::numbers::pi) * 1800 / std::numbers::pi));
+        const CGdiObject font(CreateFontW(-int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE,
+                                          FALSE, DEFAULT_CHARSET, OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS,
+                                          ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
+        const CSelection selection(m_dc, font);
+        SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
+        SetBkMode(m_dc, TRANSPARENT);
+        SetTextColor(m_dc, kInk);
+        const POINT place = Rounded(pixel);
+        TextOutW(m_dc, place.x, place.y, text.text.c_str(), int(text.text.size()));
+    }
+
+    HDC m_dc;
+    const CViewTransform& m_view;
+    RECT m_client;
+    SBox m_limits;
+    CScale m_scale;
+};
+
+}  // namespace
+
+void PaintScene(HDC dc, const RECT& client, const CDrawing& drawing, const CViewTransform& view) {
+    CScenePainter painter(dc, client, view);
+    painter.Sheet();
+    painter.Dots();
+    painter.Axes();
+    painter.Entities(drawing);
+}

@@ -1,0 +1,156 @@
+#include "StatusLine.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "Commands.h"
+#include "GdiScope.h"
+#include "LinearUnits.h"
+#include "UserError.h"
+
+namespace {
+
+enum EPart { PART_TEXT, PART_POINT, PART_UNITS, PART_PRECISION };
+
+// Pixels.
+constexpr int kPointWidth = 230;
+constexpr int kUnitsWidth = 120;
+constexpr int kPrecisionWidth = 120;
+constexpr int kTextGap = 4;
+constexpr int kArrowWidth = 8;
+constexpr int kGripWidth = 18;  // what the grip in the corner takes, and as much before the other part
+
+struct SUnits {
+    int lunits;
+    const wchar_t* name;
+};
+constexpr SUnits kUnits[] = {
+    {LU_SCIENTIFIC, L"Scientific"},       {LU_DECIMAL, L"Decimal"},       {LU_ENGINEERING, L"Engineering"},
+    {LU_ARCHITECTURAL, L"Architectural"}, {LU_FRACTIONAL, L"Fractional"},
+};
+
+std::wstring NameOf(int units) {
+    for (const SUnits& known : kUnits)
+        if (known.lunits == units)
+            return known.name;
+    return L"Decimal";  // what other values work like
+}
+
+// The smallest step that a precision shows: 0.01, or 1/4.
+std::wstring StepOf(int units, int precision) {
+    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL)
+        return precision == 0 ? L"1" : L"1/" + std::to_wstring(1 << precision);
+    return precision == 0 ? L"1" : L"0." + std::wstring(std::size_t(precision) - 1, L'0') + L'1';
+}
+
+}  // namespace
+
+CStatusLine::CStatusLine(HWND parent)
+    : m_window(CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0,
+                               parent, reinterpret_cast<HMENU>(INT_PTR(IDC_STATUS)),
+                               GetModuleHandleW(nullptr), nullptr)) {
+    if (m_window == nullptr)
+        throw CUserError(L"the main window cannot be opened");
+    SendMessageW(m_window, SB_SETMINHEIGHT, WPARAM(m_scale(22)), 0);
+    ShowFormat();
+}
+
+int CStatusLine::Height() const {
+    RECT rect;
+    GetWindowRect(m_window, &rect);
+    return rect.bottom - rect.top;
+}
+
+void CStatusLine::Layout() {
+    SendMessageW(m_window, WM_SIZE, 0, 0);
+    RECT client;
+    GetClientRect(m_window, &client);
+    const int precision = client.right - m_scale(kPrecisionWidth);
+    const int units = precision - m_scale(kUnitsWidth);
+    const int point = units - m_scale(kPointWidth);
+    const int ends[] = {std::max(point, 1), std::max(units, 2), std::max(precision, 3), -1};
+    SendMessageW(m_window, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
+    ShowPoint(m_point);
+    ShowFormat();
+}
+
+void CStatusLine::ShowText(const std::wstring& text) {
+    SendMessageW(m_window, SB_SETTEXTW, PART_TEXT, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void CStatusLine::ShowPoint(SPoint point) {
+    m_point = point;
+    SendMessageW(m_window, SB_SETTEXTW, PART_POINT, reinterpret_cast<LPARAM>(TextOf(point).c_str()));
+}
+
+std::wstring CStatusLine::TextOf(SPoint point) const {
+    return FormatLinear(point.x, m_units, m_precision).value_or(L"") + L", " +
+           FormatLinear(point.y, m_units, m_precision).value_or(L"");
+}
+
+void CStatusLine::SetFormat(int lunits, int luprec) {
+    m_units = lunits;
+    m_precision = std::clamp(luprec, 0, kMaxLinearPrecision);
+    ShowPoint(m_point);
+    ShowFormat();
+}
+
+void CStatusLine::ShowFormat() {
+    for (const EPart part : {PART_UNITS, PART_PRECISION})
+        SendMessageW(m_window, SB_SETTEXTW, WPARAM(part | SBT_OWNERDRAW), 0);
+}
+
+// A text and, at the right, the small arrow of things that open a list.
+void CStatusLine::DrawPart(const DRAWITEMSTRUCT& item) const {
+    const std::wstring text = item.itemID == PART_UNITS ? NameOf(m_units) : StepOf(m_units, m_precision);
+    const int arrow = m_scale(kArrowWidth);
+    RECT place = item.rcItem;
+    place.right -= m_scale(kGripWidth);
+    const int right = place.right;
+    const int middle = (place.top + place.bottom) / 2 - arrow / 4;
+    place.left += m_scale(kTextGap);
+    place.right -= arrow + m_scale(kTextGap);
+    SetBkMode(item.hDC, TRANSPARENT);
+    SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
+    DrawTextW(item.hDC, text.c_str(), int(text.size()), &place,
+              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    const CSelection brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
+    const CSelection pen(item.hDC, GetStockObject(NULL_PEN));
+    const POINT corners[] = {
+        {right - arrow, middle}, {right, middle}, {right - arrow / 2, middle + arrow / 2}};
+    Polygon(item.hDC, corners, int(std::size(corners)));
+}
+
+void CStatusLine::OnNotify(const NMHDR& header) const {
+    if (header.hwndFrom != m_window || header.code != UINT(NM_CLICK))
+        return;
+    const auto part = int(reinterpret_cast<const NMMOUSE&>(header).dwItemSpec);
+    if (part == PART_UNITS || part == PART_PRECISION)
+        OpenMenu(part);
+}
+
+void CStatusLine::OpenMenu(int part) const {
+    const HMENU menu = CreatePopupMenu();
+    UINT chosen = 0;
+    if (part == PART_UNITS) {
+        for (const SUnits& units : kUnits) {
+            const std::wstring example = FormatLinear(15.5, units.lunits, m_precision).value_or(L"");
+            AppendMenuW(menu, MF_STRING, UINT(IDM_UNITS + units.lunits),
+                        (units.name + (L'\t' + example)).c_str());
+        }
+        chosen = UINT(IDM_UNITS + m_units);
+    } else {
+        for (int precision = 0; precision <= kMaxLinearPrecision; ++precision)
+            AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), StepOf(m_units, precision).c_str());
+        chosen = UINT(IDM_PRECISION + m_precision);
+    }
+    CheckMenuRadioItem(menu, IDM_UNITS, IDM_PRECISION + kMaxLinearPrecision, chosen, MF_BYCOMMAND);
+    RECT place;
+    SendMessageW(m_window, SB_GETRECT, WPARAM(part), reinterpret_cast<LPARAM>(&place));
+    MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN, place.left, place.top, 0, GetParent(m_window),
+                   nullptr);
+    DestroyMenu(menu);
+}
