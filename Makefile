@@ -4,9 +4,10 @@ BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-
   nlohmann-json3-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
+FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 PRESETS = native x64 x86
 
-.PHONY: help build test run gallery bench dist packages
+.PHONY: help build test run gallery bench fuzz dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -15,6 +16,8 @@ help:
 	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make test     build and run every test"
+	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
+	@echo "              docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
@@ -27,7 +30,9 @@ build: packages
 	@for preset in $(PRESETS); do scripts/build $$preset || exit 1; done
 
 test: build
-	@printf 'subdirs("x64" "native")\n' > build/CTestTestfile.cmake
+	@scripts/install-packages $(FUZZ_PACKAGES)
+	@scripts/build fuzz
+	@printf 'subdirs("x64" "native" "fuzz")\n' > build/CTestTestfile.cmake
 	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
 
 run: packages
@@ -44,3 +49,7 @@ dist: packages
 bench: packages
 	@scripts/install-packages $(BENCH_PACKAGES)
 	@scripts/bench
+
+fuzz: packages
+	@scripts/install-packages $(FUZZ_PACKAGES)
+	@FUZZ_SECONDS=$(FUZZ_SECONDS) scripts/fuzz
