@@ -130,6 +130,9 @@ int LeadingInt(std::wstring_view text) {
 }
 
 std::wstring GeneralText(double value) {
+    if (std::isnan(value)) {
+        return L"nan";
+    }
     constexpr int kSignificantDigits = 6;
     std::array<char, 32> text{};
     const auto result = std::to_chars(text.data(), text.data() + text.size(), value,

@@ -33,7 +33,8 @@ int FloorToInt(double value);
 int LeadingInt(std::wstring_view text);
 
 // The value as printf's "%g": six significant digits, no trailing zeros, an exponent of at least two digits
-// below 1e-04 and from 1e+06 on (900, 0.08, 1.23457e+06, 1e-07). Zero keeps its sign: "-0".
+// below 1e-04 and from 1e+06 on (900, 0.08, 1.23457e+06, 1e-07). Zero keeps its sign: "-0". What is not a
+// number is "nan": the sign that it may have means nothing and differs between machines.
 std::wstring GeneralText(double value);
 
 // The value as printf's "%d".

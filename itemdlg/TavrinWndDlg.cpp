@@ -4,12 +4,10 @@
 #include <optional>
 #include <utility>
 
-#include "BlockTracker.h"
 #include "FindFile.h"
+#include "ItemContents.h"
 #include "ItemFiles.h"
-#include "NumberText.h"
-#include "TemplateRewrite.h"
-#include "TemplateText.h"
+#include "ItemMessages.h"
 #include "TextFile.h"
 #include "TextLibrary.h"
 
@@ -21,7 +19,6 @@ constexpr int gutterWidth = 210;  // pixels
 
 constexpr const wchar_t* errorCaption = L"Error!";
 constexpr const wchar_t* systemCaption = nullptr;  // the system's own default
-constexpr const wchar_t* fileNotFound = L"File not found!";
 constexpr const wchar_t* unableToOpen = L"Error - unable to open file";
 constexpr const wchar_t* unableToWrite = L"Error - unable to write file";
 
@@ -114,13 +111,6 @@ void CTavrinWndDlg::ShowPicture() {
         m_picture.LoadFromFile(picture->c_str());
 }
 
-void CTavrinWndDlg::ShowTitle(const std::wstring& line) {
-    const std::wstring title = TitleText(line, Texts());
-    CString prefix;
-    m_header.SetWindowText(LoadResString(prefix, kHeaderPrefixText) + title.c_str());
-    SetWindowText(title.c_str());
-}
-
 void CTavrinWndDlg::LoadTemplate() {
     m_params.clear();
     m_grid.ResetContents();
@@ -131,47 +121,44 @@ void CTavrinWndDlg::LoadTemplate() {
 
     const std::optional<std::wstring> path = FindFile(FileName(kWorkingFileEnding));
     if (!path) {
-        ShowError(fileNotFound, errorCaption);
+        ShowError(kFileNotFoundMessage, errorCaption);
         return;
     }
     TextLines lines;
     const bool readWhole = ReadTextFile(*path, lines);
-    CBlockTracker block;
-    for (int index = 0; index < static_cast<int>(lines.size()); ++index) {
-        const std::wstring& line = lines[static_cast<size_t>(index)];
-        if (index == kTitleLine)
-            ShowTitle(line);
-        if (!block.TakeLine(line))
-            continue;
-        if (std::optional<ParameterRow> row = ReadParameter(line, index, m_scale, m_mode, Texts()))
-            AddRow(section, *std::move(row));
+    const ItemContents item = ReadItem(lines, m_scale, m_mode, Texts());
+    if (item.title) {
+        m_header.SetWindowText(item.header.c_str());
+        SetWindowText(item.title->c_str());
     }
+    for (const ItemParameter& parameter : item.parameters)
+        AddParameter(section, parameter);
     if (!readWhole)
         ShowError(unableToOpen, systemCaption);
 }
 
-// Adds the grid's row of a parameter and keeps its record. A row that the grid refuses, because another has
-// the same label, leaves a record without row: its value is written as it was read.
-void CTavrinWndDlg::AddRow(UINT section, ParameterRow row) {
-    ParamRecord& record = row.record;
+// Keeps the record of a parameter and adds its row. A record without row keeps the value that was read.
+void CTavrinWndDlg::AddParameter(UINT section, const ItemParameter& parameter) {
+    ParamRecord& record = m_params[parameter.record.lineIndex] = parameter.record;
+    if (record.type == 'D') {
+        m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
+        record.customItem = m_distanceItems.back().get();
+    }
+    if (parameter.row == PR_SHOWN)
+        record.itemId = AddRow(section, record, parameter.editable);
+    else if (parameter.row == PR_INVALID_TYPE)
+        ShowError(kInvalidTypeMessage, L"Warning!");
+}
+
+UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editable) {
     switch (record.type) {
         case 'D':
-            m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
-            record.customItem = m_distanceItems.back().get();
-            record.itemId = m_grid.AddCustomItem(section, record.label, record.customItem, row.editable);
-            break;
+            return m_grid.AddCustomItem(section, record.label, record.customItem, editable);
         case 'I':
-            record.itemId =
-                m_grid.AddIntegerItem(section, record.label, record.intValue, L"%d", row.editable);
-            break;
-        case 'R':
-            record.itemId =
-                m_grid.AddDoubleItem(section, record.label, record.realValue, L"%g", row.editable);
-            break;
+            return m_grid.AddIntegerItem(section, record.label, record.intValue, L"%d", editable);
         default:
-            ShowError(L"Warning! Found invalid type code.", L"Warning!");
+            return m_grid.AddDoubleItem(section, record.label, record.realValue, L"%g", editable);
     }
-    m_params[record.lineIndex] = std::move(record);
 }
 
 // The text of a parameter's value as its row holds it now; what it was created with when the row gives none.
@@ -197,14 +184,14 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
 // Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,
 // which is required: the file then ends where reading failed. A want of memory is told as a failure of what
 // it ended, and the file stays as it is unless it was being written.
-void CTavrinWndDlg::RewriteFile(const wchar_t* ending, Rewriter rewrite) {
+void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {
     const wchar_t* failure = unableToOpen;
     try {
         const std::wstring name = FileName(ending);
         TextLines lines;
         const std::optional<std::wstring> source = FindFile(name);
         if (!source) {
-            ShowError(fileNotFound, errorCaption);
+            ShowError(kFileNotFoundMessage, errorCaption);
             return;
         }
         if (!ReadTextFile(*source, lines))
@@ -213,7 +200,7 @@ void CTavrinWndDlg::RewriteFile(const wchar_t* ending, Rewriter rewrite) {
         failure = unableToWrite;
         const std::optional<std::wstring> target = FindFile(name);
         if (!target) {
-            ShowError(fileNotFound, errorCaption);
+            ShowError(kFileNotFoundMessage, errorCaption);
             return;
         }
         if (!WriteTextFile(*target, lines))

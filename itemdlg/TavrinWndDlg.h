@@ -10,13 +10,14 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "DistanceItem.h"
+#include "ItemContents.h"
 #include "ParamRecord.h"
 #include "PictureCtrl.h"
 #include "PropertyGrid.h"
-#include "TemplateText.h"
 #include "resource.h"
 
 class CTavrinWndDlg : public CDialog {
@@ -77,14 +78,14 @@ private:
     using Rewriter = void (*)(std::vector<std::wstring>& lines, const ParamRecordMap& records,
                               const std::function<std::wstring(const ParamRecord&)>& valueTextOf);
 
-    std::wstring FileName(const wchar_t* ending) const { return std::wstring(m_baseName) + ending; }
+    std::wstring FileName(std::wstring_view ending) const { return std::wstring(m_baseName).append(ending); }
     BOOL Initialize();
     bool ArgumentsAreUsable();
     void ShowPicture();
-    void ShowTitle(const std::wstring& line);
-    void AddRow(UINT section, ParameterRow row);
+    void AddParameter(UINT section, const ItemParameter& parameter);
+    UINT AddRow(UINT section, const ParamRecord& record, bool editable);
     std::wstring CurrentValueText(const ParamRecord& record) const;
-    void RewriteFile(const wchar_t* ending, Rewriter rewrite);
+    void RewriteFile(std::wstring_view ending, Rewriter rewrite);
     std::function<std::wstring(unsigned)> Texts();
     void ShowError(const wchar_t* text, const wchar_t* caption);
 };

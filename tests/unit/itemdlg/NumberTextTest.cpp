@@ -209,6 +209,7 @@ TEST(GeneralText, KeepsTheSignOfZeroAndNamesWhatIsInfinite) {
     EXPECT_EQ(GeneralText(kInfinity), L"inf");
     EXPECT_EQ(GeneralText(-kInfinity), L"-inf");
     EXPECT_EQ(GeneralText(std::numeric_limits<double>::quiet_NaN()), L"nan");
+    EXPECT_EQ(GeneralText(-std::numeric_limits<double>::quiet_NaN()), L"nan");
 }
 
 TEST(GeneralText, IsWhatPrintfWrites) {

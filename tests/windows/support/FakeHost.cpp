@@ -156,6 +156,11 @@ int sds_rtos(double value, int units, int precision, wchar_t* text) {
     if (Fails("sds_rtos"))
         return RTNORM - 1;
     const int digits = precision < 0 ? fakeHost.precision : precision;
+    if (fakeHost.distanceText) {
+        const std::optional<std::wstring> formatted = fakeHost.distanceText(value, units, digits);
+        std::wcscpy(text, formatted.value_or(L"").c_str());
+        return formatted ? RTNORM : RTNORM - 1;
+    }
     std::swprintf(text, 256, L"U%d:%.*f", units, digits, value);
     return RTNORM;
 }
@@ -163,6 +168,11 @@ int sds_rtos(double value, int units, int precision, wchar_t* text) {
 int sds_distof(const wchar_t* text, int units, double* result) {
     const std::wstring prefix = L"U" + std::to_wstring(units) + L":";
     const std::wstring whole = text;
+    if (fakeHost.distanceOf) {
+        const std::optional<double> distance = fakeHost.distanceOf(whole);
+        *result = distance.value_or(0.0);
+        return distance ? RTNORM : RTNORM - 1;
+    }
     const std::wstring number = whole.rfind(prefix, 0) == 0 ? whole.substr(prefix.size()) : whole;
     wchar_t* end = nullptr;
     const double value = std::wcstod(number.c_str(), &end);

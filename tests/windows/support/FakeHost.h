@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -36,6 +37,10 @@ struct FakeHost {
     double distance = 0;
     std::function<void()> duringPick;  // called inside sds_getpoint
     std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
+
+    // A real host's formats of distances in place of "U2:900.0000"; nothing for what has no format.
+    std::function<std::optional<std::wstring>(double value, int units, int precision)> distanceText;
+    std::function<std::optional<double>(const std::wstring& text)> distanceOf;
 
     static constexpr int RtNorm = 5100;
 };

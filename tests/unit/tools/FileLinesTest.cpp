@@ -1,0 +1,38 @@
+// An item's files as lines.
+#include "FileLines.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace std::string_literals;
+
+TEST(FileLines, BothLineEndsEndALineAndAreKept) {
+    const std::vector<SFileLine> lines = SplitLines("a\nb\r\n\r\nc");
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(TextsOf(lines), (TextLines{L"a", L"b", L"", L"c"}));
+    EXPECT_EQ(lines[0].ending, "\n");
+    EXPECT_EQ(lines[1].ending, "\r\n");
+    EXPECT_EQ(lines[3].ending, "");
+}
+
+TEST(FileLines, OtherControlCharactersBelongToTheirLine) {
+    EXPECT_EQ(TextsOf(SplitLines("a\rb\0c\x1A\r\r\nd\r"s)), (TextLines{L"a\rb\0c\x1A\r"s, L"d\r"}));
+}
+
+TEST(FileLines, AFileWithoutAByteHasNoLine) {
+    EXPECT_TRUE(SplitLines("").empty());
+    EXPECT_EQ(SplitLines("\n").size(), 1U);
+}
+
+TEST(FileLines, EveryByteComesBackBehindEachLineTheModulesLineEnd) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        bytes += static_cast<char>(byte);
+    }
+    std::string expected = bytes;
+    expected.replace(expected.find('\n'), 1, "\r\n");
+    EXPECT_EQ(WrittenFile(TextsOf(SplitLines(bytes))), expected + "\r\n");
+}
+
+}  // namespace

@@ -1,0 +1,25 @@
+// An item's files as lines of text, as the module reads and writes them in the C locale, where every byte is
+// the character of the same number.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TemplateRewrite.h"
+
+struct SFileLine {
+    std::wstring text;
+    std::string ending;  // "\n", "\r\n", or nothing behind the last line
+};
+
+// The lines of a file. LF and CR LF end a line; any other CR, a NUL and a 0x1A are characters of their line.
+std::vector<SFileLine> SplitLines(std::string_view bytes);
+
+TextLines TextsOf(const std::vector<SFileLine>& lines);
+
+// The bytes of a text of characters up to 0xFF.
+std::string BytesOf(std::wstring_view text);
+
+// The file that the module writes: CR LF behind every line.
+std::string WrittenFile(const TextLines& lines);
