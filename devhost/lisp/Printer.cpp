@@ -2,8 +2,17 @@
 
 #include <charconv>
 #include <cmath>
+#include <vector>
+
+#include "Function.h"
+#include "LispError.h"
+#include "LispFile.h"
 
 namespace {
+
+constexpr std::size_t kExcerptLength = 60;
+// Lists that share their parts can be longer as text than any memory.
+constexpr std::size_t kMaxLength = 16'000'000;
 
 std::wstring RealText(double number) {
     if (std::isnan(number))
@@ -29,6 +38,9 @@ std::wstring QuotedText(const std::wstring& text) {
             case L'\n':
                 quoted += L"\\n";
                 break;
+            case L'\r':
+                quoted += L"\\r";
+                break;
             case L'\t':
                 quoted += L"\\t";
                 break;
@@ -39,31 +51,76 @@ std::wstring QuotedText(const std::wstring& text) {
     return quoted + L'"';
 }
 
-std::wstring ListText(const CValue& list) {
-    std::wstring text = L"(" + Print(list.Car());
-    const CValue* rest = &list.Cdr();
-    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr())
-        text += L' ' + Print(rest->Car());
-    if (!rest->IsNil())
-        text += L" . " + Print(*rest);
-    return text + L')';
+std::wstring AtomText(const CValue& atom, bool quoted) {
+    switch (atom.Type()) {
+        case VT_INTEGER:
+            return std::to_wstring(atom.AsInteger());
+        case VT_REAL:
+            return RealText(atom.AsReal());
+        case VT_STRING:
+            return quoted ? QuotedText(atom.AsString()) : atom.AsString();
+        case VT_SYMBOL:
+            return atom.AsSymbol();
+        case VT_FUNCTION:
+            return L"<function " + atom.AsFunction()->name + L'>';
+        case VT_FILE:
+            return L"<file " + atom.AsFile().Name() + L'>';
+        default:
+            return L"nil";
+    }
+}
+
+// Without recursion, since lists nest as deep as memory allows. May stop beyond `enough` characters.
+std::wstring Text(const CValue& value, bool quoted, std::size_t enough) {
+    std::wstring text;
+    std::vector<const CValue*> rests;  // of the lists that are open, what comes next
+    const CValue* next = &value;
+    while (next != nullptr && text.size() <= enough) {
+        if (next->Type() == VT_PAIR) {
+            text += L'(';
+            rests.push_back(&next->Cdr());
+            next = &next->Car();
+            continue;
+        }
+        text += AtomText(*next, quoted);
+        next = nullptr;
+        while (next == nullptr && !rests.empty()) {
+            const CValue*& rest = rests.back();
+            if (rest->Type() == VT_PAIR) {
+                text += L' ';
+                next = &rest->Car();
+                rest = &rest->Cdr();
+                continue;
+            }
+            if (!rest->IsNil())
+                text += L" . " + AtomText(*rest, quoted);
+            text += L')';
+            rests.pop_back();
+        }
+    }
+    return text;
+}
+
+std::wstring WholeText(const CValue& value, bool quoted) {
+    std::wstring text = Text(value, quoted, kMaxLength);
+    if (text.size() > kMaxLength)
+        throw CLispError(L"a value is too long to be printed: " + Excerpt(value));
+    return text;
 }
 
 }  // namespace
 
 std::wstring Print(const CValue& value) {
-    switch (value.Type()) {
-        case VT_INTEGER:
-            return std::to_wstring(value.AsInteger());
-        case VT_REAL:
-            return RealText(value.AsReal());
-        case VT_STRING:
-            return QuotedText(value.AsString());
-        case VT_SYMBOL:
-            return value.AsSymbol();
-        case VT_PAIR:
-            return ListText(value);
-        default:
-            return L"nil";
-    }
+    return WholeText(value, true);
+}
+
+std::wstring Display(const CValue& value) {
+    return WholeText(value, false);
+}
+
+std::wstring Excerpt(const CValue& value) {
+    std::wstring text = Text(value, true, kExcerptLength);
+    if (text.size() > kExcerptLength)
+        text = text.substr(0, kExcerptLength) + L"...";
+    return text;
 }

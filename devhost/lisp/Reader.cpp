@@ -74,12 +74,28 @@ wchar_t CReader::Take() {
 }
 
 void CReader::SkipBlanks() {
-    while (!AtEnd() && (IsBlank(Peek()) || Peek() == L';')) {
-        if (Take() != L';')
-            continue;
+    while (!AtEnd()) {
+        if (Peek() == L';')
+            SkipComment();
+        else if (IsBlank(Peek()))
+            Take();
+        else
+            return;
+    }
+}
+
+void CReader::SkipComment() {
+    const SPosition start = m_position;
+    if (m_text.substr(m_next, 2) != L";|") {
         while (!AtEnd() && Peek() != L'\n')
             Take();
+        return;
     }
+    const std::size_t end = m_text.find(L"|;", m_next + 2);
+    if (end == std::wstring_view::npos)
+        Fail(start, L"a comment is not closed");
+    while (m_next != end + 2)
+        Take();
 }
 
 // At the first character of an expression.
@@ -102,7 +118,7 @@ CValue CReader::ReadExpression(int depth) {
             if (AtEnd() || Peek() == L')')
                 Fail(start, L"nothing follows the quote");
             const CValue quoted[] = {CValue::Symbol(L"QUOTE"), ReadExpression(depth + 1)};
-            return CValue::List(quoted);
+            return CValue::List(quoted, {}, start.line);
         }
         default:
             return ReadWord(start);
@@ -117,7 +133,7 @@ CValue CReader::ReadList(SPosition start, int depth) {
             Fail(start, L"a parenthesis is not closed");
         if (Peek() == L')') {
             Take();
-            return CValue::List(elements);
+            return CValue::List(elements, {}, start.line);
         }
         const SPosition position = m_position;
         const bool dot = Peek() == L'.' && (m_next + 1 == m_text.size() || EndsWord(m_text[m_next + 1]));
@@ -129,7 +145,7 @@ CValue CReader::ReadList(SPosition start, int depth) {
         if (elements.empty())
             Fail(position, L"nothing stands in front of the dot");
         CValue tail = ReadTail(position, depth);
-        return CValue::List(elements, std::move(tail));
+        return CValue::List(elements, std::move(tail), start.line);
     }
 }
 
@@ -161,6 +177,8 @@ CValue CReader::ReadString(SPosition start) {
             c = Take();
             if (c == L'n')
                 c = L'\n';
+            else if (c == L'r')
+                c = L'\r';
             else if (c == L't')
                 c = L'\t';
             else if (c != L'"' && c != L'\\')
@@ -200,8 +218,7 @@ CValue CReader::ReadWord(SPosition start) {
 }
 
 void CReader::Fail(SPosition position, const std::wstring& what) {
-    throw CLispError(L"line " + std::to_wstring(position.line) + L", column " +
-                     std::to_wstring(position.column) + L": " + what);
+    throw CReadError(position.line, position.column, what);
 }
 
 bool IsSymbolName(std::wstring_view name) {

@@ -1,8 +1,8 @@
 // Reads LISP text into values, one expression at a time.
 //
 // Lists in parentheses, 'x for (quote x), dotted pairs (a . b), texts in double quotes with the escapes
-// \" \\ \n \t, whole numbers, reals (1.0, .5, 1e3), symbols; blanks separate, and a semicolon begins a
-// comment that ends with the line.
+// \" \\ \n \r \t, whole numbers, reals (1.0, .5, 1e3), symbols; blanks separate. A semicolon begins a comment
+// that ends with the line; one between ;| and |; may span lines.
 #pragma once
 
 #include <optional>
@@ -16,10 +16,10 @@ public:
     // The text must outlive the reader.
     explicit CReader(std::wstring_view text) : m_text(text) {}
 
-    // The next expression; nothing when only blanks and comments are left. Throws CLispError, whose text
-    // begins with the line and column of the mistake, counted from 1: a parenthesis or quote that is not
-    // closed or not opened, an unknown escape, a misplaced dot, a whole number beyond 32 bits, a real
-    // that a double cannot hold, expressions nested more than a thousand deep.
+    // The next expression, whose lists know their lines; nothing when only blanks and comments are left.
+    // Throws CReadError for a parenthesis, quote or comment that is not closed or not opened, an unknown
+    // escape, a misplaced dot, a whole number beyond 32 bits, a real that a double cannot hold, expressions
+    // nested more than a thousand deep.
     std::optional<CValue> Read();
 
 private:
@@ -32,6 +32,7 @@ private:
     wchar_t Peek() const { return m_text[m_next]; }
     wchar_t Take();
     void SkipBlanks();
+    void SkipComment();
     CValue ReadExpression(int depth);
     CValue ReadList(SPosition start, int depth);
     CValue ReadTail(SPosition dot, int depth);

@@ -1,43 +1,74 @@
 #include "Value.h"
 
-#include <algorithm>
-#include <vector>
+#include "Function.h"
 
 class CPair {
 public:
-    CPair(CValue car, CValue cdr) : m_car(std::move(car)), m_cdr(std::move(cdr)) {}
+    CPair(CValue car, CValue cdr, int line) : m_car(std::move(car)), m_cdr(std::move(cdr)), m_line(line) {}
     ~CPair();
     CPair(const CPair&) = delete;
     CPair& operator=(const CPair&) = delete;
 
     const CValue& Car() const { return m_car; }
     const CValue& Cdr() const { return m_cdr; }
+    int Line() const { return m_line; }
 
 private:
-    void MovePairsTo(std::vector<CValue::CPairPtr>& pairs);
+    friend class CValue;
 
     CValue m_car;
     CValue m_cdr;
+    int m_line;
 };
 
-// Pairs that nothing else holds are let go in a loop: the members' own destructors would recurse once per
-// element of a list and run out of stack on a long one.
 CPair::~CPair() {
-    std::vector<CValue::CPairPtr> pending;
-    MovePairsTo(pending);
-    while (!pending.empty()) {
-        const CValue::CPairPtr pair = std::move(pending.back());
-        pending.pop_back();
-        if (pair.use_count() == 1)
-            pair->MovePairsTo(pending);
+    std::vector<CValue> parts;
+    for (CValue* part : {&m_car, &m_cdr})
+        if (part->Type() == VT_PAIR || part->Type() == VT_FUNCTION)
+            parts.push_back(std::move(*part));
+    CValue::LetGo(parts);
+}
+
+SFunction::~SFunction() {
+    if (auto* definition = std::get_if<SDefinition>(&code)) {
+        std::vector<CValue> parts;
+        parts.push_back(std::move(definition->body));
+        CValue::LetGo(parts);
     }
 }
 
-void CPair::MovePairsTo(std::vector<CValue::CPairPtr>& pairs) {
-    for (CValue* value : {&m_car, &m_cdr})
-        if (value->Type() == VT_PAIR)
-            pairs.push_back(std::move(std::get<VT_PAIR>(value->m_data)));
+// Parts that nothing else holds are let go in a loop: the members' own destructors would recurse once per
+// element of a list and run out of stack on a long one.
+void CValue::LetGo(std::vector<CValue>& parts) {
+    while (!parts.empty()) {
+        CValue part = std::move(parts.back());
+        parts.pop_back();
+        part.MovePartsTo(parts);
+    }
 }
+
+void CValue::MovePartsTo(std::vector<CValue>& parts) {
+    if (Type() == VT_PAIR) {
+        const auto& pair = std::get<VT_PAIR>(m_data);
+        if (pair.use_count() == 1) {
+            parts.push_back(std::move(pair->m_car));
+            parts.push_back(std::move(pair->m_cdr));
+        }
+    } else if (Type() == VT_FUNCTION) {
+        const auto& function = std::get<VT_FUNCTION>(m_data);
+        auto* definition = std::get_if<SDefinition>(&function->code);
+        if (definition != nullptr && function.use_count() == 1)
+            parts.push_back(std::move(definition->body));
+    }
+}
+
+// Out of line, since they are long and stand everywhere.
+CValue::CValue() noexcept = default;
+CValue::CValue(const CValue& other) = default;
+CValue::CValue(CValue&& other) noexcept = default;
+CValue& CValue::operator=(const CValue& other) = default;
+CValue& CValue::operator=(CValue&& other) noexcept = default;
+CValue::~CValue() = default;
 
 CValue CValue::Integer(std::int32_t number) {
     CValue value;
@@ -65,20 +96,37 @@ CValue CValue::Symbol(std::wstring_view name) {
     return value;
 }
 
-CValue CValue::Pair(CValue car, CValue cdr) {
+CValue CValue::Pair(CValue car, CValue cdr, int line) {
     CValue value;
-    value.m_data = std::make_shared<CPair>(std::move(car), std::move(cdr));
+    value.m_data = std::make_shared<CPair>(std::move(car), std::move(cdr), line);
     return value;
 }
 
-CValue CValue::List(std::span<const CValue> elements, CValue tail) {
+CValue CValue::List(std::span<const CValue> elements, CValue tail, int line) {
     for (std::size_t i = elements.size(); i-- > 0;)
-        tail = Pair(elements[i], std::move(tail));
+        tail = Pair(elements[i], std::move(tail), i == 0 ? line : 0);
     return tail;
 }
 
+CValue CValue::Function(std::shared_ptr<SFunction> function) {
+    CValue value;
+    value.m_data = std::move(function);
+    return value;
+}
+
+CValue CValue::File(std::shared_ptr<CLispFile> file) {
+    CValue value;
+    value.m_data = std::move(file);
+    return value;
+}
+
 CValue CValue::True() {
-    return Symbol(L"T");
+    static const CValue truth = Symbol(L"T");
+    return truth;
+}
+
+CValue CValue::Truth(bool holds) {
+    return holds ? True() : CValue();
 }
 
 bool CValue::IsSymbol(std::wstring_view upperCaseName) const {
@@ -91,6 +139,33 @@ const CValue& CValue::Car() const {
 
 const CValue& CValue::Cdr() const {
     return std::get<VT_PAIR>(m_data)->Cdr();
+}
+
+int CValue::Line() const {
+    return std::get<VT_PAIR>(m_data)->Line();
+}
+
+bool CValue::IsSameAs(const CValue& other) const {
+    if (Type() != other.Type())
+        return false;
+    switch (Type()) {
+        case VT_INTEGER:
+            return AsInteger() == other.AsInteger();
+        case VT_REAL:
+            return AsReal() == other.AsReal();
+        case VT_STRING:
+            return &AsString() == &other.AsString();
+        case VT_SYMBOL:
+            return AsSymbol() == other.AsSymbol();
+        case VT_PAIR:
+            return std::get<VT_PAIR>(m_data) == std::get<VT_PAIR>(other.m_data);
+        case VT_FUNCTION:
+            return std::get<VT_FUNCTION>(m_data) == std::get<VT_FUNCTION>(other.m_data);
+        case VT_FILE:
+            return std::get<VT_FILE>(m_data) == std::get<VT_FILE>(other.m_data);
+        default:
+            return true;
+    }
 }
 
 std::wstring UpperCase(std::wstring_view name) {

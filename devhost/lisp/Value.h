@@ -1,29 +1,44 @@
-// A LISP value: nil, a 32-bit whole number, a real, a text, a symbol or a pair (lists are chains of pairs
-// that end in nil). Values are immutable and cheap to copy; they share texts and pairs, never in cycles.
+// A LISP value: nil, a 32-bit whole number, a real, a text, a symbol, a pair (lists are chains of pairs that
+// end in nil), a function or an open file. Values are cheap to copy; they share what they consist of, never
+// in cycles, and all but files are immutable.
 #pragma once
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
-enum EValueType { VT_NIL, VT_INTEGER, VT_REAL, VT_STRING, VT_SYMBOL, VT_PAIR };
+enum EValueType { VT_NIL, VT_INTEGER, VT_REAL, VT_STRING, VT_SYMBOL, VT_PAIR, VT_FUNCTION, VT_FILE };
 
 class CPair;
+class CLispFile;
+struct SFunction;
 
 class CValue {
 public:
-    CValue() = default;  // nil
+    CValue() noexcept;  // nil
+    CValue(const CValue& other);
+    CValue(CValue&& other) noexcept;
+    CValue& operator=(const CValue& other);
+    CValue& operator=(CValue&& other) noexcept;
+    ~CValue();
     static CValue Integer(std::int32_t number);
     static CValue Real(double number);
     static CValue String(std::wstring text);
     // Symbols do not distinguish case and carry their name in capitals; "nil" gives nil.
     static CValue Symbol(std::wstring_view name);
-    static CValue Pair(CValue car, CValue cdr);
-    static CValue List(std::span<const CValue> elements, CValue tail = {});
+    // `line` is where the pair's list begins in a source; 0 for a pair that was not read.
+    static CValue Pair(CValue car, CValue cdr, int line = 0);
+    static CValue List(std::span<const CValue> elements, CValue tail = {}, int line = 0);
+    static CValue Function(std::shared_ptr<SFunction> function);
+    static CValue File(std::shared_ptr<CLispFile> file);
     static CValue True();
+    // T or nil.
+    static CValue Truth(bool holds);
 
     EValueType Type() const { return EValueType(m_data.index()); }
     bool IsNil() const { return Type() == VT_NIL; }
@@ -36,9 +51,17 @@ public:
     const std::wstring& AsSymbol() const { return *std::get<VT_SYMBOL>(m_data).name; }
     const CValue& Car() const;
     const CValue& Cdr() const;
+    int Line() const;
+    std::shared_ptr<const SFunction> AsFunction() const { return std::get<VT_FUNCTION>(m_data); }
+    CLispFile& AsFile() const { return *std::get<VT_FILE>(m_data); }
+
+    // The same thing, not only one that looks alike: equal numbers, one symbol, the same text, pair,
+    // function or file.
+    bool IsSameAs(const CValue& other) const;
 
 private:
     friend class CPair;
+    friend struct SFunction;
 
     struct SString {
         std::shared_ptr<const std::wstring> text;
@@ -46,11 +69,18 @@ private:
     struct SSymbol {
         std::shared_ptr<const std::wstring> name;
     };
-    using CPairPtr = std::shared_ptr<CPair>;
+
+    void MovePartsTo(std::vector<CValue>& parts);
+    static void LetGo(std::vector<CValue>& parts);
 
     // In the order of EValueType.
-    std::variant<std::monostate, std::int32_t, double, SString, SSymbol, CPairPtr> m_data;
+    std::variant<std::monostate, std::int32_t, double, SString, SSymbol, std::shared_ptr<CPair>,
+                 std::shared_ptr<SFunction>, std::shared_ptr<CLispFile>>
+        m_data;
 };
+
+// What an evaluation gave; nothing when a function set no result.
+using CLispResult = std::optional<CValue>;
 
 // The name in capitals: ASCII letters alone, so that no locale decides which names are the same.
 std::wstring UpperCase(std::wstring_view name);

@@ -1,45 +1,22 @@
 // Evaluation of calls with the functions of a table.
-#include "Evaluator.h"
-
-#include <gtest/gtest.h>
-
 #include <string>
 
-#include "Printer.h"
-#include "Reader.h"
+#include "LispFixture.h"
 
 namespace {
 
-class Evaluator : public testing::Test {
+class Evaluator : public CLispTest {
 protected:
     Evaluator() {
-        m_evaluator.Define(L"list", [](std::span<const CValue> arguments) -> CLispResult {
-            return CValue::List(arguments);
-        });
         m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> CLispResult { return {}; });
         m_evaluator.Define(L"fail",
                            [](std::span<const CValue>) -> CLispResult { throw CLispError(L"as asked"); });
     }
 
-    // The result of the expression, printed.
-    std::wstring Evaluate(std::wstring_view text) {
-        const CLispResult result = m_evaluator.Evaluate(CReader(text).Read().value());
-        return result ? Print(*result) : L"; no result";
-    }
-
-    std::wstring Mistake(std::wstring_view text) {
-        try {
-            return L"gave " + Evaluate(text);
-        } catch (const CLispError& error) {
-            return error.Text();
-        }
-    }
-
     static std::wstring Unknown(const std::wstring& name) {
-        return L"the function " + name + L" is not known: check its name and whether the plug-in defines it";
+        return L"line 1: the function " + name +
+               L" is not known: check its name and whether the plug-in defines it";
     }
-
-    CEvaluator m_evaluator;
 };
 
 TEST_F(Evaluator, ConstantsAreTheirOwnValue) {
@@ -51,7 +28,7 @@ TEST_F(Evaluator, QuoteLeavesItsArgumentAsItIs) {
     EXPECT_EQ(Evaluate(L"'(1 . a)"), L"(1 . A)");
     EXPECT_EQ(Evaluate(L"(quote (unknown 1))"), L"(UNKNOWN 1)");
     for (const wchar_t* text : {L"(quote)", L"(quote 1 2)", L"(quote . 1)"})
-        EXPECT_EQ(Mistake(text), L"QUOTE takes one argument");
+        EXPECT_EQ(Mistake(text), L"line 1: QUOTE takes one argument");
 }
 
 TEST_F(Evaluator, ACallGetsItsArgumentsEvaluated) {
@@ -61,19 +38,17 @@ TEST_F(Evaluator, ACallGetsItsArgumentsEvaluated) {
 
 TEST_F(Evaluator, AFunctionMayGiveNoResult) {
     EXPECT_EQ(Evaluate(L"(nothing 1)"), L"; no result");
-    EXPECT_EQ(Mistake(L"(list (nothing))"), L"(NOTHING), an argument of LIST, has no result");
+    EXPECT_EQ(Mistake(L"(list (nothing))"), L"line 1: (NOTHING), an argument of LIST, has no result");
 }
 
 TEST_F(Evaluator, MistakesNameWhatTheyAreAbout) {
     EXPECT_EQ(Mistake(L"(unknown 1)"), Unknown(L"UNKNOWN"));
     EXPECT_EQ(Mistake(L"(list (unknown))"), Unknown(L"UNKNOWN"));
-    EXPECT_EQ(Mistake(L"door"), L"the symbol DOOR has no value");
-    EXPECT_EQ(Mistake(L"(list door)"), L"the symbol DOOR has no value");
-    EXPECT_EQ(Mistake(L"(5 1)"), L"5 is not the name of a function");
-    EXPECT_EQ(Mistake(L"((list) 1)"), L"(LIST) is not the name of a function");
-    EXPECT_EQ(Mistake(L"(nil)"), L"nil is not the name of a function");
-    EXPECT_EQ(Mistake(L"(list 1 . 2)"), L"the call of LIST ends in a dot and 2");
-    EXPECT_EQ(Mistake(L"(fail)"), L"as asked");
+    EXPECT_EQ(Mistake(L"(5 1)"), L"line 1: 5 is not the name of a function");
+    EXPECT_EQ(Mistake(L"((list) 1)"), L"line 1: (LIST) is not the name of a function");
+    EXPECT_EQ(Mistake(L"(nil)"), L"line 1: nil is not the name of a function");
+    EXPECT_EQ(Mistake(L"(list 1 . 2)"), L"line 1: the call of LIST ends in a dot and 2");
+    EXPECT_EQ(Mistake(L"(fail)"), L"line 1: as asked");
 }
 
 TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {

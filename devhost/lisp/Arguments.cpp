@@ -1,0 +1,83 @@
+#include "Arguments.h"
+
+#include "Evaluator.h"
+#include "Printer.h"
+
+std::int32_t CArguments::Integer(std::size_t index) const {
+    if (m_values[index].Type() != VT_INTEGER)
+        Refuse(index, L"a whole number");
+    return m_values[index].AsInteger();
+}
+
+double CArguments::Number(std::size_t index) const {
+    if (!IsNumber(m_values[index]))
+        Refuse(index, L"a number");
+    return ToReal(m_values[index]);
+}
+
+const std::wstring& CArguments::Text(std::size_t index) const {
+    if (m_values[index].Type() != VT_STRING)
+        Refuse(index, L"a text");
+    return m_values[index].AsString();
+}
+
+const std::wstring& CArguments::Symbol(std::size_t index) const {
+    if (m_values[index].Type() != VT_SYMBOL)
+        Refuse(index, L"a symbol");
+    return m_values[index].AsSymbol();
+}
+
+std::vector<CValue> CArguments::List(std::size_t index) const {
+    std::vector<CValue> elements;
+    const CValue* rest = &m_values[index];
+    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr())
+        elements.push_back(rest->Car());
+    if (!rest->IsNil())
+        Refuse(index, L"a list");
+    m_evaluator.Step(elements.size());
+    return elements;
+}
+
+SLispPoint CArguments::Point(std::size_t index) const {
+    const auto point = ToPoint(m_values[index]);
+    if (!point)
+        Refuse(index, L"a point, a list of two or three numbers,");
+    return *point;
+}
+
+CLispFile& CArguments::File(std::size_t index) const {
+    if (m_values[index].Type() != VT_FILE)
+        Refuse(index, L"an open file");
+    return m_values[index].AsFile();
+}
+
+void CArguments::Refuse(std::size_t index, const wchar_t* needed) const {
+    throw CLispError(Function() + L" needs " + needed + L" as argument " + std::to_wstring(index + 1) +
+                     L", not " + Excerpt(m_values[index]));
+}
+
+void CArguments::Fail(const std::wstring& what) const {
+    throw CLispError(Function() + L": " + what);
+}
+
+bool IsNumber(const CValue& value) {
+    return value.Type() == VT_INTEGER || value.Type() == VT_REAL;
+}
+
+double ToReal(const CValue& number) {
+    return number.Type() == VT_INTEGER ? number.AsInteger() : number.AsReal();
+}
+
+std::optional<SLispPoint> ToPoint(const CValue& list) {
+    double coordinates[3] = {};
+    std::size_t count = 0;
+    const CValue* rest = &list;
+    for (; rest->Type() == VT_PAIR && count < 3; rest = &rest->Cdr()) {
+        if (!IsNumber(rest->Car()))
+            return std::nullopt;
+        coordinates[count++] = ToReal(rest->Car());
+    }
+    if (!rest->IsNil() || count < 2)
+        return std::nullopt;
+    return SLispPoint{coordinates[0], coordinates[1], coordinates[2]};
+}
