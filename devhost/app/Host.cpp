@@ -6,6 +6,7 @@
 
 #include "CrashReport.h"
 #include "LinearUnits.h"
+#include "LispConsole.h"
 
 namespace {
 
@@ -13,20 +14,15 @@ CHost* theHost = nullptr;
 
 constexpr std::size_t kTextRoom = 256;  // characters that sds_rtos may write
 
-// The prompts of CAD programs begin with a line break that a status line has no use for.
-std::wstring StatusText(const wchar_t* prompt) {
-    std::wstring text = prompt != nullptr ? prompt : L"";
-    text.erase(0, text.find_first_not_of(L"\r\n"));
-    return text;
-}
-
 }  // namespace
 
-CHost::CHost(CMainWindow& window, CTextOutput& output, CSearchPath searchPath, SLinearFormat format)
+CHost::CHost(CMainWindow& window, CTextOutput& output, const CSearchPath& searchPath,
+             const CSystemVariables& variables, CEvaluator& evaluator)
     : m_window(window),
       m_output(output),
-      m_searchPath(std::move(searchPath)),
-      m_format(format),
+      m_searchPath(searchPath),
+      m_variables(variables),
+      m_evaluator(evaluator),
       m_thread(GetCurrentThreadId()) {
     theHost = this;
 }
@@ -69,19 +65,15 @@ std::wstring CHost::ForgetFunctions() {
     return names;
 }
 
-CLispResult CHost::Evaluate(const CValue& expression) {
-    return m_evaluator.Evaluate(expression);
-}
-
 CLispResult CHost::Invoke(const std::wstring& name, short code, std::span<const CValue> arguments) {
     if (m_request != nullptr)
         throw CLispError(name + L" cannot be called while another call is running");
+    if (!m_codes.contains(name))
+        throw CLispError(name + L" belongs to a plug-in that is not loaded any more");
     SRequest request(SDS_INVOKE, code);
     for (const CValue& argument : arguments)
         AddArgument(request.arguments, argument, name);
-    m_window.SetBusy(true);
     const int answer = Run(*m_entry, request);
-    m_window.SetBusy(false);
     if (request.failure)
         throw CReportedError(*request.failure);
     if (answer != 0)
@@ -142,10 +134,7 @@ int CHost::Fail(const wchar_t* message) {
 }
 
 int CHost::Alert(const wchar_t* message) {
-    const std::wstring text = message != nullptr ? message : L"";
-    m_output.Line(L"; alert: " + text);
-    // Over the dialog that is open, if one is: a box over the window behind it would leave it usable.
-    MessageBoxW(GetLastActivePopup(m_window.Handle()), text.c_str(), L"DevHost", MB_OK | MB_ICONINFORMATION);
+    ShowAlert(m_window, m_output, message != nullptr ? message : L"");
     return RTNORM;
 }
 
@@ -162,12 +151,12 @@ int CHost::FindFile(const wchar_t* name, wchar_t* result, std::size_t capacity) 
 int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
     if (name == nullptr || result == nullptr)
         return kStatusError;
-    const std::wstring upperCase = UpperCase(name);
-    if (upperCase != L"LUNITS" && upperCase != L"LUPREC")
+    const CValue value = m_variables.Get(UpperCase(name));
+    if (value.IsNil())
         return kStatusError;
     result->next = nullptr;
     result->type = RTSHORT;
-    result->value.integer = upperCase == L"LUNITS" ? m_format.lunits : m_format.luprec;
+    result->value.integer = short(value.AsInteger());
     return RTNORM;
 }
 
@@ -176,7 +165,8 @@ int CHost::ToText(double value, int units, int precision, wchar_t* text) const {
         return kStatusError;
     // Also on failure, since a caller may show the buffer without a look at the status.
     text[0] = L'\0';
-    const auto formatted = FormatLinear(value, units, precision < 0 ? m_format.luprec : precision);
+    const auto formatted =
+        FormatLinear(value, units, precision < 0 ? m_variables.Linear().luprec : precision);
     if (!formatted || formatted->size() >= kTextRoom)
         return kStatusError;
     std::wmemcpy(text, formatted->c_str(), formatted->size() + 1);
@@ -197,7 +187,7 @@ int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picke
         return kStatusError;
     if (base && !(std::isfinite(base->x) && std::isfinite(base->y)))
         return kStatusError;
-    const auto point = m_window.PickPoint(StatusText(prompt), base);
+    const auto point = m_window.PickPoint(StatusText(prompt != nullptr ? prompt : L""), base);
     if (!point)
         return kStatusCancelled;
     picked = *point;

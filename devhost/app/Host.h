@@ -1,5 +1,6 @@
 // The host as a plug-in sees it: the LISP functions that plug-ins define, the request that is running, the
-// system variables, the search path and the drawing. HostInterface.cpp exports its operations as sds_...
+// system variables, the search path and the points that the user shows. HostInterface.cpp exports its
+// operations as sds_...
 //
 // Everything happens on the thread that made the host. One exists at a time.
 #pragma once
@@ -16,6 +17,7 @@
 #include "MainWindow.h"
 #include "ResbufList.h"
 #include "SearchPath.h"
+#include "SystemVariables.h"
 #include "TextOutput.h"
 
 // The statuses besides RTNORM.
@@ -25,12 +27,6 @@ inline constexpr int kStatusCancelled = -5002;  // the user pressed Escape or th
 // The entry point of a plug-in.
 using CEntryPoint = int(unsigned request, void* packet);
 
-// The values of LUNITS and LUPREC.
-struct SLinearFormat {
-    short lunits;
-    short luprec;
-};
-
 // An evaluation that ended because the plug-in said so with sds_fail, which has shown its text already.
 class CReportedError : public CLispError {
 public:
@@ -39,7 +35,9 @@ public:
 
 class CHost {
 public:
-    CHost(CMainWindow& window, CTextOutput& output, CSearchPath searchPath, SLinearFormat format);
+    // All must outlive the host.
+    CHost(CMainWindow& window, CTextOutput& output, const CSearchPath& searchPath,
+          const CSystemVariables& variables, CEvaluator& evaluator);
     ~CHost();
     CHost(const CHost&) = delete;
     CHost& operator=(const CHost&) = delete;
@@ -54,9 +52,6 @@ public:
     void SetEntryPoint(CEntryPoint* entry) { m_entry = entry; }
     // Forgets the functions that are still defined; their names, separated by blanks.
     std::wstring ForgetFunctions();
-
-    // Throws CLispError.
-    CLispResult Evaluate(const CValue& expression);
 
     // The host interface; sds.h says what each does. Pointers may be null.
     bool Define(const wchar_t* name, short code);
@@ -95,10 +90,10 @@ private:
 
     CMainWindow& m_window;
     CTextOutput& m_output;
-    CSearchPath m_searchPath;
-    SLinearFormat m_format;
+    const CSearchPath& m_searchPath;
+    const CSystemVariables& m_variables;
+    CEvaluator& m_evaluator;
     DWORD m_thread;
-    CEvaluator m_evaluator;
     std::map<std::wstring, short> m_codes;  // of the plug-in's functions, by name
     CEntryPoint* m_entry = nullptr;
     SRequest* m_request = nullptr;

@@ -2,78 +2,63 @@
 // the plug-in leaves behind.
 #include <windows.h>
 
+#include <filesystem>
+#include <fstream>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "Arguments.h"
 #include "CrashReport.h"
+#include "DrawFunctions.h"
 #include "ExitStatus.h"
 #include "HeapLibrary.h"
 #include "Host.h"
+#include "Items.h"
+#include "LispConsole.h"
 #include "Options.h"
 #include "PlugIn.h"
-#include "Printer.h"
-#include "Reader.h"
+#include "Session.h"
+#include "SvgWriter.h"
 
 namespace {
 
-std::vector<CValue> ReadAll(const std::wstring& text) {
-    std::vector<CValue> expressions;
-    CReader reader(text);
-    while (const auto expression = reader.Read())
-        expressions.push_back(*expression);
-    if (expressions.empty())
-        throw CLispError(L"there is nothing to evaluate");
-    return expressions;
+// Of the stack that the linker reserves (see CMakeLists.txt), what LISP may use.
+constexpr std::size_t kLispStack = 24 * 1024 * 1024;
+
+std::wstring ProgramFolder() {
+    std::wstring path(32'768, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), DWORD(path.size())));
+    return path.substr(0, path.find_last_of(L'\\'));
 }
 
-// The expressions of all --eval options, read before anything is loaded.
-std::vector<CValue> ReadEvaluations(const SOptions& options) {
-    std::vector<CValue> expressions;
-    for (const std::wstring& text : options.evaluations) {
-        try {
-            for (const CValue& expression : ReadAll(text))
-                expressions.push_back(expression);
-        } catch (const CLispError& error) {
-            throw CUserError(L"--eval '" + text + L"': " + error.Text());
+// The items of all folders, which are put on the search path: first each item's, then what they share.
+std::vector<SItem> TakeItems(std::vector<std::wstring> folders, CSearchPath& searchPath) {
+    if (folders.empty() && IsFolder(ProgramFolder() + L"\\samples"))
+        folders.push_back(ProgramFolder() + L"\\samples");
+    std::vector<SItem> items;
+    for (const std::wstring& folder : folders) {
+        for (const SItem& item : FindItems(folder)) {
+            items.push_back(item);
+            searchPath.Add(item.folder);
         }
+        searchPath.Add(FullPath(folder));
     }
-    return expressions;
+    return items;
 }
 
-void EvaluateAndPrint(CHost& host, CTextOutput& output, const CValue& expression) {
-    const CLispResult result = host.Evaluate(expression);
-    output.Line(result ? Print(*result) : L"; no result");
+void WriteDrawing(const CDrawing& drawing, const std::wstring& file) {
+    std::ofstream stream(std::filesystem::path(file), std::ios::binary);
+    stream << ToSvg(drawing);
+    stream.close();
+    if (!stream)
+        throw CUserError(L"the drawing cannot be written to '" + file +
+                         L"': give --drawing a file in an existing folder");
 }
 
-// Evaluates in order up to the first failure. True when there was none.
-bool EvaluateAll(CHost& host, CTextOutput& output, const std::vector<CValue>& expressions) {
-    try {
-        for (const CValue& expression : expressions)
-            EvaluateAndPrint(host, output, expression);
-        return true;
-    } catch (const CReportedError&) {
-        return false;
-    } catch (const CLispError& error) {
-        output.Error(error.Text());
-        return false;
-    }
-}
-
-// Takes LISP from the prompt until the window is closed.
-void Converse(CHost& host, CTextOutput& output, CMainWindow& window) {
-    window.SetCommandHandler([&](const std::wstring& text) {
-        output.Line(text);
-        try {
-            EvaluateAll(host, output, ReadAll(text));
-        } catch (const CLispError& error) {
-            output.Error(error.Text());
-        }
-    });
-    window.Run();
-}
-
-// True when the plug-in went away in good order and holds no block of the host's heap.
-bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output) {
+// True when the plug-in went away in good order and holds no block of the host's heap. A run of scripts
+// prints nothing of its own as long as that is so.
+bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool quiet) {
     bool inOrder = true;
     try {
         plugIn.Unload();
@@ -85,39 +70,102 @@ bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output) {
     std::wstring report = L"; heap: " + std::to_wstring(blocks) + L" blocks held";
     if (blocks != 0)
         report += L", " + std::to_wstring(heap.LiveBytes()) + L" bytes";
-    output.Line(report);
+    if (blocks != 0 || !quiet)
+        output.Line(report);
     heap.PrintLive();
     return inOrder && blocks == 0;
 }
 
-std::wstring ProgramFolder() {
-    std::wstring path(32'768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), DWORD(path.size())));
-    return path.substr(0, path.find_last_of(L'\\'));
+// Repeats the output in the window for as long as it lives.
+class CListening {
+public:
+    CListening(CTextOutput& output, CMainWindow& window) : m_output(output) {
+        output.SetListener([&window](std::wstring_view text) { window.AddText(text); });
+    }
+    ~CListening() { m_output.SetListener(nullptr); }
+    CListening(const CListening&) = delete;
+    CListening& operator=(const CListening&) = delete;
+
+private:
+    CTextOutput& m_output;
+};
+
+void DefineFit(CEvaluator& evaluator, CMainWindow& window) {
+    const auto fit = [&window](const CArguments&) -> CLispResult {
+        window.FitDrawing();
+        return CValue::True();
+    };
+    evaluator.Define(L"DRAW-FIT", TakeArguments(evaluator, L"DRAW-FIT", 0, 0, fit));
 }
 
-bool Run(const SOptions& options, CTextOutput& output) {
-    const std::vector<CValue> expressions = ReadEvaluations(options);
-    const CSearchPath searchPath(options.searchFolders);
+// Whichever of the two the user or a routine changes, the other follows.
+void ShareFormat(CSystemVariables& variables, CMainWindow& window) {
+    const SLinearFormat format = variables.Linear();
+    window.SetFormat(format.lunits, format.luprec);
+    variables.SetListener([&](SLinearFormat changed) { window.SetFormat(changed.lunits, changed.luprec); });
+    window.SetFormatHandler([&](int lunits, int luprec) {
+        variables.SetLinear({short(lunits), short(luprec)});
+    });
+}
+
+void OfferItems(const std::vector<SItem>& items, CSession& session, CMainWindow& window) {
+    std::vector<std::wstring> names;
+    for (const SItem& item : items)
+        names.push_back(item.name);
+    window.SetItems(names, [&session, names](std::size_t index) { session.RunItem(names[index]); });
+}
+
+void Reload(CPlugIn& plugIn, CTextOutput& output) {
+    try {
+        plugIn.Reload();
+        output.Line(L"; the plug-in has been loaded again");
+    } catch (const CUserError& error) {
+        output.Error(error.Text());
+    }
+}
+
+bool IsScriptsAlone(const std::vector<SPreparedTask>& tasks) {
+    for (const SPreparedTask& task : tasks)
+        if (!task.isScript)
+            return false;
+    return !tasks.empty();
+}
+
+int Run(const SOptions& options, CTextOutput& output) {
+    std::vector<SPreparedTask> tasks;
+    for (const STask& task : options.tasks)
+        tasks.push_back(Prepare(task));
+    CSearchPath searchPath(options.searchFolders);
+    const std::vector<SItem> items = TakeItems(options.itemFolders, searchPath);
     const std::wstring folder = ProgramFolder();
-    const SLinearFormat format = {options.lunits, options.luprec};
 
     const CHeapLibrary heap(folder, options.checkHeap);
     CDrawing drawing;
+    CSystemVariables variables({options.lunits, options.luprec});
     CMainWindow window(drawing);
-    CHost host(window, output, searchPath, format);
+    CLispConsole console(window, output, searchPath, variables);
+    CEvaluator evaluator(console, kLispStack);
+    DefineDrawFunctions(evaluator, drawing);
+    CHost host(window, output, searchPath, variables, evaluator);
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
+    CSession session(evaluator, output, window);
+    DefineFit(evaluator, window);
 
-    output.SetListener([&](std::wstring_view line) { window.AddOutput(line); });
-    window.SetFormat(format.lunits, format.luprec);
+    auto listening = std::make_optional<CListening>(output, window);
+    ShareFormat(variables, window);
+    OfferItems(items, session, window);
+    window.SetReloadHandler([&] { Reload(plugIn, output); });
     window.Show();
-    bool succeeded = true;
-    if (expressions.empty())
-        Converse(host, output, window);
-    else
-        succeeded = EvaluateAll(host, output, expressions);
-    output.SetListener(nullptr);
-    return Unload(plugIn, heap, output) && succeeded;
+    const int status = session.RunTasks(tasks);
+    if (tasks.empty() || options.stay) {
+        window.SetCommandHandler([&](const std::wstring& text) { session.RunTyped(text); });
+        window.Run();
+    }
+    listening.reset();
+    if (!options.drawingFile.empty())
+        WriteDrawing(drawing, options.drawingFile);
+    const bool inOrder = Unload(plugIn, heap, output, IsScriptsAlone(tasks));
+    return status == kExitDone && !inOrder ? kExitFailed : status;
 }
 
 }  // namespace
@@ -132,7 +180,11 @@ int wmain(int count, wchar_t** arguments) {
             output.Help(HelpText());
             return kExitDone;
         }
-        return Run(options, output) ? kExitDone : kExitFailed;
+        if (options.version) {
+            output.Line(L"DevHost " DEVHOST_VERSION);
+            return kExitDone;
+        }
+        return Run(options, output);
     } catch (const CUserError& error) {
         output.Error(error.Text());
     } catch (const std::exception&) {

@@ -1,5 +1,7 @@
 #include "PlugIn.h"
 
+#include <optional>
+
 #include "CrashReport.h"
 
 namespace {
@@ -28,32 +30,35 @@ std::wstring WhyNotLoaded(DWORD error) {
 
 }  // namespace
 
-CPlugIn::CPlugIn(CHost& host, const std::wstring& path) : m_host(host), m_path(path) {
-    const std::wstring full = FullPath(path);
+CPlugIn::CPlugIn(CHost& host, const std::wstring& path)
+    : m_host(host), m_path(FullPath(path)), m_given(path) {
+    Load();
+}
+
+void CPlugIn::Load() {
+    const std::wstring& full = m_path;
     if (!IsFile(full))
-        throw CUserError(Quoted(path) + L" does not exist: give --plugin an existing file");
+        throw CUserError(Quoted(m_given) + L" does not exist: give --plugin an existing file");
     // A name without an extension would get one, but for a point at its end.
     const bool hasExtension = full.find(L'.', full.find_last_of(L'\\')) != std::wstring::npos;
     m_library = LoadLibraryW(hasExtension ? full.c_str() : (full + L'.').c_str());
     if (m_library == nullptr)
-        throw CUserError(Quoted(path) + L' ' + WhyNotLoaded(GetLastError()));
+        throw CUserError(Quoted(m_given) + L' ' + WhyNotLoaded(GetLastError()));
     WatchPlugIn(m_library);
 
     m_entry = reinterpret_cast<CEntryPoint*>(reinterpret_cast<void*>(GetProcAddress(m_library, kEntryPoint)));
     if (m_entry == nullptr) {
         Free();
-        throw CUserError(Quoted(path) + L" lacks the entry point icrxEntryPoint: give --plugin a plug-in");
+        throw CUserError(Quoted(m_given) + L" lacks the entry point icrxEntryPoint: give --plugin a plug-in");
     }
     m_host.SetEntryPoint(m_entry);
     if (const std::wstring refusal = m_host.Send(*m_entry, SDS_LOAD); !refusal.empty()) {
         Free();
-        throw CUserError(Quoted(path) + L" refused to be loaded: " + refusal);
+        throw CUserError(Quoted(m_given) + L" refused to be loaded: " + refusal);
     }
 }
 
 CPlugIn::~CPlugIn() {
-    if (m_library == nullptr)
-        return;
     try {
         Unload();
     } catch (const CUserError&) {
@@ -61,14 +66,29 @@ CPlugIn::~CPlugIn() {
     }
 }
 
+void CPlugIn::Reload() {
+    // What the old one has against going away is said when the new one has come.
+    std::optional<CUserError> complaint;
+    try {
+        Unload();
+    } catch (const CUserError& error) {
+        complaint = error;
+    }
+    Load();
+    if (complaint)
+        throw *complaint;
+}
+
 void CPlugIn::Unload() {
+    if (m_library == nullptr)
+        return;
     const std::wstring refusal = m_host.Send(*m_entry, SDS_UNLOAD);
     const std::wstring leftBehind = m_host.ForgetFunctions();
     Free();
     if (!refusal.empty())
-        throw CUserError(Quoted(m_path) + L" refused to be unloaded: " + refusal);
+        throw CUserError(Quoted(m_given) + L" refused to be unloaded: " + refusal);
     if (!leftBehind.empty())
-        throw CUserError(Quoted(m_path) + L" left functions defined when it was unloaded: " + leftBehind);
+        throw CUserError(Quoted(m_given) + L" left functions defined when it was unloaded: " + leftBehind);
 }
 
 void CPlugIn::Free() {

@@ -13,6 +13,12 @@ std::wstring FullPath(const std::wstring& path) {
     return full;
 }
 
+bool IsFolder(const std::wstring& fullPath) {
+    const DWORD attributes =
+        fullPath.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(fullPath.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 bool IsFile(const std::wstring& fullPath) {
     if (fullPath.empty() || fullPath.starts_with(L"\\\\.\\") || fullPath.ends_with(L'\\'))
         return false;
@@ -24,8 +30,7 @@ bool IsFile(const std::wstring& fullPath) {
 CSearchPath::CSearchPath(const std::vector<std::wstring>& folders) {
     for (const std::wstring& folder : folders) {
         const std::wstring full = FullPath(folder);
-        const DWORD attributes = full.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(full.c_str());
-        if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+        if (!IsFolder(full))
             throw CUserError(L"the search folder '" + folder +
                              L"' does not exist: give --search an existing folder");
         m_folders.push_back(full);

@@ -11,6 +11,9 @@ public:
     // current folder. Throws CUserError that names the first one that is no folder.
     explicit CSearchPath(const std::vector<std::wstring>& folders);
 
+    // Adds a folder behind the others, as a full path.
+    void Add(const std::wstring& folder) { m_folders.push_back(folder); }
+
     // The full path of a file; nothing when there is none of that name. A name that is not relative (it
     // has a drive, a share or a leading backslash) is looked for where it says and nowhere else. Folders
     // and devices are no files.
@@ -22,5 +25,7 @@ private:
 
 // The path with drive and folder, or empty when it cannot be one.
 std::wstring FullPath(const std::wstring& path);
+// Whether a folder lies at a full path.
+bool IsFolder(const std::wstring& fullPath);
 // Whether a file that is neither a folder nor a device lies at a full path.
 bool IsFile(const std::wstring& fullPath);

@@ -56,18 +56,31 @@ CTextOutput::CTextOutput() {
     }
 }
 
-void CTextOutput::Line(std::wstring_view text) {
-    const std::wstring line = OnOneLine(text);
-    Write(STD_OUTPUT_HANDLE, line + L'\n');
+void CTextOutput::Text(std::wstring_view text) {
+    if (text.empty())
+        return;
+    Write(STD_OUTPUT_HANDLE, text);
+    m_isLineOpen = text.back() != L'\n';
     if (m_listener)
-        m_listener(line);
+        m_listener(text);
+}
+
+void CTextOutput::EndLine() {
+    if (m_isLineOpen)
+        Text(L"\n");
+}
+
+void CTextOutput::Line(std::wstring_view text) {
+    EndLine();
+    Text(OnOneLine(text) + L'\n');
 }
 
 void CTextOutput::Error(std::wstring_view text) {
+    EndLine();
     const std::wstring line = OnOneLine(text);
     Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
     if (m_listener)
-        m_listener(L"; error: " + line);
+        m_listener(L"; error: " + line + L'\n');
     else if (m_useBoxes)
         MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
 }

@@ -13,11 +13,15 @@ class CTextOutput {
 public:
     CTextOutput();
 
-    void SetListener(std::function<void(std::wstring_view line)> listener) {
+    void SetListener(std::function<void(std::wstring_view text)> listener) {
         m_listener = std::move(listener);
     }
 
-    // A result, as a line.
+    // A piece of text; line feeds in it end lines. The listener gets it as it is.
+    void Text(std::wstring_view text);
+    // Ends the line that a piece of text has left open.
+    void EndLine();
+    // A result, as a line of its own.
     void Line(std::wstring_view text);
     // A mistake, as a line that begins with the program's name.
     void Error(std::wstring_view text);
@@ -26,5 +30,6 @@ public:
 
 private:
     std::function<void(std::wstring_view)> m_listener;
+    bool m_isLineOpen = false;
     bool m_useBoxes = false;
 };

@@ -38,20 +38,30 @@ private:
 SOptions ParseOptions(std::span<const std::wstring> arguments) {
     SOptions options;
     CArguments rest(arguments);
-    while (!rest.AtEnd() && !options.help) {
+    while (!rest.AtEnd() && !options.help && !options.version) {
         const std::wstring& option = rest.Take();
         if (option == L"--plugin")
             options.plugIn = rest.TakeValue(option, L"the plug-in's file");
         else if (option == L"--search")
             options.searchFolders.push_back(rest.TakeValue(option, L"a folder"));
+        else if (option == L"--items")
+            options.itemFolders.push_back(rest.TakeValue(option, L"a folder of items"));
+        else if (option == L"--script")
+            options.tasks.push_back({true, rest.TakeValue(option, L"a LISP file")});
         else if (option == L"--eval")
-            options.evaluations.push_back(rest.TakeValue(option, L"a LISP expression"));
+            options.tasks.push_back({false, rest.TakeValue(option, L"a LISP expression")});
+        else if (option == L"--drawing")
+            options.drawingFile = rest.TakeValue(option, L"an SVG file");
+        else if (option == L"--stay")
+            options.stay = true;
         else if (option == L"--lunits")
             options.lunits = rest.TakeNumber(option, L'1', L'5');
         else if (option == L"--luprec")
             options.luprec = rest.TakeNumber(option, L'0', L'8');
         else if (option == L"--check-heap")
             options.checkHeap = true;
+        else if (option == L"--version")
+            options.version = true;
         else if (option == L"--help")
             options.help = true;
         else if (option.starts_with(L"-"))
@@ -68,20 +78,26 @@ const wchar_t* HelpText() {
   DevHost.exe [OPTIONS]
 
   --plugin FILE   the plug-in to load (TavrinWnd.dll beside DevHost.exe)
-  --search DIR    where the plug-in's files are looked for, before the current folder; repeatable, in order
+  --search DIR    where files are looked for, before the current folder; repeatable, in order
+  --items DIR     a folder of items, each in DIR\NAME with NAME.lsp; repeatable (samples beside DevHost.exe)
   --lunits N      LUNITS: 1 scientific, 2 decimal (the default), 3 engineering, 4 architectural, 5 fractional
   --luprec N      LUPREC: digits, or the exponent of the largest denominator, 0 to 8 (4)
-  --eval TEXT     evaluate the LISP expressions in TEXT, print what each gives, and end; repeatable, in order
+  --script FILE   run the LISP file, print what it prints alone, and end; repeatable
+  --eval TEXT     evaluate the LISP expressions in TEXT, print what each gives, and end; repeatable
+  --drawing FILE  write the drawing at the end, as SVG
+  --stay          do not end after --script and --eval
   --check-heap    give the plug-in the checking allocator, checked\TD_Alloc.dll beside DevHost.exe
+  --version       print the version
   --help          print this text
 
-Without --eval DevHost stays open; its prompt takes LISP calls such as (tavrinwnd "door" 1.0 1).
+Scripts and expressions are done in the order given. Without any, and with --stay, DevHost stays open; its
+prompt takes LISP calls such as (tavrinwnd "door" 1.0 1).
 
-What a call gave is printed in LISP notation, or "; no result". The first call that fails ends the run: the
-plug-in reported an error, or the call could not be made. When the plug-in has been unloaded, the blocks of
-the host's heap that it still holds are counted.
+What a call gave is printed in LISP notation, or "; no result". The first failure ends the run: a mistake in
+LISP, an error that the plug-in reported, a call that could not be made. When the plug-in has been unloaded, the
+blocks of the host's heap that it still holds are counted.
 
 Exit status: 0 everything went well; 1 something failed, or the plug-in still held memory; 3 the plug-in or
-DevHost crashed; 4 the checking allocator found the heap misused.
+DevHost crashed; 4 the checking allocator found the heap misused; another one as (exit N) asks.
 )";
 }

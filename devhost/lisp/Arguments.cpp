@@ -3,6 +3,20 @@
 #include "Evaluator.h"
 #include "Printer.h"
 
+namespace {
+
+std::wstring CountText(int least, int most) {
+    const std::wstring fewest = std::to_wstring(least);
+    if (most == kAnyCount)
+        return L"at least " + fewest + (least == 1 ? L" argument" : L" arguments");
+    if (most == 0)
+        return L"no arguments";
+    const std::wstring range = least == most ? fewest : fewest + L" to " + std::to_wstring(most);
+    return range + (least == 1 && most == 1 ? L" argument" : L" arguments");
+}
+
+}  // namespace
+
 std::int32_t CArguments::Integer(std::size_t index) const {
     if (m_values[index].Type() != VT_INTEGER)
         Refuse(index, L"a whole number");
@@ -80,4 +94,17 @@ std::optional<SLispPoint> ToPoint(const CValue& list) {
     if (!rest->IsNil() || count < 2)
         return std::nullopt;
     return SLispPoint{coordinates[0], coordinates[1], coordinates[2]};
+}
+
+CLispFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
+                            std::function<CLispResult(const CArguments&)> run) {
+    return [&evaluator, name = std::move(name), least, most,
+            run = std::move(run)](std::span<const CValue> values) {
+        const bool fits =
+            values.size() >= std::size_t(least) && (most == kAnyCount || values.size() <= std::size_t(most));
+        if (!fits)
+            throw CLispError(name + L" takes " + CountText(least, most) + L", not " +
+                             std::to_wstring(values.size()));
+        return run(CArguments(evaluator, name, values));
+    };
 }

@@ -3,18 +3,18 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "Function.h"
 #include "LispHost.h"
 #include "Value.h"
 
-class CEvaluator;
-
 class CArguments {
 public:
-    CArguments(CEvaluator& evaluator, const wchar_t* function, std::span<const CValue> values)
+    CArguments(CEvaluator& evaluator, std::wstring_view function, std::span<const CValue> values)
         : m_evaluator(evaluator), m_function(function), m_values(values) {}
 
     CEvaluator& Evaluator() const { return m_evaluator; }
@@ -22,7 +22,7 @@ public:
     bool Has(std::size_t index) const { return index < m_values.size(); }
     const CValue& operator[](std::size_t index) const { return m_values[index]; }
     std::span<const CValue> Values() const { return m_values; }
-    std::wstring Function() const { return m_function; }
+    std::wstring Function() const { return std::wstring(m_function); }
 
     // Each of these throws CLispError, which names function and argument, for a value of another type.
     std::int32_t Integer(std::size_t index) const;
@@ -40,7 +40,7 @@ public:
 
 private:
     CEvaluator& m_evaluator;
-    const wchar_t* m_function;
+    std::wstring_view m_function;
     std::span<const CValue> m_values;
 };
 
@@ -49,3 +49,10 @@ bool IsNumber(const CValue& value);
 double ToReal(const CValue& number);
 // The list of two or three numbers; nothing when it is no such list.
 std::optional<SLispPoint> ToPoint(const CValue& list);
+
+constexpr int kAnyCount = -1;
+
+// For CEvaluator::Define: a function that gets no fewer than `least` and no more than `most` arguments
+// (kAnyCount: no limit); another count is an error that names it.
+CLispFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
+                            std::function<CLispResult(const CArguments&)> run);

@@ -144,13 +144,12 @@ CLispResult BitsNot(const CArguments& arguments) {
     return CValue::Integer(~arguments.Integer(0));
 }
 
-constexpr int kAny = SBuiltin::kAny;
 constexpr SBuiltin kFunctions[] = {
-    {L"+", 0, kAny, Add},         {L"-", 1, kAny, Subtract},       {L"*", 0, kAny, Multiply},
-    {L"/", 1, kAny, Divide},      {L"1+", 1, 1, Increment},        {L"1-", 1, 1, Decrement},
-    {L"REM", 2, kAny, Remainder}, {L"ABS", 1, 1, Absolute},        {L"MIN", 1, kAny, Minimum},
-    {L"MAX", 1, kAny, Maximum},   {L"GCD", 2, 2, GreatestDivisor}, {L"LOGAND", 0, kAny, BitsAnd},
-    {L"LOGIOR", 0, kAny, BitsOr}, {L"~", 1, 1, BitsNot},
+    {L"+", 0, kAnyCount, Add},         {L"-", 1, kAnyCount, Subtract},  {L"*", 0, kAnyCount, Multiply},
+    {L"/", 1, kAnyCount, Divide},      {L"1+", 1, 1, Increment},        {L"1-", 1, 1, Decrement},
+    {L"REM", 2, kAnyCount, Remainder}, {L"ABS", 1, 1, Absolute},        {L"MIN", 1, kAnyCount, Minimum},
+    {L"MAX", 1, kAnyCount, Maximum},   {L"GCD", 2, 2, GreatestDivisor}, {L"LOGAND", 0, kAnyCount, BitsAnd},
+    {L"LOGIOR", 0, kAnyCount, BitsOr}, {L"~", 1, 1, BitsNot},
 };
 
 }  // namespace

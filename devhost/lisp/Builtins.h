@@ -7,13 +7,11 @@
 #include "Arguments.h"
 #include "Function.h"
 
-// A function of a table. It is called with no fewer and no more arguments than it takes.
+// A function of a table, with the counts of arguments that TakeArguments allows.
 struct SBuiltin {
-    static constexpr int kAny = -1;
-
     const wchar_t* name;  // in capitals
     int least;
-    int most;  // kAny: no limit
+    int most;
     CLispResult (*run)(const CArguments& arguments);
 };
 

@@ -195,9 +195,8 @@ constexpr SSpecialForm kForms[] = {
 };
 
 constexpr SBuiltin kFunctions[] = {
-    {L"SET", 2, 2, Set},     {L"EVAL", 1, 1, Eval},
-    {L"APPLY", 2, 2, Apply}, {L"MAPCAR", 2, SBuiltin::kAny, Mapcar},
-    {L"EXIT", 0, 1, Exit},   {L"QUIT", 0, 1, Exit},
+    {L"SET", 2, 2, Set},   {L"EVAL", 1, 1, Eval}, {L"APPLY", 2, 2, Apply}, {L"MAPCAR", 2, kAnyCount, Mapcar},
+    {L"EXIT", 0, 1, Exit}, {L"QUIT", 0, 1, Exit},
 };
 
 }  // namespace

@@ -110,21 +110,20 @@ CLispResult Subst(const CArguments& arguments) {
     return Substitute(arguments.Evaluator(), arguments[0], arguments[1], arguments[2]);
 }
 
-constexpr int kAny = SBuiltin::kAny;
 constexpr SBuiltin kFunctions[] = {
-    {L"CAR", 1, 1, Walk},    {L"CDR", 1, 1, Walk},      {L"CAAR", 1, 1, Walk},
-    {L"CADR", 1, 1, Walk},   {L"CDAR", 1, 1, Walk},     {L"CDDR", 1, 1, Walk},
-    {L"CAAAR", 1, 1, Walk},  {L"CAADR", 1, 1, Walk},    {L"CADAR", 1, 1, Walk},
-    {L"CADDR", 1, 1, Walk},  {L"CDAAR", 1, 1, Walk},    {L"CDADR", 1, 1, Walk},
-    {L"CDDAR", 1, 1, Walk},  {L"CDDDR", 1, 1, Walk},    {L"CAAAAR", 1, 1, Walk},
-    {L"CAAADR", 1, 1, Walk}, {L"CAADAR", 1, 1, Walk},   {L"CAADDR", 1, 1, Walk},
-    {L"CADAAR", 1, 1, Walk}, {L"CADADR", 1, 1, Walk},   {L"CADDAR", 1, 1, Walk},
-    {L"CADDDR", 1, 1, Walk}, {L"CDAAAR", 1, 1, Walk},   {L"CDAADR", 1, 1, Walk},
-    {L"CDADAR", 1, 1, Walk}, {L"CDADDR", 1, 1, Walk},   {L"CDDAAR", 1, 1, Walk},
-    {L"CDDADR", 1, 1, Walk}, {L"CDDDAR", 1, 1, Walk},   {L"CDDDDR", 1, 1, Walk},
-    {L"CONS", 2, 2, Cons},   {L"LIST", 0, kAny, List},  {L"APPEND", 0, kAny, Append},
-    {L"NTH", 2, 2, Nth},     {L"LENGTH", 1, 1, Length}, {L"REVERSE", 1, 1, Reverse},
-    {L"LAST", 1, 1, Last},   {L"ASSOC", 2, 2, Assoc},   {L"MEMBER", 2, 2, Member},
+    {L"CAR", 1, 1, Walk},    {L"CDR", 1, 1, Walk},          {L"CAAR", 1, 1, Walk},
+    {L"CADR", 1, 1, Walk},   {L"CDAR", 1, 1, Walk},         {L"CDDR", 1, 1, Walk},
+    {L"CAAAR", 1, 1, Walk},  {L"CAADR", 1, 1, Walk},        {L"CADAR", 1, 1, Walk},
+    {L"CADDR", 1, 1, Walk},  {L"CDAAR", 1, 1, Walk},        {L"CDADR", 1, 1, Walk},
+    {L"CDDAR", 1, 1, Walk},  {L"CDDDR", 1, 1, Walk},        {L"CAAAAR", 1, 1, Walk},
+    {L"CAAADR", 1, 1, Walk}, {L"CAADAR", 1, 1, Walk},       {L"CAADDR", 1, 1, Walk},
+    {L"CADAAR", 1, 1, Walk}, {L"CADADR", 1, 1, Walk},       {L"CADDAR", 1, 1, Walk},
+    {L"CADDDR", 1, 1, Walk}, {L"CDAAAR", 1, 1, Walk},       {L"CDAADR", 1, 1, Walk},
+    {L"CDADAR", 1, 1, Walk}, {L"CDADDR", 1, 1, Walk},       {L"CDDAAR", 1, 1, Walk},
+    {L"CDDADR", 1, 1, Walk}, {L"CDDDAR", 1, 1, Walk},       {L"CDDDDR", 1, 1, Walk},
+    {L"CONS", 2, 2, Cons},   {L"LIST", 0, kAnyCount, List}, {L"APPEND", 0, kAnyCount, Append},
+    {L"NTH", 2, 2, Nth},     {L"LENGTH", 1, 1, Length},     {L"REVERSE", 1, 1, Reverse},
+    {L"LAST", 1, 1, Last},   {L"ASSOC", 2, 2, Assoc},       {L"MEMBER", 2, 2, Member},
     {L"SUBST", 3, 3, Subst},
 };
 

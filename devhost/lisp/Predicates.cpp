@@ -102,14 +102,24 @@ CLispResult TypeOf(const CArguments& arguments) {
     return CValue::Symbol(kNames[value.Type()]);
 }
 
-constexpr int kAny = SBuiltin::kAny;
 constexpr SBuiltin kFunctions[] = {
-    {L"=", 1, kAny, Equals},    {L"/=", 1, kAny, Differs},         {L"<", 1, kAny, Less},
-    {L">", 1, kAny, Greater},   {L"<=", 1, kAny, NotGreater},      {L">=", 1, kAny, NotLess},
-    {L"EQ", 2, 2, Eq},          {L"EQUAL", 2, 3, Equal},           {L"NOT", 1, 1, IsNull},
-    {L"NULL", 1, 1, IsNull},    {L"NUMBERP", 1, 1, IsNumberValue}, {L"ZEROP", 1, 1, IsZero},
-    {L"MINUSP", 1, 1, IsMinus}, {L"ATOM", 1, 1, IsAtom},           {L"LISTP", 1, 1, IsList},
-    {L"BOUNDP", 1, 1, IsBound}, {L"TYPE", 1, 1, TypeOf},
+    {L"=", 1, kAnyCount, Equals},
+    {L"/=", 1, kAnyCount, Differs},
+    {L"<", 1, kAnyCount, Less},
+    {L">", 1, kAnyCount, Greater},
+    {L"<=", 1, kAnyCount, NotGreater},
+    {L">=", 1, kAnyCount, NotLess},
+    {L"EQ", 2, 2, Eq},
+    {L"EQUAL", 2, 3, Equal},
+    {L"NOT", 1, 1, IsNull},
+    {L"NULL", 1, 1, IsNull},
+    {L"NUMBERP", 1, 1, IsNumberValue},
+    {L"ZEROP", 1, 1, IsZero},
+    {L"MINUSP", 1, 1, IsMinus},
+    {L"ATOM", 1, 1, IsAtom},
+    {L"LISTP", 1, 1, IsList},
+    {L"BOUNDP", 1, 1, IsBound},
+    {L"TYPE", 1, 1, TypeOf},
 };
 
 }  // namespace

@@ -74,10 +74,10 @@ CLispResult Character(const CArguments& arguments) {
     return CValue::String(std::wstring(1, wchar_t(code)));
 }
 
-constexpr int kAny = SBuiltin::kAny;
 constexpr SBuiltin kFunctions[] = {
-    {L"STRCAT", 0, kAny, Join}, {L"STRLEN", 0, kAny, Length}, {L"SUBSTR", 2, 3, Part},
-    {L"STRCASE", 1, 2, Case},   {L"ASCII", 1, 1, Code},       {L"CHR", 1, 1, Character},
+    {L"STRCAT", 0, kAnyCount, Join}, {L"STRLEN", 0, kAnyCount, Length},
+    {L"SUBSTR", 2, 3, Part},         {L"STRCASE", 1, 2, Case},
+    {L"ASCII", 1, 1, Code},          {L"CHR", 1, 1, Character},
 };
 
 }  // namespace

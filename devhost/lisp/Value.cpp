@@ -1,5 +1,7 @@
 #include "Value.h"
 
+#include <utility>
+
 #include "Function.h"
 
 class CPair {
@@ -65,9 +67,12 @@ void CValue::MovePartsTo(std::vector<CValue>& parts) {
 // Out of line, since they are long and stand everywhere.
 CValue::CValue() noexcept = default;
 CValue::CValue(const CValue& other) = default;
-CValue::CValue(CValue&& other) noexcept = default;
+CValue::CValue(CValue&& other) noexcept : m_data(std::exchange(other.m_data, {})) {}
 CValue& CValue::operator=(const CValue& other) = default;
-CValue& CValue::operator=(CValue&& other) noexcept = default;
+CValue& CValue::operator=(CValue&& other) noexcept {
+    m_data = std::exchange(other.m_data, {});
+    return *this;
+}
 CValue::~CValue() = default;
 
 CValue CValue::Integer(std::int32_t number) {

@@ -22,7 +22,7 @@ class CValue {
 public:
     CValue() noexcept;  // nil
     CValue(const CValue& other);
-    CValue(CValue&& other) noexcept;
+    CValue(CValue&& other) noexcept;  // leaves nil behind
     CValue& operator=(const CValue& other);
     CValue& operator=(CValue&& other) noexcept;
     ~CValue();

@@ -22,7 +22,11 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
     const SOptions options = Parse({});
     EXPECT_EQ(options.plugIn, L"");
     EXPECT_TRUE(options.searchFolders.empty());
-    EXPECT_TRUE(options.evaluations.empty());
+    EXPECT_TRUE(options.itemFolders.empty());
+    EXPECT_TRUE(options.tasks.empty());
+    EXPECT_EQ(options.drawingFile, L"");
+    EXPECT_FALSE(options.stay);
+    EXPECT_FALSE(options.version);
     EXPECT_EQ(options.lunits, LU_DECIMAL);
     EXPECT_EQ(options.luprec, 4);
     EXPECT_FALSE(options.checkHeap);
@@ -30,12 +34,16 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
 }
 
 TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
-    const SOptions options =
-        Parse({L"--search", L"a", L"--plugin", L"p.dll", L"--search", L"b c", L"--eval", L"(f 1)", L"--eval",
-               L"-1", L"--lunits", L"5", L"--luprec", L"0", L"--check-heap"});
+    const SOptions options = Parse(
+        {L"--search", L"a",     L"--plugin", L"p.dll", L"--search",  L"b c",   L"--eval",   L"(f 1)",
+         L"--script", L"s.lsp", L"--eval",   L"-1",    L"--lunits",  L"5",     L"--luprec", L"0",
+         L"--items",  L"i",     L"--items",  L"j",     L"--drawing", L"d.svg", L"--stay",   L"--check-heap"});
     EXPECT_EQ(options.plugIn, L"p.dll");
     EXPECT_EQ(options.searchFolders, (std::vector<std::wstring>{L"a", L"b c"}));
-    EXPECT_EQ(options.evaluations, (std::vector<std::wstring>{L"(f 1)", L"-1"}));
+    EXPECT_EQ(options.itemFolders, (std::vector<std::wstring>{L"i", L"j"}));
+    EXPECT_EQ(options.tasks, (std::vector<STask>{{false, L"(f 1)"}, {true, L"s.lsp"}, {false, L"-1"}}));
+    EXPECT_EQ(options.drawingFile, L"d.svg");
+    EXPECT_TRUE(options.stay);
     EXPECT_EQ(options.lunits, LU_FRACTIONAL);
     EXPECT_EQ(options.luprec, 0);
     EXPECT_TRUE(options.checkHeap);
@@ -63,14 +71,16 @@ TEST(Options, UnknownArgumentsAreNamed) {
     EXPECT_EQ(Mistake({L""}), L"the argument '' belongs to no option: see --help");
 }
 
-TEST(Options, HelpWinsOverWhatFollows) {
+TEST(Options, HelpAndVersionWinOverWhatFollows) {
     EXPECT_TRUE(Parse({L"--help", L"--evil"}).help);
+    EXPECT_TRUE(Parse({L"--version", L"--evil"}).version);
 }
 
 TEST(Options, TheHelpNamesEveryOption) {
     const std::wstring help = HelpText();
     for (const wchar_t* option :
-         {L"--plugin", L"--search", L"--lunits", L"--luprec", L"--eval", L"--check-heap", L"--help"})
+         {L"--plugin", L"--search", L"--lunits", L"--luprec", L"--eval", L"--check-heap", L"--help",
+          L"--items", L"--script", L"--drawing", L"--stay", L"--version"})
         EXPECT_NE(help.find(option), std::wstring::npos) << testing::PrintToString(option);
 }
 

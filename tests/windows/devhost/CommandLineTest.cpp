@@ -73,9 +73,9 @@ TEST(CommandLine, TheFirstFailureEndsTheEvaluations) {
     const SOutcome outcome = RunHost({L"--eval", L"(give-nil) (unknown) (give-int 1)", L"--eval", L"5"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\n; heap: 0 blocks held\n");
-    EXPECT_EQ(
-        outcome.errors,
-        "DevHost: the function UNKNOWN is not known: check its name and whether the plug-in defines it\n");
+    EXPECT_EQ(outcome.errors,
+              "DevHost: line 1: the function UNKNOWN is not known: check its name and whether the plug-in "
+              "defines it\n");
 }
 
 // The program has a console as long as another process can attach to it.

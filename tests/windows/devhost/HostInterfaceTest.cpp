@@ -25,7 +25,7 @@ TEST(HostInterface, WhatCannotBeAnArgumentIsNamed) {
     for (const auto& [argument, message] : cases) {
         const SOutcome outcome = RunHost({L"--eval", std::wstring(L"(echo 1 ") + argument + L")"});
         EXPECT_EQ(outcome.status, 1u);
-        EXPECT_EQ(outcome.errors, std::string("DevHost: ECHO cannot take ") + message + "\n");
+        EXPECT_EQ(outcome.errors, std::string("DevHost: line 1: ECHO cannot take ") + message + "\n");
         EXPECT_EQ(outcome.output, "; heap: 0 blocks held\n");
     }
 }
@@ -52,7 +52,7 @@ TEST(HostInterface, AReportedFailureIsPrintedOnceAndDiscardsTheResult) {
 TEST(HostInterface, AnAnswerOtherThanZeroIsAFailure) {
     const SOutcome outcome = RunHost({L"--eval", L"(answer-seven)"});
     EXPECT_EQ(outcome.status, 1u);
-    EXPECT_EQ(outcome.errors, "DevHost: the plug-in answered 7 to the call of ANSWER-SEVEN\n");
+    EXPECT_EQ(outcome.errors, "DevHost: line 1: the plug-in answered 7 to the call of ANSWER-SEVEN\n");
 }
 
 TEST(HostInterface, AnAlertIsABoxOverTheMainWindow) {

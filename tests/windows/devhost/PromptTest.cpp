@@ -51,9 +51,10 @@ TEST_F(Prompt, MistakesAreShownAndDoNotEndTheSession) {
     EXPECT_TRUE(WaitForOutput(L"(unknown\r\n; error: line 1, column 1: a parenthesis is not closed"));
     Type(L"(fail-with \"no\")");
     EXPECT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"(fail-with \"no\")\r\n; error: no"); }));
-    Type(L"door");
-    EXPECT_TRUE(
-        WaitUntil([&] { return TextOf(m_output).ends_with(L"; error: the symbol DOOR has no value"); }));
+    Type(L"(car 5)");
+    EXPECT_TRUE(WaitUntil([&] {
+        return TextOf(m_output).ends_with(L"; error: line 1: CAR needs a list as argument 1, not 5");
+    }));
     EXPECT_EQ(Close().status, 0u);
 }
 

@@ -1,0 +1,27 @@
+#include "Items.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "Reader.h"
+#include "SearchPath.h"
+#include "UserError.h"
+
+std::vector<SItem> FindItems(const std::wstring& folder) {
+    const std::wstring full = FullPath(folder);
+    if (!IsFolder(full))
+        throw CUserError(L"the folder of items '" + folder +
+                         L"' does not exist: give --items an existing folder");
+    std::vector<SItem> items;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(full, error)) {
+        const std::wstring name = entry.path().filename().wstring();
+        const std::wstring path = entry.path().wstring();
+        if (IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp"))
+            items.push_back({name, path});
+    }
+    std::sort(items.begin(), items.end(), [](const SItem& a, const SItem& b) { return a.name < b.name; });
+    return items;
+}

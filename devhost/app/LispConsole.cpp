@@ -1,0 +1,64 @@
+#include "LispConsole.h"
+
+#include <windows.h>
+
+#include "LispError.h"
+
+void CLispConsole::Write(std::wstring_view text) {
+    m_output.Text(text);
+}
+
+void CLispConsole::Alert(const std::wstring& text) {
+    ShowAlert(m_window, m_output, text);
+}
+
+std::optional<std::wstring> CLispConsole::FindFile(const std::wstring& name) {
+    return m_searchPath.Find(name);
+}
+
+std::shared_ptr<CLispFile> CLispConsole::OpenFile(const std::wstring& name, EFileMode mode) {
+    return CLispFile::Open(name, mode);
+}
+
+CValue CLispConsole::GetVariable(const std::wstring& name) {
+    return m_variables.Get(name);
+}
+
+void CLispConsole::SetVariable(const std::wstring& name, const CValue& value) {
+    m_variables.Set(name, value);
+}
+
+SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoint> base,
+                              EQuestion question) {
+    if (m_window.IsPicking() || !IsWindowEnabled(m_window.Handle()))
+        throw CLispError(L"nothing can be asked while another question or a dialog is open");
+    m_output.EndLine();
+    const auto from = base ? std::optional(SPoint{base->x, base->y}) : std::nullopt;
+    const CAnswer given = m_window.Ask(StatusText(prompt), from, question == Q_TEXT ? ASK_TEXT : ASK_POINT);
+    SLispAnswer answer;
+    if (const auto* point = std::get_if<SPoint>(&given)) {
+        answer.kind = ANSWER_POINT;
+        answer.point = {point->x, point->y, 0};
+    } else if (const auto* text = std::get_if<std::wstring>(&given)) {
+        answer.kind = ANSWER_TEXT;
+        answer.text = *text;
+    } else if (std::holds_alternative<SPlainEnter>(given)) {
+        answer.kind = ANSWER_NOTHING;
+    }
+    return answer;
+}
+
+bool CLispConsole::IsEscapePressed() {
+    return m_window.PollEscape();
+}
+
+void ShowAlert(CMainWindow& window, CTextOutput& output, const std::wstring& text) {
+    output.Line(L"; alert: " + text);
+    // Over the dialog that is open, if one is: a box over the window behind it would leave it usable.
+    MessageBoxW(GetLastActivePopup(window.Handle()), text.c_str(), L"DevHost", MB_OK | MB_ICONINFORMATION);
+}
+
+std::wstring StatusText(const std::wstring& prompt) {
+    const std::size_t start = prompt.find_first_not_of(L"\r\n");
+    return start != std::wstring::npos ? prompt.substr(start) : L"";
+}
