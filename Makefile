@@ -2,7 +2,7 @@
 
 BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
   nlohmann-json3-dev
-WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils
+WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 PRESETS = native x64 x86

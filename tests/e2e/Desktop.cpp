@@ -55,6 +55,19 @@ Window Window::WithTitle(const std::string& title) {
     return window;
 }
 
+Window Window::WithoutTitle(const std::string& windowClass) {
+    Window window;
+    WaitUntil([&] {
+        std::istringstream found(OutputOf("xdotool search --onlyvisible --class '" + windowClass + "'"));
+        for (std::string id; std::getline(found, id);) {
+            if (OutputOf("xdotool getwindowname " + id) == "\n")
+                window.m_id = id;
+        }
+        return window.IsValid();
+    });
+    return window;
+}
+
 Window Window::WithId(const std::string& id) {
     Window window;
     window.m_id = id;

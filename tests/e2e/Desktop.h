@@ -40,6 +40,9 @@ public:
     // The visible window with exactly this title, once it is there; an invalid one after 20 seconds.
     static Window WithTitle(const std::string& title);
 
+    // The visible window without a title of a program, by its window class; an invalid one after 20 seconds.
+    static Window WithoutTitle(const std::string& windowClass);
+
     // A window that is known by its X id.
     static Window WithId(const std::string& id);
 

@@ -37,6 +37,24 @@ bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
     return false;
 }
 
+void ItemDialogWindow::Type(int row, const std::string& text) const {
+    ClickValue(row);
+    PressKeys("Home");
+    PressKeys("shift+End");
+    TypeText(text);
+}
+
+void ItemDialogWindow::PressKeys(const std::string& names) {
+    OutputOf("xdotool key " + names);
+}
+
+void ItemDialogWindow::TypeText(const std::string& text) {
+    std::string quoted = "'";
+    for (const char letter : text)
+        quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+    OutputOf("xdotool type --delay 5 " + quoted + "'");
+}
+
 std::string ItemDialogWindow::Answer() {
     EXPECT_EQ(host.Wait(), 0) << host.Errors() << host.Output();
     return host.Answer();

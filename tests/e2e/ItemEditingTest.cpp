@@ -21,28 +21,12 @@ protected:
     }
     std::string Working(const std::string& start) const { return Line("door_TMP.TXT", start); }
     std::string Template(const std::string& start) const { return Line("door.TXT", start); }
-
-    // A click on the value opens its edit with the caret behind the text; the text is replaced.
-    void Type(int row, const std::string& text) const {
-        ClickValue(row);
-        Keys("Home");
-        Keys("shift+End");
-        TypeText(text);
-    }
-
-    static void Keys(const std::string& names) { OutputOf("xdotool key " + names); }
-    static void TypeText(const std::string& text) {
-        std::string quoted = "'";
-        for (const char letter : text)
-            quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
-        OutputOf("xdotool type --delay 5 " + quoted + "'");
-    }
 };
 
 TEST_F(ItemEditing, ATypedRealReachesBothFiles) {
     Open();
     Type(angleRow, "82.5");
-    Keys("Return");
+    PressKeys("Return");
     EXPECT_TRUE(WaitUntil([this] { return ValueShows(angleRow, modifiedYellow); }));
     PressOk();
     EXPECT_EQ(Answer(), "0");
@@ -53,7 +37,7 @@ TEST_F(ItemEditing, ATypedRealReachesBothFiles) {
 TEST_F(ItemEditing, ATypedWholeNumberReachesBothFiles) {
     Open();
     Type(leavesRow, "2");
-    Keys("Tab");
+    PressKeys("Tab");
     EXPECT_TRUE(WaitUntil([this] { return ValueShows(leavesRow, modifiedYellow); }));
     PressOk();
     EXPECT_EQ(Answer(), "0");
@@ -72,7 +56,7 @@ TEST_F(ItemEditing, OkTakesWhatIsBeingTyped) {
 TEST_F(ItemEditing, EscapeInTheEditGivesTheValueBack) {
     Open();
     Type(angleRow, "33");
-    Keys("Escape");
+    PressKeys("Escape");
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("#9"), "#9 = 75");
@@ -97,7 +81,7 @@ TEST_F(ItemEditing, AReadOnlyRowOpensNoEdit) {
 TEST_F(ItemEditing, TextThatIsNoDistanceIsRefusedAndTheValueKept) {
     Open();
     Type(widthRow, "wide");
-    Keys("Return");
+    PressKeys("Return");
     const Window box = Window::WithTitle("Invalid value");
     ASSERT_TRUE(box.IsValid());
     box.Press("Return");
@@ -154,7 +138,7 @@ class TypedDistance : public ItemEditing, public testing::WithParamInterface<Typ
 TEST_P(TypedDistance, IsReadInTheDrawingsUnits) {
     Open(R"((tavrinwnd "door" 1.0 1))", GetParam().units, 4);
     Type(widthRow, GetParam().text);
-    Keys("Return");
+    PressKeys("Return");
     EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
     PressOk();
     EXPECT_EQ(Answer(), "0");

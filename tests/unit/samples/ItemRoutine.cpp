@@ -1,0 +1,178 @@
+#include "ItemRoutine.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "DrawFunctions.h"
+
+namespace {
+
+std::string Narrow(const std::wstring& text) {
+    return {text.begin(), text.end()};
+}
+
+std::wstring Wide(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+bool IsNear(double a, double b) {
+    return std::abs(a - b) < 1e-6;
+}
+
+// Whether the points are the corners of an upright rectangle of this size.
+bool IsBox(const SPolyline& line, double width, double height) {
+    if (!line.closed || line.points.size() != 4)
+        return false;
+    const auto& [a, b, c, d] = std::tie(line.points[0], line.points[1], line.points[2], line.points[3]);
+    return IsNear(a.y, b.y) && IsNear(b.x, c.x) && IsNear(c.y, d.y) && IsNear(d.x, a.x) &&
+           IsNear(std::abs(b.x - a.x), width) && IsNear(std::abs(c.y - b.y), height);
+}
+
+}  // namespace
+
+const std::vector<SItem>& SampleItems() {
+    static const std::vector<SItem> items = {
+        {"door", {"single", "double", "sliding", "arched", "glazed", "bifold"}},
+        {"window", {"casement", "tilt", "fixed", "sliding", "arched"}},
+        {"staircase", {"straight", "landing", "quarter", "half"}}};
+    return items;
+}
+
+ItemRoutine::ItemRoutine() {
+    std::string name = (std::filesystem::temp_directory_path() / "item-XXXXXX").string();
+    folder = mkdtemp(name.data());
+    DefineDrawFunctions(m_evaluator, drawing);
+    m_evaluator.Define(L"TAVRINSELMASK", [this](auto arguments) { return PlayChoice(arguments); });
+    m_evaluator.Define(L"TAVRINWND", [this](auto arguments) { return PlayItemDialog(arguments); });
+}
+
+ItemRoutine::~ItemRoutine() {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+}
+
+void ItemRoutine::Load(const std::string& item) {
+    m_item = item;
+    const std::string file = item + ".TXT";
+    std::filesystem::copy_file(std::filesystem::path(SAMPLES_DIR) / item / file, folder / file,
+                               std::filesystem::copy_options::overwrite_existing);
+    m_evaluator.Run(ReadText(Wide("(load \"" + item + ".lsp\")")));
+}
+
+bool ItemRoutine::Run(const std::string& text) {
+    try {
+        const CLispResult result = m_evaluator.Run(ReadText(Wide(text)));
+        return result && !result->IsNil();
+    } catch (const CLispCancelled&) {
+        return false;
+    } catch (const CLispError& error) {
+        ADD_FAILURE() << Narrow(error.Text());
+        return false;
+    }
+}
+
+bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
+    if (m_item != item)
+        Load(item);
+    drawing.Clear();
+    messages.clear();
+    chosen = variant;
+    clicked = SLispPoint();
+    return Run("(" + item + ")");
+}
+
+int ItemRoutine::Boxes(double width, double height) const {
+    int count = 0;
+    for (const CEntity& entity : drawing.Entities()) {
+        const auto* line = std::get_if<SPolyline>(&entity);
+        count += line != nullptr && IsBox(*line, width, height);
+    }
+    return count;
+}
+
+int ItemRoutine::Arcs(double radius) const {
+    int count = 0;
+    for (const CEntity& entity : drawing.Entities()) {
+        const auto* arc = std::get_if<SArc>(&entity);
+        count += arc != nullptr && IsNear(arc->radius, radius);
+    }
+    return count;
+}
+
+bool ItemRoutine::HasText(const std::wstring& text) const {
+    for (const CEntity& entity : drawing.Entities()) {
+        const auto* shownText = std::get_if<SText>(&entity);
+        if (shownText != nullptr && shownText->text.find(text) != std::wstring::npos)
+            return true;
+    }
+    return false;
+}
+
+std::optional<std::wstring> ItemRoutine::FindFile(const std::wstring& name) {
+    const std::filesystem::path samples(SAMPLES_DIR);
+    for (const auto& place : {folder, samples / m_item, samples}) {
+        // The template alone is there to be written to.
+        const bool isTemplate = name.ends_with(L".TXT");
+        if (isTemplate == (place == folder) && std::filesystem::exists(place / name))
+            return (place / name).wstring();
+    }
+    return std::nullopt;
+}
+
+std::shared_ptr<CLispFile> ItemRoutine::OpenFile(const std::wstring& name, EFileMode mode) {
+    return CLispFile::Open(name, mode);
+}
+
+CValue ItemRoutine::GetVariable(const std::wstring& name) {
+    return name == L"LUNITS" || name == L"LUPREC" ? CValue::Integer(2) : CValue();
+}
+
+SLispAnswer ItemRoutine::Ask(const std::wstring& prompt, std::optional<SLispPoint>, EQuestion) {
+    questions.push_back(prompt);
+    SLispAnswer answer;
+    if (clicked) {
+        answer.kind = ANSWER_POINT;
+        answer.point = *clicked;
+    }
+    return answer;
+}
+
+CLispResult ItemRoutine::PlayChoice(std::span<const CValue> arguments) {
+    offered.clear();
+    for (const CValue& name : arguments.subspan(2))
+        offered.push_back(Narrow(name.AsString()));
+    if (chosen.empty())
+        return CValue();
+    const CValue answer[] = {CValue::Integer(100), CValue::String(Wide(m_item + "_" + chosen))};
+    return CValue::List(answer);
+}
+
+CLispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
+    const std::string working = Narrow(arguments[0].AsString()) + "_TMP.TXT";
+    std::ifstream before(working);
+    EXPECT_TRUE(before) << working;
+    std::string line, after;
+    bool inBlock = false;
+    shown.clear();
+    while (std::getline(before, line)) {
+        if (line.ends_with('\r'))
+            line.pop_back();
+        const std::size_t quote = line.rfind('"');
+        inBlock = line == "VAR" || (inBlock && line != "END_VAR");
+        if (inBlock && line.starts_with('$') && quote != std::string::npos) {
+            const int number = std::atoi(line.c_str() + 1);
+            const std::size_t value = line.find_first_not_of(' ', quote + 2);
+            shown[number] = line.substr(value);
+            const auto change = typed.find(number);
+            line = (line[quote + 1] == 'I' ? "$" : "#") + std::to_string(number) + " = " +
+                   (change != typed.end() ? change->second : shown[number]);
+        }
+        after += line + "\r\n";
+    }
+    if (!presses)
+        return CValue();
+    std::ofstream(working, std::ios::binary) << after;
+    return CValue::Integer(0);
+}

@@ -1,0 +1,74 @@
+// The routine of a sample item, run by the real evaluator into a real drawing. The person and the dialogs are
+// played: they answer what the test has laid out, and the item dialog writes the working file as the module
+// does after OK.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Drawing.h"
+#include "Evaluator.h"
+#include "LispHost.h"
+
+struct SItem {
+    std::string name;
+    std::vector<std::string> variants;
+};
+
+// The items of the folder samples/.
+const std::vector<SItem>& SampleItems();
+
+class ItemRoutine : public testing::Test, protected ILispHost {
+protected:
+    ItemRoutine();
+    ~ItemRoutine() override;
+
+    // What the person does.
+    std::string chosen;                 // the variant; empty: Cancel
+    std::map<int, std::string> typed;   // values typed into the item dialog, by the parameter's number
+    bool presses = true;                // OK rather than Cancel
+    std::optional<SLispPoint> clicked;  // nothing: Escape
+
+    // What the person sees.
+    std::vector<std::string> offered;     // names of slides
+    std::map<int, std::string> shown;     // values in the item dialog
+    std::vector<std::wstring> messages;   // alerts
+    std::vector<std::wstring> questions;  // prompts
+
+    // Copies the item's template to a folder that is searched, and loads its routine.
+    void Load(const std::string& item);
+    // Evaluates a text; false when it gave nil or ended with an error.
+    bool Run(const std::string& text);
+    // Chooses `variant`, takes the dialog's values as they are but for `typed`, and clicks at (0, 0).
+    bool Make(const std::string& item, const std::string& variant);
+
+    // Of the drawing: closed polylines that are upright rectangles of this size; arcs of this radius.
+    int Boxes(double width, double height) const;
+    int Arcs(double radius) const;
+    // A text that holds this one.
+    bool HasText(const std::wstring& text) const;
+
+    CDrawing drawing;
+    std::filesystem::path folder;  // where template and working file stand
+
+private:
+    void Write(std::wstring_view) override {}
+    void Alert(const std::wstring& text) override { messages.push_back(text); }
+    std::optional<std::wstring> FindFile(const std::wstring& name) override;
+    std::shared_ptr<CLispFile> OpenFile(const std::wstring& name, EFileMode mode) override;
+    CValue GetVariable(const std::wstring& name) override;
+    void SetVariable(const std::wstring&, const CValue&) override {}
+    SLispAnswer Ask(const std::wstring& prompt, std::optional<SLispPoint> base, EQuestion question) override;
+    bool IsEscapePressed() override { return false; }
+
+    CLispResult PlayChoice(std::span<const CValue> arguments);
+    CLispResult PlayItemDialog(std::span<const CValue> arguments);
+
+    CEvaluator m_evaluator{*this};
+    std::string m_item;
+};

@@ -1,0 +1,193 @@
+// What the routines of all sample items have in common.
+#include <fstream>
+#include <iterator>
+
+#include "ItemRoutine.h"
+#include "SvgWriter.h"
+
+namespace {
+
+// The parameters of an item's template: number to type letter.
+std::map<int, char> ParametersOf(const std::map<int, std::string>& shown, const std::filesystem::path& file) {
+    std::map<int, char> types;
+    std::ifstream lines(file);
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t quote = line.rfind('"');
+        if (line.starts_with('$') && quote != std::string::npos)
+            types[std::atoi(line.c_str() + 1)] = line[quote + 1];
+    }
+    EXPECT_EQ(types.size(), shown.size());
+    return types;
+}
+
+// Another value that is near enough to be allowed.
+std::string Changed(const std::string& value, char type) {
+    if (type == 'I')
+        return std::to_string(std::atoi(value.c_str()) + 1);
+    return std::to_string(std::atof(value.c_str()) * 0.85 + 0.001);
+}
+
+TEST_F(ItemRoutine, EachVariantIsDrawnAndNoTwoAreTheSame) {
+    for (const SItem& item : SampleItems()) {
+        std::map<std::string, std::string> pictures;
+        for (const std::string& variant : item.variants) {
+            EXPECT_TRUE(Make(item.name, variant)) << item.name << ' ' << variant;
+            EXPECT_GT(drawing.Entities().size(), 10u) << item.name << ' ' << variant;
+            EXPECT_TRUE(messages.empty()) << item.name << ' ' << variant;
+            const auto [other, isNew] = pictures.emplace(ToSvg(drawing), variant);
+            EXPECT_TRUE(isNew) << item.name << ": " << variant << " is drawn like " << other->second;
+        }
+    }
+}
+
+TEST_F(ItemRoutine, EachVariantHasItsSlideAndIsOffered) {
+    for (const SItem& item : SampleItems()) {
+        Load(item.name);
+        Run("(" + item.name + ")");
+        std::vector<std::string> slides;
+        for (const std::string& variant : item.variants) {
+            slides.push_back(item.name + "_" + variant);
+            const std::filesystem::path slide =
+                std::filesystem::path(SAMPLES_DIR) / item.name / slides.back();
+            EXPECT_TRUE(std::filesystem::exists(slide.string() + "_t.png") ||
+                        std::filesystem::exists(slide.string() + "_t_3d.png"))
+                << slide;
+        }
+        EXPECT_EQ(offered, slides);
+    }
+}
+
+TEST_F(ItemRoutine, EachParameterSteersTheDrawing) {
+    for (const SItem& item : SampleItems()) {
+        std::map<std::string, std::string> pictures;
+        typed.clear();
+        for (const std::string& variant : item.variants) {
+            Make(item.name, variant);
+            pictures[variant] = ToSvg(drawing);
+        }
+        const auto values = shown;
+        for (const auto& [number, type] : ParametersOf(values, folder / (item.name + ".TXT"))) {
+            typed = {{number, Changed(values.at(number), type)}};
+            bool changes = false;
+            for (const std::string& variant : item.variants)
+                changes = changes || (Make(item.name, variant) ? ToSvg(drawing) != pictures[variant]
+                                                               : !messages.empty());
+            EXPECT_TRUE(changes) << item.name << ": parameter " << number;
+        }
+    }
+}
+
+TEST_F(ItemRoutine, TheDrawingStandsWhereTheUserClicked) {
+    for (const SItem& item : SampleItems()) {
+        ASSERT_TRUE(Make(item.name, item.variants.front()));
+        const SBox atOrigin = *drawing.Extents();
+        drawing.Clear();
+        clicked = SLispPoint{1000, -500, 0};
+        ASSERT_TRUE(Run("(" + item.name + ")"));
+        const SBox moved = *drawing.Extents();
+        EXPECT_NEAR(moved.low.x, atOrigin.low.x + 1000, 1e-6) << item.name;
+        EXPECT_NEAR(moved.low.y, atOrigin.low.y - 500, 1e-6) << item.name;
+        EXPECT_NEAR(moved.high.x, atOrigin.high.x + 1000, 1e-6) << item.name;
+        EXPECT_NEAR(moved.high.y, atOrigin.high.y - 500, 1e-6) << item.name;
+    }
+}
+
+TEST_F(ItemRoutine, WhoGivesUpOnTheWayFindsNothingDrawn) {
+    for (const SItem& item : SampleItems()) {
+        const std::string call = "(" + item.name + ")";
+        Load(item.name);
+        chosen.clear();
+        EXPECT_FALSE(Run(call));
+        EXPECT_TRUE(shown.empty()) << "no dialog after Cancel in the choice";
+        chosen = item.variants.front();
+        presses = false;
+        EXPECT_FALSE(Run(call));
+        EXPECT_TRUE(questions.empty()) << "no question after Cancel in the dialog";
+        presses = true;
+        EXPECT_FALSE(Run(call));
+        EXPECT_EQ(questions.size(), 1u) << "Escape in answer to the question";
+        EXPECT_TRUE(drawing.Entities().empty()) << item.name;
+        EXPECT_TRUE(messages.empty()) << item.name;
+        shown.clear();
+        questions.clear();
+    }
+}
+
+TEST_F(ItemRoutine, EscapeLeavesTheUsersOwnErrorFunctionAlone) {
+    Load("door");
+    chosen = "single";
+    Run("(setq *error* 5)");
+    // The user's own is no function, so calling it would be another error.
+    EXPECT_FALSE(Run("(door)"));
+    EXPECT_TRUE(Run("(= *error* 5)"));
+}
+
+TEST_F(ItemRoutine, ValuesThatCannotBeBuiltAreRefusedWithTheirReason) {
+    const struct {
+        const char* item;
+        const char* variant;
+        std::map<int, std::string> values;
+        const wchar_t* reason;
+    } cases[] = {
+        {"door", "single", {{1, "0"}}, L"Parameter 1 must be more than 0."},
+        {"door", "single", {{7, "3"}}, L"Parameter 7 must lie between 1 and 2."},
+        {"door", "single", {{9, "181"}}, L"Parameter 9 must lie between 0 and 180."},
+        {"door", "single", {{21, "450"}}, L"Parameter 21: the stiles are wider than the leaf."},
+        {"door", "bifold", {{7, "3"}}, L"A folding door has an even number of leaves."},
+        {"door", "arched", {{1, "4200"}}, L"Parameter 2: the leaf is too low for its arch."},
+        {"window", "casement", {{5, "231"}}, L"Parameter 5: set back so far, the frame leaves the wall."},
+        {"window",
+         "casement",
+         {{1, "300"}},
+         L"Parameter 1: the window is too narrow for its sashes and bars."},
+        {"window",
+         "arched",
+         {{20, "601"}},
+         L"Parameter 20: the arch must rise more than the frame is wide, and at most half the width."},
+        {"staircase",
+         "straight",
+         {{2, "15"}},
+         L"Parameter 2: each step would rise 192.7, more than the largest rise. Take more risers."},
+        {"staircase", "half", {{5, "16"}}, L"Parameter 5: at least two risers belong to each flight."},
+    };
+    for (const auto& [item, variant, values, reason] : cases) {
+        typed = values;
+        EXPECT_FALSE(Make(item, variant));
+        EXPECT_EQ(messages, std::vector<std::wstring>{reason}) << item << ' ' << variant;
+        EXPECT_TRUE(drawing.Entities().empty()) << item << ' ' << variant;
+    }
+}
+
+TEST_F(ItemRoutine, AMissingTemplateIsNamed) {
+    Load("window");
+    std::filesystem::remove(folder / "window.TXT");
+    chosen = "tilt";
+    EXPECT_FALSE(Run("(window)"));
+    EXPECT_EQ(messages,
+              std::vector<std::wstring>{L"The template window.TXT is in none of the search folders."});
+}
+
+TEST_F(ItemRoutine, AWorkingFileThatLacksAValueIsRefused) {
+    Load("window");
+    std::ofstream(folder / "window.TXT", std::ios::binary) << "Window\r\n<<2002>>\r\nVAR\r\n"
+                                                              "$1 = \"<<1601>>\"D 1200\r\nEND_VAR\r\n";
+    chosen = "tilt";
+    EXPECT_FALSE(Run("(window)"));
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"The working file lacks the value of parameter 2."});
+}
+
+TEST_F(ItemRoutine, TheWorkingFileIsTheTemplateUnderALineOfItsOwn) {
+    Load("staircase");
+    chosen = "half";
+    presses = false;
+    Run("(staircase)");
+    const auto read = [this](const char* name) {
+        std::ifstream file(folder / name, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const std::string original = read("staircase.TXT");
+    EXPECT_EQ(read("staircase_TMP.TXT"),
+              "(working file of staircase.lsp)\r\n" + original.substr(original.find('\n') + 1));
+}
+
+}  // namespace
