@@ -36,7 +36,7 @@ std::string SourcesOfTheModule() {
     for (const char* folder : {"host", "imagedlg", "itemdlg", "propgrid"}) {
         for (const auto& file :
              std::filesystem::directory_iterator(std::filesystem::path(SOURCE_DIR) / folder)) {
-            if (file.path().extension() == ".cpp")
+            if (file.path().extension() == ".cpp" || file.path().extension() == ".h")
                 sources += TextOf(file.path());
         }
     }
