@@ -5,8 +5,8 @@
 ; distances and real numbers, whole numbers for the type I. (item-of VALUES 7) takes one out.
 ;
 ; Every function that asks the user or reads a file gives nil when there is nothing to go on with, so that a
-; routine is one (and ...): it ends where the user gives up, before anything is drawn. A file is read or written
-; as a whole, so that none is open while a dialog is.
+; routine is one (and ...): it ends where the user gives up, before anything is drawn. A file is read or
+; written as a whole, so that none is open while a dialog is.
 
 (setq item-pi (* 4.0 (atan 1.0)))
 
@@ -134,15 +134,19 @@
 (defun item-demand (condition text)
   (if condition T (item-stop text)))
 
-; Demands that there are values of the parameters from 1 to COUNT.
-(defun item-complete (values count / number missing)
+; Demands that the parameters from 1 to COUNT have values, none negative and none too large to be drawn.
+(defun item-complete (values count / number value text)
   (setq number 1)
-  (while (and (not missing) (<= number count))
-    (if (item-of values number)
-        (setq number (1+ number))
-        (setq missing number)))
-  (item-demand (not missing)
-               (if missing (strcat "The working file lacks the value of parameter " (itoa missing) "."))))
+  (while (and (not text) (<= number count))
+    (setq value (item-of values number)
+          text  (cond ((not value)
+                       (strcat "The working file lacks the value of parameter " (itoa number) "."))
+                      ((< value 0)
+                       (strcat "Parameter " (itoa number) " must not be negative."))
+                      ((> value 1000000)
+                       (strcat "Parameter " (itoa number) " must not be more than 1000000.")))
+          number (1+ number)))
+  (item-demand (not text) text))
 
 ; Demands that these parameters are above 0.
 (defun item-positive (values numbers / bad)
@@ -190,7 +194,8 @@
 ; A rectangle on such a line, by two opposite corners.
 (defun item-turned-box (origin x y way turn along1 across1 along2 across2)
   (item-turned origin x y way turn
-               (list (list along1 across1) (list along2 across1) (list along2 across2) (list along1 across2))))
+               (list (list along1 across1) (list along2 across1)
+                     (list along2 across2) (list along1 across2))))
 
 (defun item-circle (origin x y radius)
   (draw-circle (item-at origin x y) radius))

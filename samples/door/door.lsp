@@ -279,7 +279,7 @@
 (defun door-glass (values origin left right bottom top / columns rows pane at)
   (setq columns (item-of values 23)
         pane    (/ (- right left) columns)
-        rows    (max 1 (fix (+ 0.5 (/ (- top bottom) pane)))))
+        rows    (max 1 (fix (min 50.0 (+ 0.5 (/ (- top bottom) pane))))))
   (item-box origin left bottom right top)
   (setq at left)
   (repeat (1- columns)

@@ -112,8 +112,8 @@
                                  (- (staircase-depth variant values) (* 0.5 width)))))))
   (item-dimension-y origin 0.0 width (- staircase-floor) staircase-text))
 
-; A flight that leaves CORNER, the right end of its first riser, in the direction WAY: its outline, the risers,
-; and the nosings in front of them.
+; A flight that leaves CORNER, the right end of its first riser, in the direction WAY: its outline, the
+; risers, and the nosings in front of them.
 (defun staircase-plan-flight (values corner way risers / width x)
   (setq width (item-of values 4)
         x     0.0)
@@ -168,7 +168,8 @@
 
 ; The upper floor, behind the last riser.
 (defun staircase-arrival (values origin x way)
-  (item-box origin x (- (item-of values 1) (item-of values 10)) (+ x (* way staircase-floor)) (item-of values 1)))
+  (item-box origin x (- (item-of values 1) (item-of values 10))
+            (+ x (* way staircase-floor)) (item-of values 1)))
 
 ; A flight of steps from (X, Y) up, to the right (WAY 1) or to the left (-1). BELOW is how far the slab it
 ; leaves reaches down: its soffit begins there.

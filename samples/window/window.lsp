@@ -1,5 +1,5 @@
-; The routine of the sample window. (window) is the whole road: the user chooses a variant, sets the parameters,
-; gives a point, and the window is drawn there at scale 1, in plan and, above it, in elevation.
+; The routine of the sample window. (window) is the whole road: the user chooses a variant, sets the
+; parameters, gives a point, and the window is drawn there at scale 1, in plan and, above it, in elevation.
 ;
 ;   (window-preview)                 shows the preview picture: 0 after Enter, nil otherwise
 ;   (window-draw VARIANT VALUES AT)  draws without asking
@@ -41,7 +41,7 @@
        (item-demand (or (/= variant "arched")
                         (and (> (item-of values 20) (item-of values 6))
                              (<= (* 2 (item-of values 20)) (item-of values 1))))
-                    "Parameter 20: the arch must rise more than the frame is wide, and at most half the width.")
+                    "Parameter 20: the arch must rise above the frame's width, by half the width at most.")
        (item-demand (< (+ (* 2 (item-of values 9)) (* (item-of values 12) (item-of values 13)))
                        (window-sash-width variant values))
                     "Parameter 1: the window is too narrow for its sashes and bars.")
@@ -104,7 +104,8 @@
   (item-box origin 0 inner edge face)
   (item-box origin (- width edge) inner width face)
   (if (> (item-of values 16) 0)
-      (item-box origin (- (item-of values 16)) wall (+ width (item-of values 16)) (+ wall (item-of values 16))))
+      (item-box origin (- (item-of values 16)) wall
+                (+ width (item-of values 16)) (+ wall (item-of values 16))))
   (repeat (item-of values 8)
     (window-plan-sash variant values origin x index face)
     (setq x     (+ x (window-step variant values))
@@ -131,9 +132,9 @@
      (window-plan-profile values origin x inner 1.0 0.0 sash depth)
      ; The upper edge of the tilted sash, as seen from above.
      (if (> (item-of values 14) 0)
-         (item-box origin
-                   x (- inner (* (window-sash-height variant values) (sin (item-radians (item-of values 14)))))
-                   (+ x sash) inner)))
+         (item-box origin x inner (+ x sash)
+                   (- inner (* (window-sash-height variant values)
+                               (sin (item-radians (item-of values 14))))))))
     (T
      (setq way   (window-way values index)
            turn  (item-radians (item-of values 14))
@@ -169,7 +170,8 @@
         index  0)
   (item-line origin (- window-wall) 0 (+ width window-wall) 0)
   (if (> (item-of values 17) 0)
-      (item-box origin (- (item-of values 16)) (- sill (item-of values 17)) (+ width (item-of values 16)) sill))
+      (item-box origin (- (item-of values 16)) (- sill (item-of values 17))
+                (+ width (item-of values 16)) sill))
   (item-box origin 0 sill width spring)
   (if (= variant "arched")
       (window-arch values origin spring))

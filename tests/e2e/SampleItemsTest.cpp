@@ -1,4 +1,6 @@
 // The sample items from the first dialog to the drawing.
+#include <filesystem>
+
 #include "ItemRun.h"
 
 namespace {
@@ -48,6 +50,20 @@ TEST_F(SampleItems, AStaircaseWithAHalfTurnHasTheStepsThatWereTyped) {
     const SvgDrawing drawing = Drawing();
     EXPECT_EQ(drawing.Boxes(285, 40), 18) << "treads in section: going and nosing";
     EXPECT_EQ(drawing.Boxes(1000, 1000 + 1000 + 150), 1) << "the landing in plan";
+}
+
+TEST_F(SampleItems, TheBuildPutsEveryItemBesideTheHost) {
+    int files = 0;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(SAMPLES_DIR)) {
+        const std::filesystem::path& path = file.path();
+        if (path.extension() != ".lsp" && path.extension() != ".png" && path.extension() != ".TXT")
+            continue;
+        ++files;
+        EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(BIN_DIR) / "samples" /
+                                            std::filesystem::relative(path, SAMPLES_DIR)))
+            << path;
+    }
+    EXPECT_GT(files, 20);
 }
 
 TEST_F(SampleItems, CancelInTheItemDialogDrawsNothing) {

@@ -1,6 +1,7 @@
 // What the routines of all sample items have in common.
 #include <fstream>
 #include <iterator>
+#include <random>
 
 #include "ItemRoutine.h"
 #include "SvgWriter.h"
@@ -130,6 +131,8 @@ TEST_F(ItemRoutine, ValuesThatCannotBeBuiltAreRefusedWithTheirReason) {
         const wchar_t* reason;
     } cases[] = {
         {"door", "single", {{1, "0"}}, L"Parameter 1 must be more than 0."},
+        {"door", "single", {{6, "-20"}}, L"Parameter 6 must not be negative."},
+        {"door", "single", {{2, "2e6"}}, L"Parameter 2 must not be more than 1000000."},
         {"door", "single", {{7, "3"}}, L"Parameter 7 must lie between 1 and 2."},
         {"door", "single", {{9, "181"}}, L"Parameter 9 must lie between 0 and 180."},
         {"door", "single", {{21, "450"}}, L"Parameter 21: the stiles are wider than the leaf."},
@@ -143,7 +146,7 @@ TEST_F(ItemRoutine, ValuesThatCannotBeBuiltAreRefusedWithTheirReason) {
         {"window",
          "arched",
          {{20, "601"}},
-         L"Parameter 20: the arch must rise more than the frame is wide, and at most half the width."},
+         L"Parameter 20: the arch must rise above the frame's width, by half the width at most."},
         {"staircase",
          "straight",
          {{2, "15"}},
@@ -155,6 +158,27 @@ TEST_F(ItemRoutine, ValuesThatCannotBeBuiltAreRefusedWithTheirReason) {
         EXPECT_FALSE(Make(item, variant));
         EXPECT_EQ(messages, std::vector<std::wstring>{reason}) << item << ' ' << variant;
         EXPECT_TRUE(drawing.Entities().empty()) << item << ' ' << variant;
+    }
+}
+
+TEST_F(ItemRoutine, WhateverIsTypedIsDrawnOrRefusedAsAWhole) {
+    const char* const values[] = {"0",  "-1",    "1",   "2",    "7",   "45",
+                                  "99", "0.001", "300", "2000", "1e6", "1e300"};
+    std::mt19937 random(20240315);
+    for (const SItem& item : SampleItems()) {
+        Load(item.name);
+        int drawn = 0;
+        for (int run = 0; run < 120; ++run) {
+            typed.clear();
+            for (auto changes = 1 + random() % 3; changes > 0; --changes)
+                typed[1 + static_cast<int>(random() % 27)] = values[random() % std::size(values)];
+            const bool isMade = Make(item.name, item.variants[random() % item.variants.size()]);
+            EXPECT_EQ(messages.size(), isMade ? 0u : 1u) << item.name << ", run " << run;
+            EXPECT_EQ(drawing.Entities().empty(), !isMade) << item.name << ", run " << run;
+            drawn += isMade;
+        }
+        EXPECT_GT(drawn, 10) << item.name;
+        EXPECT_LT(drawn, 110) << item.name;
     }
 }
 

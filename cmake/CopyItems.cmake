@@ -1,7 +1,6 @@
 # Copies the sample items from FROM to TO, where the stand-in host finds them. A file in TO that is newer than
 # its source stays: after OK the item dialog has written new defaults into the copy of a template.
 file(GLOB_RECURSE files RELATIVE ${FROM} ${FROM}/*.lsp ${FROM}/*.TXT ${FROM}/*.png)
-list(FILTER files EXCLUDE REGEX "CMakeLists.txt$")
 foreach(file IN LISTS files)
   if("${FROM}/${file}" IS_NEWER_THAN "${TO}/${file}")
     get_filename_component(folder ${TO}/${file} DIRECTORY)
