@@ -30,3 +30,12 @@ std::string ReadBytes(const std::string& name) {
     }
     return bytes;
 }
+
+void WriteBytes(const std::string& name, const std::string& bytes) {
+    std::ofstream file(PathOf(name), std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) {
+        throw CToolError(name + ": the file cannot be written");
+    }
+}

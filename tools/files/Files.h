@@ -16,3 +16,6 @@ std::string NameOf(const std::filesystem::path& path);
 
 // All bytes of a file. Throws CToolError when it cannot be read.
 std::string ReadBytes(const std::string& name);
+
+// Makes these bytes the file's content. Throws CToolError when it cannot be written.
+void WriteBytes(const std::string& name, const std::string& bytes);

@@ -1,0 +1,81 @@
+// tavrincheck extract.
+#include "ExtractCommand.h"
+
+#include "ToolFolder.h"
+
+namespace {
+
+class ExtractCommand : public testing::Test {
+protected:
+    std::string Run(std::vector<std::string> arguments) {
+        return folder.Short(OutputOf([&] { EXPECT_EQ(RunExtract(arguments), 0); }));
+    }
+    std::string ErrorOf(const std::vector<std::string>& arguments) {
+        try {
+            RunExtract(arguments);
+            return "(none)";
+        } catch (const CToolError& error) {
+            return folder.Short(error.what());
+        }
+    }
+
+    CToolFolder folder;
+};
+
+constexpr const char* kLast =
+    "The dialog reads the working file: what writes it must write the same placeholders.\n";
+
+TEST_F(ExtractCommand, WithoutWriteOnlyShowsWhatItWouldDo) {
+    const std::string file = folder.Write("a.TXT", "x\r\nDoor\r\nVAR\r\n$1 = \"Width\"R 1");
+    const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n}\n");
+    EXPECT_EQ(
+        Run({file, "--from", "5", "--rc", script}),
+        std::string(
+            "--- t.rc\n+++ t.rc\n@@ -1,3 +1,5 @@\n STRINGTABLE\n {\n+    5 \"Door\"\n+    6 \"Width\"\n }\n"
+            "--- a.TXT\n+++ a.TXT\n@@ -1,4 +1,4 @@\n x\r\n-Door\r\n+<<5>>\r\n VAR\r\n"
+            "-$1 = \"Width\"R 1\n\\ No newline at end of file\n"
+            "+$1 = \"<<6>>\"R 1\n\\ No newline at end of file\n") +
+            kLast + "Nothing was written: --write does it.\n");
+    EXPECT_EQ(folder.Read("a.TXT"), "x\r\nDoor\r\nVAR\r\n$1 = \"Width\"R 1");
+    EXPECT_EQ(folder.Read("t.rc"), "STRINGTABLE\n{\n}\n");
+}
+
+TEST_F(ExtractCommand, WritesBothFilesAndTheSecondTimeNothing) {
+    const std::string file = folder.Write("a.TXT", "x\n\nVAR\n$1 = \"Width\"R 1\n$2 = \"\"R 1\n");
+    const std::string note = "a.TXT: line 5 stays: its label is empty, write one\n";
+    EXPECT_EQ(Run({file, "--from=1501", "--write"}), note + "a.rc: written\na.TXT: written\n" + kLast);
+    const std::string once = folder.Read("a.TXT");
+    const std::string script = folder.Read("a.rc");
+    EXPECT_EQ(once, "x\n\nVAR\n$1 = \"<<1501>>\"R 1\n$2 = \"\"R 1\n");
+    EXPECT_EQ(Run({file, "--from=1501", "--write"}), note + "a.TXT: there is no literal label to move\n");
+    EXPECT_EQ(folder.Read("a.TXT"), once);
+    EXPECT_EQ(folder.Read("a.rc"), script);
+}
+
+TEST_F(ExtractCommand, AFileWithTheSameLabelsGetsTheSameNumbersAndLeavesTheScript) {
+    const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n  9 \"Width\"\n}\n");
+    const std::string file = folder.Write("a.TXT", "x\n\nVAR\n$1 = \"Width%\"R 1\n");
+    EXPECT_EQ(Run({file, "--from", "1", "--rc", script, "--write"}), std::string("a.TXT: written\n") + kLast);
+    EXPECT_EQ(folder.Read("a.TXT"), "x\n\nVAR\n$1 = \"<<9>>%\"R 1\n");
+}
+
+TEST_F(ExtractCommand, ANewScriptIsShownAsSuch) {
+    const std::string file = folder.Write("a.TXT", "x\nDoor\n");
+    EXPECT_EQ(Run({file, "--from", "1"}).substr(0, 66),
+              "--- /dev/null\n+++ a.rc\n@@ -0,0 +1,10 @@\n+// Texts of a.TXT: string");
+}
+
+TEST_F(ExtractCommand, ErrorsSayWhatToDo) {
+    EXPECT_EQ(ErrorOf({}), "there is nothing to extract from: name a template, or see --help");
+    EXPECT_EQ(ErrorOf({"a.TXT"}),
+              "--from is missing: give the number for the first text, such as --from 1501");
+    EXPECT_EQ(ErrorOf({"a.TXT", "--from", "0"}), "--from does not take '0': give a number from 1 to 65535");
+    EXPECT_EQ(ErrorOf({"a.TXT", "b.TXT"}), "one file is taken at a time, not both 'a.TXT' and 'b.TXT'");
+    EXPECT_EQ(ErrorOf({"a.TXT", "--frm", "1"}), "the option '--frm' is not known: see --help");
+    EXPECT_EQ(ErrorOf({folder.Path("no.TXT"), "--from", "1"}), "no.TXT: the file cannot be opened");
+    const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n  9 Width\n}\n");
+    EXPECT_EQ(ErrorOf({folder.Write("a.TXT", "x\n"), "--from", "1", "--rc", script}),
+              "t.rc:3: text 9 has no text in quotes behind its number");
+}
+
+}  // namespace
