@@ -172,10 +172,10 @@ CLispResult CEvaluator::EvaluateBody(const CValue& body) {
 }
 
 CLispResult CEvaluator::Call(const CValue& call) {
-    CheckStack();
     SFrame& frame = *m_frame;
     const int line = call.Line() != 0 ? call.Line() : frame.line;
     frame.line = line;
+    CheckStack();
     const auto function = FunctionOf(call.Car());
     if (const auto* special = std::get_if<CSpecialForm>(&function->code))
         return (*special)(*this, call.Cdr());
@@ -276,7 +276,12 @@ void CEvaluator::Settle(CLispError& error) {
         bool& inHandler;
     } const handling(m_inErrorHandler);
     const CValue text = CValue::String(error.Text());
-    Apply(handler, {&text, 1});
+    try {
+        Apply(handler, {&text, 1});
+    } catch (CLispError& another) {
+        Settle(another);
+        throw;
+    }
     error.SetHandled();
 }
 

@@ -127,7 +127,7 @@ CLispResult GetInteger(const CArguments& arguments) {
                     L"a whole number of 32 bits: type one such as 12",
                     [](const SLispAnswer& answer) -> std::optional<CValue> {
                         std::wstring text = Trimmed(answer.text);
-                        if (text.starts_with(L'+'))
+                        if (text.starts_with(L'+') && !text.starts_with(L"+-"))
                             text.erase(0, 1);
                         std::string digits;
                         for (const wchar_t c : text)

@@ -70,6 +70,23 @@ protected:
         }
     }
 
+    struct SCase {
+        const wchar_t* text;
+        const wchar_t* expected;
+    };
+
+    void ExpectValues(std::initializer_list<SCase> cases) {
+        for (const SCase& c : cases)
+            EXPECT_EQ(Mistake(c.text), std::wstring(L"gave ") + c.expected) << testing::PrintToString(c.text);
+    }
+
+    // Without the place, which is line 1 of typed text.
+    void ExpectMistakes(std::initializer_list<SCase> cases) {
+        for (const SCase& c : cases)
+            EXPECT_EQ(Mistake(c.text), std::wstring(L"line 1: ") + c.expected)
+                << testing::PrintToString(c.text);
+    }
+
     CFakeLispHost m_host;
     CEvaluator m_evaluator{m_host};
 };
