@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 std::string OutputOf(const std::string& command) {
@@ -24,6 +25,17 @@ bool WaitUntil(const std::function<bool()>& condition, int seconds) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     return true;
+}
+
+void PressKeys(const std::string& names) {
+    OutputOf("xdotool key " + names);
+}
+
+void TypeText(const std::string& text) {
+    std::string quoted = "'";
+    for (const char letter : text)
+        quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+    OutputOf("xdotool type --delay 5 " + quoted + "'");
 }
 
 Screenshot::Screenshot(const std::string& ppm) {
@@ -100,9 +112,24 @@ void Window::DoubleClick(int x, int y) const {
 }
 
 void Window::Drag(int fromX, int fromY, int toX, int toY) const {
+    DragWith(1, fromX, fromY, toX, toY);
+}
+
+void Window::DragMiddle(int fromX, int fromY, int toX, int toY) const {
+    DragWith(2, fromX, fromY, toX, toY);
+}
+
+void Window::DragWith(int button, int fromX, int fromY, int toX, int toY) const {
     std::ostringstream command;
-    command << "xdotool mousemove --window " << m_id << ' ' << fromX << ' ' << fromY
-            << " mousedown 1 mousemove --window " << m_id << ' ' << toX << ' ' << toY << " mouseup 1";
+    command << "xdotool mousemove --window " << m_id << ' ' << fromX << ' ' << fromY << " mousedown "
+            << button << " mousemove --window " << m_id << ' ' << toX << ' ' << toY << " mouseup " << button;
+    OutputOf(command.str());
+}
+
+void Window::Wheel(int x, int y, int notches) const {
+    std::ostringstream command;
+    command << "xdotool mousemove --window " << m_id << ' ' << x << ' ' << y << " click --repeat "
+            << std::abs(notches) << " --delay 20 " << (notches > 0 ? 4 : 5);
     OutputOf(command.str());
 }
 

@@ -14,6 +14,10 @@ std::string OutputOf(const std::string& command);
 // Asks again and again until `condition` holds; false when it does not within `seconds`.
 bool WaitUntil(const std::function<bool()>& condition, int seconds = 20);
 
+// Presses keys (names that xdotool knows) or types a text in the window that has the focus.
+void PressKeys(const std::string& names);
+void TypeText(const std::string& text);
+
 struct Rgb {
     int red, green, blue;
     bool operator==(const Rgb&) const = default;
@@ -54,6 +58,10 @@ public:
     void DoubleClick(int x, int y) const;
     // Moves the mouse with the button held.
     void Drag(int fromX, int fromY, int toX, int toY) const;
+    // Moves the mouse with the middle button held.
+    void DragMiddle(int fromX, int fromY, int toX, int toY) const;
+    // Turns the wheel at a place: upwards, or downwards when below zero.
+    void Wheel(int x, int y, int notches) const;
     // Presses a key (a name that xdotool knows) in the window.
     void Press(const std::string& key) const;
     // Presses a key that closes the window: again when the program did not yet know that it has the focus.
@@ -64,5 +72,7 @@ public:
     Screenshot LookWhenStill() const;
 
 private:
+    void DragWith(int button, int fromX, int fromY, int toX, int toY) const;
+
     std::string m_id;
 };

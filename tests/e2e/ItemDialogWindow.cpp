@@ -44,17 +44,6 @@ void ItemDialogWindow::Type(int row, const std::string& text) const {
     TypeText(text);
 }
 
-void ItemDialogWindow::PressKeys(const std::string& names) {
-    OutputOf("xdotool key " + names);
-}
-
-void ItemDialogWindow::TypeText(const std::string& text) {
-    std::string quoted = "'";
-    for (const char letter : text)
-        quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
-    OutputOf("xdotool type --delay 5 " + quoted + "'");
-}
-
 std::string ItemDialogWindow::Answer() {
     EXPECT_EQ(host.Wait(), 0) << host.Errors() << host.Output();
     return host.Answer();

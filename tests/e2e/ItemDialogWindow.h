@@ -40,9 +40,6 @@ protected:
 
     // A click on the value opens its edit with the caret behind the text; the text is replaced.
     void Type(int row, const std::string& text) const;
-    // Presses keys, types a text, in whatever window has the focus.
-    static void PressKeys(const std::string& names);
-    static void TypeText(const std::string& text);
 
     // Waits for the host's end, which must be a good one, and gives LISP's answer.
     std::string Answer();
