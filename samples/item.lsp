@@ -124,6 +124,12 @@
   (if (setq point (getpoint (strcat "Insertion point of the " name ": ")))
       (list (float (car point)) (float (cadr point)))))
 
+; Shows the whole drawing, where the host has a function for that. T.
+(defun item-show ()
+  (if draw-fit
+      (draw-fit))
+  T)
+
 ; --- values
 
 ; The value of a parameter.

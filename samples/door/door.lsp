@@ -26,7 +26,8 @@
        (setq values (item-edit "door" (door-presets variant)))
        (door-check variant values)
        (setq at (item-place "door"))
-       (door-draw variant values at)))
+       (door-draw variant values at)
+       (item-show)))
 
 (defun door-preview ()
   (tavrinprevmask "door_preview"))

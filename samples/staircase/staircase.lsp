@@ -22,7 +22,8 @@
        (setq values (item-edit "staircase" nil))
        (staircase-check variant values)
        (setq at (item-place "staircase"))
-       (staircase-draw variant values at)))
+       (staircase-draw variant values at)
+       (item-show)))
 
 (defun staircase-preview ()
   (tavrinprevmask "staircase_preview"))

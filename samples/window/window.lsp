@@ -23,7 +23,8 @@
        (setq values (item-edit "window" nil))
        (window-check variant values)
        (setq at (item-place "window"))
-       (window-draw variant values at)))
+       (window-draw variant values at)
+       (item-show)))
 
 (defun window-preview ()
   (tavrinprevmask "window_preview"))

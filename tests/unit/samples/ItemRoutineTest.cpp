@@ -93,6 +93,15 @@ TEST_F(ItemRoutine, TheDrawingStandsWhereTheUserClicked) {
     }
 }
 
+TEST_F(ItemRoutine, TheWholeDrawingIsShownOnceItIsDone) {
+    for (const SItem& item : SampleItems()) {
+        Run("(setq fits 0)");
+        Run("(defun draw-fit () (setq fits (1+ fits)))");
+        ASSERT_TRUE(Make(item.name, item.variants.front()));
+        EXPECT_TRUE(Run("(= fits 1)")) << item.name;
+    }
+}
+
 TEST_F(ItemRoutine, WhoGivesUpOnTheWayFindsNothingDrawn) {
     for (const SItem& item : SampleItems()) {
         const std::string call = "(" + item.name + ")";
