@@ -25,7 +25,7 @@ struct BacktrackEntry {
 
 class CBacktrackStack {
 public:
-    CBacktrackStack() = default;
+    CBacktrackStack() = default;  // cppcheck-suppress uninitMemberVar; see m_inline
     CBacktrackStack(const CBacktrackStack&) = delete;
     CBacktrackStack& operator=(const CBacktrackStack&) = delete;
 

@@ -27,7 +27,7 @@ CLispResult Quote(CEvaluator&, const CValue& arguments) {
 
 // (function F) marks a quoted function; it is one at once when it is a lambda.
 CLispResult FunctionForm(CEvaluator& evaluator, const CValue& arguments) {
-    const CLispResult quoted = Quote(evaluator, arguments);
+    CLispResult quoted = Quote(evaluator, arguments);
     if (quoted->Type() == VT_PAIR && quoted->Car().IsSymbol(L"LAMBDA"))
         return evaluator.MakeFunction(L"LAMBDA", quoted->Cdr());
     return quoted;
@@ -172,6 +172,7 @@ CLispResult Mapcar(const CArguments& arguments) {
     std::vector<CValue> results;
     for (std::size_t i = 0; i < length; ++i) {
         std::vector<CValue> row;
+        row.reserve(lists.size());
         for (const auto& list : lists)
             row.push_back(list[i]);
         arguments.Evaluator().Step();

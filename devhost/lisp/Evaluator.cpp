@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kStepsBetweenPolls = 4096;
 // What an *error* function may use beyond the limit, since it runs where the error happened.
-constexpr std::size_t kStackForErrorHandler = 256 * 1024;
+constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
 
 constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion come to an end?";
 
@@ -136,7 +136,7 @@ CLispResult CEvaluator::Run(const SSource& source) {
     } catch (const std::bad_alloc&) {
         CLispError error(L"there is not enough memory");
         Settle(error);
-        throw error;
+        throw CLispError(error);
     }
 }
 

@@ -28,7 +28,7 @@ class CEvaluator {
 public:
     // How much of the thread's stack an evaluation may take, in bytes; calls nested deeper are an error. The
     // thread needs some hundred thousand bytes more than this.
-    static constexpr std::size_t kStackBytes = 4 * 1024 * 1024;
+    static constexpr std::size_t kStackBytes = std::size_t{4} * 1024 * 1024;
 
     // Knows the built-in functions. The host must outlive the evaluator.
     explicit CEvaluator(ILispHost& host, std::size_t stackBytes = kStackBytes);

@@ -64,7 +64,7 @@ std::optional<std::wstring> CLispFile::ReadLine() {
 
 std::optional<wchar_t> CLispFile::ReadCharacter() {
     CheckOpen(false);
-    char c;
+    char c = 0;
     if (!m_stream.get(c))
         return std::nullopt;
     if (c == '\r' && m_stream.peek() == '\n')

@@ -121,6 +121,6 @@ std::wstring Display(const CValue& value) {
 std::wstring Excerpt(const CValue& value) {
     std::wstring text = Text(value, true, kExcerptLength);
     if (text.size() > kExcerptLength)
-        text = text.substr(0, kExcerptLength) + L"...";
+        text.replace(kExcerptLength, std::wstring::npos, L"...");
     return text;
 }

@@ -132,7 +132,7 @@ CLispResult GetInteger(const CArguments& arguments) {
                         std::string digits;
                         for (const wchar_t c : text)
                             digits += c <= 0x7F ? char(c) : '?';
-                        std::int32_t number;
+                        std::int32_t number = 0;
                         const char* const end = digits.data() + digits.size();
                         const auto read = std::from_chars(digits.data(), end, number);
                         if (read.ec != std::errc() || read.ptr != end)

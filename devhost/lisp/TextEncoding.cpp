@@ -18,6 +18,7 @@ constexpr wchar_t kLast = 0x9F;
 // cut, longer than it needs to be, half of a surrogate pair or beyond Unicode.
 std::optional<char32_t> TakeCodePoint(std::string_view& bytes) {
     constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
+    // cppcheck-suppress containerOutOfBounds; who calls makes sure that there is a byte
     const auto lead = static_cast<unsigned char>(bytes[0]);
     const std::size_t more = lead < 0x80 ? 0 : lead < 0xC0 ? 4 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
     if (more == 4 || lead > 0xF7 || bytes.size() <= more)

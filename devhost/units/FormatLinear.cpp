@@ -25,7 +25,7 @@ std::string NumberText(double magnitude, std::chars_format format, int precision
 
 std::string Scientific(double magnitude, int precision) {
     std::string text = NumberText(magnitude, std::chars_format::scientific, precision);
-    double readBack;
+    double readBack = 0.0;
     if (std::from_chars(text.data(), text.data() + text.size(), readBack).ec != std::errc()) {
         // Rounded up past the largest double, which nothing could read: cut instead of rounding.
         const std::string exact = NumberText(magnitude, std::chars_format::scientific,

@@ -69,7 +69,7 @@ SDecimal TakeDecimal(CCursor& cursor) {
 }
 
 std::optional<double> ToDouble(const std::string& digits) {
-    double value;
+    double value = 0.0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (read.ec != std::errc() || read.ptr != digits.data() + digits.size())
         return std::nullopt;

@@ -64,7 +64,7 @@ std::u16string Units(std::wstring_view text) {
 
 std::wstring Text(FuzzedDataProvider& data) {
     std::wstring text;
-    for (std::size_t count = data.ConsumeIntegralInRange<std::size_t>(0, 12); count > 0; --count) {
+    for (auto count = data.ConsumeIntegralInRange<std::size_t>(0, 12); count > 0; --count) {
         text.push_back(static_cast<wchar_t>(data.ConsumeBool() ? data.ConsumeIntegralInRange(0, 0x10FFFF)
                                                                : data.ConsumeIntegralInRange(0, 0x7F)));
     }
@@ -123,28 +123,29 @@ void CheckClassName(const std::wstring& name) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    FuzzedDataProvider data(bytes, size);
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider bytes(data, size);
     DialogTemplate dialog;
-    const std::wstring caption = Text(data);
-    const std::wstring faceName = Text(data);
-    dialog.style = data.ConsumeIntegral<std::uint32_t>();
-    dialog.exStyle = data.ConsumeIntegral<std::uint32_t>();
-    dialog.pointSize = data.ConsumeIntegral<std::uint16_t>();
+    const std::wstring caption = Text(bytes);
+    const std::wstring faceName = Text(bytes);
+    dialog.style = bytes.ConsumeIntegral<std::uint32_t>();
+    dialog.exStyle = bytes.ConsumeIntegral<std::uint32_t>();
+    dialog.pointSize = bytes.ConsumeIntegral<std::uint16_t>();
     dialog.caption = caption;
     dialog.faceName = faceName;
     CDialogLayout layout;
-    const std::size_t count = data.ConsumeIntegralInRange<std::size_t>(0, 20);
+    const auto count = bytes.ConsumeIntegralInRange<std::size_t>(0, 20);
     std::vector<std::wstring> captions(count);
     for (std::wstring& text : captions) {
-        text = Text(data);
+        text = Text(bytes);
         CheckClassName(text);
-        const DialogRect rect = Rect(data);
+        const DialogRect rect = Rect(bytes);
         DialogTemplateItem item;
-        item.rect = layout.Place(data.ConsumeBool() ? &rect : nullptr, data.ConsumeIntegral<std::int16_t>());
-        item.style = data.ConsumeIntegral<std::uint32_t>();
-        item.id = data.ConsumeIntegral<std::uint32_t>();
-        item.typeCode = data.ConsumeIntegralInRange<std::uint32_t>(CT_BUTTON - 1, CT_COMBOBOXEX + 1);
+        item.rect =
+            layout.Place(bytes.ConsumeBool() ? &rect : nullptr, bytes.ConsumeIntegral<std::int16_t>());
+        item.style = bytes.ConsumeIntegral<std::uint32_t>();
+        item.id = bytes.ConsumeIntegral<std::uint32_t>();
+        item.typeCode = bytes.ConsumeIntegralInRange<std::uint32_t>(CT_BUTTON - 1, CT_COMBOBOXEX + 1);
         item.caption = text;
         ExchangeOf(item.typeCode, item.style);
         dialog.items.push_back(item);

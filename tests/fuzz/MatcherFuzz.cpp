@@ -50,7 +50,8 @@ public:
                             result.start, PCRE2_ANCHORED, m_data.get(), m_context.get());
             if (status > 0) {
                 const PCRE2_SIZE* places = pcre2_get_ovector_pointer(m_data.get());
-                result.places.emplace(places, places + 2 * pcre2_get_ovector_count(m_data.get()));
+                result.places.emplace(places,
+                                      places + std::size_t{2} * pcre2_get_ovector_count(m_data.get()));
                 return result;
             }
             if (status != PCRE2_ERROR_NOMATCH) {

@@ -20,6 +20,10 @@ enum EError : unsigned {
     EmptyRepetition = 9
 };
 
+struct STranslationError {
+    EError error;
+};
+
 const std::map<wchar_t, std::string>& Abbreviations() {
     static const std::map<wchar_t, std::string> texts = {
         {L'a', "[a-zA-Z0-9]"}, {L'b', "[ \\t]"},        {L'c', "[a-zA-Z]"},
@@ -45,8 +49,8 @@ public:
         try {
             const std::string text = Sequence().text;
             result.pattern.assign(text.begin(), text.end());
-        } catch (EError error) {
-            result.error = error;
+        } catch (const STranslationError& failure) {
+            result.error = failure.error;
         }
         result.groupCount = static_cast<unsigned>(m_groupOpen.size());
         return result;
@@ -102,7 +106,7 @@ private:
         }
         Take();
         if (quantifier != L'?' && element.canBeEmpty) {
-            throw EmptyRepetition;
+            throw STranslationError{EmptyRepetition};
         }
         const bool lazy = TakeIf(L'?');
         return {"(?:" + element.text + ")" + static_cast<char>(quantifier) + (lazy ? "?" : ""),
@@ -126,7 +130,7 @@ private:
             case L'(': {
                 const Part inside = Sequence();
                 if (!TakeIf(L')')) {
-                    throw ParenthesisExpected;
+                    throw STranslationError{ParenthesisExpected};
                 }
                 return {"(?:" + inside.text + ")", inside.canBeEmpty};
             }
@@ -148,7 +152,7 @@ private:
         m_groupOpen.push_back(true);
         const Part inside = Sequence();
         if (!TakeIf(L'}')) {
-            throw BraceExpected;
+            throw STranslationError{BraceExpected};
         }
         m_groupOpen[group] = false;
         return {"(" + inside.text + ")", inside.canBeEmpty};
@@ -173,7 +177,7 @@ private:
             number = number > 1000 ? number : number * 10 + static_cast<std::uint64_t>(Peek() - L'0');
         }
         if (number >= m_groupOpen.size()) {
-            throw BadReference;
+            throw STranslationError{BadReference};
         }
         // Inside its own group it is the empty text; PCRE2 would take what the group captured the time
         // before.
@@ -183,12 +187,12 @@ private:
     std::string Set() {
         std::string set = TakeIf(L'^') ? "[^" : "[";
         if (Peek() == L']') {
-            throw EmptySet;
+            throw STranslationError{EmptySet};
         }
         while (!TakeIf(L']')) {
             const bool escaped = TakeIf(L'\\');
             if (Peek() == L'\0') {
-                throw BracketExpected;
+                throw STranslationError{BracketExpected};
             }
             wchar_t first = Take();
             if (escaped && first == L't') {
@@ -197,12 +201,12 @@ private:
             wchar_t last = first;
             if (TakeIf(L'-')) {
                 if (Peek() == L'\0' || Peek() == L']') {
-                    throw BracketExpected;
+                    throw STranslationError{BracketExpected};
                 }
                 last = Take();
             }
             if (last < first) {
-                throw ReversedRange;
+                throw STranslationError{ReversedRange};
             }
             set += Character(first) + "-" + Character(last);
         }

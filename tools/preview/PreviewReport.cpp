@@ -43,7 +43,6 @@ std::wstring KindText(const ParamRecord& record) {
 std::wstring RemarkText(const ItemParameter& parameter) {
     switch (parameter.row) {
         case PR_LABEL_TAKEN:
-            return L"NO ROW";
         case PR_INVALID_TYPE:
             return L"NO ROW";
         default:
