@@ -5,9 +5,10 @@ BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
+LINT_PACKAGES = clang-format clang-tidy cppcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run gallery bench fuzz dist packages
+.PHONY: help build test run gallery lint bench fuzz dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -18,6 +19,7 @@ help:
 	@echo "make test     build and run every test"
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
+	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
@@ -53,3 +55,7 @@ bench: packages
 fuzz: packages
 	@scripts/install-packages $(FUZZ_PACKAGES)
 	@FUZZ_SECONDS=$(FUZZ_SECONDS) scripts/fuzz
+
+lint: packages
+	@scripts/install-packages $(FUZZ_PACKAGES) $(LINT_PACKAGES)
+	@scripts/lint
