@@ -31,10 +31,12 @@ TEST(Documentation, ShowsEachExample) {
     for (const Page& page : AllPages()) {
         for (const CodeBlock& block : page.blocks)
             shown.insert((page.path.parent_path() / block.file).lexically_normal());
+        for (const std::string& link : page.links)
+            shown.insert((page.path.parent_path() / link).lexically_normal());
     }
     const fs::path examples = fs::path(SOURCE_DIR) / "docs/examples";
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(examples)) {
-        if (entry.is_regular_file() && entry.path().extension() != ".png") {
+        if (entry.is_regular_file()) {
             EXPECT_TRUE(shown.contains(entry.path().lexically_relative(SOURCE_DIR))) << entry.path();
         }
     }

@@ -1,0 +1,13 @@
+; An error ends everything that runs. *error* is told first.
+
+(defun *error* (text)
+  (princ (strcat "stopped: " text))
+  (terpri))
+
+(defun half (length)
+  (/ length 2))
+
+(princ (half 900.0))
+(terpri)
+(princ (half "nine hundred"))
+(princ "never printed")
