@@ -67,9 +67,13 @@ std::vector<std::string> NewTable(const std::vector<SExtractedText>& texts, unsi
     return lines;
 }
 
-// The edit that adds a table behind the last line.
+// The edit that adds a table behind the last line. The empty line between also ends a directive that its last
+// line would continue.
 SLineEdit AppendTable(std::vector<std::string> table, const std::vector<std::string>& lines,
                       const std::string& lineEnd) {
+    if (!lines.empty()) {
+        table.insert(table.begin(), lineEnd);
+    }
     if (!lines.empty() && lines.back().back() != '\n') {
         table.insert(table.begin(), lines.back() + lineEnd);
         return {lines.size() - 1, 1, std::move(table)};

@@ -340,17 +340,22 @@ public:
     CParser(const std::string& name, std::string_view bytes) : m_name(name), m_lexer(name, bytes) {}
 
     SStringScript Parse() {
-        int depth = 0;  // of BEGIN and END of other resources
+        int depth = 0;          // of BEGIN and END of other resources
+        std::size_t start = 0;  // of the outermost of them
         for (Advance(); m_token.kind != TK_END;) {
             if (depth == 0 && IsWord(m_token, "LANGUAGE")) {
                 m_language = TakeLanguage();
             } else if (depth == 0 && IsWord(m_token, "STRINGTABLE")) {
                 TakeTable();
             } else {
+                start = depth == 0 ? m_token.line : start;
                 depth += IsOpening(m_token) ? 1 : 0;
                 depth -= IsClosing(m_token) && depth > 0 ? 1 : 0;
                 Advance();
             }
+        }
+        if (depth > 0) {
+            throw PlaceError(m_name, start, "the block that begins here is not closed with END");
         }
         m_script.codePage = m_lexer.CodePage();
         return std::move(m_script);

@@ -43,7 +43,8 @@ TEST(ScriptEdit, ATableOnOneLineIsBroken) {
 }
 
 TEST(ScriptEdit, AScriptWithoutATableGetsOne) {
-    EXPECT_EQ(With("// a", {{7, L"a"}}), "// a\nSTRINGTABLE\nBEGIN\n    7 \"a\"\nEND\n");
+    EXPECT_EQ(With("// a", {{7, L"a"}}), "// a\n\nSTRINGTABLE\nBEGIN\n    7 \"a\"\nEND\n");
+    EXPECT_EQ(With("#define A \\\n", {{7, L"a"}}), "#define A \\\n\nSTRINGTABLE\nBEGIN\n    7 \"a\"\nEND\n");
     EXPECT_EQ(With("", {{7, L"a"}}), "STRINGTABLE\nBEGIN\n    7 \"a\"\nEND\n");
 }
 

@@ -107,6 +107,8 @@ TEST(StringScript, TextsAndTablesKnowTheirPlaces) {
 TEST(StringScript, EveryErrorNamesItsLine) {
     EXPECT_EQ(ErrorOf("\n\nSTRINGTABLE\nBEGIN\n 1 \"a\"\n"),
               "a.rc:3: the string table that begins here is not closed with END");
+    EXPECT_EQ(ErrorOf("\n1 DIALOG 0\n{ BEGIN END\n"),
+              "a.rc:3: the block that begins here is not closed with END");
     EXPECT_EQ(ErrorOf("STRINGTABLE {\n 1 \"a\n }"),
               "a.rc:2: the text that begins here is not closed with a quote");
     EXPECT_EQ(ErrorOf("\n/* a\n"), "a.rc:2: the comment that begins here is not closed with */");

@@ -1,0 +1,63 @@
+// Reading scripts and modules of texts, and adding texts to a script.
+#include <algorithm>
+#include <cstdint>
+#include <string>
+
+#include "Files.h"
+#include "Fuzz.h"
+#include "ScriptEdit.h"
+#include "StringScript.h"
+#include "TextTable.h"
+
+namespace {
+
+const std::vector<SExtractedText> kTexts = {{60001, L"new \"text\" \\"}, {60002, L"\u00E0\u0080\t"}};
+
+// A script takes every new text, and all that it had stays.
+void CheckAdding(const std::string& script) {
+    CTextTable before;
+    CTextTable after;
+    try {
+        before.ReadBytes("a.rc", script);
+        if (before.Find(60001) != nullptr || before.Find(60002) != nullptr ||
+            ReadStringScript("a.rc", script).isUtf16) {
+            return;
+        }
+    } catch (const CToolError&) {
+        return;
+    }
+    after.ReadBytes("a.rc", Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, kTexts)));
+    Require(after.Texts().size() == before.Texts().size() + kTexts.size(), "just the new texts are added");
+    for (const SExtractedText& text : kTexts) {
+        Require(after.Load(text.number) == text.text, "a new text reads as it was given");
+    }
+    // The new texts may come first and so may their language.
+    const auto& languages = after.Languages();
+    for (const SText& text : before.Texts()) {
+        const auto language =
+            std::find(languages.begin(), languages.end(), before.Languages()[text.language]);
+        const SText* const found =
+            after.Find(text.number, static_cast<std::size_t>(language - languages.begin()));
+        Require(found != nullptr && found->text == text.text, "the texts that were there stay");
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(Bytes(data, size));
+    CTextTable table;
+    try {
+        table.ReadBytes("a", bytes);
+    } catch (const CToolError&) {
+        Require(table.Texts().empty() && table.Files().empty(), "a file that is refused adds nothing");
+    }
+    for (const SText& text : table.Texts()) {
+        Require(text.number <= 0xFFFF && text.language < table.Languages().size(), "texts have a place");
+        Require(table.Load(text.number).size() <= CTextTable::kLongestText, "a loaded text is cut");
+    }
+    if (!bytes.starts_with("MZ")) {
+        CheckAdding(bytes);
+    }
+    return 0;
+}
