@@ -93,11 +93,19 @@ protected:
 };
 
 TEST_F(SampleGuide, MakesAShelfThatIsChosenSetAndDrawn) {
-    host.StartProgram({"--eval", "(load \"shelf.lsp\")", "--eval", "(shelf)", "--drawing", "drawing.svg"});
+    host.StartProgram({"--drawing", "drawing.svg"});
+    const Window main = Window::WithTitle("DevHost");
+    ASSERT_TRUE(main.IsValid()) << host.Errors();
+    main.LookWhenStill();
+    // The second entry of the menu Items, behind the door.
+    main.Press("alt+i");
+    PressKeys("Down Return");
     Choose(1, 0, 2, 1);
     ExpectDialog("Scaffale");
     Type(0, "950");
     PlaceAt("0,0");
+    EXPECT_TRUE(WaitUntil([this] { return host.Output().find("\nT") != std::string::npos; }));
+    EXPECT_TRUE(main.PressUntilClosed("alt+F4"));
     const SvgDrawing drawing = Drawing();
     EXPECT_EQ(drawing.Boxes(20, 1800), 2) << "the sides";
     EXPECT_EQ(drawing.Boxes(910, 20), 5) << "the boards between them";
