@@ -8,14 +8,15 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 LINT_PACKAGES = clang-format clang-tidy cppcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run gallery lint bench fuzz dist packages
+.PHONY: help build test run screenshots gallery lint bench fuzz dist packages
 .DEFAULT_GOAL := help
 
 help:
-	@echo "make run      the dialogs on the sample door (without a display: driven by itself, the results"
-	@echo "              printed, screenshots in out/)"
+	@echo "make run      DevHost with the sample items (without a display: driven by itself, from choosing a door"
+	@echo "              to its drawing; the results printed, screenshots in out/)"
 	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
 	@echo "              screenshots of its modes and editors in out/)"
+	@echo "make screenshots  make the pictures of the documentation from the running programs"
 	@echo "make test     build and run every test"
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
@@ -40,6 +41,10 @@ test: build
 run: packages
 	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
 	@scripts/run-door
+
+screenshots: packages
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
+	@scripts/make-screenshots
 
 gallery: packages
 	@scripts/build x64 GridGallery TD_Alloc TD_Alloc_checked

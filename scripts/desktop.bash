@@ -28,10 +28,10 @@ find_untitled() {
 
 is_gone() { ! xwininfo -id "$1" | grep -q IsViewable; }
 
-# look FILE: a picture of $window; succeeds when it equals the one before and shows more than a few
-# colours (the window may still be painting).
+# look FILE [WINDOW]: a picture of WINDOW ($window when none is named); succeeds when it equals the one before
+# and shows more than a few colours (the window may still be painting).
 look() {
-    import -window "$window" -strip -define png:exclude-chunk=date,time "png:$1.new"
+    import -window "${2:-$window}" -strip -define png:exclude-chunk=date,time "png:$1.new"
     local same=1
     cmp -s "$1" "$1.new" && same=0
     mv "$1.new" "$1"
@@ -41,6 +41,20 @@ look() {
 
 # picture FILE WHAT: waits until $window is painted and keeps the picture.
 picture() { wait_for 20 "$2 to be painted" look "$1"; }
+
+# frame_of WINDOW: where its inside stands on the screen, as WIDTHxHEIGHT+X+Y. (xdotool's place counts the
+# window manager's frame twice.)
+frame_of() {
+    xwininfo -id "$1" | awk '/Absolute upper-left X:/ { x = $NF } /Absolute upper-left Y:/ { y = $NF }
+        /Width:/ { w = $NF } /Height:/ { h = $NF } END { print w "x" h "+" x "+" y }'
+}
+
+# screen_picture FILE WHAT: a picture of what the screen shows in the place of $window, with menus above it.
+screen_picture() {
+    wait_for 20 "$2 to be painted" look "$1" root
+    convert "$1" -crop "$(frame_of "$window")" +repage -strip -define png:exclude-chunk=date,time "png:$1.new"
+    mv "$1.new" "$1"
+}
 
 # point_at X Y WIDTH HEIGHT: moves the mouse in $window to a point of a dialog that is WIDTH by HEIGHT units.
 point_at() {

@@ -1,5 +1,8 @@
 #include "MainWindow.h"
 
+#include <windows.h>
+
+#include <commctrl.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -237,12 +240,14 @@ void CMainWindow::Focus() {
         SetFocus(IsWindowEnabled(m_prompt) ? m_prompt : m_drawing->Handle());
 }
 
-void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint) {
+void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example) {
     SetWindowTextW(m_label, label.c_str());
+    SendMessageW(m_prompt, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(example));
     m_status->ShowText(hint);
     Layout();
 }
 
 void CMainWindow::ShowIdlePrompt() {
-    ShowPrompt(L"LISP", L"Wheel: zoom. Middle button: pan, twice: fit.");
+    ShowPrompt(L"LISP", L"Wheel: zoom. Middle button: pan, twice: fit.",
+               L"for example (tavrinwnd \"door\" 1.0 1)");
 }

@@ -98,7 +98,8 @@ private:
     void UpdateMenu();
     // The focus goes where typing makes sense.
     void Focus();
-    void ShowPrompt(const std::wstring& label, const std::wstring& hint);
+    // Beside the prompt, in the status line, and in the prompt as long as it is empty.
+    void ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example);
     void ShowIdlePrompt();
 
     // MainWindowLayout.cpp

@@ -39,7 +39,8 @@ CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, E
     m_isAsking = true;
     m_isAnswered = false;
     m_answer = SCancelled();
-    ShowPrompt(WithoutBlanksBehind(prompt), std::wstring(prompt));
+    ShowPrompt(WithoutBlanksBehind(prompt), std::wstring(prompt),
+               what == ASK_POINT ? L"click into the drawing, or type" : L"");
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, TRUE);
     if (what == ASK_POINT)

@@ -91,8 +91,6 @@ void CMainWindow::CreateControls() {
     SetFont(m_status->Handle(), m_textFont);
     for (const HWND edit : {m_output->Handle(), m_prompt})
         SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
-    SendMessageW(m_prompt, EM_SETCUEBANNER, TRUE,
-                 reinterpret_cast<LPARAM>(L"for example (tavrinwnd \"door\" 1.0 1)"));
     Layout();
 }
 
