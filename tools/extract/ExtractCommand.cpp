@@ -90,6 +90,7 @@ struct SChange {
 
 std::vector<std::string> Bytes(const std::vector<SFileLine>& lines) {
     std::vector<std::string> bytes;
+    bytes.reserve(lines.size());
     for (const SFileLine& line : lines) {
         bytes.push_back(BytesOf(line.text) + line.ending);
     }

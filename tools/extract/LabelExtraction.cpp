@@ -22,8 +22,8 @@ struct SRefusal {
 
 class CExtractor {
 public:
-    CExtractor(const std::vector<SFileLine>& lines, unsigned firstNumber, const SKnownTexts& known)
-        : m_known(known), m_next(firstNumber) {
+    CExtractor(const std::vector<SFileLine>& lines, unsigned firstNumber, SKnownTexts known)
+        : m_known(std::move(known)), m_next(firstNumber) {
         m_extraction.lines = lines;
         for (const SFileLine& line : lines) {
             TakePlaceholders(line.text);
@@ -32,7 +32,7 @@ public:
 
     SExtraction Run() {
         CBlockTracker block;
-        std::vector<SFileLine>& lines = m_extraction.lines;
+        const std::vector<SFileLine>& lines = m_extraction.lines;
         for (std::size_t index = 0; index < lines.size(); ++index) {
             const bool isInBlock = block.TakeLine(lines[index].text);
             const bool isParameter = isInBlock && ParseParameterLine(lines[index].text);

@@ -51,6 +51,7 @@ std::string LineEndOf(std::string_view bytes) {
 std::vector<std::string> Entries(const std::vector<SExtractedText>& texts, unsigned codePage,
                                  const std::string& lineEnd) {
     std::vector<std::string> entries;
+    entries.reserve(texts.size());
     for (const SExtractedText& text : texts) {
         entries.push_back("    " + std::to_string(text.number) + " " + Literal(text.text, codePage) +
                           lineEnd);
