@@ -3,6 +3,23 @@
 #include <windows.h>
 
 #include "LispError.h"
+#include "TypedPoint.h"
+
+SLispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::optional<SPoint> base,
+                                      EQuestion question) const {
+    SLispAnswer answer;
+    answer.kind = ANSWER_TEXT;
+    answer.text = text;
+    // A length alone is a distance where one is asked for, and otherwise a place on the rubber band.
+    const bool mayBePoint =
+        question == Q_POINT || (question == Q_DISTANCE && text.find(L',') != std::wstring::npos);
+    const auto point = mayBePoint ? ParsePoint(text, base, m_window.MousePoint()) : std::nullopt;
+    if (point) {
+        answer.kind = ANSWER_POINT;
+        answer.point = {point->x, point->y, 0};
+    }
+    return answer;
+}
 
 void CLispConsole::Write(std::wstring_view text) {
     m_output.Text(text);
@@ -40,8 +57,7 @@ SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoi
         answer.kind = ANSWER_POINT;
         answer.point = {point->x, point->y, 0};
     } else if (const auto* text = std::get_if<std::wstring>(&given)) {
-        answer.kind = ANSWER_TEXT;
-        answer.text = *text;
+        answer = TypedAnswer(*text, from, question);
     } else if (std::holds_alternative<SPlainEnter>(given)) {
         answer.kind = ANSWER_NOTHING;
     }

@@ -25,6 +25,8 @@ public:
     bool IsEscapePressed() override;
 
 private:
+    SLispAnswer TypedAnswer(const std::wstring& text, std::optional<SPoint> base, EQuestion question) const;
+
     CMainWindow& m_window;
     CTextOutput& m_output;
     const CSearchPath& m_searchPath;

@@ -47,13 +47,24 @@ std::vector<SItem> TakeItems(std::vector<std::wstring> folders, CSearchPath& sea
     return items;
 }
 
+CUserError NotWritten(const std::wstring& file) {
+    return CUserError(L"the drawing cannot be written to '" + file +
+                      L"': give --drawing a file in an existing folder");
+}
+
+// Found before anything runs, rather than after.
+void CheckDrawingFile(const std::wstring& file) {
+    const std::wstring full = FullPath(file);
+    if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1)))
+        throw NotWritten(file);
+}
+
 void WriteDrawing(const CDrawing& drawing, const std::wstring& file) {
     std::ofstream stream(std::filesystem::path(file), std::ios::binary);
     stream << ToSvg(drawing);
     stream.close();
     if (!stream)
-        throw CUserError(L"the drawing cannot be written to '" + file +
-                         L"': give --drawing a file in an existing folder");
+        throw NotWritten(file);
 }
 
 // True when the plug-in went away in good order and holds no block of the host's heap. A run of scripts
@@ -137,6 +148,8 @@ int Run(const SOptions& options, CTextOutput& output) {
         tasks.push_back(Prepare(task));
     CSearchPath searchPath(options.searchFolders);
     const std::vector<SItem> items = TakeItems(options.itemFolders, searchPath);
+    if (!options.drawingFile.empty())
+        CheckDrawingFile(options.drawingFile);
     const std::wstring folder = ProgramFolder();
 
     const CHeapLibrary heap(folder, options.checkHeap);

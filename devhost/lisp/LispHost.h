@@ -24,15 +24,15 @@ struct SLispPoint {
     double z = 0;
 };
 
-// What a question is about; a click into the drawing answers the first two only.
+// What a question is about. A point answers the first two; a text that the user typed answers the last two.
 enum EQuestion { Q_POINT, Q_DISTANCE, Q_TEXT };
 
 enum EAnswer { ANSWER_POINT, ANSWER_TEXT, ANSWER_NOTHING, ANSWER_CANCELLED };
 
 struct SLispAnswer {
     EAnswer kind = ANSWER_CANCELLED;
-    SLispPoint point;   // a click
-    std::wstring text;  // a typed line, as it was typed; a plain Enter is ANSWER_NOTHING
+    SLispPoint point;   // clicked, or typed as a point
+    std::wstring text;  // any other line, as it was typed; a plain Enter is ANSWER_NOTHING
 };
 
 class ILispHost {

@@ -54,40 +54,13 @@ CValue AskUntil(const CArguments& arguments, const SQuestion& question, EQuestio
     }
 }
 
-// X,Y or X,Y,Z in any unit format; with @ in front relative to the base.
-std::optional<SLispPoint> ReadPoint(const std::wstring& typed, const std::optional<SLispPoint>& base) {
-    const std::wstring text = Trimmed(typed);
-    const bool relative = text.starts_with(L'@');
-    if (relative && !base)
-        return std::nullopt;
-    double coordinates[3] = {};
-    std::size_t start = relative ? 1 : 0;
-    std::size_t count = 0;
-    for (; start <= text.size(); ++count) {
-        const std::size_t end = std::min(text.find(L',', start), text.size());
-        const auto number = count < 3 ? ParseLinear(text.substr(start, end - start)) : std::nullopt;
-        if (!number)
-            return std::nullopt;
-        coordinates[count] = *number;
-        start = end + 1;
-    }
-    if (count < 2)
-        return std::nullopt;
-    const SLispPoint from = relative ? *base : SLispPoint{};
-    return SLispPoint{from.x + coordinates[0], from.y + coordinates[1], from.z + coordinates[2]};
-}
-
-std::optional<SLispPoint> PointOf(const SLispAnswer& answer, const std::optional<SLispPoint>& base) {
-    return answer.kind == ANSWER_POINT ? answer.point : ReadPoint(answer.text, base);
-}
-
 // (getpoint [BASE] [PROMPT])
 CLispResult GetPoint(const CArguments& arguments) {
     const SQuestion question = QuestionOf(arguments);
     return AskUntil(arguments, question, Q_POINT, L"a point: click into the drawing or type X,Y",
-                    [&](const SLispAnswer& answer) -> std::optional<CValue> {
-                        const auto point = PointOf(answer, question.base);
-                        return point ? std::optional(PointValue(*point)) : std::nullopt;
+                    [](const SLispAnswer& answer) -> std::optional<CValue> {
+                        return answer.kind == ANSWER_POINT ? std::optional(PointValue(answer.point))
+                                                           : std::nullopt;
                     });
 }
 
@@ -96,14 +69,15 @@ CLispResult GetDistance(const CArguments& arguments) {
     SQuestion question = QuestionOf(arguments);
     constexpr wchar_t kNeeded[] = L"a distance: click into the drawing or type a length";
     const auto convert = [&](const SLispAnswer& answer) -> std::optional<CValue> {
-        if (answer.kind == ANSWER_TEXT)
-            if (const auto length = ParseLinear(answer.text))
-                return CValue::Real(*length);
-        const auto point = PointOf(answer, question.base);
-        if (!point || !question.base)
-            return point ? std::optional(PointValue(*point)) : std::nullopt;
+        if (answer.kind == ANSWER_TEXT) {
+            const auto length = ParseLinear(answer.text);
+            return length ? std::optional(CValue::Real(*length)) : std::nullopt;
+        }
+        if (!question.base)
+            return PointValue(answer.point);
         const SLispPoint& base = *question.base;
-        return CValue::Real(std::hypot(point->x - base.x, point->y - base.y, point->z - base.z));
+        return CValue::Real(
+            std::hypot(answer.point.x - base.x, answer.point.y - base.y, answer.point.z - base.z));
     };
     const CValue first = AskUntil(arguments, question, Q_DISTANCE, kNeeded, convert);
     if (first.Type() != VT_PAIR)

@@ -66,6 +66,8 @@ public:
 
     // Shows the whole drawing.
     void FitDrawing() { m_drawing->Fit(); }
+    // The mouse's place in the drawing, where the rubber band ends.
+    SPoint MousePoint() const { return m_drawing->MousePoint(); }
 
     // While busy the prompt takes nothing, the menu's commands that begin something are grey and the window
     // does not close. Calls nest: as many must say that it is over.

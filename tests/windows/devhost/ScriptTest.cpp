@@ -126,10 +126,11 @@ TEST_F(Script, TheDrawingIsWrittenAtTheEnd) {
     EXPECT_NE(svg.find("<circle cx=\"50\" cy=\"-25\" r=\"10\"/>"), std::string::npos) << svg;
 }
 
-TEST_F(Script, ADrawingThatCannotBeWrittenIsNamed) {
-    ExpectFailure(
-        Run("(draw-line '(0 0) '(1 1))", {L"--drawing", L"no\\where.svg"}),
-        "the drawing cannot be written to 'no\\where.svg': give --drawing a file in an existing folder");
+TEST_F(Script, ADrawingThatCannotBeWrittenIsNamedBeforeAnythingRuns) {
+    for (const std::string file : {"no\\where.svg", "..", "c:\\"})
+        ExpectFailure(
+            Run("(princ \"never\")", {L"--drawing", std::wstring(file.begin(), file.end())}),
+            "the drawing cannot be written to '" + file + "': give --drawing a file in an existing folder");
 }
 
 TEST_F(Script, SystemVariablesAreSharedWithThePlugIn) {
