@@ -73,6 +73,14 @@ bool ItemRoutine::Run(const std::string& text) {
     }
 }
 
+int ItemRoutine::ParameterCount(const std::string& name) const {
+    const CValue value = m_evaluator.Variable(UpperCase(Wide(name)));
+    if (value.Type() != VT_FUNCTION)
+        return -1;
+    const auto* definition = std::get_if<SDefinition>(&value.AsFunction()->code);
+    return definition != nullptr ? static_cast<int>(definition->parameters.size()) : -1;
+}
+
 bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
     if (m_item != item)
         Load(item);

@@ -44,6 +44,8 @@ protected:
     void Load(const std::string& item);
     // Evaluates a text; false when it gave nil or ended with an error.
     bool Run(const std::string& text);
+    // How many parameters a function written in LISP takes; -1 when there is none of the name.
+    int ParameterCount(const std::string& name) const;
     // Chooses `variant`, takes the dialog's values as they are but for `typed`, and clicks at (0, 0).
     bool Make(const std::string& item, const std::string& variant);
 

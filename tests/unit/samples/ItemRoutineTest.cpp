@@ -1,4 +1,5 @@
 // What the routines of all sample items have in common.
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -189,6 +190,24 @@ TEST_F(ItemRoutine, WhateverIsTypedIsDrawnOrRefusedAsAWhole) {
         EXPECT_GT(drawn, 10) << item.name;
         EXPECT_LT(drawn, 110) << item.name;
     }
+}
+
+TEST_F(ItemRoutine, TheGuideNamesFunctionsWithTheirParameters) {
+    Load("door");
+    std::ifstream guide(SAMPLES_DIR "/README.md");
+    int functions = 0;
+    for (std::string line; std::getline(guide, line);) {
+        if (!line.starts_with("| `(item-"))
+            continue;
+        for (std::size_t at = 0; (at = line.find("`(item-", at)) != std::string::npos;) {
+            const std::string call = line.substr(at + 2, line.find(")`", at) - at - 2);
+            at += call.size();
+            ++functions;
+            const std::string name = call.substr(0, call.find(' '));
+            EXPECT_EQ(ParameterCount(name), std::ranges::count(call, ' ')) << call;
+        }
+    }
+    EXPECT_GT(functions, 15);
 }
 
 TEST_F(ItemRoutine, AMissingTemplateIsNamed) {
