@@ -57,6 +57,7 @@ public:
     CMemoryCanvas& operator=(const CMemoryCanvas&) = delete;
 
     CDC& Dc() { return m_dc; }
+    CSize Size() const { return m_size; }
     void CopyTo(CDC& target) { target.BitBlt(0, 0, m_size.cx, m_size.cy, &m_dc, 0, 0, SRCCOPY); }
 
 private:

@@ -27,6 +27,7 @@ UINT CGridContents::AddSection(const std::wstring& name, bool collapsed, UINT be
     if (before < section.id)
         place = std::find(m_sectionOrder.begin(), m_sectionOrder.end(), m_sections[before].get());
     m_sectionOrder.insert(place, &section);
+    m_sorted = false;
     return section.id;
 }
 
@@ -48,6 +49,7 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
         return NO_ID;
     }
     section->items.push_back(&item);
+    m_sorted = false;
     if (!section->collapsed)
         ++m_expandedItems;
     // Last of all: a custom item that is asked to accept its value may do anything to the grid.
@@ -58,6 +60,8 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
 
 void CGridContents::Clear() {
     m_names.clear();
+    std::vector<CGridItem*>().swap(m_sortedItems);
+    m_sorted = false;
     m_items.clear();
     m_sectionOrder.clear();
     m_sections.clear();
@@ -103,6 +107,18 @@ std::vector<CGridItem*> CGridContents::WalkAll() const {
         all.insert(all.end(), items.begin(), items.end());
     }
     return all;
+}
+
+const std::vector<CGridItem*>& CGridContents::WalkSorted() const {
+    if (m_sorted) {
+        m_itemsWalked += m_sortedItems.size();
+        return m_sortedItems;
+    }
+    m_sortedItems = WalkAll();
+    std::stable_sort(m_sortedItems.begin(), m_sortedItems.end(),
+                     [](const CGridItem* a, const CGridItem* b) { return a->name < b->name; });
+    m_sorted = true;
+    return m_sortedItems;
 }
 
 std::size_t CGridContents::GetRowCount(bool categorised) const {

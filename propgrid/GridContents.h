@@ -46,10 +46,12 @@ public:
     // In display order.
     const std::vector<CGridSection*>& GetSections() const { return m_sectionOrder; }
 
-    // The items of a section in the order of adding, and those of all sections in section order. Both
-    // are counted by GetItemsWalked.
+    // The items of a section in the order of adding, those of all sections in section order, and all sorted
+    // by name (code units; equal names of different sections stay in section order). All are counted by
+    // GetItemsWalked.
     const std::vector<CGridItem*>& Walk(const CGridSection& section) const;
     std::vector<CGridItem*> WalkAll() const;
+    const std::vector<CGridItem*>& WalkSorted() const;
 
     std::size_t GetItemCount() const { return m_items.size(); }
 
@@ -81,5 +83,8 @@ private:
     mutable std::size_t m_itemsWalked = 0;
     std::unordered_set<const CGridItem*, NameHash, NameEqual> m_names{0, NameHash{},
                                                                       NameEqual{&m_nameComparisons}};
+    // Sorted when they are asked for: names do not change, but for rows and sections that are added.
+    mutable std::vector<CGridItem*> m_sortedItems;
+    mutable bool m_sorted = false;
     std::size_t m_expandedItems = 0;  // in sections that are not collapsed
 };

@@ -49,6 +49,13 @@ void CPropertyGrid::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
 }
 
+LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DESTROY)
+        m_rowsPending = false;  // a window that goes needs no layout
+    SettleLayout();
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 int CPropertyGrid::OnCreate(LPCREATESTRUCT create) {
     if (CWnd::OnCreate(create) == -1)
         return -1;
@@ -58,8 +65,11 @@ int CPropertyGrid::OnCreate(LPCREATESTRUCT create) {
 
 void CPropertyGrid::OnPaint() {
     CPaintDC dc(this);
-    Paint(dc);
-    ValidateRect(nullptr);
+    m_customItemDrew = false;
+    PaintWindow(dc);
+    // The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
+    if (m_customItemDrew)
+        ValidateRect(nullptr);
 }
 
 // Paint covers every pixel; erasing first would only flicker.
@@ -73,7 +83,11 @@ void CPropertyGrid::OnSize(UINT type, int width, int height) {
 }
 
 LRESULT CPropertyGrid::OnPrintClient(WPARAM dc, LPARAM /*flags*/) {
-    Paint(*CDC::FromHandle(reinterpret_cast<HDC>(dc)));
+    CDC& target = *CDC::FromHandle(reinterpret_cast<HDC>(dc));
+    CRect client;
+    GetClientRect(&client);
+    CMemoryCanvas canvas(target, client.Size());
+    Paint(target, canvas);
     return 0;
 }
 

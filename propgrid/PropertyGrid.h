@@ -32,6 +32,8 @@
 #include "GridMessages.h"
 #include "ICustomItem.h"
 
+class CMemoryCanvas;
+
 class CPropertyGrid : public CWnd {
     DECLARE_DYNAMIC(CPropertyGrid)
 
@@ -268,6 +270,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     void PreSubclassWindow() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnPaint();
@@ -319,6 +322,18 @@ private:
     };
     struct CPaintTools;
 
+    // Has the grid bring it up to date before it answers anything.
+    class CGridScrollBar : public CScrollBar {
+    public:
+        explicit CGridScrollBar(CPropertyGrid& grid) : m_grid(grid) {}
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    private:
+        CPropertyGrid& m_grid;
+    };
+
     // Life: PropertyGrid.cpp.
     void Initialize();
     void CreateFonts();
@@ -343,6 +358,9 @@ private:
 
     // Layout: PropertyGridLayout.cpp.
     void Relayout();
+    void RelayoutForMoreRows();
+    void SettleLayout();
+    int GetTotalHeight() const;
     void ShowScrolling(const CRect& client, int totalHeight, int position);
     void HideScrolling();
     void PlaceScrollBar();
@@ -351,11 +369,13 @@ private:
     bool HasScrollBar() const { return m_scrollBar.GetSafeHwnd() != nullptr; }
 
     // Painting: PropertyGridPaint.cpp.
-    void Paint(CDC& target);
+    void PaintWindow(CDC& target);
+    void Paint(CDC& target, CMemoryCanvas& canvas);
     void PaintEmptyList(CPaintTools& tools);
     void PaintSections(CPaintTools& tools);
     void PaintSorted(CPaintTools& tools);
     void PaintHeader(CPaintTools& tools, const CRect& row, CGridSection& section);
+    void PaintColumns(CPaintTools& tools, int y, std::size_t rows);
     void PaintItemRow(CPaintTools& tools, int y, CGridItem& item);
     void PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item);
     int PaintEditButton(CPaintTools& tools, const CRect& row, const CGridItem& item);
@@ -433,8 +453,12 @@ private:
     CFont m_boldFont;
     CGridTexts m_texts;
     CColors m_colors;
-    CScrollBar m_scrollBar;
+    CGridScrollBar m_scrollBar{*this};
     bool m_scrollBarShown = false;
+    std::unique_ptr<CMemoryCanvas> m_canvas;  // what the last paint drew on
+    bool m_customItemDrew = false;            // during the last paint
+    bool m_laidOut = false;      // neither the grid nor its bar has heard anything since the last layout
+    bool m_rowsPending = false;  // rows were added since then
     CRect m_editButtonRect;
     bool m_buttonPressed = false;  // paints the edit button pushed
     bool m_creating = false;       // between PreCreateWindow and PreSubclassWindow

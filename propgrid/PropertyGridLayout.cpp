@@ -7,9 +7,9 @@
 void CPropertyGrid::Relayout() {
     if (GetSafeHwnd() == nullptr)
         return;
+    m_rowsPending = false;
     const int position = GetScrollPosition();
-    const std::size_t rows = m_contents.GetRowCount(m_displayMode == DM_CATEGORIZED);
-    const int totalHeight = static_cast<int>(rows) * m_rowHeight;
+    const int totalHeight = GetTotalHeight();
     CRect client;
     GetClientRect(&client);
     // Rows that fill the window exactly deliberately show the bar too.
@@ -18,6 +18,28 @@ void CPropertyGrid::Relayout() {
     else
         HideScrolling();
     Invalidate(TRUE);
+    m_laidOut = true;
+}
+
+// As Relayout, for rows that are added one after another. While neither the grid nor its bar has heard
+// anything since the last layout, nobody can see what one more row changes: that waits for the next message.
+// The window waits to be painted since that layout, so there will be one.
+void CPropertyGrid::RelayoutForMoreRows() {
+    if (m_laidOut)
+        m_rowsPending = true;
+    else
+        Relayout();
+}
+
+// Before the grid or its bar handles a message. From then on each change counts at once.
+void CPropertyGrid::SettleLayout() {
+    if (m_rowsPending)
+        Relayout();
+    m_laidOut = false;
+}
+
+int CPropertyGrid::GetTotalHeight() const {
+    return static_cast<int>(m_contents.GetRowCount(IsCategorized())) * m_rowHeight;
 }
 
 void CPropertyGrid::ShowScrolling(const CRect& client, int totalHeight, int position) {
@@ -61,6 +83,11 @@ CRect CPropertyGrid::GetScrollBarRect() const {
     GetClientRect(&rect);
     rect.left = rect.right - ::GetSystemMetrics(SM_CXVSCROLL);
     return rect;
+}
+
+LRESULT CPropertyGrid::CGridScrollBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    m_grid.SettleLayout();
+    return CScrollBar::WindowProc(message, wParam, lParam);
 }
 
 int CPropertyGrid::GetScrollPosition() const {

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "GdiScope.h"
 #include "PropertyGrid.h"
@@ -48,9 +50,10 @@ std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
     return buffer;
 }
 
+// Of rectangles that are not empty; asked for every row there is, so without a call into the system.
 bool Overlap(const CRect& a, const CRect& b) {
-    CRect common;
-    return common.IntersectRect(&a, &b) != FALSE;
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom && !a.IsRectEmpty() &&
+           !b.IsRectEmpty();
 }
 
 }  // namespace
@@ -58,34 +61,34 @@ bool Overlap(const CRect& a, const CRect& b) {
 // What one paint draws with.
 struct CPropertyGrid::CPaintTools {
     CDC& dc;
-    CRect area;         // the client area without the scroll bar
-    CBrush textBrush;   // solid, of the text colour
-    CBrush titleBrush;  // solid, of the title text colour
-    CPen shadePen;      // one pixel wide, as all pens
-    CPen titlePen;
-
-    CPaintTools(CDC& paintDc, const CRect& paintArea, const CColors& colors) : dc(paintDc), area(paintArea) {
-        textBrush.CreateSolidBrush(colors.text);
-        titleBrush.CreateSolidBrush(colors.title);
-        shadePen.CreatePen(PS_SOLID, 1, colors.shade);
-        titlePen.CreatePen(PS_SOLID, 1, colors.title);
-    }
+    CRect area;  // the client area without the scroll bar
 };
+
+// Paints the window. The off-screen picture is kept for the next paint: to make one costs more than to draw
+// it. It is out of the grid's hands meanwhile, since a custom item that draws may cause another paint.
+void CPropertyGrid::PaintWindow(CDC& target) {
+    CRect client;
+    GetClientRect(&client);
+    std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
+    if (canvas == nullptr || canvas->Size() != client.Size())
+        canvas = std::make_unique<CMemoryCanvas>(target, client.Size());
+    Paint(target, *canvas);
+    m_canvas = std::move(canvas);
+}
 
 // Always paints the whole client area, however little of it is invalid: every visible row gets its
 // rectangles recorded.
-void CPropertyGrid::Paint(CDC& target) {
-    CRect client;
-    GetClientRect(&client);
+void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
+    const CRect client(CPoint(0, 0), canvas.Size());
     CRect area = client;
     if (m_scrollBarShown)
         area.right -= ::GetSystemMetrics(SM_CXVSCROLL);
-
-    CMemoryCanvas canvas(target, client.Size());
     {
         CDC& dc = canvas.Dc();
-        CPaintTools tools(dc, area, m_colors);
-        const CSelectedObject pen(dc, tools.shadePen);
+        CPaintTools tools = {dc, area};
+        CPen shadePen;
+        shadePen.CreatePen(PS_SOLID, 1, m_colors.shade);
+        const CSelectedObject pen(dc, shadePen);
         const CSelectedObject font(dc, m_font);
         dc.FillSolidRect(&client, m_colors.back);
         dc.SetBkMode(TRANSPARENT);
@@ -126,6 +129,7 @@ void CPropertyGrid::PaintSections(CPaintTools& tools) {
             if (section->collapsed)
                 continue;
         }
+        PaintColumns(tools, y, section->items.size());
         for (CGridItem* const item : m_contents.Walk(*section)) {
             PaintItemRow(tools, y, *item);
             y += m_rowHeight;
@@ -134,13 +138,12 @@ void CPropertyGrid::PaintSections(CPaintTools& tools) {
 }
 
 void CPropertyGrid::PaintSorted(CPaintTools& tools) {
-    std::vector<CGridItem*> items = m_contents.WalkAll();
-    // Stable, so that equal names of different sections stay in section order.
-    std::stable_sort(items.begin(), items.end(),
-                     [](const CGridItem* a, const CGridItem* b) { return a->name < b->name; });
     int y = -GetScrollPosition();
-    for (CGridItem* const item : items) {
-        PaintItemRow(tools, y, *item);
+    // By index: a custom item that draws may add rows, and another paint sorts them in.
+    const std::vector<CGridItem*>& items = m_contents.WalkSorted();
+    PaintColumns(tools, y, items.size());
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        PaintItemRow(tools, y, *items[index]);
         y += m_rowHeight;
     }
 }
@@ -158,9 +161,13 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
 
     section.glyphRect.SetRect(2, row.top + 4, 11, row.top + 13);
     section.headerRect.SetRect(14, row.top, row.right, row.bottom);
-    dc.FrameRect(&section.glyphRect, &tools.titleBrush);
     {
-        const CSelectedObject pen(dc, tools.titlePen);
+        CBrush titleBrush;
+        titleBrush.CreateSolidBrush(m_colors.title);
+        dc.FrameRect(&section.glyphRect, &titleBrush);
+        CPen titlePen;
+        titlePen.CreatePen(PS_SOLID, 1, m_colors.title);
+        const CSelectedObject pen(dc, titlePen);
         DrawLine(dc, 4, row.top + 8, 9, row.top + 8);
         if (section.collapsed)
             DrawLine(dc, 6, row.top + 6, 6, row.top + 11);
@@ -178,6 +185,19 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
     DrawTextIn(dc, section.name, CRect(18, row.top, row.right, row.bottom), lineOfText | DT_END_ELLIPSIS);
 }
 
+// What the items' rows that follow each other from `y` on have in common: the band at the left edge and the
+// divider.
+void CPropertyGrid::PaintColumns(CPaintTools& tools, int y, std::size_t rows) {
+    const CRect all(0, y, tools.area.right, y + static_cast<int>(rows) * m_rowHeight);
+    CRect visible;
+    if (!visible.IntersectRect(&all, &tools.area))
+        return;
+    if (m_shadeHeaders)
+        tools.dc.FillSolidRect(0, visible.top, bandWidth, visible.Height(), m_colors.shade);
+    if (m_drawDivider)
+        DrawLine(tools.dc, m_gutter, visible.top, m_gutter, visible.bottom + 1);
+}
+
 // A row that is scrolled away only leaves word of where it would be.
 void CPropertyGrid::PaintItemRow(CPaintTools& tools, int y, CGridItem& item) {
     const CRect row(0, y, tools.area.right, y + m_rowHeight);
@@ -189,12 +209,8 @@ void CPropertyGrid::PaintItemRow(CPaintTools& tools, int y, CGridItem& item) {
 
 void CPropertyGrid::PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item) {
     CDC& dc = tools.dc;
-    if (m_shadeHeaders)
-        dc.FillSolidRect(0, row.top, bandWidth, m_rowHeight, m_colors.shade);
     if (m_drawLines)
         DrawLine(dc, 0, row.bottom, row.right + 1, row.bottom);
-    if (m_drawDivider)
-        DrawLine(dc, m_gutter, row.top, m_gutter, row.bottom + 1);
 
     const int valueRight = PaintEditButton(tools, row, item);
     item.nameRect.SetRect(0, row.top, m_gutter, row.bottom);
@@ -249,6 +265,7 @@ void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
     dc.SetTextColor(item.editable ? m_colors.editable : m_colors.nonEditable);
     if (item.kind == IT_CUSTOM) {
         const CSavedDcState state(dc);
+        m_customItemDrew = true;
         std::get<ICustomItem*>(item.value)->DrawItem(dc, item.valueRect, item.id == m_focusedItem);
         return;
     }
@@ -261,7 +278,9 @@ void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
     const bool modified = item.IsModified();
     const bool changed = modified || item.undefined != item.savedUndefined;
     const bool bold = (m_boldEditable && item.editable) || (m_boldModified && changed);
-    const CSelectedObject font(dc, bold ? m_boldFont : m_font);
+    std::optional<CSelectedObject> font;
+    if (bold)
+        font.emplace(dc, m_boldFont);
     std::wstring text = item.GetText(m_texts, dc.GetDeviceCaps(LOGPIXELSY));
     if (item.IsPath() && !item.undefined)
         text = CompactPath(dc, text, cell.Width());
@@ -275,7 +294,9 @@ void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
 
 CRect CPropertyGrid::PaintSwatch(CPaintTools& tools, const CRect& cell, COLORREF color) {
     const CRect swatch(cell.left, cell.top + 3, cell.left + m_rowHeight, cell.bottom - 2);
-    tools.dc.FrameRect(&swatch, &tools.textBrush);
+    CBrush textBrush;
+    textBrush.CreateSolidBrush(m_colors.text);
+    tools.dc.FrameRect(&swatch, &textBrush);
     CRect inside = swatch;
     inside.DeflateRect(1, 1);
     tools.dc.FillSolidRect(&inside, color);

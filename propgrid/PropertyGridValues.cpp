@@ -6,7 +6,7 @@
 
 UINT CPropertyGrid::AddSection(const std::wstring& name, bool collapsed, UINT before) {
     const UINT id = m_contents.AddSection(name, collapsed, before);
-    Relayout();
+    RelayoutForMoreRows();
     return id;
 }
 
@@ -17,7 +17,7 @@ UINT CPropertyGrid::AddItem(UINT section, EItemType kind, const std::wstring& na
         return NO_ID;
     const UINT id = m_contents.AddItem(section, kind, name, std::move(read), editable, undefined);
     if (id != NO_ID)
-        Relayout();
+        RelayoutForMoreRows();
     return id;
 }
 
@@ -25,7 +25,10 @@ UINT CPropertyGrid::AddItemWithOption(UINT section, EItemType kind, const std::w
                                       const void* value, const std::wstring& option, bool editable,
                                       bool undefined) {
     const UINT id = AddItem(section, kind, name, value, editable, undefined);
-    if (CGridItem* const item = m_contents.FindItem(id))
+    // The usual format is what a number without one has: a row costs less so.
+    const bool isUsual = (kind == IT_INTEGER && option == L"%d") || (kind == IT_DOUBLE && option == L"%g");
+    CGridItem* const item = m_contents.FindItem(id);
+    if (item != nullptr && !isUsual)
         item->options.assign(1, option);
     return id;
 }

@@ -173,6 +173,28 @@ TEST(GridContents, AddsTheLastOfManyRowsForTheCostOfTheFirst) {
     EXPECT_EQ(AddNumber(contents, 0, L"row 7"), none);
 }
 
+TEST(GridContents, SortsByNameAgainAfterARowOrASectionWasAdded) {
+    CGridContents contents;
+    contents.AddSection(L"A", false, none);
+    const auto ids = [&] {
+        std::vector<UINT> sorted;
+        for (const CGridItem* const item : contents.WalkSorted())
+            sorted.push_back(item->id);
+        return sorted;
+    };
+    AddNumber(contents, 0, L"b");
+    AddNumber(contents, 0, L"a");
+    EXPECT_EQ(ids(), (std::vector<UINT>{1, 0}));
+    AddNumber(contents, 0, L"B");
+    EXPECT_EQ(ids(), (std::vector<UINT>{2, 1, 0}));
+    // Equal names stay in section order.
+    contents.AddSection(L"C", false, 0);
+    AddNumber(contents, 1, L"b");
+    EXPECT_EQ(ids(), (std::vector<UINT>{2, 1, 3, 0}));
+    contents.Clear();
+    EXPECT_TRUE(ids().empty());
+}
+
 TEST(GridContents, SpreadsTheSameNameInManySections) {
     CGridContents contents;
     for (UINT section = 0; section < 5000; ++section) {

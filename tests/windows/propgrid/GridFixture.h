@@ -99,7 +99,11 @@ protected:
         return {grid.GetGutterWidth() + 1, row * RowHeight(), 300, (row + 1) * RowHeight()};
     }
     SCROLLINFO ScrollInfo() const;
-    CWnd* ScrollBar() const { return grid.GetDlgItem(1000); }
+    // The grid shows its bar by the time that it handles a message.
+    CWnd* ScrollBar() const {
+        grid.SendMessage(WM_NULL);
+        return grid.GetDlgItem(1000);
+    }
     bool ScrollBarShows() const { return ScrollBar() != nullptr && ScrollBar()->IsWindowVisible(); }
 
     CGridParent parent;

@@ -119,6 +119,7 @@ protected:
         ExpectNoEditorLeft();
     }
     void Fill() {
+        grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
         grid.ResetContents();
         custom.calls = {};
         custom.calls.shrink_to_fit();

@@ -58,6 +58,28 @@ TEST_F(PropertyGridLayout, ShowsTheScrollBarWhenTheRowsFillTheWindowExactly) {
     EXPECT_EQ(info.nPos, 0);
 }
 
+TEST_F(PropertyGridLayout, ABarThatIsAskedKnowsTheRowsThatWereAddedSinceTheLastMessage) {
+    Fill(5, 5);
+    const HWND bar = ScrollBar()->m_hWnd;
+    for (const int rows : {1, 7, 100}) {
+        AddRows(0, rows);
+        int first = 0, last = 0;
+        ::GetScrollRange(bar, SB_CTL, &first, &last);
+        EXPECT_EQ(last, Total());
+    }
+}
+
+TEST_F(PropertyGridLayout, RowsAddedWithoutAMessageBetweenAreAllPainted) {
+    Fill(0, 5);
+    PumpMessages();
+    AddRows(0, 3);
+    PumpMessages();
+    CRect name, value;
+    ASSERT_TRUE(grid.GetItemRects(2, name, value));
+    EXPECT_EQ(value.top, 2 * RowHeight());
+    EXPECT_FALSE(value.IsRectEmpty());
+}
+
 TEST_F(PropertyGridLayout, PutsTheScrollBarAtTheRightEdge) {
     Fill(9, 5);
     CRect bar;

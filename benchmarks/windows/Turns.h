@@ -1,0 +1,15 @@
+// Times of work that must be prepared: what comes before a turn is not measured.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+struct STurn {
+    std::function<void()> prepare;
+    std::function<void()> work;
+};
+
+// The median time of each piece of work, in nanoseconds. The pieces take turns, so that what else the machine
+// does meets all of them alike; a first round warms up and does not count.
+std::vector<double> MedianTurns(const std::vector<STurn>& turns, std::size_t rounds);
