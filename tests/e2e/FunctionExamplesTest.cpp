@@ -28,7 +28,7 @@ protected:
 
     // The dialog without a title that is open now.
     Window Untitled() const {
-        const Window window = Window::WithoutTitle("devhost.exe");
+        Window window = Window::WithoutTitle("devhost.exe");
         EXPECT_TRUE(window.IsValid()) << host.Errors();
         window.LookWhenStill();
         return window;

@@ -110,7 +110,7 @@ Page ReadPage(const fs::path& path) {
     return page;
 }
 
-std::vector<Page> AllPages() {
+static std::vector<Page> ReadAllPages() {
     std::vector<fs::path> paths = {"README.md", "CHANGELOG.md"};
     for (const char* folder : {"docs", "samples"}) {
         for (const fs::directory_entry& file :
@@ -121,8 +121,14 @@ std::vector<Page> AllPages() {
     }
     std::sort(paths.begin(), paths.end());
     std::vector<Page> pages;
+    pages.reserve(paths.size());
     for (const fs::path& path : paths)
         pages.push_back(ReadPage(path));
+    return pages;
+}
+
+const std::vector<Page>& AllPages() {
+    static const std::vector<Page> pages = ReadAllPages();
     return pages;
 }
 

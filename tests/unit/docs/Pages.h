@@ -24,7 +24,7 @@ struct Page {
 Page ReadPage(const std::filesystem::path& path);
 
 // README.md, CHANGELOG.md and all pages of docs/ and samples/.
-std::vector<Page> AllPages();
+const std::vector<Page>& AllPages();
 
 // The text of a file, in UTF-8 with "\n" line ends. Templates and working files (*.TXT) are single-byte text.
 std::string TextOf(const std::filesystem::path& path);
