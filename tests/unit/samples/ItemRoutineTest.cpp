@@ -22,6 +22,11 @@ std::map<int, char> ParametersOf(const std::map<int, std::string>& shown, const 
     return types;
 }
 
+std::string BytesOf(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 // Another value that is near enough to be allowed.
 std::string Changed(const std::string& value, char type) {
     if (type == 'I')
@@ -233,13 +238,17 @@ TEST_F(ItemRoutine, TheWorkingFileIsTheTemplateUnderALineOfItsOwn) {
     chosen = "half";
     presses = false;
     Run("(staircase)");
-    const auto read = [this](const char* name) {
-        std::ifstream file(folder / name, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(file), {});
-    };
-    const std::string original = read("staircase.TXT");
-    EXPECT_EQ(read("staircase_TMP.TXT"),
+    const std::string original = BytesOf(folder / "staircase.TXT");
+    EXPECT_EQ(BytesOf(folder / "staircase_TMP.TXT"),
               "(working file of staircase.lsp)\r\n" + original.substr(original.find('\n') + 1));
+}
+
+TEST_F(ItemRoutine, TheDoorsWorkingFileAmongTheSamplesIsTheRoutines) {
+    Load("door");
+    chosen = "single";
+    presses = false;
+    Run("(door)");
+    EXPECT_EQ(BytesOf(folder / "door_TMP.TXT"), BytesOf(SAMPLES_DIR "/door/door_TMP.TXT"));
 }
 
 }  // namespace
