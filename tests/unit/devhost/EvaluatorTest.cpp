@@ -61,6 +61,17 @@ TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
     EXPECT_EQ(Mistake(L"(one)"), Unknown(L"ONE"));
 }
 
+TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenAway) {
+    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    EXPECT_TRUE(m_evaluator.Define(L"one", one));
+    EXPECT_EQ(Evaluate(L"(defun one () 2) (one)"), L"2");
+    EXPECT_FALSE(m_evaluator.Undefine(L"one"));
+    EXPECT_EQ(Evaluate(L"(one)"), L"2");
+    EXPECT_TRUE(m_evaluator.Define(L"one", one));
+    EXPECT_EQ(Evaluate(L"(one)"), L"1");
+    EXPECT_FALSE(m_evaluator.Define(L"car", one)) << "a built-in function";
+}
+
 TEST_F(Evaluator, WhatIsNoNameIsNotDefined) {
     const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
     for (const wchar_t* name : {L"", L"5", L"nil", L"t", L"quote", L"a b", L"(a"})
