@@ -5,6 +5,8 @@
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <ostream>
 #include <set>
 #include <sstream>
@@ -102,10 +104,14 @@ TEST_P(ModuleFile, IsProtectedLikeItsCompanions) {
     }
 }
 
-// What would differ from one build to the next.
-TEST_P(ModuleFile, HoldsNoTimeOfItsBuild) {
-    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"})
+// What would differ from one build to the next, or from one checkout to another.
+TEST_P(ModuleFile, HoldsNeitherTimeNorPlaceOfItsBuild) {
+    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"}) {
         EXPECT_NE(Headers(file).find("Thu Jan  1 00:00:00 1970"), std::string::npos) << file;
+        std::ifstream stream(fs::path(GetParam().folder) / file, std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+        EXPECT_EQ(bytes.find(fs::path(SAMPLES_DIR).parent_path().string()), std::string::npos) << file;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
