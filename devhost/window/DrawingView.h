@@ -63,7 +63,7 @@ private:
     // DrawingViewPaint.cpp
     void Paint();
     void PaintScene(HDC dc, const RECT& client);
-    void PaintRubberLine(HDC dc) const;
+    void PaintRubberLine(HDC dc, const RECT& client) const;
     void PaintCrosshair(HDC dc) const;
     void PaintSnapMark(HDC dc) const;
     void PaintCrosses(HDC dc) const;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "DrawingView.h"
+#include "Outline.h"
 #include "ScenePaint.h"
 
 namespace {
@@ -18,6 +19,10 @@ constexpr COLORREF kCrosshair = RGB(40, 40, 40);
 constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
 constexpr COLORREF kRubberLine = RGB(120, 120, 120);
 constexpr COLORREF kSnapMark = RGB(214, 112, 0);
+
+POINT Rounded(SPoint pixel) {
+    return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
+}
 
 void DrawLine(HDC dc, POINT from, POINT to) {
     MoveToEx(dc, from.x, from.y, nullptr);
@@ -34,7 +39,7 @@ void DrawCross(HDC dc, POINT middle, int arm) {
 void CDrawingView::Paint() {
     const CBufferedPaint paint(m_window);
     PaintScene(paint.Dc(), paint.Client());
-    PaintRubberLine(paint.Dc());
+    PaintRubberLine(paint.Dc(), paint.Client());
     PaintCrosshair(paint.Dc());
     PaintSnapMark(paint.Dc());
     PaintCrosses(paint.Dc());
@@ -50,13 +55,17 @@ void CDrawingView::PaintScene(HDC dc, const RECT& client) {
     BitBlt(dc, 0, 0, client.right, client.bottom, scene.Get(), 0, 0, SRCCOPY);
 }
 
-void CDrawingView::PaintRubberLine(HDC dc) const {
+void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
     if (!m_base)
+        return;
+    const auto line = Clip({m_view.ToPixel(*m_base), m_view.ToPixel(MousePoint())},
+                           {{0, 0}, {double(client.right), double(client.bottom)}});
+    if (!line)
         return;
     const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
     const CSelection selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
-    DrawLine(dc, ToPixel(*m_base), ToPixel(MousePoint()));
+    DrawLine(dc, Rounded(line->from), Rounded(line->to));
 }
 
 void CDrawingView::PaintCrosshair(HDC dc) const {
@@ -89,6 +98,5 @@ POINT CDrawingView::ToPixel(SPoint point) const {
     // Nothing that far away is seen, and larger numbers do not fit the system's.
     constexpr double kFar = 1e6;
     const SPoint pixel = m_view.ToPixel(point);
-    return {LONG(std::lround(std::clamp(pixel.x, -kFar, kFar))),
-            LONG(std::lround(std::clamp(pixel.y, -kFar, kFar)))};
+    return Rounded({std::clamp(pixel.x, -kFar, kFar), std::clamp(pixel.y, -kFar, kFar)});
 }

@@ -60,8 +60,8 @@ CMainMenu::CMainMenu(HWND window)
 }
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
-    while (RemoveMenu(m_items, 0, MF_BYPOSITION))
-        continue;
+    while (GetMenuItemCount(m_items) > 0)
+        RemoveMenu(m_items, 0, MF_BYPOSITION);
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const std::wstring key = i < kItemKeys ? L"\tCtrl+" + std::to_wstring(i + 1) : L"";
         AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, (Shown(titles[i]) + key).c_str());

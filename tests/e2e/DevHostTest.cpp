@@ -125,6 +125,16 @@ TEST_F(DevHostWindow, UnitsAndPrecisionAreChosenInTheStatusLine) {
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
+TEST_F(DevHostWindow, F1TellsWhatItIs) {
+    window.Press("F1");
+    const Window about = Window::WithTitle("About DevHost");
+    ASSERT_TRUE(about.IsValid());
+    about.Press("Return");
+    EXPECT_TRUE(WaitUntil([&] { return !about.IsOpen(); }));
+    window.Press("alt+F4");
+    EXPECT_EQ(host.Wait(), 0) << host.Errors();
+}
+
 TEST_F(DevHostWindow, EscapeEndsAnEndlessLoop) {
     Type("(while T (setq a 1))");
     // Busy: what is typed goes nowhere.

@@ -95,6 +95,26 @@ TEST_F(Paint, TheSnapShowsAMarkWhilePicking) {
     EXPECT_EQ(Look().Count(area, kSnapMark), 0);
 }
 
+TEST_F(Paint, ALineFollowsTheMouseFromABaseHoweverFarAway) {
+    constexpr COLORREF rubber = RGB(120, 120, 120);
+    MoveMouse(200, Y(150));
+    int atMouse = 0;
+    int beside = 0;
+    m_window.SetFormatHandler([&](int, int) {
+        const CClientPixels pixels = Look();
+        atMouse = pixels.Count({100, Y(150), 180, Y(150) + 1}, rubber);
+        beside = pixels.Count({220, Y(150), 300, Y(150) + 1}, rubber);
+    });
+    PostCommand(IDM_UNITS + 2);
+    PostKey(VK_ESCAPE);
+    m_window.Ask(L"p", SPoint{-1e9, 150}, ASK_POINT);
+    EXPECT_GT(atMouse, 20);
+    EXPECT_EQ(beside, 0);
+    RECT area;
+    GetClientRect(Area(), &area);
+    EXPECT_EQ(Look().Count(area, rubber), 0);
+}
+
 TEST_F(Paint, CrossesStayAtTheirPlaceInTheDrawingUntilItIsCleared) {
     constexpr COLORREF cross = RGB(0, 60, 160);
     PickAt(150, Y(110));

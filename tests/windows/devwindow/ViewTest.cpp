@@ -112,6 +112,24 @@ TEST_F(View, TheStatusLineShowsWhereTheMouseIs) {
     EXPECT_STREQ(text, L"100, 45");
 }
 
+TEST_F(View, TheStripBelowTheDrawingSharesTheHeight) {
+    const int before = AreaHeight();
+    const SPoint grabbed = PickAt(50, before - 20);
+    POINT strip = {200, before + 3};
+    MapWindowPoints(Area(), m_window.Handle(), &strip, 1);
+    POINT onScreen = strip;
+    ClientToScreen(m_window.Handle(), &onScreen);
+    // Whether the mouse is on the strip is asked of the real one.
+    SetCursorPos(onScreen.x, onScreen.y);
+    SendMessageW(m_window.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(strip.x, strip.y));
+    SendMessageW(m_window.Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(strip.x, strip.y - 100));
+    SendMessageW(m_window.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(strip.x, strip.y - 100));
+    EXPECT_NEAR(AreaHeight(), before - 100, 1);
+    ExpectNear(PickAt(50, AreaHeight() - 20), grabbed.x, grabbed.y);
+    SendMessageW(m_window.Handle(), WM_MOUSEMOVE, 0, MAKELPARAM(strip.x, strip.y));
+    EXPECT_NEAR(AreaHeight(), before - 100, 1) << "the button is up";
+}
+
 TEST(ViewLife, OpeningDrawingAndClosingLeavesNoObjectsBehind) {
     CDrawing drawing;
     drawing.Add(SCircle{{200, 200}, 100});
