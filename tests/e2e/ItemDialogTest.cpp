@@ -90,7 +90,8 @@ TEST_F(ItemDialog, ThePictureTakesTheWholeLeftPart) {
 TEST_F(ItemDialog, OpensWithoutAPicture) {
     host.UseSample("door");
     std::filesystem::remove(host.Folder() / "door.png");
-    host.Start({"--check-heap", "--eval", R"((tavrinwnd "door"))"});
+    // Other items than those beside the program, which have a picture.
+    host.Start({"--check-heap", "--items", ".", "--eval", R"((tavrinwnd "door"))"});
     dialog = Window::WithTitle("Porta a battente");
     ASSERT_TRUE(dialog.IsValid());
     LookWhenPainted();
