@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr std::size_t kStepsBetweenPolls = 4096;
+constexpr std::uint64_t kStepsBetweenPolls = 4096;
 // What an *error* function may use beyond the limit, since it runs where the error happened.
 constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
 
@@ -140,7 +140,7 @@ CLispResult CEvaluator::Run(const SSource& source) {
     }
 }
 
-void CEvaluator::SetStepLimit(std::size_t steps) {
+void CEvaluator::SetStepLimit(std::uint64_t steps) {
     m_stepLimit = steps;
 }
 
@@ -304,7 +304,7 @@ void CEvaluator::Assign(const std::wstring& name, CValue value) {
     m_variables[name] = std::move(value);
 }
 
-void CEvaluator::Step(std::size_t steps) {
+void CEvaluator::Step(std::uint64_t steps) {
     m_steps += steps;
     if (m_stepLimit != 0 && m_steps > m_stepLimit)
         throw CLispError(L"the evaluation takes more than " + std::to_wstring(m_stepLimit) + L" steps");

@@ -13,6 +13,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -48,7 +49,7 @@ public:
 
     // From here on an evaluation ends with an error after so many steps; a step is the evaluation of one
     // expression or the making of one element of a list. 0: no limit.
-    void SetStepLimit(std::size_t steps);
+    void SetStepLimit(std::uint64_t steps);
 
     // For built-in functions and special forms, while something runs.
 
@@ -72,7 +73,7 @@ public:
 
     ILispHost& Host() { return m_host; }
     // Counts steps, watches the limit and asks for Escape now and then.
-    void Step(std::size_t steps = 1);
+    void Step(std::uint64_t steps = 1);
     // Throws CLispError when the stack is nearly used up. For functions that recurse by themselves.
     void CheckStack() const;
 
@@ -97,9 +98,9 @@ private:
     ILispHost& m_host;
     std::size_t m_stackBytes;
     std::uintptr_t m_stackStart = 0;
-    std::size_t m_stepLimit = 0;
-    std::size_t m_steps = 0;
-    std::size_t m_nextPoll = 0;
+    std::uint64_t m_stepLimit = 0;
+    std::uint64_t m_steps = 0;
+    std::uint64_t m_nextPoll = 0;
     std::unordered_map<std::wstring, CValue> m_variables;
     SFrame* m_frame = nullptr;  // null while nothing runs
     bool m_inErrorHandler = false;

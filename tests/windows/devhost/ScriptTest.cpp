@@ -43,6 +43,11 @@ TEST_F(Script, PrintsWhatItPrintsAlone) {
     EXPECT_EQ(outcome.errors, "");
 }
 
+TEST_F(Script, TextsAreUtf16) {
+    EXPECT_EQ(Run("(princ \"\xF0\x9F\x9A\xAA \") (princ (strlen \"\xF0\x9F\x9A\xAA\"))").output,
+              "\xF0\x9F\x9A\xAA 2\n");
+}
+
 TEST_F(Script, ScriptsAndExpressionsAreDoneInTheOrderGiven) {
     m_folder.Write(L"second.lsp", "(princ (twice a))");
     const SOutcome outcome = Run("(defun twice (x) (* 2 x))", {L"--eval", L"(setq a 4) (princ)", L"--script",
@@ -149,10 +154,11 @@ TEST_F(Script, SystemVariablesAreSharedWithThePlugIn) {
 
 TEST_F(Script, FilesAreReadAndWrittenWhereTheFolderIsCurrent) {
     const SOutcome outcome =
-        Run("(setq f (open \"out.txt\" \"w\")) (write-line \"per\xC3\xB2\" f) (close f)"
-            "(setq f (open (findfile \"out.txt\") \"r\")) (princ (strlen (read-line f))) (close f)");
+        Run("(setq name \"citt\xC3\xA0 \xE9\x96\x80.txt\" f (open name \"w\")) (write-line \"per\xC3\xB2\" "
+            "f) (close f)"
+            "(setq f (open (findfile name) \"r\")) (princ (strlen (read-line f))) (close f)");
     EXPECT_EQ(outcome.output, "4\n");
-    EXPECT_EQ(Contents(L"out.txt"), "per\xF2\r\n");
+    EXPECT_EQ(Contents(L"citt\u00E0 \u9580.txt"), "per\xF2\r\n");
 }
 
 TEST_F(Script, TheVersionIsPrinted) {
