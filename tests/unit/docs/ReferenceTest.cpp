@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <regex>
 #include <string>
 
 #include "ChoiceLayout.h"
+#include "Options.h"
 #include "Pages.h"
 
 namespace {
@@ -60,6 +62,35 @@ TEST(Documentation, QuotesTheModulesMessages) {
         }
     }
     EXPECT_EQ(messagesSeen, 10);
+}
+
+// Every option behind a call of DevHost.exe, and those that the page on DevHost speaks of.
+TEST(Documentation, UsesOptionsThatDevHostHas) {
+    const std::wstring help = HelpText();
+    const std::regex option("--[a-z]+(-[a-z]+)*");
+    int optionsSeen = 0;
+    for (const Page& page : AllPages()) {
+        std::vector<std::string> calls;
+        for (const CodeBlock& block : page.blocks) {
+            const std::size_t call = block.text.find("DevHost.exe ");
+            if (call != std::string::npos)
+                calls.push_back(block.text.substr(call));
+        }
+        for (const std::string& span : page.spans) {
+            if (span.starts_with("DevHost.exe ") || (span.starts_with("--") && page.path.stem() == "devhost"))
+                calls.push_back(span);
+        }
+        for (const std::string& call : calls) {
+            for (std::sregex_iterator match(call.begin(), call.end(), option), end; match != end; ++match) {
+                ++optionsSeen;
+                const std::string text = match->str();
+                EXPECT_NE(help.find(L"  " + std::wstring(text.begin(), text.end()) + L" "),
+                          std::wstring::npos)
+                    << page.path << ": " << call;
+            }
+        }
+    }
+    EXPECT_GT(optionsSeen, 10);
 }
 
 }  // namespace
