@@ -198,5 +198,7 @@ void CDrawingView::RefreshScene() {
 }
 
 void CDrawingView::Invalidate() {
-    InvalidateRect(m_window, nullptr, FALSE);
+    // The drawing may change after the window was closed, and no window means every one to the system.
+    if (m_window != nullptr)
+        InvalidateRect(m_window, nullptr, FALSE);
 }
