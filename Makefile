@@ -8,7 +8,7 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 LINT_PACKAGES = clang-format clang-tidy cppcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run screenshots gallery lint bench fuzz dist packages
+.PHONY: help build test run screenshots gallery lint bench fuzz soak dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -20,6 +20,7 @@ help:
 	@echo "make test     build and run every test"
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
+	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
 	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
@@ -64,3 +65,6 @@ fuzz: packages
 lint: packages
 	@scripts/install-packages $(FUZZ_PACKAGES) $(LINT_PACKAGES)
 	@scripts/lint
+
+soak: packages
+	@scripts/soak
