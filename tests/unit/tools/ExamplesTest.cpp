@@ -17,12 +17,16 @@ private:
 };
 
 TEST_F(Examples, ThePreviewIsTheOneInTheDocumentation) {
-    EXPECT_EQ(OutputOf([] { RunPreview({"shelf.TXT", "--mode", "1", "--set", "1=1200"}); }),
+    EXPECT_EQ(OutputOf([] {
+                  RunPreview({"shelf.TXT", "--mode", "1", "--set", "1=1200"});
+              }),
               ReadBytes("preview.txt"));
 }
 
 TEST_F(Examples, TheExtractionIsTheOneInTheDocumentation) {
-    EXPECT_EQ(OutputOf([] { RunExtract({"shelf.TXT", "--from", "3101", "--rc", "TavrinRes.rc"}); }),
+    EXPECT_EQ(OutputOf([] {
+                  RunExtract({"shelf.TXT", "--from", "3101", "--rc", "TavrinRes.rc"});
+              }),
               ReadBytes("extract.txt"));
 }
 
