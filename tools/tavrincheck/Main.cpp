@@ -1,0 +1,89 @@
+// tavrincheck: the first argument names a subcommand.
+#include <cstdio>
+#include <exception>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+// After windows.h.
+#include <shellapi.h>
+#endif
+
+#include "ExtractCommand.h"
+#include "Files.h"
+#include "PreviewCommand.h"
+
+namespace {
+
+// The exit status of a run that could not do its work.
+constexpr int kCouldNotRun = 2;
+
+#ifdef _WIN32
+std::string Utf8(const wchar_t* text) {
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+    std::string bytes(size > 0 ? static_cast<std::size_t>(size - 1) : 0, '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), size, nullptr, nullptr);
+    return bytes;
+}
+
+// The runtime's arguments are in the system's code page, which not all names of files can be written in.
+std::vector<std::string> Arguments(int /*count*/, char** /*values*/) {
+    int count = 0;
+    wchar_t** const values = CommandLineToArgvW(GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i) {
+        arguments.push_back(Utf8(values[i]));
+    }
+    LocalFree(values);
+    return arguments;
+}
+
+// What is printed is UTF-8 with line feeds, the same on all systems.
+void PrepareOutput() {
+    SetConsoleOutputCP(CP_UTF8);
+    _setmode(_fileno(stdout), _O_BINARY);
+}
+#else
+std::vector<std::string> Arguments(int count, char** values) {
+    return std::vector<std::string>(values + (count > 0 ? 1 : 0), values + count);
+}
+
+void PrepareOutput() {}
+#endif
+
+// What a subcommand does with the arguments behind its name; gives the exit status. May throw CToolError.
+using Command = int (*)(const std::vector<std::string>& arguments);
+
+int Run(std::vector<std::string> arguments) {
+    static const std::map<std::string_view, Command> commands = {
+        {"extract", RunExtract},
+        {"preview", RunPreview},
+    };
+    const auto command = arguments.empty() ? commands.end() : commands.find(arguments.front());
+    if (command == commands.end()) {
+        throw CToolError("name a command: preview or extract, each with --help");
+    }
+    arguments.erase(arguments.begin());
+    return command->second(arguments);
+}
+
+}  // namespace
+
+int main(int count, char** values) {
+    try {
+        PrepareOutput();
+        return Run(Arguments(count, values));
+    } catch (const CToolError& error) {
+        std::fprintf(stderr, "tavrincheck: %s\n", error.what());
+    } catch (const std::bad_alloc&) {
+        std::fputs("tavrincheck: there is not enough memory\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "tavrincheck: %s\n", error.what());
+    }
+    return kCouldNotRun;
+}
