@@ -21,6 +21,10 @@ constexpr COLORREF kInk = RGB(28, 36, 48);
 constexpr int kDotDistance = 20;  // pixels, at least
 constexpr int kLargeDotEvery = 5;
 
+// Pixels that a chord of a curve may lie beside it. That is far less than what can be seen, so that chords
+// are short: their ends come to lie on whole pixels, and long ones would show as corners.
+constexpr double kCurveTolerance = 0.01;
+
 // Of a text: below the first it is only a stroke, beyond the second the system's fonts end.
 constexpr double kLeastTextSize = 3;
 constexpr double kMostTextSize = 8000;
@@ -60,13 +64,14 @@ public:
     }
 
     void Entities(const CDrawing& drawing) {
-        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kInk));
+        // Rounded down, so that details stay apart.
+        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
         const CSelection selection(m_dc, pen);
         for (const CEntity& entity : drawing.Entities())
             if (const auto* text = std::get_if<SText>(&entity))
                 Text(*text);
             else
-                Outline(OutlineOf(entity, m_view.UnitsPerPixel() / 8));
+                Outline(OutlineOf(entity, m_view.UnitsPerPixel() * kCurveTolerance));
     }
 
 private:
