@@ -12,7 +12,7 @@
 #include <string>
 
 #include "BenchTable.h"
-#include "BlockTracker.h"
+#include "ItemContents.h"
 #include "TemplateRewrite.h"
 #include "TemplateText.h"
 
@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 class CWorkFolder {
 public:
     CWorkFolder() {
-        std::string name = (fs::temp_directory_path() / "tavrin-bench-XXXXXX").string();
+        std::string name = (Memory() / "tavrin-bench-XXXXXX").string();
         if (mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("no folder for files can be made at " + name);
         }
@@ -40,6 +40,12 @@ public:
     fs::path File(const char* name) const { return m_path / name; }
 
 private:
+    // A folder in memory where there is one: a disk's time would hide ours.
+    static fs::path Memory() {
+        const fs::path memory = "/dev/shm";
+        return fs::is_directory(memory) ? memory : fs::temp_directory_path();
+    }
+
     fs::path m_path;
 };
 
@@ -70,21 +76,9 @@ void WriteLines(const fs::path& path, const TextLines& lines) {
     }
 }
 
-ParamRecordMap RecordsOf(const TextLines& lines) {
-    ParamRecordMap records;
-    CBlockTracker block;
-    const TextLookup lookup = [](unsigned id) { return L"Text " + std::to_wstring(id); };
-    for (std::size_t index = 0; index < lines.size(); ++index) {
-        if (!block.TakeLine(lines[index])) {
-            continue;
-        }
-        const auto lineIndex = static_cast<std::int32_t>(index);
-        if (std::optional<ParameterRow> row =
-                ReadParameter(lines[index], lineIndex, 1.0, kReadOnlyMode, lookup)) {
-            records[lineIndex] = std::move(row->record);
-        }
-    }
-    return records;
+ItemContents ReadContents(const fs::path& path) {
+    static const std::wstring text = L"Width";
+    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned) { return text; });
 }
 
 struct Task {
@@ -104,14 +98,17 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
     const fs::path source = folder.File("door.TXT");
     const fs::path target = folder.File("written.TXT");
     WriteLines(source, TemplateOf(parameters));
-    const ParamRecordMap records = RecordsOf(ReadLines(source));
+    ParamRecordMap records;
+    for (const ItemParameter& parameter : ReadContents(source).parameters) {
+        records.emplace(parameter.record.lineIndex, parameter.record);
+    }
     if (records.size() != parameters) {
         throw std::runtime_error("not every parameter was read");
     }
     const ValueTextOf valueTextOf = [](const ParamRecord& record) { return ValueText(record, 1.0); };
     const auto copy = [&] { WriteLines(target, ReadLines(source)); };
     const Task tasks[] = {
-        {"reading the parameters", "reading the lines", [&] { Use(RecordsOf(ReadLines(source)).size()); },
+        {"reading the parameters", "reading the lines", [&] { Use(ReadContents(source).parameters.size()); },
          [&] { Use(ReadLines(source).size()); }},
         {"rewriting the working file", "reading and writing the lines",
          [&] {

@@ -27,6 +27,7 @@ EParameterRow RowOf(const ParamRecord& record, std::unordered_set<std::wstring>&
 
 ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup) {
     ItemContents item;
+    item.parameters.reserve(lines.size());  // nearly every line is one
     std::unordered_set<std::wstring> labels;
     CBlockTracker block;
     for (std::size_t index = 0; index < lines.size(); ++index) {

@@ -21,12 +21,12 @@ public:
     const wchar_t* MatchEnd() const { return m_match.end; }
 
     // One pair for each capturing group of the pattern, in the order of their opening braces, from 0.
-    std::size_t GroupCount() const { return m_groups.size(); }
-    const Pair& Group(std::size_t index) const { return m_groups[index]; }
+    std::size_t GroupCount() const { return m_groupCount; }
+    const Pair& Group(std::size_t index) const { return Groups()[index]; }
 
     // The text of a group; empty when it took no part in the match.
     std::wstring_view GroupText(std::size_t index) const {
-        const Pair& group = m_groups[index];
+        const Pair& group = Group(index);
         return group.start == nullptr
                    ? std::wstring_view()
                    : std::wstring_view(group.start, static_cast<std::size_t>(group.end - group.start));
@@ -39,15 +39,26 @@ public:
 private:
     friend class CPatternMatcher;
 
+    // Patterns have few groups: their pairs need no memory from the heap.
+    static constexpr std::size_t kInlineGroups = 4;
+
+    const Pair* Groups() const {
+        return m_groupCount <= kInlineGroups ? m_inlineGroups : m_manyGroups.data();
+    }
+    Pair* Groups() { return m_groupCount <= kInlineGroups ? m_inlineGroups : m_manyGroups.data(); }
+
     // As many pairs as that, all null.
     void ResetGroups(std::size_t count) {
-        if (m_groups.size() != count) {
-            m_groups.resize(count);
+        if (count > kInlineGroups) {
+            m_manyGroups.resize(count);
         }
-        std::fill(m_groups.begin(), m_groups.end(), Pair());
+        m_groupCount = count;
+        std::fill_n(Groups(), count, Pair());
     }
 
     Pair m_match;
-    std::vector<Pair> m_groups;
+    std::size_t m_groupCount = 0;
+    Pair m_inlineGroups[kInlineGroups];
+    std::vector<Pair> m_manyGroups;  // used instead when there are more
     std::size_t m_steps = 0;
 };

@@ -81,7 +81,10 @@ std::int64_t TakeExponent(CScanner& scanner) {
 
 // The value of "whole.fraction" times ten to the power of the exponent.
 double ScaledValue(const std::string& whole, const std::string& fraction, std::int64_t exponent) {
-    const std::string text = whole + '.' + fraction + 'e' + std::to_string(exponent);
+    std::string text = whole + '.' + fraction;
+    if (exponent != 0) {
+        text += 'e' + std::to_string(exponent);
+    }
     double value = 0.0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec != std::errc::result_out_of_range) {
@@ -134,6 +137,12 @@ std::wstring GeneralText(double value) {
         return L"nan";
     }
     constexpr int kSignificantDigits = 6;
+    // The most frequent values need no decimal arithmetic.
+    constexpr double kMostDigits = 1e6;
+    if (std::abs(value) < kMostDigits && value == std::trunc(value) &&
+        !(value == 0.0 && std::signbit(value))) {
+        return IntText(static_cast<int>(value));
+    }
     std::array<char, 32> text{};
     const auto result = std::to_chars(text.data(), text.data() + text.size(), value,
                                       std::chars_format::general, kSignificantDigits);
@@ -141,5 +150,7 @@ std::wstring GeneralText(double value) {
 }
 
 std::wstring IntText(int value) {
-    return std::to_wstring(value);
+    std::array<char, 16> text{};
+    const auto result = std::to_chars(text.data(), text.data() + text.size(), value);
+    return {text.data(), result.ptr};
 }

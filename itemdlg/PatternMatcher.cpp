@@ -50,7 +50,7 @@ bool CPatternMatcher::MatchUpTo(const wchar_t* input, const wchar_t* inputEnd, C
         if (input == nullptr || m_program.code.empty()) {
             return false;
         }
-        CPatternSearch search(m_program, inputEnd, context->m_groups.data());
+        CPatternSearch search(m_program, inputEnd, context->Groups());
         const wchar_t* start = input;
         const wchar_t* end = search.MatchAt(start);
         // The place behind the last character is a start position in an empty input alone.
@@ -68,9 +68,9 @@ bool CPatternMatcher::MatchUpTo(const wchar_t* input, const wchar_t* inputEnd, C
         }
         return end != nullptr;
     } catch (const std::bad_alloc&) {
-        context->m_groups.clear();
+        context->ResetGroups(0);
     } catch (const std::length_error&) {
-        context->m_groups.clear();
+        context->ResetGroups(0);
     }
     return false;
 }

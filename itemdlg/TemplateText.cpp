@@ -40,17 +40,22 @@ std::int32_t TypeOf(wchar_t letter) {
 }  // namespace
 
 std::optional<ParameterLine> ParseParameterLine(const std::wstring& line) {
+    const std::optional<ParameterParts> parts = SplitParameterLine(line);
+    if (!parts) {
+        return std::nullopt;
+    }
+    return ParameterLine{std::wstring(parts->number), std::wstring(parts->label), parts->typeLetter,
+                         std::wstring(parts->value)};
+}
+
+std::optional<ParameterParts> SplitParameterLine(const std::wstring& line) {
     static const CPatternMatcher matcher = Compiled(kParameterPattern);
     CMatchContext context;
     if (!MatchesPattern(matcher, line, context)) {
         return std::nullopt;
     }
-    ParameterLine parameter;
-    parameter.number = context.GroupText(0);
-    parameter.label = context.GroupText(1);
-    parameter.typeLetter = context.GroupText(2).front();
-    parameter.value = context.GroupText(3);
-    return parameter;
+    return ParameterParts{context.GroupText(0), context.GroupText(1), context.GroupText(2).front(),
+                          context.GroupText(3)};
 }
 
 int PlaceholderNumber(const std::wstring& text) {
@@ -95,22 +100,26 @@ bool TakeReadOnlyMark(std::wstring& label) {
 
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
                                           int mode, const TextLookup& lookup) {
-    const std::optional<ParameterLine> parameter = ParseParameterLine(line);
+    const std::optional<ParameterParts> parameter = SplitParameterLine(line);
     if (!parameter) {
         return std::nullopt;
     }
-    ParameterRow row;
+    std::optional<ParameterRow> read(std::in_place);
+    ParameterRow& row = *read;
     ParamRecord& record = row.record;
     record.number = parameter->number;
     record.lineIndex = lineIndex;
-    // Also for a label without placeholder, which so loses its first character when it is written back.
-    record.labelPrefix = LabelPrefix(parameter->label);
-    record.labelSuffix = LabelSuffix(parameter->label);
     record.label = parameter->label;
-    if (const int number = PlaceholderNumber(parameter->label); number != 0) {
-        record.label = record.labelPrefix + ResourceText(number, lookup) + record.labelSuffix;
-        // Of the whole line: a placeholder in the value would be the last one and count.
-        record.resourceId = PlaceholderNumber(line);
+    // Also for a label without placeholder, which so loses its first character when it is written back.
+    record.labelPrefix = LabelPrefix(record.label);
+    record.labelSuffix = LabelSuffix(record.label);
+    if (const int number = PlaceholderNumber(record.label); number != 0) {
+        record.label.assign(record.labelPrefix)
+            .append(ResourceText(number, lookup))
+            .append(record.labelSuffix);
+        // That of the whole line: a placeholder in the value would be the last one and count.
+        const bool inValue = parameter->value.find(L"<<") != std::wstring_view::npos;
+        record.resourceId = inValue ? PlaceholderNumber(line) : number;
     }
     const bool marked = TakeReadOnlyMark(record.label);
     row.editable = !marked || mode != kReadOnlyMode;
@@ -120,5 +129,5 @@ std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t
     } else if (record.type == 'D' || record.type == 'R') {
         record.realValue = DecimalValue(parameter->value) * scale;
     }
-    return row;
+    return read;
 }

@@ -21,6 +21,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "ParamRecord.h"
 
@@ -40,6 +41,16 @@ struct ParameterLine {
 // directly before a type letter, so that a label may hold quotes. Small type letters have the form as well,
 // though they are no valid types: ReadParameter gives them type 'U'. Does not look at blocks.
 std::optional<ParameterLine> ParseParameterLine(const std::wstring& line);
+
+// The same parts as views into the line, for those who need not keep them.
+struct ParameterParts {
+    std::wstring_view number;
+    std::wstring_view label;
+    wchar_t typeLetter = L'\0';
+    std::wstring_view value;
+};
+
+std::optional<ParameterParts> SplitParameterLine(const std::wstring& line);
 
 // The number in the last placeholder of a text; 0 when there is none, when it holds no digits or when the
 // number is 0, which all mean that the text has no placeholder. Beyond the range of int it is the largest

@@ -267,3 +267,17 @@ TEST(Rewrite, OfManyParametersFindsEachOne) {
     RewriteWorkingFile(rewritten, records, ValuesAt(1.0));
     EXPECT_EQ(rewritten.back(), L"$19999 = 19999");
 }
+
+TEST(Rewrite, OfNumbersInAnyOrderFindsEachOne) {
+    const std::vector<std::wstring> numbers = {L"7", L"100", L"20", L"", L"3", L"0100", L"19", L"20", L"007"};
+    TextLines lines = {L"VAR"};
+    for (std::size_t line = 0; line < numbers.size(); ++line) {
+        lines.push_back(L"$" + numbers[line] + L" = \"<<5>>\"I " + std::to_wstring(line));
+    }
+    TextLines rewritten = lines;
+    RewriteTemplateFile(rewritten, ReadAll(lines), ValuesAt(1.0));
+    EXPECT_EQ(rewritten[3], lines[3]) << "its number comes again further down";
+    for (const std::size_t line : {0, 1, 3, 4, 5, 6, 7, 8}) {
+        EXPECT_EQ(rewritten[line + 1], L"$" + numbers[line] + L" = \"<<5>>\"I" + std::to_wstring(line));
+    }
+}
