@@ -73,6 +73,7 @@ CLispResult CHost::Invoke(const std::wstring& name, short code, std::span<const 
     SRequest request(SDS_INVOKE, code);
     for (const CValue& argument : arguments)
         AddArgument(request.arguments, argument, name);
+    m_output.Tell();
     const int answer = Run(*m_entry, request);
     if (request.failure)
         throw CReportedError(*request.failure);

@@ -65,6 +65,7 @@ SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoi
 }
 
 bool CLispConsole::IsEscapePressed() {
+    m_output.TellNowAndThen();
     return m_window.PollEscape();
 }
 

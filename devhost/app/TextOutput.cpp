@@ -6,6 +6,11 @@ namespace {
 
 constexpr wchar_t kProgram[] = L"DevHost";
 
+// For the listener: milliseconds between pieces of text, characters of one piece, and of all together.
+constexpr unsigned long long kPause = 100;
+constexpr std::size_t kMostOfPiece = 10'000;
+constexpr std::size_t kMostCollected = 40'000;
+
 bool IsConsole(HANDLE handle) {
     DWORD mode;
     return GetConsoleMode(handle, &mode) != FALSE;
@@ -61,27 +66,54 @@ void CTextOutput::Text(std::wstring_view text) {
         return;
     Write(STD_OUTPUT_HANDLE, text);
     m_isLineOpen = text.back() != L'\n';
-    if (m_listener)
-        m_listener(text);
+    Collect(text);
+    TellNowAndThen();
 }
 
 void CTextOutput::EndLine() {
     if (m_isLineOpen)
         Text(L"\n");
+    Tell();
+}
+
+void CTextOutput::Collect(std::wstring_view text) {
+    if (!m_listener)
+        return;
+    m_collected += text.substr(0, kMostOfPiece);
+    if (text.size() > kMostOfPiece)
+        m_collected += text.back() == L'\n' ? L"...\n" : L"...";
+    if (m_collected.size() > kMostCollected) {
+        // The older part, up to the end of a line.
+        const std::size_t end = m_collected.find(L'\n', kMostCollected / 2);
+        m_collected.erase(0, end != std::wstring::npos ? end + 1 : kMostCollected / 2);
+    }
+}
+
+void CTextOutput::Tell() {
+    if (m_listener && !m_collected.empty())
+        m_listener(m_collected);
+    m_collected.clear();
+    m_lastTold = GetTickCount64();
+}
+
+void CTextOutput::TellNowAndThen() {
+    if (GetTickCount64() - m_lastTold >= kPause)
+        Tell();
 }
 
 void CTextOutput::Line(std::wstring_view text) {
     EndLine();
     Text(OnOneLine(text) + L'\n');
+    Tell();
 }
 
 void CTextOutput::Error(std::wstring_view text) {
     EndLine();
     const std::wstring line = OnOneLine(text);
     Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
-    if (m_listener)
-        m_listener(L"; error: " + line + L'\n');
-    else if (m_useBoxes)
+    Collect(L"; error: " + line + L'\n');
+    Tell();
+    if (!m_listener && m_useBoxes)
         MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
 }
 

@@ -65,6 +65,21 @@ TEST_F(Conversation, DefinitionsStayFromLineToLine) {
     EXPECT_EQ(Close().status, 0u);
 }
 
+TEST_F(Conversation, MuchOutputDoesNotHoldUpWhatRuns) {
+    const CTestFolder folder;
+    folder.Write(L"test.lsp",
+                 "(setq n 0) (repeat 20000 (princ (setq n (1+ n))) (terpri))"
+                 "(setq s \"x\") (repeat 20 (setq s (strcat s s))) (princ s) (terpri)");
+    Start({L"--script", L"test.lsp", L"--stay"});
+    WaitForOutput(L"\r\n20000\r\n" + std::wstring(10'000, L'x') + L"...");
+    Type(L"s");
+    WaitForOutput(L"\r\ns\r\n\"" + std::wstring(9'999, L'x') + L"...");
+    const SOutcome outcome = Close();
+    EXPECT_EQ(outcome.status, 0u);
+    EXPECT_TRUE(outcome.output.starts_with("1\n2\n3\n"));
+    EXPECT_GT(outcome.output.size(), 2u << 20) << "all of it stands on the standard output";
+}
+
 TEST_F(Conversation, QuestionsAreAnsweredByTyping) {
     Start({L"--eval",
            L"(list (getpoint \"\\nWhere? \") (getpoint '(1 1) \"Next? \") (getdist \"How far? \") (getint "
