@@ -100,21 +100,23 @@ CEvaluator::CEvaluator(ILispHost& host, std::size_t stackBytes) : m_host(host), 
 
 bool CEvaluator::Define(std::wstring_view name, CLispFunction function) {
     const std::wstring upperCase = UpperCase(name);
-    if (!IsSymbolName(name))
-        return false;
-    const CValue before = Variable(upperCase);
-    if (before.Type() == VT_FUNCTION && !std::holds_alternative<SDefinition>(before.AsFunction()->code))
+    if (!IsSymbolName(name) || IsOfTheProgram(upperCase))
         return false;
     m_variables[upperCase] = CValue::Function(std::make_shared<SFunction>(upperCase, std::move(function)));
     return true;
 }
 
 bool CEvaluator::Undefine(std::wstring_view name) {
-    const CValue value = Variable(UpperCase(name));
-    if (value.Type() != VT_FUNCTION || !std::holds_alternative<CLispFunction>(value.AsFunction()->code))
-        return false;
-    m_variables.erase(UpperCase(name));
-    return true;
+    const std::wstring upperCase = UpperCase(name);
+    return IsOfTheProgram(upperCase) && m_variables.erase(upperCase) != 0;
+}
+
+// Whether the name stands for the program's function of that name. LISP may have given it another value,
+// another function of the program too.
+bool CEvaluator::IsOfTheProgram(const std::wstring& name) const {
+    const CValue value = Variable(name);
+    return value.Type() == VT_FUNCTION && value.AsFunction()->name == name &&
+           !std::holds_alternative<SDefinition>(value.AsFunction()->code);
 }
 
 CLispResult CEvaluator::Run(const SSource& source) {

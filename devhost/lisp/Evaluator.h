@@ -87,6 +87,7 @@ private:
     class CFrameScope;
     class CBindings;
 
+    bool IsOfTheProgram(const std::wstring& name) const;
     CLispResult Call(const CValue& call);
     std::shared_ptr<const SFunction> FunctionOf(const CValue& head);
     CLispResult Invoke(const SFunction& function, std::span<const CValue> arguments);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kExcerptLength = 60;
 // Lists that share their parts can be longer as text than any memory.
-constexpr std::size_t kMaxLength = 16'000'000;
+constexpr std::size_t kMaxLength = 4'000'000;
 
 std::wstring RealText(double number) {
     if (std::isnan(number))

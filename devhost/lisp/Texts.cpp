@@ -9,7 +9,7 @@
 namespace {
 
 // Joining a text to itself again and again would otherwise fill the memory in no time.
-constexpr std::size_t kMaxLength = 16'000'000;
+constexpr std::size_t kMaxLength = 4'000'000;
 
 CLispResult Join(const CArguments& arguments) {
     std::wstring text;

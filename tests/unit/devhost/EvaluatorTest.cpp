@@ -69,6 +69,9 @@ TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenA
     EXPECT_EQ(Evaluate(L"(one)"), L"2");
     EXPECT_TRUE(m_evaluator.Define(L"one", one));
     EXPECT_EQ(Evaluate(L"(one)"), L"1");
+    EXPECT_EQ(Evaluate(L"(setq one car) (one '(3))"), L"3");
+    EXPECT_FALSE(m_evaluator.Undefine(L"one"));
+    EXPECT_TRUE(m_evaluator.Define(L"one", one));
     EXPECT_FALSE(m_evaluator.Define(L"car", one)) << "a built-in function";
 }
 

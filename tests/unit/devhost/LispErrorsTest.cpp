@@ -164,7 +164,7 @@ TEST_F(LispErrors, SharedListsAreNotPrintedWithoutEnd) {
 
 TEST_F(LispErrors, ATextDoesNotGrowWithoutEnd) {
     EXPECT_EQ(Mistake(L"(setq s \"x\") (while T (setq s (strcat s s)))"),
-              L"line 1: STRCAT: the text would be longer than 16000000 characters");
+              L"line 1: STRCAT: the text would be longer than 4000000 characters");
 }
 
 }  // namespace
