@@ -52,19 +52,21 @@ CUserError NotWritten(const std::wstring& file) {
                       L"': give --drawing a file in an existing folder");
 }
 
-// Found before anything runs, rather than after.
-void CheckDrawingFile(const std::wstring& file) {
+// The full path of the file for the drawing, since file dialogs change the current folder. That it has no
+// folder to go to is found before anything runs, rather than after.
+std::wstring DrawingPath(const std::wstring& file) {
     const std::wstring full = FullPath(file);
     if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1)))
         throw NotWritten(file);
+    return full;
 }
 
-void WriteDrawing(const CDrawing& drawing, const std::wstring& file) {
-    std::ofstream stream(std::filesystem::path(file), std::ios::binary);
+void WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
+    std::ofstream stream(std::filesystem::path(path), std::ios::binary);
     stream << ToSvg(drawing);
     stream.close();
     if (!stream)
-        throw NotWritten(file);
+        throw NotWritten(path);
 }
 
 // True when the plug-in went away in good order and holds no block of the host's heap. A run of scripts
@@ -148,8 +150,7 @@ int Run(const SOptions& options, CTextOutput& output) {
         tasks.push_back(Prepare(task));
     CSearchPath searchPath(options.searchFolders);
     const std::vector<SItem> items = TakeItems(options.itemFolders, searchPath);
-    if (!options.drawingFile.empty())
-        CheckDrawingFile(options.drawingFile);
+    const std::wstring drawingPath = options.drawingFile.empty() ? L"" : DrawingPath(options.drawingFile);
     const std::wstring folder = ProgramFolder();
 
     const CHeapLibrary heap(folder, options.checkHeap);
@@ -159,10 +160,10 @@ int Run(const SOptions& options, CTextOutput& output) {
     CLispConsole console(window, output, searchPath, variables);
     CEvaluator evaluator(console, kLispStack);
     DefineDrawFunctions(evaluator, drawing);
+    DefineFit(evaluator, window);
     CHost host(window, output, searchPath, variables, evaluator);
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
     CSession session(evaluator, output, window);
-    DefineFit(evaluator, window);
 
     auto listening = std::make_optional<CListening>(output, window);
     ShareFormat(variables, window);
@@ -175,8 +176,8 @@ int Run(const SOptions& options, CTextOutput& output) {
         window.Run();
     }
     listening.reset();
-    if (!options.drawingFile.empty())
-        WriteDrawing(drawing, options.drawingFile);
+    if (!drawingPath.empty())
+        WriteDrawing(drawing, drawingPath);
     const bool inOrder = Unload(plugIn, heap, output, IsScriptsAlone(tasks));
     return status == kExitDone && !inOrder ? kExitFailed : status;
 }
