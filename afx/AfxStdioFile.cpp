@@ -35,7 +35,7 @@ BOOL CStdioFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
     if (m_hFile != INVALID_HANDLE_VALUE)
         CStdioFile::Close();
     // Before the file is emptied: with no memory for this it stays as it is.
-    m_codec = std::make_unique<CAfxTextCodec>();
+    m_codec = std::make_unique<CAfxTextCodec>(CAfxTextCodec::OfLocale());
     if (!CFile::Open(fileName, openFlags, error))
         return FALSE;
     m_writing = (openFlags & 3) == modeWrite;

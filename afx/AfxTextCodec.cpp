@@ -2,6 +2,7 @@
 #include "AfxTextCodec.h"
 
 #include <climits>
+#include <clocale>
 #include <cstring>
 #include <cwchar>
 
@@ -40,6 +41,20 @@ CAfxTextCodec::CAfxTextCodec() {
         if (!m_isSingle[number])
             m_units[number] = static_cast<wchar_t>(firstEscape + number);
     }
+}
+
+CAfxTextCodec CAfxTextCodec::OfLocale() {
+    // To ask the runtime for every byte takes longer than to read a file.
+    static char name[64] = "";
+    static CAfxTextCodec codec;
+    const char* const locale = std::setlocale(LC_CTYPE, nullptr);
+    if (locale == nullptr || std::strcmp(locale, name) != 0) {
+        codec = CAfxTextCodec();
+        name[0] = '\0';
+        if (locale != nullptr && std::strlen(locale) < sizeof name)
+            std::strcpy(name, locale);
+    }
+    return codec;
 }
 
 size_t CAfxTextCodec::DecodeOne(const char* bytes, size_t count, wchar_t& unit) const {

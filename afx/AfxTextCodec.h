@@ -9,6 +9,10 @@ class CAfxTextCodec {
 public:
     CAfxTextCodec();
 
+    // One for the locale that is set now: the last one made, which is quick to copy, as long as the locale
+    // has kept its name. For the user-interface thread alone.
+    static CAfxTextCodec OfLocale();
+
     std::wstring Decode(const std::string& bytes) const;
     // FALSE when the locale cannot express the text; bytes then holds what came before.
     bool Encode(const std::wstring& text, std::string& bytes) const;
