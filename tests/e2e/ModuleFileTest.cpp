@@ -81,8 +81,8 @@ TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
 }
 
 TEST_P(ModuleFile, ComesWithItsCompanions) {
-    for (const char* file :
-         {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"})
+    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll",
+                             "DevHost.exe", "tavrincheck.exe"})
         EXPECT_TRUE(fs::exists(fs::path(GetParam().folder) / file)) << file;
 }
 
@@ -90,7 +90,7 @@ TEST_P(ModuleFile, ComesWithItsCompanions) {
 // of its data. A file without relocations could not be moved.
 TEST_P(ModuleFile, IsProtectedLikeItsCompanions) {
     for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll",
-                             "checked/TD_Alloc.dll", "DevHost.exe"}) {
+                             "checked/TD_Alloc.dll", "DevHost.exe", "tavrincheck.exe"}) {
         const std::string headers = Headers(file);
         EXPECT_NE(headers.find("DYNAMIC_BASE"), std::string::npos) << file;
         EXPECT_NE(headers.find("NX_COMPAT"), std::string::npos) << file;
@@ -106,7 +106,8 @@ TEST_P(ModuleFile, IsProtectedLikeItsCompanions) {
 
 // What would differ from one build to the next, or from one checkout to another.
 TEST_P(ModuleFile, HoldsNeitherTimeNorPlaceOfItsBuild) {
-    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe"}) {
+    for (const char* file :
+         {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe", "tavrincheck.exe"}) {
         EXPECT_NE(Headers(file).find("Thu Jan  1 00:00:00 1970"), std::string::npos) << file;
         std::ifstream stream(fs::path(GetParam().folder) / file, std::ios::binary);
         const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
