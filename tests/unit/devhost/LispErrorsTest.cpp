@@ -11,7 +11,7 @@ TEST_F(LispErrors, TheInnermostFunctionAndItsLineAreNamed) {
     EXPECT_EQ(Mistake(L"(defun f (x)\n  (g x))\n(defun g (x)\n  (if T\n    (car x)))\n(f 5)"),
               L"line 5: in G: CAR needs a list as argument 1, not 5");
     EXPECT_EQ(Mistake(L"(list\n (f\n  '(1))\n (car 2))"), L"line 4: CAR needs a list as argument 1, not 2");
-    EXPECT_EQ(Mistake(L"(+ (f '(1))\n \"a\")"), L"line 1: + needs a number as argument 2, not \"a\"")
+    EXPECT_EQ(Mistake(L"(+ 1\n (car '(\"a\")))"), L"line 1: + needs a number as argument 2, not \"a\"")
         << "the line of the call that failed, not of the one evaluated last";
     EXPECT_EQ(Mistake(L"(mapcar\n '(lambda (x)\n   (car x))\n '(1))"),
               L"line 3: in LAMBDA: CAR needs a list as argument 1, not 1");
