@@ -6,13 +6,17 @@
 #include <fstream>
 #include <iterator>
 
+// A process with the same number may have left a folder: one that holds a DLL cannot be removed while that is
+// loaded.
 CTempFolder::CTempFolder() {
     static int number = 0;
     wchar_t base[MAX_PATH];
     GetTempPathW(MAX_PATH, base);
-    m_path = std::wstring(base) + L"tavrin_" + std::to_wstring(GetCurrentProcessId()) + L"_" +
-             std::to_wstring(++number) + L"\\";
-    std::filesystem::create_directories(m_path);
+    const std::wstring start =
+        std::wstring(base) + L"tavrin_" + std::to_wstring(GetCurrentProcessId()) + L"_";
+    do {
+        m_path = start + std::to_wstring(++number) + L"\\";
+    } while (!std::filesystem::create_directories(m_path));
 }
 
 CTempFolder::~CTempFolder() {
