@@ -8,7 +8,7 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 LINT_PACKAGES = clang-format clang-tidy cppcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run screenshots gallery lint bench fuzz soak dist packages
+.PHONY: help build test run screenshots gallery lint coverage bench fuzz soak dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -22,6 +22,7 @@ help:
 	@echo "              docs/reliability.md"
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
 	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
+	@echo "make coverage what the native tests run of the code; the figures go to docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
@@ -68,3 +69,7 @@ lint: packages
 
 soak: packages
 	@scripts/soak
+
+coverage: packages
+	@scripts/install-packages $(FUZZ_PACKAGES) llvm
+	@scripts/coverage

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr double kPi = std::numbers::pi;
 constexpr SBox kBox = {{0, 0}, {100, 50}};
 
 void ExpectLine(const std::optional<SLine>& line, SPoint from, SPoint to) {

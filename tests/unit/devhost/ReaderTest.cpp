@@ -115,6 +115,12 @@ TEST(Reader, ExpressionsFollowEachOtherUntilTheTextEnds) {
     EXPECT_FALSE(CReader(L" ; nothing").Read());
 }
 
+TEST(Reader, ACommentInBarsMayStandAnywhereAndSpanLines) {
+    EXPECT_EQ(Echo(L"(a ;| not read ; nor ) this\n |; b)"), L"(A B)");
+    EXPECT_EQ(Echo(L";||; c"), L"C");
+    ExpectMistake(L"(a\n ;| b |", L"line 2, column 2: a comment is not closed");
+}
+
 TEST(Reader, AMistakeNamesTheLineAndTheColumnWhereItBegins) {
     ExpectMistake(L"(a\n  (b c)\n", L"line 1, column 1: a parenthesis is not closed");
     ExpectMistake(L"(a\r\n  (b c)\r\n  (d", L"line 3, column 3: a parenthesis is not closed");

@@ -277,7 +277,7 @@ TEST(Rewrite, OfNumbersInAnyOrderFindsEachOne) {
     TextLines rewritten = lines;
     RewriteTemplateFile(rewritten, ReadAll(lines), ValuesAt(1.0));
     EXPECT_EQ(rewritten[3], lines[3]) << "its number comes again further down";
-    for (const std::size_t line : {0, 1, 3, 4, 5, 6, 7, 8}) {
+    for (const std::size_t line : {0u, 1u, 3u, 4u, 5u, 6u, 7u, 8u}) {
         EXPECT_EQ(rewritten[line + 1], L"$" + numbers[line] + L" = \"<<5>>\"I" + std::to_wstring(line));
     }
 }
