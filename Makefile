@@ -22,7 +22,7 @@ help:
 	@echo "              docs/reliability.md"
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
 	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
-	@echo "make coverage what the native tests run of the code; the figures go to docs/reliability.md"
+	@echo "make coverage what the tests run of the code; the figures go to docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
@@ -73,3 +73,4 @@ soak: packages
 coverage: packages
 	@scripts/install-packages $(FUZZ_PACKAGES) llvm
 	@scripts/coverage
+	@scripts/coverage-windows

@@ -15,6 +15,9 @@ extern "C" {
 extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output);
 extern int(WINAPI* __imp_GdipCreateFromHDC)(HDC dc, void** graphics);
 extern int(WINAPI* __imp_GdipLoadImageFromStream)(IStream* stream, void** image);
+extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream);
+extern BOOL(WINAPI* __imp_ReadFile)(HANDLE file, LPVOID data, DWORD size, LPDWORD read,
+                                    LPOVERLAPPED overlapped);
 }
 
 namespace {
@@ -133,6 +136,38 @@ TEST_F(PictureCtrl, DrawsNothingWhereGdiPlusCannotBeStarted) {
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});
     EXPECT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+}
+
+TEST_F(PictureCtrl, IsEmptyWhereNoStreamCanBeMade) {
+    const CImportHook create(
+        __imp_CreateStreamOnHGlobal, +[](HGLOBAL, BOOL, IStream** stream) WINAPI {
+            *stream = nullptr;
+            return E_OUTOFMEMORY;
+        });
+    m_folder.Write(L"red.bmp", Red());
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(E_OUTOFMEMORY));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+}
+
+TEST_F(PictureCtrl, IsEmptyAfterAFileThatCannotBeReadToItsEnd) {
+    m_folder.Write(L"red.bmp", Red());
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    {
+        const CImportHook read(
+            __imp_ReadFile, +[](HANDLE, LPVOID, DWORD, LPDWORD, LPOVERLAPPED) WINAPI {
+                SetLastError(ERROR_CRC);
+                return FALSE;
+            });
+        EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_CRC));
+    }
     PumpMessages();
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
 }
