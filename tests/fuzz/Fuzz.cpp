@@ -21,7 +21,7 @@ std::wstring WideText(std::string_view bytes) {
     return text;
 }
 
-std::string_view TakeLine(std::string_view& bytes) {
+std::string_view CutLine(std::string_view& bytes) {
     const std::size_t end = bytes.find('\n');
     const std::string_view line = bytes.substr(0, end);
     bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);

@@ -22,7 +22,7 @@ inline std::string_view Bytes(const std::uint8_t* data, std::size_t size) {
 }
 
 // Takes the text up to the next line end off the front.
-std::string_view TakeLine(std::string_view& bytes);
+std::string_view CutLine(std::string_view& bytes);
 
 // A null-terminated copy with nothing of its own behind the null, so that a read beyond it is noticed.
 class CTightText {

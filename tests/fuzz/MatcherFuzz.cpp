@@ -100,7 +100,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const bool caseSensitive = data[0] % 2 == 1;
     std::string_view bytes = Bytes(data + 1, size - 1);
-    std::wstring pattern = WideText(TakeLine(bytes).substr(0, kLongestPattern));
+    std::wstring pattern = WideText(CutLine(bytes).substr(0, kLongestPattern));
     std::wstring input = WideText(bytes.substr(0, kLongestInput));
     // Both end at their first null.
     pattern.resize(std::wcslen(pattern.c_str()));

@@ -14,7 +14,7 @@ namespace {
 TextLines Lines(std::string_view bytes) {
     TextLines lines;
     while (!bytes.empty()) {
-        lines.push_back(WideText(TakeLine(bytes)));
+        lines.push_back(WideText(CutLine(bytes)));
     }
     return lines;
 }
