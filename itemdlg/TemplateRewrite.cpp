@@ -10,6 +10,8 @@
 #include "NumberText.h"
 #include "TemplateText.h"
 
+using namespace std::string_view_literals;
+
 namespace {
 
 // In which lines of a file the numbers stand. Files list their numbers mostly in ascending order, so that
@@ -59,8 +61,13 @@ private:
     std::vector<Line>::iterator m_next;  // behind the line that was found last
 };
 
-// For each record the line that it belongs to: the last one in a block with its number.
-std::vector<std::optional<std::size_t>> TemplateLines(const TextLines& lines, const ParamRecordMap& records) {
+struct Place {
+    const ParamRecord* record;
+    std::size_t line;
+};
+
+// Where the records belong, in their order: to the last line in a block with their number.
+std::vector<Place> TemplatePlaces(const TextLines& lines, const ParamRecordMap& records) {
     CNumberedLines numbered;
     CBlockTracker block;
     for (std::size_t index = 0; index < lines.size(); ++index) {
@@ -72,12 +79,25 @@ std::vector<std::optional<std::size_t>> TemplateLines(const TextLines& lines, co
         }
     }
     numbered.Sort();
-    std::vector<std::optional<std::size_t>> found;
-    found.reserve(records.size());
+    std::vector<Place> places;
+    places.reserve(records.size());
     for (const auto& [index, record] : records) {
-        found.push_back(numbered.Find(record.number));
+        if (const std::optional<std::size_t> line = numbered.Find(record.number)) {
+            places.push_back({&record, *line});
+        }
     }
-    return found;
+    return places;
+}
+
+// Both put a line in the place of another, whose memory is used again.
+void PutWorkingFileLine(std::wstring& line, const ParamRecord& record, std::wstring_view valueText) {
+    line.assign(1, record.type == 'I' ? L'$' : L'#').append(record.number).append(L" = "sv).append(valueText);
+}
+
+void PutTemplateFileLine(std::wstring& line, const ParamRecord& record, std::wstring_view valueText) {
+    line.assign(1, L'$').append(record.number).append(L" = \""sv).append(record.labelPrefix);
+    line.append(L"<<"sv).append(IntText(record.resourceId)).append(L">>"sv).append(record.labelSuffix);
+    line.append(1, L'"').append(1, static_cast<wchar_t>(record.type)).append(valueText);
 }
 
 }  // namespace
@@ -95,37 +115,31 @@ std::wstring ValueText(const ParamRecord& record, double scale) {
 }
 
 std::wstring WorkingFileLine(const ParamRecord& record, const std::wstring& valueText) {
-    return (record.type == 'I' ? L"$" : L"#") + record.number + L" = " + valueText;
+    std::wstring line;
+    PutWorkingFileLine(line, record, valueText);
+    return line;
 }
 
 std::wstring TemplateFileLine(const ParamRecord& record, const std::wstring& valueText) {
-    const std::wstring id = IntText(record.resourceId);
-    constexpr std::size_t kSigns = 12;
     std::wstring line;
-    line.reserve(record.number.size() + record.labelPrefix.size() + id.size() + record.labelSuffix.size() +
-                 valueText.size() + kSigns);
-    line.append(L"$").append(record.number).append(L" = \"").append(record.labelPrefix);
-    line.append(L"<<").append(id).append(L">>").append(record.labelSuffix).append(L"\"");
-    line.push_back(static_cast<wchar_t>(record.type));
-    return line.append(valueText);
+    PutTemplateFileLine(line, record, valueText);
+    return line;
 }
 
 void RewriteWorkingFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf) {
     for (const auto& [index, record] : records) {
         const auto line = static_cast<std::size_t>(index);
         if (line < lines.size()) {
-            lines[line] = WorkingFileLine(record, record.type == 'U' ? std::wstring() : valueTextOf(record));
+            PutWorkingFileLine(lines[line], record,
+                               record.type == 'U' ? std::wstring() : valueTextOf(record));
         }
     }
 }
 
 void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf) {
-    const std::vector<std::optional<std::size_t>> lineOfRecord = TemplateLines(lines, records);
-    auto line = lineOfRecord.begin();
-    for (const auto& [index, record] : records) {
-        if (line->has_value() && record.type != 'U') {
-            lines[**line] = TemplateFileLine(record, valueTextOf(record));
+    for (const Place& place : TemplatePlaces(lines, records)) {
+        if (place.record->type != 'U') {
+            PutTemplateFileLine(lines[place.line], *place.record, valueTextOf(*place.record));
         }
-        ++line;
     }
 }
