@@ -18,17 +18,23 @@ namespace {
 // they come and are looked for in the order that they are kept in: shorter ones first, then as texts.
 class CNumberedLines {
 public:
-    // The number, which is not copied, stands in that line, in place of any line before.
-    void Add(std::wstring_view number, std::size_t line) { m_lines.push_back({number, line}); }
+    explicit CNumberedLines(std::size_t expected) { m_lines.reserve(expected); }
+
+    // The number, which is not copied, stands in that line, in place of any line before. Lines must come in
+    // their order.
+    void Add(std::wstring_view number, std::size_t line) {
+        m_ascending = m_ascending && (m_lines.empty() || IsBelow(m_lines.back().number, number));
+        m_lines.push_back({number, line});
+    }
 
     // To be called once, between the last Add and the first Find.
     void Sort() {
-        if (!std::is_sorted(m_lines.begin(), m_lines.end(), StandsBefore)) {
+        if (!m_ascending) {
             std::sort(m_lines.begin(), m_lines.end(), StandsBefore);
+            // Of the lines with one number the last one counts: the first from behind is kept.
+            const auto same = [](const Line& one, const Line& other) { return one.number == other.number; };
+            m_lines.erase(m_lines.begin(), std::unique(m_lines.rbegin(), m_lines.rend(), same).base());
         }
-        // Of the lines with one number the last one counts: it becomes the first of those that are kept.
-        const auto same = [](const Line& one, const Line& other) { return one.number == other.number; };
-        m_lines.erase(m_lines.begin(), std::unique(m_lines.rbegin(), m_lines.rend(), same).base());
         m_next = m_lines.begin();
     }
 
@@ -48,15 +54,15 @@ private:
         std::size_t line;
     };
 
-    static bool StandsBefore(const Line& one, const Line& other) {
-        const std::size_t size = one.number.size();
-        if (size != other.number.size()) {
-            return size < other.number.size();
-        }
-        const int order = one.number.compare(other.number);
-        return order != 0 ? order < 0 : one.line < other.line;
+    static bool IsBelow(std::wstring_view one, std::wstring_view other) {
+        return one.size() != other.size() ? one.size() < other.size() : one < other;
     }
 
+    static bool StandsBefore(const Line& one, const Line& other) {
+        return one.number == other.number ? one.line < other.line : IsBelow(one.number, other.number);
+    }
+
+    bool m_ascending = true;
     std::vector<Line> m_lines;
     std::vector<Line>::iterator m_next;  // behind the line that was found last
 };
@@ -68,7 +74,7 @@ struct Place {
 
 // Where the records belong, in their order: to the last line in a block with their number.
 std::vector<Place> TemplatePlaces(const TextLines& lines, const ParamRecordMap& records) {
-    CNumberedLines numbered;
+    CNumberedLines numbered(records.size());
     CBlockTracker block;
     for (std::size_t index = 0; index < lines.size(); ++index) {
         if (!block.TakeLine(lines[index])) {
