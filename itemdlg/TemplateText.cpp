@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int kHighestTextNumber = 0xFFFF;
-
 // A failure can only be a want of memory. It must not be remembered: since it leaves the caller's variable
 // uninitialised, the next call compiles again.
 CPatternMatcher Compiled(const wchar_t* pattern) {

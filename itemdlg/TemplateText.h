@@ -57,6 +57,9 @@ std::optional<ParameterParts> SplitParameterLine(const std::wstring& line);
 // int.
 int PlaceholderNumber(const std::wstring& text);
 
+// The highest number that a text can have.
+constexpr int kHighestTextNumber = 0xFFFF;
+
 // The text with that number. A number that cannot name a text, above 65535 or below 1, gives an empty text:
 // the lookup is not asked, since the system would cut the number off to 16 bits and find a wrong text.
 std::wstring ResourceText(int number, const TextLookup& lookup);

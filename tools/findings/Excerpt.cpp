@@ -2,40 +2,34 @@
 
 #include <algorithm>
 
+#include "CodePage.h"
+
 namespace {
 
 constexpr std::size_t kLongestExcerpt = 160;
 constexpr std::size_t kContext = 60;  // in front of the offending text, when the line is cut
 constexpr std::size_t kLongestQuote = 60;
 
-// What a character is shown as: a single unit that takes one column.
-char32_t Shown(wchar_t character) {
-    const auto code = static_cast<char32_t>(character);
-    if (code < 0x20) {
-        return 0x2400 + code;
+// What a character of a file is shown as. The files' characters are bytes, which their authors' programs
+// show in code page 1252.
+wchar_t Shown(wchar_t character) {
+    if (character < 0x20) {
+        return static_cast<wchar_t>(0x2400 + character);
     }
-    if (code == 0x7F) {
+    if (character == 0x7F) {
         return 0x2421;
     }
-    // Control characters beyond ASCII, and surrogates, which UTF-8 does not know.
-    if ((code >= 0x80 && code < 0xA0) || (code >= 0xD800 && code < 0xE000) || code > 0xFFFF) {
-        return 0xFFFD;
+    if (character < 0x80 || character >= 0xA0) {
+        return character;
     }
-    return code;
+    const auto byte = static_cast<char>(character);
+    return DecodeText({&byte, 1}, kWesternEuropean).value_or(L"\uFFFD").front();
 }
 
-// Appends a character below 0x10000 as UTF-8.
-void Append(std::string& text, char32_t code) {
-    if (code < 0x80) {
-        text += static_cast<char>(code);
-    } else if (code < 0x800) {
-        text += static_cast<char>(0xC0 | code >> 6);
-        text += static_cast<char>(0x80 | (code & 0x3F));
-    } else {
-        text += static_cast<char>(0xE0 | code >> 12);
-        text += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-        text += static_cast<char>(0x80 | (code & 0x3F));
-    }
+std::string ShownText(std::wstring_view text) {
+    std::wstring shown;
+    std::transform(text.begin(), text.end(), std::back_inserter(shown), Shown);
+    return Utf8Text(shown);
 }
 
 }  // namespace
@@ -46,21 +40,13 @@ SExcerpt MakeExcerpt(std::wstring_view line, std::size_t start, std::size_t leng
     const bool isCut = line.size() > kLongestExcerpt;
     const std::size_t first = isCut ? start - std::min(start, kContext) : 0;
     SExcerpt excerpt;
-    for (const wchar_t character : line.substr(first, kLongestExcerpt)) {
-        Append(excerpt.text, Shown(character));
-    }
+    excerpt.text = ShownText(line.substr(first, kLongestExcerpt));
     excerpt.start = start - first;
     excerpt.length = std::min(length, kLongestExcerpt - std::min(kLongestExcerpt, excerpt.start));
     return excerpt;
 }
 
 std::string Quoted(std::wstring_view text) {
-    std::string quoted = "'";
-    for (const wchar_t character : text.substr(0, kLongestQuote)) {
-        Append(quoted, Shown(character));
-    }
-    if (text.size() > kLongestQuote) {
-        Append(quoted, 0x2026);
-    }
-    return quoted + "'";
+    const bool isCut = text.size() > kLongestQuote;
+    return "'" + ShownText(text.substr(0, kLongestQuote)) + (isCut ? "\xE2\x80\xA6'" : "'");
 }

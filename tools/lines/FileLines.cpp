@@ -2,24 +2,30 @@
 
 #include <algorithm>
 
+SLineBytes TakeLine(std::string_view& bytes) {
+    const std::size_t lineFeed = bytes.find('\n');
+    SLineBytes line{bytes.substr(0, lineFeed), {}};
+    if (lineFeed != std::string_view::npos) {
+        const bool hasReturn = line.text.ends_with('\r');
+        line.text.remove_suffix(hasReturn ? 1 : 0);
+        line.ending = hasReturn ? "\r\n" : "\n";
+    }
+    bytes.remove_prefix(line.text.size() + line.ending.size());
+    return line;
+}
+
+std::wstring CharactersOf(std::string_view bytes) {
+    std::wstring text(bytes.size(), L'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });
+    return text;
+}
+
 std::vector<SFileLine> SplitLines(std::string_view bytes) {
     std::vector<SFileLine> lines;
     while (!bytes.empty()) {
-        const std::size_t lineFeed = bytes.find('\n');
-        std::string_view text = bytes.substr(0, lineFeed);
-        bytes.remove_prefix(std::min(text.size() + 1, bytes.size()));
-        std::string_view ending;
-        if (lineFeed != std::string_view::npos) {
-            const bool hasReturn = !text.empty() && text.back() == '\r';
-            text.remove_suffix(hasReturn ? 1 : 0);
-            ending = hasReturn ? "\r\n" : "\n";
-        }
-        SFileLine& line = lines.emplace_back();
-        line.ending = ending;
-        line.text.reserve(text.size());
-        for (const char byte : text) {
-            line.text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
-        }
+        const SLineBytes line = TakeLine(bytes);
+        lines.push_back({CharactersOf(line.text), std::string(line.ending)});
     }
     return lines;
 }

@@ -8,12 +8,25 @@
 
 #include "TemplateRewrite.h"
 
-struct SFileLine {
-    std::wstring text;
-    std::string ending;  // "\n", "\r\n", or nothing behind the last line
+// A line and its end, "\n", "\r\n", or nothing behind the last line. LF and CR LF end a line; any other CR, a
+// NUL and a 0x1A are characters of their line.
+struct SLineBytes {
+    std::string_view text;
+    std::string_view ending;
 };
 
-// The lines of a file. LF and CR LF end a line; any other CR, a NUL and a 0x1A are characters of their line.
+// Takes the next line off the bytes, of which there must be some.
+SLineBytes TakeLine(std::string_view& bytes);
+
+// The text that bytes are.
+std::wstring CharactersOf(std::string_view bytes);
+
+struct SFileLine {
+    std::wstring text;
+    std::string ending;
+};
+
+// The lines of a file.
 std::vector<SFileLine> SplitLines(std::string_view bytes);
 
 TextLines TextsOf(const std::vector<SFileLine>& lines);

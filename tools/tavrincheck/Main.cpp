@@ -1,4 +1,4 @@
-// tavrincheck: the first argument names a subcommand.
+// tavrincheck: the first argument may name a subcommand; without one files are checked.
 #include <cstdio>
 #include <exception>
 #include <map>
@@ -14,6 +14,7 @@
 #include <shellapi.h>
 #endif
 
+#include "CheckCommand.h"
 #include "ExtractCommand.h"
 #include "Files.h"
 #include "PreviewCommand.h"
@@ -66,7 +67,7 @@ int Run(std::vector<std::string> arguments) {
     };
     const auto command = arguments.empty() ? commands.end() : commands.find(arguments.front());
     if (command == commands.end()) {
-        throw CToolError("name a command: preview or extract, each with --help");
+        return RunCheck(arguments);
     }
     arguments.erase(arguments.begin());
     return command->second(arguments);

@@ -1,0 +1,1 @@
+(defun hatch () (tavrinselmask "Replace" 0 "hatch_a")

@@ -1,0 +1,164 @@
+#include "BlockRules.h"
+
+#include <utility>
+
+#include "BlockTracker.h"
+#include "ItemFiles.h"
+#include "LineRules.h"
+
+namespace {
+
+constexpr SRule kBlockMissing = {
+    "block-missing", SV_WARNING, "the file has no parameter block",
+    "Parameters stand between a line VAR and a line END_VAR. Without them the dialog opens without any row.",
+    "Hinged door\n<<2001>>\n$1 = \"<<1501>>\"D 900"};
+
+constexpr SRule kBlockLineMisspelt = {
+    "block-line-misspelt", SV_ERROR, "VAR or END_VAR is not written exactly so",
+    "The lines that open and close a block are compared whole: capitals, no blank or tab before or behind, "
+    "no\n"
+    "other sign. A line that deviates is an ordinary one, so that a block is not opened, or not closed.",
+    "var\n$1 = \"<<1501>>\"D 900\nEND VAR"};
+
+constexpr SRule kBlockUnclosed = {"block-unclosed", SV_WARNING, "a block is not closed",
+                                  "The block goes on to the end of the file. Its parameters are read, but so "
+                                  "is everything behind it: close\n"
+                                  "it with a line END_VAR.",
+                                  "VAR\n$1 = \"<<1501>>\"D 900"};
+
+constexpr SRule kBlockNested = {
+    "block-nested", SV_WARNING, "VAR inside an open block",
+    "Blocks do not nest. Inside a block the line means nothing, and the first END_VAR closes the block.",
+    "VAR\n$1 = \"<<1501>>\"D 900\nVAR\n$2 = \"<<1502>>\"D 2100\nEND_VAR\nEND_VAR"};
+
+constexpr SRule kBlockEmpty = {"block-empty", SV_WARNING, "a block without parameters",
+                               "Nothing between VAR and END_VAR is a parameter.", "VAR\nEND_VAR"};
+
+constexpr SRule kBlockCloseStray = {"block-close-stray", SV_NOTE, "END_VAR where no block is open",
+                                    "The line is harmless. Perhaps the VAR that belongs to it is missing.",
+                                    "END_VAR"};
+
+constexpr SRule kParameterOutside = {
+    "parameter-outside", SV_ERROR, "a parameter outside of any block",
+    "Only lines between VAR and END_VAR are parameters. This one gets no row and no value.",
+    "END_VAR\n$6 = \"<<1506>>\"D 20"};
+
+constexpr const SRule* kRules[] = {&kBlockMissing, &kBlockLineMisspelt, &kBlockUnclosed,   &kBlockNested,
+                                   &kBlockEmpty,   &kBlockCloseStray,   &kParameterOutside};
+
+// The letters and digits of a line in capitals, without anything between; nothing when there are too many for
+// a line that opens or closes a block.
+std::wstring Letters(const std::wstring& text) {
+    constexpr std::size_t kMost = 6;
+    std::wstring letters;
+    for (const wchar_t character : text) {
+        const bool isSmall = character >= L'a' && character <= L'z';
+        const bool isCapital = character >= L'A' && character <= L'Z';
+        const bool isBlank = character <= L' ' || character == L'\u00A0';
+        const bool isSign = std::wstring_view(L"_-.:;").find(character) != std::wstring_view::npos;
+        if (isSmall || isCapital) {
+            letters += isSmall ? static_cast<wchar_t>(character - L'a' + L'A') : character;
+        }
+        if ((!isSmall && !isCapital && !isBlank && !isSign) || letters.size() > kMost) {
+            return {};
+        }
+    }
+    return letters;
+}
+
+}  // namespace
+
+RuleList BlockRules() {
+    return kRules;
+}
+
+void CBlockRules::TakeLine(const SItemLine& line) {
+    switch (line.kind) {
+        case LK_OPENING:
+            m_hasBlock = true;
+            m_openingWasMisspelt = false;
+            m_unclosed = Findings().Make(kBlockUnclosed, line, 0, line.text.size(),
+                                         "this block is not closed: END_VAR is missing");
+            m_empty =
+                Findings().Make(kBlockEmpty, line, 0, line.text.size(), "this block holds no parameter");
+            break;
+        case LK_CLOSING:
+            m_unclosed.reset();
+            m_closingWasMisspelt = false;
+            if (m_empty) {
+                Findings().Add(*std::exchange(m_empty, std::nullopt));
+            }
+            break;
+        case LK_PARAMETER:
+            m_empty.reset();
+            break;
+        case LK_IGNORED:
+            TakeInside(line);
+            break;
+        case LK_OUTSIDE:
+            TakeOutside(line);
+            break;
+    }
+}
+
+void CBlockRules::TakeInside(const SItemLine& line) {
+    if (m_isWorkingFile && IsAssignment(line.text)) {
+        m_empty.reset();
+        return;
+    }
+    const std::wstring letters = Letters(line.text);
+    if (letters == L"ENDVAR") {
+        m_closingWasMisspelt = ReportMisspelt(line, false);
+    } else if (letters == L"VAR" && !std::exchange(m_closingWasMisspelt, false)) {
+        Findings().Add(kBlockNested, line, 0, line.text.size(),
+                       "a block is open already, this line means nothing");
+    }
+}
+
+void CBlockRules::TakeOutside(const SItemLine& line) {
+    const std::wstring letters = Letters(line.text);
+    if (letters == L"VAR") {
+        m_hasBlock = true;
+        m_openingWasMisspelt = ReportMisspelt(line, true);
+    } else if (letters == L"ENDVAR") {
+        if (line.text != CBlockTracker::kClosingLine) {
+            ReportMisspelt(line, false);
+        } else if (!m_openingWasMisspelt) {
+            Findings().Add(kBlockCloseStray, line, 0, line.text.size(), "no block is open here");
+        }
+        m_openingWasMisspelt = false;
+    } else if (line.index != kTitleLine && !m_openingWasMisspelt && line.text.starts_with(L'$') &&
+               ParseParameterLine(line.text)) {
+        Findings().Add(kParameterOutside, line, 0, line.text.size(),
+                       "this parameter stands outside of any block and is not read");
+    }
+}
+
+bool CBlockRules::ReportMisspelt(const SItemLine& line, bool opening) {
+    const std::wstring& text = line.text;
+    const auto isBlank = [](wchar_t c) { return c <= L' ' || c == L'\u00A0'; };
+    std::string reason = "write it in capitals and without other signs";
+    if (text.find_first_of(L"abcdefghijklmnopqrstuvwxyz") == std::wstring::npos) {
+        if (!text.empty() && isBlank(text.back())) {
+            reason = "nothing may stand behind it, not even a blank";
+        } else if (!text.empty() && isBlank(text.front())) {
+            reason = "nothing may stand before it, not even a blank";
+        }
+    }
+    Findings().Add(kBlockLineMisspelt, line, 0, text.size(),
+                   Quoted(text) + (opening ? " does not open a block: " : " does not close the block: ") +
+                       reason + ", as in " + (opening ? "VAR" : "END_VAR"));
+    return true;
+}
+
+void CBlockRules::Finish() {
+    if (m_unclosed && !m_closingWasMisspelt) {
+        Findings().Add(*m_unclosed);
+    }
+    if (m_empty) {
+        Findings().Add(*m_empty);
+    }
+    if (!m_hasBlock) {
+        Findings().Add(kBlockMissing, "the file has no line VAR: no parameter is read");
+    }
+}

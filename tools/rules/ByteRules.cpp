@@ -1,0 +1,119 @@
+#include "ByteRules.h"
+
+#include <algorithm>
+#include <string>
+
+#include "CodePage.h"
+#include "FileLines.h"
+
+namespace {
+
+constexpr SRule kByteOrderMark = {
+    "byte-order-mark", SV_ERROR, "the file begins with a mark of UTF-8 or UTF-16",
+    "The files are single-byte text without a mark. The module takes the mark's bytes for characters of the\n"
+    "first line; of a file in UTF-16 it understands no line at all. Save the file as ANSI (Windows-1252) "
+    "text.",
+    "\xC3\xAF\xC2\xBB\xC2\xBFHinged door"};
+
+constexpr SRule kNullCharacter = {
+    "null-character", SV_ERROR, "a line holds a null character",
+    "The module reads a line up to its first null character: what follows is not seen, and is lost when the\n"
+    "line is written back. Most often the file was saved as UTF-16, or damaged.",
+    "$1 = \"<<1501>>\"D 9\xE2\x90\x80"
+    "00"};
+
+constexpr SRule kSubstituteCharacter = {
+    "substitute-character", SV_WARNING, "a line holds the character 0x1A",
+    "Old programs end a text file at this character. For the module it is a character of its line like any\n"
+    "other, so that a line of nothing but this character is an ordinary line. Remove it.",
+    "END_VAR\xE2\x90\x9A"};
+
+constexpr SRule kLoneReturn = {
+    "lone-return", SV_ERROR, "a carriage return without a line feed behind it",
+    "Lines end with CR LF or LF. A carriage return alone is a character of its line: VAR with one behind it\n"
+    "opens no block, and a file with the line ends of old Macintosh computers is one single line.",
+    "VAR\xE2\x90\x8D"};
+
+constexpr SRule kUtf8Text = {
+    "utf8-text", SV_WARNING, "letters beyond ASCII are in UTF-8",
+    "The module reads every byte as one character, so that a letter of two bytes shows as two wrong ones.\n"
+    "Save the file as ANSI (Windows-1252) text, or better put the text into TavrinRes.dll and a placeholder\n"
+    "here.",
+    "$4 = \"Profondit\xC3\x83\xC2\xA0 <<1504>>\"D 80"};
+
+constexpr SRule kNonAscii = {
+    "non-ascii", SV_NOTE, "bytes beyond ASCII depend on the code page",
+    "What such a byte shows as is decided by the code page of the computer that runs the host. Texts of\n"
+    "TavrinRes.dll are the same everywhere: put the text there and a placeholder here.",
+    "$4 = \"Profondit\xC3\xA0 <<1504>>\"D 80"};
+
+constexpr const SRule* kRules[] = {&kByteOrderMark, &kNullCharacter, &kSubstituteCharacter,
+                                   &kLoneReturn,    &kUtf8Text,      &kNonAscii};
+
+constexpr std::wstring_view kUtf8Mark = L"\u00EF\u00BB\u00BF";
+constexpr std::wstring_view kUtf16Marks[] = {L"\u00FF\u00FE", L"\u00FE\u00FF"};
+
+bool IsPlain(wchar_t character) {
+    return character < 0x80 && character != L'\0' && character != L'\x1A' && character != L'\r';
+}
+
+std::string Times(std::size_t count) {
+    return count == 1 ? "" : ", " + std::to_string(count) + " times in this line";
+}
+
+}  // namespace
+
+RuleList ByteRules() {
+    return kRules;
+}
+
+bool CByteRules::IsUtf16(std::wstring_view firstLine) {
+    return std::any_of(std::begin(kUtf16Marks), std::end(kUtf16Marks),
+                       [&](std::wstring_view mark) { return firstLine.starts_with(mark); });
+}
+
+void CByteRules::TakeLine(const SItemLine& line) {
+    const std::wstring& text = line.text;
+    if (std::all_of(text.begin(), text.end(), IsPlain)) {
+        return;
+    }
+    std::size_t start = 0;
+    if (line.index == 0 && IsUtf16(text)) {
+        Findings().Add(kByteOrderMark, line, 0, 2,
+                       "the file is UTF-16, of which the module understands no line: save it as ANSI text");
+        return;
+    }
+    if (line.index == 0 && text.starts_with(kUtf8Mark)) {
+        start = kUtf8Mark.size();
+        Findings().Add(
+            kByteOrderMark, line, 0, start,
+            "the mark of UTF-8 is read as three characters of this line: save the file without it");
+    }
+    const auto report = [&](const SRule& rule, wchar_t character, const std::string& message) {
+        const std::size_t place = text.find(character, start);
+        if (place != std::wstring::npos) {
+            const auto count = std::count(text.begin(), text.end(), character);
+            Findings().Add(rule, line, place, 1, message + Times(static_cast<std::size_t>(count)));
+        }
+    };
+    report(kNullCharacter, L'\0', "the module sees nothing of this line behind the null character");
+    report(kSubstituteCharacter, L'\x1A',
+           "the character 0x1A does not end the file, it belongs to this line");
+    report(kLoneReturn, L'\r', "a carriage return alone ends no line, it belongs to this line");
+
+    const auto isForeign = [](wchar_t character) { return character >= 0x80; };
+    const auto first = std::find_if(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), isForeign);
+    if (first == text.end()) {
+        return;
+    }
+    const auto last = std::find_if_not(first, text.end(), isForeign);
+    const auto place = static_cast<std::size_t>(first - text.begin());
+    const auto length = static_cast<std::size_t>(last - first);
+    if (DecodeText(BytesOf(text), kUtf8)) {
+        Findings().Add(kUtf8Text, line, place, length,
+                       "this is UTF-8, which shows as " + Quoted(text.substr(place, length)));
+    } else {
+        Findings().Add(kNonAscii, line, place, length,
+                       Quoted(text.substr(place, length)) + " is so only in code page 1252");
+    }
+}

@@ -1,0 +1,17 @@
+// Bytes that mean something else to the module than to other programs.
+#pragma once
+
+#include <string_view>
+
+#include "RuleGroup.h"
+
+RuleList ByteRules();
+
+class CByteRules : public CRuleGroup {
+public:
+    using CRuleGroup::CRuleGroup;
+    void TakeLine(const SItemLine& line) override;
+
+    // Whether a file begins with a mark of UTF-16, so that none of its lines is what it looks like.
+    static bool IsUtf16(std::wstring_view firstLine);
+};

@@ -1,0 +1,76 @@
+#include "Checker.h"
+
+#include "BlockRules.h"
+#include "ByteRules.h"
+#include "ItemFiles.h"
+#include "LabelRules.h"
+#include "LineRules.h"
+#include "LineWalk.h"
+#include "NumberRules.h"
+#include "PairRules.h"
+#include "TitleRules.h"
+#include "ValueRules.h"
+
+namespace {
+
+// Notes the numbers of the texts that a file asks for.
+class CUsedTexts : public CRuleGroup {
+public:
+    CUsedTexts(CFindingList& findings, TextNumbers& numbers) : CRuleGroup(findings), m_numbers(numbers) {}
+
+    void TakeLine(const SItemLine& line) override {
+        if (line.parameter != nullptr) {
+            Add(line.parameter->placeholder);
+        } else if (line.index == kTitleLine) {
+            Add(PlaceholderNumber(line.text));
+        }
+    }
+
+private:
+    void Add(int number) {
+        if (number <= kHighestTextNumber) {
+            m_numbers.set(static_cast<std::size_t>(number));
+        }
+    }
+
+    TextNumbers& m_numbers;
+};
+
+}  // namespace
+
+std::vector<SFinding> CheckText(std::string_view bytes, const SCheckContext& context) {
+    CFindingList findings(context.file);
+    CByteRules byteRules(findings);
+    CTitleRules titleRules(findings, context.texts);
+    CBlockRules blockRules(findings, context.isWorkingFile);
+    CLineRules lineRules(findings, context.isWorkingFile);
+    CNumberRules numberRules(findings);
+    CLabelRules labelRules(findings, context.texts);
+    CValueRules valueRules(findings);
+    std::vector<CRuleGroup*> groups = {&byteRules,   &titleRules, &blockRules, &lineRules,
+                                       &numberRules, &labelRules, &valueRules};
+    TextNumbers nowhere;
+    CUsedTexts usedTexts(findings, context.usedTexts != nullptr ? *context.usedTexts : nowhere);
+    if (context.usedTexts != nullptr) {
+        groups.push_back(&usedTexts);
+    }
+    WalkLines(bytes, groups);
+    return findings.Take();
+}
+
+std::vector<SFinding> ComparePair(const SNamedBytes& templateFile, const SNamedBytes& workingFile) {
+    CFindingList templateFindings(templateFile.file);
+    CFindingList workingFindings(workingFile.file);
+    CPairSide templateSide(templateFindings);
+    CPairSide workingSide(workingFindings);
+    WalkLines(templateFile.bytes, std::vector<CRuleGroup*>{&templateSide});
+    WalkLines(workingFile.bytes, std::vector<CRuleGroup*>{&workingSide});
+    if (!templateSide.IsAssigned() && !workingSide.IsAssigned()) {
+        workingSide.CompareWith(templateSide);
+    }
+    std::vector<SFinding> findings = templateFindings.Take();
+    for (SFinding& finding : workingFindings.Take()) {
+        findings.push_back(std::move(finding));
+    }
+    return findings;
+}

@@ -1,0 +1,30 @@
+#include "FindingList.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+SFinding CFindingList::Make(const SRule& rule, const SItemLine& line, std::size_t start, std::size_t length,
+                            std::string message) const {
+    SFinding finding = Make(rule, std::move(message));
+    finding.line = line.index + 1;
+    finding.column = start + 1;
+    finding.length = length;
+    finding.excerpt = MakeExcerpt(line.text, start, length);
+    return finding;
+}
+
+SFinding CFindingList::Make(const SRule& rule, std::string message) const {
+    SFinding finding;
+    finding.rule = &rule;
+    finding.file = m_file;
+    finding.message = std::move(message);
+    return finding;
+}
+
+std::vector<SFinding> CFindingList::Take() {
+    std::stable_sort(m_findings.begin(), m_findings.end(), [](const SFinding& a, const SFinding& b) {
+        return std::tie(a.line, a.column) < std::tie(b.line, b.column);
+    });
+    return std::exchange(m_findings, {});
+}

@@ -1,0 +1,34 @@
+// A line of an item's file together with what the module makes of it. Every byte is the character of the same
+// number, so that places in a line, which count characters from 0, are places in bytes as well.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "ParamRecord.h"
+#include "TemplateText.h"
+
+// A line that the reader takes for a parameter.
+struct SParameter {
+    ParameterLine parts;
+    ParamRecord record;   // at scale 1, with "<<N>>" as the text of placeholder N
+    int placeholder = 0;  // the number of the label's placeholder; 0 when it has none
+    std::size_t labelStart = 0;
+    std::size_t letterStart = 0;
+    std::size_t valueStart = 0;
+};
+
+enum ELineKind {
+    LK_OUTSIDE,    // no part of a block
+    LK_OPENING,    // opens a block
+    LK_CLOSING,    // closes one
+    LK_PARAMETER,  // inside a block, a parameter
+    LK_IGNORED,    // inside a block, nothing
+};
+
+struct SItemLine {
+    std::size_t index = 0;  // from 0
+    std::wstring text;      // without its end
+    ELineKind kind = LK_OUTSIDE;
+    const SParameter* parameter = nullptr;  // for LK_PARAMETER
+};

@@ -1,0 +1,224 @@
+#include "LineRepair.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "TemplateText.h"
+
+namespace {
+
+// Quotes of word processors, in code page 1252, and what else is taken for one.
+constexpr std::wstring_view kForeignQuotes = L"\u0093\u0094\u0084\u0091\u0092\u00AB\u00BB'`\u00B4";
+constexpr std::wstring_view kTypeLetters = L"IDRidr";
+
+bool IsBlank(wchar_t character) {
+    return character == L' ' || character == L'\t' || character == L'\v' || character == L'\f' ||
+           character == L'\u00A0';
+}
+
+bool IsDigit(wchar_t character) {
+    return character >= L'0' && character <= L'9';
+}
+
+bool IsLetter(wchar_t character) {
+    return (character >= L'A' && character <= L'Z') || (character >= L'a' && character <= L'z');
+}
+
+// What may stand at the beginning of a value.
+bool BeginsValue(wchar_t character) {
+    return character == L' ' || IsDigit(character) || character == L'-' || character == L'+' ||
+           character == L'.';
+}
+
+// Walks over the line from the left and writes down what the reader would take instead.
+class CLineRepair {
+public:
+    CLineRepair(const std::wstring& line, const SRepairRules& rules) : m_line(line), m_rules(rules) {}
+
+    std::vector<SRepair> Run() {
+        TakeStart();
+        TakeNumber();
+        TakeEquals();
+        TakeOpeningQuote();
+        if (!TakeRest()) {
+            m_repairs.clear();
+        }
+        return std::move(m_repairs);
+    }
+
+private:
+    bool AtEnd() const { return m_next == m_line.size(); }
+    wchar_t Peek() const { return AtEnd() ? L'\0' : m_line[m_next]; }
+
+    void Report(const SRule* rule, std::size_t start, std::size_t length, std::string message) {
+        m_repairs.push_back({rule, start, length, std::move(message)});
+    }
+
+    // Goes past blanks; only spaces are allowed there.
+    void SkipBlanks() {
+        const std::size_t start = m_next;
+        while (IsBlank(Peek())) {
+            ++m_next;
+        }
+        const auto first = m_line.begin() + static_cast<std::ptrdiff_t>(start);
+        const auto last = m_line.begin() + static_cast<std::ptrdiff_t>(m_next);
+        const auto other = std::find_if(first, last, [](wchar_t c) { return c != L' '; });
+        if (other != last) {
+            Report(m_rules.tab, static_cast<std::size_t>(other - m_line.begin()), 1,
+                   "only spaces may stand here, no tab and no other blank");
+        }
+    }
+
+    void TakeStart() {
+        while (IsBlank(Peek())) {
+            ++m_next;
+        }
+        if (m_next > 0) {
+            Report(m_rules.leadingBlank, 0, m_next, "nothing may stand in front of the '$'");
+        }
+        if (Peek() == L'$') {
+            ++m_next;
+        }
+        m_repaired = L"$";
+    }
+
+    void TakeNumber() {
+        const std::size_t start = m_next;
+        const std::size_t end = std::min(m_line.find_first_of(L"=\":", m_next), m_line.size());
+        while (m_next < end && !IsBlank(Peek())) {
+            m_repaired += IsDigit(Peek()) ? std::wstring(1, Peek()) : std::wstring();
+            ++m_next;
+        }
+        std::size_t last = m_next;
+        SkipBlanks();
+        if (m_next < end) {  // "$ 1 =", "$1 2 ="
+            last = m_next = end;
+        }
+        const std::wstring_view number = std::wstring_view(m_line).substr(start, last - start);
+        if (!std::all_of(number.begin(), number.end(), IsDigit)) {
+            const std::size_t length = number.find_last_not_of(L" \t") + 1;
+            Report(m_rules.number, start, length,
+                   Quoted(number.substr(0, length)) + " is no number: digits alone may follow the '$'");
+        }
+    }
+
+    void TakeEquals() {
+        const std::size_t start = m_next;
+        while (Peek() == L'=' || Peek() == L':') {
+            ++m_next;
+        }
+        const std::wstring_view sign = std::wstring_view(m_line).substr(start, m_next - start);
+        if (sign != L"=") {
+            Report(
+                m_rules.equals, start, sign.size(),
+                sign.empty() ? "here the '=' is missing" : Quoted(sign) + " stands here instead of one '='");
+        }
+        SkipBlanks();
+        m_repaired += L" = ";
+    }
+
+    void TakeOpeningQuote() {
+        m_repaired += L'"';
+        if (Peek() == L'"') {
+            ++m_next;
+            return;
+        }
+        const bool isForeign = !AtEnd() && kForeignQuotes.find(Peek()) != std::wstring_view::npos;
+        if (isForeign) {
+            Report(m_rules.quote, m_next, 1, "the label must begin with the straight quote '\"'");
+            ++m_next;
+        } else {
+            Report(m_rules.quote, m_next, 0, "here the quote in front of the label is missing");
+        }
+    }
+
+    // The label, its closing quote, the letter and the value.
+    bool TakeRest() {
+        const std::wstring rest = m_line.substr(m_next);
+        return Accepts(rest) || TakeForeignClosing(rest) || TakeLetter(rest) || TakeMissingClosing(rest);
+    }
+
+    bool Accepts(const std::wstring& rest) const { return ParseParameterLine(m_repaired + rest).has_value(); }
+
+    bool TakeForeignClosing(std::wstring rest) {
+        for (std::size_t place = rest.size(); place-- > 0;) {
+            if (kForeignQuotes.find(rest[place]) == std::wstring_view::npos || !IsLetterAt(rest, place + 1)) {
+                continue;
+            }
+            rest[place] = L'"';
+            if (!Accepts(rest)) {
+                return false;
+            }
+            Report(m_rules.quote, m_next + place, 1, "the label must end with the straight quote '\"'");
+            return true;
+        }
+        return false;
+    }
+
+    // Whether a type letter stands there that a value, or nothing, follows.
+    static bool IsLetterAt(const std::wstring& text, std::size_t place) {
+        return place < text.size() && kTypeLetters.find(text[place]) != std::wstring_view::npos &&
+               (place + 1 == text.size() || BeginsValue(text[place + 1]));
+    }
+
+    // What stands behind the last quote is no type letter.
+    bool TakeLetter(const std::wstring& rest) {
+        const std::size_t quote = rest.rfind(L'"');
+        if (quote == std::wstring::npos) {
+            return false;
+        }
+        std::size_t place = quote + 1;
+        while (place < rest.size() && IsBlank(rest[place])) {
+            ++place;
+        }
+        const wchar_t found = place < rest.size() ? rest[place] : L'\0';
+        const std::size_t start = m_next + quote + 1;
+        std::wstring repaired = rest.substr(0, quote + 1);
+        if (kTypeLetters.find(found) != std::wstring_view::npos && place > quote + 1 && found != L'\0') {
+            Report(m_rules.typeLetter, start, place - quote - 1,
+                   "the type letter must follow the quote without a blank");
+            repaired += rest.substr(place);
+        } else if (IsLetter(found)) {
+            Report(m_rules.typeLetter, m_next + place, 1,
+                   Quoted(std::wstring_view(&found, 1)) + " is no type letter: write I, D or R");
+            repaired += L"R" + rest.substr(place + 1);
+        } else {
+            Report(m_rules.typeLetter, start, 0, "here the type letter is missing: write I, D or R");
+            repaired += L"R" + rest.substr(quote + 1);
+        }
+        if (!Accepts(repaired)) {
+            m_repairs.pop_back();
+            return false;
+        }
+        return true;
+    }
+
+    // The last type letter that a value seems to follow had no quote in front.
+    bool TakeMissingClosing(const std::wstring& rest) {
+        for (std::size_t place = rest.size(); place-- > 1;) {
+            if (!IsLetterAt(rest, place) || IsLetter(rest[place - 1])) {
+                continue;
+            }
+            if (!Accepts(rest.substr(0, place) + L"\"" + rest.substr(place))) {
+                return false;
+            }
+            Report(m_rules.quote, m_next + place, 0,
+                   "here the quote between the label and the type letter is missing");
+            return true;
+        }
+        return false;
+    }
+
+    const std::wstring& m_line;
+    const SRepairRules& m_rules;
+    std::size_t m_next = 0;
+    std::wstring m_repaired;  // what stands before m_next, as the reader takes it
+    std::vector<SRepair> m_repairs;
+};
+
+}  // namespace
+
+std::vector<SRepair> RepairLine(const std::wstring& line, const SRepairRules& rules) {
+    return CLineRepair(line, rules).Run();
+}

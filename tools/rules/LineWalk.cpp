@@ -1,0 +1,66 @@
+#include "LineWalk.h"
+
+#include <algorithm>
+
+#include "BlockTracker.h"
+#include "ByteRules.h"
+#include "FileLines.h"
+
+namespace {
+
+ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
+    const bool wasOpen = block.IsOpen();
+    const bool mayBeParameter = block.TakeLine(line);
+    if (wasOpen != block.IsOpen()) {
+        return wasOpen ? LK_CLOSING : LK_OPENING;
+    }
+    return mayBeParameter ? LK_IGNORED : LK_OUTSIDE;
+}
+
+std::wstring PlaceholderItself(unsigned number) {
+    return L"<<" + std::to_wstring(number) + L">>";
+}
+
+// False when the reader does not take the line for a parameter.
+bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
+    std::optional<ParameterLine> parts = ParseParameterLine(line.text);
+    if (!parts) {
+        return false;
+    }
+    parameter.parts = *std::move(parts);
+    parameter.record =
+        ReadParameter(line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself)->record;
+    parameter.placeholder = PlaceholderNumber(parameter.parts.label);
+    // The patterns see a line up to its first null character, and the value is its end.
+    const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
+    parameter.valueStart = end - parameter.parts.value.size();
+    parameter.letterStart = parameter.valueStart - 1;
+    parameter.labelStart = parameter.letterStart - 1 - parameter.parts.label.size();
+    return true;
+}
+
+}  // namespace
+
+void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
+    CBlockTracker block;
+    SItemLine line;
+    SParameter parameter;
+    for (; !bytes.empty(); ++line.index) {
+        line.text = CharactersOf(TakeLine(bytes).text);
+        line.kind = KindOf(line.text, block);
+        line.parameter = nullptr;
+        if (line.kind == LK_IGNORED && ReadAsParameter(line, parameter)) {
+            line.kind = LK_PARAMETER;
+            line.parameter = &parameter;
+        }
+        for (CRuleGroup* const group : groups) {
+            group->TakeLine(line);
+        }
+        if (line.index == 0 && CByteRules::IsUtf16(line.text)) {
+            return;
+        }
+    }
+    for (CRuleGroup* const group : groups) {
+        group->Finish();
+    }
+}

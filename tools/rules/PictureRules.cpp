@@ -1,0 +1,142 @@
+#include "PictureRules.h"
+
+#include <algorithm>
+
+#include "ChoiceLayout.h"
+#include "ChoiceSlides.h"
+#include "CodePage.h"
+#include "FileLines.h"
+#include "ItemFiles.h"
+#include "RoutineCalls.h"
+
+namespace {
+
+constexpr SRule kPictureMissing = {"picture-missing", SV_WARNING, "a picture is not there",
+                                   "Beside NAME.TXT the item dialog looks for NAME.png; without it, its left "
+                                   "part stays empty, and nothing is\n"
+                                   "said. The same goes for a picture that NAME.lsp shows with a call such "
+                                   "as (tavrinprevmask \"door_preview\").",
+                                   "door.TXT (no door.png beside it)"};
+
+constexpr SRule kSlideMissing = {
+    "slide-missing", SV_WARNING, "a choice has no slide",
+    "(tavrinselmask ...) leaves out each name for which it finds neither NAME_t.png nor, where its second\n"
+    "argument is 0, NAME_t_3d.png. Looked at are the names that stand as texts in calls in NAME.lsp; slides\n"
+    "are looked for beside it.",
+    "(tavrinselmask \"Replace\" 0 \"door_single\" \"door_shop\")"};
+
+constexpr SRule kChoiceCount = {"choice-count", SV_WARNING, "a choice among more than six",
+                                "The choice dialog has six cells. With more choices that have a slide it "
+                                "closes as soon as it opens, and\n"
+                                "the routine gets nil.",
+                                "(tavrinselmask \"Replace\" 0 \"a\" \"b\" \"c\" \"d\" \"e\" \"f\" \"g\")"};
+
+constexpr SRule kRoutineUnread = {
+    "routine-unread", SV_NOTE, "the item's routine cannot be read",
+    "NAME.lsp is no complete LISP text, so that the slides it offers are not known.",
+    "(defun door () (tavrinselmask \"Replace\" 0 \"door_single\")"};
+
+constexpr const SRule* kRules[] = {&kPictureMissing, &kSlideMissing, &kChoiceCount, &kRoutineUnread};
+
+// Routines are UTF-8 if they can be, else in code page 1252; a byte without meaning there stands for itself.
+std::wstring RoutineText(const std::string& bytes) {
+    if (std::optional<std::wstring> text = DecodeText(bytes, kUtf8)) {
+        return *std::move(text);
+    }
+    return CharactersOf(bytes);
+}
+
+class CPictureCheck {
+public:
+    explicit CPictureCheck(const SPictureContext& context)
+        : m_context(context), m_item(context.templateFile), m_routine(context.routineFile) {}
+
+    std::vector<SFinding> Run() {
+        const std::string picture = m_context.baseName + Utf8Text(kPictureEnding);
+        if (!m_context.isThere(picture)) {
+            m_item.Add(kPictureMissing, "the item's picture " + picture + " is not beside it");
+        }
+        if (m_context.routine) {
+            CheckRoutine();
+        }
+        std::vector<SFinding> findings = m_item.Take();
+        for (SFinding& finding : m_routine.Take()) {
+            findings.push_back(std::move(finding));
+        }
+        return findings;
+    }
+
+private:
+    void CheckRoutine() {
+        try {
+            for (const SRoutineCall& call : FindRoutineCalls(RoutineText(*m_context.routine))) {
+                if (call.isChoice) {
+                    CheckChoice(call);
+                } else if (!call.names.empty()) {
+                    CheckPreview(call.names.front());
+                }
+            }
+        } catch (const CUserError& error) {
+            m_routine.Add(kRoutineUnread, "the routine cannot be read: " + Utf8Text(error.Text()));
+        }
+    }
+
+    void CheckPreview(const std::wstring& name) {
+        const std::string picture = Utf8Text(name + kPictureEnding);
+        if (!m_context.isThere(picture)) {
+            AddAt(kPictureMissing, name, "the picture " + picture + " is not beside the routine");
+        }
+    }
+
+    void CheckChoice(const SRoutineCall& call) {
+        std::size_t count = 0;
+        for (const std::wstring& name : call.names) {
+            const std::string flat = Utf8Text(name + FLAT_SLIDE_ENDING);
+            const std::string inSpace = Utf8Text(name + SPACE_SLIDE_ENDING);
+            if (m_context.isThere(flat) || (!call.isFlatOnly && m_context.isThere(inSpace))) {
+                ++count;
+                continue;
+            }
+            AddAt(kSlideMissing, name,
+                  "the choice " + Quoted(name) + " has no slide " + flat +
+                      (call.isFlatOnly ? "" : " or " + inSpace) + " and is left out");
+        }
+        if (count > MAX_CHOICES) {
+            AddAt(kChoiceCount, call.names.front(),
+                  std::to_string(count) + " choices have a slide; with more than " +
+                      std::to_string(MAX_CHOICES) + " the dialog closes at once");
+        }
+    }
+
+    // At the first place where the routine holds the name as a text.
+    void AddAt(const SRule& rule, const std::wstring& name, std::string message) {
+        const std::string& bytes = *m_context.routine;
+        const std::string literal = '"' + Utf8Text(name) + '"';
+        const std::size_t place = bytes.find(literal);
+        if (place == std::string::npos) {  // written with escapes or in another encoding
+            m_routine.Add(rule, std::move(message));
+            return;
+        }
+        const std::string_view before = std::string_view(bytes).substr(0, place);
+        const std::size_t start = before.rfind('\n') + 1;  // 0 in the first line
+        const std::size_t end = std::min(bytes.find_first_of("\r\n", place), bytes.size());
+        SItemLine line;
+        line.index = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
+        line.text = CharactersOf(std::string_view(bytes).substr(start, end - start));
+        m_routine.Add(rule, line, place - start, literal.size(), std::move(message));
+    }
+
+    const SPictureContext& m_context;
+    CFindingList m_item;
+    CFindingList m_routine;
+};
+
+}  // namespace
+
+RuleList PictureRules() {
+    return kRules;
+}
+
+std::vector<SFinding> CheckPictures(const SPictureContext& context) {
+    return CPictureCheck(context).Run();
+}

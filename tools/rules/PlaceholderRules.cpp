@@ -1,0 +1,81 @@
+#include "PlaceholderRules.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr SRule kPlaceholderZero = {"placeholder-zero", SV_ERROR,
+                                    "a placeholder without a number, or with the number 0",
+                                    "The number 0 means that there is no placeholder: the signs are shown as "
+                                    "they stand in the file. Give the\n"
+                                    "number of a text, 1 to 65535.",
+                                    "$1 = \"<<0>>\"D 900\n$2 = \"<<>>\"D 2100"};
+
+constexpr SRule kPlaceholderTooLarge = {
+    "placeholder-too-large", SV_ERROR, "a placeholder's number is above 65535",
+    "Numbers of texts end at 65535. A larger one names none, so that the placeholder comes out empty.",
+    "$1 = \"<<71501>>\"D 900"};
+
+constexpr SRule kPlaceholderBroken = {
+    "placeholder-broken", SV_ERROR, "something that is almost a placeholder",
+    "A placeholder is two less-than signs, digits and two greater-than signs, without blanks: <<1501>>. "
+    "What\n"
+    "deviates is shown as it stands in the file.",
+    "$1 = \"<< 1501 >>\"D 900\n$2 = \"<<1502>\"D 2100\n$3 = \"<1503>\"D 125"};
+
+constexpr const SRule* kRules[] = {&kPlaceholderZero, &kPlaceholderTooLarge, &kPlaceholderBroken};
+
+bool IsDigit(wchar_t character) {
+    return character >= L'0' && character <= L'9';
+}
+
+// Whether the text, which the reader finds no number in, has the form of a placeholder all the same: the
+// reader finds one as soon as a digit is put into it.
+bool HasFormOfPlaceholder(const std::wstring& text, std::size_t opening) {
+    return PlaceholderNumber(std::wstring(text).insert(opening + 2, L"1")) != 0;
+}
+
+}  // namespace
+
+RuleList PlaceholderRules() {
+    return kRules;
+}
+
+bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::size_t start,
+                          const std::wstring& text, const std::string& where) {
+    const std::size_t first = text.find_first_of(L"<>");
+    if (first == std::wstring::npos) {
+        return false;
+    }
+    // The last one counts.
+    const std::size_t opening = text.rfind(L"<<");
+    if (opening != std::wstring::npos && HasFormOfPlaceholder(text, opening)) {
+        const std::size_t end = text.find(L">>", opening) + 2;
+        findings.Add(kPlaceholderZero, line, start + opening, end - opening,
+                     Quoted(text.substr(opening, end - opening)) + " is no placeholder, " + where +
+                         " shows it as it stands here");
+        return true;
+    }
+    // A sign alone, as in "< 3 mm", is ordinary text; with a digit and a second sign it is not.
+    const std::size_t last = text.find_last_of(L"<>");
+    const bool hasDigit = std::any_of(text.begin() + static_cast<std::ptrdiff_t>(first),
+                                      text.begin() + static_cast<std::ptrdiff_t>(last), IsDigit);
+    const bool isDouble = text.find(L"<<") != std::wstring::npos || text.find(L">>") != std::wstring::npos;
+    if (!isDouble && !(hasDigit && text[first] == L'<' && text[last] == L'>')) {
+        return false;
+    }
+    findings.Add(kPlaceholderBroken, line, start + first, last + 1 - first,
+                 Quoted(text.substr(first, last + 1 - first)) + " is no placeholder, " + where +
+                     " shows it as it stands here: write <<N>> with digits alone");
+    return true;
+}
+
+void CheckPlaceholderNumber(CFindingList& findings, const SItemLine& line, std::size_t start, int number) {
+    if (number <= kHighestTextNumber) {
+        return;
+    }
+    const std::size_t end = line.text.find(L">>", start);
+    findings.Add(
+        kPlaceholderTooLarge, line, start, end + 2 - start,
+        "the placeholder comes out empty: numbers of texts end at " + std::to_string(kHighestTextNumber));
+}

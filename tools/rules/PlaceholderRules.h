@@ -1,0 +1,16 @@
+// Placeholders by themselves, in the title and in labels.
+#pragma once
+
+#include <string>
+
+#include "RuleGroup.h"
+
+RuleList PlaceholderRules();
+
+// Reports what looks like a placeholder and is none, in a text without placeholder that stands at `start` of
+// the line; `where` names it. True when something was found.
+bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::size_t start,
+                          const std::wstring& text, const std::string& where);
+
+// Reports a number that no text can have. The placeholder begins at `start` of the line.
+void CheckPlaceholderNumber(CFindingList& findings, const SItemLine& line, std::size_t start, int number);

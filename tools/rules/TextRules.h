@@ -1,0 +1,16 @@
+// The texts that placeholders stand for, by themselves.
+#pragma once
+
+#include <bitset>
+#include <vector>
+
+#include "RuleGroup.h"
+#include "TextTable.h"
+
+RuleList TextRules();
+
+// The numbers of texts that files use.
+using TextNumbers = std::bitset<kHighestTextNumber + 1>;
+
+// Checks the texts themselves and against the numbers that the checked files use.
+std::vector<SFinding> CheckTexts(const CTextTable& texts, const TextNumbers& used);

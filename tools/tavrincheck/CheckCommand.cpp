@@ -1,0 +1,158 @@
+#include "CheckCommand.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <set>
+#include <string_view>
+
+#include "CheckOptions.h"
+#include "Checker.h"
+#include "CodePage.h"
+#include "FileList.h"
+#include "Files.h"
+#include "ItemFiles.h"
+#include "PictureRules.h"
+#include "Report.h"
+#include "RuleTable.h"
+#include "TextRules.h"
+#include "TextTable.h"
+
+namespace {
+
+enum EExitStatus { ES_CLEAN, ES_FINDINGS, ES_COULD_NOT_RUN };
+
+constexpr char kVersion[] = TAVRIN_VERSION;
+
+void Print(const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+// One run over all files: what was found, and what kept files from being checked.
+class CCheckRun {
+public:
+    explicit CCheckRun(const SCheckOptions& options) : m_options(options) {
+        for (const std::string& rule : options.disabledRules) {
+            if (FindRule(rule) == nullptr) {
+                throw CToolError("--disable: there is no rule '" + rule + "', see --rules");
+            }
+            m_disabled.insert(rule);
+        }
+        for (const std::string& name : options.texts) {
+            m_texts.ReadFile(name);
+        }
+    }
+
+    void Run() {
+        for (const SItemFile& file : ListFiles(m_options.names, m_errors)) {
+            try {
+                CheckFile(file);
+            } catch (const CToolError& error) {
+                m_errors.emplace_back(error.what());
+            }
+        }
+        if (!m_options.texts.empty()) {
+            Add(CheckTexts(m_texts, m_usedTexts));
+        }
+    }
+
+    const std::vector<SFinding>& Findings() const { return m_findings; }
+    const std::vector<std::string>& Errors() const { return m_errors; }
+
+private:
+    void Add(std::vector<SFinding> findings) {
+        std::copy_if(std::make_move_iterator(findings.begin()), std::make_move_iterator(findings.end()),
+                     std::back_inserter(m_findings),
+                     [this](const SFinding& finding) { return !m_disabled.contains(finding.rule->id); });
+    }
+
+    void CheckFile(const SItemFile& file) {
+        const std::string bytes = ReadBytes(file.name);
+        SCheckContext context;
+        context.file = file.name;
+        context.isWorkingFile = file.isWorkingFile;
+        context.texts = m_options.texts.empty() ? nullptr : &m_texts;
+        context.usedTexts = &m_usedTexts;
+        Add(CheckText(bytes, context));
+        if (!file.item.empty()) {
+            ComparePairOf(file, bytes);
+        }
+        if (!file.item.empty() && !file.isWorkingFile) {
+            CheckPicturesOf(file);
+        }
+    }
+
+    // The pair is compared once, with whichever of the two comes first.
+    void ComparePairOf(const SItemFile& file, const std::string& bytes) {
+        const std::string other =
+            file.item + Utf8Text(file.isWorkingFile ? kTemplateFileEnding : kWorkingFileEnding);
+        if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
+            return;
+        }
+        const std::string otherBytes = ReadBytes(other);
+        const SNamedBytes mine{file.name, bytes};
+        const SNamedBytes others{other, otherBytes};
+        Add(file.isWorkingFile ? ComparePair(others, mine) : ComparePair(mine, others));
+    }
+
+    void CheckPicturesOf(const SItemFile& file) {
+        const std::filesystem::path folder = PathOf(file.item).parent_path();
+        SPictureContext context;
+        context.templateFile = file.name;
+        context.routineFile = file.item + ".lsp";
+        context.baseName = NameOf(PathOf(file.item).filename());
+        context.isThere = [&](const std::string& name) { return IsFile(NameOf(folder / PathOf(name))); };
+        if (IsFile(context.routineFile)) {
+            context.routine = ReadBytes(context.routineFile);
+        }
+        Add(CheckPictures(context));
+    }
+
+    static bool IsFile(const std::string& name) {
+        std::error_code ignored;
+        return std::filesystem::is_regular_file(PathOf(name), ignored);
+    }
+
+    const SCheckOptions& m_options;
+    std::set<std::string, std::less<>> m_disabled;
+    CTextTable m_texts;
+    TextNumbers m_usedTexts;
+    std::set<std::string> m_comparedItems;
+    std::vector<SFinding> m_findings;
+    std::vector<std::string> m_errors;
+};
+
+std::string Report(const std::vector<SFinding>& findings, EReportFormat format) {
+    switch (format) {
+        case RF_JSON:
+            return JsonReport(findings);
+        case RF_SARIF:
+            return SarifReport(findings, AllRules(), kVersion);
+        default:
+            return TextReport(findings);
+    }
+}
+
+}  // namespace
+
+int RunCheck(const std::vector<std::string>& arguments) {
+    const SCheckOptions options = ParseCheckOptions(arguments);
+    if (options.help || options.version || options.listRules) {
+        Print(options.help      ? CheckHelp()
+              : options.version ? "tavrincheck " + std::string(kVersion) + "\n"
+                                : RulesText());
+        return ES_CLEAN;
+    }
+    CCheckRun run(options);
+    run.Run();
+    Print(Report(run.Findings(), options.format));
+    for (const std::string& error : run.Errors()) {
+        std::fprintf(stderr, "tavrincheck: %s\n", error.c_str());
+    }
+    if (!run.Errors().empty()) {
+        return ES_COULD_NOT_RUN;
+    }
+    const bool counts = std::any_of(
+        run.Findings().begin(), run.Findings().end(),
+        [&](const SFinding& finding) { return options.strict || finding.rule->severity != SV_NOTE; });
+    return counts ? ES_FINDINGS : ES_CLEAN;
+}
