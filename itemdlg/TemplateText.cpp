@@ -96,18 +96,13 @@ bool TakeReadOnlyMark(std::wstring& label) {
     return marked;
 }
 
-std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
-                                          int mode, const TextLookup& lookup) {
-    const std::optional<ParameterParts> parameter = SplitParameterLine(line);
-    if (!parameter) {
-        return std::nullopt;
-    }
-    std::optional<ParameterRow> read(std::in_place);
-    ParameterRow& row = *read;
+ParameterRow RowOf(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex,
+                   double scale, int mode, const TextLookup& lookup) {
+    ParameterRow row;
     ParamRecord& record = row.record;
-    record.number = parameter->number;
+    record.number = parameter.number;
     record.lineIndex = lineIndex;
-    record.label = parameter->label;
+    record.label = parameter.label;
     // Also for a label without placeholder, which so loses its first character when it is written back.
     record.labelPrefix = LabelPrefix(record.label);
     record.labelSuffix = LabelSuffix(record.label);
@@ -116,16 +111,25 @@ std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t
             .append(ResourceText(number, lookup))
             .append(record.labelSuffix);
         // That of the whole line: a placeholder in the value would be the last one and count.
-        const bool inValue = parameter->value.find(L"<<") != std::wstring_view::npos;
+        const bool inValue = parameter.value.find(L"<<") != std::wstring_view::npos;
         record.resourceId = inValue ? PlaceholderNumber(line) : number;
     }
     const bool marked = TakeReadOnlyMark(record.label);
     row.editable = !marked || mode != kReadOnlyMode;
-    record.type = TypeOf(parameter->typeLetter);
+    record.type = TypeOf(parameter.typeLetter);
     if (record.type == 'I') {
-        record.intValue = FloorToInt(DecimalValue(parameter->value));
+        record.intValue = FloorToInt(DecimalValue(parameter.value));
     } else if (record.type == 'D' || record.type == 'R') {
-        record.realValue = DecimalValue(parameter->value) * scale;
+        record.realValue = DecimalValue(parameter.value) * scale;
     }
-    return read;
+    return row;
+}
+
+std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
+                                          int mode, const TextLookup& lookup) {
+    const std::optional<ParameterParts> parameter = SplitParameterLine(line);
+    if (!parameter) {
+        return std::nullopt;
+    }
+    return RowOf(*parameter, line, lineIndex, scale, mode, lookup);
 }

@@ -87,8 +87,12 @@ struct ParameterRow {
 // The mode in which the read-only mark makes a row read-only; in any other it is only removed.
 constexpr int kReadOnlyMode = 1;
 
-// The record and row of a line inside a block, nothing when the line is no parameter. Distances and reals are
+// The record and row of a line inside a block of which the parts are known. Distances and reals are
 // multiplied by the scale. Left to the caller: the warning for a record of type 'U', which gets no row, and
 // the row itself with its customItem and itemId.
+ParameterRow RowOf(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex,
+                   double scale, int mode, const TextLookup& lookup);
+
+// The same from the line alone; nothing when it is no parameter.
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
                                           int mode, const TextLookup& lookup);

@@ -18,7 +18,9 @@ ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
 }
 
 std::wstring PlaceholderItself(unsigned number) {
-    return L"<<" + std::to_wstring(number) + L">>";
+    // Digits by way of bytes, since wide characters are printed slowly.
+    const std::string digits = std::to_string(number);
+    return L"<<" + std::wstring(digits.begin(), digits.end()) + L">>";
 }
 
 // False when the reader does not take the line for a parameter.
@@ -28,8 +30,10 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
         return false;
     }
     parameter.parts = *std::move(parts);
-    parameter.record =
-        ReadParameter(line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself)->record;
+    parameter.record = RowOf({parameter.parts.number, parameter.parts.label, parameter.parts.typeLetter,
+                              parameter.parts.value},
+                             line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself)
+                           .record;
     parameter.placeholder = PlaceholderNumber(parameter.parts.label);
     // The patterns see a line up to its first null character, and the value is its end.
     const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
