@@ -8,7 +8,7 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 LINT_PACKAGES = clang-format clang-tidy cppcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run screenshots gallery lint coverage bench fuzz soak dist packages
+.PHONY: help build test run screenshots gallery lint coverage bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -24,6 +24,7 @@ help:
 	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
 	@echo "make coverage what the tests run of the code; the figures go to docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
+	@echo "make rules    write what tavrincheck says of its rules into docs/tavrincheck.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
 	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
 	@echo "make help     this list"
@@ -69,6 +70,9 @@ lint: packages
 
 soak: packages
 	@scripts/soak
+
+rules: packages
+	@scripts/write-rules
 
 coverage: packages
 	@scripts/install-packages $(FUZZ_PACKAGES) llvm

@@ -1,52 +1,21 @@
 // The check as a whole: the samples are clean, and files that break every rule give just what is expected.
-#include "CheckCommand.h"
-
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <filesystem>
-#include <string>
-#include <vector>
-
+#include "CheckRun.h"
 #include "Files.h"
 #include "RuleTable.h"
 
 namespace {
 
-struct SRun {
-    int status;
-    std::string output;
-};
-
-SRun Check(const std::vector<std::string>& arguments) {
-    testing::internal::CaptureStdout();
-    const int status = RunCheck(arguments);
-    std::fflush(stdout);
-    return {status, testing::internal::GetCapturedStdout()};
-}
-
-class CheckCommand : public testing::Test {
-protected:
-    void SetUp() override { std::filesystem::current_path(BAD_FILES_PARENT); }
-    void TearDown() override { std::filesystem::current_path(m_before); }
-
-    static std::vector<std::string> BadFiles() {
-        return {"bad", "--texts", "bad/texts/gate.it.rc", "--texts", "bad/texts/gate.en.rc"};
-    }
-
-private:
-    std::filesystem::path m_before = std::filesystem::current_path();
-};
+class CheckCommand : public CBadFiles {};
 
 TEST_F(CheckCommand, FindsNothingInTheSamples) {
-    const SRun run = Check({TAVRIN_SAMPLES, "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.it.rc", "--texts",
-                            TAVRIN_SAMPLES "/texts/TavrinRes.en.rc"});
+    const SCheckRun run = Check({TAVRIN_SAMPLES, "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.it.rc",
+                                 "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.en.rc"});
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.status, 0);
 }
 
 TEST_F(CheckCommand, FindsJustWhatIsBad) {
-    const SRun run = Check(BadFiles());
+    const SCheckRun run = CheckBadFiles({});
     EXPECT_EQ(run.output, ReadBytes("bad.expected"));
     EXPECT_EQ(run.status, 1);
 }
@@ -57,19 +26,30 @@ TEST_F(CheckCommand, HasAnExpectedFindingForEveryRule) {
         EXPECT_NE(expected.find("[" + std::string(rule->id) + "]\n"), std::string::npos) << rule->id;
 }
 
+// The lines of an expected finding: its own, one of the file, and the underline.
+TEST_F(CheckCommand, UnderlinesWhatTheColumnNames) {
+    const std::string expected = ReadBytes("bad.expected");
+    const std::size_t finding = expected.find("bad/files/values.TXT:7:19: ");
+    ASSERT_NE(finding, std::string::npos);
+    const std::size_t line = expected.find('\n', finding) + 1;
+    const std::size_t underline = expected.find('\n', line) + 1;
+    EXPECT_EQ(expected.find('^', underline) - underline, 4U + 19U - 1U);
+    EXPECT_EQ(expected.substr(line + 4 + 19 - 1, 2), ",9");
+}
+
 TEST_F(CheckCommand, LeavesOutADisabledRule) {
-    std::vector<std::string> arguments = BadFiles();
-    arguments.insert(arguments.end(), {"--disable", "line-tab,line-quote"});
-    const SRun run = Check(arguments);
+    const SCheckRun run = CheckBadFiles({"--disable", "line-tab,line-quote"});
     EXPECT_EQ(run.output.find("[line-tab]"), std::string::npos);
     EXPECT_EQ(run.output.find("[line-quote]"), std::string::npos);
     EXPECT_NE(run.output.find("[line-equals]"), std::string::npos);
 }
 
-TEST_F(CheckCommand, AFileThatIsNotThereIsNoCleanRun) {
-    testing::internal::CaptureStderr();
-    EXPECT_EQ(Check({"bad/no such file.TXT"}).status, 2);
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("bad/no such file.TXT"), std::string::npos);
+// What is known of texts when none are given.
+TEST_F(CheckCommand, SaysNothingOfTextsThatItDoesNotKnow) {
+    const std::string output = Check({"bad"}).output;
+    for (const char* rule : {"title-text-unknown", "text-unknown", "mark-from-text", "text-too-long",
+                             "text-missing", "text-unused"})
+        EXPECT_EQ(output.find("[" + std::string(rule) + "]"), std::string::npos) << rule;
 }
 
 }  // namespace
