@@ -44,7 +44,7 @@ private:
 };
 
 // An off-screen picture of `size` pixels with the colours of `target`: draw on Dc(), then CopyTo shows
-// all of it at once.
+// it at once, down to `bottom`.
 class CMemoryCanvas {
 public:
     CMemoryCanvas(CDC& target, CSize size) : m_size(size) {
@@ -58,7 +58,7 @@ public:
 
     CDC& Dc() { return m_dc; }
     CSize Size() const { return m_size; }
-    void CopyTo(CDC& target) { target.BitBlt(0, 0, m_size.cx, m_size.cy, &m_dc, 0, 0, SRCCOPY); }
+    void CopyTo(CDC& target, int bottom) { target.BitBlt(0, 0, m_size.cx, bottom, &m_dc, 0, 0, SRCCOPY); }
 
 private:
     CSize m_size;

@@ -48,6 +48,7 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
         m_items.pop_back();
         return NO_ID;
     }
+    item.row = static_cast<unsigned>(section->items.size());
     section->items.push_back(&item);
     m_sorted = false;
     if (!section->collapsed)
@@ -109,14 +110,14 @@ std::vector<CGridItem*> CGridContents::WalkAll() const {
     return all;
 }
 
-const std::vector<CGridItem*>& CGridContents::WalkSorted() const {
-    if (m_sorted) {
-        m_itemsWalked += m_sortedItems.size();
+const std::vector<CGridItem*>& CGridContents::GetSorted() {
+    if (m_sorted)
         return m_sortedItems;
-    }
     m_sortedItems = WalkAll();
     std::stable_sort(m_sortedItems.begin(), m_sortedItems.end(),
                      [](const CGridItem* a, const CGridItem* b) { return a->name < b->name; });
+    for (unsigned row = 0; CGridItem* const item : m_sortedItems)
+        item->sortedRow = row++;
     m_sorted = true;
     return m_sortedItems;
 }

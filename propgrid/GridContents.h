@@ -46,12 +46,20 @@ public:
     // In display order.
     const std::vector<CGridSection*>& GetSections() const { return m_sectionOrder; }
 
-    // The items of a section in the order of adding, those of all sections in section order, and all sorted
-    // by name (code units; equal names of different sections stay in section order). All are counted by
-    // GetItemsWalked.
+    // The items of a section in the order of adding, and those of all sections in section order. All are
+    // counted by GetItemsWalked.
     const std::vector<CGridItem*>& Walk(const CGridSection& section) const;
     std::vector<CGridItem*> WalkAll() const;
-    const std::vector<CGridItem*>& WalkSorted() const;
+
+    // All items sorted by name (code units; equal names of different sections stay in section order), with
+    // their sorted rows. Walks them only when there are new ones.
+    const std::vector<CGridItem*>& GetSorted();
+
+    // One item of a section's list, or of the sorted one; counted by GetItemsWalked.
+    CGridItem& Visit(const std::vector<CGridItem*>& items, std::size_t row) const {
+        ++m_itemsWalked;
+        return *items[row];
+    }
 
     std::size_t GetItemCount() const { return m_items.size(); }
 
@@ -84,7 +92,7 @@ private:
     std::unordered_set<const CGridItem*, NameHash, NameEqual> m_names{0, NameHash{},
                                                                       NameEqual{&m_nameComparisons}};
     // Sorted when they are asked for: names do not change, but for rows and sections that are added.
-    mutable std::vector<CGridItem*> m_sortedItems;
-    mutable bool m_sorted = false;
+    std::vector<CGridItem*> m_sortedItems;
+    bool m_sorted = false;
     std::size_t m_expandedItems = 0;  // in sections that are not collapsed
 };

@@ -103,6 +103,39 @@ bool ReadGridValue(EItemType kind, const void* source, CGridValue& value) {
     return false;
 }
 
+CRect CGridPlace::GetRow(unsigned row) const {
+    const int y = top + static_cast<int>(row) * rowHeight;
+    return CRect(0, y, area.cx, y + rowHeight);
+}
+
+bool CGridPlace::Shows(const CRect& row) const {
+    return area.cx > 0 && row.top < area.cy && row.bottom > 0 && row.top < row.bottom;
+}
+
+CRect CGridItem::GetPaintedRow() const {
+    const CGridPlace& place = section->place;
+    const unsigned number = place.sorted ? sortedRow : row;
+    return number < place.rows ? place.GetRow(number) : CRect();
+}
+
+CRect CGridItem::GetNameRect() const {
+    CRect rect = GetPaintedRow();
+    if (section->place.Shows(rect))
+        rect.right = section->place.gutter;
+    return rect;
+}
+
+CRect CGridItem::GetValueRect() const {
+    const CGridPlace& place = section->place;
+    CRect rect = GetPaintedRow();
+    if (!place.Shows(rect))
+        return CRect();
+    rect.left = place.gutter;
+    if (place.buttonItem == id)
+        rect.right -= place.rowHeight;
+    return rect;
+}
+
 void CGridItem::TakeSavedCopy() {
     savedUndefined = undefined;
     saved = value;

@@ -1,12 +1,15 @@
 // What the property grid stores: the records of its sections and items, the value kinds with their
 // texts, and the comparison that marks a value as modified. Nothing here needs a window.
 //
-// Rectangles are in client coordinates of the grid, in pixels, as the last paint recorded them.
+// Rectangles are in client coordinates of the grid, in pixels, as the last paint recorded them. It records
+// those of sections one by one; of items only where their list stood, so that rows out of sight cost it
+// nothing.
 #pragma once
 
 #include <afxwin.h>
 #include <atlcomtime.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <variant>
@@ -55,6 +58,25 @@ using CGridValue =
 
 struct CGridItem;
 
+// Where a list of rows stood when it was last painted, one row under the other, and what of them showed.
+struct CGridPlace {
+    int top = 0;  // of the first row
+    int rowHeight = 0;
+    CSize area;  // what the rows were clipped to, from the upper left corner of the window
+    int gutter = 0;
+    unsigned rows = 0;             // those that come behind were added since, and never painted
+    bool sorted = false;           // the list was that of all items by name, not the section's own
+    UINT buttonItem = 0xFFFFFFFF;  // the item with room for an edit button beside its value
+
+    CRect GetRow(unsigned row) const;
+    // The row at the upper edge of the window, or behind the last one.
+    unsigned GetFirstShown() const {
+        return top < 0 ? static_cast<unsigned>(-top / std::max(rowHeight, 1)) : 0;
+    }
+    // Whether anything of a row could be seen.
+    bool Shows(const CRect& row) const;
+};
+
 struct CGridSection {
     UINT id = 0;
     std::wstring name;
@@ -62,16 +84,19 @@ struct CGridSection {
     std::vector<CGridItem*> items;  // in the order of adding
     CRect glyphRect;                // the plus or minus
     CRect headerRect;
+    CGridPlace place;  // of the items
 };
 
 // One row. On 64-bit Windows it costs about 300 bytes beside its texts, and 50 more when it has options:
-// 192 for this record, 24 for its entry in the index of names, 8 for each of its places in the list of
+// 168 for this record, 24 for its entry in the index of names, 8 for each of its places in the list of
 // ids, the section's list and the index's buckets (twice that at worst, as these grow ahead), and what
 // the heap adds to its two or three blocks. A font adds 130, and 130 more while it is modified.
 struct CGridItem {
     UINT id = 0;
     EItemType kind = IT_STRING;
     CGridSection* section = nullptr;
+    unsigned row = 0;                 // among the section's items
+    unsigned sortedRow = 0xFFFFFFFF;  // among all items by name; none before it is sorted in
     bool editable = true;
     bool undefined = false;
     bool savedUndefined = false;
@@ -81,8 +106,11 @@ struct CGridItem {
     std::vector<std::wstring> options;
     CGridValue value;
     CGridValue saved;  // what `value` is compared with to mark it as modified
-    CRect nameRect;
-    CRect valueRect;
+
+    // As the last paint left them that went through the section: of a row out of sight the name is the whole
+    // row and the value empty, of one that was never painted both are empty.
+    CRect GetNameRect() const;
+    CRect GetValueRect() const;
 
     // Takes the saved copy of the value and of the undefined flag; a custom item is told to accept its
     // value, which is its own to compare.
@@ -105,6 +133,9 @@ struct CGridItem {
     std::wstring GetText(const CGridTexts& texts, int pixelsPerInch) const;
 
     bool IsPath() const { return kind == IT_FILE || kind == IT_FOLDER; }
+
+private:
+    CRect GetPaintedRow() const;
 };
 
 // Reads the value of an item of `kind` through an untyped pointer: to an int, a double, a std::wstring,

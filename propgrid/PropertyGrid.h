@@ -371,16 +371,18 @@ private:
     // Painting: PropertyGridPaint.cpp.
     void PaintWindow(CDC& target);
     void Paint(CDC& target, CMemoryCanvas& canvas);
+    void PaintBelowRows(CPaintTools& tools);
     void PaintEmptyList(CPaintTools& tools);
     void PaintSections(CPaintTools& tools);
     void PaintSorted(CPaintTools& tools);
     void PaintHeader(CPaintTools& tools, const CRect& row, CGridSection& section);
-    void PaintColumns(CPaintTools& tools, int y, std::size_t rows);
-    void PaintItemRow(CPaintTools& tools, int y, CGridItem& item);
+    CGridPlace PlaceRows(const CPaintTools& tools, int top, std::size_t rows) const;
+    void PaintColumns(CPaintTools& tools, const CGridPlace& place);
+    void PaintRows(CPaintTools& tools, const CGridPlace& place, const std::vector<CGridItem*>& items);
     void PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item);
-    int PaintEditButton(CPaintTools& tools, const CRect& row, const CGridItem& item);
+    int PaintEditButton(CPaintTools& tools, const CRect& row, CGridItem& item);
     void PaintName(CPaintTools& tools, const CRect& row, const CGridItem& item);
-    void PaintValue(CPaintTools& tools, const CGridItem& item);
+    void PaintValue(CPaintTools& tools, const CRect& valueRect, const CGridItem& item);
     CRect PaintSwatch(CPaintTools& tools, const CRect& cell, COLORREF color);
 
     // The mouse: PropertyGridMouse.cpp.

@@ -114,7 +114,7 @@ void CPropertyGrid::RevealFocusedRow() {
     if (const CGridSection* const section = m_contents.FindSection(m_focusedSection))
         rect = section->headerRect;
     else if (const CGridItem* const item = FindFocusedItem())
-        rect = item->nameRect;
+        rect = item->GetNameRect();
     CRect client;
     GetClientRect(&client);
     if (!rect.IsRectEmpty() && (rect & client).Height() != m_rowHeight && m_scrollBarShown)

@@ -58,7 +58,7 @@ bool CPropertyGrid::TakeFocus() {
 bool CPropertyGrid::PressCustomItem(CPoint point) {
     const CGridItem* const item = FindFocusedItem();
     return item != nullptr && item->kind == IT_CUSTOM && item->GetEditMode() == EM_CUSTOM &&
-           std::get<ICustomItem*>(item->value)->OnLButtonDown(item->valueRect, point);
+           std::get<ICustomItem*>(item->value)->OnLButtonDown(item->GetValueRect(), point);
 }
 
 bool CPropertyGrid::PressSection(CPoint point) {
@@ -82,12 +82,12 @@ bool CPropertyGrid::PressItem(CPoint point) {
         return false;
     m_focusedItem = item->id;
     // A click on the name only focuses.
-    if (!item->valueRect.PtInRect(point))
+    if (!item->GetValueRect().PtInRect(point))
         return true;
     const int mode = item->GetEditMode();
     m_editOnRelease = mode == EM_INPLACE || mode == EM_DROPDOWN || mode == EM_INPLACE_BUTTON;
-    m_textPartPressed =
-        item->kind == IT_CUSTOM && mode == EM_INPLACE_BUTTON && point.x < item->valueRect.right - m_rowHeight;
+    m_textPartPressed = item->kind == IT_CUSTOM && mode == EM_INPLACE_BUTTON &&
+                        point.x < item->GetValueRect().right - m_rowHeight;
     return true;
 }
 
@@ -97,7 +97,7 @@ CGridItem* CPropertyGrid::FindItemAt(CPoint point) {
         if (IsCategorized() && section->collapsed)
             continue;
         for (CGridItem* const item : m_contents.Walk(*section)) {
-            const bool isHit = item->nameRect.PtInRect(point) || item->valueRect.PtInRect(point);
+            const bool isHit = item->GetNameRect().PtInRect(point) || item->GetValueRect().PtInRect(point);
             if (isHit && CanFocus(*item))
                 return item;
         }
@@ -113,7 +113,7 @@ bool CPropertyGrid::IsOnDivider(CPoint point) const {
 // section, has no button.
 bool CPropertyGrid::IsOnEditButton(CPoint point) const {
     const CGridItem* const item = m_contents.FindItem(m_focusedItem);
-    if (item == nullptr || !item->editable || item->valueRect.IsRectEmpty() ||
+    if (item == nullptr || !item->editable || item->GetValueRect().IsRectEmpty() ||
         (IsCategorized() && item->section->collapsed))
         return false;
     return m_editButtonRect.PtInRect(point);
@@ -180,7 +180,7 @@ void CPropertyGrid::Release(CPoint point) {
         return;
     UpdateWindow();
     const CGridItem* const item = FindFocusedItem();
-    const bool onValue = editOnRelease && item != nullptr && item->valueRect.PtInRect(point);
+    const bool onValue = editOnRelease && item != nullptr && item->GetValueRect().PtInRect(point);
     if (onValue || IsOnEditButton(point))
         OpenEditor(point);
 }
@@ -212,5 +212,5 @@ void CPropertyGrid::DoubleClick() {
 void CPropertyGrid::TellCustomItem(void (ICustomItem::*event)(CRect, CPoint), CPoint point) {
     const CGridItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM)
-        (std::get<ICustomItem*>(item->value)->*event)(item->valueRect, point);
+        (std::get<ICustomItem*>(item->value)->*event)(item->GetValueRect(), point);
 }

@@ -1,6 +1,6 @@
 // The painting of the property grid. Everything is drawn into an off-screen picture that is then shown
-// at once, so that nothing flickers. Painting reads the state and changes nothing but the rectangles
-// that it records of what it drew, for hit tests.
+// at once, so that nothing flickers. Painting reads the state and changes nothing but what it records of
+// where it drew, for hit tests. Its time goes by the rows in sight, not by those there are.
 #include <shlwapi.h>
 
 #include <algorithm>
@@ -23,6 +23,9 @@ constexpr int bandWidth = itemIndent + 4;
 constexpr int nameLeft = itemIndent + 8;
 
 constexpr UINT lineOfText = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+
+// How far rows may draw below the last one: its line, and the glyph of a header that is lower than it.
+constexpr int overhang = 16;
 
 // Text output takes no more than this, and no window is wide enough to show it; longer texts would be
 // measured for nothing.
@@ -50,18 +53,13 @@ std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
     return buffer;
 }
 
-// Of rectangles that are not empty; asked for every row there is, so without a call into the system.
-bool Overlap(const CRect& a, const CRect& b) {
-    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom && !a.IsRectEmpty() &&
-           !b.IsRectEmpty();
-}
-
 }  // namespace
 
 // What one paint draws with.
 struct CPropertyGrid::CPaintTools {
     CDC& dc;
-    CRect area;  // the client area without the scroll bar
+    CRect area;     // the client area without the scroll bar
+    CRect picture;  // what of the client area is drawn off-screen: all, or all but what is below the rows
 };
 
 // Paints the window. The off-screen picture is kept for the next paint: to make one costs more than to draw
@@ -77,20 +75,25 @@ void CPropertyGrid::PaintWindow(CDC& target) {
 }
 
 // Always paints the whole client area, however little of it is invalid: every visible row gets its
-// rectangles recorded.
+// rectangles recorded. What is below the rows has one colour, which goes straight to the window: a row that
+// appears there is drawn off-screen again.
 void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
     const CRect client(CPoint(0, 0), canvas.Size());
     CRect area = client;
     if (m_scrollBarShown)
         area.right -= ::GetSystemMetrics(SM_CXVSCROLL);
+    CPaintTools tools = {canvas.Dc(), area, client};
     {
-        CDC& dc = canvas.Dc();
-        CPaintTools tools = {dc, area};
+        CDC& dc = tools.dc;
+        if (!m_contents.GetSections().empty()) {
+            const int rowsBottom = GetTotalHeight() - GetScrollPosition() + overhang;
+            tools.picture.bottom = std::clamp<int>(rowsBottom, 0, client.bottom);
+        }
         CPen shadePen;
         shadePen.CreatePen(PS_SOLID, 1, m_colors.shade);
         const CSelectedObject pen(dc, shadePen);
         const CSelectedObject font(dc, m_font);
-        dc.FillSolidRect(&client, m_colors.back);
+        dc.FillSolidRect(&tools.picture, m_colors.back);
         dc.SetBkMode(TRANSPARENT);
 
         for (CGridSection* const section : m_contents.GetSections()) {
@@ -104,7 +107,21 @@ void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
         else
             PaintSections(tools);
     }
-    canvas.CopyTo(target);
+    canvas.CopyTo(target, tools.picture.bottom);
+    if (tools.picture.bottom < client.bottom) {
+        const CSavedDcState state(target);
+        target.FillSolidRect(0, tools.picture.bottom, client.right, client.bottom - tools.picture.bottom,
+                             m_colors.back);
+    }
+}
+
+// Before a custom item draws, which may draw anywhere and may add rows.
+void CPropertyGrid::PaintBelowRows(CPaintTools& tools) {
+    CRect below = tools.picture;
+    below.top = std::exchange(tools.picture.bottom, tools.area.bottom);
+    below.bottom = tools.area.bottom;
+    if (!below.IsRectEmpty())
+        tools.dc.FillSolidRect(&below, m_colors.back);
 }
 
 void CPropertyGrid::PaintEmptyList(CPaintTools& tools) {
@@ -118,33 +135,58 @@ void CPropertyGrid::PaintEmptyList(CPaintTools& tools) {
 void CPropertyGrid::PaintSections(CPaintTools& tools) {
     const bool categorized = m_displayMode == DM_CATEGORIZED;
     int y = -GetScrollPosition();
-    for (CGridSection* const section : m_contents.GetSections()) {
+    // By index: a custom item that draws may add rows and sections.
+    const std::vector<CGridSection*>& sections = m_contents.GetSections();
+    for (std::size_t index = 0; index < sections.size(); ++index) {
+        CGridSection& section = *sections[index];
         const CRect row(0, y, tools.area.right, y + m_rowHeight);
-        section->headerRect = row;
+        section.headerRect = row;
+        CGridPlace place = PlaceRows(tools, y, section.items.size());
         if (categorized) {
-            if (Overlap(row, tools.area))
-                PaintHeader(tools, row, *section);
+            if (place.Shows(row))
+                PaintHeader(tools, row, section);
             y += m_rowHeight;
-            // Their rectangles deliberately stay as an earlier paint recorded them.
-            if (section->collapsed)
+            // Its place deliberately stays as an earlier paint recorded it.
+            if (section.collapsed)
                 continue;
+            place.top = y;
         }
-        PaintColumns(tools, y, section->items.size());
-        for (CGridItem* const item : m_contents.Walk(*section)) {
-            PaintItemRow(tools, y, *item);
-            y += m_rowHeight;
-        }
+        section.place = place;
+        PaintRows(tools, place, section.items);
+        section.place.rows = static_cast<unsigned>(section.items.size());
+        y += static_cast<int>(section.items.size()) * m_rowHeight;
     }
 }
 
 void CPropertyGrid::PaintSorted(CPaintTools& tools) {
-    int y = -GetScrollPosition();
+    const std::vector<CGridItem*>& items = m_contents.GetSorted();
+    CGridPlace place = PlaceRows(tools, -GetScrollPosition(), items.size());
+    place.sorted = true;
+    for (CGridSection* const section : m_contents.GetSections())
+        section->place = place;
+    PaintRows(tools, place, items);
+}
+
+CGridPlace CPropertyGrid::PlaceRows(const CPaintTools& tools, int top, std::size_t rows) const {
+    CGridPlace place;
+    place.top = top;
+    place.rowHeight = m_rowHeight;
+    place.area = tools.area.Size();
+    place.gutter = m_gutter;
+    place.rows = static_cast<unsigned>(rows);
+    return place;
+}
+
+// Paints those of the rows that show.
+void CPropertyGrid::PaintRows(CPaintTools& tools, const CGridPlace& place,
+                              const std::vector<CGridItem*>& items) {
+    PaintColumns(tools, place);
     // By index: a custom item that draws may add rows, and another paint sorts them in.
-    const std::vector<CGridItem*>& items = m_contents.WalkSorted();
-    PaintColumns(tools, y, items.size());
-    for (std::size_t index = 0; index < items.size(); ++index) {
-        PaintItemRow(tools, y, *items[index]);
-        y += m_rowHeight;
+    for (unsigned index = place.GetFirstShown(); index < items.size(); ++index) {
+        const CRect row = place.GetRow(index);
+        if (!place.Shows(row))
+            break;
+        PaintItem(tools, row, m_contents.Visit(items, index));
     }
 }
 
@@ -185,42 +227,28 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
     DrawTextIn(dc, section.name, CRect(18, row.top, row.right, row.bottom), lineOfText | DT_END_ELLIPSIS);
 }
 
-// What the items' rows that follow each other from `y` on have in common: the band at the left edge and the
-// divider.
-void CPropertyGrid::PaintColumns(CPaintTools& tools, int y, std::size_t rows) {
-    const CRect all(0, y, tools.area.right, y + static_cast<int>(rows) * m_rowHeight);
-    CRect visible;
-    if (!visible.IntersectRect(&all, &tools.area))
+// What the items' rows that follow each other have in common: the band at the left edge and the divider.
+void CPropertyGrid::PaintColumns(CPaintTools& tools, const CGridPlace& place) {
+    const int top = std::max(place.top, 0);
+    const int bottom = std::min<int>(place.GetRow(place.rows).top, place.area.cy);
+    if (top >= bottom || place.area.cx <= 0)
         return;
     if (m_shadeHeaders)
-        tools.dc.FillSolidRect(0, visible.top, bandWidth, visible.Height(), m_colors.shade);
+        tools.dc.FillSolidRect(0, top, bandWidth, bottom - top, m_colors.shade);
     if (m_drawDivider)
-        DrawLine(tools.dc, m_gutter, visible.top, m_gutter, visible.bottom + 1);
-}
-
-// A row that is scrolled away only leaves word of where it would be.
-void CPropertyGrid::PaintItemRow(CPaintTools& tools, int y, CGridItem& item) {
-    const CRect row(0, y, tools.area.right, y + m_rowHeight);
-    item.nameRect = row;
-    item.valueRect.SetRectEmpty();
-    if (Overlap(row, tools.area))
-        PaintItem(tools, row, item);
+        DrawLine(tools.dc, m_gutter, top, m_gutter, bottom + 1);
 }
 
 void CPropertyGrid::PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item) {
-    CDC& dc = tools.dc;
     if (m_drawLines)
-        DrawLine(dc, 0, row.bottom, row.right + 1, row.bottom);
-
+        DrawLine(tools.dc, 0, row.bottom, row.right + 1, row.bottom);
     const int valueRight = PaintEditButton(tools, row, item);
-    item.nameRect.SetRect(0, row.top, m_gutter, row.bottom);
-    item.valueRect.SetRect(m_gutter, row.top, valueRight, row.bottom);
     PaintName(tools, row, item);
-    PaintValue(tools, item);
+    PaintValue(tools, CRect(m_gutter, row.top, valueRight, row.bottom), item);
 }
 
 // Draws and records the edit button of the focused item. Returns where the value column ends.
-int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, const CGridItem& item) {
+int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, CGridItem& item) {
     if (item.id != m_focusedItem || !item.editable)
         return row.right;
     const int mode = item.GetEditMode();
@@ -231,6 +259,7 @@ int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, const C
     CRect button(row.right - m_rowHeight, row.top, row.right, row.bottom);
     // Deliberately so for an item without a drawn button (EM_INPLACE) too.
     const int valueRight = button.left;
+    item.section->place.buttonItem = item.id;
     const UINT pushed = m_buttonPressed ? DFCS_PUSHED : 0;
     if (mode == EM_DROPDOWN) {
         dc.DrawFrameControl(&button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | pushed);
@@ -260,17 +289,18 @@ void CPropertyGrid::PaintName(CPaintTools& tools, const CRect& row, const CGridI
                lineOfText | DT_END_ELLIPSIS);
 }
 
-void CPropertyGrid::PaintValue(CPaintTools& tools, const CGridItem& item) {
+void CPropertyGrid::PaintValue(CPaintTools& tools, const CRect& valueRect, const CGridItem& item) {
     CDC& dc = tools.dc;
     dc.SetTextColor(item.editable ? m_colors.editable : m_colors.nonEditable);
     if (item.kind == IT_CUSTOM) {
+        PaintBelowRows(tools);
         const CSavedDcState state(dc);
         m_customItemDrew = true;
-        std::get<ICustomItem*>(item.value)->DrawItem(dc, item.valueRect, item.id == m_focusedItem);
+        std::get<ICustomItem*>(item.value)->DrawItem(dc, valueRect, item.id == m_focusedItem);
         return;
     }
 
-    CRect cell = item.valueRect;
+    CRect cell = valueRect;
     cell.left += TEXT_MARGIN;
     if (item.kind == IT_COLOR)
         cell.left = PaintSwatch(tools, cell, std::get<COLORREF>(item.value)).right + 6;

@@ -299,8 +299,8 @@ bool CPropertyGrid::GetItemRects(UINT id, CRect& name, CRect& value) const {
     const CGridItem* const item = m_contents.FindItem(id);
     if (item == nullptr)
         return false;
-    name = item->nameRect;
-    value = item->valueRect;
+    name = item->GetNameRect();
+    value = item->GetValueRect();
     return true;
 }
 

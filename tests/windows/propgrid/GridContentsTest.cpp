@@ -178,7 +178,7 @@ TEST(GridContents, SortsByNameAgainAfterARowOrASectionWasAdded) {
     contents.AddSection(L"A", false, none);
     const auto ids = [&] {
         std::vector<UINT> sorted;
-        for (const CGridItem* const item : contents.WalkSorted())
+        for (const CGridItem* const item : contents.GetSorted())
             sorted.push_back(item->id);
         return sorted;
     };

@@ -368,6 +368,60 @@ TEST_F(PropertyGridPaint, RecordsWholeRowsAndNoValuesForRowsThatAreScrolledAway)
     EXPECT_TRUE(ValueRect(39).IsRectEmpty());
 }
 
+TEST_F(PropertyGridPaint, VisitsOnlyTheRowsInSight) {
+    const UINT section = grid.AddSection(L"HHH");
+    for (int row = 0; row < 5000; ++row)
+        grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
+    ScrollTo(2000 * RowHeight() + 1);
+    const auto visits = [this] {
+        const std::size_t before = grid.GetContents().GetItemsWalked();
+        CGridPicture picture(grid);
+        return grid.GetContents().GetItemsWalked() - before;
+    };
+    const auto inSight = static_cast<std::size_t>((200 + RowHeight() - 1) / RowHeight());
+    for (const UINT mode :
+         {CPropertyGrid::DM_CATEGORIZED, CPropertyGrid::DM_SORTED, CPropertyGrid::DM_FLAT}) {
+        grid.SetDisplayMode(mode);
+        visits();  // sorts
+        EXPECT_LE(visits(), inSight + 1);
+        EXPECT_GE(visits(), inSight);
+    }
+}
+
+TEST_F(PropertyGridPaint, RecordsNothingForARowThatIsAddedSince) {
+    const UINT section = grid.AddSection(L"HHH");
+    for (const UINT mode : {CPropertyGrid::DM_FLAT, CPropertyGrid::DM_SORTED}) {
+        grid.SetDisplayMode(mode);
+        const auto add = [&] {
+            return grid.AddIntegerItem(section, std::to_wstring(100 - grid.GetItemCount()), 1);
+        };
+        const UINT painted = add();
+        CGridPicture before(grid);
+        const CRect name = NameRect(painted);
+        const UINT added = add();
+        EXPECT_FALSE(name.IsRectEmpty());
+        EXPECT_TRUE(NameRect(added).IsRectEmpty());
+        EXPECT_TRUE(ValueRect(added).IsRectEmpty());
+        EXPECT_EQ(NameRect(painted), name);
+    }
+}
+
+TEST_F(PropertyGridPaint, KeepsWhatTheSortedDisplayRecordedOfARowThatCollapses) {
+    const UINT section = grid.AddSection(L"HHH");
+    grid.AddIntegerItem(section, L"b", 1);
+    grid.AddIntegerItem(section, L"a", 1);
+    grid.SetDisplayMode(CPropertyGrid::DM_SORTED);
+    CGridPicture sorted(grid);
+    EXPECT_EQ(NameRect(0).top, RowHeight());
+    EXPECT_EQ(NameRect(1).top, 0);
+    grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
+    grid.SetSectionCollapsed(section, true);
+    grid.SetGutterWidth(77);
+    CGridPicture collapsed(grid);
+    EXPECT_EQ(NameRect(0), CRect(0, RowHeight(), 150, 2 * RowHeight()));
+    EXPECT_EQ(ValueRect(1), CRect(150, 0, 300, RowHeight()));
+}
+
 TEST_F(PropertyGridPaint, EmptiesTheRectanglesOfASectionThatTheSortedDisplayDoesNotShow) {
     grid.AddSection(L"HHH");
     CGridPicture before(grid);
@@ -409,6 +463,27 @@ TEST_F(PropertyGridPaint, LeavesNothingToPaintWhateverIsInvalidatedMeanwhile) {
     grid.UpdateWindow();
     EXPECT_FALSE(::GetUpdateRect(grid.m_hWnd, nullptr, FALSE));
     EXPECT_EQ(custom.drawings.size(), 1U);
+}
+
+TEST_F(PropertyGridPaint, ShowsWhatACustomItemDrawsBelowTheRows) {
+    class CSprawlingItem : public CRecordingItem {
+    public:
+        void DrawItem(CDC& dc, CRect, bool) override { dc.FillSolidRect(0, 190, 300, 10, focus); }
+    } custom;
+    grid.AddCustomItem(grid.AddSection(L"section"), L"custom", &custom);
+    const CGridPicture picture(grid);
+    EXPECT_TRUE(picture.Is(CRect(0, 190, 300, 200), focus));
+    EXPECT_TRUE(picture.Is(CRect(0, 3 * RowHeight(), 300, 190), back));
+}
+
+TEST_F(PropertyGridPaint, PaintsTheRowThatACustomItemAddsWhileItDraws) {
+    const UINT section = grid.AddSection(L"section");
+    CRecordingItem custom;
+    custom.whileDrawing = [&] { grid.AddIntegerItem(section, L"added", 1); };
+    grid.AddCustomItem(section, L"custom", &custom);
+    const CGridPicture picture(grid);
+    EXPECT_EQ(ValueRect(1), CRect(150, 2 * RowHeight(), 300, 3 * RowHeight()));
+    EXPECT_GT(Ink(picture, CRect(154, 2 * RowHeight() + 1, 300, 3 * RowHeight() - 1)), 0);
 }
 
 TEST_F(PropertyGridPaint, RecordsAllVisibleRowsHoweverLittleIsInvalid) {
