@@ -83,7 +83,8 @@ protected:
     void Run(const std::string& program) const {
         std::istringstream commands(BlockWith(program).text);
         for (std::string command; std::getline(commands, command);) {
-            EXPECT_EQ(OutputOf("cd '" + Samples().string() + "' && { " + command + "; } 2>&1 && echo done"),
+            EXPECT_EQ(OutputOf("PATH=\"" NATIVE_BIN_DIR ":$PATH\" && cd '" + Samples().string() + "' && { " +
+                               command + "; } 2>&1 && echo done"),
                       "done\n")
                 << command;
         }
@@ -111,6 +112,10 @@ TEST_F(SampleGuide, MakesAShelfThatIsChosenSetAndDrawn) {
     EXPECT_EQ(drawing.Boxes(910, 20), 5) << "the boards between them";
     EXPECT_EQ(drawing.Boxes(910, 300), 1) << "a board in plan";
     EXPECT_NE(host.Read("samples/shelf/shelf.TXT").find("$1 = \"<<1801>>\"D950\r\n"), std::string::npos);
+}
+
+TEST_F(SampleGuide, FindsNothingWrongWithTheShelf) {
+    Run("tavrincheck --texts");
 }
 
 TEST_F(SampleGuide, ChecksTheShelfWithAScriptThatPrintsWhatItSays) {
