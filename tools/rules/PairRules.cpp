@@ -1,6 +1,8 @@
 #include "PairRules.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_set>
 
 #include "LineRules.h"
 
@@ -52,6 +54,7 @@ void CPairSide::TakeLine(const SItemLine& line) {
         kept.number = line.parameter->parts.number;
         kept.label = line.parameter->parts.label;
         kept.typeLetter = line.parameter->parts.typeLetter;
+        kept.isWritten = line.parameter->record.type != 'U';
         m_places[kept.number] = m_lines.size() - 1;
     }
 }
@@ -84,9 +87,13 @@ bool CPairSide::ReportMissing(const CPairSide& other, const SRule& rule, const s
     return isFound;
 }
 
+// Of the lines with one number OK writes the last one that has a row.
 void CPairSide::CompareParameters(const CPairSide& templateFile) {
-    for (const SLine& line : m_lines) {
-        const SLine* const other = line.line.kind == LK_PARAMETER ? templateFile.Find(line.number) : nullptr;
+    std::unordered_set<std::wstring_view> seen;
+    for (std::size_t i = m_lines.size(); i-- > 0;) {
+        const SLine& line = m_lines[i];
+        const bool counts = line.isWritten && seen.insert(line.number).second;
+        const SLine* const other = counts ? templateFile.Find(line.number) : nullptr;
         if (other == nullptr || (line.label == other->label && line.typeLetter == other->typeLetter)) {
             continue;
         }

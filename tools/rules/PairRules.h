@@ -28,6 +28,7 @@ private:
         std::wstring number;
         std::wstring label;
         wchar_t typeLetter = L'\0';
+        bool isWritten = false;  // a parameter of a type, which OK writes into the template
     };
 
     const SLine* Find(const std::wstring& number) const;
