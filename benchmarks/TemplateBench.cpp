@@ -15,39 +15,11 @@
 #include "ItemContents.h"
 #include "TemplateRewrite.h"
 #include "TemplateText.h"
+#include "WorkFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// A folder of its own that goes away with the object.
-class CWorkFolder {
-public:
-    CWorkFolder() {
-        std::string name = (Memory() / "tavrin-bench-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("no folder for files can be made at " + name);
-        }
-        m_path = name;
-    }
-    CWorkFolder(const CWorkFolder&) = delete;
-    CWorkFolder& operator=(const CWorkFolder&) = delete;
-    ~CWorkFolder() {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-
-    fs::path File(const char* name) const { return m_path / name; }
-
-private:
-    // A folder in memory where there is one: a disk's time would hide ours.
-    static fs::path Memory() {
-        const fs::path memory = "/dev/shm";
-        return fs::is_directory(memory) ? memory : fs::temp_directory_path();
-    }
-
-    fs::path m_path;
-};
 
 TextLines TemplateOf(std::size_t parameters) {
     const wchar_t* const kinds[] = {L"\"D ", L"%\"I ", L"\"R 0.", L" (mm)\"D"};

@@ -16,8 +16,7 @@ SLineBytes TakeLine(std::string_view& bytes) {
 
 std::wstring CharactersOf(std::string_view bytes) {
     std::wstring text(bytes.size(), L'\0');
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });
+    std::transform(bytes.begin(), bytes.end(), text.begin(), CharacterOf);
     return text;
 }
 

@@ -18,7 +18,10 @@ struct SLineBytes {
 // Takes the next line off the bytes, of which there must be some.
 SLineBytes TakeLine(std::string_view& bytes);
 
-// The text that bytes are.
+// The character that a byte is, and the text that bytes are.
+inline wchar_t CharacterOf(char byte) {
+    return static_cast<wchar_t>(static_cast<unsigned char>(byte));
+}
 std::wstring CharactersOf(std::string_view bytes);
 
 struct SFileLine {

@@ -26,6 +26,12 @@ enum ELineKind {
     LK_IGNORED,    // inside a block, nothing
 };
 
+// The digits of a number. By way of bytes: the library prints wide characters slowly.
+inline std::wstring WideNumber(int number) {
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
 struct SItemLine {
     std::size_t index = 0;  // from 0
     std::wstring text;      // without its end

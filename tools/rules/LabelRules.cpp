@@ -134,7 +134,7 @@ void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
         ReportAtLabel(
             kLabelTwoPlaceholders, line,
             "the last placeholder counts, in the place of the first: after the first OK the label is " +
-                Quoted(record.labelPrefix + L"<<" + std::to_wstring(record.resourceId) + L">>" +
+                Quoted(record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" +
                        record.labelSuffix));
     } else if (record.resourceId != number) {
         const SParameter& parameter = *line.parameter;
@@ -153,7 +153,7 @@ void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
 void CLabelRules::CheckRewritten(const SItemLine& line) {
     const ParamRecord& record = line.parameter->record;
     const std::wstring label =
-        record.labelPrefix + L"<<" + std::to_wstring(record.resourceId) + L">>" + record.labelSuffix;
+        record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" + record.labelSuffix;
     if (label != LabelOf(line)) {
         ReportAtLabel(kLabelRewritten, line, "after the first OK the label is " + Quoted(label));
     }
@@ -182,7 +182,7 @@ ParameterRow CLabelRules::ShownRow(const SItemLine& line, std::size_t language) 
     const auto lookup = [&](unsigned number) {
         const SText* const text = m_texts->Find(number, language);
         return text != nullptr ? text->text.substr(0, CTextTable::kLongestText)
-                               : L"<<" + std::to_wstring(number) + L">>";
+                               : L"<<" + WideNumber(static_cast<int>(number)) + L">>";
     };
     return *ReadParameter(line.text, line.parameter->record.lineIndex, 1.0, kReadOnlyMode, lookup);
 }

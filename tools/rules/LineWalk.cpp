@@ -18,23 +18,25 @@ ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
 }
 
 std::wstring PlaceholderItself(unsigned number) {
-    // Digits by way of bytes, since wide characters are printed slowly.
-    const std::string digits = std::to_string(number);
-    return L"<<" + std::wstring(digits.begin(), digits.end()) + L">>";
+    return L"<<" + WideNumber(static_cast<int>(number)) + L">>";
 }
 
 // False when the reader does not take the line for a parameter.
 bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
-    std::optional<ParameterLine> parts = ParseParameterLine(line.text);
+    const std::optional<ParameterParts> parts = SplitParameterLine(line.text);
     if (!parts) {
         return false;
     }
-    parameter.parts = *std::move(parts);
-    parameter.record = RowOf({parameter.parts.number, parameter.parts.label, parameter.parts.typeLetter,
-                              parameter.parts.value},
-                             line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself)
-                           .record;
-    parameter.placeholder = PlaceholderNumber(parameter.parts.label);
+    // Into the texts of the line before, which have the room already.
+    parameter.parts.number = parts->number;
+    parameter.parts.label = parts->label;
+    parameter.parts.typeLetter = parts->typeLetter;
+    parameter.parts.value = parts->value;
+    parameter.record =
+        RowOf(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself).record;
+    // The record has the number of the line's last placeholder, be it in the value.
+    const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
+    parameter.placeholder = inValue ? PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
     // The patterns see a line up to its first null character, and the value is its end.
     const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
     parameter.valueStart = end - parameter.parts.value.size();
@@ -50,7 +52,9 @@ void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
     SItemLine line;
     SParameter parameter;
     for (; !bytes.empty(); ++line.index) {
-        line.text = CharactersOf(TakeLine(bytes).text);
+        const std::string_view text = TakeLine(bytes).text;
+        line.text.resize(text.size());
+        std::transform(text.begin(), text.end(), line.text.begin(), CharacterOf);
         line.kind = KindOf(line.text, block);
         line.parameter = nullptr;
         if (line.kind == LK_IGNORED && ReadAsParameter(line, parameter)) {

@@ -40,11 +40,18 @@ void CNumberRules::TakeLine(const SItemLine& line) {
     if (number.empty()) {
         Findings().Add(kNumberEmpty, line, 0, 1, "this parameter has no number");
     }
-    const std::size_t first = m_numbers.FindOrAdd(number, line.index);
     const std::size_t zeros = std::min(number.find_first_not_of(L'0'), number.size());
     const bool isZero = zeros == number.size() && zeros > 0;
     const std::wstring_view significant = std::wstring_view(number).substr(zeros - (isZero ? 1 : 0));
-    const std::size_t lookAlike = m_significant.FindOrAdd(significant, line.index);
+    const bool isPadded = significant.size() != number.size();
+    const std::size_t first = (isPadded ? m_padded : m_plain).FindOrAdd(number, line.index);
+    std::size_t lookAlike = line.index;
+    if (isPadded) {
+        lookAlike = std::min(m_stripped.FindOrAdd(significant, line.index),
+                             m_plain.Find(significant).value_or(line.index));
+    } else {
+        lookAlike = m_stripped.Find(significant).value_or(line.index);
+    }
     if (first != line.index) {
         Findings().Add(
             kNumberDuplicate, line, 0, 1 + number.size(),

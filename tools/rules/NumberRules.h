@@ -12,6 +12,7 @@ public:
     void TakeLine(const SItemLine& line) override;
 
 private:
-    CTextIndex m_numbers;
-    CTextIndex m_significant;  // the same without their leading zeros
+    CTextIndex m_plain;     // numbers without leading zeros, mostly all
+    CTextIndex m_padded;    // those with
+    CTextIndex m_stripped;  // the same without
 };

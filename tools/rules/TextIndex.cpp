@@ -1,43 +1,71 @@
 #include "TextIndex.h"
 
-#include <functional>
+#include <utility>
+
+namespace {
+
+// FNV-1a over characters, folded, since the lower bits alone choose a slot.
+std::uint32_t HashOf(std::wstring_view text) {
+    std::uint64_t hash = 0xCBF29CE484222325U;
+    for (const wchar_t character : text) {
+        hash = (hash ^ static_cast<std::uint64_t>(character)) * 0x100000001B3U;
+    }
+    return static_cast<std::uint32_t>(hash ^ hash >> 32U);
+}
+
+}  // namespace
 
 std::size_t CTextIndex::FindOrAdd(std::wstring_view text, std::size_t line) {
     if (2 * m_entries.size() >= m_slots.size()) {
         Grow();
     }
-    const std::size_t hash = std::hash<std::wstring_view>{}(text);
-    std::uint32_t& slot = SlotOf(text, hash);
-    if (slot == 0) {
-        m_entries.push_back({m_texts.size(), text.size(), line, hash});
+    const std::uint32_t hash = HashOf(text);
+    SSlot& slot = m_slots[SlotOf(text, hash)];
+    if (slot.entry == 0) {
+        m_entries.push_back({m_texts.size(), line});
         m_texts += text;
-        slot = static_cast<std::uint32_t>(m_entries.size());
+        slot = {hash, static_cast<std::uint32_t>(m_entries.size())};
     }
-    return m_entries[slot - 1].line;
+    return m_entries[slot.entry - 1].line;
 }
 
-// The slot that holds the text, or the empty one where it belongs.
-std::uint32_t& CTextIndex::SlotOf(std::wstring_view text, std::size_t hash) {
-    for (std::size_t place = hash;; ++place) {
-        std::uint32_t& slot = m_slots[place & (m_slots.size() - 1)];
-        if (slot == 0) {
-            return slot;
-        }
-        const SEntry& entry = m_entries[slot - 1];
-        if (entry.hash == hash && std::wstring_view(m_texts).substr(entry.start, entry.length) == text) {
-            return slot;
+std::optional<std::size_t> CTextIndex::Find(std::wstring_view text) const {
+    if (m_entries.empty()) {
+        return std::nullopt;
+    }
+    const SSlot& slot = m_slots[SlotOf(text, HashOf(text))];
+    return slot.entry == 0 ? std::nullopt : std::optional(m_entries[slot.entry - 1].line);
+}
+
+std::wstring_view CTextIndex::TextOf(std::size_t entry) const {
+    const std::size_t start = m_entries[entry].start;
+    const std::size_t end = entry + 1 < m_entries.size() ? m_entries[entry + 1].start : m_texts.size();
+    return std::wstring_view(m_texts).substr(start, end - start);
+}
+
+// The place of the slot that holds the text, or of the empty one where it belongs.
+std::size_t CTextIndex::SlotOf(std::wstring_view text, std::uint32_t hash) const {
+    const std::size_t mask = m_slots.size() - 1;
+    for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
+        const SSlot& slot = m_slots[place];
+        if (slot.entry == 0 || (slot.hash == hash && TextOf(slot.entry - 1) == text)) {
+            return place;
         }
     }
 }
 
 void CTextIndex::Grow() {
     constexpr std::size_t kFirstSize = 64;
-    m_slots.assign(m_slots.empty() ? kFirstSize : 2 * m_slots.size(), 0);
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
-        std::size_t place = m_entries[i].hash;
-        while (m_slots[place & (m_slots.size() - 1)] != 0) {
-            ++place;
+    constexpr std::size_t kGrowth = 4;
+    const std::vector<SSlot> before = std::move(m_slots);
+    m_slots.assign(before.empty() ? kFirstSize : kGrowth * before.size(), {});
+    for (const SSlot& slot : before) {
+        if (slot.entry != 0) {
+            std::size_t place = slot.hash;
+            while (m_slots[place & (m_slots.size() - 1)].entry != 0) {
+                ++place;
+            }
+            m_slots[place & (m_slots.size() - 1)] = slot;
         }
-        m_slots[place & (m_slots.size() - 1)] = static_cast<std::uint32_t>(i + 1);
     }
 }

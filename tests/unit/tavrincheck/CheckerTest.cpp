@@ -39,4 +39,23 @@ TEST(Checker, ALineWithASmallTypeLetterIsNotWrittenIntoTheTemplate) {
     EXPECT_EQ(Compared(File("$1 = \"<<1501>>\"D 900\n"), File("$1 = \"<<1502>>\"d 900\n")), PlaceList());
 }
 
+TEST(Checker, NumbersThatDifferInZerosLookAlikeWhicheverComesFirst) {
+    SCheckContext context;
+    const std::string file = File(
+        "$7 = \"<<1501>> a\"D 9\n$1 = \"<<1501>> b\"D 9\n$001 = \"<<1501>> c\"D 9\n$01 = \"<<1501>> d\"D 9\n"
+        "$02 = \"<<1501>> e\"D 9\n$2 = \"<<1501>> f\"D 9\n");
+    EXPECT_EQ(Places(CheckText(file, context)),
+              (PlaceList{"6:2 number-look-alike", "7:2 number-look-alike", "9:2 number-look-alike"}));
+}
+
+// Enough of them that the memory for what was seen grows several times.
+TEST(Checker, FindsTheOneRepetitionAmongThousands) {
+    std::string parameters;
+    for (int number = 1; number <= 5000; ++number)
+        parameters += "$" + std::to_string(number) + " = \"<<1501>> " + std::to_string(number) + "\"D 9\n";
+    SCheckContext context;
+    EXPECT_EQ(Places(CheckText(File(parameters + "$77 = \"<<1501>> 4999\"D 9\n"), context)),
+              (PlaceList{"5004:1 number-duplicate", "5004:8 label-duplicate"}));
+}
+
 }  // namespace
