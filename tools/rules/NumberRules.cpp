@@ -45,13 +45,9 @@ void CNumberRules::TakeLine(const SItemLine& line) {
     const std::wstring_view significant = std::wstring_view(number).substr(zeros - (isZero ? 1 : 0));
     const bool isPadded = significant.size() != number.size();
     const std::size_t first = (isPadded ? m_padded : m_plain).FindOrAdd(number, line.index);
-    std::size_t lookAlike = line.index;
-    if (isPadded) {
-        lookAlike = std::min(m_stripped.FindOrAdd(significant, line.index),
-                             m_plain.Find(significant).value_or(line.index));
-    } else {
-        lookAlike = m_stripped.Find(significant).value_or(line.index);
-    }
+    const std::size_t lookAlike = isPadded ? std::min(m_stripped.FindOrAdd(significant, line.index),
+                                                      m_plain.Find(significant).value_or(line.index))
+                                           : m_stripped.Find(significant).value_or(line.index);
     if (first != line.index) {
         Findings().Add(
             kNumberDuplicate, line, 0, 1 + number.size(),
