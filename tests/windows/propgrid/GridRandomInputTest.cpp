@@ -16,7 +16,8 @@ unsigned ChooseSeed() {
                             : std::random_device{}();
 }
 
-// Dismisses every dialog that comes up, one way or another, while the test's thread runs its loop.
+// Dismisses every dialog that comes up, one way or another, while the test's thread runs its loop; and every
+// menu: a click on a calendar's month opens one, which else waits for ever.
 class CDismisser {
 public:
     CDismisser() {
@@ -34,6 +35,7 @@ public:
 
 private:
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        ::EndMenu();
         ::EnumThreadWindows(
             ::GetCurrentThreadId(),
             [](HWND window, LPARAM) -> BOOL {
