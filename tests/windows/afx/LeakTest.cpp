@@ -63,13 +63,9 @@ void RunDialogs(int count) {
 
 TEST(Leaks, AreNotLeftByTwoHundredDialogs) {
     RunDialogs(3);  // what is made once
-    const int gdiObjects = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     RunDialogs(200);
-    EXPECT_EQ(GdiObjectCount(), gdiObjects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 class CRepaintedWnd : public CWnd {

@@ -144,14 +144,10 @@ TEST_F(DynDialogFailure, NothingIsLeftOverManyDialogs) {
     // What the system and the framework make once and keep.
     for (int warmUp = 0; warmUp < 3; ++warmUp)
         run();
-    const int objects = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int cycle = 0; cycle < 100; ++cycle)
         run();
-    EXPECT_EQ(GdiObjectCount(), objects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
     EXPECT_EQ(memory.alive, 0);
     EXPECT_EQ(memory.locked, 0);
 }

@@ -212,14 +212,10 @@ TEST_F(EditorDialogs, LeaveNothingBehind) {
     };
     for (int warmUp = 0; warmUp < 3; ++warmUp)
         runBoth(IDOK);
-    const int objects = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int cycle = 0; cycle < 50; ++cycle)
         runBoth(cycle % 2 == 0 ? IDOK : IDCANCEL);
-    EXPECT_EQ(GdiObjectCount(), objects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

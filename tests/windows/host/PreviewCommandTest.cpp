@@ -133,15 +133,11 @@ TEST_F(PreviewCommand, FiveHundredCallsLeaveNothingBehind) {
     };
     for (int round = 0; round < 4; ++round)
         call(round);
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     const long long memory = ProcessHeapSize();
     for (int round = 0; round < 500; ++round)
         call(round);
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
     EXPECT_LT(ProcessHeapSize() - memory, 4'000'000);
 }
 

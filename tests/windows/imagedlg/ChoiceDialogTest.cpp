@@ -436,14 +436,10 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
     };
     for (const int count : {1, 4, 5, 6})
         cycle(count);
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 40; ++round)
         cycle(1 + round % 7);
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

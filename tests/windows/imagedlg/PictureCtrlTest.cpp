@@ -231,14 +231,10 @@ TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {
         picture.DestroyWindow();
     };
     cycle();
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 50; ++round)
         cycle();
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

@@ -158,14 +158,10 @@ TEST_F(PreviewDialog, LeavesNoHandleAndNoBlockBehind) {
         fakeHost.searched = {};
     };
     cycle(L"two");
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 40; ++round)
         cycle(round % 2 == 0 ? L"two" : L"missing");
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

@@ -172,14 +172,10 @@ TEST_F(ItemDialog, LeavesNothingBehind) {
     cycle(IDOK);
     WriteItem("$1 = \"<<1501>>\"D 900\n$2 = \"<<1502>>\"I 2\n$3 = \"<<1503>>\"R 0.5\n");
     cycle(IDCANCEL);
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 200; ++round)
         cycle(IDCANCEL);
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

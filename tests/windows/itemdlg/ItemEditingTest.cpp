@@ -283,13 +283,10 @@ TEST_F(ItemEditing, LeavesNothingBehind) {
     };
     for (int warmUp = 0; warmUp < 2; ++warmUp)
         cycle(IDOK);
-    const int objects = GdiObjectCount(), windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 20; ++round)
         cycle(round % 2 == 0 ? IDOK : IDCANCEL);
-    EXPECT_EQ(GdiObjectCount(), objects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

@@ -393,13 +393,10 @@ TEST_F(GridDropDown, LeavesNothingBehind) {
     };
     for (int warmUp = 0; warmUp < 3; ++warmUp)
         cycle(VK_RETURN);
-    const int objects = GdiObjectCount(), windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int round = 0; round < 40; ++round)
         cycle(round % 2 == 0 ? VK_RETURN : VK_ESCAPE);
-    EXPECT_EQ(GdiObjectCount(), objects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

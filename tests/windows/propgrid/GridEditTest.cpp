@@ -529,13 +529,10 @@ TEST_F(GridEdit, LeavesNothingBehind) {
     };
     for (int number = 0; number < 3; ++number)
         cycle(number);
-    const int objects = GdiObjectCount(), windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int number = 0; number < 100; ++number)
         cycle(number);
-    EXPECT_EQ(GdiObjectCount(), objects);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

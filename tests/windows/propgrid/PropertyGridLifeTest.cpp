@@ -199,14 +199,10 @@ TEST_F(PropertyGridLife, LeavesNothingBehindByTwoHundredGrids) {
     };
     for (int i = 0; i < 3; ++i)
         cycle();
-    const int gdi = GdiObjectCount();
-    const int windows = WindowCount();
-    const long long blocks = HeapBlockCount();
+    const ProcessHoldings before = CountHoldings();
     for (int i = 0; i < 200; ++i)
         cycle();
-    EXPECT_EQ(GdiObjectCount(), gdi);
-    EXPECT_EQ(WindowCount(), windows);
-    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_EQ(CountHoldings(), before);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <windows.h>
 #include <winternl.h>
 
+#include <ostream>
+
 namespace {
 
 // The documented layout of an entry of the handle table that the system shares with each process.
@@ -79,4 +81,13 @@ long long HeapBlockCount() {
     static const auto liveBlocks = reinterpret_cast<LiveBlocks>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"TD_Alloc.dll"), "td_live_blocks")));
     return static_cast<long long>(liveBlocks());
+}
+
+ProcessHoldings CountHoldings() {
+    return {GdiObjectCount(), WindowCount(), HeapBlockCount()};
+}
+
+void PrintTo(const ProcessHoldings& holdings, std::ostream* output) {
+    *output << holdings.gdiObjects << " GDI objects, " << holdings.windows << " windows, "
+            << holdings.heapBlocks << " heap blocks";
 }
