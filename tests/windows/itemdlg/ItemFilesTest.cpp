@@ -1,7 +1,7 @@
 // What the item dialog reads from an item's files, and what OK makes of them.
 #include <memory>
-#include <thread>
 
+#include "BreakingFile.h"
 #include "FileLock.h"
 #include "ItemDialogFixture.h"
 
@@ -269,54 +269,35 @@ TEST_F(ItemFiles, AFileThatCannotBeReadOrWrittenAtOkIsReportedAndTheDialogCloses
     EXPECT_EQ(Template(), "$1 = \"<<1501>>\"R1\n");
 }
 
-// A file whose reading fails in the middle: a pipe that gives some lines and breaks.
-class CBreakingFile {
-public:
-    explicit CBreakingFile(std::string content)
-        : m_content(std::move(content)),
-          m_pipe(::CreateNamedPipeW(Path(), PIPE_ACCESS_OUTBOUND, PIPE_TYPE_BYTE | PIPE_WAIT, 1, 4096, 4096,
-                                    0, nullptr)),
-          m_thread([this] { Serve(); }) {}
-    ~CBreakingFile() {
-        m_thread.join();
-        ::CloseHandle(m_pipe);
-    }
-
-    static const wchar_t* Path() { return L"\\\\.\\pipe\\tavrin_breaking_file"; }
-
-private:
-    void Serve() {
-        ::ConnectNamedPipe(m_pipe, nullptr);
-        DWORD written = 0;
-        ::WriteFile(m_pipe, m_content.data(), static_cast<DWORD>(m_content.size()), &written, nullptr);
-        ::FlushFileBuffers(m_pipe);
-        ::DisconnectNamedPipe(m_pipe);
-    }
-
-    std::string m_content;
-    HANDLE m_pipe;
-    std::thread m_thread;
-};
-
+// The two files are searched for twice each, before reading and before writing: the working file first.
 TEST_F(ItemFiles, AFileIsCutWhereReadingFailed) {
-    WriteItem("$1 = \"<<1501>>\"R 1\nafter\n");
-    std::unique_ptr<CBreakingFile> file;
-    int searches = 0;
-    InDialog([&](HWND, CPropertyGrid&) {
-        file = std::make_unique<CBreakingFile>(
-            "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R 1\r\ncut he");
-        fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
-            // The first search of all is the one before the working file is read.
-            std::wcscpy(result, ++searches == 1 ? CBreakingFile::Path() : folder.Path(name).c_str());
-            return FakeHost::RtNorm;
-        };
-    });
-    hands.ThenPressOk();
-    EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-    EXPECT_EQ(folder.Read(L"item_TMP.TXT"), "first line\r\nItem title\r\nVAR\r\n#1 = 1\r\n");
-    EXPECT_EQ(Template(), "$1 = \"<<1501>>\"R1\nafter\n");
+    const std::string cut = "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R 1\r\ncut he";
+    for (const int breaking : {1, 3}) {
+        SCOPED_TRACE(breaking);
+        WriteItem("$1 = \"<<1501>>\"R 1\nafter\n");
+        hands.Forget();
+        std::unique_ptr<CBreakingFile> file;
+        int searches = 0;
+        InDialog([&](HWND, CPropertyGrid&) {
+            file = std::make_unique<CBreakingFile>(cut);
+            fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
+                std::wcscpy(result,
+                            ++searches == breaking ? CBreakingFile::Path() : folder.Path(name).c_str());
+                return FakeHost::RtNorm;
+            };
+        });
+        hands.ThenPressOk();
+        EXPECT_EQ(Run(), IDOK);
+        fakeHost.findFile = nullptr;
+        ASSERT_EQ(hands.messages.size(), 1U);
+        EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
+        EXPECT_EQ(hands.messages[0].caption, L"Error");
+        const std::string assigned = "first line\r\nItem title\r\nVAR\r\n#1 = 1\r\n";
+        const std::string updated = "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R1\r\n";
+        const std::string rest = "after\r\nEND_VAR\r\n";
+        EXPECT_EQ(folder.Read(L"item_TMP.TXT"), breaking == 1 ? assigned : assigned + rest);
+        EXPECT_EQ(folder.Read(L"item.TXT"), breaking == 3 ? updated : updated + rest);
+    }
 }
 
 TEST_F(ItemFiles, BytesThatMeanNothingComeBackAsTheyWere) {
