@@ -56,6 +56,12 @@ TEST(ItemContents, AnInvalidTypeHasNoRowAndTakesNoLabel) {
     EXPECT_EQ(item.parameters[1].row, PR_SHOWN);
 }
 
+TEST(ItemContents, ATitleThatOpensABlockIsStillTheTitle) {
+    const ItemContents item = Read({L"x", L"VAR", L"$1 = \"a\"R 1"});
+    EXPECT_EQ(item.title, L"VAR");
+    EXPECT_EQ(item.parameters.size(), 1U);
+}
+
 TEST(ItemContents, TheTitlesLineMayBeAParameterToo) {
     const ItemContents item = Read({L"VAR", L"$1 = \"a%\"R 1"}, 1);
     EXPECT_EQ(item.title, L"$1 = \"a%\"R 1");

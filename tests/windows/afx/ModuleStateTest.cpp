@@ -1,4 +1,5 @@
 // Whose resources and classes are used when two modules of a process have the framework inside.
+#include <afxdisp.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
@@ -47,6 +48,16 @@ TEST_F(OtherModule, LoadsItsOwnStrings) {
     CString own;
     own.LoadString(100);
     EXPECT_EQ(own, L"TavrinWnd");
+}
+
+TEST_F(OtherModule, SaysInItsOwnWordsThatADateIsInvalid) {
+    COleDateTime date;
+    date.SetStatus(COleDateTime::invalid);
+    AfxSetResourceHandle(m_module);
+    const CString text = date.Format();
+    AfxSetResourceHandle(m_program);
+    EXPECT_EQ(text, L"No date");
+    EXPECT_EQ(date.Format(), L"Invalid DateTime");
 }
 
 TEST_F(OtherModule, HandlesItsWindowsMessagesInItsOwnState) {

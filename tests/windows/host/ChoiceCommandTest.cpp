@@ -304,6 +304,19 @@ TEST_F(ChoiceCommand, AnExceptionEndsWithNilAndTheOldModuleState) {
     EXPECT_EQ(AfxGetModuleState(), before);
 }
 
+TEST_F(ChoiceCommand, AnExceptionOfTheFrameworkEndsWithNilAndIsFreed) {
+    AFX_MODULE_STATE* const before = AfxGetModuleState();
+    fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { AfxThrowMemoryException(); };
+    CArguments list;
+    list.String(L"Replace").Short(0).String(L"A");
+    Run(list, Press(IDOK));
+    const long long blocks = HeapBlockCount();
+    EXPECT_EQ(Run(list, Press(IDOK)), 0);
+    EXPECT_EQ(fakeHost.results, Results{"nil"});
+    EXPECT_EQ(AfxGetModuleState(), before);
+    EXPECT_EQ(HeapBlockCount(), blocks);
+}
+
 TEST_F(ChoiceCommand, TakesALongNameAsItIs) {
     WriteSlide(L"short.png");
     fakeHost.findFile = [&](const wchar_t*, wchar_t* result, size_t capacity) {

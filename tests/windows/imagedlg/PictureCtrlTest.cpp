@@ -155,6 +155,55 @@ TEST_F(PictureCtrl, IsEmptyWhereNoStreamCanBeMade) {
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
 }
 
+// A memory stream that takes no bytes, with one reference too many.
+class CFullStream : public IStream {
+public:
+    static CFullStream* s_last;
+    ULONG references = 2;
+
+    CFullStream() { s_last = this; }
+    virtual ~CFullStream() = default;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    HRESULT STDMETHODCALLTYPE Read(void*, ULONG, ULONG*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Write(const void*, ULONG, ULONG*) override { return STG_E_MEDIUMFULL; }
+    HRESULT STDMETHODCALLTYPE Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetSize(ULARGE_INTEGER) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CopyTo(IStream*, ULARGE_INTEGER, ULARGE_INTEGER*, ULARGE_INTEGER*) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Commit(DWORD) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE Revert() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE LockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE UnlockRegion(ULARGE_INTEGER, ULARGE_INTEGER, DWORD) override {
+        return E_NOTIMPL;
+    }
+    HRESULT STDMETHODCALLTYPE Stat(STATSTG*, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Clone(IStream**) override { return E_NOTIMPL; }
+};
+CFullStream* CFullStream::s_last = nullptr;
+
+TEST_F(PictureCtrl, IsEmptyWhereTheStreamTakesNoMoreAndLetsGoOfItHoweverOftenItIsReferredTo) {
+    CFullStream stream;
+    const CImportHook create(
+        __imp_CreateStreamOnHGlobal, +[](HGLOBAL, BOOL, IStream** made) WINAPI {
+            *made = CFullStream::s_last;
+            return S_OK;
+        });
+    m_folder.Write(L"red.bmp", Red());
+    CPictureCtrl picture;
+    Bind(picture, {0, 0, 50, 50});
+    EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(STG_E_MEDIUMFULL));
+    EXPECT_EQ(stream.references, 0U);
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
+    // The file was closed on the way out.
+    EXPECT_TRUE(::DeleteFileW(m_folder.Path(L"red.bmp").c_str()));
+}
+
 TEST_F(PictureCtrl, IsEmptyAfterAFileThatCannotBeReadToItsEnd) {
     m_folder.Write(L"red.bmp", Red());
     CPictureCtrl picture;
@@ -218,6 +267,29 @@ TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
     EXPECT_TRUE(picture.OnEraseBkgnd(&dc));
     EXPECT_EQ(CClientPixels(picture).At(25, 25), red);
     EXPECT_TRUE(picture.OnEraseBkgnd(nullptr));
+}
+
+// A picture control that leaves erasing to the framework, and notes when it does.
+class CAskedPicture : public CPictureCtrl {
+public:
+    bool defaultAsked = false;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        defaultAsked = true;
+        return CPictureCtrl::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(PictureCtrl, LeavesTheBackgroundToTheFrameworkWhileItIsEmpty) {
+    CAskedPicture picture;
+    Bind(picture, {0, 0, 50, 50});
+    CClientDC dc(&picture);
+    dc.FillSolidRect(0, 0, 50, 50, blue);
+    picture.defaultAsked = false;
+    picture.OnEraseBkgnd(&dc);
+    EXPECT_TRUE(picture.defaultAsked);
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, blue), 2500);
 }
 
 TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {

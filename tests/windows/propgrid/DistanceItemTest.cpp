@@ -89,6 +89,19 @@ TEST_F(DistanceItem, StaysHighlightedWhenTheGridAcceptsItsValues) {
     EXPECT_TRUE(Highlighted());
 }
 
+TEST_F(DistanceItem, LeavesItToTheConversionsWhatUnitsAreWhereTheHostTellsNone) {
+    fakeHost.failing = "sds_getvar";
+    EXPECT_EQ(item.GetStringValue(), L"U0:2.0000");
+    EXPECT_TRUE(item.SetStringValue(L"U0:3"));
+    EXPECT_EQ(item.GetDistance(), 3.0);
+}
+
+TEST_F(DistanceItem, ShowsNothingWhereTheHostCannotWriteALength) {
+    fakeHost.failing = "sds_rtos";
+    EXPECT_EQ(item.GetStringValue(), L"");
+    EXPECT_EQ(item.GetDistance(), 2.0);
+}
+
 TEST_F(DistanceItem, TakesTheDistanceBetweenTwoPickedPoints) {
     fakeHost.distance = 7.25;
     EXPECT_TRUE(item.OnButtonClicked());

@@ -255,6 +255,29 @@ TEST(GridItemCodes, AreThoseThatClientsStore) {
     EXPECT_EQ(EM_INPLACE_BUTTON, 4);
 }
 
+// Which place an operation has among the virtual ones of its class.
+template <typename Operation>
+std::size_t PlaceOf(Operation operation) {
+    std::size_t offset = 0;
+    static_assert(sizeof(operation) >= sizeof(offset));
+    std::memcpy(&offset, &operation, sizeof(offset));
+    return (offset - 1) / sizeof(void*);
+}
+
+// Whoever implements the interface elsewhere was compiled for this order.
+TEST(CustomItemInterface, KeepsTheOrderOfItsOperations) {
+    EXPECT_EQ(PlaceOf(&ICustomItem::GetEditMode), 0U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::DrawItem), 1U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::AcceptValue), 2U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::OnLButtonDown), 3U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::OnMouseMove), 4U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::OnLButtonUp), 5U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::GetStringValue), 6U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::SetStringValue), 7U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::ShowDropDown), 8U);
+    EXPECT_EQ(PlaceOf(&ICustomItem::OnButtonClicked), 9U);
+}
+
 TEST(GridItemValue, IsReadAsTheKindStoresIt) {
     CGridValue value;
     const int number = 7;

@@ -403,7 +403,13 @@ TEST(PropertyGridSettings, KeepWhatTheyAreGiven) {
 TEST_F(GridTest, TellsItsParentOfAChangeAtOnce) {
     grid.NotifyChanged(7);
     EXPECT_EQ(parent.changedItems, (std::vector<UINT>{7}));
+}
+
+TEST(GridMessages, HaveFixedNumbers) {
     EXPECT_EQ(WM_GRID_ITEM_CHANGED, 1510U);
+    EXPECT_EQ(WM_GRID_CHOICE_MADE, 1511U);
+    EXPECT_EQ(WM_GRID_EDIT_DONE, 1512U);
+    EXPECT_EQ(WM_GRID_DATE_CHOSEN, 1513U);
 }
 
 TEST_F(GridTest, TellsItsOwnerInsteadOfItsParentWhenOneIsSet) {

@@ -46,6 +46,21 @@ TEST_F(TextLibrary, KeepsAModuleWithoutTextsAndGivesEmptyOnes) {
     TakeTextModuleAway();
 }
 
+TEST_F(TextLibrary, CutsATextTo255Characters) {
+    TakeTextModuleAway();
+    const CTempFolder folder;
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::filesystem::path longTexts = std::filesystem::path(program).parent_path() / L"LongTexts.dll";
+    std::filesystem::copy_file(longTexts, folder.Path(L"TavrinRes.dll"));
+    SetDllDirectoryW(folder.Path(L"").c_str());
+    const CString longest = m_texts.Load(255);
+    EXPECT_EQ(longest.GetLength(), 255);
+    EXPECT_EQ(longest.Right(6), CString(L"9abcde"));
+    EXPECT_EQ(m_texts.Load(300), longest);
+    TakeTextModuleAway();
+}
+
 TEST_F(TextLibrary, GivesAnEmptyTextForANumberThatIsNotThere) {
     EXPECT_EQ(m_texts.Load(60000), CString());
 }
