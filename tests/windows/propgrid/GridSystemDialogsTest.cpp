@@ -1,0 +1,164 @@
+// What the grid asks the system's dialogs for, and what it makes of their answers; the dialogs themselves
+// are played.
+#include <afxdlgs.h>
+#include <gtest/gtest.h>
+#include <shlobj.h>
+
+#include <cwchar>
+
+#include "FolderBrowser.h"
+#include "GridDialogs.h"
+#include "GridFixture.h"
+#include "ImportHook.h"
+
+extern "C" {
+extern BOOL(WINAPI* __imp_GetOpenFileNameW)(LPOPENFILENAMEW dialog);
+extern BOOL(WINAPI* __imp_ChooseColorW)(LPCHOOSECOLORW dialog);
+extern BOOL(WINAPI* __imp_ChooseFontW)(LPCHOOSEFONTW dialog);
+extern LPITEMIDLIST(WINAPI* __imp_SHBrowseForFolderW)(LPBROWSEINFOW dialog);
+extern BOOL(WINAPI* __imp_SHGetPathFromIDListW)(LPCITEMIDLIST list, LPWSTR path);
+}
+
+namespace {
+
+// What the last dialog was asked for.
+HWND owner;
+DWORD flags;
+
+class GridSystemDialogs : public testing::Test {
+protected:
+    GridSystemDialogs() : m_title(FolderBrowseTitle()) {}
+    ~GridSystemDialogs() override { FolderBrowseTitle() = m_title; }
+
+    CGridParent parent;
+
+private:
+    std::wstring m_title;
+};
+
+TEST_F(GridSystemDialogs, AFileIsAskedForWithTheFilterTheNameAndNoExtension) {
+    static std::wstring name, filter;
+    static bool hasExtension;
+    const CImportHook open(
+        __imp_GetOpenFileNameW, +[](LPOPENFILENAMEW dialog) WINAPI {
+            owner = dialog->hwndOwner;
+            flags = dialog->Flags;
+            name = dialog->lpstrFile;
+            filter.assign(dialog->lpstrFilter, 18);
+            hasExtension = dialog->lpstrDefExt != nullptr;
+            std::wcscpy(dialog->lpstrFile, L"D:\\new.txt");
+            return TRUE;
+        });
+    std::wstring path = L"D:\\old.txt";
+    EXPECT_TRUE(AskForFile(&parent, L"Texts|*.txt|All|*||", path));
+    EXPECT_EQ(path, L"D:\\new.txt");
+    EXPECT_EQ(owner, parent.m_hWnd);
+    EXPECT_EQ(name, L"D:\\old.txt");
+    EXPECT_EQ(filter, std::wstring(L"Texts\0*.txt\0All\0*\0", 18));
+    EXPECT_FALSE(hasExtension);
+    // Beyond these the framework sets what makes a dialog of the new kind.
+    EXPECT_EQ(flags & ~DWORD{OFN_EXPLORER | OFN_ENABLESIZING | OFN_ENABLEHOOK},
+              DWORD{OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT});
+}
+
+TEST_F(GridSystemDialogs, AColourIsAskedForWithoutAnyFlags) {
+    static COLORREF initial;
+    const CImportHook choose(
+        __imp_ChooseColorW, +[](LPCHOOSECOLORW dialog) WINAPI {
+            owner = dialog->hwndOwner;
+            flags = dialog->Flags;
+            initial = dialog->rgbResult;
+            dialog->rgbResult = RGB(4, 5, 6);
+            return TRUE;
+        });
+    COLORREF color = RGB(1, 2, 3);
+    EXPECT_TRUE(AskForColor(&parent, color));
+    EXPECT_EQ(color, RGB(4, 5, 6));
+    EXPECT_EQ(owner, parent.m_hWnd);
+    EXPECT_EQ(initial, RGB(1, 2, 3));
+    // What the framework itself needs apart.
+    EXPECT_EQ(flags & ~DWORD{CC_RGBINIT | CC_ENABLEHOOK | CC_SHOWHELP}, 0U);
+}
+
+TEST_F(GridSystemDialogs, AFontIsAskedForAmongThoseOfTheScreenWithEffects) {
+    static LONG initialHeight;
+    const CImportHook choose(
+        __imp_ChooseFontW, +[](LPCHOOSEFONTW dialog) WINAPI {
+            owner = dialog->hwndOwner;
+            flags = dialog->Flags;
+            initialHeight = dialog->lpLogFont->lfHeight;
+            dialog->lpLogFont->lfHeight = -20;
+            return TRUE;
+        });
+    LOGFONTW font = {};
+    font.lfHeight = -12;
+    EXPECT_TRUE(AskForFont(&parent, font));
+    EXPECT_EQ(font.lfHeight, -20);
+    EXPECT_EQ(owner, parent.m_hWnd);
+    EXPECT_EQ(initialHeight, -12);
+    EXPECT_EQ(flags & ~DWORD{CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK}, DWORD{CF_SCREENFONTS | CF_EFFECTS});
+}
+
+// A window that plays the browser's and notes what it is told.
+class CPlayedBrowser : public CWnd {
+public:
+    CPlayedBrowser() { CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0); }
+    ~CPlayedBrowser() override { DestroyWindow(); }
+
+    std::wstring selected;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == 1127 && wParam == TRUE)
+            selected = reinterpret_cast<const wchar_t*>(lParam);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+LPITEMIDLIST AnyFolder() {
+    LPITEMIDLIST list = nullptr;
+    ::SHGetSpecialFolderLocation(nullptr, CSIDL_WINDOWS, &list);
+    return list;
+}
+
+TEST_F(GridSystemDialogs, AFolderIsAskedForAmongThoseOfTheFileSystemWithTheOldOneSelected) {
+    static std::wstring title, selected;
+    static bool hasRoot;
+    const CImportHook browse(
+        __imp_SHBrowseForFolderW, +[](LPBROWSEINFOW dialog) WINAPI {
+            owner = dialog->hwndOwner;
+            flags = dialog->ulFlags;
+            title = dialog->lpszTitle;
+            hasRoot = dialog->pidlRoot != nullptr;
+            CPlayedBrowser browser;
+            dialog->lpfn(browser, BFFM_SELCHANGED, 0, dialog->lParam);
+            EXPECT_EQ(browser.selected, L"");
+            dialog->lpfn(browser, BFFM_INITIALIZED, 0, dialog->lParam);
+            selected = browser.selected;
+            return AnyFolder();
+        });
+    const std::wstring newTitle = L"Where to?";
+    std::wstring path = L"D:\\old";
+    EXPECT_TRUE(AskForFolder(&parent, &newTitle, path));
+    EXPECT_EQ(::lstrcmpi(path.c_str(), L"C:\\windows"), 0);
+    EXPECT_EQ(owner, parent.m_hWnd);
+    EXPECT_EQ(flags, 0x49U);
+    EXPECT_EQ(title, L"Where to?");
+    EXPECT_EQ(selected, L"D:\\old");
+    EXPECT_FALSE(hasRoot);
+}
+
+TEST_F(GridSystemDialogs, AFolderWithoutAPathIsNoChoice) {
+    const CImportHook browse(
+        __imp_SHBrowseForFolderW, +[](LPBROWSEINFOW) WINAPI { return AnyFolder(); });
+    const CImportHook path(
+        __imp_SHGetPathFromIDListW, +[](LPCITEMIDLIST, LPWSTR) WINAPI { return FALSE; });
+    std::wstring browsed = L"D:\\old";
+    EXPECT_TRUE(BrowseForFolder(browsed, parent.m_hWnd));
+    EXPECT_EQ(browsed, L"");
+    std::wstring asked = L"D:\\old";
+    EXPECT_FALSE(AskForFolder(&parent, nullptr, asked));
+    EXPECT_EQ(asked, L"D:\\old");
+}
+
+}  // namespace
