@@ -89,6 +89,9 @@ bool CDistanceItem::SetStringValue(std::wstring text) {
         ::MessageBox(nullptr, L"The value you have input is invalid, please specify another one.",
                      L"Invalid value", MB_OK);
         distance = m_value;
+    } else if (text == GetStringValue()) {
+        // A length that was left as it stood, by Escape too, keeps the digits that its text does not show.
+        distance = m_value;
     }
     return std::exchange(m_value, distance) != distance;
 }

@@ -269,10 +269,16 @@ TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
     EXPECT_TRUE(picture.OnEraseBkgnd(nullptr));
 }
 
-// A picture control that leaves erasing to the framework, and notes when it does.
+// A picture control that notes who is asked to erase it.
 class CAskedPicture : public CPictureCtrl {
 public:
     bool defaultAsked = false;
+    bool asked = false;
+
+    BOOL OnEraseBkgnd(CDC* dc) override {
+        asked = true;
+        return CPictureCtrl::OnEraseBkgnd(dc);
+    }
 
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -290,6 +296,16 @@ TEST_F(PictureCtrl, LeavesTheBackgroundToTheFrameworkWhileItIsEmpty) {
     picture.OnEraseBkgnd(&dc);
     EXPECT_TRUE(picture.defaultAsked);
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, blue), 2500);
+}
+
+TEST_F(PictureCtrl, NoMessageAsksItToPaintTheBackground) {
+    m_folder.Write(L"red.bmp", Red());
+    CAskedPicture picture;
+    Bind(picture, {0, 0, 50, 50});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    CClientDC dc(&picture);
+    picture.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc()));
+    EXPECT_FALSE(picture.asked);
 }
 
 TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {

@@ -97,6 +97,12 @@ TEST_F(ItemOpening, OperationsForClientsLookUpPlaceholdersAndTexts) {
     EXPECT_EQ(text, CString());
 }
 
+TEST_F(ItemOpening, TheDialogKnowsItsClass) {
+    const CTavrinWndDlg dialog;
+    EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CDialog)));
+    EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CTavrinWndDlg");
+}
+
 TEST_F(ItemOpening, OnlyTheHeadersDeviceContextIsChanged) {
     WriteItem("");
     InDialog(

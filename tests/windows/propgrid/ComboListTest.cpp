@@ -100,6 +100,12 @@ TEST_F(ComboList, HasAPlainWindowClass) {
     EXPECT_TRUE(list.IsKindOf(RUNTIME_CLASS(CPropertyGridCombo)));
 }
 
+TEST_F(ComboList, KnowsItsClass) {
+    const CPropertyGridCombo list;
+    EXPECT_TRUE(list.IsKindOf(RUNTIME_CLASS(CWnd)));
+    EXPECT_STREQ(list.GetRuntimeClass()->m_lpszClassName, "CPropertyGridCombo");
+}
+
 TEST_F(ComboList, HasNothingSelectedAtTheStart) {
     EXPECT_EQ(CPropertyGridCombo().GetCurSel(), -1);
 }

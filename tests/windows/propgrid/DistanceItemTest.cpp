@@ -56,6 +56,15 @@ TEST_F(DistanceItem, ReportsNoChangeForAnotherSpellingOfTheSameLength) {
     EXPECT_EQ(item.GetDistance(), 2.0);
 }
 
+TEST_F(DistanceItem, KeepsTheDigitsThatItsTextDoesNotShowWhenThatIsLeftAsItStands) {
+    EXPECT_TRUE(item.SetStringValue(L"2.00001234"));
+    EXPECT_EQ(item.GetStringValue(), L"U2:2.0000");
+    EXPECT_FALSE(item.SetStringValue(L"U2:2.0000"));
+    EXPECT_EQ(item.GetDistance(), 2.00001234);
+    EXPECT_TRUE(item.SetStringValue(L"2.00001"));
+    EXPECT_EQ(item.GetDistance(), 2.00001);
+}
+
 TEST_F(DistanceItem, ReadsATypedLengthInTheDrawingsUnits) {
     fakeHost.linearUnits = 4;
     EXPECT_TRUE(item.SetStringValue(L"U4:3"));
@@ -108,6 +117,7 @@ TEST_F(DistanceItem, TakesTheDistanceBetweenTwoPickedPoints) {
     EXPECT_EQ(item.GetDistance(), 7.25);
     EXPECT_EQ(fakeHost.prompts,
               (std::vector<std::wstring>{L"\nSelect first point: ", L"\nSelect second point: "}));
+    EXPECT_EQ(fakeHost.bases, (std::vector<std::string>{"none", "1 2 3"}));
 }
 
 TEST_F(DistanceItem, ReportsAPickOfTheSameDistanceAsAChange) {

@@ -144,6 +144,7 @@ TEST_F(PropertyGridLife, KnowsItsClass) {
     const CTestGrid grid;
     EXPECT_TRUE(grid.IsKindOf(RUNTIME_CLASS(CPropertyGrid)));
     EXPECT_TRUE(grid.IsKindOf(RUNTIME_CLASS(CWnd)));
+    EXPECT_STREQ(grid.GetRuntimeClass()->m_lpszClassName, "CPropertyGrid");
 }
 
 // One row of every kind, modified and not, focused in turn.

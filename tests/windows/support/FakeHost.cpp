@@ -33,6 +33,14 @@ std::string ListText(const sds_resbuf* list) {
     return text + ')';
 }
 
+std::string PointText(const double* point) {
+    if (point == nullptr)
+        return "none";
+    char text[100];
+    std::snprintf(text, sizeof text, "%g %g %g", point[0], point[1], point[2]);
+    return text;
+}
+
 bool IsFile(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
@@ -181,16 +189,19 @@ int sds_distof(const wchar_t* text, int units, double* result) {
     return Fails("sds_distof") || number.empty() || *end != L'\0' ? RTNORM - 1 : RTNORM;
 }
 
-int sds_getpoint(const double* /*base*/, const wchar_t* prompt, double* point) {
+int sds_getpoint(const double* base, const wchar_t* prompt, double* point) {
     fakeHost.prompts.push_back(prompt);
+    fakeHost.bases.push_back(PointText(base));
     if (fakeHost.duringPick)
         fakeHost.duringPick();
-    point[0] = point[1] = point[2] = 0;
+    for (int axis = 0; axis < 3; ++axis)
+        point[axis] = axis + 1;
     return Fails("sds_getpoint") ? RTNORM - 1 : fakeHost.pointStatus;
 }
 
-int sds_getdist(const double* /*base*/, const wchar_t* prompt, double* distance) {
+int sds_getdist(const double* base, const wchar_t* prompt, double* distance) {
     fakeHost.prompts.push_back(prompt);
+    fakeHost.bases.push_back(PointText(base));
     if (Fails("sds_getdist"))
         return RTNORM - 1;
     if (fakeHost.distanceStatus == RTNORM)

@@ -20,6 +20,7 @@ struct FakeHost {
     std::vector<std::wstring> failures;                   // sds_fail
     std::vector<std::wstring> alerts;                     // sds_alert
     std::vector<std::wstring> prompts;                    // sds_getpoint, sds_getdist
+    std::vector<std::string> bases;                       // theirs: "none" or a point, "1 2 3"
     std::vector<std::string> results;                     // "0", "nil", "(100 \"A\")" per result call
     std::vector<std::wstring> searched;                   // sds_findfile
 
@@ -34,7 +35,7 @@ struct FakeHost {
     int precision = 4;
     int pointStatus = RtNorm;
     int distanceStatus = RtNorm;
-    double distance = 0;
+    double distance = 0;               // the point is 1, 2, 3
     std::function<void()> duringPick;  // called inside sds_getpoint
     std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
 
