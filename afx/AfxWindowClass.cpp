@@ -15,6 +15,7 @@ public:
     }
 
     LPCTSTR Add(LPCTSTR name) { return m_names.emplace_back(name).c_str(); }
+    void RemoveLast() { m_names.pop_back(); }
     LPCTSTR Find(LPCTSTR name) const {
         for (const std::wstring& known : m_names)
             if (known == name)
@@ -44,8 +45,11 @@ LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, 
     windowClass.hIcon = icon;
     windowClass.hCursor = cursor;
     windowClass.hbrBackground = background;
-    windowClass.lpszClassName = name;
-    if (::RegisterClass(&windowClass) == 0)
+    // Noted first: a class that no memory is left to note would stay registered, and nobody would know it.
+    windowClass.lpszClassName = classes.Add(name);
+    if (::RegisterClass(&windowClass) == 0) {
+        classes.RemoveLast();
         AfxThrowResourceException();
-    return classes.Add(name);
+    }
+    return windowClass.lpszClassName;
 }

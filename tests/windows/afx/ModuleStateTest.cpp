@@ -105,6 +105,26 @@ TEST(RegisterWndClass, GivesOneNameForTheSameAttributes) {
     EXPECT_STRNE(AfxRegisterWndClass(CS_HREDRAW, arrow), name);
 }
 
+TEST(RegisterWndClass, RegistersAClassForWhichMemoryRanOutBefore) {
+    const auto failAfter = reinterpret_cast<void (*)(size_t)>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandle(L"TD_Alloc.dll"), "td_fail_after")));
+    ASSERT_NE(failAfter, nullptr);
+    LPCTSTR name = nullptr;
+    for (size_t allocation = 1; name == nullptr && allocation < 100; ++allocation) {
+        failAfter(allocation);
+        try {
+            name = AfxRegisterWndClass(CS_VREDRAW | CS_SAVEBITS);
+        } catch (const std::bad_alloc&) {
+        } catch (CException* error) {
+            failAfter(0);
+            error->Delete();
+            FAIL() << "registered by an attempt that failed";
+        }
+        failAfter(0);
+    }
+    EXPECT_NE(name, nullptr);
+}
+
 TEST(MessageBoxes, AreOwnedByTheMainWindowAndCarryTheProgramsName) {
     CWinApp application(L"Some name");
     CWnd main;
