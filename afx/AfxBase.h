@@ -18,8 +18,6 @@
 
 #ifdef NDEBUG
 #define ASSERT(condition) static_cast<void>(0)
-#define VERIFY(condition) static_cast<void>(condition)
 #else
 #define ASSERT(condition) assert(condition)
-#define VERIFY(condition) assert(condition)
 #endif

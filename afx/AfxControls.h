@@ -7,10 +7,6 @@ class CStatic : public CWnd {
     DECLARE_DYNAMIC(CStatic)
     CStatic() = default;
     virtual BOOL Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xFFFF);
-    HICON SetIcon(HICON icon) { return (HICON)SendMessage(STM_SETICON, (WPARAM)icon); }
-    HBITMAP SetBitmap(HBITMAP bitmap) {
-        return (HBITMAP)SendMessage(STM_SETIMAGE, IMAGE_BITMAP, (LPARAM)bitmap);
-    }
     // Draws a control of style SS_OWNERDRAW.
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}
 
@@ -22,12 +18,6 @@ class CButton : public CWnd {
     DECLARE_DYNAMIC(CButton)
     CButton() = default;
     virtual BOOL Create(LPCTSTR caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
-    void SetCheck(int check) { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
-    UINT GetState() const { return static_cast<UINT>(SendMessage(BM_GETSTATE)); }
-    void SetState(BOOL highlight) { SendMessage(BM_SETSTATE, static_cast<WPARAM>(highlight)); }
-    UINT GetButtonStyle() const { return GetStyle() & 0xFF; }
-    void SetButtonStyle(UINT style, BOOL redraw = TRUE) { SendMessage(BM_SETSTYLE, style, redraw); }
     // Draws a control of style BS_OWNERDRAW.
     virtual void DrawItem(LPDRAWITEMSTRUCT) {}
 
@@ -44,11 +34,6 @@ class CEdit : public CWnd {
     void SetSel(int start, int end, BOOL noScroll = FALSE);
     void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { SendMessage(EM_REPLACESEL, canUndo, (LPARAM)text); }
     void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
-    BOOL GetModify() const { return static_cast<BOOL>(SendMessage(EM_GETMODIFY)); }
-    void SetModify(BOOL modified = TRUE) { SendMessage(EM_SETMODIFY, modified); }
-    BOOL SetReadOnly(BOOL readOnly = TRUE) {
-        return static_cast<BOOL>(SendMessage(EM_SETREADONLY, readOnly));
-    }
 };
 
 class CScrollBar : public CWnd {
@@ -71,8 +56,4 @@ class CScrollBar : public CWnd {
     BOOL SetScrollInfo(LPSCROLLINFO info, BOOL redraw = TRUE) {
         return CWnd::SetScrollInfo(SB_CTL, info, redraw);
     }
-    BOOL EnableScrollBar(UINT arrowFlags = ESB_ENABLE_BOTH) {
-        return ::EnableScrollBar(m_hWnd, SB_CTL, arrowFlags);
-    }
-    void ShowScrollBar(BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, show); }
 };

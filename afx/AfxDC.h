@@ -35,10 +35,6 @@ class CDC : public CObject {
     virtual CFont* SelectObject(CFont* font) { return CFont::FromHandle((HFONT)Select(font)); }
     CBitmap* SelectObject(CBitmap* bitmap) { return CBitmap::FromHandle((HBITMAP)Select(bitmap)); }
     CGdiObject* SelectObject(CGdiObject* object) { return CGdiObject::FromHandle(Select(object)); }
-    virtual CGdiObject* SelectStockObject(int index) {
-        return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(index)));
-    }
-    CFont* GetCurrentFont() const { return CFont::FromHandle((HFONT)::GetCurrentObject(m_hDC, OBJ_FONT)); }
 
     virtual COLORREF SetBkColor(COLORREF colour) { return ::SetBkColor(m_hDC, colour); }
     COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
@@ -46,20 +42,17 @@ class CDC : public CObject {
     int GetBkMode() const { return ::GetBkMode(m_hDC); }
     virtual COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
     COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
-    UINT SetTextAlign(UINT flags) { return ::SetTextAlign(m_hDC, flags); }
 
     CPoint MoveTo(int x, int y);
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y) { return ::LineTo(m_hDC, x, y); }
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polygon(const POINT* points, int count) { return ::Polygon(m_hDC, points, count); }
     BOOL Rectangle(int left, int top, int right, int bottom) {
         return ::Rectangle(m_hDC, left, top, right, bottom);
     }
     BOOL Rectangle(LPCRECT rect) { return Rectangle(rect->left, rect->top, rect->right, rect->bottom); }
     void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, *brush); }
     void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
-    void InvertRect(LPCRECT rect) { ::InvertRect(m_hDC, rect); }
     void FillSolidRect(LPCRECT rect, COLORREF colour);
     void FillSolidRect(int x, int y, int width, int height, COLORREF colour) {
         FillSolidRect(CRect(x, y, x + width, y + height), colour);
@@ -68,14 +61,9 @@ class CDC : public CObject {
     BOOL DrawFrameControl(LPRECT rect, UINT type, UINT state) {
         return ::DrawFrameControl(m_hDC, rect, type, state);
     }
-    BOOL DrawEdge(LPRECT rect, UINT edge, UINT flags) { return ::DrawEdge(m_hDC, rect, edge, flags); }
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
     COLORREF SetPixel(int x, int y, COLORREF colour) { return ::SetPixel(m_hDC, x, y, colour); }
 
-    virtual BOOL TextOut(int x, int y, LPCTSTR text, int length) {
-        return ::TextOut(m_hDC, x, y, text, length);
-    }
-    BOOL TextOut(int x, int y, const CString& text) { return TextOut(x, y, text, text.GetLength()); }
     // The result is the text's height.
     virtual int DrawText(LPCTSTR text, int length, LPRECT rect, UINT format) {
         return ::DrawText(m_hDC, text, length, rect, format);
@@ -85,24 +73,13 @@ class CDC : public CObject {
     }
     CSize GetTextExtent(LPCTSTR text, int length) const;
     CSize GetTextExtent(const CString& text) const { return GetTextExtent(text, text.GetLength()); }
-    BOOL GetTextMetrics(LPTEXTMETRIC metrics) const { return ::GetTextMetrics(m_hDC, metrics); }
 
     BOOL BitBlt(int x, int y, int width, int height, CDC* source, int sourceX, int sourceY, DWORD operation) {
         return ::BitBlt(m_hDC, x, y, width, height, source != nullptr ? source->m_hDC : nullptr, sourceX,
                         sourceY, operation);
     }
-    BOOL PatBlt(int x, int y, int width, int height, DWORD operation) {
-        return ::PatBlt(m_hDC, x, y, width, height, operation);
-    }
 
-    virtual int GetClipBox(LPRECT rect) const { return ::GetClipBox(m_hDC, rect); }
     virtual BOOL RectVisible(LPCRECT rect) const { return ::RectVisible(m_hDC, rect); }
-    int IntersectClipRect(int left, int top, int right, int bottom) {
-        return ::IntersectClipRect(m_hDC, left, top, right, bottom);
-    }
-    int IntersectClipRect(LPCRECT rect) {
-        return IntersectClipRect(rect->left, rect->top, rect->right, rect->bottom);
-    }
     int ExcludeClipRect(LPCRECT rect) {
         return ::ExcludeClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
     }

@@ -30,11 +30,6 @@ class CDialog : public CWnd {
     void EndDialog(int result);
 
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
-    void NextDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, 0, FALSE); }
-    void PrevDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, 1, FALSE); }
-    void GotoDlgCtrl(CWnd* control) { SendMessage(WM_NEXTDLGCTL, (WPARAM)control->m_hWnd, TRUE); }
-    void SetDefID(UINT id) { SendMessage(DM_SETDEFID, id); }
-    DWORD GetDefID() const { return static_cast<DWORD>(SendMessage(DM_GETDEFID)); }
 
     // Moves the data into the controls. TRUE lets Windows give the focus to the first control.
     virtual BOOL OnInitDialog();

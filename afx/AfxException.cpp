@@ -108,11 +108,6 @@ int CFileException::OsErrorToException(LONG osError) {
     }
 }
 
-void CFileException::ThrowOsError(LONG osError, LPCTSTR fileName) {
-    if (osError != NO_ERROR)
-        AfxThrowFileException(OsErrorToException(osError), osError, fileName);
-}
-
 BOOL CFileException::GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext) const {
     CException::GetErrorMessage(text, maxLength, helpContext);
     CString message = m_strFileName;

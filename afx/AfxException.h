@@ -86,7 +86,6 @@ class CFileException : public CException {
         : m_cause(cause), m_lOsError(osError), m_strFileName(fileName) {}
 
     static int OsErrorToException(LONG osError);
-    static void ThrowOsError(LONG osError, LPCTSTR fileName = nullptr);
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) const override;
 
     int m_cause;

@@ -72,21 +72,15 @@ CBrush::CBrush(COLORREF colour) {
 }
 
 BOOL CFont::CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc) {
-    LOGFONT font = {};
-    font.lfHeight = pointSize;
-    font.lfCharSet = DEFAULT_CHARSET;
-    ::lstrcpyn(font.lfFaceName, faceName, LF_FACESIZE);
-    return CreatePointFontIndirect(&font, dc);
-}
-
-BOOL CFont::CreatePointFontIndirect(const LOGFONT* font, CDC* dc) {
-    LOGFONT sized = *font;
     const HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
     const int pixelsPerInch = ::GetDeviceCaps(dc != nullptr ? dc->m_hDC : screen, LOGPIXELSY);
     if (screen != nullptr)
         ::ReleaseDC(nullptr, screen);
-    sized.lfHeight = -::MulDiv(font->lfHeight, pixelsPerInch, 720);
-    return CreateFontIndirect(&sized);
+    LOGFONT font = {};
+    font.lfHeight = -::MulDiv(pointSize, pixelsPerInch, 720);
+    font.lfCharSet = DEFAULT_CHARSET;
+    ::lstrcpyn(font.lfFaceName, faceName, LF_FACESIZE);
+    return CreateFontIndirect(&font);
 }
 
 BOOL CBitmap::CreateCompatibleBitmap(CDC* dc, int width, int height) {

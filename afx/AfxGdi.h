@@ -23,7 +23,6 @@ class CGdiObject : public CObject {
     BOOL Attach(HGDIOBJ handle);
     HGDIOBJ Detach();
     BOOL DeleteObject();
-    BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
     int GetObject(int count, LPVOID object) const { return ::GetObject(m_hObject, count, object); }
 
     HGDIOBJ m_hObject = nullptr;
@@ -38,7 +37,6 @@ class CPen : public CGdiObject {
     BOOL CreatePen(int style, int width, COLORREF colour) {
         return Attach(::CreatePen(style, width, colour));
     }
-    int GetLogPen(LOGPEN* pen) const { return GetObject(sizeof *pen, pen); }
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 };
 
@@ -49,8 +47,6 @@ class CBrush : public CGdiObject {
     explicit CBrush(COLORREF colour);  // throws CResourceException* on failure
     static CBrush* FromHandle(HBRUSH handle) { return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle)); }
     BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
-    BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
-    int GetLogBrush(LOGBRUSH* brush) const { return GetObject(sizeof *brush, brush); }
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
 
@@ -62,8 +58,6 @@ class CFont : public CGdiObject {
     BOOL CreateFontIndirect(const LOGFONT* font) { return Attach(::CreateFontIndirect(font)); }
     // The size is in tenths of a point, for the given device context or for the screen.
     BOOL CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc = nullptr);
-    // As above; lfHeight holds the size in tenths of a point.
-    BOOL CreatePointFontIndirect(const LOGFONT* font, CDC* dc = nullptr);
     int GetLogFont(LOGFONT* font) const { return GetObject(sizeof *font, font); }
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 };
@@ -79,6 +73,5 @@ class CBitmap : public CGdiObject {
     BOOL CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
         return Attach(::CreateBitmap(width, height, planes, bitCount, bits));
     }
-    int GetBitmap(BITMAP* bitmap) const { return GetObject(sizeof *bitmap, bitmap); }
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 };

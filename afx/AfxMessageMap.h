@@ -101,14 +101,12 @@ protected:                                        \
     AFX_ENTRY_RESULT(WM_NCCREATE, &ThisClass::OnNcCreate, BOOL, (LPCREATESTRUCT), ((LPCREATESTRUCT)m.lParam))
 #define ON_WM_CREATE() \
     AFX_ENTRY_RESULT(WM_CREATE, &ThisClass::OnCreate, int, (LPCREATESTRUCT), ((LPCREATESTRUCT)m.lParam))
-#define ON_WM_CLOSE() AFX_ENTRY_VOID(WM_CLOSE, &ThisClass::OnClose, (), ())
 #define ON_WM_DESTROY() AFX_ENTRY_VOID(WM_DESTROY, &ThisClass::OnDestroy, (), ())
 #define ON_WM_NCDESTROY() AFX_ENTRY_VOID(WM_NCDESTROY, &ThisClass::OnNcDestroy, (), ())
 #define ON_WM_SHOWWINDOW() \
     AFX_ENTRY_VOID(WM_SHOWWINDOW, &ThisClass::OnShowWindow, (BOOL, UINT), ((BOOL)m.wParam, (UINT)m.lParam))
 #define ON_WM_SIZE() \
     AFX_ENTRY_VOID(WM_SIZE, &ThisClass::OnSize, (UINT, int, int), ((UINT)m.wParam, AFX_WORDS_OF(m.lParam)))
-#define ON_WM_TIMER() AFX_ENTRY_VOID(WM_TIMER, &ThisClass::OnTimer, (UINT_PTR), (m.wParam))
 
 // Painting.
 #define ON_WM_PAINT() AFX_ENTRY_VOID(WM_PAINT, &ThisClass::OnPaint, (), ())
@@ -143,18 +141,13 @@ protected:                                        \
                      (LOWORD(m.wParam), (short)HIWORD(m.wParam), AFX_POINT))
 #define ON_WM_CAPTURECHANGED() \
     AFX_ENTRY_VOID(WM_CAPTURECHANGED, &ThisClass::OnCaptureChanged, (CWnd*), (AFX_WINDOW(m.lParam)))
-#define ON_WM_SETCURSOR()                                                              \
-    AFX_ENTRY_RESULT(WM_SETCURSOR, &ThisClass::OnSetCursor, BOOL, (CWnd*, UINT, UINT), \
-                     (AFX_WINDOW(m.wParam), AFX_WORDS_OF(m.lParam)))
 
 // The keyboard.
 #define AFX_ON_KEY(number, member) \
     AFX_ENTRY_VOID(number, member, (UINT, UINT, UINT), ((UINT)m.wParam, AFX_WORDS_OF(m.lParam)))
 #define ON_WM_KEYDOWN() AFX_ON_KEY(WM_KEYDOWN, &ThisClass::OnKeyDown)
 #define ON_WM_CHAR() AFX_ON_KEY(WM_CHAR, &ThisClass::OnChar)
-#define ON_WM_SYSCHAR() AFX_ON_KEY(WM_SYSCHAR, &ThisClass::OnSysChar)
 #define ON_WM_GETDLGCODE() AFX_ENTRY_RESULT(WM_GETDLGCODE, &ThisClass::OnGetDlgCode, UINT, (), ())
-#define ON_WM_SETFOCUS() AFX_ENTRY_VOID(WM_SETFOCUS, &ThisClass::OnSetFocus, (CWnd*), (AFX_WINDOW(m.wParam)))
 #define ON_WM_KILLFOCUS() \
     AFX_ENTRY_VOID(WM_KILLFOCUS, &ThisClass::OnKillFocus, (CWnd*), (AFX_WINDOW(m.wParam)))
 #define ON_WM_HELPINFO() \
@@ -178,8 +171,6 @@ protected:                                        \
     AFX_ENTRY(WM_COMMAND, code, firstId, lastId, member, void, (UINT), (self->*operation)(m.id))
 #define ON_COMMAND(id, member) ON_CONTROL(0, id, member)
 #define ON_BN_CLICKED(id, member) ON_CONTROL(BN_CLICKED, id, member)
-#define ON_STN_CLICKED(id, member) ON_CONTROL(STN_CLICKED, id, member)
-#define ON_STN_DBLCLK(id, member) ON_CONTROL(STN_DBLCLK, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
 #define ON_NOTIFY(code, id, member)                                      \
     AFX_ENTRY(WM_NOTIFY, code, id, id, member, void, (NMHDR*, LRESULT*), \

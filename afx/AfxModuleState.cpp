@@ -99,10 +99,6 @@ CWinApp::~CWinApp() {
     application = nullptr;
 }
 
-CWinApp* AfxGetApp() {
-    return application;
-}
-
 LPCTSTR AfxGetAppName() {
     if (application != nullptr && application->m_pszAppName != nullptr)
         return application->m_pszAppName;

@@ -29,7 +29,6 @@ private:
     AFX_MODULE_STATE* m_previous;
     size_t m_temporaries;
 };
-#define AFX_MANAGE_STATE(state) AFX_MAINTAIN_STATE2 afxManagedState(state);
 
 // Of the state at work.
 HINSTANCE AfxGetInstanceHandle();
@@ -46,7 +45,6 @@ class CWinApp : public CCmdTarget {
     CWnd* m_pMainWnd = nullptr;  // not owned
 };
 
-CWinApp* AfxGetApp();
 // The application object's name, else the module's file name without folder and extension.
 LPCTSTR AfxGetAppName();
 // Null when there is no application object or it names no window.

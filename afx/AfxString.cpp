@@ -144,16 +144,6 @@ CString& CString::TrimRight() {
     return *this;
 }
 
-CString& CString::MakeUpper() {
-    ::CharUpperBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
-CString& CString::MakeLower() {
-    ::CharLowerBuff(m_text.data(), static_cast<DWORD>(m_text.size()));
-    return *this;
-}
-
 int CString::Compare(LPCTSTR text) const {
     return m_text.compare(text);
 }

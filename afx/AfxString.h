@@ -27,13 +27,11 @@ public:
 
     TCHAR GetAt(int index) const { return m_text[static_cast<size_t>(index)]; }
     TCHAR operator[](int index) const { return GetAt(index); }
-    void SetAt(int index, TCHAR character) { m_text[static_cast<size_t>(index)] = character; }
 
     void SetString(LPCTSTR text) { *this = text; }
     void SetString(LPCTSTR text, int length) { m_text.assign(text, static_cast<size_t>(length)); }
     void Append(LPCTSTR text) { m_text += text; }
     void Append(LPCTSTR text, int length) { m_text.append(text, static_cast<size_t>(length)); }
-    void AppendChar(TCHAR character) { m_text += character; }
     CString& operator+=(const CString& text);
     CString& operator+=(LPCTSTR text);
     CString& operator+=(TCHAR character);
@@ -59,8 +57,6 @@ public:
     CString& Trim();
     CString& TrimLeft();
     CString& TrimRight();
-    CString& MakeUpper();
-    CString& MakeLower();
 
     // Less than, equal to or greater than 0, by code units. The text compared with ends at its first NUL.
     int Compare(LPCTSTR text) const;
@@ -107,5 +103,3 @@ public:
 private:
     std::wstring m_text;
 };
-
-using CStringW = CString;

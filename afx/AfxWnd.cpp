@@ -156,14 +156,6 @@ BOOL CWnd::DestroyWindow() {
     return destroyed;
 }
 
-CWnd* CWnd::SetParent(CWnd* parent) {
-    return FromHandle(::SetParent(m_hWnd, parent != nullptr ? parent->m_hWnd : nullptr));
-}
-
-CWnd* CWnd::GetTopLevelParent() const {
-    return FromHandle(::GetAncestor(m_hWnd, GA_ROOT));
-}
-
 void CWnd::GetWindowText(CString& text) const {
     const int length = GetWindowTextLength();
     GetWindowText(text.GetBufferSetLength(length), length + 1);

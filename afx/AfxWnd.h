@@ -68,12 +68,9 @@ class CWnd : public CCmdTarget {
 
     // Relatives. An owner that was set hears the notifications that the parent would hear otherwise.
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* SetParent(CWnd* parent);
     CWnd* GetOwner() const { return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent(); }
     void SetOwner(CWnd* owner) { m_hWndOwner = owner != nullptr ? owner->m_hWnd : nullptr; }
-    CWnd* GetTopLevelParent() const;
     CWnd* GetWindow(UINT relation) const { return FromHandle(::GetWindow(m_hWnd, relation)); }
-    BOOL IsChild(const CWnd* window) const { return ::IsChild(m_hWnd, window->m_hWnd); }
     static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
 
     // Controls.
@@ -191,12 +188,10 @@ protected:
     // What a window does with a message that its class has no entry for.
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return static_cast<BOOL>(Default()); }
     afx_msg int OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
-    afx_msg void OnClose() { Default(); }
     afx_msg void OnDestroy() { Default(); }
     afx_msg void OnNcDestroy();
     afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
     afx_msg void OnSize(UINT, int, int) { Default(); }
-    afx_msg void OnTimer(UINT_PTR) { Default(); }
     afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return static_cast<BOOL>(Default()); }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
@@ -208,12 +203,9 @@ protected:
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return static_cast<BOOL>(Default()); }
     afx_msg void OnCaptureChanged(CWnd*) { Default(); }
-    afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return static_cast<BOOL>(Default()); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
-    afx_msg void OnSysChar(UINT, UINT, UINT) { Default(); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
-    afx_msg void OnSetFocus(CWnd*) { Default(); }
     afx_msg void OnKillFocus(CWnd*) { Default(); }
     afx_msg BOOL OnHelpInfo(HELPINFO*) { return static_cast<BOOL>(Default()); }
     afx_msg void OnHelp() {}  // shows the program's help: the module has none

@@ -23,7 +23,6 @@ public:
 
     // 0 when the parts are a date and time; otherwise 1, and the object becomes invalid.
     int SetDateTime(int year, int month, int day, int hour, int minute, int second);
-    int SetDate(int year, int month, int day) { return SetDateTime(year, month, day, 0, 0, 0); }
     int SetTime(int hour, int minute, int second) { return SetDateTime(1899, 12, 30, hour, minute, second); }
 
     // Each is -1 (error) when the object is not valid.

@@ -22,9 +22,6 @@ public:
     explicit CPoint(LPARAM point)
         : tagPOINT{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))} {}
 
-    void Offset(int dx, int dy) { *this = CPoint(x + dx, y + dy); }
-    void Offset(POINT by) { Offset(by.x, by.y); }
-    void SetPoint(int newX, int newY) { *this = CPoint(newX, newY); }
     CPoint operator+(POINT by) const { return CPoint(x + by.x, y + by.y); }
     CPoint operator+(SIZE by) const { return CPoint(x + by.cx, y + by.cy); }
     CPoint operator-(SIZE by) const { return CPoint(x - by.cx, y - by.cy); }
@@ -47,7 +44,6 @@ public:
     int Height() const { return bottom - top; }
     CSize Size() const { return CSize(Width(), Height()); }
     CPoint TopLeft() const { return CPoint(left, top); }
-    CPoint BottomRight() const { return CPoint(right, bottom); }
     CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
     operator LPRECT() { return this; }
     operator LPCRECT() const { return this; }
@@ -57,7 +53,6 @@ public:
     BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
     void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
     void SetRectEmpty() { *this = CRect(); }
-    void CopyRect(LPCRECT rect) { *this = CRect(rect); }
     BOOL EqualRect(LPCRECT rect) const { return ::EqualRect(this, rect); }
 
     void InflateRect(int dx, int dy) { ::InflateRect(this, dx, dy); }
@@ -71,7 +66,6 @@ public:
 
     // FALSE, and an empty rectangle, when the result is empty.
     BOOL IntersectRect(LPCRECT a, LPCRECT b) { return ::IntersectRect(this, a, b); }
-    BOOL UnionRect(LPCRECT a, LPCRECT b) { return ::UnionRect(this, a, b); }
 
     BOOL operator==(const RECT& rect) const { return ::EqualRect(this, &rect); }
     BOOL operator!=(const RECT& rect) const { return !::EqualRect(this, &rect); }
