@@ -12,3 +12,14 @@ double GridSpacing(double unitsPerPixel, double leastPixels) {
             return decade * step;
     return decade * 10;
 }
+
+std::vector<double> GridSteps(double low, double high, double spacing) {
+    constexpr double kMostExact = 9e15;  // up to here every whole number is a double
+    const double first = std::ceil(low / spacing);
+    const double last = std::floor(high / spacing);
+    std::vector<double> steps;
+    if (std::abs(first) <= kMostExact && std::abs(last) <= kMostExact)
+        for (double step = first; step <= last; ++step)
+            steps.push_back(step);
+    return steps;
+}

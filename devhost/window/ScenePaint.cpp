@@ -50,17 +50,19 @@ public:
     void Dots() {
         const double spacing = GridSpacing(m_view.UnitsPerPixel(), m_scale(kDotDistance));
         const SBox shown = m_view.Shown();
-        const double left = std::ceil(shown.low.x / spacing);
-        const double bottom = std::ceil(shown.low.y / spacing);
-        for (double column = left; column * spacing <= shown.high.x; ++column)
-            for (double row = bottom; row * spacing <= shown.high.y; ++row)
+        const std::vector<double> rows = GridSteps(shown.low.y, shown.high.y, spacing);
+        for (const double column : GridSteps(shown.low.x, shown.high.x, spacing))
+            for (const double row : rows)
                 Dot(column, row, spacing);
     }
 
     void Axes() {
-        const POINT origin = Rounded(m_view.ToPixel({0, 0}));
-        Stroke(kAxisX, {0, origin.y}, {m_client.right, origin.y});
-        Stroke(kAxisY, {origin.x, 0}, {origin.x, m_client.bottom});
+        // One that is out of sight may be farther away than the system's coordinates reach.
+        const SPoint origin = m_view.ToPixel({0, 0});
+        if (origin.y >= m_limits.low.y && origin.y <= m_limits.high.y)
+            Stroke(kAxisX, Rounded({0, origin.y}), Rounded({m_limits.high.x, origin.y}));
+        if (origin.x >= m_limits.low.x && origin.x <= m_limits.high.x)
+            Stroke(kAxisY, Rounded({origin.x, 0}), Rounded({origin.x, m_limits.high.y}));
     }
 
     void Entities(const CDrawing& drawing) {

@@ -21,4 +21,16 @@ TEST(Grid, DotsAreNeverCloserThanAskedAndNeverThriceAsFar) {
     }
 }
 
+TEST(Grid, StepsAreTheWholeMultiplesInBetween) {
+    EXPECT_EQ(GridSteps(-0.3, 0.45, 0.2), (std::vector<double>{-1, 0, 1, 2}));
+    EXPECT_EQ(GridSteps(20, 60, 20), (std::vector<double>{1, 2, 3}));
+    EXPECT_EQ(GridSteps(1, 19, 20), std::vector<double>());
+}
+
+TEST(Grid, WhereStepsCannotBeToldApartThereAreNone) {
+    EXPECT_EQ(GridSteps(1e12, 1e12 + 1e-3, 2e-8), std::vector<double>());
+    EXPECT_EQ(GridSteps(-1e12 - 1e-3, -1e12, 2e-8), std::vector<double>());
+    EXPECT_EQ(GridSteps(1e12, 1e12 + 40, 20), (std::vector<double>{5e10, 5e10 + 1, 5e10 + 2}));
+}
+
 }  // namespace
