@@ -22,6 +22,9 @@ constexpr wchar_t kTitle[] = L"DevHost";
 // Pixels.
 constexpr int kWidth = 1100;
 constexpr int kHeight = 800;
+// Smaller than this the prompt and parts of the status line would be out of sight.
+constexpr int kLeastWidth = 520;
+constexpr int kLeastHeight = 320;
 constexpr int kOutputHeight = 140;
 
 // Where the window opens: in the middle of the screen, no larger than that.
@@ -112,8 +115,14 @@ void CMainWindow::SetBusy(bool busy) {
 
 LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
+        case WM_GETMINMAXINFO:
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {m_scale(kLeastWidth),
+                                                                     m_scale(kLeastHeight)};
+            return 0;
         case WM_SIZE:
             Layout();
+            if (m_output != nullptr)
+                m_output->ShowCaret();
             return 0;
         case WM_ERASEBKGND:
             PaintBackground(reinterpret_cast<HDC>(wParam));

@@ -45,7 +45,7 @@ void COutputList::AddText(std::wstring_view text) {
     const int end = GetWindowTextLengthW(m_window);
     SendMessageW(m_window, EM_SETSEL, WPARAM(end), end);
     SendMessageW(m_window, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(added.c_str()));
-    SendMessageW(m_window, EM_SCROLLCARET, 0, 0);
+    ShowCaret();
 }
 
 void COutputList::AddLine(std::wstring_view line) {
@@ -57,4 +57,8 @@ void COutputList::AddLine(std::wstring_view line) {
 void COutputList::ScrollPages(int pages) {
     for (int i = 0; i < std::abs(pages); ++i)
         SendMessageW(m_window, EM_SCROLL, pages < 0 ? SB_PAGEUP : SB_PAGEDOWN, 0);
+}
+
+void COutputList::ShowCaret() {
+    SendMessageW(m_window, EM_SCROLLCARET, 0, 0);
 }

@@ -20,6 +20,9 @@ public:
     void AddLine(std::wstring_view line);
 
     void ScrollPages(int pages);
+    // Brings the caret into sight, which stands at the end unless the user has put it elsewhere: after a
+    // change of the size, since another width breaks the lines elsewhere.
+    void ShowCaret();
 
 private:
     HWND m_window;

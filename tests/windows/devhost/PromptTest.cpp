@@ -86,6 +86,36 @@ TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
     EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 blocks held, 8 bytes\n");
 }
 
+// The place of the last character of the list, in its client area; beyond it when it is out of sight.
+int BottomOfText(HWND output) {
+    const auto place = DWORD(SendMessageW(output, EM_POSFROMCHAR, TextOf(output).size() - 1, 0));
+    return short(HIWORD(place));
+}
+
+TEST_F(Prompt, InASmallWindowPromptAndLastLineStayInSight) {
+    for (int i = 0; i < 20; ++i) {
+        Type(L"\"" + std::wstring(100, L'x') + L"\"");
+        ASSERT_TRUE(WaitUntil([&] { return TextOf(m_prompt).empty(); }));
+    }
+    ASSERT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"x\""); }));
+    const auto place = [](HWND window) {
+        RECT rect;
+        GetWindowRect(window, &rect);
+        return rect;
+    };
+    SetWindowPos(m_host.MainWindow(), nullptr, 0, 0, 50, 50, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_TRUE(WaitUntil([&] { return place(m_host.MainWindow()).right < 1000; }));
+    const RECT prompt = place(m_prompt);
+    const RECT window = place(m_host.MainWindow());
+    EXPECT_GT(prompt.right - prompt.left, 200);
+    EXPECT_GT(prompt.bottom - prompt.top, 10);
+    EXPECT_LT(prompt.bottom, window.bottom);
+    const RECT output = place(m_output);
+    EXPECT_GE(BottomOfText(m_output), 0);
+    EXPECT_LT(BottomOfText(m_output), output.bottom - output.top);
+    Close();
+}
+
 TEST_F(Prompt, TheListOfOutputsForgetsWhatIsLongPast) {
     const std::wstring line = L"\"" + std::wstring(5'000, L'x') + L"\"";
     for (int i = 0; i < 9; ++i) {
