@@ -1,5 +1,6 @@
 #include "Evaluator.h"
 
+#include <algorithm>
 #include <new>
 
 #include "Builtins.h"
@@ -11,6 +12,10 @@ namespace {
 constexpr std::uint64_t kStepsBetweenPolls = 4096;
 // What an *error* function may use beyond the limit, since it runs where the error happened.
 constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
+
+// The part of the memory that is given beyond the limit, to an *error* function and to tidying up.
+constexpr std::size_t kReserve = 8;
+constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
 
 constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion come to an end?";
 
@@ -124,6 +129,7 @@ CLispResult CEvaluator::Run(const SSource& source) {
     const CFrameScope frame(*this, {nullptr, &source.file, 0});
     if (outermost) {
         m_stackStart = StackPointer();
+        m_mostHeld = std::max(m_memoryLimit, CValue::HeldBytes() + m_memoryLimit / kReserve);
         m_steps = 0;
         m_nextPoll = kStepsBetweenPolls;
     }
@@ -140,6 +146,10 @@ CLispResult CEvaluator::Run(const SSource& source) {
         Settle(error);
         throw CLispError(error);
     }
+}
+
+void CEvaluator::SetMemoryLimit(std::size_t bytes) {
+    m_memoryLimit = bytes;
 }
 
 void CEvaluator::SetStepLimit(std::uint64_t steps) {
@@ -310,11 +320,18 @@ void CEvaluator::Step(std::uint64_t steps) {
     m_steps += steps;
     if (m_stepLimit != 0 && m_steps > m_stepLimit)
         throw CLispError(L"the evaluation takes more than " + std::to_wstring(m_stepLimit) + L" steps");
+    CheckMemory();
     if (m_steps < m_nextPoll)
         return;
     m_nextPoll = m_steps + kStepsBetweenPolls;
     if (m_host.IsEscapePressed())
         throw CLispCancelled();
+}
+
+void CEvaluator::CheckMemory() const {
+    if (CValue::HeldBytes() > m_mostHeld + (m_inErrorHandler ? m_memoryLimit / kReserve : 0))
+        throw CLispError(L"the values take more than " + std::to_wstring(m_mostHeld / kMegabyte) +
+                         L" MB of memory: does a loop collect them without end?");
 }
 
 void CEvaluator::CheckStack() const {

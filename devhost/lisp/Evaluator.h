@@ -30,6 +30,8 @@ public:
     // How much of the thread's stack an evaluation may take, in bytes; calls nested deeper are an error. The
     // thread needs some hundred thousand bytes more than this.
     static constexpr std::size_t kStackBytes = std::size_t{4} * 1024 * 1024;
+    // How much memory all values together may hold, in bytes, unless another limit is set.
+    static constexpr std::size_t kMemoryBytes = std::size_t{512} * 1024 * 1024;
 
     // Knows the built-in functions. The host must outlive the evaluator.
     explicit CEvaluator(ILispHost& host, std::size_t stackBytes = kStackBytes);
@@ -50,6 +52,9 @@ public:
     // From here on an evaluation ends with an error after so many steps; a step is the evaluation of one
     // expression or the making of one element of a list. 0: no limit.
     void SetStepLimit(std::uint64_t steps);
+    // From the next evaluation on values may hold so many bytes. One that begins beyond that, because of what
+    // the variables hold, gets a little more: enough to let go of it.
+    void SetMemoryLimit(std::size_t bytes);
 
     // For built-in functions and special forms, while something runs.
 
@@ -72,7 +77,7 @@ public:
     void Assign(const std::wstring& name, CValue value);
 
     ILispHost& Host() { return m_host; }
-    // Counts steps, watches the limit and asks for Escape now and then.
+    // Counts steps, watches the limits and asks for Escape now and then.
     void Step(std::uint64_t steps = 1);
     // Throws CLispError when the stack is nearly used up. For functions that recurse by themselves.
     void CheckStack() const;
@@ -94,11 +99,14 @@ private:
     CLispResult CallDefined(const SFunction& function, const SDefinition& definition,
                             std::span<const CValue> arguments);
     void Settle(CLispError& error);
+    void CheckMemory() const;
     std::wstring Place() const;
 
     ILispHost& m_host;
     std::size_t m_stackBytes;
     std::uintptr_t m_stackStart = 0;
+    std::size_t m_memoryLimit = kMemoryBytes;
+    std::size_t m_mostHeld = 0;  // bytes, for the evaluation that runs
     std::uint64_t m_stepLimit = 0;
     std::uint64_t m_steps = 0;
     std::uint64_t m_nextPoll = 0;

@@ -119,6 +119,8 @@ std::wstring Display(const CValue& value) {
 }
 
 std::wstring Excerpt(const CValue& value) {
+    if (value.IsSymbol(L""))
+        return L"what (princ) gives";
     std::wstring text = Text(value, true, kExcerptLength);
     if (text.size() > kExcerptLength)
         text.replace(kExcerptLength, std::wstring::npos, L"...");

@@ -4,9 +4,36 @@
 
 #include "Function.h"
 
+namespace {
+
+// Evaluation knows one thread alone.
+std::size_t heldBytes = 0;
+
+constexpr std::size_t kOfTheHeap = 4 * sizeof(void*);  // what the heap and the count of owners add
+
+}  // namespace
+
+// A text of a value, counted for as long as it lives.
+class CHeldText {
+public:
+    explicit CHeldText(std::wstring text) : m_text(std::move(text)) { heldBytes += Size(); }
+    ~CHeldText() { heldBytes -= Size(); }
+    CHeldText(const CHeldText&) = delete;
+    CHeldText& operator=(const CHeldText&) = delete;
+
+    const std::wstring& Text() const { return m_text; }
+
+private:
+    std::size_t Size() const { return sizeof(CHeldText) + kOfTheHeap + m_text.capacity() * sizeof(wchar_t); }
+
+    const std::wstring m_text;
+};
+
 class CPair {
 public:
-    CPair(CValue car, CValue cdr, int line) : m_car(std::move(car)), m_cdr(std::move(cdr)), m_line(line) {}
+    CPair(CValue car, CValue cdr, int line) : m_car(std::move(car)), m_cdr(std::move(cdr)), m_line(line) {
+        heldBytes += kSize;
+    }
     ~CPair();
     CPair(const CPair&) = delete;
     CPair& operator=(const CPair&) = delete;
@@ -18,12 +45,17 @@ public:
 private:
     friend class CValue;
 
+    static const std::size_t kSize;
+
     CValue m_car;
     CValue m_cdr;
     int m_line;
 };
 
+const std::size_t CPair::kSize = sizeof(CPair) + kOfTheHeap;
+
 CPair::~CPair() {
+    heldBytes -= kSize;
     std::vector<CValue> parts;
     for (CValue* part : {&m_car, &m_cdr})
         if (part->Type() == VT_PAIR || part->Type() == VT_FUNCTION)
@@ -89,7 +121,7 @@ CValue CValue::Real(double number) {
 
 CValue CValue::String(std::wstring text) {
     CValue value;
-    value.m_data = SString{std::make_shared<const std::wstring>(std::move(text))};
+    value.m_data = SString{std::make_shared<const CHeldText>(std::move(text))};
     return value;
 }
 
@@ -97,7 +129,7 @@ CValue CValue::Symbol(std::wstring_view name) {
     CValue value;
     std::wstring upperCase = UpperCase(name);
     if (upperCase != L"NIL")
-        value.m_data = SSymbol{std::make_shared<const std::wstring>(std::move(upperCase))};
+        value.m_data = SSymbol{std::make_shared<const CHeldText>(std::move(upperCase))};
     return value;
 }
 
@@ -136,6 +168,18 @@ CValue CValue::Truth(bool holds) {
 
 bool CValue::IsSymbol(std::wstring_view upperCaseName) const {
     return Type() == VT_SYMBOL && AsSymbol() == upperCaseName;
+}
+
+std::size_t CValue::HeldBytes() {
+    return heldBytes;
+}
+
+const std::wstring& CValue::AsString() const {
+    return std::get<VT_STRING>(m_data).text->Text();
+}
+
+const std::wstring& CValue::AsSymbol() const {
+    return std::get<VT_SYMBOL>(m_data).name->Text();
 }
 
 const CValue& CValue::Car() const {

@@ -3,6 +3,7 @@
 // in cycles, and all but files are immutable.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@
 
 enum EValueType { VT_NIL, VT_INTEGER, VT_REAL, VT_STRING, VT_SYMBOL, VT_PAIR, VT_FUNCTION, VT_FILE };
 
+class CHeldText;
 class CPair;
 class CLispFile;
 struct SFunction;
@@ -47,13 +49,16 @@ public:
     // Each of these only for a value of that type.
     std::int32_t AsInteger() const { return std::get<VT_INTEGER>(m_data); }
     double AsReal() const { return std::get<VT_REAL>(m_data); }
-    const std::wstring& AsString() const { return *std::get<VT_STRING>(m_data).text; }
-    const std::wstring& AsSymbol() const { return *std::get<VT_SYMBOL>(m_data).name; }
+    const std::wstring& AsString() const;
+    const std::wstring& AsSymbol() const;
     const CValue& Car() const;
     const CValue& Cdr() const;
     int Line() const;
     std::shared_ptr<const SFunction> AsFunction() const { return std::get<VT_FUNCTION>(m_data); }
     CLispFile& AsFile() const { return *std::get<VT_FILE>(m_data); }
+
+    // What the pairs and texts of all values together take of the memory, in bytes, about.
+    static std::size_t HeldBytes();
 
     // The same thing, not only one that looks alike: equal numbers, one symbol, the same text, pair,
     // function or file.
@@ -64,10 +69,10 @@ private:
     friend struct SFunction;
 
     struct SString {
-        std::shared_ptr<const std::wstring> text;
+        std::shared_ptr<const CHeldText> text;
     };
     struct SSymbol {
-        std::shared_ptr<const std::wstring> name;
+        std::shared_ptr<const CHeldText> name;
     };
 
     void MovePartsTo(std::vector<CValue>& parts);

@@ -29,6 +29,10 @@ TEST_F(LispErrors, LongValuesAreCutInMessages) {
               L"1234567 123...");
 }
 
+TEST_F(LispErrors, TheSilentResultOfPrincIsNamed) {
+    EXPECT_EQ(Mistake(L"(+ 1 (princ))"), L"line 1: + needs a number as argument 2, not what (princ) gives");
+}
+
 TEST_F(LispErrors, TheUsersOwnErrorFunctionHearsOfAMistakeOnce) {
     Evaluate(
         L"(defun *error* (text) (princ (strcat \"[\" text \"]\")))(defun f (x) (g x)) (defun g (x) (car x))");
@@ -160,6 +164,30 @@ TEST_F(LispErrors, SharedListsAreNotPrintedWithoutEnd) {
     EXPECT_TRUE(Mistake(L"(princ a)").starts_with(L"line 1: a value is too long to be printed: (((("));
     m_evaluator.SetStepLimit(100'000);
     EXPECT_TRUE(Mistake(L"(setq b '(1)) (repeat 60 (setq b (list b b))) (equal a b)").ends_with(L" steps"));
+}
+
+constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
+
+TEST_F(LispErrors, ValuesDoNotTakeMemoryWithoutEnd) {
+    m_evaluator.SetMemoryLimit(16 * kMegabyte);
+    constexpr wchar_t kTooMuch[] =
+        L"line 1: the values take more than 16 MB of memory: does a loop collect them without end?";
+    for (const wchar_t* loop :
+         {L"(while T (setq all (cons 1 all)))", L"(setq all '(1)) (while T (setq all (append all all)))",
+          L"(setq s \"0123456789\") (repeat 12 (setq s (strcat s s)))"
+          L"(while T (setq all (cons (substr s 2) all)))"}) {
+        EXPECT_EQ(Mistake(loop), kTooMuch);
+        EXPECT_LT(CValue::HeldBytes(), 64 * kMegabyte);
+        ExpectValues({{L"(setq all nil s nil)", L"nil"}});
+    }
+    EXPECT_LT(CValue::HeldBytes(), kMegabyte) << "what nothing holds is not counted";
+}
+
+TEST_F(LispErrors, TheErrorFunctionHasMemoryWhenAllIsTaken) {
+    m_evaluator.SetMemoryLimit(kMegabyte);
+    Evaluate(L"(defun *error* (text) (setq all nil) (princ (substr text 1 26)))");
+    Mistake(L"(while T (setq all (cons 1 all)))");
+    EXPECT_EQ(m_host.output, L"line 1: the values take mo");
 }
 
 TEST_F(LispErrors, ATextDoesNotGrowWithoutEnd) {
