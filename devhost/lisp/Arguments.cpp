@@ -59,10 +59,14 @@ SLispPoint CArguments::Point(std::size_t index) const {
     return *point;
 }
 
-CLispFile& CArguments::File(std::size_t index) const {
+void CArguments::WithFile(std::size_t index, const std::function<void(CLispFile&)>& use) const {
     if (m_values[index].Type() != VT_FILE)
         Refuse(index, L"an open file");
-    return m_values[index].AsFile();
+    try {
+        use(m_values[index].AsFile());
+    } catch (const CLispError& error) {
+        Fail(error.Text());
+    }
 }
 
 void CArguments::Refuse(std::size_t index, const wchar_t* needed) const {

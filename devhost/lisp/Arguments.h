@@ -31,7 +31,8 @@ public:
     const std::wstring& Symbol(std::size_t index) const;
     std::vector<CValue> List(std::size_t index) const;  // the elements; nil has none
     SLispPoint Point(std::size_t index) const;          // a list of two or three numbers
-    CLispFile& File(std::size_t index) const;
+    // Uses an open file. What the file says against it is an error of the function.
+    void WithFile(std::size_t index, const std::function<void(CLispFile&)>& use) const;
 
     // The argument is not what the function needs: "FUNCTION needs WHAT as argument N, not VALUE".
     [[noreturn]] void Refuse(std::size_t index, const wchar_t* needed) const;

@@ -181,8 +181,12 @@ CLispResult Mapcar(const CArguments& arguments) {
     return CValue::List(results);
 }
 
+// A larger status would lose its upper part on the way to the shells of other systems: 256 would be success.
 CLispResult Exit(const CArguments& arguments) {
-    throw SLispExit{arguments.Has(0) ? arguments.Integer(0) : 0};
+    const std::int32_t status = arguments.Has(0) ? arguments.Integer(0) : 0;
+    if (status < 0 || status > 255)
+        arguments.Refuse(0, L"a status from 0 to 255");
+    throw SLispExit{status};
 }
 
 constexpr SSpecialForm kForms[] = {

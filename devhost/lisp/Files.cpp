@@ -18,14 +18,16 @@ CLispResult Open(const CArguments& arguments) {
 }
 
 CLispResult Close(const CArguments& arguments) {
-    arguments.File(0).Close();
+    arguments.WithFile(0, [](CLispFile& file) { file.Close(); });
     return CValue();
 }
 
-// From a file, nil at its end; without one from the user.
+// From a file, nil at its end; without one from the user. nil is no file: a script whose file could not be
+// opened would otherwise wait for somebody to type its lines.
 CLispResult ReadLine(const CArguments& arguments) {
-    if (arguments.Has(0) && !arguments[0].IsNil()) {
-        auto line = arguments.File(0).ReadLine();
+    if (arguments.Has(0)) {
+        std::optional<std::wstring> line;
+        arguments.WithFile(0, [&](CLispFile& file) { line = file.ReadLine(); });
         return line ? CValue::String(*std::move(line)) : CValue();
     }
     const SLispAnswer answer = arguments.Evaluator().Host().Ask(L"", std::nullopt, Q_TEXT);
@@ -36,7 +38,8 @@ CLispResult ReadLine(const CArguments& arguments) {
 
 // The code of the next character, nil at the end. The two characters of a line's end count as one, 10.
 CLispResult ReadCharacter(const CArguments& arguments) {
-    const auto character = arguments.File(0).ReadCharacter();
+    std::optional<wchar_t> character;
+    arguments.WithFile(0, [&](CLispFile& file) { character = file.ReadCharacter(); });
     return character ? CValue::Integer(std::int32_t(*character)) : CValue();
 }
 

@@ -96,14 +96,17 @@ CLispResult Member(const CArguments& arguments) {
 
 CValue Substitute(CEvaluator& evaluator, const CValue& wanted, const CValue& old, const CValue& tree) {
     evaluator.CheckStack();
+    if (IsEqual(evaluator, tree, old))
+        return wanted;
     std::vector<CValue> elements;
     const CValue* rest = &tree;
-    // A tail can be what is replaced, like everything else in the tree.
-    for (; rest->Type() == VT_PAIR && !IsEqual(evaluator, *rest, old); rest = &rest->Cdr()) {
+    // A tail can be what is replaced, like everything else in the tree; but not the nil that ends a list.
+    const auto isReplaced = [&] { return !rest->IsNil() && IsEqual(evaluator, *rest, old); };
+    for (; rest->Type() == VT_PAIR && !isReplaced(); rest = &rest->Cdr()) {
         evaluator.Step();
         elements.push_back(Substitute(evaluator, wanted, old, rest->Car()));
     }
-    return CValue::List(elements, IsEqual(evaluator, *rest, old) ? wanted : *rest);
+    return CValue::List(elements, isReplaced() ? wanted : *rest);
 }
 
 CLispResult Subst(const CArguments& arguments) {

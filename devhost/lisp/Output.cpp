@@ -8,7 +8,7 @@ namespace {
 // Into the file that is argument `index`, or to the host when it is missing or nil.
 void WriteTo(const CArguments& arguments, std::size_t index, const std::wstring& text) {
     if (arguments.Has(index) && !arguments[index].IsNil())
-        arguments.File(index).Write(text);
+        arguments.WithFile(index, [&](CLispFile& file) { file.Write(text); });
     else
         arguments.Evaluator().Host().Write(text);
 }

@@ -27,6 +27,11 @@ SQuestion QuestionOf(const CArguments& arguments) {
     return question;
 }
 
+// The question of a function that takes the prompt alone.
+SQuestion PromptOf(const CArguments& arguments) {
+    return {arguments.Has(0) ? arguments.Text(0) : std::wstring(), std::nullopt};
+}
+
 CValue PointValue(const SLispPoint& point) {
     const CValue coordinates[] = {CValue::Real(point.x), CValue::Real(point.y), CValue::Real(point.z)};
     return CValue::List(coordinates);
@@ -88,7 +93,7 @@ CLispResult GetDistance(const CArguments& arguments) {
 
 // (getreal [PROMPT])
 CLispResult GetReal(const CArguments& arguments) {
-    return AskUntil(arguments, QuestionOf(arguments), Q_TEXT, L"a number: type one such as 12.5",
+    return AskUntil(arguments, PromptOf(arguments), Q_TEXT, L"a number: type one such as 12.5",
                     [](const SLispAnswer& answer) -> std::optional<CValue> {
                         const auto number = ParseLinear(answer.text);
                         return number ? std::optional(CValue::Real(*number)) : std::nullopt;
@@ -97,8 +102,7 @@ CLispResult GetReal(const CArguments& arguments) {
 
 // (getint [PROMPT])
 CLispResult GetInteger(const CArguments& arguments) {
-    return AskUntil(arguments, QuestionOf(arguments), Q_TEXT,
-                    L"a whole number of 32 bits: type one such as 12",
+    return AskUntil(arguments, PromptOf(arguments), Q_TEXT, L"a whole number of 32 bits: type one such as 12",
                     [](const SLispAnswer& answer) -> std::optional<CValue> {
                         std::wstring text = Trimmed(answer.text);
                         if (text.starts_with(L'+') && !text.starts_with(L"+-"))

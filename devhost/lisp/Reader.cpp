@@ -182,7 +182,8 @@ CValue CReader::ReadString(SPosition start) {
             else if (c == L't')
                 c = L'\t';
             else if (c != L'"' && c != L'\\')
-                Fail(position, std::wstring(L"the escape \\") + c + L" is not known");
+                Fail(position, std::wstring(L"the escape \\") + c +
+                                   L" is not known: a backslash in a text is written \\\\");
         }
         text += c;
     }

@@ -25,6 +25,8 @@ SSource ReadSourceFile(const std::wstring& path, const std::wstring& name) {
     if (!stream.is_open())
         throw CLispError(L"the file '" + name + L"' cannot be opened: give an existing file");
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+        throw CLispError(L"the file '" + name + L"' is UTF-16: save it as UTF-8");
     try {
         SSource source = ReadText(DecodeSource(bytes));
         source.file = name;

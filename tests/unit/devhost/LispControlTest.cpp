@@ -173,4 +173,10 @@ TEST_F(LispControl, ExitEndsEverythingWithAStatus) {
     ExpectValues({{L"x", L"nil"}});
 }
 
+TEST_F(LispControl, AnExitStatusIsOneThatEverySystemHas) {
+    ExpectMistakes({{L"(exit 256)", L"EXIT needs a status from 0 to 255 as argument 1, not 256"},
+                    {L"(quit -1)", L"QUIT needs a status from 0 to 255 as argument 1, not -1"},
+                    {L"(exit \"1\")", L"EXIT needs a whole number as argument 1, not \"1\""}});
+}
+
 }  // namespace

@@ -83,7 +83,7 @@ TEST_F(LispFiles, EveryByteSurvives) {
 
 TEST_F(LispFiles, ACharacterThatTheFileCannotHoldIsAnErrorAndNothingIsWritten) {
     EXPECT_EQ(Mistake(L"(setq f (open name \"w\")) (write-line \"ok\" f) (write-line \"a\u0416b\" f)"),
-              L"line 1: the file '" + Path(L"file.txt") +
+              L"line 1: WRITE-LINE: the file '" + Path(L"file.txt") +
                   L"' cannot hold the character U+0416: text files are Windows-1252");
     Evaluate(L"(close f)");
     EXPECT_EQ(Bytes(L"file.txt"), "ok\r\n");
@@ -95,20 +95,25 @@ TEST_F(LispFiles, WhatCannotBeOpenedIsNil) {
     ExpectValues({{L"(open name \"r\")", L"nil"},
                   {L"(open name \"w\")", L"nil"},
                   {L"(open (strcat name \"/no/where\") \"w\")", L"nil"}});
-    ExpectMistakes({{L"(open name \"x\")", L"OPEN needs \"r\", \"w\" or \"a\" as argument 2, not \"x\""},
-                    {L"(open 5 \"r\")", L"OPEN needs a text as argument 1, not 5"},
-                    {L"(close 5)", L"CLOSE needs an open file as argument 1, not 5"},
-                    {L"(read-line 5)", L"READ-LINE needs an open file as argument 1, not 5"}});
+    ExpectMistakes(
+        {{L"(open name \"x\")", L"OPEN needs \"r\", \"w\" or \"a\" as argument 2, not \"x\""},
+         {L"(open 5 \"r\")", L"OPEN needs a text as argument 1, not 5"},
+         {L"(close 5)", L"CLOSE needs an open file as argument 1, not 5"},
+         {L"(read-line 5)", L"READ-LINE needs an open file as argument 1, not 5"},
+         {L"(read-line (open \"none\" \"r\"))", L"READ-LINE needs an open file as argument 1, not nil"}});
+    EXPECT_TRUE(m_host.asked.empty()) << "nobody is to type the lines of a file that was not opened";
 }
 
 TEST_F(LispFiles, AFileIsUsedAsItWasOpened) {
     Write(L"file.txt", "a\n");
-    const std::wstring file = L"line 1: the file '" + Path(L"file.txt") + L"' ";
+    const std::wstring file = L": the file '" + Path(L"file.txt") + L"' ";
     EXPECT_EQ(Mistake(L"(setq f (open name \"r\")) (write-line \"b\" f)"),
-              file + L"is open for reading: open it with \"w\" or \"a\"");
+              L"line 1: WRITE-LINE" + file + L"is open for reading: open it with \"w\" or \"a\"");
     EXPECT_EQ(Mistake(L"(setq f (open name \"a\")) (read-line f)"),
-              file + L"is open for writing: open it with \"r\"");
-    EXPECT_EQ(Mistake(L"(close f) (write-line \"b\" f)"), file + L"is closed");
+              L"line 1: READ-LINE" + file + L"is open for writing: open it with \"r\"");
+    EXPECT_EQ(Mistake(L"(close f) (write-line \"b\" f)"), L"line 1: WRITE-LINE" + file + L"is closed");
+    EXPECT_EQ(Mistake(L"(prin1 5 f)"), L"line 1: PRIN1" + file + L"is closed");
+    EXPECT_EQ(Mistake(L"(read-char f)"), L"line 1: READ-CHAR" + file + L"is closed");
     ExpectValues({{L"(type f)", L"FILE"}});
     EXPECT_EQ(Evaluate(L"f"), L"<file " + Path(L"file.txt") + L">");
 }
@@ -158,6 +163,13 @@ TEST_F(LispFiles, SourcesAreUtf8OrWindows1252) {
     Write(L"ansi.lsp", "\"per\xF2 \x80\"");
     for (const wchar_t* name : {L"utf8", L"ansi"})
         EXPECT_EQ(Evaluate(std::wstring(L"(load \"") + name + L"\")"), L"\"però €\"");
+}
+
+TEST_F(LispFiles, ASourceInUtf16IsNamed) {
+    for (const std::string start : {"\xFF\xFE", "\xFE\xFF"}) {
+        Write(L"wide.lsp", start + std::string("5\0", 2));
+        EXPECT_EQ(Mistake(L"(load \"wide\")"), L"line 1: the file 'wide.lsp' is UTF-16: save it as UTF-8");
+    }
 }
 
 TEST(TextEncoding, OnlyValidUtf8IsTakenForIt) {

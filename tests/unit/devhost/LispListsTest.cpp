@@ -76,7 +76,9 @@ TEST_F(LispLists, SubstReplacesEverywhere) {
     ExpectValues({{L"(subst 'x 'a '(a (b a) . a))", L"(X (B X) . X)"},
                   {L"(subst '(1 2) '(b) '(a b))", L"(A 1 2)"},
                   {L"(subst 1 2 2)", L"1"},
-                  {L"(subst 1 2 nil)", L"nil"}});
+                  {L"(subst 1 2 nil)", L"nil"},
+                  {L"(subst 1 nil nil)", L"1"},
+                  {L"(subst 0 nil '(1 nil (nil . nil)))", L"(1 0 (0))"}});
 }
 
 TEST_F(LispLists, PointsAreCalculated) {

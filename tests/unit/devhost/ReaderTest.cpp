@@ -75,7 +75,8 @@ TEST(Reader, TextsKnowFourEscapes) {
     EXPECT_EQ(CReader(L"\"\"").Read()->AsString(), L"");
     EXPECT_EQ(CReader(L"\"(;'\n)\"").Read()->AsString(), L"(;'\n)");
     EXPECT_EQ(CReader(L"\"porta però 門\"").Read()->AsString(), L"porta però 門");
-    ExpectMistake(LR"("ab\q")", LR"(line 1, column 4: the escape \q is not known)");
+    ExpectMistake(LR"("ab\q")",
+                  LR"(line 1, column 4: the escape \q is not known: a backslash in a text is written \\)");
 }
 
 TEST(Reader, ListsNest) {
