@@ -78,24 +78,25 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
         throw std::runtime_error("not every parameter was read");
     }
     const ValueTextOf valueTextOf = [](const ParamRecord& record) { return ValueText(record, 1.0); };
+    const auto read = [&] { Use(ReadContents(source).parameters.size()); };
+    const auto readLines = [&] { Use(ReadLines(source).size()); };
+    const auto rewriteWorkingFile = [&] {
+        TextLines lines = ReadLines(source);
+        RewriteWorkingFile(lines, records, valueTextOf);
+        WriteLines(target, lines);
+    };
+    const auto rewriteTemplate = [&] {
+        TextLines lines = ReadLines(source);
+        RewriteTemplateFile(lines, records, valueTextOf);
+        WriteLines(target, lines);
+    };
     const auto copy = [&] { WriteLines(target, ReadLines(source)); };
     const Task tasks[] = {
-        {"reading the parameters", "reading the lines", [&] { Use(ReadContents(source).parameters.size()); },
-         [&] { Use(ReadLines(source).size()); }},
-        {"rewriting the working file", "reading and writing the lines",
-         [&] {
-             TextLines lines = ReadLines(source);
-             RewriteWorkingFile(lines, records, valueTextOf);
-             WriteLines(target, lines);
-         },
-         copy},
-        {"rewriting the template", "reading and writing the lines",
-         [&] {
-             TextLines lines = ReadLines(source);
-             RewriteTemplateFile(lines, records, valueTextOf);
-             WriteLines(target, lines);
-         },
-         copy},
+        {"reading the parameters", "reading the lines", read, readLines},
+        {"rewriting the working file", "reading and writing the lines", rewriteWorkingFile, copy},
+        {"rewriting the template", "reading and writing the lines", rewriteTemplate, copy},
+        {"all three, as in a call", "reading, reading and writing twice",
+         [&] { read(), rewriteWorkingFile(), rewriteTemplate(); }, [&] { readLines(), copy(), copy(); }},
     };
     const std::string size = std::to_string(parameters) + " parameters";
     for (const Task& task : tasks) {
