@@ -25,8 +25,9 @@ TextLines TemplateOf(std::size_t parameters) {
     const wchar_t* const kinds[] = {L"\"D ", L"%\"I ", L"\"R 0.", L" (mm)\"D"};
     TextLines lines = {L"A sample item", L"<<2001>>", L"VAR"};
     for (std::size_t number = 1; number <= parameters; ++number) {
-        lines.push_back(L'$' + std::to_wstring(number) + L" = \"<<" + std::to_wstring(1000 + number % 50000) +
-                        L">>" + kinds[number % std::size(kinds)] + std::to_wstring(number * 7 % 5000));
+        lines.push_back(L'$' + std::to_wstring(number) + L" = \"<<" +
+                        std::to_wstring(1 + number % kHighestTextNumber) + L">>" +
+                        kinds[number % std::size(kinds)] + std::to_wstring(number * 7 % 5000));
     }
     lines.push_back(L"END_VAR");
     return lines;
@@ -48,9 +49,18 @@ void WriteLines(const fs::path& path, const TextLines& lines) {
     }
 }
 
+// One text for each number, as nearly every row of an item has a label of its own.
+TextLines Texts() {
+    TextLines texts;
+    for (int number = 0; number <= kHighestTextNumber; ++number) {
+        texts.push_back(L"Width " + std::to_wstring(number));
+    }
+    return texts;
+}
+
 ItemContents ReadContents(const fs::path& path) {
-    static const std::wstring text = L"Width";
-    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned) { return text; });
+    static const TextLines texts = Texts();
+    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned number) { return texts[number]; });
 }
 
 struct Task {

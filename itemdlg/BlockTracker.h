@@ -1,19 +1,19 @@
 // Keeps account of the parameter blocks of a file while its lines pass by.
 #pragma once
 
-#include <string>
+#include <string_view>
 
 class CBlockTracker {
 public:
-    static constexpr wchar_t kOpeningLine[] = L"VAR";
-    static constexpr wchar_t kClosingLine[] = L"END_VAR";
+    static constexpr std::wstring_view kOpeningLine = L"VAR";
+    static constexpr std::wstring_view kClosingLine = L"END_VAR";
 
     // Takes the next line of the file. True for an ordinary line inside an open block, which may hold a
     // parameter; false outside of blocks and for the two lines that open and close one.
     //
     // A block is opened by the line VAR, in an open block an ordinary line, and closed by END_VAR. Both are
     // compared with the whole line, null characters in it included: no blanks, no other case.
-    bool TakeLine(const std::wstring& line) {
+    bool TakeLine(std::wstring_view line) {
         if (line == kClosingLine) {
             m_open = false;
             return false;

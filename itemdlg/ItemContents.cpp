@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <unordered_set>
-#include <utility>
 
 #include "BlockTracker.h"
 #include "ItemFiles.h"
@@ -15,8 +15,9 @@ std::wstring UpToNull(const std::wstring& text) {
     return text.substr(0, text.find(L'\0'));
 }
 
-// All rows stand in one section of the grid, where a label is taken once it is shown.
-EParameterRow RowOf(const ParamRecord& record, std::unordered_set<std::wstring>& labels) {
+// All rows stand in one section of the grid, where a label is taken once it is shown. The labels are not
+// copied.
+EParameterRow RowOf(const ParamRecord& record, std::unordered_set<std::wstring_view>& labels) {
     if (record.type == 'U') {
         return PR_INVALID_TYPE;
     }
@@ -27,8 +28,9 @@ EParameterRow RowOf(const ParamRecord& record, std::unordered_set<std::wstring>&
 
 ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup) {
     ItemContents item;
-    item.parameters.reserve(lines.size());  // nearly every line is one
-    std::unordered_set<std::wstring> labels;
+    item.parameters.reserve(lines.size());  // nearly every line is one; none moves, which the labels rely on
+    std::unordered_set<std::wstring_view> labels;
+    labels.reserve(lines.size());
     CBlockTracker block;
     for (std::size_t index = 0; index < lines.size(); ++index) {
         const std::wstring& line = lines[index];
@@ -40,9 +42,10 @@ ItemContents ReadItem(const TextLines& lines, double scale, int mode, const Text
         if (!block.TakeLine(line)) {
             continue;
         }
-        if (std::optional<ParameterRow> row = ReadParameter(line, lineIndex, scale, mode, lookup)) {
-            const EParameterRow fate = RowOf(row->record, labels);
-            item.parameters.push_back({*std::move(row), fate});
+        if (const std::optional<ParameterParts> parts = SplitParameterLine(line)) {
+            ItemParameter& parameter = item.parameters.emplace_back();
+            FillRow(*parts, line, lineIndex, scale, mode, lookup, parameter);
+            parameter.row = RowOf(parameter.record, labels);
         }
     }
     return item;

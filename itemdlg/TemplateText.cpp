@@ -2,6 +2,7 @@
 #include "TemplateText.h"
 
 #include <new>
+#include <utility>
 
 #include "NumberText.h"
 #include "PatternMatcher.h"
@@ -74,14 +75,14 @@ std::wstring TitleText(const std::wstring& line, const TextLookup& lookup) {
     return number != 0 ? ResourceText(number, lookup) : line;
 }
 
-std::wstring LabelPrefix(const std::wstring& label) {
+std::wstring_view LabelPrefix(std::wstring_view label) {
     const std::size_t opening = label.find(L"<<");
-    return opening == std::wstring::npos ? std::wstring() : label.substr(0, opening);
+    return opening == std::wstring_view::npos ? std::wstring_view() : label.substr(0, opening);
 }
 
-std::wstring LabelSuffix(const std::wstring& label) {
+std::wstring_view LabelSuffix(std::wstring_view label) {
     const std::size_t closing = label.find(L">>");
-    if (closing != std::wstring::npos) {
+    if (closing != std::wstring_view::npos) {
         return label.substr(closing + 2);
     }
     // Position -1 and two characters for the signs that are not there: one character is lost.
@@ -96,23 +97,24 @@ bool TakeReadOnlyMark(std::wstring& label) {
     return marked;
 }
 
-ParameterRow RowOf(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex,
-                   double scale, int mode, const TextLookup& lookup) {
-    ParameterRow row;
+void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex, double scale,
+             int mode, const TextLookup& lookup, ParameterRow& row) {
     ParamRecord& record = row.record;
     record.number = parameter.number;
     record.lineIndex = lineIndex;
-    record.label = parameter.label;
     // Also for a label without placeholder, which so loses its first character when it is written back.
-    record.labelPrefix = LabelPrefix(record.label);
-    record.labelSuffix = LabelSuffix(record.label);
-    if (const int number = PlaceholderNumber(record.label); number != 0) {
-        record.label.assign(record.labelPrefix)
-            .append(ResourceText(number, lookup))
-            .append(record.labelSuffix);
-        // That of the whole line: a placeholder in the value would be the last one and count.
-        const bool inValue = parameter.value.find(L"<<") != std::wstring_view::npos;
-        record.resourceId = inValue ? PlaceholderNumber(line) : number;
+    record.labelPrefix = LabelPrefix(parameter.label);
+    record.labelSuffix = LabelSuffix(parameter.label);
+    // The number is that of the whole line: a placeholder in the value would be the last one and count. The
+    // text is that of the label's own placeholder, which else is the only one of the line.
+    const int lineNumber = PlaceholderNumber(line);
+    const bool inValue = parameter.value.find(L"<<") != std::wstring_view::npos;
+    const int number = inValue ? PlaceholderNumber(std::wstring(parameter.label)) : lineNumber;
+    if (number != 0) {
+        record.label = ResourceText(number, lookup).insert(0, record.labelPrefix).append(record.labelSuffix);
+        record.resourceId = lineNumber;
+    } else {
+        record.label = parameter.label;
     }
     const bool marked = TakeReadOnlyMark(record.label);
     row.editable = !marked || mode != kReadOnlyMode;
@@ -122,7 +124,6 @@ ParameterRow RowOf(const ParameterParts& parameter, const std::wstring& line, st
     } else if (record.type == 'D' || record.type == 'R') {
         record.realValue = DecimalValue(parameter.value) * scale;
     }
-    return row;
 }
 
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
@@ -131,5 +132,7 @@ std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t
     if (!parameter) {
         return std::nullopt;
     }
-    return RowOf(*parameter, line, lineIndex, scale, mode, lookup);
+    std::optional<ParameterRow> row(std::in_place);
+    FillRow(*parameter, line, lineIndex, scale, mode, lookup, *row);
+    return row;
 }

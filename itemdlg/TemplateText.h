@@ -68,12 +68,12 @@ std::wstring ResourceText(int number, const TextLookup& lookup);
 // line itself.
 std::wstring TitleText(const std::wstring& line, const TextLookup& lookup);
 
-// The parts of a label around its placeholder, to put the label together again: what stands before the first
-// "<<" (nothing when there is none), and the last (length - position of the first ">>" - 2) characters.
-// Without ">>" that position counts as -1, so that the suffix is the label without its first character: the
-// files are meant to use a placeholder in every label.
-std::wstring LabelPrefix(const std::wstring& label);
-std::wstring LabelSuffix(const std::wstring& label);
+// The parts of a label around its placeholder, as views into it, to put the label together again: what stands
+// before the first "<<" (nothing when there is none), and the last (length - position of the first ">>" - 2)
+// characters. Without ">>" that position counts as -1, so that the suffix is the label without its first
+// character: the files are meant to use a placeholder in every label.
+std::wstring_view LabelPrefix(std::wstring_view label);
+std::wstring_view LabelSuffix(std::wstring_view label);
 
 // Removes the read-only mark, a "%" at the end of a label; false when there is none.
 bool TakeReadOnlyMark(std::wstring& label);
@@ -87,11 +87,11 @@ struct ParameterRow {
 // The mode in which the read-only mark makes a row read-only; in any other it is only removed.
 constexpr int kReadOnlyMode = 1;
 
-// The record and row of a line inside a block of which the parts are known. Distances and reals are
+// Fills a new row with what a line inside a block says, of which the parts are known. Distances and reals are
 // multiplied by the scale. Left to the caller: the warning for a record of type 'U', which gets no row, and
-// the row itself with its customItem and itemId.
-ParameterRow RowOf(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex,
-                   double scale, int mode, const TextLookup& lookup);
+// the row in the grid with its customItem and itemId.
+void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex, double scale,
+             int mode, const TextLookup& lookup, ParameterRow& row);
 
 // The same from the line alone; nothing when it is no parameter.
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,

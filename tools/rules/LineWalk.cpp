@@ -1,6 +1,7 @@
 #include "LineWalk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "BlockTracker.h"
 #include "ByteRules.h"
@@ -32,8 +33,9 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
     parameter.parts.label = parts->label;
     parameter.parts.typeLetter = parts->typeLetter;
     parameter.parts.value = parts->value;
-    parameter.record =
-        RowOf(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself).record;
+    ParameterRow row;
+    FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself, row);
+    parameter.record = std::move(row.record);
     // The record has the number of the line's last placeholder, be it in the value.
     const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
     parameter.placeholder = inValue ? PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;

@@ -75,8 +75,8 @@ void CTitleRules::CheckForm(const SItemLine& line) {
 }
 
 void CTitleRules::CheckPlaceholder(const SItemLine& line, int number) {
-    const std::wstring before = LabelPrefix(line.text);
-    const std::wstring behind = LabelSuffix(line.text);
+    const std::wstring_view before = LabelPrefix(line.text);
+    const std::wstring_view behind = LabelSuffix(line.text);
     if (!before.empty() || !behind.empty()) {
         const std::size_t start = before.empty() ? line.text.size() - behind.size() : 0;
         Findings().Add(kTitleTextLost, line, start, before.empty() ? behind.size() : before.size(),
