@@ -1,7 +1,9 @@
 // The filling of the item dialog: what it leaves where its file fails, and filling it once more.
 #include <memory>
 
+#include "Bitmap.h"
 #include "BreakingFile.h"
+#include "FileLock.h"
 #include "ItemDialogFixture.h"
 
 namespace {
@@ -70,6 +72,27 @@ TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
     EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
     EXPECT_EQ(hands.messages[0].caption, L"Error");
     EXPECT_EQ(hands.messages[0].buttons, 1);
+}
+
+TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
+    WriteItem(block);
+    folder.Write(L"item.png", BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
+    const auto greyOfPicture = [this] {
+        bool grey = false;
+        InDialog(
+            [&](HWND dialog, CPropertyGrid&) {
+                PumpMessages();
+                const CClientPixels picture(::GetDlgItem(dialog, 101));
+                grey = picture.At(picture.Width() / 2, picture.Height() / 2) == 0xE1E1E1;
+            },
+            IDCANCEL);
+        EXPECT_EQ(Run(), IDCANCEL);
+        return grey;
+    };
+    EXPECT_FALSE(greyOfPicture());
+    const CFileLock lock(folder.Path(L"item.png"));
+    EXPECT_TRUE(greyOfPicture());
+    EXPECT_TRUE(hands.messages.empty());
 }
 
 TEST_F(ItemOpening, FillingItOnceMoreForgetsTheRowsBefore) {

@@ -11,6 +11,7 @@
 #include "FakeHost.h"
 #include "HandleCount.h"
 #include "LoadedModule.h"
+#include "ModalHands.h"
 #include "TempFolder.h"
 #include "TextModule.h"
 
@@ -140,6 +141,72 @@ TEST_F(MemoryFaults, ThePreviewAnswersZeroOrNil) {
     CArguments arguments;
     arguments.String(L"item");
     FailEachAllocation(2, arguments, "0", [](const SOutcome&) {});
+}
+
+// The height of the grid's rows.
+int RowHeightOf(HWND dialog) {
+    const HDC dc = GetDC(dialog);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0)));
+    SIZE size = {};
+    GetTextExtentPoint32W(dc, L"Gg", 2, &size);
+    SelectObject(dc, before);
+    ReleaseDC(dialog, dc);
+    return size.cy + 4;
+}
+
+// Clicks on the value of a row, types and presses Enter; nothing where no edit opens.
+void TypeInRow(HWND dialog, int row, const wchar_t* text) {
+    const HWND grid = GetDlgItem(dialog, 100);
+    const LPARAM value = MAKELPARAM(230, row * RowHeightOf(dialog) + 5);
+    SendMessageW(grid, WM_LBUTTONDOWN, MK_LBUTTON, value);
+    SendMessageW(grid, WM_LBUTTONUP, 0, value);
+    if (const HWND edit = FindWindowExW(grid, nullptr, L"Edit", nullptr)) {
+        SetWindowTextW(edit, text);
+        SendMessageW(edit, WM_CHAR, VK_RETURN, 1);
+    }
+}
+
+// Memory that runs out while the user edits and presses OK.
+TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
+    CArguments arguments;
+    arguments.String(L"item").Real(1).Short(0);
+    fakeHost.arguments = arguments.List();
+    fakeHost.distanceText = [](double value, int, int) { return std::to_wstring(static_cast<int>(value)); };
+    const std::string allAssigned = "free\r\nTitle\r\nVAR\r\n#1 = 33\r\n$2 = 7\r\nEND_VAR\r\n";
+    for (size_t failing = 0;; ++failing) {
+        SCOPED_TRACE(failing);
+        m_folder.Write(L"item_TMP.TXT", item);
+        m_folder.Write(L"item.TXT", item);
+        fakeHost.results.clear();
+        size_t before = 0;
+        {
+            const CLoadedModule module;
+            CCommandHands hands([&](HWND dialog) {
+                before = m_heap.allocations();
+                m_heap.failAfter(failing);
+                TypeInRow(dialog, 0, L"33");
+                TypeInRow(dialog, 1, L"7");
+                PressButton(dialog, IDOK);
+            });
+            EXPECT_EQ(module.Invoke(0), 0);
+            m_heap.failAfter(0);
+            ASSERT_EQ(fakeHost.results.size(), 1U);
+            const std::string working = m_folder.Read(L"item_TMP.TXT");
+            if (fakeHost.results[0] == "nil") {
+                EXPECT_EQ(working, item);
+                EXPECT_EQ(m_folder.Read(L"item.TXT"), item);
+            }
+            EXPECT_TRUE(working == allAssigned || !hands.messages.empty()) << working;
+            if (failing == 0) {
+                EXPECT_EQ(working, allAssigned);
+            }
+        }
+        ASSERT_EQ(m_heap.liveBlocks(), 0U);
+        if (failing != 0 && m_heap.allocations() - before < failing) {
+            EXPECT_GT(failing, 10U);
+            break;
+        }
+    }
 }
 
 }  // namespace
