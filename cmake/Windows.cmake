@@ -21,3 +21,10 @@ else()
 endif()
 set(CMAKE_SHARED_LIBRARY_PREFIX "")
 set(CMAKE_SHARED_MODULE_PREFIX "")
+
+# add_text_module(TARGET SCRIPT): a resource module from a string table script; it has no code.
+function(add_text_module target script)
+  add_library(${target} MODULE ${script})
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_options(${target} PRIVATE -nostdlib -Wl,--entry=0)
+endfunction()
