@@ -12,6 +12,7 @@
 #include "FakeHost.h"
 #include "HandleCount.h"
 #include "ModalHands.h"
+#include "NoGdiPlus.h"
 #include "ProcessHeap.h"
 #include "TempFolder.h"
 #include "TextModule.h"
@@ -302,6 +303,15 @@ TEST_F(ChoiceCommand, AnExceptionEndsWithNilAndTheOldModuleState) {
     EXPECT_EQ(Run(list, Press(IDOK)), 0);
     EXPECT_EQ(fakeHost.results, Results{"nil"});
     EXPECT_EQ(AfxGetModuleState(), before);
+}
+
+TEST_F(ChoiceCommand, AnswersWithoutGdiPlusToo) {
+    WriteSlide(L"A_t.png");
+    const CNoGdiPlus system;
+    CArguments list;
+    list.String(L"Replace").Short(0).String(L"A");
+    EXPECT_EQ(Run(list, Press(IDOK)), 0);
+    EXPECT_EQ(fakeHost.results, Results{"(100 \"A\")"});
 }
 
 TEST_F(ChoiceCommand, AnExceptionOfTheFrameworkEndsWithNilAndIsFreed) {

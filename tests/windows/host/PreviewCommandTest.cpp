@@ -11,6 +11,7 @@
 #include "FakeHost.h"
 #include "HandleCount.h"
 #include "ModalHands.h"
+#include "NoGdiPlus.h"
 #include "ProcessHeap.h"
 #include "TempFolder.h"
 
@@ -84,6 +85,14 @@ TEST_F(PreviewCommand, EnterAnswersZeroWithoutThePictureToo) {
     Run(list, PressEnter);
     EXPECT_EQ(fakeHost.results, Results{"0"});
     EXPECT_TRUE(fakeHost.alerts.empty());
+}
+
+TEST_F(PreviewCommand, AnswersWithoutGdiPlusToo) {
+    const CNoGdiPlus system;
+    CArguments list;
+    list.String(L"door");
+    EXPECT_EQ(Run(list, PressEnter), 0);
+    EXPECT_EQ(fakeHost.results, Results{"0"});
 }
 
 TEST_F(PreviewCommand, FurtherArgumentsDoNotMatter) {

@@ -8,13 +8,11 @@
 #include "Bitmap.h"
 #include "HandleCount.h"
 #include "ImportHook.h"
+#include "NoGdiPlus.h"
 #include "Pixels.h"
 #include "TempFolder.h"
 
 extern "C" {
-extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output);
-extern int(WINAPI* __imp_GdipCreateFromHDC)(HDC dc, void** graphics);
-extern int(WINAPI* __imp_GdipLoadImageFromStream)(IStream* stream, void** image);
 extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream);
 extern BOOL(WINAPI* __imp_ReadFile)(HANDLE file, LPVOID data, DWORD size, LPDWORD read,
                                     LPOVERLAPPED overlapped);
@@ -122,16 +120,8 @@ TEST_F(PictureCtrl, TakesAFileThatIsNoPictureAndDrawsNothing) {
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, RGB(255, 255, 255)), 2500);
 }
 
-// What GDI+ answers when it could not be started.
-constexpr int notInitialised = 18;
-
 TEST_F(PictureCtrl, DrawsNothingWhereGdiPlusCannotBeStarted) {
-    const CImportHook start(
-        __imp_GdiplusStartup, +[](ULONG_PTR*, const void*, void*) WINAPI { return 1; });
-    const CImportHook create(
-        __imp_GdipCreateFromHDC, +[](HDC, void**) WINAPI { return notInitialised; });
-    const CImportHook load(
-        __imp_GdipLoadImageFromStream, +[](IStream*, void**) WINAPI { return notInitialised; });
+    const CNoGdiPlus system;
     m_folder.Write(L"red.bmp", Red());
     CPictureCtrl picture;
     Bind(picture, {0, 0, 50, 50});

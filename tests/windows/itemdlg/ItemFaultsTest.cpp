@@ -2,9 +2,11 @@
 #include <filesystem>
 #include <memory>
 
+#include "Bitmap.h"
 #include "FileLock.h"
 #include "FullVolume.h"
 #include "ItemDialogFixture.h"
+#include "NoGdiPlus.h"
 
 namespace {
 
@@ -154,6 +156,23 @@ TEST_F(ItemFaults, AFolderThatVanishedBehindTheHostsBackIsReportedForReadingAndW
     const std::wstring both = L"Error - unable to open file / Error\nError - unable to write file / Error\n";
     EXPECT_EQ(ConfirmDespite(loseFolder, 4), both + both);
     EXPECT_EQ(folder.Read(working), "(no file)");
+}
+
+TEST_F(ItemFaults, WithoutGdiPlusTheDialogHasNoPictureAndWritesItsFiles) {
+    folder.Write(L"item.png", BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
+    const CNoGdiPlus system;
+    COLORREF middle = 0;
+    WriteItem(parameter);
+    InDialog([&](HWND dialog, CPropertyGrid&) {
+        PumpMessages();
+        const CClientPixels picture(::GetDlgItem(dialog, 101));
+        middle = picture.At(picture.Width() / 2, picture.Height() / 2);
+    });
+    EXPECT_EQ(Run(), IDOK);
+    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_EQ(middle, 0xE1E1E1U);
+    EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), withNewDefault);
 }
 
 // The base name that makes the working file's full path that long.

@@ -34,6 +34,16 @@ TEST_F(WithoutTexts, TheHeaderShowsTheTitleAlone) {
     Run();
 }
 
+TEST_F(WithoutTexts, OkWritesTheFilesAsWithThem) {
+    WriteItem("$1 = \"a <<1501>> b\"R 5\n");
+    PressInDialog(IDOK);
+    EXPECT_EQ(Run(), IDOK);
+    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_EQ(folder.Read(L"item_TMP.TXT"), "first line\r\nItem title\r\nVAR\r\n#1 = 5\r\nEND_VAR\r\n");
+    EXPECT_EQ(folder.Read(L"item.TXT"),
+              "first line\r\nItem title\r\nVAR\r\n$1 = \"a <<1501>> b\"R5\r\nEND_VAR\r\n");
+}
+
 TEST_F(WithoutTexts, AFileThatIsNoModuleIsAsGoodAsNone) {
     folder.Write(L"TavrinRes.dll", "no module");
     ::SetDllDirectoryW(folder.Path(L"").c_str());
