@@ -149,32 +149,23 @@ TEST_F(ChoiceCommand, MoreThanSixChoicesAnswerNilUnseen) {
     EXPECT_EQ(m_hands.StepsLeft(), 1U);
 }
 
+// Which cells hold a choice shows in the name that each gives; by the window's size it could not be told
+// while the window manager still moves it.
 TEST_F(ChoiceCommand, CountsSlidesInSpaceUnlessTheFlagLeavesThemOut) {
     WriteSlide(L"A_t.png");
     WriteSlide(L"B_t_3d.png");
-    int controlsInWindow = 0;
-    const auto countAndPressOk = [&](HWND dialog) {
-        RECT client;
-        GetClientRect(dialog, &client);
-        controlsInWindow = 0;
+    for (const short flatOnly : {short{0}, short{1}}) {
+        const std::string names[] = {"A", flatOnly != 0 ? "" : "B", ""};
         for (const int cell : {1, 2, 3}) {
-            RECT place;
-            GetWindowRect(CellOf(dialog, cell), &place);
-            MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-            controlsInWindow += place.right <= client.right ? 1 : 0;
+            CArguments list;
+            list.String(L"Replace").Short(flatOnly).String(L"A").String(L"B");
+            Run(list, [cell](HWND dialog) {
+                Notify(dialog, cell, STN_CLICKED);
+                PressButton(dialog, IDOK);
+            });
+            EXPECT_EQ(fakeHost.results, Results{"(100 \"" + names[cell - 1] + "\")"}) << flatOnly << cell;
         }
-        PressButton(dialog, IDOK);
-    };
-    CArguments both;
-    both.String(L"Replace").Short(0).String(L"A").String(L"B");
-    Run(both, countAndPressOk);
-    EXPECT_EQ(fakeHost.results, Results{"(100 \"A\")"});
-    EXPECT_EQ(controlsInWindow, 2);
-    CArguments flatOnly;
-    flatOnly.String(L"Replace").Short(1).String(L"A").String(L"B");
-    Run(flatOnly, countAndPressOk);
-    EXPECT_EQ(fakeHost.results, Results{"(100 \"A\")"});
-    EXPECT_EQ(controlsInWindow, 1);
+    }
 }
 
 TEST_F(ChoiceCommand, ElementsThatAreNoStringsTakeNoCell) {
