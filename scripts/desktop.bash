@@ -1,4 +1,4 @@
-# Hands and eyes on the X display for the scripts that drive a program: source it.
+# Hands and eyes on the X display for the scripts that drive a program, and waiting with a bound: source it.
 
 # wait_for SECONDS WHAT COMMAND...: asks again and again until the command succeeds.
 wait_for() {
