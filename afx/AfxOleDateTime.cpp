@@ -4,6 +4,7 @@
 #include <ctime>
 #include <cwchar>
 
+#include "AfxTimeParts.h"
 #include "afxwin.h"
 #include "atlcomtime.h"
 
@@ -108,15 +109,7 @@ int COleDateTime::GetDayOfYear() const {
 bool COleDateTime::GetAsSystemTime(SYSTEMTIME& time) const {
     if (m_status != valid)
         return false;
-    const std::tm parts = CMoment(m_dt).AsParts();
-    time = {};
-    time.wYear = static_cast<WORD>(parts.tm_year + 1900);
-    time.wMonth = static_cast<WORD>(parts.tm_mon + 1);
-    time.wDayOfWeek = static_cast<WORD>(parts.tm_wday);
-    time.wDay = static_cast<WORD>(parts.tm_mday);
-    time.wHour = static_cast<WORD>(parts.tm_hour);
-    time.wMinute = static_cast<WORD>(parts.tm_min);
-    time.wSecond = static_cast<WORD>(parts.tm_sec);
+    time = AfxSystemTimeOf(CMoment(m_dt).AsParts());
     return true;
 }
 

@@ -1,4 +1,5 @@
 // CTime.
+#include "AfxTimeParts.h"
 #include "atltime.h"
 
 namespace {
@@ -54,13 +55,6 @@ bool CTime::GetAsSystemTime(SYSTEMTIME& time) const {
     std::tm local{};
     if (::_localtime64_s(&local, &m_time) != 0)
         return false;
-    time = {};
-    time.wYear = static_cast<WORD>(local.tm_year + 1900);
-    time.wMonth = static_cast<WORD>(local.tm_mon + 1);
-    time.wDayOfWeek = static_cast<WORD>(local.tm_wday);
-    time.wDay = static_cast<WORD>(local.tm_mday);
-    time.wHour = static_cast<WORD>(local.tm_hour);
-    time.wMinute = static_cast<WORD>(local.tm_min);
-    time.wSecond = static_cast<WORD>(local.tm_sec);
+    time = AfxSystemTimeOf(local);
     return true;
 }

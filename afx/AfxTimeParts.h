@@ -1,0 +1,18 @@
+// The parts of a date and time, as the C runtime has them, in the form of Windows.
+#pragma once
+
+#include <ctime>
+
+#include "AfxBase.h"
+
+inline SYSTEMTIME AfxSystemTimeOf(const std::tm& parts) {
+    SYSTEMTIME time = {};
+    time.wYear = static_cast<WORD>(parts.tm_year + 1900);
+    time.wMonth = static_cast<WORD>(parts.tm_mon + 1);
+    time.wDayOfWeek = static_cast<WORD>(parts.tm_wday);
+    time.wDay = static_cast<WORD>(parts.tm_mday);
+    time.wHour = static_cast<WORD>(parts.tm_hour);
+    time.wMinute = static_cast<WORD>(parts.tm_min);
+    time.wSecond = static_cast<WORD>(parts.tm_sec);
+    return time;
+}
