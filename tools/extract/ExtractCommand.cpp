@@ -1,6 +1,5 @@
 #include "ExtractCommand.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <optional>
 
@@ -8,7 +7,10 @@
 #include "CodePage.h"
 #include "Files.h"
 #include "LabelExtraction.h"
+#include "Output.h"
 #include "ScriptEdit.h"
+#include "StringModule.h"
+#include "TemplateText.h"
 
 namespace {
 
@@ -39,7 +41,7 @@ void TakeOption(SOptions& options, CArguments& arguments) {
     const std::string& name = arguments.Current();
     if (name == "--from") {
         options.firstNumber =
-            static_cast<unsigned>(arguments.IntValue("a number from 1 to 65535", 1, 0xFFFF));
+            static_cast<unsigned>(arguments.IntValue("a number from 1 to 65535", 1, kHighestTextNumber));
     } else if (name == "--rc") {
         options.script = arguments.Value("a string table script");
     } else if (name == "--write") {
@@ -97,16 +99,27 @@ std::vector<std::string> Bytes(const std::vector<SFileLine>& lines) {
     return bytes;
 }
 
+// The script's bytes; nothing when it has to be made.
+std::optional<std::string> ReadScript(const std::string& name, const std::string& templateName) {
+    if (!std::filesystem::exists(PathOf(name))) {
+        return std::nullopt;
+    }
+    if (std::filesystem::equivalent(PathOf(name), PathOf(templateName))) {
+        throw CToolError(name + ": this is the template itself: name a string table script with --rc");
+    }
+    std::string bytes = ReadBytes(name);
+    if (LooksLikeModule(bytes)) {
+        throw CToolError(name + ": texts are not added to a module: name the script that it is made from");
+    }
+    return bytes;
+}
+
 SChange ScriptChange(const std::string& name, const std::optional<std::string>& script,
                      const std::string& templateName, const std::vector<SExtractedText>& texts) {
     if (script) {
         return {name, false, LinesWithEnds(*script), EditsOfScript(name, *script, texts)};
     }
     return {name, true, {}, {{0, 0, LinesWithEnds(NewScript(templateName, texts))}}};
-}
-
-void Print(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
 }
 
 }  // namespace
@@ -121,9 +134,8 @@ int RunExtract(const std::vector<std::string>& arguments) {
         options.script.value_or(NameOf(PathOf(*options.file).replace_extension(".rc")));
     const std::vector<SFileLine> lines = SplitLines(ReadBytes(*options.file));
     CTextTable table;
-    std::optional<std::string> script;
-    if (std::filesystem::exists(PathOf(scriptName))) {
-        script = ReadBytes(scriptName);
+    const std::optional<std::string> script = ReadScript(scriptName, *options.file);
+    if (script) {
         table.ReadBytes(scriptName, *script);
     }
     const SExtraction extraction = ExtractLabels(lines, options.firstNumber, KnownTexts(table));

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr unsigned kHighestNumber = 0xFFFF;
 constexpr std::size_t kTitleIndex = kTitleLine;
 
 // A refusal to move a literal, in words for a note.
@@ -53,7 +52,11 @@ private:
     // All numbers in double angle brackets, whether they count or not.
     void TakePlaceholders(const std::wstring& line) {
         for (std::size_t at = line.find(L"<<"); at != std::wstring::npos; at = line.find(L"<<", at + 1)) {
-            const int number = PlaceholderNumber(line.substr(at, line.find(L">>", at) - at + 2));
+            const std::size_t end = line.find_first_not_of(L"0123456789", at + 2);
+            if (end == std::wstring::npos || line.compare(end, 2, L">>") != 0) {
+                continue;
+            }
+            const int number = PlaceholderNumber(line.substr(at, end + 2 - at));
             if (number > 0) {
                 m_known.taken.insert(static_cast<unsigned>(number));
             }
@@ -118,9 +121,9 @@ private:
         while (m_known.taken.count(m_next) != 0) {
             ++m_next;
         }
-        if (m_next > kHighestNumber) {
+        if (m_next > kHighestTextNumber) {
             throw CToolError("there is no free number left for a text: the highest is " +
-                             std::to_string(kHighestNumber) + ", begin lower with --from");
+                             std::to_string(kHighestTextNumber) + ", begin lower with --from");
         }
         m_known.taken.insert(m_next);
         m_known.texts[text] = m_next;

@@ -17,5 +17,6 @@ std::string NameOf(const std::filesystem::path& path);
 // All bytes of a file. Throws CToolError when it cannot be read.
 std::string ReadBytes(const std::string& name);
 
-// Makes these bytes the file's content. Throws CToolError when it cannot be written.
+// Makes these bytes the file's content, all of them or none: they are written beside it and then put in its
+// place. Throws CToolError when that cannot be done; the file, if there is one, is as it was.
 void WriteBytes(const std::string& name, const std::string& bytes);

@@ -1,7 +1,6 @@
 #include "PreviewCommand.h"
 
 #include <cstddef>
-#include <cstdio>
 #include <filesystem>
 #include <limits>
 #include <optional>
@@ -13,8 +12,10 @@
 #include "FileLines.h"
 #include "Files.h"
 #include "ItemFiles.h"
+#include "ItemName.h"
 #include "ItemPreview.h"
 #include "LinearUnits.h"
+#include "Output.h"
 #include "PreviewReport.h"
 #include "TextTable.h"
 
@@ -99,23 +100,6 @@ SOptions ParseOptions(const std::vector<std::string>& arguments) {
     return options;
 }
 
-// A file's name without an ending, which is ASCII and may be written in small letters too.
-std::optional<std::string> WithoutEnding(const std::string& name, std::wstring_view ending) {
-    if (name.size() < ending.size()) {
-        return std::nullopt;
-    }
-    const std::size_t start = name.size() - ending.size();
-    for (std::size_t i = 0; i < ending.size(); ++i) {
-        const char character = name[start + i];
-        const char capital =
-            character >= 'a' && character <= 'z' ? static_cast<char>(character - 32) : character;
-        if (static_cast<wchar_t>(capital) != ending[i]) {
-            return std::nullopt;
-        }
-    }
-    return name.substr(0, start);
-}
-
 SPreviewFile ReadLines(const std::string& name) {
     return {name, SplitLines(ReadBytes(name))};
 }
@@ -176,7 +160,7 @@ std::wstring Wide(const std::string& text) {
 int RunPreview(const std::vector<std::string>& arguments) {
     const SOptions options = ParseOptions(arguments);
     if (options.help) {
-        std::fputs(kHelp, stdout);
+        Print(kHelp);
         return 0;
     }
     CTextTable texts;
@@ -196,7 +180,6 @@ int RunPreview(const std::vector<std::string>& arguments) {
     for (const auto& [number, value] : options.values) {
         preview.SetValue(Wide(number), Wide(value));
     }
-    const std::string report = PreviewReport(input, preview) + MissingTexts(missing);
-    std::fwrite(report.data(), 1, report.size(), stdout);
+    Print(PreviewReport(input, preview) + MissingTexts(missing));
     return 0;
 }

@@ -11,6 +11,7 @@
 #include "FileList.h"
 #include "Files.h"
 #include "ItemFiles.h"
+#include "Output.h"
 #include "PictureRules.h"
 #include "Report.h"
 #include "RuleTable.h"
@@ -22,10 +23,6 @@ namespace {
 enum EExitStatus { ES_CLEAN, ES_FINDINGS, ES_COULD_NOT_RUN };
 
 constexpr char kVersion[] = TAVRIN_VERSION;
-
-void Print(const std::string& text) {
-    std::fwrite(text.data(), 1, text.size(), stdout);
-}
 
 // One run over all files: what was found, and what kept files from being checked.
 class CCheckRun {
@@ -43,7 +40,10 @@ public:
     }
 
     void Run() {
-        for (const SItemFile& file : ListFiles(m_options.names, m_errors)) {
+        SFileList list = ListFiles(m_options.names);
+        m_errors = std::move(list.errors);
+        m_remarks = std::move(list.remarks);
+        for (const SItemFile& file : list.files) {
             try {
                 CheckFile(file);
             } catch (const CToolError& error) {
@@ -57,6 +57,7 @@ public:
 
     const std::vector<SFinding>& Findings() const { return m_findings; }
     const std::vector<std::string>& Errors() const { return m_errors; }
+    const std::vector<std::string>& Remarks() const { return m_remarks; }
 
 private:
     void Add(std::vector<SFinding> findings) {
@@ -119,6 +120,7 @@ private:
     std::set<std::string> m_comparedItems;
     std::vector<SFinding> m_findings;
     std::vector<std::string> m_errors;
+    std::vector<std::string> m_remarks;
 };
 
 std::string Report(const std::vector<SFinding>& findings, EReportFormat format) {
@@ -145,8 +147,10 @@ int RunCheck(const std::vector<std::string>& arguments) {
     CCheckRun run(options);
     run.Run();
     Print(Report(run.Findings(), options.format));
-    for (const std::string& error : run.Errors()) {
-        std::fprintf(stderr, "tavrincheck: %s\n", error.c_str());
+    for (const auto* const lines : {&run.Remarks(), &run.Errors()}) {
+        for (const std::string& line : *lines) {
+            std::fprintf(stderr, "tavrincheck: %s\n", line.c_str());
+        }
     }
     if (!run.Errors().empty()) {
         return ES_COULD_NOT_RUN;

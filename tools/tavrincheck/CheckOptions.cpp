@@ -1,59 +1,11 @@
 #include "CheckOptions.h"
 
-#include <optional>
 #include <sstream>
 
+#include "Arguments.h"
 #include "Files.h"
 
 namespace {
-
-// Walks over the arguments; an option and its value may be one of them or two.
-class CArguments {
-public:
-    explicit CArguments(const std::vector<std::string>& arguments) : m_arguments(arguments) {}
-
-    // The next option's or file's name; false at the end.
-    bool Next() {
-        if (m_next == m_arguments.size()) {
-            return false;
-        }
-        m_raw = m_arguments[m_next++];
-        m_current = m_raw;
-        m_value.reset();
-        const std::size_t equals = m_current.find('=');
-        if (m_current.starts_with("--") && equals != std::string::npos) {
-            m_value = m_current.substr(equals + 1);
-            m_current.resize(equals);
-        }
-        return true;
-    }
-
-    const std::string& Raw() const { return m_raw; }
-    const std::string& Current() const { return m_current; }  // of an option without "=" and its value
-
-    std::string Value(const char* meaning) {
-        if (!m_value && m_next < m_arguments.size()) {
-            m_value = m_arguments[m_next++];
-        }
-        if (!m_value || m_value->empty()) {
-            throw CToolError(m_current + " lacks its value: give " + meaning + " behind it");
-        }
-        return *m_value;
-    }
-
-    void ExpectNoValue() const {
-        if (m_value) {
-            throw CToolError(m_current + " takes no value");
-        }
-    }
-
-private:
-    const std::vector<std::string>& m_arguments;
-    std::size_t m_next = 0;
-    std::string m_raw;
-    std::string m_current;
-    std::optional<std::string> m_value;
-};
 
 EReportFormat FormatOf(const std::string& name) {
     if (name == "text") {
@@ -88,28 +40,31 @@ bool* FlagOf(SCheckOptions& options, const std::string& name) {
     return name == "--version" ? &options.version : nullptr;
 }
 
+void TakeOption(SCheckOptions& options, CArguments& arguments) {
+    const std::string& name = arguments.Current();
+    if (name == "--format") {
+        options.format = FormatOf(arguments.Value("text, json or sarif"));
+    } else if (name == "--disable") {
+        AppendList(options.disabledRules, arguments.Value("the name of a rule"));
+    } else if (name == "--texts") {
+        options.texts.push_back(arguments.Value("a string table script or a DLL"));
+    } else if (bool* const flag = FlagOf(options, name)) {
+        arguments.ExpectNoValue();
+        *flag = true;
+    } else {
+        arguments.FailUnknown();
+    }
+}
+
 }  // namespace
 
 SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
     SCheckOptions options;
-    bool onlyNames = false;
     for (CArguments rest(arguments); rest.Next();) {
-        const std::string& current = rest.Current();
-        if (onlyNames || current == "-" || !current.starts_with("-")) {
-            options.names.push_back(rest.Raw());
-        } else if (current == "--") {
-            onlyNames = true;
-        } else if (current == "--format") {
-            options.format = FormatOf(rest.Value("text, json or sarif"));
-        } else if (current == "--disable") {
-            AppendList(options.disabledRules, rest.Value("the name of a rule"));
-        } else if (current == "--texts") {
-            options.texts.push_back(rest.Value("a string table script or a DLL"));
-        } else if (bool* const flag = FlagOf(options, current)) {
-            rest.ExpectNoValue();
-            *flag = true;
+        if (rest.IsOption()) {
+            TakeOption(options, rest);
         } else {
-            throw CToolError("the option '" + current + "' is not known: see --help");
+            options.names.push_back(rest.Current());
         }
     }
     if (options.names.empty() && !options.help && !options.version && !options.listRules) {
@@ -137,6 +92,6 @@ offers are looked for.
   --help             print this text
 
 Exit status: 0 nothing was found, or nothing but notes without --strict; 1 something was found; 2 a file
-could not be read, or the command line makes no sense.
+could not be read, the findings could not be printed, or the command line makes no sense.
 )";
 }

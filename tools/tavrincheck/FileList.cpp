@@ -1,42 +1,48 @@
 #include "FileList.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <optional>
 #include <set>
-#include <string_view>
 
 #include "CodePage.h"
 #include "Files.h"
 #include "ItemFiles.h"
+#include "ItemName.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 SItemFile ItemFileOf(const std::string& name) {
-    const std::string working = Utf8Text(kWorkingFileEnding);
-    const std::string ending = Utf8Text(kTemplateFileEnding);
-    SItemFile file{name, name.ends_with(working), {}};
-    if (file.isWorkingFile) {
-        file.item = name.substr(0, name.size() - working.size());
-    } else if (name.ends_with(ending)) {
-        file.item = name.substr(0, name.size() - ending.size());
+    if (const std::optional<std::string> item = WithoutEnding(name, kWorkingFileEnding)) {
+        return {name, true, *item};
     }
-    return file;
+    return {name, false, WithoutEnding(name, kTemplateFileEnding).value_or("")};
 }
 
-void AppendFolder(const std::string& folder, std::vector<std::string>& names,
-                  std::vector<std::string>& errors) {
+// A link that leads nowhere counts as a file: that it cannot be read must be said.
+bool IsFile(const fs::directory_entry& entry) {
+    return entry.is_regular_file() || (entry.is_symlink() && !entry.exists());
+}
+
+void AppendFolder(const std::string& folder, std::vector<std::string>& names, SFileList& list) {
     const std::string ending = Utf8Text(kTemplateFileEnding);
     std::vector<std::string> found;
+    bool isRead = true;
     try {
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator(PathOf(folder))) {
             const std::string name = NameOf(entry.path());
-            if (name.ends_with(ending) && entry.is_regular_file()) {
+            if (name.ends_with(ending) && IsFile(entry)) {
                 found.push_back(name);
             }
         }
     } catch (const fs::filesystem_error& error) {
-        errors.push_back(folder + ": the folder cannot be read: " + error.code().message());
+        list.errors.push_back(folder + ": the folder cannot be read: " + error.code().message());
+        isRead = false;
+    }
+    if (isRead && found.empty()) {
+        list.remarks.push_back(folder + ": there is no *.TXT in this folder");
     }
     std::sort(found.begin(), found.end());
     names.insert(names.end(), found.begin(), found.end());
@@ -44,25 +50,25 @@ void AppendFolder(const std::string& folder, std::vector<std::string>& names,
 
 }  // namespace
 
-std::vector<SItemFile> ListFiles(const std::vector<std::string>& names, std::vector<std::string>& errors) {
+SFileList ListFiles(const std::vector<std::string>& names) {
+    SFileList list;
     std::vector<std::string> all;
     for (const std::string& name : names) {
         std::error_code ignored;
         const fs::path path = PathOf(name);
         if (fs::is_directory(path, ignored)) {
-            AppendFolder(name, all, errors);
+            AppendFolder(name, all, list);
         } else if (fs::exists(path, ignored)) {
             all.push_back(NameOf(path));
         } else {
-            errors.push_back(name + ": there is no such file or folder");
+            list.errors.push_back(name + ": there is no such file or folder");
         }
     }
-    std::vector<SItemFile> files;
     std::set<std::string> seen;
     for (const std::string& name : all) {
         if (seen.insert(NameOf(PathOf(name).lexically_normal())).second) {
-            files.push_back(ItemFileOf(name));
+            list.files.push_back(ItemFileOf(name));
         }
     }
-    return files;
+    return list;
 }

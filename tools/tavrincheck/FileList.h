@@ -11,7 +11,12 @@ struct SItemFile {
     std::string item;
 };
 
+struct SFileList {
+    std::vector<SItemFile> files;
+    std::vector<std::string> errors;   // names that are neither file nor folder, folders that cannot be read
+    std::vector<std::string> remarks;  // folders without any such file, which may be a slip
+};
+
 // The files that names stand for: a file is itself, a folder all files in it and below whose names end in
-// .TXT, written so, in the order of their names. A file that is named twice is there once. Names that are
-// neither file nor folder, and folders that cannot be read, each give a line in `errors`.
-std::vector<SItemFile> ListFiles(const std::vector<std::string>& names, std::vector<std::string>& errors);
+// .TXT, written so, in the order of their names. A file that is named twice is there once.
+SFileList ListFiles(const std::vector<std::string>& names);

@@ -23,6 +23,7 @@ struct SToken {
     EToken kind = TK_END;
     std::string_view text;  // a literal with its prefix and quotes
     std::size_t line = 0;
+    std::size_t column = 0;
     std::size_t offset = 0;
     unsigned codePage = kWesternEuropean;  // that holds at this place
 };
@@ -70,7 +71,7 @@ public:
     CLexer(const std::string& name, std::string_view bytes) : m_name(name), m_bytes(bytes) {
         m_fixedCodePage = bytes.substr(0, kUtf8Mark.size()) == kUtf8Mark;
         if (m_fixedCodePage) {
-            m_at = kUtf8Mark.size();
+            m_at = m_lineStart = kUtf8Mark.size();
             m_codePage = kUtf8;
         }
     }
@@ -80,6 +81,7 @@ public:
         SToken token;
         token.line = m_line;
         token.offset = m_at;
+        token.column = m_at - m_lineStart + 1;
         token.codePage = m_codePage;
         if (m_at == m_bytes.size()) {
             return token;
@@ -126,9 +128,15 @@ private:
         }
     }
 
+    // Behind the line feed at this place.
+    void BeginLine() {
+        ++m_line;
+        m_lineStart = m_at + 1;
+    }
+
     void Advance() {
         if (Peek() == '\n') {
-            ++m_line;
+            BeginLine();
             m_lineIsBlank = true;
         }
         ++m_at;
@@ -203,7 +211,9 @@ private:
                 ++m_at;
             } else if (character == '\\' && m_at + 1 < m_bytes.size()) {
                 m_at += Peek(1) == '\r' && Peek(2) == '\n' ? 2 : 1;
-                m_line += Peek() == '\n' ? 1 : 0;
+                if (Peek() == '\n') {
+                    BeginLine();
+                }
             }
         }
     }
@@ -212,6 +222,7 @@ private:
     std::string_view m_bytes;
     std::size_t m_at = 0;
     std::size_t m_line = 1;
+    std::size_t m_lineStart = 0;
     unsigned m_codePage = kWesternEuropean;
     bool m_fixedCodePage = false;
     bool m_lineIsBlank = true;  // so far, comments apart: a directive may begin
@@ -430,6 +441,7 @@ private:
         text.number = *number;
         text.language = language;
         text.line = m_token.line;
+        text.column = m_token.column;
         Advance();
         if (IsSign(m_token, ',')) {
             Advance();

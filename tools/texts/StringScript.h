@@ -26,9 +26,10 @@
 
 struct SScriptText {
     unsigned number = 0;
-    std::wstring text;     // UTF-16 units
-    std::string language;  // empty before any LANGUAGE
-    std::size_t line = 0;  // from 1
+    std::wstring text;       // UTF-16 units
+    std::string language;    // empty before any LANGUAGE
+    std::size_t line = 0;    // of its number, from 1
+    std::size_t column = 0;  // in bytes, from 1
 };
 
 // A string table, as far as one must know it to add a text to it.

@@ -13,25 +13,30 @@ struct CTextTable::Reading {
         std::wstring text;
         std::string language;
         std::size_t line;
+        std::size_t column;
     };
     std::string file;
     std::vector<Entry> entries;
 };
 
 void CTextTable::ReadFile(const std::string& name) {
+    const std::size_t before = m_texts.size();
     ReadBytes(name, ::ReadBytes(name));
+    if (m_texts.size() == before) {
+        throw CToolError(name + ": there are no texts in it: name a string table script or a DLL");
+    }
 }
 
 void CTextTable::ReadBytes(const std::string& name, std::string_view bytes) {
     Reading reading{name, {}};
     if (LooksLikeModule(bytes)) {
         for (SModuleText& text : ReadStringModule(name, bytes)) {
-            reading.entries.push_back({text.number, std::move(text.text), std::move(text.language), 0});
+            reading.entries.push_back({text.number, std::move(text.text), std::move(text.language), 0, 0});
         }
     } else {
         for (SScriptText& text : ReadStringScript(name, bytes).texts) {
             reading.entries.push_back(
-                {text.number, std::move(text.text), std::move(text.language), text.line});
+                {text.number, std::move(text.text), std::move(text.language), text.line, text.column});
         }
     }
     Add(std::move(reading));
@@ -62,8 +67,8 @@ void CTextTable::Add(Reading reading) {
             throw entry.line != 0 ? PlaceError(reading.file, entry.line, message)
                                   : CToolError(reading.file + ": " + message);
         }
-        whole.m_texts.push_back(
-            {entry.number, std::move(entry.text), language->second, whole.m_files.size() - 1, entry.line});
+        whole.m_texts.push_back({entry.number, std::move(entry.text), language->second,
+                                 whole.m_files.size() - 1, entry.line, entry.column});
     }
     *this = std::move(whole);
 }

@@ -28,6 +28,7 @@ struct SText {
     std::size_t language = 0;  // in CTextTable::Languages
     std::size_t file = 0;      // in CTextTable::Files
     std::size_t line = 0;      // in a script, from 1; 0 in a module
+    std::size_t column = 0;    // in bytes, from 1; 0 together with the line
 };
 
 class CTextTable {
@@ -36,11 +37,12 @@ public:
     static constexpr std::size_t kLongestText = 255;
 
     // Reads the file of that name, whichever of the two kinds it is, and adds its texts. Throws CToolError,
-    // having added nothing, when the file cannot be read, when it is no well-formed file of its kind, or when
-    // it holds a text that is there already in the same language.
+    // having added nothing, when the file cannot be read, when it is no well-formed file of its kind or has
+    // no texts, or when it holds a text that is there already in the same language.
     void ReadFile(const std::string& name);
 
-    // The same from a file's bytes; `name` (UTF-8) stands for the file in messages and in Files.
+    // The same from a file's bytes, which may have no texts; `name` (UTF-8) stands for the file in messages
+    // and in Files.
     void ReadBytes(const std::string& name, std::string_view bytes);
 
     // The files that were read, and the languages of their texts, both in the order of their appearance. A

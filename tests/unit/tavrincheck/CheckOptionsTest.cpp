@@ -96,6 +96,28 @@ TEST_F(CheckOptions, AFolderStandsForTheFilesInItAndBelow) {
     EXPECT_EQ(output.find("e.lsp"), std::string::npos);
 }
 
+TEST_F(CheckOptions, ALinkInAFolderThatLeadsNowhereIsAFileThatCannotBeRead) {
+    std::filesystem::create_symlink("nowhere", m_folder.Path("a.TXT"));
+    const SCheckRun run = Check({m_folder.Path("")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(m_folder.Short(run.errors), "tavrincheck: a.TXT: the file cannot be opened\n");
+}
+
+TEST_F(CheckOptions, AFolderWithoutItemFilesIsCleanButMentioned) {
+    m_folder.Write("a.txt", kBroken);
+    const SCheckRun run = Check({m_folder.Path("")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, "");
+    EXPECT_EQ(m_folder.Short(run.errors), "tavrincheck: : there is no *.TXT in this folder\n");
+}
+
+// Windows does not distinguish them either.
+TEST_F(CheckOptions, ANameInSmallLettersIsThatOfAnItemToo) {
+    const std::string file = m_folder.Write("a_tmp.txt", "Shelf\n<<2001>>\nVAR\n#1 = 900\nEND_VAR\n");
+    EXPECT_EQ(Check({file}).output, "");
+    EXPECT_NE(Check({m_folder.Write("a.txt", kClean)}).output.find("[picture-missing]"), std::string::npos);
+}
+
 TEST_F(CheckOptions, AFileThatIsNamedTwiceIsCheckedOnce) {
     const std::string file = Item("a", kBroken);
     EXPECT_EQ(Check({file, file, m_folder.Path("./a.TXT")}).output, Check({file}).output);

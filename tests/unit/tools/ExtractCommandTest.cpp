@@ -76,6 +76,10 @@ TEST_F(ExtractCommand, ErrorsSayWhatToDo) {
     const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n  9 Width\n}\n");
     EXPECT_EQ(ErrorOf({folder.Write("a.TXT", "x\n"), "--from", "1", "--rc", script}),
               "t.rc:3: text 9 has no text in quotes behind its number");
+    EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Path("./a.TXT")}),
+              "./a.TXT: this is the template itself: name a string table script with --rc");
+    EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Write("t.dll", "MZ")}),
+              "t.dll: texts are not added to a module: name the script that it is made from");
 }
 
 }  // namespace

@@ -52,6 +52,15 @@ TEST(LabelExtraction, TheTitleIsTakenToo) {
     EXPECT_EQ(Texts(extraction), L"1501=Hinged door|");
 }
 
+TEST(LabelExtraction, NumbersInSignsAreTakenWhetherTheyCountOrNot) {
+    const SExtraction extraction = Extract(
+        "<<<<1501>>\n<<1502>> <<x <<1503>>\nVAR\n<<1504>\n$1 = \"Width\"D 1\n$2 = \"<<0>> a\"D <<1505>>\n");
+    EXPECT_EQ(Texts(extraction), L"1504=Width|");
+    EXPECT_EQ(extraction.notes,
+              std::vector<std::string>{
+                  "line 6 stays: its value holds a placeholder, which OK would write into the label"});
+}
+
 TEST(LabelExtraction, LabelsWithAPlaceholderStay) {
     const std::string file = "x\na <<7>> b\nVAR\n$1 = \"Leaves: <<1503>>\"I 1\n$2 = \"<<1504>>%\"I 1\n";
     const SExtraction extraction = Extract(file);
