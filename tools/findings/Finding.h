@@ -24,12 +24,13 @@ struct SRule {
     std::string_view example;      // lines that break it
 };
 
+// Characters are bytes in an item's files, and units of UTF-16 in a routine or a script.
 struct SFinding {
     const SRule* rule = nullptr;  // one of the table, which lives as long as the program
     std::string file;             // as the user named it, UTF-8
     std::size_t line = 0;         // from 1; 0 when the finding is about the file as a whole
-    std::size_t column = 0;       // in bytes from 1; 0 together with the line
-    std::size_t length = 0;       // of the offending text in bytes; may be 0 where something is missing
+    std::size_t column = 0;       // in characters from 1; 0 together with the line
+    std::size_t length = 0;       // of the offending text in characters; may be 0 where something is missing
     std::string message;          // UTF-8, one line
     SExcerpt excerpt;             // empty when the line is not known
 };

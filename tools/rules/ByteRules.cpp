@@ -58,7 +58,23 @@ bool IsPlain(wchar_t character) {
 }
 
 std::string Times(std::size_t count) {
-    return count == 1 ? "" : ", " + std::to_string(count) + " times in this line";
+    return count == 1 ? "" : " (the first of " + std::to_string(count) + ")";
+}
+
+bool HasUtf16Mark(std::wstring_view firstLine) {
+    return std::any_of(std::begin(kUtf16Marks), std::end(kUtf16Marks),
+                       [&](std::wstring_view mark) { return firstLine.starts_with(mark); });
+}
+
+// Whether every other character is null and the rest is not: so ASCII looks in UTF-16.
+bool AlternatesWithNulls(std::wstring_view line) {
+    constexpr std::size_t kLeast = 4;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        if ((line[i - 1] == L'\0') == (line[i] == L'\0')) {
+            return false;
+        }
+    }
+    return line.size() >= kLeast;
 }
 
 }  // namespace
@@ -68,8 +84,7 @@ RuleList ByteRules() {
 }
 
 bool CByteRules::IsUtf16(std::wstring_view firstLine) {
-    return std::any_of(std::begin(kUtf16Marks), std::end(kUtf16Marks),
-                       [&](std::wstring_view mark) { return firstLine.starts_with(mark); });
+    return HasUtf16Mark(firstLine) || AlternatesWithNulls(firstLine);
 }
 
 void CByteRules::TakeLine(const SItemLine& line) {
@@ -79,7 +94,8 @@ void CByteRules::TakeLine(const SItemLine& line) {
     }
     std::size_t start = 0;
     if (line.index == 0 && IsUtf16(text)) {
-        Findings().Add(kByteOrderMark, line, 0, 2,
+        const bool hasMark = HasUtf16Mark(text);
+        Findings().Add(hasMark ? kByteOrderMark : kNullCharacter, line, 0, hasMark ? 2 : text.size(),
                        "the file is UTF-16, of which the module understands no line: save it as ANSI text");
         return;
     }

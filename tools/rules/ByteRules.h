@@ -12,6 +12,6 @@ public:
     using CRuleGroup::CRuleGroup;
     void TakeLine(const SItemLine& line) override;
 
-    // Whether a file begins with a mark of UTF-16, so that none of its lines is what it looks like.
+    // Whether a file is UTF-16, with its mark or without, so that none of its lines is what it looks like.
     static bool IsUtf16(std::wstring_view firstLine);
 };

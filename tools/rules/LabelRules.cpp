@@ -78,6 +78,11 @@ const std::wstring& LabelOf(const SItemLine& line) {
     return line.parameter->parts.label;
 }
 
+// The label that OK writes.
+std::wstring RewrittenLabel(const ParamRecord& record) {
+    return record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" + record.labelSuffix;
+}
+
 // The line that OK writes into the template when the value stays as it is.
 std::wstring RewrittenLine(const SItemLine& line) {
     const ParamRecord& record = line.parameter->record;
@@ -117,13 +122,16 @@ void CLabelRules::CheckForm(const SItemLine& line) {
         CheckPlaceholder(line, number);
         return;
     }
-    if (CheckPlaceholderForm(Findings(), line, line.parameter->labelStart, label, "the label")) {
-        return;
+    const bool isWritten = line.parameter->record.type != 'U';
+    const std::string written =
+        isWritten ? "after the first OK the line is " + Quoted(RewrittenLine(line)) : std::string();
+    if (!CheckPlaceholderForm(
+            Findings(), line, line.parameter->labelStart, label,
+            "the label shows it as it stands here" + (isWritten ? ", and " + written : ""))) {
+        ReportAtLabel(
+            kLabelNoPlaceholder, line,
+            "the label " + Quoted(label) + " has no placeholder" + (isWritten ? ": " + written : ""));
     }
-    const bool hasRow = line.parameter->record.type != 'U';
-    ReportAtLabel(kLabelNoPlaceholder, line,
-                  "the label " + Quoted(label) + " has no placeholder" +
-                      (hasRow ? ": after the first OK the line is " + Quoted(RewrittenLine(line)) : ""));
 }
 
 void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
@@ -131,11 +139,13 @@ void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
     CheckPlaceholderNumber(Findings(), line, line.parameter->labelStart + record.labelPrefix.size(), number);
     if (record.labelSuffix.find(L"<<") != std::wstring::npos &&
         record.labelPrefix.find(L">>") == std::wstring::npos) {
-        ReportAtLabel(
-            kLabelTwoPlaceholders, line,
-            "the last placeholder counts, in the place of the first: after the first OK the label is " +
-                Quoted(record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" +
-                       record.labelSuffix));
+        const std::wstring& label = LabelOf(line);
+        const std::size_t start = record.labelPrefix.size();
+        const std::wstring first = label.substr(start, label.size() - start - record.labelSuffix.size());
+        ReportAtLabel(kLabelTwoPlaceholders, line,
+                      "text " + std::to_string(number) + " is shown in the place of " + Quoted(first) +
+                          ", which is lost: after the first OK the label is " +
+                          Quoted(RewrittenLabel(record)));
     } else if (record.resourceId != number) {
         const SParameter& parameter = *line.parameter;
         const std::size_t start = parameter.valueStart + parameter.parts.value.rfind(L"<<");
@@ -152,14 +162,14 @@ void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
 
 void CLabelRules::CheckRewritten(const SItemLine& line) {
     const ParamRecord& record = line.parameter->record;
-    const std::wstring label =
-        record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" + record.labelSuffix;
+    const std::wstring label = RewrittenLabel(record);
     if (label != LabelOf(line)) {
         ReportAtLabel(kLabelRewritten, line, "after the first OK the label is " + Quoted(label));
     }
 }
 
-// A "%" directly behind a placeholder was meant as a mark, and so was one that blanks alone follow.
+// A "%" directly behind a placeholder was meant as a mark, and so was one in front of a placeholder at the
+// label's beginning, and one that blanks alone follow.
 void CLabelRules::CheckMark(const SItemLine& line) {
     const std::wstring& label = LabelOf(line);
     const std::size_t behind = label.find(L">>%");
@@ -169,6 +179,8 @@ void CLabelRules::CheckMark(const SItemLine& line) {
         place = last;
     } else if (behind != std::wstring::npos && behind + 3 < label.size()) {
         place = behind + 2;
+    } else if (label.starts_with(L"%<<")) {
+        place = 0;
     }
     if (place != std::wstring::npos) {
         Findings().Add(kMarkMisplaced, line, line.parameter->labelStart + place, 1,
@@ -191,16 +203,20 @@ void CLabelRules::CheckShown(const SItemLine& line) {
     const std::wstring& written = LabelOf(line);
     const bool hasPlaceholder = line.parameter->placeholder != 0;
     const bool hasTexts = m_texts != nullptr && hasPlaceholder;
+    // Of a text that is not known only what stands around it.
+    const ParamRecord& record = line.parameter->record;
+    const std::size_t literal =
+        record.labelPrefix.size() + record.labelSuffix.size() - (record.labelSuffix.ends_with(L'%') ? 1 : 0);
     SShownLabel shown;
     for (CTextIndex& labels : m_shown) {
         ParameterRow row;
         if (hasTexts) {
             row = ShownRow(line, static_cast<std::size_t>(&labels - m_shown.data()));
         }
-        const std::wstring& label = hasTexts ? row.record.label : line.parameter->record.label;
+        const std::wstring& label = hasTexts ? row.record.label : record.label;
         shown.isEmpty = shown.isEmpty || label.empty();
         shown.isMarkedByText = shown.isMarkedByText || (hasTexts && !row.editable && written.back() != L'%');
-        shown.length = std::max(shown.length, hasTexts || !hasPlaceholder ? label.size() : 0);
+        shown.length = std::max(shown.length, hasTexts || !hasPlaceholder ? label.size() : literal);
         const std::size_t first = labels.FindOrAdd(label, line.index);
         if (first != line.index && shown.twin.empty()) {
             shown.twin = Quoted(label) + " is the label of line " + std::to_string(first + 1) + " too";
@@ -220,7 +236,8 @@ void CLabelRules::ReportShown(const SItemLine& line, const SShownLabel& shown) {
     }
     if (shown.length > kLongestLabel) {
         ReportAtLabel(kLabelTooLong, line,
-                      "the label has " + std::to_string(shown.length) +
-                          " characters, its column has room for about " + std::to_string(kLongestLabel));
+                      "the label has " + std::to_string(shown.length) + " characters" +
+                          (m_texts == nullptr && line.parameter->placeholder != 0 ? " beside its text" : "") +
+                          ", its column has room for about " + std::to_string(kLongestLabel));
     }
 }

@@ -55,11 +55,24 @@ constexpr SRule kLineAssignment = {"line-assignment", SV_ERROR, "an assignment i
                                    "are gone: probably a used working file was copied over the template.",
                                    "#1 = 900\n$7 = 1"};
 
-constexpr const SRule* kRules[] = {&kLineLeadingBlank, &kLineTab,        &kLineNumber, &kLineEquals,
-                                   &kLineQuote,        &kLineTypeLetter, &kLineUnread, &kLineAssignment};
+constexpr SRule kLineDollar = {"line-dollar", SV_WARNING, "a parameter's $ is missing or a #",
+                               "A parameter line begins with $, whatever its type; # stands in a used "
+                               "working file alone. But for that this\n"
+                               "line would be a parameter: now it gets no row.",
+                               "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
+
+constexpr const SRule* kRules[] = {&kLineLeadingBlank, &kLineDollar, &kLineTab,
+                                   &kLineNumber,       &kLineEquals, &kLineQuote,
+                                   &kLineTypeLetter,   &kLineUnread, &kLineAssignment};
 
 constexpr SRepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNumber,
                                        &kLineEquals,       &kLineQuote, &kLineTypeLetter};
+
+// Whether the reader would take the line if it began with "$" where it has `signs` characters now.
+bool LacksDollar(const std::wstring& line, std::size_t signs) {
+    return line.size() > signs && line[signs] >= L'0' && line[signs] <= L'9' &&
+           ParseParameterLine(L'$' + line.substr(signs)).has_value();
+}
 
 // Only lines that begin so were meant as parameters; all others are remarks.
 bool BeginsLikeParameter(const std::wstring& line) {
@@ -98,6 +111,11 @@ void CLineRules::TakeLine(const SItemLine& line) {
         return;
     }
     if (!BeginsLikeParameter(line.text)) {
+        const std::size_t signs = line.text.starts_with(L'#') ? 1 : 0;
+        if (LacksDollar(line.text, signs)) {
+            Findings().Add(kLineDollar, line, 0, signs,
+                           signs == 0 ? "here the '$' is missing" : "'#' stands here instead of '$'");
+        }
         return;
     }
     const std::vector<SRepair> repairs = RepairLine(line.text, kRepairRules);

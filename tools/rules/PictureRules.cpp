@@ -68,8 +68,10 @@ public:
 
 private:
     void CheckRoutine() {
+        m_text = RoutineText(*m_context.routine);
         try {
-            for (const SRoutineCall& call : FindRoutineCalls(RoutineText(*m_context.routine))) {
+            for (const SRoutineCall& call : FindRoutineCalls(m_text)) {
+                GoToLineOf(call);
                 if (call.isChoice) {
                     CheckChoice(call);
                 } else if (!call.names.empty()) {
@@ -108,27 +110,40 @@ private:
         }
     }
 
-    // At the first place where the routine holds the name as a text.
-    void AddAt(const SRule& rule, const std::wstring& name, std::string message) {
-        const std::string& bytes = *m_context.routine;
-        const std::string literal = '"' + Utf8Text(name) + '"';
-        const std::size_t place = bytes.find(literal);
-        if (place == std::string::npos) {  // written with escapes or in another encoding
-            m_routine.Add(rule, std::move(message));
-            return;
+    // Goes to the line of a call, which is none before that of the last one.
+    void GoToLineOf(const SRoutineCall& call) {
+        for (; m_line.index + 1 < static_cast<std::size_t>(call.line); ++m_line.index) {
+            m_lineStart = m_text.find(L'\n', m_lineStart) + 1;
         }
-        const std::string_view before = std::string_view(bytes).substr(0, place);
-        const std::size_t start = before.rfind('\n') + 1;  // 0 in the first line
-        const std::size_t end = std::min(bytes.find_first_of("\r\n", place), bytes.size());
-        SItemLine line;
-        line.index = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-        line.text = CharactersOf(std::string_view(bytes).substr(start, end - start));
-        m_routine.Add(rule, line, place - start, literal.size(), std::move(message));
+        m_next = m_lineStart;
+    }
+
+    // Where the call holds the name as a text, behind the names that were found before; else where the call's
+    // line begins.
+    void AddAt(const SRule& rule, const std::wstring& name, std::string message) {
+        const std::wstring literal = L'"' + name + L'"';
+        const std::size_t found = m_text.find(literal, m_next);
+        const bool isFound = found != std::wstring::npos;  // else it is written with escapes
+        const std::size_t place = isFound ? found : m_lineStart;
+        const std::size_t length = isFound ? literal.size() : 0;
+        m_next = place + length;
+        SItemLine line = m_line;
+        std::size_t start = m_lineStart;
+        for (std::size_t end = m_text.find(L'\n', start); end < place; end = m_text.find(L'\n', start)) {
+            start = end + 1;
+            ++line.index;
+        }
+        line.text = m_text.substr(start, m_text.find_first_of(L"\r\n", place) - start);
+        m_routine.Add(rule, line, place - start, length, std::move(message));
     }
 
     const SPictureContext& m_context;
     CFindingList m_item;
     CFindingList m_routine;
+    std::wstring m_text;          // of the routine
+    SItemLine m_line;             // the call's; only its index
+    std::size_t m_lineStart = 0;  // where it begins
+    std::size_t m_next = 0;       // from where on names are looked for
 };
 
 }  // namespace

@@ -42,7 +42,7 @@ RuleList PlaceholderRules() {
 }
 
 bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::size_t start,
-                          const std::wstring& text, const std::string& where) {
+                          const std::wstring& text, const std::string& consequence) {
     const std::size_t first = text.find_first_of(L"<>");
     if (first == std::wstring::npos) {
         return false;
@@ -52,8 +52,7 @@ bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::si
     if (opening != std::wstring::npos && HasFormOfPlaceholder(text, opening)) {
         const std::size_t end = text.find(L">>", opening) + 2;
         findings.Add(kPlaceholderZero, line, start + opening, end - opening,
-                     Quoted(text.substr(opening, end - opening)) + " is no placeholder, " + where +
-                         " shows it as it stands here");
+                     Quoted(text.substr(opening, end - opening)) + " is no placeholder: " + consequence);
         return true;
     }
     // A sign alone, as in "< 3 mm", is ordinary text; with a digit and a second sign it is not.
@@ -65,8 +64,8 @@ bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::si
         return false;
     }
     findings.Add(kPlaceholderBroken, line, start + first, last + 1 - first,
-                 Quoted(text.substr(first, last + 1 - first)) + " is no placeholder, " + where +
-                     " shows it as it stands here: write <<N>> with digits alone");
+                 Quoted(text.substr(first, last + 1 - first)) + " is no placeholder: " + consequence +
+                     "; write <<N>> with digits alone");
     return true;
 }
 

@@ -11,8 +11,9 @@ bool IsNumberOtherThanZero(const CValue& value) {
     return value.Type() == VT_INTEGER && value.AsInteger() != 0;
 }
 
-SRoutineCall CallOf(std::wstring_view function, CValue arguments) {
+SRoutineCall CallOf(std::wstring_view function, int line, CValue arguments) {
     SRoutineCall call;
+    call.line = line;
     call.isChoice = function == kChoice;
     // (tavrinselmask CAPTION FLAT-ONLY NAME...)
     for (int skipped = 0; call.isChoice && skipped < 2 && arguments.Type() == VT_PAIR; ++skipped) {
@@ -34,7 +35,7 @@ void Collect(const CValue& value, std::vector<SRoutineCall>& calls) {
     }
     for (const std::wstring_view function : {kChoice, kPreview}) {
         if (value.Car().IsSymbol(function)) {
-            calls.push_back(CallOf(function, value.Cdr()));
+            calls.push_back(CallOf(function, value.Line(), value.Cdr()));
         }
     }
     for (CValue rest = value; rest.Type() == VT_PAIR; rest = rest.Cdr()) {

@@ -29,13 +29,17 @@ constexpr const SRule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
 // The texts that the module itself uses.
 constexpr unsigned kModuleTexts[] = {kHeaderPrefixText, NO_SLIDE_TEXT};
 
+// The excerpt is the text as it was read, which in a module has no other form.
 SFinding AtText(const CTextTable& texts, const SText& text, const SRule& rule, const std::string& message) {
     SFinding finding;
     finding.rule = &rule;
     finding.file = texts.Files()[text.file];
     finding.line = text.line;
-    finding.column = text.line != 0 ? 1 : 0;
+    finding.column = text.column;
+    const std::wstring number = WideNumber(static_cast<int>(text.number));
+    finding.length = text.line != 0 ? number.size() : 0;
     finding.message = "text " + std::to_string(text.number) + " " + message;
+    finding.excerpt = MakeExcerpt(number + L" \"" + text.text + L'"', 0, number.size());
     return finding;
 }
 

@@ -14,9 +14,9 @@ constexpr std::size_t kLongestHeader = 32;
 constexpr SRule kTitleMissing = {
     "title-missing", SV_WARNING, "the second line is no title",
     "The second line of both files is the title of the dialog: a placeholder such as <<2001>>, or the title\n"
-    "itself. Without it the dialog is called after the file; a block or a parameter that stands there is "
-    "shown\n"
-    "as the title as well.",
+    "itself. Without it the dialog is called after the file, and an empty one leaves it without a name; a "
+    "block\n"
+    "or a parameter that stands there is shown as the title as well.",
     "Hinged door\nVAR\n$1 = \"<<1501>>\"D 900\nEND_VAR"};
 
 constexpr SRule kTitleTextLost = {"title-text-lost", SV_WARNING,
@@ -59,7 +59,7 @@ void CTitleRules::TakeLine(const SItemLine& line) {
     if (number != 0) {
         CheckPlaceholder(line, number);
     } else {
-        CheckPlaceholderForm(Findings(), line, 0, line.text, "the title");
+        CheckPlaceholderForm(Findings(), line, 0, line.text, "the title shows it as it stands here");
     }
     CheckLength(line, number);
 }

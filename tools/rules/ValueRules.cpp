@@ -117,12 +117,13 @@ bool CValueRules::ReportNoNumber(const SItemLine& line, const std::wstring& valu
 
 void CValueRules::CheckNumber(const SItemLine& line, std::size_t start, std::size_t length, double value) {
     const std::wstring_view written = std::wstring_view(line.text).substr(start, length);
+    const wchar_t letter = line.parameter->parts.typeLetter;
     const auto report = [&](const SRule& rule, const std::string& message) {
         Findings().Add(rule, line, start, length, Quoted(written) + message);
     };
     if (HasVanished(written, value)) {
         report(kValueOutOfRange, " is too close to zero and becomes 0");
-    } else if (line.parameter->parts.typeLetter == L'I') {
+    } else if (letter == L'I' || letter == L'i') {  // the small one will be made a capital
         const int whole = FloorToInt(value);
         const std::string becomes = " becomes " + std::to_string(whole);
         if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max()) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "PictureRules.h"
+
 namespace {
 
 std::string File(const std::string& parameters) {
@@ -23,6 +25,48 @@ std::vector<std::string> Compared(const std::string& templateFile, const std::st
 }
 
 using PlaceList = std::vector<std::string>;
+
+std::vector<std::string> Checked(const std::string& parameters) {
+    return Places(CheckText(File(parameters), SCheckContext()));
+}
+
+TEST(Checker, ASmallTypeLetterDoesNotHideWhatIsWrongWithTheValue) {
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"i 2.9\n$2 = \"<<1502>>\"i 123456789\n"),
+              (PlaceList{"4:16 type-small-letter", "4:18 value-fraction", "5:16 type-small-letter"}));
+}
+
+TEST(Checker, WhatStandsAroundAPlaceholderMayBeTooLongWithoutItsText) {
+    const std::string text(35, 'x');
+    EXPECT_EQ(Checked("$1 = \"12345<<1501>>" + text + "%\"D 9\n"), PlaceList());
+    EXPECT_EQ(Checked("$1 = \"12345<<1501>>" + text + "x\"D 9\n"), PlaceList{"4:7 label-too-long"});
+}
+
+// Remarks may hold signs and numbers.
+TEST(Checker, ALineThatWouldBeAParameterButForItsDollarIsMentioned) {
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"D 9\n2 = \"<<1502>>\"D 9\n#3=\"<<1503>>\"I9\n"),
+              (PlaceList{"5:1 line-dollar", "6:1 line-dollar"}));
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"D 9\n2\n2 = 5\n# 2 = \"x\"D 9\n; 2 = \"x\"D 9\n#\n = \"x\"D 9\n"),
+              PlaceList());
+}
+
+TEST(Checker, ANullCharacterInAShortFirstLineMakesNoUtf16) {
+    const std::string file = std::string("a\0\n", 3) + "<<2001>>\nVAR\nEND_VAR\n";
+    EXPECT_EQ(Places(CheckText(file, SCheckContext())), (PlaceList{"1:2 null-character", "3:1 block-empty"}));
+}
+
+// The bytes of UTF-8 before the call count as the characters that they are.
+TEST(Checker, ANameIsShownWhereItsCallHoldsItAndNotInARemarkBefore) {
+    SPictureContext context;
+    context.isThere = [](const std::string& name) { return name.ends_with(".TXT.png"); };
+    context.baseName = "a.TXT";
+    context.routine =
+        "; \"b\"\r\n(princ \"\xC3\xA0\") (tavrinselmask \"x\" 0 \"b\" \"c\"\r\n \"b\")\r\n"
+        "(foo (tavrinprevmask \"c\") (tavrinselmask \"x\" 1 \"\\\\d\"))";
+    const std::vector<SFinding> findings = CheckPictures(context);
+    EXPECT_EQ(Places(findings), (PlaceList{"2:34 slide-missing", "2:38 slide-missing", "3:2 slide-missing",
+                                           "4:1 slide-missing", "4:22 picture-missing"}));
+    EXPECT_EQ(findings[0].excerpt.text, "(princ \"\xC3\xA0\") (tavrinselmask \"x\" 0 \"b\" \"c\"");
+}
 
 TEST(Checker, ACopyOfATemplateWithANumberTwiceDoesNotDiffer) {
     const std::string file = File("$1 = \"<<1501>>\"D 900\n$1 = \"<<1502>>\"D 2100\n");
