@@ -184,7 +184,7 @@ int CHost::ToNumber(const wchar_t* text, double* result) const {
 
 int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picked) {
     // With the main window disabled the user could never answer.
-    if (m_request == nullptr || m_window.IsPicking() || !IsWindowEnabled(m_window.Handle()))
+    if (m_request == nullptr || m_window.IsAsking() || !IsWindowEnabled(m_window.Handle()))
         return kStatusError;
     if (base && !(std::isfinite(base->x) && std::isfinite(base->y)))
         return kStatusError;

@@ -16,12 +16,15 @@ std::vector<SItem> FindItems(const std::wstring& folder) {
                          L"' does not exist: give --items an existing folder");
     std::vector<SItem> items;
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(full, error)) {
-        const std::wstring name = entry.path().filename().wstring();
-        const std::wstring path = entry.path().wstring();
+    for (std::filesystem::directory_iterator entry(full, error), end; entry != end; entry.increment(error)) {
+        const std::wstring name = entry->path().filename().wstring();
+        const std::wstring path = entry->path().wstring();
         if (IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp"))
             items.push_back({name, path});
     }
+    if (error)
+        throw CUserError(L"the folder of items '" + folder +
+                         L"' cannot be read: give --items a folder that you may read");
     std::sort(items.begin(), items.end(), [](const SItem& a, const SItem& b) { return a.name < b.name; });
     return items;
 }

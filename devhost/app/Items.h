@@ -9,5 +9,6 @@ struct SItem {
     std::wstring folder;
 };
 
-// The items in a folder, by name. Throws CUserError, which names the folder, when it does not exist.
+// The items in a folder, by name. Throws CUserError, which names the folder, when it does not exist or
+// cannot be read.
 std::vector<SItem> FindItems(const std::wstring& folder);

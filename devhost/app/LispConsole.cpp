@@ -47,7 +47,7 @@ void CLispConsole::SetVariable(const std::wstring& name, const CValue& value) {
 
 SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoint> base,
                               EQuestion question) {
-    if (m_window.IsPicking() || !IsWindowEnabled(m_window.Handle()))
+    if (m_window.IsAsking() || !IsWindowEnabled(m_window.Handle()))
         throw CLispError(L"nothing can be asked while another question or a dialog is open");
     m_output.EndLine();
     const auto from = base ? std::optional(SPoint{base->x, base->y}) : std::nullopt;

@@ -25,6 +25,21 @@ private:
     HGDIOBJ m_before;
 };
 
+// The device context of a window, or of the screen for null.
+class CWindowDc {
+public:
+    explicit CWindowDc(HWND window) : m_window(window), m_dc(GetDC(window)) {}
+    ~CWindowDc() { ReleaseDC(m_window, m_dc); }
+    CWindowDc(const CWindowDc&) = delete;
+    CWindowDc& operator=(const CWindowDc&) = delete;
+
+    HDC Get() const { return m_dc; }
+
+private:
+    HWND m_window;
+    HDC m_dc;
+};
+
 // A device context in memory that draws into a bitmap.
 class CBitmapDc {
 public:

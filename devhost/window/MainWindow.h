@@ -77,7 +77,7 @@ public:
     // application is ending: what is running should stop.
     bool PollEscape();
 
-    bool IsPicking() const { return m_isAsking; }
+    bool IsAsking() const { return m_isAsking; }
     // Shows `prompt` beside the prompt's edit and in the status line and waits for the answer, with messages
     // of all windows going on meanwhile. With `base` a line follows the mouse from there. Cancelled by
     // Escape, by closing the window and by the application's end. Prompt and answer go to the list of

@@ -47,25 +47,19 @@ void SetFont(HWND control, const CGdiObject& font) {
 SIZE TextSize(HWND control, const CGdiObject& font) {
     wchar_t text[256];
     const int length = GetWindowTextW(control, text, 256);
-    const HDC dc = GetDC(control);
+    const CWindowDc dc(control);
+    const CSelection selection(dc.Get(), font);
     SIZE size = {};
-    {
-        const CSelection selection(dc, font);
-        GetTextExtentPoint32W(dc, text, length, &size);
-    }
-    ReleaseDC(control, dc);
+    GetTextExtentPoint32W(dc.Get(), text, length, &size);
     return size;
 }
 
 // The height of a line in the font.
 int LineHeight(HWND control, const CGdiObject& font) {
-    const HDC dc = GetDC(control);
+    const CWindowDc dc(control);
+    const CSelection selection(dc.Get(), font);
     TEXTMETRICW metrics = {};
-    {
-        const CSelection selection(dc, font);
-        GetTextMetricsW(dc, &metrics);
-    }
-    ReleaseDC(control, dc);
+    GetTextMetricsW(dc.Get(), &metrics);
     return metrics.tmHeight;
 }
 

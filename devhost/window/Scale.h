@@ -3,13 +3,14 @@
 
 #include <windows.h>
 
+#include "GdiScope.h"
+
 // Turns pixels of a screen with 96 dots per inch into those of this one.
 class CScale {
 public:
     CScale() {
-        const HDC screen = GetDC(nullptr);
-        m_dots = GetDeviceCaps(screen, LOGPIXELSY);
-        ReleaseDC(nullptr, screen);
+        const CWindowDc screen(nullptr);
+        m_dots = GetDeviceCaps(screen.Get(), LOGPIXELSY);
     }
 
     int operator()(int pixels) const { return MulDiv(pixels, m_dots, 96); }

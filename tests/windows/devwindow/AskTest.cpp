@@ -81,7 +81,7 @@ TEST_F(Ask, AnswersDoNotReachTheCommandHandler) {
     PostLine(L"5");
     AskPoint();
     EXPECT_EQ(commands, 0);
-    EXPECT_FALSE(m_window.IsPicking());
+    EXPECT_FALSE(m_window.IsAsking());
 }
 
 TEST_F(Ask, APointCanBeTypedInstead) {
