@@ -52,7 +52,7 @@ void DefineEntity(CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name,
                   TMake make) {
     const auto run = [&drawing, make](const CArguments& arguments) -> CLispResult {
         if (!drawing.Add(make(arguments)))
-            arguments.Fail(L"a number is too large to be drawn");
+            arguments.Fail(L"a number is beyond 1e12 and cannot be drawn");
         return CValue::True();
     };
     evaluator.Define(name, TakeArguments(evaluator, name, least, most, run));
