@@ -16,6 +16,7 @@
 #include "Host.h"
 #include "Items.h"
 #include "LispConsole.h"
+#include "OneLine.h"
 #include "Options.h"
 #include "PlugIn.h"
 #include "Session.h"
@@ -168,6 +169,7 @@ int Run(const SOptions& options, CTextOutput& output) {
     auto listening = std::make_optional<CListening>(output, window);
     ShareFormat(variables, window);
     OfferItems(items, session, window);
+    window.SetPasteHandler(OnOneLine);
     window.SetReloadHandler([&] { Reload(plugIn, output); });
     window.Show();
     const int status = session.RunTasks(tasks);

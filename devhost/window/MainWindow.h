@@ -21,6 +21,7 @@
 #include "MainMenu.h"
 #include "OutputList.h"
 #include "PromptHistory.h"
+#include "PromptPaste.h"
 #include "Scale.h"
 #include "StatusLine.h"
 
@@ -54,6 +55,9 @@ public:
 
     // What Enter in the prompt does with its text when nothing is being asked. Never with an empty one.
     void SetCommandHandler(std::function<void(const std::wstring&)> onCommand);
+    // How a text of several lines that is pasted into the prompt becomes one; without it the first line
+    // counts.
+    void SetPasteHandler(CJoinLines join) { m_joinLines = std::move(join); }
     // The entries of the menu Items, and what choosing one does with its index.
     void SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem);
     // What Plug-in > Reload does; without a handler it is grey.
@@ -139,6 +143,7 @@ private:
     bool m_isStripMoving = false;
 
     std::function<void(const std::wstring&)> m_onCommand;
+    CJoinLines m_joinLines;
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
     std::function<void(int, int)> m_onFormat;

@@ -77,6 +77,7 @@ void CMainWindow::CreateControls() {
     m_output = std::make_unique<COutputList>(m_window);
     m_label = CreateControl(m_window, IDC_LABEL, L"STATIC", SS_NOPREFIX | SS_LEFTNOWORDWRAP);
     m_prompt = CreateControl(m_window, IDC_PROMPT, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP);
+    JoinPastedLines(m_prompt, m_joinLines);
     m_status = std::make_unique<CStatusLine>(m_window);
     m_drawing->SetMoveHandler([this](SPoint point) { m_status->ShowPoint(point); });
     SetFont(m_output->Handle(), m_codeFont);

@@ -1,6 +1,8 @@
 // DevHost without --eval: LISP typed at the prompt, results in the list above it.
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "HostProcess.h"
 
 namespace {
@@ -113,6 +115,29 @@ TEST_F(Prompt, InASmallWindowPromptAndLastLineStayInSight) {
     const RECT output = place(m_output);
     EXPECT_GE(BottomOfText(m_output), 0);
     EXPECT_LT(BottomOfText(m_output), output.bottom - output.top);
+    Close();
+}
+
+void PutOnClipboard(const std::wstring& text) {
+    const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+    std::memcpy(GlobalLock(memory), text.c_str(), bytes);
+    GlobalUnlock(memory);
+    ASSERT_TRUE(WaitUntil([] { return OpenClipboard(nullptr) != FALSE; }));
+    EmptyClipboard();
+    SetClipboardData(CF_UNICODETEXT, memory);
+    CloseClipboard();
+}
+
+TEST_F(Prompt, PastedLinesOfLispBecomeOne) {
+    PutOnClipboard(L"(defun f (x) ; doubles\r\n  (* 2 x))\r\n(f 4)\r\n");
+    SendMessageW(m_prompt, WM_PASTE, 0, 0);
+    EXPECT_EQ(TextOf(m_prompt), L"(defun f (x) (* 2 x)) (f 4)");
+    PutOnClipboard(L" ; one line as it is");
+    SendMessageW(m_prompt, WM_PASTE, 0, 0);
+    EXPECT_EQ(TextOf(m_prompt), L"(defun f (x) (* 2 x)) (f 4) ; one line as it is");
+    PostMessageW(m_prompt, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"\r\nF\r\n8"); }));
     Close();
 }
 
