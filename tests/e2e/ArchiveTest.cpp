@@ -20,8 +20,14 @@ std::string BytesOf(const fs::path& file) {
 
 class Archive : public testing::Test {
 protected:
-    void SetUp() override {
+    // Packed once, for it takes long; unpacked for each test.
+    static void SetUpTestSuite() {
+        packed = new HostRun;
         archive = Pack("dist");
+    }
+    static void TearDownTestSuite() { delete packed; }
+
+    void SetUp() override {
         ASSERT_TRUE(fs::exists(archive)) << "scripts/pack-dist made no archive";
         OutputOf("cd '" + host.Folder().string() + "' && cmake -E tar xf '" + archive.string() + "'");
         unpacked = host.Folder() / archive.stem();
@@ -29,16 +35,17 @@ protected:
     }
 
     // The archive for 64 bit, packed into a folder of that name.
-    fs::path Pack(const std::string& name) const {
-        const fs::path folder = host.Folder() / name;
+    static fs::path Pack(const std::string& name) {
+        const fs::path folder = packed->Folder() / name;
         OutputOf(SCRIPTS_DIR "/pack-dist x64 '" + folder.string() + "'");
         for (const fs::directory_entry& file : fs::directory_iterator(folder))
             return file.path();
         return {};
     }
 
+    static inline HostRun* packed = nullptr;  // its folder holds the archives
+    static inline fs::path archive;
     HostRun host;
-    fs::path archive;
     fs::path unpacked;
 };
 

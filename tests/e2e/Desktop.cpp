@@ -1,9 +1,33 @@
 #include "Desktop.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
+
+namespace {
+
+// A failure that tells what was on the screen; the picture stays in the build folder.
+void FailWithScreen(const std::string& message) {
+    static int count = 0;
+    const std::string picture = std::string(WORK_DIR) + "/failure-" + std::to_string(++count) + ".png";
+    OutputOf("mkdir -p " WORK_DIR "; import -window root " + picture);
+    ADD_FAILURE() << message << "\nthe active window: " << OutputOf("xdotool getactivewindow getwindowname")
+                  << "\nthe screen: " << picture;
+}
+
+std::vector<std::string> VisibleWindows(const std::string& windowClass) {
+    std::istringstream found(OutputOf("xdotool search --onlyvisible --class '" + windowClass + "'"));
+    std::vector<std::string> windows;
+    for (std::string id; std::getline(found, id);)
+        windows.push_back(id);
+    return windows;
+}
+
+}  // namespace
 
 std::string OutputOf(const std::string& command) {
     std::string output;
@@ -64,26 +88,41 @@ Window Window::WithTitle(const std::string& title) {
         std::istringstream found(OutputOf("xdotool search --onlyvisible --name '^" + title + "$'"));
         return static_cast<bool>(std::getline(found, window.m_id));
     });
+    if (!window.IsValid())
+        FailWithScreen("no window has the title " + title);
     return window;
 }
 
 Window Window::WithoutTitle(const std::string& windowClass) {
     Window window;
     WaitUntil([&] {
-        std::istringstream found(OutputOf("xdotool search --onlyvisible --class '" + windowClass + "'"));
-        for (std::string id; std::getline(found, id);) {
+        for (const std::string& id : VisibleWindows(windowClass)) {
             if (OutputOf("xdotool getwindowname " + id) == "\n")
                 window.m_id = id;
         }
         return window.IsValid();
     });
+    if (!window.IsValid())
+        FailWithScreen("no window without a title belongs to " + windowClass);
     return window;
 }
 
-Window Window::WithId(const std::string& id) {
-    Window window;
-    window.m_id = id;
-    return window;
+Window Window::OpenedBy(const std::function<void()>& action, const std::string& windowClass) {
+    const std::vector<std::string> before = VisibleWindows(windowClass);
+    action();
+    Window opened;
+    WaitUntil([&] {
+        for (const std::string& id : VisibleWindows(windowClass)) {
+            if (std::find(before.begin(), before.end(), id) == before.end())
+                opened.m_id = id;
+        }
+        return opened.IsValid();
+    });
+    if (opened.IsValid())
+        opened.LookWhenStill();
+    else
+        FailWithScreen("no window of " + windowClass + " opened");
+    return opened;
 }
 
 bool Window::IsActive() const {
@@ -94,8 +133,19 @@ bool Window::IsOpen() const {
     return OutputOf("xwininfo -id " + m_id).find("IsViewable") != std::string::npos;
 }
 
-void Window::Activate() const {
-    OutputOf("xdotool windowactivate --sync " + m_id);
+bool Window::Activate() const {
+    bool open = true;
+    const bool done = WaitUntil([&] {
+        open = IsOpen();
+        if (!open || IsActive())
+            return true;
+        // With a bound: a window that vanishes now never becomes active.
+        OutputOf("timeout 2 xdotool windowactivate --sync " + m_id);
+        return IsActive();
+    });
+    if (!done)
+        FailWithScreen("the window " + m_id + " does not become active");
+    return done && open;
 }
 
 void Window::Click(int x, int y) const {
@@ -107,7 +157,7 @@ void Window::Click(int x, int y) const {
 void Window::DoubleClick(int x, int y) const {
     std::ostringstream command;
     command << "xdotool mousemove --window " << m_id << ' ' << x << ' ' << y
-            << " click --repeat 2 --delay 60 1";
+            << " click --repeat 2 --delay 20 1";
     OutputOf(command.str());
 }
 
@@ -134,14 +184,14 @@ void Window::Wheel(int x, int y, int notches) const {
 }
 
 void Window::Press(const std::string& key) const {
-    Activate();
-    OutputOf("xdotool key " + key);
+    if (Activate())
+        OutputOf("xdotool key " + key);
 }
 
 bool Window::PressUntilClosed(const std::string& key) const {
     for (int tries = 0; tries < 20 && IsOpen(); ++tries) {
         Press(key);
-        WaitUntil([this] { return !IsOpen(); }, 1);
+        WaitUntil([this] { return !IsOpen(); }, 3);
     }
     return !IsOpen();
 }

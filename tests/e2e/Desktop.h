@@ -11,8 +11,9 @@
 // What a shell command printed; its exit status is dropped.
 std::string OutputOf(const std::string& command);
 
-// Asks again and again until `condition` holds; false when it does not within `seconds`.
-bool WaitUntil(const std::function<bool()>& condition, int seconds = 20);
+// Asks again and again until `condition` holds; false when it does not within `seconds`. The bound is there
+// for what hangs: a busy machine needs long for what takes no time on an idle one.
+bool WaitUntil(const std::function<bool()>& condition, int seconds = 60);
 
 // Presses keys (names that xdotool knows) or types a text in the window that has the focus.
 void PressKeys(const std::string& names);
@@ -41,19 +42,23 @@ private:
 // A top-level window. Coordinates are pixels from the upper left of its client area.
 class Window {
 public:
-    // The visible window with exactly this title, once it is there; an invalid one after 20 seconds.
+    // The visible window with exactly this title, once it is there. When it does not come up the test fails
+    // with a picture of the screen, and the window is an invalid one.
     static Window WithTitle(const std::string& title);
 
-    // The visible window without a title of a program, by its window class; an invalid one after 20 seconds.
+    // The visible window without a title of a program, by its window class; waited for in the same way.
     static Window WithoutTitle(const std::string& windowClass);
 
-    // A window that is known by its X id.
-    static Window WithId(const std::string& id);
+    // The visible window of a program, by its window class, that was not there before `action`: a menu, a
+    // list, a calendar. Still by the time that it is given; waited for in the same way.
+    static Window OpenedBy(const std::function<void()>& action, const std::string& windowClass);
 
     bool IsValid() const { return !m_id.empty(); }
     bool IsOpen() const;
     bool IsActive() const;
-    void Activate() const;
+    // Gives it the focus and waits until it has it. False when it is closed; a window that stays without the
+    // focus fails the test.
+    bool Activate() const;
     void Click(int x, int y) const;
     void DoubleClick(int x, int y) const;
     // Moves the mouse with the button held.

@@ -24,7 +24,7 @@ protected:
         window = Window::WithTitle("DevHost");
         ASSERT_TRUE(window.IsValid());
         screen = window.LookWhenStill();
-        window.Activate();
+        ASSERT_TRUE(window.Activate());
     }
 
     // Types a line at the prompt.
@@ -65,6 +65,15 @@ protected:
         Point point;
         result.ignore(1) >> point.x >> point.y;
         return point;
+    }
+
+    // Opens a menu of the status line with a click so far from the right edge, and presses keys in it.
+    void ChooseInMenu(int fromRight, const std::string& keys) const {
+        const Window menu = Window::OpenedBy(
+            [&] { window.Click(screen.Width() - fromRight, screen.Height() - 12); }, "devhost.exe");
+        ASSERT_TRUE(menu.IsValid());
+        PressKeys(keys);
+        EXPECT_TRUE(WaitUntil([&] { return !menu.IsOpen(); }));
     }
 
     bool WaitForInk(int x, int y) const {
@@ -114,12 +123,9 @@ TEST_F(DevHostWindow, WhatLispDrawsCanBeZoomedPannedAndPicked) {
 
 TEST_F(DevHostWindow, UnitsAndPrecisionAreChosenInTheStatusLine) {
     EXPECT_EQ(Evaluate("(getvar \"LUNITS\")"), "2");
-    // The menus open upwards, with the mouse on their last entries.
-    window.Click(screen.Width() - 200, screen.Height() - 12);
-    PressKeys("Down Down Down Down Return");
+    ChooseInMenu(200, "Home Down Down Down Return");
     EXPECT_EQ(Evaluate("(list 1 (getvar \"LUNITS\"))"), "(1 4)");
-    window.Click(screen.Width() - 80, screen.Height() - 12);
-    PressKeys("Down Down Return");
+    ChooseInMenu(80, "Home Down Return");
     EXPECT_EQ(Evaluate("(list 2 (getvar \"LUPREC\"))"), "(2 1)");
     window.Press("alt+F4");
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
@@ -129,8 +135,7 @@ TEST_F(DevHostWindow, F1TellsWhatItIs) {
     window.Press("F1");
     const Window about = Window::WithTitle("About DevHost");
     ASSERT_TRUE(about.IsValid());
-    about.Press("Return");
-    EXPECT_TRUE(WaitUntil([&] { return !about.IsOpen(); }));
+    EXPECT_TRUE(about.PressUntilClosed("Return"));
     window.Press("alt+F4");
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }

@@ -5,19 +5,7 @@
 #include <iterator>
 #include <sstream>
 
-namespace {
-
 namespace fs = std::filesystem;
-
-std::vector<std::string> GalleryWindows() {
-    std::istringstream found(OutputOf("xdotool search --onlyvisible --class gridgallery.exe"));
-    std::vector<std::string> windows;
-    for (std::string id; std::getline(found, id);)
-        windows.push_back(id);
-    return windows;
-}
-
-}  // namespace
 
 GalleryWindow::GalleryWindow() {
     const fs::path folder = run.Folder() / "program";
@@ -32,8 +20,7 @@ void GalleryWindow::Open() {
     gallery = Window::WithTitle("Grid gallery");
     ASSERT_TRUE(gallery.IsValid()) << run.Errors();
     // The window manager gives it the focus some time after it has come up.
-    gallery.Activate();
-    ASSERT_TRUE(WaitUntil([this] { return gallery.IsActive(); }));
+    ASSERT_TRUE(gallery.Activate());
     gallery.LookWhenStill();
     ReadPlaces();
 }
@@ -43,11 +30,12 @@ void GalleryWindow::ReadPlaces() {
         const std::vector<std::string> lines = Lines();
         return std::count(lines.begin(), lines.end(), "places end");
     };
-    // A key may come before Wine knows that the window has the focus: it is pressed again.
+    // A key may come before Wine knows that the window has the focus: it is pressed again. Not soon: the
+    // first one may only be late, and a second telling would be taken for a later one.
     const auto before = ends();
     ASSERT_TRUE(WaitUntil([&] {
         PressKeys("F1");
-        return WaitUntil([&] { return ends() > before; }, 2);
+        return WaitUntil([&] { return ends() > before; }, 8);
     })) << "the gallery did not tell its places";
     places.clear();
     placeOrder.clear();
@@ -81,33 +69,17 @@ void GalleryWindow::DoubleClickValue(const std::string& name) const {
 }
 
 Window GalleryWindow::OpenDialog(const std::string& name, const std::string& title) const {
-    EXPECT_TRUE(WaitUntil([this] { return gallery.IsActive(); })) << "the gallery did not come to the front";
+    EXPECT_TRUE(gallery.Activate());
     DoubleClickValue(name);
     Window dialog = Window::WithTitle(title);
     EXPECT_TRUE(dialog.IsValid()) << "no dialog for " << name;
-    EXPECT_TRUE(WaitUntil([&] { return dialog.IsActive(); })) << "the dialog has not the focus";
-    if (dialog.IsValid())
+    if (dialog.IsValid() && dialog.Activate())
         dialog.LookWhenStill();
     return dialog;
 }
 
 Window GalleryWindow::DropDown(const std::string& name) const {
-    const std::vector<std::string> before = GalleryWindows();
-    ClickValue(name);
-    Window opened;
-    EXPECT_TRUE(WaitUntil([&] {
-        for (const std::string& id : GalleryWindows()) {
-            if (std::find(before.begin(), before.end(), id) == before.end()) {
-                opened = Window::WithId(id);
-                return true;
-            }
-        }
-        return false;
-    })) << "nothing drops down under "
-        << name;
-    if (opened.IsValid())
-        opened.LookWhenStill();
-    return opened;
+    return Window::OpenedBy([&] { ClickValue(name); }, "gridgallery.exe");
 }
 
 void GalleryWindow::PressKeys(const std::string& keys) {
@@ -141,14 +113,13 @@ std::vector<std::string> GalleryWindow::Changes() const {
 }
 
 void GalleryWindow::ExpectChanges(const std::vector<std::string>& changes) const {
-    WaitUntil([&] { return Changes().size() >= changes.size(); }, 10);
+    WaitUntil([&] { return Changes().size() >= changes.size(); });
     EXPECT_EQ(Changes(), changes);
 }
 
 void GalleryWindow::CloseExpecting(const std::vector<std::string>& changes) {
     ExpectChanges(changes);
-    EXPECT_TRUE(WaitUntil([this] { return gallery.IsActive(); }));
-    PressKeys("Escape");
+    EXPECT_TRUE(gallery.PressUntilClosed("Escape"));
     EXPECT_EQ(run.Wait(), 0) << run.Errors();
     EXPECT_EQ(Changes(), changes);
     EXPECT_EQ(run.Errors().find("heap check"), std::string::npos) << run.Errors();

@@ -1,22 +1,25 @@
 #include "HostRun.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 
 #include "Desktop.h"
 
 namespace {
 
-void RedirectTo(const std::filesystem::path& file, int descriptor) {
-    const int opened = open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    dup2(opened, descriptor);
+bool RedirectTo(const char* file, int descriptor) noexcept {
+    const int opened = open(file, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    const bool done = dup2(opened, descriptor) == descriptor;
     close(opened);
+    return done;
 }
 
 }  // namespace
@@ -28,6 +31,8 @@ HostRun::HostRun() : m_program(BIN_DIR "/DevHost.exe") {
 }
 
 HostRun::~HostRun() {
+    if (m_wasStarted && testing::Test::HasFailure())
+        Tell();
     if (m_process > 0) {
         kill(m_process, SIGKILL);
         waitpid(m_process, nullptr, 0);
@@ -60,29 +65,49 @@ void HostRun::Start(const std::vector<std::string>& arguments) {
 }
 
 void HostRun::StartProgram(const std::vector<std::string>& arguments) {
-    m_process = fork();
-    if (m_process != 0)
-        return;
-    std::filesystem::current_path(m_folder);
-    RedirectTo(".output", STDOUT_FILENO);
-    RedirectTo(".errors", STDERR_FILENO);
-    std::vector<std::string> words = {std::getenv("WINE"), m_program};
+    const char* const wine = std::getenv("WINE");
+    if (wine == nullptr) {
+        std::cerr << "e2e_tests: there is no stage for Windows programs: run it through scripts/with-wine\n";
+        std::exit(1);
+    }
+    std::vector<std::string> words = {wine, m_program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
     for (std::string& word : words)
         argv.push_back(word.data());
     argv.push_back(nullptr);
-    execv(argv[0], argv.data());
+    m_wasStarted = true;
+    m_process = fork();
+    if (m_process == 0)
+        Become(argv);
+}
+
+// In the child. Nothing may throw here: the tests would go on in it as well, and start further children.
+void HostRun::Become(const std::vector<char*>& argv) const noexcept {
+    if (chdir(m_folder.c_str()) == 0 && RedirectTo(".output", STDOUT_FILENO) &&
+        RedirectTo(".errors", STDERR_FILENO))
+        execv(argv[0], argv.data());
     _exit(127);
 }
 
 int HostRun::Wait(int seconds) {
+    if (m_process <= 0)
+        return -1;
     int status = 0;
     const bool ended = WaitUntil([&] { return waitpid(m_process, &status, WNOHANG) == m_process; }, seconds);
     if (!ended)
         return -1;
     m_process = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
+}
+
+void HostRun::Tell() const {
+    int status = 0;
+    const bool runs = m_process > 0 && waitpid(m_process, &status, WNOHANG) == 0;
+    std::cout << m_program.filename().string() << (runs ? " still runs" : " has ended");
+    if (m_process > 0 && !runs)
+        std::cout << " with wait status " << status;
+    std::cout << "\nits output: " << Output() << "\nits errors: " << Errors() << std::endl;
 }
 
 std::string HostRun::Answer() const {

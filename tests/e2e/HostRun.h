@@ -10,7 +10,8 @@
 class HostRun {
 public:
     HostRun();
-    ~HostRun();  // ends the program if it still runs, removes the folder
+    ~HostRun();  // ends the program if it still runs, removes the folder; first tells of it when the test
+                 // failed
     HostRun(const HostRun&) = delete;
     HostRun& operator=(const HostRun&) = delete;
 
@@ -30,7 +31,7 @@ public:
     void StartProgram(const std::vector<std::string>& arguments);
 
     // Waits for the end. The exit status, or -1 when it does not end within `seconds`.
-    int Wait(int seconds = 30);
+    int Wait(int seconds = 60);
 
     // What LISP was answered: the first line of the output.
     std::string Answer() const;
@@ -40,7 +41,13 @@ public:
     std::string Errors() const { return Read(".errors"); }
 
 private:
+    // Prints whether it still runs and what it printed.
+    void Tell() const;
+    // Makes this process the program, with `argv` that ends with a null; ends it when that fails.
+    [[noreturn]] void Become(const std::vector<char*>& argv) const noexcept;
+
     std::filesystem::path m_folder;
     std::filesystem::path m_program;
     pid_t m_process = -1;
+    bool m_wasStarted = false;
 };

@@ -49,21 +49,21 @@ TEST_F(ItemDialog, CancelAnswersNilAndLeavesTheFilesAlone) {
 
 TEST_F(ItemDialog, EscapeAnswersNilAndLeavesTheFilesAlone) {
     Open();
-    dialog.Press("Escape");
+    EXPECT_TRUE(dialog.PressUntilClosed("Escape"));
     EXPECT_EQ(Answer(), "nil");
     ExpectFilesUntouched();
 }
 
 TEST_F(ItemDialog, TheCloseBoxAnswersNilAndLeavesTheFilesAlone) {
     Open();
-    dialog.Press("alt+F4");
+    EXPECT_TRUE(dialog.PressUntilClosed("alt+F4"));
     EXPECT_EQ(Answer(), "nil");
     ExpectFilesUntouched();
 }
 
 TEST_F(ItemDialog, EnterPressesOk) {
     Open();
-    dialog.Press("Return");
+    EXPECT_TRUE(dialog.PressUntilClosed("Return"));
     EXPECT_EQ(Answer(), "0");
 }
 
@@ -96,7 +96,7 @@ TEST_F(ItemDialog, OpensWithoutAPicture) {
     ASSERT_TRUE(dialog.IsValid());
     LookWhenPainted();
     EXPECT_EQ(screen.At(X(200), Y(150)), dialogGrey);
-    dialog.Press("Escape");
+    EXPECT_TRUE(dialog.PressUntilClosed("Escape"));
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
@@ -104,7 +104,7 @@ TEST_F(ItemDialog, AMissingItemIsNamedAndAnswersNil) {
     host.Start({"--eval", R"((tavrinwnd "nothing"))"});
     const Window box = Window::WithTitle("Error!");
     ASSERT_TRUE(box.IsValid());
-    box.Press("Return");
+    EXPECT_TRUE(box.PressUntilClosed("Return"));
     EXPECT_EQ(Answer(), "nil");
 }
 

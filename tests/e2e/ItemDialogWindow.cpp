@@ -6,6 +6,7 @@ void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
                 "--eval", call});
     dialog = Window::WithTitle("Porta a battente");
     ASSERT_TRUE(dialog.IsValid()) << host.Errors();
+    ASSERT_TRUE(dialog.Activate());
     LookWhenPainted();
 }
 

@@ -84,8 +84,7 @@ TEST_F(ItemEditing, TextThatIsNoDistanceIsRefusedAndTheValueKept) {
     PressKeys("Return");
     const Window box = Window::WithTitle("Invalid value");
     ASSERT_TRUE(box.IsValid());
-    box.Press("Return");
-    EXPECT_TRUE(WaitUntil([&] { return !box.IsOpen(); }));
+    EXPECT_TRUE(box.PressUntilClosed("Return"));
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("#1"), "#1 = 900");

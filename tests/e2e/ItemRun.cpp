@@ -23,6 +23,7 @@ void ItemRun::Choose(int column, int row, int columns, int rows) const {
 void ItemRun::ExpectDialog(const std::string& title) {
     dialog = Window::WithTitle(title);
     ASSERT_TRUE(dialog.IsValid()) << host.Errors();
+    ASSERT_TRUE(dialog.Activate());
     LookWhenPainted();
 }
 
@@ -31,7 +32,7 @@ void ItemRun::PlaceAt(const std::string& point) {
     EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }));
     const Window main = Window::WithTitle("DevHost");
     ASSERT_TRUE(main.IsValid());
-    main.Activate();
+    ASSERT_TRUE(main.Activate());
     TypeText(point);
     PressKeys("Return");
 }

@@ -152,7 +152,7 @@ TEST(AnyHost, IsToldWhichFunctionItLacks) {
     ASSERT_TRUE(box.IsValid()) << host.Errors();
     const Screenshot shown = box.LookWhenStill();
     EXPECT_GT(shown.Width(), 100);
-    box.Press("Return");
+    EXPECT_TRUE(box.PressUntilClosed("Return"));
     // Its exit status is what the load request answered: refused, without a crash.
     EXPECT_EQ(host.Wait(), 3) << host.Errors();
 }
