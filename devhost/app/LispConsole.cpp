@@ -64,9 +64,16 @@ SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoi
     return answer;
 }
 
+// Not each time that LISP asks: handling messages repaints what was drawn meanwhile, and a large drawing
+// would be repainted more than it is drawn.
 bool CLispConsole::IsEscapePressed() {
+    constexpr unsigned long long kPause = 50;  // milliseconds
+    if (GetTickCount64() - m_lastLook < kPause)
+        return false;
     m_output.TellNowAndThen();
-    return m_window.PollEscape();
+    const bool isPressed = m_window.PollEscape();
+    m_lastLook = GetTickCount64();
+    return isPressed;
 }
 
 void ShowAlert(CMainWindow& window, CTextOutput& output, const std::wstring& text) {

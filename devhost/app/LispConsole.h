@@ -31,6 +31,7 @@ private:
     CTextOutput& m_output;
     const CSearchPath& m_searchPath;
     CSystemVariables& m_variables;
+    unsigned long long m_lastLook = 0;  // for Escape; milliseconds of the system's clock
 };
 
 // A message box over the window or the dialog that is open over it, repeated in the output.
