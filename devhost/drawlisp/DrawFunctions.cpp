@@ -5,6 +5,9 @@
 
 namespace {
 
+// More than any item draws: a loop without end is told so before the memory is used up.
+constexpr std::size_t kMostEntities = 1'000'000;
+
 SPoint PointOf(const CArguments& arguments, std::size_t index) {
     const SLispPoint point = arguments.Point(index);
     return {point.x, point.y};
@@ -51,6 +54,9 @@ template <typename TMake>
 void DefineEntity(CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name, int least, int most,
                   TMake make) {
     const auto run = [&drawing, make](const CArguments& arguments) -> CLispResult {
+        if (drawing.Entities().size() >= kMostEntities)
+            arguments.Fail(L"the drawing holds " + std::to_wstring(kMostEntities) +
+                           L" entities already: does a loop draw without end?");
         if (!drawing.Add(make(arguments)))
             arguments.Fail(L"a number is beyond 1e12 and cannot be drawn");
         return CValue::True();
