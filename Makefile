@@ -5,7 +5,7 @@ BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
-LINT_PACKAGES = clang-format clang-tidy cppcheck
+LINT_PACKAGES = clang-format clang-tidy cppcheck shellcheck
 PRESETS = native x64 x86
 
 .PHONY: help build test run screenshots gallery lint coverage bench fuzz soak rules dist packages
@@ -21,7 +21,7 @@ help:
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
-	@echo "make lint     the format of all sources, compiler warnings, clang-tidy and cppcheck"
+	@echo "make lint     the format of all sources, compiler warnings, clang-tidy, cppcheck, shellcheck"
 	@echo "make coverage what the tests run of the code; the figures go to docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make rules    write what tavrincheck says of its rules into docs/tavrincheck.md"
