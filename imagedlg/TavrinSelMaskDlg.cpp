@@ -46,7 +46,7 @@ CTavrinSelMaskDlg::CTavrinSelMaskDlg(CWnd* parent) : CDialog(IDD, parent) {}
 void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
     for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
-        DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, m_pictures[cell - 1]);
+        DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, PictureOf(cell));
     DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
 }
 
@@ -169,10 +169,16 @@ CString CTavrinSelMaskDlg::GetCellPath(int cell) {
     return content == CELL_LOGO ? GetLogoPath() : GetSlidePath(m_choices[content]);
 }
 
+CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
+    CPictureCtrl* const pictures[CHOICE_CELLS] = {&m_picture1, &m_picture2, &m_picture3,
+                                                  &m_picture4, &m_picture5, &m_picture6};
+    return *pictures[cell - 1];
+}
+
 void CTavrinSelMaskDlg::LoadSlides() {
     // An empty path cannot be loaded, and a load that fails leaves the cell empty.
     for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
-        m_pictures[cell - 1].LoadFromFile(GetCellPath(cell));
+        PictureOf(cell).LoadFromFile(GetCellPath(cell));
     SelectCell(1);
 }
 
@@ -189,8 +195,8 @@ void CTavrinSelMaskDlg::ArrangeForCount() {
             MoveButton(m_btnReplace, *arrangement->replace);
         // With one row the buttons stand where empty cells of the other row are, which would take their
         // clicks: the buttons must lie above.
-        for (CPictureCtrl& picture : m_pictures)
-            picture.SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+            PictureOf(cell).SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     CenterWindow();
 }
@@ -212,7 +218,7 @@ void CTavrinSelMaskDlg::PaintFrames() {
     }
     for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
         if (HasChoiceFrame(m_nCount, cell))
-            PaintFrame(dc, AreaOf(m_pictures[cell - 1]), cell - 1 == m_nSelCell ? black : white);
+            PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_nSelCell ? black : white);
     }
 }
 

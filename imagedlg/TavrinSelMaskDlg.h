@@ -91,11 +91,17 @@ protected:
 
 private:
     CString GetCellPath(int cell);
+    CPictureCtrl& PictureOf(int cell);
     void EndWith(EResult result);
     CRect AreaOf(const CWnd& control);
 
-    CPictureCtrl m_pictures[CHOICE_CELLS];  // of cell 1 and on
-    CBrush m_brush;                         // white, behind everything
+    CPictureCtrl m_picture1;  // of cell 1, and so on
+    CPictureCtrl m_picture2;
+    CPictureCtrl m_picture3;
+    CPictureCtrl m_picture4;
+    CPictureCtrl m_picture5;
+    CPictureCtrl m_picture6;
+    CBrush m_brush;  // white, behind everything
     unsigned m_nCount = 0;
     int m_nSelChoice = 0;  // from 0
     int m_nSelCell = 0;    // from 0
