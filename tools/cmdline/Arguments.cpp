@@ -1,22 +1,9 @@
 #include "Arguments.h"
 
-#include <charconv>
 #include <cmath>
-#include <system_error>
 
 #include "Files.h"
-
-namespace {
-
-template <class Number>
-std::optional<Number> WholeNumber(const std::string& text) {
-    Number number{};
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isWhole = result.ec == std::errc() && result.ptr == text.data() + text.size();
-    return isWhole ? std::optional(number) : std::nullopt;
-}
-
-}  // namespace
+#include "WholeNumber.h"
 
 bool CArguments::Next() {
     if (m_next == m_arguments.size()) {

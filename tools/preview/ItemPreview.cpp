@@ -1,26 +1,15 @@
 #include "ItemPreview.h"
 
-#include <charconv>
 #include <cmath>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 #include "CodePage.h"
 #include "LinearUnits.h"
 #include "NumberText.h"
+#include "WholeNumber.h"
 
 namespace {
-
-// The number that a text is as a whole.
-template <class Number>
-std::optional<Number> WholeNumber(const std::wstring& text) {
-    const std::string bytes = Utf8Text(text);
-    Number number{};
-    const auto result = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
-    const bool isWhole = result.ec == std::errc() && result.ptr == bytes.data() + bytes.size();
-    return isWhole ? std::optional(number) : std::nullopt;
-}
 
 std::string Quoted(const std::wstring& text) {
     return "'" + Utf8Text(text) + "'";
@@ -78,14 +67,15 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
     }
     ParamRecord& record = parameter.record;
     if (record.type == 'I') {
-        const std::optional<int> whole = WholeNumber<int>(value);
+        const std::optional<int> whole = WholeNumber<int>(Utf8Text(value));
         if (!whole) {
             throw CToolError("parameter " + Quoted(number) + " takes a whole number, not " + Quoted(value));
         }
         record.intValue = *whole;
         return;
     }
-    const std::optional<double> real = record.type == 'D' ? ParseLinear(value) : WholeNumber<double>(value);
+    const std::optional<double> real =
+        record.type == 'D' ? ParseLinear(value) : WholeNumber<double>(Utf8Text(value));
     if (!real || !std::isfinite(*real)) {
         throw CToolError("parameter " + Quoted(number) +
                          (record.type == 'D' ? " takes a distance, not " : " takes a real number, not ") +

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "BlockTracker.h"
+#include "Characters.h"
 #include "ItemFiles.h"
 #include "LineRules.h"
 
@@ -46,7 +47,12 @@ constexpr SRule kParameterOutside = {
 constexpr const SRule* kRules[] = {&kBlockMissing, &kBlockLineMisspelt, &kBlockUnclosed,   &kBlockNested,
                                    &kBlockEmpty,   &kBlockCloseStray,   &kParameterOutside};
 
-// The letters and digits of a line in capitals, without anything between; nothing when there are too many for
+// A blank or a control character.
+bool IsNothing(wchar_t character) {
+    return character <= L' ' || IsBlank(character);
+}
+
+// The letters of a line in capitals, without anything between; nothing when there are too many for
 // a line that opens or closes a block.
 std::wstring Letters(const std::wstring& text) {
     constexpr std::size_t kMost = 6;
@@ -54,12 +60,11 @@ std::wstring Letters(const std::wstring& text) {
     for (const wchar_t character : text) {
         const bool isSmall = character >= L'a' && character <= L'z';
         const bool isCapital = character >= L'A' && character <= L'Z';
-        const bool isBlank = character <= L' ' || character == L'\u00A0';
         const bool isSign = std::wstring_view(L"_-.:;").find(character) != std::wstring_view::npos;
         if (isSmall || isCapital) {
             letters += isSmall ? static_cast<wchar_t>(character - L'a' + L'A') : character;
         }
-        if ((!isSmall && !isCapital && !isBlank && !isSign) || letters.size() > kMost) {
+        if ((!isSmall && !isCapital && !IsNothing(character) && !isSign) || letters.size() > kMost) {
             return {};
         }
     }
@@ -136,12 +141,11 @@ void CBlockRules::TakeOutside(const SItemLine& line) {
 
 bool CBlockRules::ReportMisspelt(const SItemLine& line, bool opening) {
     const std::wstring& text = line.text;
-    const auto isBlank = [](wchar_t c) { return c <= L' ' || c == L'\u00A0'; };
     std::string reason = "write it in capitals and without other signs";
     if (text.find_first_of(L"abcdefghijklmnopqrstuvwxyz") == std::wstring::npos) {
-        if (!text.empty() && isBlank(text.back())) {
+        if (!text.empty() && IsNothing(text.back())) {
             reason = "nothing may stand behind it, not even a blank";
-        } else if (!text.empty() && isBlank(text.front())) {
+        } else if (!text.empty() && IsNothing(text.front())) {
             reason = "nothing may stand before it, not even a blank";
         }
     }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "Characters.h"
 #include "TemplateText.h"
 
 namespace {
@@ -11,15 +12,6 @@ namespace {
 // Quotes of word processors, in code page 1252, and what else is taken for one.
 constexpr std::wstring_view kForeignQuotes = L"\u0093\u0094\u0084\u0091\u0092\u00AB\u00BB'`\u00B4";
 constexpr std::wstring_view kTypeLetters = L"IDRidr";
-
-bool IsBlank(wchar_t character) {
-    return character == L' ' || character == L'\t' || character == L'\v' || character == L'\f' ||
-           character == L'\u00A0';
-}
-
-bool IsDigit(wchar_t character) {
-    return character >= L'0' && character <= L'9';
-}
 
 bool IsLetter(wchar_t character) {
     return (character >= L'A' && character <= L'Z') || (character >= L'a' && character <= L'z');

@@ -1,5 +1,6 @@
 #include "LineRules.h"
 
+#include "Characters.h"
 #include "LineRepair.h"
 #include "NumberText.h"
 
@@ -70,7 +71,7 @@ constexpr SRepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNu
 
 // Whether the reader would take the line if it began with "$" where it has `signs` characters now.
 bool LacksDollar(const std::wstring& line, std::size_t signs) {
-    return line.size() > signs && line[signs] >= L'0' && line[signs] <= L'9' &&
+    return line.size() > signs && IsDigit(line[signs]) &&
            ParseParameterLine(L'$' + line.substr(signs)).has_value();
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "Characters.h"
+
 namespace {
 
 constexpr SRule kPlaceholderZero = {"placeholder-zero", SV_ERROR,
@@ -24,10 +26,6 @@ constexpr SRule kPlaceholderBroken = {
     "$1 = \"<< 1501 >>\"D 900\n$2 = \"<<1502>\"D 2100\n$3 = \"<1503>\"D 125"};
 
 constexpr const SRule* kRules[] = {&kPlaceholderZero, &kPlaceholderTooLarge, &kPlaceholderBroken};
-
-bool IsDigit(wchar_t character) {
-    return character >= L'0' && character <= L'9';
-}
 
 // Whether the text, which the reader finds no number in, has the form of a placeholder all the same: the
 // reader finds one as soon as a digit is put into it.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Characters.h"
 #include "CodePage.h"
 #include "ItemFiles.h"
 #include "PlaceholderRules.h"
@@ -39,10 +40,6 @@ constexpr SRule kTitleTooLong = {"title-too-long", SV_WARNING, "the title is lon
 
 constexpr const SRule* kRules[] = {&kTitleMissing, &kTitleTextLost, &kTitleTextUnknown, &kTitleTooLong};
 
-bool IsBlank(const std::wstring& text) {
-    return std::all_of(text.begin(), text.end(), [](wchar_t c) { return c == L' ' || c == L'\t'; });
-}
-
 }  // namespace
 
 RuleList TitleRules() {
@@ -66,7 +63,7 @@ void CTitleRules::TakeLine(const SItemLine& line) {
 
 void CTitleRules::CheckForm(const SItemLine& line) {
     const std::wstring& text = line.text;
-    if (IsBlank(text)) {
+    if (std::all_of(text.begin(), text.end(), IsBlank)) {
         Findings().Add(kTitleMissing, line, 0, text.size(), "the second line, the dialog's title, is empty");
     } else if (line.kind != LK_OUTSIDE || ParseParameterLine(text)) {
         Findings().Add(kTitleMissing, line, 0, text.size(),
