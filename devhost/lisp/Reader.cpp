@@ -163,14 +163,17 @@ CValue CReader::ReadTail(SPosition dot, int depth) {
 }
 
 CValue CReader::ReadString(SPosition start) {
+    const std::size_t quote = m_next - 1;
     std::wstring text;
     for (;;) {
         if (AtEnd())
             Fail(start, L"a text is not closed");
         const SPosition position = m_position;
         wchar_t c = Take();
-        if (c == L'"')
+        if (c == L'"') {
+            m_textPlaces.push_back({quote, m_next - quote});
             return CValue::String(std::move(text));
+        }
         if (c == L'\\') {
             if (AtEnd())
                 Fail(start, L"a text is not closed");

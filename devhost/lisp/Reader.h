@@ -5,8 +5,10 @@
 // that ends with the line; one between ;| and |; may span lines.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "LispError.h"
 #include "Value.h"
@@ -21,6 +23,13 @@ public:
     // escape, a misplaced dot, a whole number beyond 32 bits, a real that a double cannot hold, expressions
     // nested more than a thousand deep.
     std::optional<CValue> Read();
+
+    // Where the texts that were read stand with their quotes, in characters from 0, in their order.
+    struct SPlace {
+        std::size_t start = 0;
+        std::size_t length = 0;
+    };
+    const std::vector<SPlace>& TextPlaces() const { return m_textPlaces; }
 
 private:
     struct SPosition {
@@ -44,6 +53,7 @@ private:
     std::wstring_view m_text;
     std::size_t m_next = 0;
     SPosition m_position;
+    std::vector<SPlace> m_textPlaces;
 };
 
 // Whether `name` reads as a symbol other than T and nil, so that it can name a function or a variable.

@@ -69,9 +69,9 @@ public:
 private:
     void CheckRoutine() {
         m_text = RoutineText(*m_context.routine);
+        FindLines();
         try {
             for (const SRoutineCall& call : FindRoutineCalls(m_text)) {
-                GoToLineOf(call);
                 if (call.isChoice) {
                     CheckChoice(call);
                 } else if (!call.names.empty()) {
@@ -83,8 +83,8 @@ private:
         }
     }
 
-    void CheckPreview(const std::wstring& name) {
-        const std::string picture = Utf8Text(name + kPictureEnding);
+    void CheckPreview(const SRoutineName& name) {
+        const std::string picture = Utf8Text(name.text + kPictureEnding);
         if (!m_context.isThere(picture)) {
             AddAt(kPictureMissing, name, "the picture " + picture + " is not beside the routine");
         }
@@ -92,15 +92,15 @@ private:
 
     void CheckChoice(const SRoutineCall& call) {
         std::size_t count = 0;
-        for (const std::wstring& name : call.names) {
-            const std::string flat = Utf8Text(name + FLAT_SLIDE_ENDING);
-            const std::string inSpace = Utf8Text(name + SPACE_SLIDE_ENDING);
+        for (const SRoutineName& name : call.names) {
+            const std::string flat = Utf8Text(name.text + FLAT_SLIDE_ENDING);
+            const std::string inSpace = Utf8Text(name.text + SPACE_SLIDE_ENDING);
             if (m_context.isThere(flat) || (!call.isFlatOnly && m_context.isThere(inSpace))) {
                 ++count;
                 continue;
             }
             AddAt(kSlideMissing, name,
-                  "the choice " + Quoted(name) + " has no slide " + flat +
+                  "the choice " + Quoted(name.text) + " has no slide " + flat +
                       (call.isFlatOnly ? "" : " or " + inSpace) + " and is left out");
         }
         if (count > MAX_CHOICES) {
@@ -110,40 +110,33 @@ private:
         }
     }
 
-    // Goes to the line of a call, which is none before that of the last one.
-    void GoToLineOf(const SRoutineCall& call) {
-        for (; m_line.index + 1 < static_cast<std::size_t>(call.line); ++m_line.index) {
-            m_lineStart = m_text.find(L'\n', m_lineStart) + 1;
+    void FindLines() {
+        m_lineStarts = {0};
+        for (std::size_t end = m_text.find(L'\n'); end != std::wstring::npos;
+             end = m_text.find(L'\n', end + 1)) {
+            m_lineStarts.push_back(end + 1);
         }
-        m_next = m_lineStart;
     }
 
-    // Where the call holds the name as a text, behind the names that were found before; else where the call's
-    // line begins.
-    void AddAt(const SRule& rule, const std::wstring& name, std::string message) {
-        const std::wstring literal = L'"' + name + L'"';
-        const std::size_t found = m_text.find(literal, m_next);
-        const bool isFound = found != std::wstring::npos;  // else it is written with escapes
-        const std::size_t place = isFound ? found : m_lineStart;
-        const std::size_t length = isFound ? literal.size() : 0;
-        m_next = place + length;
-        SItemLine line = m_line;
-        std::size_t start = m_lineStart;
-        for (std::size_t end = m_text.find(L'\n', start); end < place; end = m_text.find(L'\n', start)) {
-            start = end + 1;
-            ++line.index;
-        }
-        line.text = m_text.substr(start, m_text.find_first_of(L"\r\n", place) - start);
-        m_routine.Add(rule, line, place - start, length, std::move(message));
+    void AddAt(const SRule& rule, const SRoutineName& name, std::string message) {
+        const auto next = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), name.start);
+        const std::size_t lineStart = *(next - 1);
+        const std::size_t lineEnd = next != m_lineStarts.end() ? *next : m_text.size();
+        std::wstring_view line = std::wstring_view(m_text).substr(lineStart, lineEnd - lineStart);
+        line = line.substr(0, line.find_last_not_of(L"\r\n") + 1);
+        SFinding finding = m_routine.Make(rule, std::move(message));
+        finding.line = static_cast<std::size_t>(next - m_lineStarts.begin());
+        finding.column = name.start - lineStart + 1;
+        finding.length = name.length;
+        finding.excerpt = MakeExcerpt(line, name.start - lineStart, name.length);
+        m_routine.Add(std::move(finding));
     }
 
     const SPictureContext& m_context;
     CFindingList m_item;
     CFindingList m_routine;
-    std::wstring m_text;          // of the routine
-    SItemLine m_line;             // the call's; only its index
-    std::size_t m_lineStart = 0;  // where it begins
-    std::size_t m_next = 0;       // from where on names are looked for
+    std::wstring m_text;                    // of the routine
+    std::vector<std::size_t> m_lineStarts;  // in it
 };
 
 }  // namespace

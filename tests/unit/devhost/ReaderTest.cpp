@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "Printer.h"
 
@@ -168,6 +169,16 @@ TEST(Reader, NamesOfFunctionsAreSymbolsThatAreNoConstants) {
     for (const wchar_t* name :
          {L"", L"nil", L"T", L"5", L"1.5", L".", L"a b", L"a(", L"'a", L"a;b", L"\"a\""})
         EXPECT_FALSE(IsSymbolName(name)) << testing::PrintToString(name);
+}
+
+TEST(Reader, KnowsWhereTheTextsStood) {
+    CReader reader(L"(a \"b\" ; \"no text\"\n . \"\\\"c\")'\"\"");
+    while (reader.Read()) {
+    }
+    std::vector<std::size_t> places;
+    for (const CReader::SPlace& place : reader.TextPlaces())
+        places.insert(places.end(), {place.start, place.length});
+    EXPECT_EQ(places, (std::vector<std::size_t>{3, 3, 22, 5, 29, 2}));
 }
 
 }  // namespace

@@ -64,7 +64,7 @@ TEST(Checker, ANameIsShownWhereItsCallHoldsItAndNotInARemarkBefore) {
         "(foo (tavrinprevmask \"c\") (tavrinselmask \"x\" 1 \"\\\\d\"))";
     const std::vector<SFinding> findings = CheckPictures(context);
     EXPECT_EQ(Places(findings), (PlaceList{"2:34 slide-missing", "2:38 slide-missing", "3:2 slide-missing",
-                                           "4:1 slide-missing", "4:22 picture-missing"}));
+                                           "4:22 picture-missing", "4:48 slide-missing"}));
     EXPECT_EQ(findings[0].excerpt.text, "(princ \"\xC3\xA0\") (tavrinselmask \"x\" 0 \"b\" \"c\"");
 }
 
