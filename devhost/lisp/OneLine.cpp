@@ -36,7 +36,7 @@ private:
 
     void SkipComment() {
         const bool spansLines = m_rest.starts_with(L";|");
-        const std::size_t end = spansLines ? m_rest.find(L"|;", 2) : m_rest.find_first_of(L"\r\n");
+        const std::size_t end = spansLines ? m_rest.find(L"|;", 2) : m_rest.find(L'\n');
         Replace(end == std::wstring_view::npos ? m_rest.size() : end + (spansLines ? 2 : 0));
     }
 

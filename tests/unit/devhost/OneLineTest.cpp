@@ -18,6 +18,7 @@ TEST(OneLine, CommentsAreLeftOut) {
     EXPECT_EQ(OnOneLine(L"; first\n(list 1;one\n2) ; last"), L"(list 1 2)");
     EXPECT_EQ(OnOneLine(L"(list ;| one\n ; two |; 1)\n2"), L"(list 1) 2");
     EXPECT_EQ(OnOneLine(L"1 ;| open\n2"), L"1");
+    EXPECT_EQ(OnOneLine(L"1 ; a\rb\n2"), L"1 2") << "a comment ends where the reader ends it";
 }
 
 TEST(OneLine, TextsStayWhatTheyAre) {
