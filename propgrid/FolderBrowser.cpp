@@ -20,10 +20,31 @@ private:
     bool m_started;
 };
 
-// `data` is the path to be selected.
-int CALLBACK OnBrowserEvent(HWND browser, UINT event, LPARAM /*parameter*/, LPARAM data) {
-    if (event == BFFM_INITIALIZED)
-        ::SendMessage(browser, BFFM_SETSELECTION, TRUE, data);
+// What the browser opens on.
+struct CFirstFolder {
+    const std::wstring& path;
+    bool hasSelectionCome = false;
+};
+
+bool IsFolder(LPARAM list, const std::wstring& path) {
+    wchar_t name[MAX_PATH] = {};
+    return ::SHGetPathFromIDList(reinterpret_cast<LPCITEMIDLIST>(list), name) &&
+           ::lstrcmpi(name, path.c_str()) == 0;
+}
+
+// `data` is the CFirstFolder. Now and then Wine's browser does not find the folder while it is initialized,
+// and then selects one of its own: it is asked once more as soon as it has done so. The request is posted,
+// for the tree is in the middle of a selection.
+int CALLBACK OnBrowserEvent(HWND browser, UINT event, LPARAM parameter, LPARAM data) {
+    CFirstFolder& first = *reinterpret_cast<CFirstFolder*>(data);
+    const LPARAM path = reinterpret_cast<LPARAM>(first.path.c_str());
+    if (event == BFFM_INITIALIZED) {
+        ::SendMessage(browser, BFFM_SETSELECTION, TRUE, path);
+    } else if (event == BFFM_SELCHANGED && !first.hasSelectionCome) {
+        first.hasSelectionCome = true;
+        if (!IsFolder(parameter, first.path))
+            ::PostMessage(browser, BFFM_SETSELECTION, TRUE, path);
+    }
     return 0;
 }
 
@@ -51,7 +72,8 @@ bool BrowseForFolder(std::wstring& path, HWND owner) {
     browse.lpszTitle = FolderBrowseTitle().c_str();
     browse.ulFlags = BIF_RETURNONLYFSDIRS | BIF_RETURNFSANCESTORS | BIF_NEWDIALOGSTYLE;
     browse.lpfn = OnBrowserEvent;
-    browse.lParam = reinterpret_cast<LPARAM>(path.c_str());
+    CFirstFolder first{path};
+    browse.lParam = reinterpret_cast<LPARAM>(&first);
     const LPITEMIDLIST chosen = ::SHBrowseForFolder(&browse);
     if (chosen == nullptr)
         return false;
