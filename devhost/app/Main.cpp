@@ -50,7 +50,7 @@ std::vector<SItem> TakeItems(std::vector<std::wstring> folders, CSearchPath& sea
 
 CUserError NotWritten(const std::wstring& file) {
     return CUserError(L"the drawing cannot be written to '" + file +
-                      L"': give --drawing a file in an existing folder");
+                      L"': give --drawing a writable file in an existing folder");
 }
 
 // The full path of the file for the drawing, since file dialogs change the current folder. That it has no

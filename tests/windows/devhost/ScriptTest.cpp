@@ -133,9 +133,20 @@ TEST_F(Script, TheDrawingIsWrittenAtTheEnd) {
 
 TEST_F(Script, ADrawingThatCannotBeWrittenIsNamedBeforeAnythingRuns) {
     for (const std::string file : {"no\\where.svg", "..", "c:\\"})
-        ExpectFailure(
-            Run("(princ \"never\")", {L"--drawing", std::wstring(file.begin(), file.end())}),
-            "the drawing cannot be written to '" + file + "': give --drawing a file in an existing folder");
+        ExpectFailure(Run("(princ \"never\")", {L"--drawing", std::wstring(file.begin(), file.end())}),
+                      "the drawing cannot be written to '" + file +
+                          "': give --drawing a writable file in an existing folder");
+}
+
+TEST_F(Script, ADrawingThatMayNotBeOverwrittenIsNamedAndStays) {
+    m_folder.Write(L"old.svg", "old");
+    SetFileAttributesW(L"old.svg", FILE_ATTRIBUTE_READONLY);
+    const SOutcome outcome = Run("(draw-line '(0 0) '(1 1))", {L"--drawing", L"old.svg"});
+    SetFileAttributesW(L"old.svg", FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(outcome.status, 1u);
+    EXPECT_TRUE(outcome.errors.ends_with("old.svg': give --drawing a writable file in an existing folder\n"))
+        << outcome.errors;
+    EXPECT_EQ(Contents(L"old.svg"), "old");
 }
 
 TEST_F(Script, SystemVariablesAreSharedWithThePlugIn) {
