@@ -53,12 +53,16 @@ bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::si
                      Quoted(text.substr(opening, end - opening)) + " is no placeholder: " + consequence);
         return true;
     }
-    // A sign alone, as in "< 3 mm", is ordinary text; with a digit and a second sign it is not.
+    // Signs as in "3 < 4" or "a < 3 mm, b > c" are ordinary text; two around nothing but a number are not.
     const std::size_t last = text.find_last_of(L"<>");
-    const bool hasDigit = std::any_of(text.begin() + static_cast<std::ptrdiff_t>(first),
-                                      text.begin() + static_cast<std::ptrdiff_t>(last), IsDigit);
+    const std::wstring_view inside =
+        std::wstring_view(text).substr(first + 1, last > first ? last - first - 1 : 0);
+    const bool isNumber =
+        text[first] == L'<' && text[last] == L'>' && std::any_of(inside.begin(), inside.end(), IsDigit) &&
+        std::all_of(inside.begin(), inside.end(),
+                    [](wchar_t character) { return IsDigit(character) || IsBlank(character); });
     const bool isDouble = text.find(L"<<") != std::wstring::npos || text.find(L">>") != std::wstring::npos;
-    if (!isDouble && !(hasDigit && text[first] == L'<' && text[last] == L'>')) {
+    if (!isDouble && !isNumber) {
         return false;
     }
     findings.Add(kPlaceholderBroken, line, start + first, last + 1 - first,

@@ -157,4 +157,9 @@ TEST_F(CheckOptions, HelpAndVersionNeedNoFile) {
     EXPECT_TRUE(Check({"--version"}).output.starts_with("tavrincheck "));
 }
 
+TEST_F(CheckOptions, TheFormForPeopleCanBeAskedFor) {
+    const std::string file = Item("a", kBroken);
+    EXPECT_EQ(Check({file, "--format=text"}).output, Check({file}).output);
+}
+
 }  // namespace

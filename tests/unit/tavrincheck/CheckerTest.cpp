@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "PictureRules.h"
 
 namespace {
@@ -100,6 +102,48 @@ TEST(Checker, FindsTheOneRepetitionAmongThousands) {
     SCheckContext context;
     EXPECT_EQ(Places(CheckText(File(parameters + "$77 = \"<<1501>> 4999\"D 9\n"), context)),
               (PlaceList{"5004:1 number-duplicate", "5004:8 label-duplicate"}));
+}
+
+// The reader sees such a line up to its null character, wherever the mistake stands.
+TEST(Checker, NothingCanBeRepairedBeforeANullCharacter) {
+    const std::string null(1, '\0');
+    for (const std::string& rest : {"\"a" + null + "'D 5", "\"a" + null + "\"x 5", "a" + null + " D 5"}) {
+        const PlaceList places = Checked("$1 = \"<<1501>>\"D 9\n$2 = " + rest + "\n");
+        EXPECT_EQ(std::count(places.begin(), places.end(), "5:1 line-unread"), 1) << rest;
+        EXPECT_EQ(places.size(), 2U) << rest;
+    }
+}
+
+TEST(Checker, AnOpenBlockWithoutParametersIsBothOpenAndEmpty) {
+    EXPECT_EQ(Places(CheckText("Shelf\n<<2001>>\nVAR\nremark\n", SCheckContext())),
+              (PlaceList{"3:1 block-unclosed", "3:1 block-empty"}));
+}
+
+TEST(Checker, SignsInOrdinaryTextAreNoPlaceholder) {
+    EXPECT_EQ(Checked("$1 = \"a < 3 mm, b > c\"D 9\n"), PlaceList{"4:7 label-no-placeholder"});
+    EXPECT_EQ(Checked("$1 = \"3 > 2\"D 9\n"), PlaceList{"4:7 label-no-placeholder"});
+    EXPECT_EQ(Checked("$1 = \"a <3> b\"D 9\n"), PlaceList{"4:9 placeholder-broken"});
+}
+
+TEST(Checker, AUsedWorkingFileIsNotCompared) {
+    EXPECT_EQ(Compared(File("$1 = \"<<1501>>\"D 900\n"), File("#1 = 900\n")), PlaceList());
+}
+
+TEST(Checker, AWorkingFileThatEndsBeforeItsTemplateIsLaidOutOtherwise) {
+    const std::string file = "Shelf\n<<2001>>\nVAR\n$1 = \"<<1501>>\"D 900\n";
+    EXPECT_EQ(Compared(file + "END_VAR\n", file), PlaceList{"0:0 pair-layout"});
+    EXPECT_EQ(Compared(file, file + "END_VAR\n"), PlaceList{"5:1 pair-layout"});
+}
+
+TEST(Checker, ARoutineThatIsNoUtf8IsReadInASingleByteCodePage) {
+    SPictureContext context;
+    context.isThere = [](const std::string& name) { return name == "a.png"; };
+    context.baseName = "a";
+    context.routine = "(tavrinprevmask \"\xE0\")";
+    const std::vector<SFinding> findings = CheckPictures(context);
+    EXPECT_EQ(Places(findings), PlaceList{"1:17 picture-missing"});
+    EXPECT_EQ(findings[0].length, 3U);
+    EXPECT_EQ(findings[0].excerpt.text, "(tavrinprevmask \"\xC3\xA0\")");
 }
 
 }  // namespace

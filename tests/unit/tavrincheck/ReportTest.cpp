@@ -1,4 +1,7 @@
 // The forms for programs say the same as the one for people.
+#include "Report.h"
+
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -99,6 +102,51 @@ TEST_F(Reports, ACleanRunIsAReportWithoutFindings) {
     EXPECT_EQ(report, (Json{{"findings", Json::array()}, {"errors", 0}, {"warnings", 0}, {"notes", 0}}));
     const Json log = Json::parse(Check({samples, "--format", "sarif"}).output);
     EXPECT_EQ(log.at("runs")[0].at("results"), Json::array());
+}
+
+SFinding FindingIn(const std::string& file) {
+    SFinding finding;
+    finding.rule = AllRules().front();
+    finding.file = file;
+    return finding;
+}
+
+TEST(Report, ANameOfAFileIsAReferenceInSarif) {
+    const std::map<std::string, std::string> references = {
+        {"a b/\xC3\xA0%.TXT", "a%20b/%C3%A0%25.TXT"},
+        {"/items/a.TXT", "file:///items/a.TXT"},
+        {"C:\\items\\a.TXT", "file:///C:/items/a.TXT"},
+        {"..\\a.TXT", "../a.TXT"},
+    };
+    for (const auto& [file, reference] : references) {
+        const SFinding finding = FindingIn(file);
+        const Json log = Json::parse(SarifReport({&finding, 1}, AllRules(), "1"));
+        const Json& location = log.at("runs")[0].at("results")[0].at("locations")[0].at("physicalLocation");
+        EXPECT_EQ(location.at("artifactLocation").at("uri"), reference);
+        EXPECT_FALSE(location.contains("region"));
+    }
+}
+
+TEST(Report, ANameThatIsNoUtf8DoesNotBreakJson) {
+    const SFinding finding = FindingIn("\xFF.TXT");
+    EXPECT_EQ(Json::parse(JsonReport({&finding, 1})).at("findings")[0].at("file"), "\xEF\xBF\xBD.TXT");
+}
+
+TEST(Report, AnExcerptShowsEveryCharacterInOnePlace) {
+    const std::wstring line = L"a\x7F\t\x00E0\x0093\x0081z";
+    const SExcerpt excerpt = MakeExcerpt(line, 6, 1);
+    EXPECT_EQ(excerpt.text, "a\xE2\x90\xA1\xE2\x90\x89\xC3\xA0\xE2\x80\x9C\xEF\xBF\xBDz");
+    EXPECT_EQ(excerpt.start, 6U);
+    EXPECT_EQ(excerpt.length, 1U);
+}
+
+TEST(Report, AnExcerptOfALongLineHoldsWhatStandsAroundTheOffendingText) {
+    const std::wstring line = std::wstring(1000, L'a') + L"b" + std::wstring(1000, L'c');
+    const SExcerpt excerpt = MakeExcerpt(line, 1000, 500);
+    EXPECT_EQ(excerpt.text, std::string(60, 'a') + "b" + std::string(99, 'c'));
+    EXPECT_EQ(excerpt.start, 60U);
+    EXPECT_EQ(excerpt.length, 100U);
+    EXPECT_EQ(Quoted(line), "'" + std::string(60, 'a') + "\xE2\x80\xA6'");
 }
 
 }  // namespace

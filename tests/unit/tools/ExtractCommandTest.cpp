@@ -82,4 +82,9 @@ TEST_F(ExtractCommand, ErrorsSayWhatToDo) {
               "t.dll: texts are not added to a module: name the script that it is made from");
 }
 
+TEST_F(ExtractCommand, HelpNeedsNoFile) {
+    EXPECT_TRUE(Run({"--help"}).starts_with("tavrincheck extract"));
+    EXPECT_EQ(ErrorOf({"--write=1"}), "--write takes no value");
+}
+
 }  // namespace

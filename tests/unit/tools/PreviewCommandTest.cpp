@@ -69,4 +69,9 @@ TEST_F(PreviewCommand, ErrorsSayWhatToDo) {
     EXPECT_EQ(ErrorOf({file, "--texts", folder.Path("t.rc")}), "t.rc: the file cannot be opened");
 }
 
+TEST_F(PreviewCommand, HelpNeedsNoFile) {
+    EXPECT_TRUE(Run({"--help"}).starts_with("tavrincheck preview"));
+    EXPECT_EQ(ErrorOf({"--scala", "1"}), "the option '--scala' is not known: see --help");
+}
+
 }  // namespace

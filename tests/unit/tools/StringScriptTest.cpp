@@ -182,4 +182,10 @@ TEST(StringScript, NoInputDoesMoreThanFail) {
     }
 }
 
+TEST(StringScript, EscapesOfControlCharactersAreThose) {
+    const SStringScript script = ReadStringScript("a.rc", R"(STRINGTABLE { 1 "a\a\n\r\t" })");
+    ASSERT_EQ(script.texts.size(), 1U);
+    EXPECT_EQ(script.texts[0].text, L"a\b\n\r\t");
+}
+
 }  // namespace
