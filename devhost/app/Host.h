@@ -11,7 +11,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "Evaluator.h"
 #include "MainWindow.h"

@@ -1,7 +1,6 @@
 // The command line of DevHost.
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>

@@ -167,7 +167,7 @@ private:
         const wchar_t found = place < rest.size() ? rest[place] : L'\0';
         const std::size_t start = m_next + quote + 1;
         std::wstring repaired = rest.substr(0, quote + 1);
-        if (kTypeLetters.find(found) != std::wstring_view::npos && place > quote + 1 && found != L'\0') {
+        if (kTypeLetters.find(found) != std::wstring_view::npos && place > quote + 1) {
             Report(m_rules.typeLetter, start, place - quote - 1,
                    "the type letter must follow the quote without a blank");
             repaired += rest.substr(place);

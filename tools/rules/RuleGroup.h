@@ -2,7 +2,6 @@
 // made with.
 #pragma once
 
-#include <memory>
 #include <span>
 
 #include "FindingList.h"

@@ -2,7 +2,6 @@
 // kind, a custom item that follows a script, and a look at the editor that is open.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
