@@ -45,6 +45,25 @@ void ItemDialogWindow::Type(int row, const std::string& text) const {
     TypeText(text);
 }
 
+Window ItemDialogWindow::WaitForQuestion() const {
+    EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }))
+        << "the dialog did not make room for the drawing";
+    const Window main = Window::WithTitle("DevHost");
+    // The question is longer than the idle prompt's label, which has its colour.
+    const auto isAsked = [&] {
+        const Screenshot now = main.Look();
+        for (int y = now.Height() - 50; y < now.Height() - 30; ++y) {
+            for (int x = 60; x < 140; ++x) {
+                if (now.At(x, y) == labelBlue)
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(main.IsValid() && WaitUntil(isAsked)) << "the host asks nothing";
+    return main;
+}
+
 std::string ItemDialogWindow::Answer() {
     EXPECT_EQ(host.Wait(), 0) << host.Errors() << host.Output();
     return host.Answer();

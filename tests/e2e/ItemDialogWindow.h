@@ -13,6 +13,7 @@
 inline constexpr Rgb headerGrey{0xC8, 0xC8, 0xC8};
 inline constexpr Rgb dialogGrey{0xE1, 0xE1, 0xE1};
 inline constexpr Rgb modifiedYellow{255, 255, 80};
+inline constexpr Rgb labelBlue{0, 60, 160};
 
 class ItemDialogWindow : public testing::Test {
 protected:
@@ -40,6 +41,10 @@ protected:
 
     // A click on the value opens its edit with the caret behind the text; the text is replaced.
     void Type(int row, const std::string& text) const;
+
+    // The host's window once the dialog has made room for it and a question stands at its prompt: before that
+    // it drops what is typed.
+    Window WaitForQuestion() const;
 
     // Waits for the host's end, which must be a good one, and gives LISP's answer.
     std::string Answer();

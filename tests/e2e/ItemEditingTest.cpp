@@ -94,10 +94,7 @@ TEST_F(ItemEditing, ADistanceIsPickedWithTwoClicksInTheDrawing) {
     Open();
     ClickValue(widthRow);
     ClickButton(widthRow);
-    EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }))
-        << "the dialog did not make room for the drawing";
-    const Window drawing = Window::WithTitle("DevHost");
-    ASSERT_TRUE(drawing.IsValid());
+    const Window drawing = WaitForQuestion();
     drawing.Click(100, 80);
     drawing.Click(400, 480);
     EXPECT_TRUE(WaitUntil([this] { return dialog.IsOpen(); })) << "the dialog did not come back";
@@ -113,8 +110,7 @@ TEST_F(ItemEditing, EscapeWhilePickingKeepsTheDistance) {
     Open();
     ClickValue(widthRow);
     ClickButton(widthRow);
-    EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }));
-    const Window drawing = Window::WithTitle("DevHost");
+    const Window drawing = WaitForQuestion();
     drawing.Click(100, 80);
     drawing.Press("Escape");
     EXPECT_TRUE(WaitUntil([this] { return dialog.IsOpen(); }));

@@ -29,10 +29,7 @@ void ItemRun::ExpectDialog(const std::string& title) {
 
 void ItemRun::PlaceAt(const std::string& point) {
     PressOk();
-    EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }));
-    const Window main = Window::WithTitle("DevHost");
-    ASSERT_TRUE(main.IsValid());
-    ASSERT_TRUE(main.Activate());
+    ASSERT_TRUE(WaitForQuestion().Activate());
     TypeText(point);
     PressKeys("Return");
 }
