@@ -3,12 +3,12 @@
 
 #include <charconv>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <system_error>
 
 // The number that a text is as a whole; nothing when it is none or anything stands around it.
 template <class Number>
-std::optional<Number> WholeNumber(std::string_view text) {
+std::optional<Number> WholeNumber(const std::string& text) {
     Number number{};
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     const bool isWhole = result.ec == std::errc() && result.ptr == text.data() + text.size();
