@@ -10,7 +10,7 @@
 template <class Number>
 std::optional<Number> WholeNumber(const std::string& text) {
     Number number{};
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isWhole = result.ec == std::errc() && result.ptr == text.data() + text.size();
-    return isWhole ? std::optional(number) : std::nullopt;
+    const char* const end = text.data() + text.size();
+    const auto [last, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && last == end ? std::optional(number) : std::nullopt;
 }
