@@ -99,8 +99,11 @@ TEST_F(SampleGuide, MakesAShelfThatIsChosenSetAndDrawn) {
     ASSERT_TRUE(main.IsValid()) << host.Errors();
     main.LookWhenStill();
     // The second entry of the menu Items, behind the door.
-    main.Press("alt+i");
+    const Window menu = Window::OpenedBy([&] { main.Press("alt+i"); }, "devhost.exe");
+    ASSERT_TRUE(menu.IsValid());
     PressKeys("Down Return");
+    // It has no title either.
+    EXPECT_TRUE(WaitUntil([&] { return !menu.IsOpen(); }));
     Choose(1, 0, 2, 1);
     ExpectDialog("Scaffale");
     Type(0, "950");
