@@ -73,8 +73,15 @@ TEST(TextTable, AModuleNamesItsLanguagesByNumber) {
               (std::vector<std::string>{"LANG_ITALIAN, SUBLANG_ITALIAN", "language 0x0809"}));
 }
 
-TEST(TextTable, AModuleWithoutTextsIsEmpty) {
-    EXPECT_TRUE(TableOf(TestsFolder() / "TD_Alloc.dll").Texts().empty());
+TEST(TextTable, AModuleWithoutTextsIsRefusedByName) {
+    const std::filesystem::path module = TestsFolder() / "TD_Alloc.dll";
+    try {
+        TableOf(module);
+        FAIL() << "nothing was thrown";
+    } catch (const CToolError& error) {
+        EXPECT_EQ(error.what(),
+                  NameOf(module) + ": there are no texts in it: name a string table script or a DLL");
+    }
 }
 
 }  // namespace
