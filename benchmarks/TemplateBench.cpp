@@ -10,6 +10,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <thread>
 
 #include "BenchTable.h"
 #include "ItemContents.h"
@@ -21,13 +22,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Each row has a label of its own, as in an item.
 TextLines TemplateOf(std::size_t parameters) {
     const wchar_t* const kinds[] = {L"\"D ", L"%\"I ", L"\"R 0.", L" (mm)\"D"};
     TextLines lines = {L"A sample item", L"<<2001>>", L"VAR"};
     for (std::size_t number = 1; number <= parameters; ++number) {
-        lines.push_back(L'$' + std::to_wstring(number) + L" = \"<<" +
-                        std::to_wstring(1 + number % kHighestTextNumber) + L">>" +
-                        kinds[number % std::size(kinds)] + std::to_wstring(number * 7 % 5000));
+        const std::wstring text = std::to_wstring(number);
+        lines.push_back(L'$' + text + L" = \"<<1501>> " + text + kinds[number % std::size(kinds)] +
+                        std::to_wstring(number * 7 % 5000));
     }
     lines.push_back(L"END_VAR");
     return lines;
@@ -49,18 +51,17 @@ void WriteLines(const fs::path& path, const TextLines& lines) {
     }
 }
 
-// One text for each number, as nearly every row of an item has a label of its own.
-TextLines Texts() {
-    TextLines texts;
-    for (int number = 0; number <= kHighestTextNumber; ++number) {
-        texts.push_back(L"Width " + std::to_wstring(number));
-    }
-    return texts;
+ItemContents ReadContents(const fs::path& path) {
+    static const std::wstring text = L"Width";
+    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned) { return text; });
 }
 
-ItemContents ReadContents(const fs::path& path) {
-    static const TextLines texts = Texts();
-    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned number) { return texts[number]; });
+ParamRecordMap ReadRecords(const fs::path& path) {
+    ParamRecordMap records;
+    for (const ItemParameter& parameter : ReadContents(path).parameters) {
+        records.emplace(parameter.record.lineIndex, parameter.record);
+    }
+    return records;
 }
 
 struct Task {
@@ -80,10 +81,10 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
     const fs::path source = folder.File("door.TXT");
     const fs::path target = folder.File("written.TXT");
     WriteLines(source, TemplateOf(parameters));
+    // In a thread of its own, and so in memory of its own: the records would stand between the pieces of
+    // memory that the measured work takes and gives back, and scatter them.
     ParamRecordMap records;
-    for (const ItemParameter& parameter : ReadContents(source).parameters) {
-        records.emplace(parameter.record.lineIndex, parameter.record);
-    }
+    std::thread([&] { records = ReadRecords(source); }).join();
     if (records.size() != parameters) {
         throw std::runtime_error("not every parameter was read");
     }
