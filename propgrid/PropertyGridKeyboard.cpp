@@ -99,7 +99,11 @@ void CPropertyGrid::FocusPreviousRow() {
         FocusRow(found == rows.begin() ? rows.back() : found[-1]);
 }
 
+// An editor has the keyboard, but keys may have been on their way to the grid when it opened. It ends with
+// the row that it belongs to: what it gives back goes to the focused one.
 void CPropertyGrid::FocusRow(const CRow& row) {
+    if (IsEditing() && !TakeFocus())
+        return;
     m_focusedSection = row.section;
     m_focusedItem = row.item;
     Repaint();

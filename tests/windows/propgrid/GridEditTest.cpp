@@ -205,6 +205,18 @@ TEST_F(GridEdit, AfterEnterTheGridHasTheFocusAndTheKeysMoveOn) {
     EXPECT_EQ(grid.GetFocusedItem(), other);
 }
 
+TEST_F(GridEdit, AKeyThatReachesTheGridEndsTheEditBeforeTheFocusMovesOn) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    const UINT other = grid.AddStringItem(section, L"other", L"old");
+    ClickOn(ValueOf(item));
+    ::SetWindowText(Edit(), L"new");
+    PressKey(VK_DOWN);
+    EXPECT_EQ(EditorCount(), 0);
+    EXPECT_EQ(Value<std::wstring>(item), L"new");
+    EXPECT_EQ(Value<std::wstring>(other), L"old");
+    EXPECT_EQ(grid.GetFocusedItem(), other);
+}
+
 TEST_F(GridEdit, OneValueAfterTheOtherIsEditedWithoutAnotherClick) {
     const UINT item = grid.AddStringItem(section, L"name", L"value");
     const UINT other = grid.AddStringItem(section, L"other", L"old");

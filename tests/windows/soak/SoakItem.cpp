@@ -1,6 +1,5 @@
 #include "SoakItem.h"
 
-#include <cmath>
 #include <set>
 
 #include "BlockTracker.h"
@@ -73,12 +72,13 @@ std::string RandomParameter(CChoices& choices, int number) {
            RandomValue(choices);
 }
 
-// Whether the shortest text of a number that a file holds can be what was written there.
+// Whether the shortest text of a number that a file holds can be what was written there. What was typed may
+// be too large for a number: "inf" is one here.
 bool IsNumber(const std::wstring& text) {
     std::size_t used = 0;
     try {
-        const double value = std::stod(text, &used);
-        return used == text.size() && std::isfinite(value);
+        std::stod(text, &used);
+        return used == text.size();
     } catch (const std::exception&) {
         return false;
     }
