@@ -49,6 +49,27 @@ TEST(ItemContents, ALabelThatIsShownTakesItsSecondRow) {
     EXPECT_EQ(item.parameters[2].row, PR_SHOWN);
 }
 
+TEST(ItemContents, AnEmptyLabelIsTakenAsAnyOther) {
+    const ItemContents item = Read({L"VAR", L"t", L"$1 = \"\"R 1", L"$2 = \"%\"I 2"});
+    ASSERT_EQ(item.parameters.size(), 2U);
+    EXPECT_EQ(item.parameters[0].row, PR_SHOWN);
+    EXPECT_EQ(item.parameters[1].row, PR_LABEL_TAKEN);
+}
+
+TEST(ItemContents, InALongFileEachLabelIsShownOnce) {
+    constexpr int kLabels = 3000;
+    TextLines lines = {L"VAR", L"t"};
+    for (int number = 0; number < 2 * kLabels; ++number) {
+        lines.push_back(L"$" + std::to_wstring(number) + L" = \"" + std::to_wstring(number % kLabels) +
+                        L"\"I 1");
+    }
+    const ItemContents item = Read(lines);
+    ASSERT_EQ(item.parameters.size(), 2U * kLabels);
+    for (int number = 0; number < 2 * kLabels; ++number) {
+        EXPECT_EQ(item.parameters[number].row, number < kLabels ? PR_SHOWN : PR_LABEL_TAKEN) << number;
+    }
+}
+
 TEST(ItemContents, AnInvalidTypeHasNoRowAndTakesNoLabel) {
     const ItemContents item = Read({L"VAR", L"t", L"$1 = \"a\"d 1", L"$2 = \"a\"D 2"});
     ASSERT_EQ(item.parameters.size(), 2U);
