@@ -1,21 +1,7 @@
 #include "GridContents.h"
 
 #include <algorithm>
-#include <functional>
-#include <string_view>
 #include <utility>
-
-std::size_t CGridContents::NameHash::operator()(const CGridItem* item) const {
-    // Spreads the few bits of the section's id over the whole code, so that the same name in many
-    // sections gives many codes.
-    constexpr std::size_t spread = 0x9E3779B1;
-    return std::hash<std::wstring_view>{}(item->name) ^ (item->section->id + 1) * spread;
-}
-
-bool CGridContents::NameEqual::operator()(const CGridItem* a, const CGridItem* b) const {
-    ++*comparisons;
-    return a->section == b->section && a->name == b->name;
-}
 
 UINT CGridContents::AddSection(const std::wstring& name, bool collapsed, UINT before) {
     CGridSection& section = *m_sections.emplace_back(std::make_unique<CGridSection>());
@@ -44,7 +30,7 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
     item.undefined = undefined;
     item.name = name;
     item.value = std::move(value);
-    if (!m_names.insert(&item).second) {
+    if (!m_names.AddLast(m_items)) {
         m_items.pop_back();
         return NO_ID;
     }
@@ -60,7 +46,7 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
 }
 
 void CGridContents::Clear() {
-    m_names.clear();
+    m_names.Clear();
     std::vector<CGridItem*>().swap(m_sortedItems);
     m_sorted = false;
     m_items.clear();

@@ -8,10 +8,10 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <unordered_set>
 #include <vector>
 
 #include "GridItem.h"
+#include "ItemNames.h"
 
 class CGridContents {
 public:
@@ -69,28 +69,15 @@ public:
 
     // Counters of the two things that a row must not cost more of the more rows there are: comparisons
     // of names, and items that some operation went through one by one.
-    std::size_t GetNameComparisons() const { return m_nameComparisons; }
+    std::size_t GetNameComparisons() const { return m_names.GetComparisons(); }
     std::size_t GetItemsWalked() const { return m_itemsWalked; }
 
 private:
-    // Names are unique within a section, so an item is found by both.
-    struct NameHash {
-        // Not noexcept, so that the standard library keeps the hash codes and growing the index does not
-        // read the names again.
-        std::size_t operator()(const CGridItem* item) const;
-    };
-    struct NameEqual {
-        std::size_t* comparisons;
-        bool operator()(const CGridItem* a, const CGridItem* b) const;
-    };
-
     std::vector<std::unique_ptr<CGridSection>> m_sections;  // by id
     std::vector<CGridSection*> m_sectionOrder;
     std::vector<std::unique_ptr<CGridItem>> m_items;  // by id
-    std::size_t m_nameComparisons = 0;
+    CItemNames m_names;
     mutable std::size_t m_itemsWalked = 0;
-    std::unordered_set<const CGridItem*, NameHash, NameEqual> m_names{0, NameHash{},
-                                                                      NameEqual{&m_nameComparisons}};
     // Sorted when they are asked for: names do not change, but for rows and sections that are added.
     std::vector<CGridItem*> m_sortedItems;
     bool m_sorted = false;

@@ -173,6 +173,20 @@ TEST(GridContents, AddsTheLastOfManyRowsForTheCostOfTheFirst) {
     EXPECT_EQ(AddNumber(contents, 0, L"row 7"), none);
 }
 
+TEST(GridContents, RefusesEveryNameOfManyASecondTimeUntilItIsCleared) {
+    constexpr UINT rows = 1000;
+    CGridContents contents;
+    for (int round = 0; round < 2; ++round) {
+        contents.AddSection(L"A", false, none);
+        for (UINT row = 0; row < rows; ++row)
+            ASSERT_EQ(AddNumber(contents, 0, std::to_wstring(row)), row);
+        for (UINT row = 0; row < rows; ++row)
+            ASSERT_EQ(AddNumber(contents, 0, std::to_wstring(row)), none) << row;
+        EXPECT_EQ(contents.GetItemCount(), rows);
+        contents.Clear();
+    }
+}
+
 TEST(GridContents, SortsByNameAgainAfterARowOrASectionWasAdded) {
     CGridContents contents;
     contents.AddSection(L"A", false, none);
