@@ -17,8 +17,8 @@ public:
     // The items by id.
     using ItemList = std::vector<std::unique_ptr<CGridItem>>;
 
-    // Adds the last of the items. False, and nothing changes, when its section holds another one of exactly its
-    // name.
+    // Adds the last of the items. False, and nothing changes, when its section holds another one of exactly
+    // its name.
     bool AddLast(const ItemList& items);
 
     // Forgets all; keeps the memory for the next ones.
