@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+
 #include "ItemFiles.h"
 
 namespace {
@@ -57,15 +59,15 @@ TEST(ItemContents, AnEmptyLabelIsTakenAsAnyOther) {
 }
 
 TEST(ItemContents, InALongFileEachLabelIsShownOnce) {
-    constexpr int kLabels = 3000;
+    constexpr std::size_t kLabels = 3000;
     TextLines lines = {L"VAR", L"t"};
-    for (int number = 0; number < 2 * kLabels; ++number) {
+    for (std::size_t number = 0; number < 2 * kLabels; ++number) {
         lines.push_back(L"$" + std::to_wstring(number) + L" = \"" + std::to_wstring(number % kLabels) +
                         L"\"I 1");
     }
     const ItemContents item = Read(lines);
-    ASSERT_EQ(item.parameters.size(), 2U * kLabels);
-    for (int number = 0; number < 2 * kLabels; ++number) {
+    ASSERT_EQ(item.parameters.size(), 2 * kLabels);
+    for (std::size_t number = 0; number < 2 * kLabels; ++number) {
         EXPECT_EQ(item.parameters[number].row, number < kLabels ? PR_SHOWN : PR_LABEL_TAKEN) << number;
     }
 }
