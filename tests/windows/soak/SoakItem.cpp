@@ -1,5 +1,6 @@
 #include "SoakItem.h"
 
+#include <cmath>
 #include <set>
 
 #include "BlockTracker.h"
@@ -73,12 +74,12 @@ std::string RandomParameter(CChoices& choices, int number) {
 }
 
 // Whether the shortest text of a number that a file holds can be what was written there. What was typed may
-// be too large for a number: "inf" is one here.
+// be too large for a number: "inf" is one here, "nan" is none.
 bool IsNumber(const std::wstring& text) {
     std::size_t used = 0;
     try {
-        std::stod(text, &used);
-        return used == text.size();
+        const double value = std::stod(text, &used);
+        return used == text.size() && !std::isnan(value);
     } catch (const std::exception&) {
         return false;
     }
