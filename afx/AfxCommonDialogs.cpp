@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <array>
 
-#include "afxdlgs.h"
+#include "afx/afxdlgs.h"
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)

@@ -1,5 +1,5 @@
 // The system's plain controls.
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)

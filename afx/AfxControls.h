@@ -1,7 +1,7 @@
 // The system's plain controls.
 #pragma once
 
-#include "AfxWnd.h"
+#include "afx/AfxWnd.h"
 
 class CStatic : public CWnd {
     DECLARE_DYNAMIC(CStatic)

@@ -1,6 +1,6 @@
 // Device contexts.
-#include "AfxHandleMap.h"
-#include "afxwin.h"
+#include "afx/AfxHandleMap.h"
+#include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)

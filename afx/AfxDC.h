@@ -1,7 +1,7 @@
 // Device contexts. Coordinates are the context's logical ones (pixels, for every context of the module).
 #pragma once
 
-#include "AfxGdi.h"
+#include "afx/AfxGdi.h"
 
 class CWnd;
 

@@ -1,5 +1,5 @@
 // Exchange between a dialog's controls and its members.
-#include "afxcmn.h"
+#include "afx/afxcmn.h"
 
 HWND CDataExchange::PrepareCtrl(int id) {
     m_lastControl = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);

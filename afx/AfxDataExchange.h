@@ -1,7 +1,7 @@
 // Exchange between a dialog's controls and its members (DDX).
 #pragma once
 
-#include "AfxDialog.h"
+#include "afx/AfxDialog.h"
 
 // One exchange, in one direction.
 class CDataExchange {

@@ -1,5 +1,5 @@
 // The month calendar and the date picker.
-#include "afxdtctl.h"
+#include "afx/afxdtctl.h"
 
 IMPLEMENT_DYNAMIC(CMonthCalCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)

@@ -1,9 +1,9 @@
 // Dialogs and their modal loop.
-#include "AfxDialog.h"
+#include "afx/AfxDialog.h"
 
-#include "AfxFence.h"
-#include "AfxWindowHook.h"
-#include "afxwin.h"
+#include "afx/AfxFence.h"
+#include "afx/AfxWindowHook.h"
+#include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 

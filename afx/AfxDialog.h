@@ -1,7 +1,7 @@
 // Dialogs, from a resource or from a template in memory.
 #pragma once
 
-#include "AfxControls.h"
+#include "afx/AfxControls.h"
 
 // While a modal dialog runs, its owner (the given parent, or the top-level window above it) is disabled.
 // DoModal runs a message loop of its own: each message is first offered to PreTranslateMessage of the

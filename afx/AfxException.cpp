@@ -1,7 +1,7 @@
 // The framework's exceptions and their texts.
-#include "AfxException.h"
+#include "afx/AfxException.h"
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), nullptr};
 IMPLEMENT_DYNAMIC(CException, CObject)

@@ -1,8 +1,8 @@
 // The framework's exceptions: thrown as pointers, deleted with Delete by whoever ends their way.
 #pragma once
 
-#include "AfxObject.h"
-#include "AfxString.h"
+#include "afx/AfxObject.h"
+#include "afx/AfxString.h"
 
 class CException : public CObject {
     DECLARE_DYNAMIC(CException)

@@ -3,7 +3,7 @@
 
 #include <exception>
 
-#include "AfxException.h"
+#include "afx/AfxException.h"
 
 // Tells the user of an exception that nobody caught, unless it says that he knows already, and frees it.
 // Call from a catch block alone. isCommand: a command of the user's failed.

@@ -1,5 +1,5 @@
 // CFile: bytes.
-#include "AfxFile.h"
+#include "afx/AfxFile.h"
 
 #include <utility>
 

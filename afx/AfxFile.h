@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "AfxException.h"
+#include "afx/AfxException.h"
 
 // An open file. Every failure is thrown as a CFileException*, only Open can also report it by its result.
 class CFile : public CObject {

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cwchar>
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 namespace {
 

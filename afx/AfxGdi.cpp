@@ -1,7 +1,7 @@
 // GDI objects.
-#include "AfxDC.h"
-#include "AfxException.h"
-#include "AfxHandleMap.h"
+#include "afx/AfxDC.h"
+#include "afx/AfxException.h"
+#include "afx/AfxHandleMap.h"
 
 IMPLEMENT_DYNAMIC(CGdiObject, CObject)
 IMPLEMENT_DYNAMIC(CPen, CGdiObject)

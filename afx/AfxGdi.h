@@ -4,9 +4,9 @@
 // command at work ends and owns nothing.
 #pragma once
 
-#include "AfxObject.h"
-#include "AfxString.h"
-#include "atltypes.h"
+#include "afx/AfxObject.h"
+#include "afx/AfxString.h"
+#include "afx/atltypes.h"
 
 class CDC;
 

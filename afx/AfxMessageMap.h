@@ -9,7 +9,7 @@
 // when the operation that an entry names has the signature that MFC documents for it.
 #pragma once
 
-#include "AfxObject.h"
+#include "afx/AfxObject.h"
 
 class CCmdTarget;
 

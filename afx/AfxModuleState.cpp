@@ -1,7 +1,7 @@
 // Module state, the application object, message boxes.
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
-#include "AfxHandleMap.h"
+#include "afx/AfxHandleMap.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CCmdTarget)
 

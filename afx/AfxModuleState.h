@@ -1,7 +1,7 @@
 // Whose resources are used, and when: the state of the module that the framework is linked into.
 #pragma once
 
-#include "AfxMessageMap.h"
+#include "afx/AfxMessageMap.h"
 
 class CWnd;
 

@@ -1,7 +1,7 @@
 // Run-time class information, and the base of the framework's classes that have it.
 #pragma once
 
-#include "AfxBase.h"
+#include "afx/AfxBase.h"
 
 class CObject;
 

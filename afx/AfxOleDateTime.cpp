@@ -4,9 +4,9 @@
 #include <ctime>
 #include <cwchar>
 
-#include "AfxTimeParts.h"
-#include "afxwin.h"
-#include "atlcomtime.h"
+#include "afx/AfxTimeParts.h"
+#include "afx/afxwin.h"
+#include "afx/atlcomtime.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The way of a message through a window: message maps, commands, notifications, reflection.
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 

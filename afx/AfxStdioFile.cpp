@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "AfxFile.h"
-#include "AfxTextCodec.h"
+#include "afx/AfxFile.h"
+#include "afx/AfxTextCodec.h"
 
 IMPLEMENT_DYNAMIC(CStdioFile, CFile)
 

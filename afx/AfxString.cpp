@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 // given without one ends at its first NUL.
 #pragma once
 
-#include "AfxBase.h"
+#include "afx/AfxBase.h"
 
 #include <cstdarg>
 #include <string>

@@ -1,5 +1,5 @@
 // Conversion between the C runtime's locale and UTF-16.
-#include "AfxTextCodec.h"
+#include "afx/AfxTextCodec.h"
 
 #include <climits>
 #include <clocale>

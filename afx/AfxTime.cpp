@@ -1,6 +1,6 @@
 // CTime.
-#include "AfxTimeParts.h"
-#include "atltime.h"
+#include "afx/AfxTimeParts.h"
+#include "afx/atltime.h"
 
 namespace {
 

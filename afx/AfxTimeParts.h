@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-#include "AfxBase.h"
+#include "afx/AfxBase.h"
 
 inline SYSTEMTIME AfxSystemTimeOf(const std::tm& parts) {
     SYSTEMTIME time = {};

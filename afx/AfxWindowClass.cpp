@@ -2,7 +2,7 @@
 #include <list>
 #include <string>
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Attaches an object to its window before the window's first message.
 #pragma once
 
-#include "AfxWnd.h"
+#include "afx/AfxWnd.h"
 
 // While it lives, the next window that this thread creates is attached to the object given. Windows
 // announces a window to a CBT hook before it sends it anything, which makes this work for windows of any

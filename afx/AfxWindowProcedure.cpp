@@ -1,7 +1,7 @@
 // Where Windows enters the framework: the window procedure and the hook on window creation.
-#include "AfxFence.h"
-#include "AfxWindowHook.h"
-#include "afxwin.h"
+#include "afx/AfxFence.h"
+#include "afx/AfxWindowHook.h"
+#include "afx/afxwin.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // CWnd: its window's life, and what is asked of it.
 #include <algorithm>
 
-#include "AfxHandleMap.h"
-#include "AfxWindowHook.h"
-#include "afxwin.h"
+#include "afx/AfxHandleMap.h"
+#include "afx/AfxWindowHook.h"
+#include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 

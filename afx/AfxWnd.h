@@ -4,8 +4,8 @@
 // parent's client area where Windows means those.
 #pragma once
 
-#include "AfxDC.h"
-#include "AfxMessageMap.h"
+#include "afx/AfxDC.h"
+#include "afx/AfxMessageMap.h"
 
 class CDataExchange;
 class CRgn;

@@ -5,8 +5,8 @@
 // module's code compiles unchanged against either.
 #pragma once
 
-#include "AfxBase.h"
-#include "AfxException.h"
-#include "AfxFile.h"
-#include "AfxObject.h"
-#include "AfxString.h"
+#include "afx/AfxBase.h"
+#include "afx/AfxException.h"
+#include "afx/AfxFile.h"
+#include "afx/AfxObject.h"
+#include "afx/AfxString.h"

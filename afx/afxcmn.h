@@ -1,6 +1,6 @@
 // The framework's common controls.
 #pragma once
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 // Needs Windows.
 #include <commctrl.h>

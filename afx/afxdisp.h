@@ -1,4 +1,4 @@
 // What the framework offers of OLE automation: dates.
 #pragma once
 
-#include "atlcomtime.h"
+#include "afx/atlcomtime.h"

@@ -1,7 +1,7 @@
 // The system's own dialogs: files, colours, fonts.
 #pragma once
 
-#include "afxwin.h"
+#include "afx/afxwin.h"
 
 // Each runs the system's dialog over its parent: IDOK when the user confirmed, else IDCANCEL.
 class CCommonDialog : public CDialog {

@@ -1,9 +1,9 @@
 // The framework's month calendar and date picker.
 #pragma once
 
-#include "afxcmn.h"
-#include "atlcomtime.h"
-#include "atltime.h"
+#include "afx/afxcmn.h"
+#include "afx/atlcomtime.h"
+#include "afx/atltime.h"
 
 // One month, of which one day is selected. Each operation gives FALSE when the control refuses.
 class CMonthCalCtrl : public CWnd {

@@ -1,10 +1,10 @@
 // The framework's windows: module state, message maps, device contexts, controls, dialogs.
 #pragma once
 
-#include "afx.h"
-#include "atltypes.h"
+#include "afx/afx.h"
+#include "afx/atltypes.h"
 // The parts, each of which builds on the ones before.
-#include "AfxDataExchange.h"
-#include "AfxDialog.h"
-#include "AfxModuleState.h"
-#include "AfxWnd.h"
+#include "afx/AfxDataExchange.h"
+#include "afx/AfxDialog.h"
+#include "afx/AfxModuleState.h"
+#include "afx/AfxWnd.h"

@@ -1,7 +1,7 @@
 // COleDateTime: a date and time as OLE automation counts it.
 #pragma once
 
-#include "afx.h"
+#include "afx/afx.h"
 
 // Days since 30 December 1899, midnight, the time of day as the fraction. Before that day the whole part
 // counts backwards while the fraction still counts forward: -1.25 is 29 December 1899, six o'clock.

@@ -3,7 +3,7 @@
 
 #include <ctime>
 
-#include "afx.h"
+#include "afx/afx.h"
 
 // Seconds since 1 January 1970, universal time. A time that was made from parts that are none is -1; the
 // parts of a time that cannot be shown in local time are -1 each.

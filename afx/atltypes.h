@@ -1,7 +1,7 @@
 // Points, sizes and rectangles, in whatever unit their user means: mostly pixels.
 #pragma once
 
-#include "AfxBase.h"
+#include "afx/AfxBase.h"
 
 class CSize : public tagSIZE {
 public:

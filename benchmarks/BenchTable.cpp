@@ -1,5 +1,5 @@
 // Printing rows and taking times.
-#include "BenchTable.h"
+#include "benchmarks/BenchTable.h"
 
 #include <algorithm>
 #include <chrono>

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "BenchTable.h"
-#include "WorkFolder.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/WorkFolder.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Our matcher and the peers. The peers' patterns are compiled so that a dot is any character and the dollar
 // sign the end alone, which is what ours mean and the fastest reading too.
 #define PCRE2_CODE_UNIT_WIDTH 16
-#include "Matcher.h"
+#include "benchmarks/Matcher.h"
 
 #include <pcre2.h>
 #include <re2/re2.h>
@@ -10,7 +10,7 @@
 #include <regex>
 #include <stdexcept>
 
-#include "PatternMatcher.h"
+#include "itemdlg/PatternMatcher.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 #include <exception>
 #include <stdexcept>
 
-#include "BenchTable.h"
-#include "Matcher.h"
-#include "MatcherCorpus.h"
-#include "TemplatePatterns.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/Matcher.h"
+#include "benchmarks/MatcherCorpus.h"
+#include "itemdlg/TemplatePatterns.h"
 
 namespace {
 

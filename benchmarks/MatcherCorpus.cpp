@@ -1,5 +1,5 @@
 // Making lines.
-#include "MatcherCorpus.h"
+#include "benchmarks/MatcherCorpus.h"
 
 #include <random>
 

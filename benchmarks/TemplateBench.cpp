@@ -12,11 +12,11 @@
 #include <string>
 #include <thread>
 
-#include "BenchTable.h"
-#include "ItemContents.h"
-#include "TemplateRewrite.h"
-#include "TemplateText.h"
-#include "WorkFolder.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/WorkFolder.h"
+#include "itemdlg/ItemContents.h"
+#include "itemdlg/TemplateRewrite.h"
+#include "itemdlg/TemplateText.h"
 
 namespace {
 

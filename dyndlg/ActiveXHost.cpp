@@ -1,4 +1,4 @@
-#include "ActiveXHost.h"
+#include "dyndlg/ActiveXHost.h"
 
 #include <objidl.h>
 

@@ -1,4 +1,4 @@
-#include "ControlTypes.h"
+#include "dyndlg/ControlTypes.h"
 
 #include <cstddef>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "DialogLayout.h"
+#include "dyndlg/DialogLayout.h"
 
 #include <algorithm>
 

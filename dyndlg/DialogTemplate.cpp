@@ -1,4 +1,4 @@
-#include "DialogTemplate.h"
+#include "dyndlg/DialogTemplate.h"
 
 namespace {
 

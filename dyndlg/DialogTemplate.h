@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "DialogLayout.h"
+#include "dyndlg/DialogLayout.h"
 
 // A control that Windows creates together with the dialog. Its class is given as an ordinal: Windows knows
 // those of CT_BUTTON to CT_COMBOBOX, and makes no dialog from a template with another.

@@ -1,11 +1,11 @@
-#include "DynDialogEx.h"
+#include "dyndlg/DynDialogEx.h"
 
 #include <afxcmn.h>
 
 #include <string_view>
 #include <utility>
 
-#include "LocalMemory.h"
+#include "dyndlg/LocalMemory.h"
 
 IMPLEMENT_DYNAMIC(CDynDialogEx, CDialog)
 

@@ -21,9 +21,9 @@
 #include <memory>
 #include <vector>
 
-#include "DialogLayout.h"
-#include "DialogTemplate.h"
-#include "DynDialogItemEx.h"
+#include "dyndlg/DialogLayout.h"
+#include "dyndlg/DialogTemplate.h"
+#include "dyndlg/DynDialogItemEx.h"
 
 class CDynDialogEx : public CDialog {
     DECLARE_DYNAMIC(CDynDialogEx)

@@ -1,11 +1,11 @@
-#include "DynDialogItemEx.h"
+#include "dyndlg/DynDialogItemEx.h"
 
 #include <afxcmn.h>
 #include <afxdisp.h>
 #include <afxdtctl.h>
 
 #ifndef _MSC_VER
-#include "ActiveXHost.h"
+#include "dyndlg/ActiveXHost.h"
 #endif
 
 IMPLEMENT_DYNAMIC(CDynDialogItemEx, CWnd)

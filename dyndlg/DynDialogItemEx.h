@@ -5,8 +5,8 @@
 
 #include <afxwin.h>
 
-#include "ControlTypes.h"
-#include "DialogLayout.h"
+#include "dyndlg/ControlTypes.h"
+#include "dyndlg/DialogLayout.h"
 
 // What a control is made from. Coordinates are dialog units.
 struct DynControl {

@@ -1,11 +1,11 @@
 // The gallery's dialog: what stands in the grid, and the grid's switches.
-#include "GalleryDialog.h"
+#include "gallery/GalleryDialog.h"
 
 #include <cstdio>
 #include <cwchar>
 #include <string>
 
-#include "resource.h"
+#include "gallery/resource.h"
 
 BEGIN_MESSAGE_MAP(CGalleryDialog, CDialog)
     ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGalleryDialog::OnGridItemChanged)

@@ -8,8 +8,8 @@
 
 #include <vector>
 
-#include "PercentItem.h"
-#include "PropertyGrid.h"
+#include "gallery/PercentItem.h"
+#include "propgrid/PropertyGrid.h"
 
 class CGalleryDialog final : public CDialog {
 public:

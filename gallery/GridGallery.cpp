@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <string>
 
-#include "GalleryDialog.h"
-#include "Monkey.h"
+#include "gallery/GalleryDialog.h"
+#include "gallery/Monkey.h"
 
 namespace {
 

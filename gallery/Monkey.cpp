@@ -1,12 +1,12 @@
 // Random input for the gallery. A timer makes it, which runs in the loops of modal dialogs too and comes
 // only when all input before has been handled.
-#include "Monkey.h"
+#include "gallery/Monkey.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
 
-#include "HandleCount.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

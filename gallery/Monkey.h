@@ -10,7 +10,7 @@
 #include <random>
 #include <vector>
 
-#include "GalleryDialog.h"
+#include "gallery/GalleryDialog.h"
 
 class CMonkey {
 public:

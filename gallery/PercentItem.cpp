@@ -1,10 +1,10 @@
 // An example of a custom item: a bar that follows the mouse.
-#include "PercentItem.h"
+#include "gallery/PercentItem.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 namespace {
 

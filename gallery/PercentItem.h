@@ -1,7 +1,7 @@
 // An example of a custom item: a share that is drawn as a bar and set by dragging the mouse along it.
 #pragma once
 
-#include "ICustomItem.h"
+#include "propgrid/ICustomItem.h"
 
 class CPercentItem final : public ICustomItem {
 public:

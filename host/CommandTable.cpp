@@ -1,7 +1,7 @@
-#include "CommandTable.h"
+#include "host/CommandTable.h"
 
-#include "Commands.h"
-#include "sds.h"
+#include "host/Commands.h"
+#include "sds/sds.h"
 
 namespace {
 

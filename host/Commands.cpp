@@ -1,15 +1,15 @@
-#include "Commands.h"
+#include "host/Commands.h"
 
 #include <afxwin.h>
 
 #include <exception>
 
-#include "ChoiceSlides.h"
-#include "TavrinPreviewDlg.h"
-#include "TavrinSelMaskDlg.h"
-#include "TavrinWndDlg.h"
-#include "TextLibrary.h"
-#include "sds.h"
+#include "imagedlg/ChoiceSlides.h"
+#include "imagedlg/TavrinPreviewDlg.h"
+#include "imagedlg/TavrinSelMaskDlg.h"
+#include "itemdlg/TavrinWndDlg.h"
+#include "res/TextLibrary.h"
+#include "sds/sds.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "CommandTable.h"
-#include "HostBinding.h"
-#include "sds.h"
+#include "host/CommandTable.h"
+#include "sds/HostBinding.h"
+#include "sds/sds.h"
 
 namespace {
 

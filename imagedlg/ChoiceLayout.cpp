@@ -1,4 +1,4 @@
-#include "ChoiceLayout.h"
+#include "imagedlg/ChoiceLayout.h"
 
 namespace {
 

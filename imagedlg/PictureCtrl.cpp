@@ -1,4 +1,4 @@
-#include "PictureCtrl.h"
+#include "imagedlg/PictureCtrl.h"
 
 #include <gdiplus.h>
 

@@ -1,6 +1,6 @@
-#include "TavrinPreviewDlg.h"
+#include "imagedlg/TavrinPreviewDlg.h"
 
-#include "FindFile.h"
+#include "sds/FindFile.h"
 
 IMPLEMENT_DYNAMIC(CTavrinPreviewDlg, CDialog)
 

@@ -4,8 +4,8 @@
 
 #include <afxwin.h>
 
-#include "PictureCtrl.h"
-#include "resource.h"
+#include "imagedlg/PictureCtrl.h"
+#include "res/resource.h"
 
 class CTavrinPreviewDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinPreviewDlg)

@@ -1,7 +1,7 @@
-#include "TavrinSelMaskDlg.h"
+#include "imagedlg/TavrinSelMaskDlg.h"
 
-#include "ChoiceSlides.h"
-#include "FindFile.h"
+#include "imagedlg/ChoiceSlides.h"
+#include "sds/FindFile.h"
 
 namespace {
 

@@ -19,9 +19,9 @@
 
 #include <map>
 
-#include "ChoiceLayout.h"
-#include "PictureCtrl.h"
-#include "resource.h"
+#include "imagedlg/ChoiceLayout.h"
+#include "imagedlg/PictureCtrl.h"
+#include "res/resource.h"
 
 class CTavrinSelMaskDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinSelMaskDlg)

@@ -1,9 +1,9 @@
 // The members of a set of characters.
-#include "CharacterSet.h"
+#include "itemdlg/CharacterSet.h"
 
 #include <algorithm>
 
-#include "LetterCase.h"
+#include "itemdlg/LetterCase.h"
 
 void CCharacterSet::Add(wchar_t first, wchar_t last) {
     const auto from = static_cast<std::uint32_t>(first);

@@ -1,5 +1,5 @@
 // Reading a working file as a whole.
-#include "ItemContents.h"
+#include "itemdlg/ItemContents.h"
 
 #include <bit>
 #include <cstddef>
@@ -7,8 +7,8 @@
 #include <functional>
 #include <string_view>
 
-#include "BlockTracker.h"
-#include "ItemFiles.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/ItemFiles.h"
 
 namespace {
 

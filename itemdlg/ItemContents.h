@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "TemplateRewrite.h"
-#include "TemplateText.h"
+#include "itemdlg/TemplateRewrite.h"
+#include "itemdlg/TemplateText.h"
 
 // What becomes of a parameter in the grid.
 enum EParameterRow {

@@ -1,5 +1,5 @@
 // Reading and writing numbers.
-#include "NumberText.h"
+#include "itemdlg/NumberText.h"
 
 #include <algorithm>
 #include <array>

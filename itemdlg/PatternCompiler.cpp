@@ -1,12 +1,12 @@
 // From the text of a pattern to its program.
-#include "PatternCompiler.h"
+#include "itemdlg/PatternCompiler.h"
 
 #include <array>
 #include <cwchar>
 #include <stdexcept>
 #include <utility>
 
-#include "LetterCase.h"
+#include "itemdlg/LetterCase.h"
 
 namespace {
 

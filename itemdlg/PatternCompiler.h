@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "PatternError.h"
-#include "PatternProgram.h"
+#include "itemdlg/PatternError.h"
+#include "itemdlg/PatternProgram.h"
 
 class CPatternCompiler {
 public:

@@ -1,12 +1,12 @@
 // Compiling a pattern and trying its start positions.
-#include "PatternMatcher.h"
+#include "itemdlg/PatternMatcher.h"
 
 #include <new>
 #include <stdexcept>
 
-#include "PatternCompiler.h"
-#include "PatternSearch.h"
-#include "PatternTuning.h"
+#include "itemdlg/PatternCompiler.h"
+#include "itemdlg/PatternSearch.h"
+#include "itemdlg/PatternTuning.h"
 
 unsigned CPatternMatcher::Parse(const wchar_t* pattern, bool caseSensitive) {
     m_program = PatternProgram();

@@ -52,9 +52,9 @@
 
 #include <string_view>
 
-#include "MatchContext.h"
-#include "PatternError.h"
-#include "PatternProgram.h"
+#include "itemdlg/MatchContext.h"
+#include "itemdlg/PatternError.h"
+#include "itemdlg/PatternProgram.h"
 
 class CPatternMatcher {
 public:

@@ -1,5 +1,5 @@
 // Work on compiled programs.
-#include "PatternProgram.h"
+#include "itemdlg/PatternProgram.h"
 
 #include <cstddef>
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "CharacterSet.h"
+#include "itemdlg/CharacterSet.h"
 
 enum class EOp : std::uint8_t {
     Nothing,         // stands for no instruction; none is left in a finished program

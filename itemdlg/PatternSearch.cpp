@@ -1,9 +1,9 @@
 // The backtracking search.
-#include "PatternSearch.h"
+#include "itemdlg/PatternSearch.h"
 
 #include <cwchar>
 
-#include "LetterCase.h"
+#include "itemdlg/LetterCase.h"
 
 namespace {
 

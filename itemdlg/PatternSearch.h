@@ -6,9 +6,9 @@
 
 #include <cstddef>
 
-#include "BacktrackStack.h"
-#include "MatchContext.h"
-#include "PatternProgram.h"
+#include "itemdlg/BacktrackStack.h"
+#include "itemdlg/MatchContext.h"
+#include "itemdlg/PatternProgram.h"
 
 class CPatternSearch {
 public:

@@ -1,5 +1,5 @@
 // What the search need not do.
-#include "PatternTuning.h"
+#include "itemdlg/PatternTuning.h"
 
 #include <algorithm>
 #include <array>

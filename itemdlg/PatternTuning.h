@@ -3,6 +3,6 @@
 // never its result.
 #pragma once
 
-#include "PatternProgram.h"
+#include "itemdlg/PatternProgram.h"
 
 void TunePattern(PatternProgram& program);

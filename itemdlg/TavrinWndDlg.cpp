@@ -1,15 +1,15 @@
-#include "TavrinWndDlg.h"
+#include "itemdlg/TavrinWndDlg.h"
 
 #include <new>
 #include <optional>
 #include <utility>
 
-#include "FindFile.h"
-#include "ItemContents.h"
-#include "ItemFiles.h"
-#include "ItemMessages.h"
-#include "TextFile.h"
-#include "TextLibrary.h"
+#include "itemdlg/ItemContents.h"
+#include "itemdlg/ItemFiles.h"
+#include "itemdlg/ItemMessages.h"
+#include "itemdlg/TextFile.h"
+#include "res/TextLibrary.h"
+#include "sds/FindFile.h"
 
 namespace {
 

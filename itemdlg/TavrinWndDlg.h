@@ -13,12 +13,12 @@
 #include <string_view>
 #include <vector>
 
-#include "DistanceItem.h"
-#include "ItemContents.h"
-#include "ParamRecord.h"
-#include "PictureCtrl.h"
-#include "PropertyGrid.h"
-#include "resource.h"
+#include "imagedlg/PictureCtrl.h"
+#include "itemdlg/ItemContents.h"
+#include "itemdlg/ParamRecord.h"
+#include "propgrid/DistanceItem.h"
+#include "propgrid/PropertyGrid.h"
+#include "res/resource.h"
 
 class CTavrinWndDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinWndDlg)

@@ -1,14 +1,14 @@
 // Rewriting the lines of an item's files.
-#include "TemplateRewrite.h"
+#include "itemdlg/TemplateRewrite.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string_view>
 
-#include "BlockTracker.h"
-#include "NumberText.h"
-#include "TemplateText.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/NumberText.h"
+#include "itemdlg/TemplateText.h"
 
 using namespace std::string_view_literals;
 

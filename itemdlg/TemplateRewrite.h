@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "ParamRecord.h"
+#include "itemdlg/ParamRecord.h"
 
 using TextLines = std::vector<std::wstring>;
 

@@ -1,12 +1,12 @@
 // Reading the lines of an item's files.
-#include "TemplateText.h"
+#include "itemdlg/TemplateText.h"
 
 #include <new>
 #include <utility>
 
-#include "NumberText.h"
-#include "PatternMatcher.h"
-#include "TemplatePatterns.h"
+#include "itemdlg/NumberText.h"
+#include "itemdlg/PatternMatcher.h"
+#include "itemdlg/TemplatePatterns.h"
 
 namespace {
 

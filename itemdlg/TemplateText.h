@@ -23,7 +23,7 @@
 #include <string>
 #include <string_view>
 
-#include "ParamRecord.h"
+#include "itemdlg/ParamRecord.h"
 
 // Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
 // 1 to 65535 only.

@@ -1,4 +1,4 @@
-#include "TextFile.h"
+#include "itemdlg/TextFile.h"
 
 #include <afx.h>
 

@@ -1,9 +1,9 @@
-#include "DistanceItem.h"
+#include "propgrid/DistanceItem.h"
 
 #include <utility>
 
-#include "PropertyGrid.h"
-#include "sds.h"
+#include "propgrid/PropertyGrid.h"
+#include "sds/sds.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // measured by picking two points in the drawing.
 #pragma once
 
-#include "ICustomItem.h"
+#include "propgrid/ICustomItem.h"
 
 class CDistanceItem final : public ICustomItem {
 public:

@@ -1,5 +1,5 @@
 // The shell's folder browser.
-#include "FolderBrowser.h"
+#include "propgrid/FolderBrowser.h"
 
 #include <shlobj.h>
 

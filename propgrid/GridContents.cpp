@@ -1,4 +1,4 @@
-#include "GridContents.h"
+#include "propgrid/GridContents.h"
 
 #include <algorithm>
 #include <utility>

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "GridItem.h"
-#include "ItemNames.h"
+#include "propgrid/GridItem.h"
+#include "propgrid/ItemNames.h"
 
 class CGridContents {
 public:

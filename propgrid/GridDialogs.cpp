@@ -1,10 +1,10 @@
-#include "GridDialogs.h"
+#include "propgrid/GridDialogs.h"
 
 #include <afxdlgs.h>
 #include <afxdtctl.h>
 
-#include "DynDialogEx.h"
-#include "FolderBrowser.h"
+#include "dyndlg/DynDialogEx.h"
+#include "propgrid/FolderBrowser.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 
 #include <string>
 
-#include "GridItem.h"
+#include "propgrid/GridItem.h"
 
 // What the two dialogs that the grid builds itself look like: the title, the font, the captions.
 struct CGridDialogLook {

@@ -1,10 +1,10 @@
-#include "GridItem.h"
+#include "propgrid/GridItem.h"
 
 #include <cstring>
 #include <cwchar>
 #include <type_traits>
 
-#include "ICustomItem.h"
+#include "propgrid/ICustomItem.h"
 
 namespace {
 

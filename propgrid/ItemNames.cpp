@@ -1,4 +1,4 @@
-#include "ItemNames.h"
+#include "propgrid/ItemNames.h"
 
 #include <algorithm>
 #include <functional>

@@ -10,7 +10,7 @@
 #include <memory>
 #include <vector>
 
-#include "GridItem.h"
+#include "propgrid/GridItem.h"
 
 class CItemNames {
 public:

@@ -1,7 +1,7 @@
 // The life of the property grid: construction, the window's start, its messages, the notification.
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
-#include "GdiScope.h"
+#include "propgrid/GdiScope.h"
 
 IMPLEMENT_DYNAMIC(CPropertyGrid, CWnd)
 

@@ -27,10 +27,10 @@
 #include <string>
 #include <vector>
 
-#include "GridContents.h"
-#include "GridItem.h"
-#include "GridMessages.h"
-#include "ICustomItem.h"
+#include "propgrid/GridContents.h"
+#include "propgrid/GridItem.h"
+#include "propgrid/GridMessages.h"
+#include "propgrid/ICustomItem.h"
 
 class CMemoryCanvas;
 

@@ -2,13 +2,13 @@
 //
 // The grid may delete the list while it handles the message about the choice: sending it is the last thing
 // that a function does with the object.
-#include "PropertyGridCombo.h"
+#include "propgrid/PropertyGridCombo.h"
 
 #include <algorithm>
 
-#include "GdiScope.h"
-#include "GridMessages.h"
-#include "PropertyGrid.h"
+#include "propgrid/GdiScope.h"
+#include "propgrid/GridMessages.h"
+#include "propgrid/PropertyGrid.h"
 
 IMPLEMENT_DYNAMIC(CPropertyGridCombo, CWnd)
 

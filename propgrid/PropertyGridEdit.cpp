@@ -4,11 +4,11 @@
 // owner's ear, or a custom item's, lies between, and may lead to anything, another editor included.
 #include <utility>
 
-#include "PropertyGrid.h"
-#include "PropertyGridCombo.h"
-#include "PropertyGridInPlaceEdit.h"
-#include "PropertyGridMonthCalCtrl.h"
-#include "TypedNumber.h"
+#include "propgrid/PropertyGrid.h"
+#include "propgrid/PropertyGridCombo.h"
+#include "propgrid/PropertyGridInPlaceEdit.h"
+#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/TypedNumber.h"
 
 namespace {
 

@@ -2,12 +2,12 @@
 //
 // The grid may delete the edit while it handles the message about the end. So whatever leads to the end is
 // the last thing that a function does with the object.
-#include "PropertyGridInPlaceEdit.h"
+#include "propgrid/PropertyGridInPlaceEdit.h"
 
 #include <utility>
 
-#include "GridMessages.h"
-#include "PropertyGrid.h"
+#include "propgrid/GridMessages.h"
+#include "propgrid/PropertyGrid.h"
 
 BEGIN_MESSAGE_MAP(CPropertyGridInPlaceEdit, CEdit)
     ON_WM_CHAR()

@@ -1,7 +1,7 @@
 // The property grid's handlers of input and of what its editors report: each hands its message on to one
 // operation, and to the window's default handling where the operation leaves it to that.
-#include "GdiScope.h"
-#include "PropertyGrid.h"
+#include "propgrid/GdiScope.h"
+#include "propgrid/PropertyGrid.h"
 
 void CPropertyGrid::OnDestroy() {
     CloseEditor();

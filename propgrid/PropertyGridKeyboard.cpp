@@ -1,7 +1,7 @@
 // The property grid and the keyboard: moving the focus from row to row, collapsing and expanding.
 #include <algorithm>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 // False for a key that is none of the grid's.
 bool CPropertyGrid::PressKey(UINT key) {

@@ -1,7 +1,7 @@
 // The layout of the property grid: how high its rows are together, and the scroll bar that follows.
 #include <algorithm>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 // Runs after every change of the rows, so it must not go through them: the row count is kept ready.
 void CPropertyGrid::Relayout() {

@@ -4,8 +4,8 @@
 // id, and the item is looked up again when the dialog has ended.
 #include <utility>
 
-#include "GridDialogs.h"
-#include "PropertyGrid.h"
+#include "propgrid/GridDialogs.h"
+#include "propgrid/PropertyGrid.h"
 
 // Lets the user edit a copy of the item's value of type T; `ask` runs the dialog.
 template <class T, class TAsk>

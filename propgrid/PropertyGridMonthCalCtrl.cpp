@@ -2,9 +2,9 @@
 //
 // The grid may delete the calendar while it handles the message about the date: sending it is the last
 // thing that a function does with the object.
-#include "PropertyGridMonthCalCtrl.h"
+#include "propgrid/PropertyGridMonthCalCtrl.h"
 
-#include "GridMessages.h"
+#include "propgrid/GridMessages.h"
 
 IMPLEMENT_DYNAMIC(CPropertyGridMonthCalCtrl, CMonthCalCtrl)
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <utility>
 
-#include "GdiScope.h"
-#include "PropertyGrid.h"
+#include "propgrid/GdiScope.h"
+#include "propgrid/PropertyGrid.h"
 
 namespace {
 

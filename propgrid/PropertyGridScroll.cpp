@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 // False when the message is done with, true when the default handling is to follow.
 bool CPropertyGrid::ScrollByBar(UINT code, UINT position, const CScrollBar* bar) {

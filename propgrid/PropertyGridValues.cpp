@@ -2,7 +2,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 UINT CPropertyGrid::AddSection(const std::wstring& name, bool collapsed, UINT before) {
     const UINT id = m_contents.AddSection(name, collapsed, before);

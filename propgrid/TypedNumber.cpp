@@ -1,4 +1,4 @@
-#include "TypedNumber.h"
+#include "propgrid/TypedNumber.h"
 
 #include <algorithm>
 #include <clocale>

@@ -1,4 +1,4 @@
-#include "TextLibrary.h"
+#include "res/TextLibrary.h"
 
 namespace {
 

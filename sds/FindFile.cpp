@@ -1,6 +1,6 @@
-#include "FindFile.h"
+#include "sds/FindFile.h"
 
-#include "sds.h"
+#include "sds/sds.h"
 
 std::optional<std::wstring> FindFile(const std::wstring& name) {
     constexpr size_t capacity = 254;

@@ -1,10 +1,10 @@
-#include "HostBinding.h"
+#include "sds/HostBinding.h"
 
 #include <windows.h>
 
 #include <cstring>
 
-#include "sds.h"
+#include "sds/sds.h"
 
 // Every function of sds.h.
 #define SDS_FUNCTIONS(X) \

@@ -1,4 +1,4 @@
-#include "BareDialog.h"
+#include "benchmarks/windows/BareDialog.h"
 
 #include <objidl.h>
 // After objidl.h.

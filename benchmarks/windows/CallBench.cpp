@@ -10,15 +10,15 @@
 #include <string>
 #include <vector>
 
-#include "Arguments.h"
-#include "BareDialog.h"
-#include "BenchTable.h"
-#include "FakeHost.h"
-#include "HostBinding.h"
-#include "LoadedModule.h"
-#include "PaintedSentinel.h"
-#include "TempFolder.h"
-#include "resource.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/windows/BareDialog.h"
+#include "benchmarks/windows/PaintedSentinel.h"
+#include "res/resource.h"
+#include "sds/HostBinding.h"
+#include "tests/windows/module/LoadedModule.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

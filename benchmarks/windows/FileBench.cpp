@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <fstream>
 
-#include "BenchTable.h"
-#include "ItemContents.h"
-#include "TempFolder.h"
-#include "TemplateRewrite.h"
-#include "TextFile.h"
+#include "benchmarks/BenchTable.h"
+#include "itemdlg/ItemContents.h"
+#include "itemdlg/TemplateRewrite.h"
+#include "itemdlg/TextFile.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <cstdio>
 #include <string>
 
-#include "BenchTable.h"
-#include "PropertyGrid.h"
-#include "Turns.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/windows/Turns.h"
+#include "propgrid/PropertyGrid.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "BenchTable.h"
-#include "Turns.h"
+#include "benchmarks/BenchTable.h"
+#include "benchmarks/windows/Turns.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "PaintedSentinel.h"
+#include "benchmarks/windows/PaintedSentinel.h"
 
 #include <utility>
 

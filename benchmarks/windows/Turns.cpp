@@ -1,4 +1,4 @@
-#include "Turns.h"
+#include "benchmarks/windows/Turns.h"
 
 #include <windows.h>
 

@@ -3,9 +3,9 @@
 
 #include <new>
 
-#include "CheckedHeap.h"
-#include "CodeAddress.h"
-#include "HostHeap.h"
+#include "devhost/alloc/CheckedHeap.h"
+#include "devhost/alloc/HostHeap.h"
+#include "devhost/fault/CodeAddress.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "CheckedHeap.h"
+#include "devhost/alloc/CheckedHeap.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <vector>
 
-#include "CodeAddress.h"
+#include "devhost/fault/CodeAddress.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 
 #include <windows.h>
 
-#include "GuardArena.h"
-#include "HeapBlock.h"
-#include "PatternHeap.h"
+#include "devhost/alloc/GuardArena.h"
+#include "devhost/alloc/HeapBlock.h"
+#include "devhost/alloc/PatternHeap.h"
 
 class CCheckedHeap {
 public:

@@ -1,4 +1,4 @@
-#include "GuardArena.h"
+#include "devhost/alloc/GuardArena.h"
 
 #include <windows.h>
 

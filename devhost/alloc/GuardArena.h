@@ -11,7 +11,7 @@
 #include <functional>
 #include <vector>
 
-#include "HeapBlock.h"
+#include "devhost/alloc/HeapBlock.h"
 
 class CGuardArena {
 public:

@@ -1,4 +1,4 @@
-#include "HeapBlock.h"
+#include "devhost/alloc/HeapBlock.h"
 
 #include <windows.h>
 
@@ -6,7 +6,7 @@
 #include <cstdarg>
 #include <cstdio>
 
-#include "CodeAddress.h"
+#include "devhost/fault/CodeAddress.h"
 
 SBlockName::SBlockName(const SHeapBlock& block) {
     std::snprintf(text, sizeof text, "block %llu (%llu bytes, %s)",

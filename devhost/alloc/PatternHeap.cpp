@@ -1,4 +1,4 @@
-#include "PatternHeap.h"
+#include "devhost/alloc/PatternHeap.h"
 
 #include <malloc.h>
 

@@ -7,7 +7,7 @@
 #include <functional>
 #include <unordered_map>
 
-#include "HeapBlock.h"
+#include "devhost/alloc/HeapBlock.h"
 
 class CPatternHeap {
 public:

@@ -3,7 +3,7 @@
 
 #include <atomic>
 
-#include "HostHeap.h"
+#include "devhost/alloc/HostHeap.h"
 
 namespace {
 

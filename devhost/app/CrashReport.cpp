@@ -1,10 +1,10 @@
-#include "CrashReport.h"
+#include "devhost/app/CrashReport.h"
 
 #include <csignal>
 #include <cstdio>
 
-#include "CodeAddress.h"
-#include "ExitStatus.h"
+#include "devhost/app/ExitStatus.h"
+#include "devhost/fault/CodeAddress.h"
 
 namespace {
 

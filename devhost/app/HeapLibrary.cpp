@@ -1,6 +1,6 @@
-#include "HeapLibrary.h"
+#include "devhost/app/HeapLibrary.h"
 
-#include "UserError.h"
+#include "devhost/error/UserError.h"
 
 namespace {
 

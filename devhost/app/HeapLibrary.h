@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "HostHeap.h"
+#include "devhost/alloc/HostHeap.h"
 
 class CHeapLibrary {
 public:

@@ -1,12 +1,12 @@
-#include "Host.h"
+#include "devhost/app/Host.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cwchar>
 
-#include "CrashReport.h"
-#include "LinearUnits.h"
-#include "LispConsole.h"
+#include "devhost/app/CrashReport.h"
+#include "devhost/app/LispConsole.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

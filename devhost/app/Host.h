@@ -12,12 +12,12 @@
 #include <optional>
 #include <string>
 
-#include "Evaluator.h"
-#include "MainWindow.h"
-#include "ResbufList.h"
-#include "SearchPath.h"
-#include "SystemVariables.h"
-#include "TextOutput.h"
+#include "devhost/app/ResbufList.h"
+#include "devhost/app/SearchPath.h"
+#include "devhost/app/SystemVariables.h"
+#include "devhost/app/TextOutput.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/window/MainWindow.h"
 
 // The statuses besides RTNORM.
 inline constexpr int kStatusError = -5001;

@@ -4,7 +4,7 @@
 
 #include <cstdarg>
 
-#include "Host.h"
+#include "devhost/app/Host.h"
 
 namespace {
 

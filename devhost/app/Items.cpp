@@ -1,13 +1,13 @@
-#include "Items.h"
+#include "devhost/app/Items.h"
 
 #include <windows.h>
 
 #include <algorithm>
 #include <filesystem>
 
-#include "Reader.h"
-#include "SearchPath.h"
-#include "UserError.h"
+#include "devhost/app/SearchPath.h"
+#include "devhost/error/UserError.h"
+#include "devhost/lisp/Reader.h"
 
 std::vector<SItem> FindItems(const std::wstring& folder) {
     const std::wstring full = FullPath(folder);

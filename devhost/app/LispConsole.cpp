@@ -1,9 +1,9 @@
-#include "LispConsole.h"
+#include "devhost/app/LispConsole.h"
 
 #include <windows.h>
 
-#include "LispError.h"
-#include "TypedPoint.h"
+#include "devhost/drawing/TypedPoint.h"
+#include "devhost/lisp/LispError.h"
 
 SLispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::optional<SPoint> base,
                                       EQuestion question) const {

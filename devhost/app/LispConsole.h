@@ -2,11 +2,11 @@
 // window.
 #pragma once
 
-#include "LispHost.h"
-#include "MainWindow.h"
-#include "SearchPath.h"
-#include "SystemVariables.h"
-#include "TextOutput.h"
+#include "devhost/app/SearchPath.h"
+#include "devhost/app/SystemVariables.h"
+#include "devhost/app/TextOutput.h"
+#include "devhost/lisp/LispHost.h"
+#include "devhost/window/MainWindow.h"
 
 class CLispConsole : public ILispHost {
 public:

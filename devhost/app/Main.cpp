@@ -8,19 +8,19 @@
 #include <string>
 #include <vector>
 
-#include "Arguments.h"
-#include "CrashReport.h"
-#include "DrawFunctions.h"
-#include "ExitStatus.h"
-#include "HeapLibrary.h"
-#include "Host.h"
-#include "Items.h"
-#include "LispConsole.h"
-#include "OneLine.h"
-#include "Options.h"
-#include "PlugIn.h"
-#include "Session.h"
-#include "SvgWriter.h"
+#include "devhost/app/CrashReport.h"
+#include "devhost/app/ExitStatus.h"
+#include "devhost/app/HeapLibrary.h"
+#include "devhost/app/Host.h"
+#include "devhost/app/Items.h"
+#include "devhost/app/LispConsole.h"
+#include "devhost/app/PlugIn.h"
+#include "devhost/app/Session.h"
+#include "devhost/cmdline/Options.h"
+#include "devhost/drawing/SvgWriter.h"
+#include "devhost/drawlisp/DrawFunctions.h"
+#include "devhost/lisp/Arguments.h"
+#include "devhost/lisp/OneLine.h"
 
 namespace {
 

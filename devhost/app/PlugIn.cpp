@@ -1,8 +1,8 @@
-#include "PlugIn.h"
+#include "devhost/app/PlugIn.h"
 
 #include <optional>
 
-#include "CrashReport.h"
+#include "devhost/app/CrashReport.h"
 
 namespace {
 

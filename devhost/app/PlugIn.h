@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "Host.h"
+#include "devhost/app/Host.h"
 
 class CPlugIn {
 public:

@@ -1,11 +1,11 @@
-#include "ResbufList.h"
+#include "devhost/app/ResbufList.h"
 
 #include <cstdint>
 #include <limits>
 #include <vector>
 
-#include "LispError.h"
-#include "Printer.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "Value.h"
-#include "sds.h"
+#include "devhost/lisp/Value.h"
+#include "sds/sds.h"
 
 // Owns the records of one list and the texts in them; their addresses hold as long as the list lives.
 class CResbufList {

@@ -1,10 +1,10 @@
-#include "SearchPath.h"
+#include "devhost/app/SearchPath.h"
 
 #include <windows.h>
 
 #include <shlwapi.h>
 
-#include "UserError.h"
+#include "devhost/error/UserError.h"
 
 std::wstring FullPath(const std::wstring& path) {
     const DWORD room = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);

@@ -1,8 +1,8 @@
-#include "Session.h"
+#include "devhost/app/Session.h"
 
-#include "ExitStatus.h"
-#include "Host.h"
-#include "Printer.h"
+#include "devhost/app/ExitStatus.h"
+#include "devhost/app/Host.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

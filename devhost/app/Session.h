@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "Evaluator.h"
-#include "MainWindow.h"
-#include "Options.h"
-#include "TextOutput.h"
+#include "devhost/app/TextOutput.h"
+#include "devhost/cmdline/Options.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/window/MainWindow.h"
 
 // A task of the command line, read before anything is loaded.
 struct SPreparedTask {

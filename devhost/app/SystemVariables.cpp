@@ -1,8 +1,8 @@
-#include "SystemVariables.h"
+#include "devhost/app/SystemVariables.h"
 
-#include "LinearUnits.h"
-#include "LispError.h"
-#include "Printer.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/units/LinearUnits.h"
 
 void CSystemVariables::SetLinear(SLinearFormat linear) {
     m_linear = linear;

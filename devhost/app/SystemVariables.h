@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "Value.h"
+#include "devhost/lisp/Value.h"
 
 struct SLinearFormat {
     short lunits;

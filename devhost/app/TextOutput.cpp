@@ -1,4 +1,4 @@
-#include "TextOutput.h"
+#include "devhost/app/TextOutput.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "Options.h"
+#include "devhost/cmdline/Options.h"
 
 namespace {
 

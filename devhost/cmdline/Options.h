@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "LinearUnits.h"
-#include "UserError.h"
+#include "devhost/error/UserError.h"
+#include "devhost/units/LinearUnits.h"
 
 // Something to evaluate before the window is the user's.
 struct STask {

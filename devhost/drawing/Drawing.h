@@ -10,7 +10,7 @@
 #include <variant>
 #include <vector>
 
-#include "Point.h"
+#include "devhost/drawing/Point.h"
 
 struct SLine {
     SPoint from;

@@ -1,4 +1,4 @@
-#include "Outline.h"
+#include "devhost/drawing/Outline.h"
 
 #include <algorithm>
 #include <cmath>

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "Drawing.h"
+#include "devhost/drawing/Drawing.h"
 
 // The line that a pen follows to draw the entity, in drawing units; a closed one ends where it begins.
 // Circles and arcs become chords that stay within `tolerance` (drawing units, above zero) of the curve, up

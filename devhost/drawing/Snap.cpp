@@ -1,4 +1,4 @@
-#include "Snap.h"
+#include "devhost/drawing/Snap.h"
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "Drawing.h"
+#include "devhost/drawing/Drawing.h"
 
 // The end point nearest to `place` among those within `reach` (drawing units); nothing when there is none.
 // End points are the ends of lines and arcs and the points of polylines; of two that are equally near the

@@ -1,4 +1,4 @@
-#include "SvgWriter.h"
+#include "devhost/drawing/SvgWriter.h"
 
 #include <algorithm>
 #include <charconv>

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "Drawing.h"
+#include "devhost/drawing/Drawing.h"
 
 // The text of an SVG file (UTF-8) that shows the whole drawing with a small margin, y upwards, its longer
 // side 1000 pixels. One unit of its coordinates is one drawing unit; lines keep their width however the

@@ -1,8 +1,8 @@
-#include "TypedPoint.h"
+#include "devhost/drawing/TypedPoint.h"
 
 #include <cmath>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

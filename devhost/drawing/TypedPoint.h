@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "Point.h"
+#include "devhost/drawing/Point.h"
 
 // The point that `text` spells, in drawing units; nothing when it spells none:
 //   120,45    coordinates; each is a length in any of the linear formats

@@ -1,4 +1,4 @@
-#include "ViewTransform.h"
+#include "devhost/drawing/ViewTransform.h"
 
 #include <algorithm>
 

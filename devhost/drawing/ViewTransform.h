@@ -2,7 +2,7 @@
 // upper left; a pixel's whole coordinates are its middle) and back.
 #pragma once
 
-#include "Point.h"
+#include "devhost/drawing/Point.h"
 
 class CViewTransform {
 public:

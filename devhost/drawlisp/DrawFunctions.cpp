@@ -1,7 +1,7 @@
-#include "DrawFunctions.h"
+#include "devhost/drawlisp/DrawFunctions.h"
 
-#include "Arguments.h"
-#include "Printer.h"
+#include "devhost/lisp/Arguments.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 // three numbers, of which the first two count. Each gives T.
 #pragma once
 
-#include "Drawing.h"
-#include "Evaluator.h"
+#include "devhost/drawing/Drawing.h"
+#include "devhost/lisp/Evaluator.h"
 
 // Both must live as long as the functions are called.
 void DefineDrawFunctions(CEvaluator& evaluator, CDrawing& drawing);

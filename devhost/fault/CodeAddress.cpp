@@ -1,4 +1,4 @@
-#include "CodeAddress.h"
+#include "devhost/fault/CodeAddress.h"
 
 #include <windows.h>
 

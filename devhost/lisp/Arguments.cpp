@@ -1,7 +1,7 @@
-#include "Arguments.h"
+#include "devhost/lisp/Arguments.h"
 
-#include "Evaluator.h"
-#include "Printer.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "Function.h"
-#include "LispHost.h"
-#include "Value.h"
+#include "devhost/lisp/Function.h"
+#include "devhost/lisp/LispHost.h"
+#include "devhost/lisp/Value.h"
 
 class CArguments {
 public:

@@ -6,8 +6,8 @@
 #include <limits>
 #include <numeric>
 
-#include "Builtins.h"
-#include "LispError.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/LispError.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Builtins.h"
+#include "devhost/lisp/Builtins.h"
 
 void DefineBuiltins(CEvaluator& evaluator, const CDefineBuiltin& define) {
     for (const SSpecialForm& form : ControlForms())

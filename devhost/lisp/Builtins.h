@@ -4,8 +4,8 @@
 #include <functional>
 #include <span>
 
-#include "Arguments.h"
-#include "Function.h"
+#include "devhost/lisp/Arguments.h"
+#include "devhost/lisp/Function.h"
 
 // A function of a table, with the counts of arguments that TakeArguments allows.
 struct SBuiltin {

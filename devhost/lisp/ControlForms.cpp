@@ -1,8 +1,8 @@
 // Assignment, definition, branches and loops: what decides itself what it evaluates; and the functions that
 // evaluate and call.
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "Printer.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 #include <limits>
 #include <numbers>
 
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "LinearUnits.h"
-#include "Printer.h"
-#include "Reader.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/lisp/Reader.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

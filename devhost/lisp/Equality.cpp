@@ -1,10 +1,10 @@
-#include "Equality.h"
+#include "devhost/lisp/Equality.h"
 
 #include <cmath>
 #include <utility>
 #include <vector>
 
-#include "Arguments.h"
+#include "devhost/lisp/Arguments.h"
 
 namespace {
 

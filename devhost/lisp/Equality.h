@@ -1,7 +1,7 @@
 // When two values are equal.
 #pragma once
 
-#include "Evaluator.h"
+#include "devhost/lisp/Evaluator.h"
 
 // Whether both look alike: equal numbers whatever their type, texts of the same characters, lists of equal
 // elements; everything else has to be the same thing. Numbers may differ by `tolerance`. Counts as steps of

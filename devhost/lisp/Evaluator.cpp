@@ -1,11 +1,11 @@
-#include "Evaluator.h"
+#include "devhost/lisp/Evaluator.h"
 
 #include <algorithm>
 #include <new>
 
-#include "Builtins.h"
-#include "Printer.h"
-#include "Reader.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/lisp/Reader.h"
 
 namespace {
 

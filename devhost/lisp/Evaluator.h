@@ -18,11 +18,11 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "Function.h"
-#include "LispError.h"
-#include "LispHost.h"
-#include "Source.h"
-#include "Value.h"
+#include "devhost/lisp/Function.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/LispHost.h"
+#include "devhost/lisp/Source.h"
+#include "devhost/lisp/Value.h"
 
 class CEvaluator {
 public:

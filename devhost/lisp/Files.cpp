@@ -1,8 +1,8 @@
 // Files: opening, reading and closing them, finding them and running what LISP is in them.
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "LispFile.h"
-#include "Source.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/LispFile.h"
+#include "devhost/lisp/Source.h"
 
 namespace {
 

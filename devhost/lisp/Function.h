@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "Value.h"
+#include "devhost/lisp/Value.h"
 
 class CEvaluator;
 

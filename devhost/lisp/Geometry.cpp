@@ -3,7 +3,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "Builtins.h"
+#include "devhost/lisp/Builtins.h"
 
 namespace {
 

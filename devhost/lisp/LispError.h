@@ -1,7 +1,7 @@
 // A mistake in a LISP text or in its evaluation.
 #pragma once
 
-#include "UserError.h"
+#include "devhost/error/UserError.h"
 
 class CLispError : public CUserError {
 public:

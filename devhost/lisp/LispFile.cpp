@@ -1,9 +1,9 @@
-#include "LispFile.h"
+#include "devhost/lisp/LispFile.h"
 
 #include <filesystem>
 
-#include "LispError.h"
-#include "TextEncoding.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/TextEncoding.h"
 
 namespace {
 

@@ -14,8 +14,8 @@
 #include <string>
 #include <string_view>
 
-#include "LispFile.h"
-#include "Value.h"
+#include "devhost/lisp/LispFile.h"
+#include "devhost/lisp/Value.h"
 
 // A place in the drawing, in drawing units.
 struct SLispPoint {

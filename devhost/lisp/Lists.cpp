@@ -1,10 +1,10 @@
 // Making lists, taking them apart and searching them.
 #include <algorithm>
 
-#include "Builtins.h"
-#include "Equality.h"
-#include "Evaluator.h"
-#include "Printer.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Equality.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

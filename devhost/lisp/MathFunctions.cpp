@@ -2,8 +2,8 @@
 #include <cmath>
 #include <limits>
 
-#include "Builtins.h"
-#include "LispError.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/LispError.h"
 
 namespace {
 

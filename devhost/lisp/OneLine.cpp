@@ -1,4 +1,4 @@
-#include "OneLine.h"
+#include "devhost/lisp/OneLine.h"
 
 namespace {
 

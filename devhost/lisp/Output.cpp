@@ -1,7 +1,7 @@
 // Printing, to the host's output or into a file that a routine has opened.
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "Printer.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

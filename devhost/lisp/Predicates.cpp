@@ -1,7 +1,7 @@
 // Comparisons and questions about a value. The answer is T or nil.
-#include "Builtins.h"
-#include "Equality.h"
-#include "Evaluator.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Equality.h"
+#include "devhost/lisp/Evaluator.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "Printer.h"
+#include "devhost/lisp/Printer.h"
 
 #include <charconv>
 #include <cmath>
 #include <vector>
 
-#include "Function.h"
-#include "LispError.h"
-#include "LispFile.h"
+#include "devhost/lisp/Function.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/LispFile.h"
 
 namespace {
 

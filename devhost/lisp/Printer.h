@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "Value.h"
+#include "devhost/lisp/Value.h"
 
 // The text that Reader.h reads back as an equal value: texts in quotes with their escapes, reals with as
 // many digits as it takes and always with a point or an exponent, dotted pairs with their dot. What has no

@@ -4,9 +4,9 @@
 #include <charconv>
 #include <cmath>
 
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "LinearUnits.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

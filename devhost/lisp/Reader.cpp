@@ -1,4 +1,4 @@
-#include "Reader.h"
+#include "devhost/lisp/Reader.h"
 
 #include <algorithm>
 #include <charconv>

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "LispError.h"
-#include "Value.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/Value.h"
 
 class CReader {
 public:

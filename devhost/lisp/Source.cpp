@@ -1,12 +1,12 @@
-#include "Source.h"
+#include "devhost/lisp/Source.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
-#include "LispError.h"
-#include "Reader.h"
-#include "TextEncoding.h"
+#include "devhost/lisp/LispError.h"
+#include "devhost/lisp/Reader.h"
+#include "devhost/lisp/TextEncoding.h"
 
 SSource ReadText(std::wstring_view text) {
     SSource source;

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Value.h"
+#include "devhost/lisp/Value.h"
 
 struct SSource {
     std::wstring file;  // as errors name it; empty for typed text

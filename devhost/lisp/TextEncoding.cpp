@@ -1,4 +1,4 @@
-#include "TextEncoding.h"
+#include "devhost/lisp/TextEncoding.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,9 +2,9 @@
 // Windows.
 #include <algorithm>
 
-#include "Builtins.h"
-#include "Evaluator.h"
-#include "LispError.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/LispError.h"
 
 namespace {
 

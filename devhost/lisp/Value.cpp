@@ -1,8 +1,8 @@
-#include "Value.h"
+#include "devhost/lisp/Value.h"
 
 #include <utility>
 
-#include "Function.h"
+#include "devhost/lisp/Function.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <limits>
 #include <numeric>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

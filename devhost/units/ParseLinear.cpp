@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "DrawingView.h"
+#include "devhost/window/DrawingView.h"
 
 #include <windowsx.h>
 
 #include <cmath>
 
-#include "Snap.h"
-#include "UserError.h"
-#include "WindowProc.h"
+#include "devhost/drawing/Snap.h"
+#include "devhost/error/UserError.h"
+#include "devhost/window/WindowProc.h"
 
 namespace {
 

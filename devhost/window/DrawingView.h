@@ -12,10 +12,10 @@
 #include <optional>
 #include <vector>
 
-#include "Drawing.h"
-#include "GdiScope.h"
-#include "Scale.h"
-#include "ViewTransform.h"
+#include "devhost/drawing/Drawing.h"
+#include "devhost/drawing/ViewTransform.h"
+#include "devhost/window/GdiScope.h"
+#include "devhost/window/Scale.h"
 
 class CDrawingView {
 public:

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "DrawingView.h"
-#include "Outline.h"
-#include "ScenePaint.h"
+#include "devhost/drawing/Outline.h"
+#include "devhost/window/DrawingView.h"
+#include "devhost/window/ScenePaint.h"
 
 namespace {
 

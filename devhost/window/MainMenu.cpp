@@ -1,9 +1,9 @@
-#include "MainMenu.h"
+#include "devhost/window/MainMenu.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "Commands.h"
+#include "devhost/window/Commands.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "MainWindow.h"
+#include "devhost/window/MainWindow.h"
 
 #include <windows.h>
 
@@ -8,11 +8,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "Commands.h"
-#include "LinearUnits.h"
-#include "ProgramVersion.h"
-#include "UserError.h"
-#include "WindowProc.h"
+#include "devhost/error/UserError.h"
+#include "devhost/units/LinearUnits.h"
+#include "devhost/window/Commands.h"
+#include "devhost/window/ProgramVersion.h"
+#include "devhost/window/WindowProc.h"
 
 namespace {
 

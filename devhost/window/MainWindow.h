@@ -16,14 +16,14 @@
 #include <variant>
 #include <vector>
 
-#include "DrawingView.h"
-#include "GdiScope.h"
-#include "MainMenu.h"
-#include "OutputList.h"
-#include "PromptHistory.h"
-#include "PromptPaste.h"
-#include "Scale.h"
-#include "StatusLine.h"
+#include "devhost/window/DrawingView.h"
+#include "devhost/window/GdiScope.h"
+#include "devhost/window/MainMenu.h"
+#include "devhost/window/OutputList.h"
+#include "devhost/window/PromptHistory.h"
+#include "devhost/window/PromptPaste.h"
+#include "devhost/window/Scale.h"
+#include "devhost/window/StatusLine.h"
 
 // What a question is about: a click into the drawing answers the first alone, a typed line both.
 enum EAsk { ASK_POINT, ASK_TEXT };

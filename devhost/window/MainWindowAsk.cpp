@@ -6,8 +6,8 @@
 
 #include <utility>
 
-#include "MainWindow.h"
-#include "TypedPoint.h"
+#include "devhost/drawing/TypedPoint.h"
+#include "devhost/window/MainWindow.h"
 
 namespace {
 

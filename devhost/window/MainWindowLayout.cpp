@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-#include "Commands.h"
-#include "MainWindow.h"
-#include "UserError.h"
+#include "devhost/error/UserError.h"
+#include "devhost/window/Commands.h"
+#include "devhost/window/MainWindow.h"
 
 namespace {
 

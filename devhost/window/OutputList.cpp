@@ -1,10 +1,10 @@
-#include "OutputList.h"
+#include "devhost/window/OutputList.h"
 
 #include <cstdlib>
 #include <string>
 
-#include "Commands.h"
-#include "UserError.h"
+#include "devhost/error/UserError.h"
+#include "devhost/window/Commands.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ProgramVersion.h"
+#include "devhost/window/ProgramVersion.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "PromptHistory.h"
+#include "devhost/window/PromptHistory.h"
 
 namespace {
 

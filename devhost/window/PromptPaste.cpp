@@ -1,4 +1,4 @@
-#include "PromptPaste.h"
+#include "devhost/window/PromptPaste.h"
 
 #include <commctrl.h>
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "GdiScope.h"
+#include "devhost/window/GdiScope.h"
 
 // Turns pixels of a screen with 96 dots per inch into those of this one.
 class CScale {

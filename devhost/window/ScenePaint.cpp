@@ -1,13 +1,13 @@
-#include "ScenePaint.h"
+#include "devhost/window/ScenePaint.h"
 
 #include <cmath>
 #include <numbers>
 #include <vector>
 
-#include "GdiScope.h"
-#include "Grid.h"
-#include "Outline.h"
-#include "Scale.h"
+#include "devhost/drawing/Grid.h"
+#include "devhost/drawing/Outline.h"
+#include "devhost/window/GdiScope.h"
+#include "devhost/window/Scale.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
-#include "StatusLine.h"
+#include "devhost/window/StatusLine.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
 #include <iterator>
 
-#include "Commands.h"
-#include "GdiScope.h"
-#include "LinearUnits.h"
-#include "UserError.h"
+#include "devhost/error/UserError.h"
+#include "devhost/units/LinearUnits.h"
+#include "devhost/window/Commands.h"
+#include "devhost/window/GdiScope.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "Point.h"
-#include "Scale.h"
+#include "devhost/drawing/Point.h"
+#include "devhost/window/Scale.h"
 
 class CStatusLine {
 public:

@@ -6,8 +6,8 @@
 #include <iterator>
 #include <string>
 
-#include "Desktop.h"
-#include "HostRun.h"
+#include "tests/e2e/Desktop.h"
+#include "tests/e2e/HostRun.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <sstream>
 
-#include "Desktop.h"
-#include "HostRun.h"
+#include "tests/e2e/Desktop.h"
+#include "tests/e2e/HostRun.h"
 
 namespace {
 

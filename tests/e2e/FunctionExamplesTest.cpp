@@ -3,7 +3,7 @@
 // hands.
 #include <filesystem>
 
-#include "ItemDialogWindow.h"
+#include "tests/e2e/ItemDialogWindow.h"
 
 namespace {
 

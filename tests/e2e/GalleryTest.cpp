@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <random>
 
-#include "GalleryWindow.h"
+#include "tests/e2e/GalleryWindow.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "GalleryWindow.h"
+#include "tests/e2e/GalleryWindow.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "Desktop.h"
-#include "HostRun.h"
+#include "tests/e2e/Desktop.h"
+#include "tests/e2e/HostRun.h"
 
 class GalleryWindow : public testing::Test {
 protected:

@@ -1,4 +1,4 @@
-#include "HostRun.h"
+#include "tests/e2e/HostRun.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 #include <iostream>
 #include <iterator>
 
-#include "Desktop.h"
+#include "tests/e2e/Desktop.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include <filesystem>
 
-#include "ItemDialogWindow.h"
+#include "tests/e2e/ItemDialogWindow.h"
 
 namespace {
 

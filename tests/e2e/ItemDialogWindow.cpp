@@ -1,4 +1,4 @@
-#include "ItemDialogWindow.h"
+#include "tests/e2e/ItemDialogWindow.h"
 
 void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
     host.UseSample("door");

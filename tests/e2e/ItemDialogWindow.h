@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "Desktop.h"
-#include "HostRun.h"
+#include "tests/e2e/Desktop.h"
+#include "tests/e2e/HostRun.h"
 
 inline constexpr Rgb headerGrey{0xC8, 0xC8, 0xC8};
 inline constexpr Rgb dialogGrey{0xE1, 0xE1, 0xE1};

@@ -1,7 +1,7 @@
 // Values of the sample door changed by a person: typed, picked in the drawing, or left alone.
 #include <algorithm>
 
-#include "ItemDialogWindow.h"
+#include "tests/e2e/ItemDialogWindow.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ItemRun.h"
+#include "tests/e2e/ItemRun.h"
 
 #include <filesystem>
 

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "ItemDialogWindow.h"
-#include "SvgDrawing.h"
+#include "tests/e2e/ItemDialogWindow.h"
+#include "tests/e2e/SvgDrawing.h"
 
 class ItemRun : public ItemDialogWindow {
 protected:

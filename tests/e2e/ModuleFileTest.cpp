@@ -12,8 +12,8 @@
 #include <sstream>
 #include <string>
 
-#include "Desktop.h"
-#include "HostRun.h"
+#include "tests/e2e/Desktop.h"
+#include "tests/e2e/HostRun.h"
 
 namespace {
 

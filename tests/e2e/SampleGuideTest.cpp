@@ -4,7 +4,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "ItemRun.h"
+#include "tests/e2e/ItemRun.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The sample items from the first dialog to the drawing.
 #include <filesystem>
 
-#include "ItemRun.h"
+#include "tests/e2e/ItemRun.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "SvgDrawing.h"
+#include "tests/e2e/SvgDrawing.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,10 +5,10 @@
 #include <string>
 #include <tuple>
 
-#include "Checker.h"
-#include "Fuzz.h"
-#include "Report.h"
-#include "RuleTable.h"
+#include "tests/fuzz/Fuzz.h"
+#include "tools/findings/Report.h"
+#include "tools/rules/Checker.h"
+#include "tools/rules/RuleTable.h"
 
 namespace {
 

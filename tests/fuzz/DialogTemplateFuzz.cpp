@@ -5,10 +5,10 @@
 #include <memory>
 #include <string>
 
-#include "ControlTypes.h"
-#include "DialogLayout.h"
-#include "DialogTemplate.h"
-#include "Fuzz.h"
+#include "dyndlg/ControlTypes.h"
+#include "dyndlg/DialogLayout.h"
+#include "dyndlg/DialogTemplate.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // What all fuzz targets share.
-#include "Fuzz.h"
+#include "tests/fuzz/Fuzz.h"
 
 #include <cstdio>
 #include <cstdlib>

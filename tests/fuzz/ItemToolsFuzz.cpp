@@ -2,11 +2,11 @@
 #include <cstdint>
 #include <string>
 
-#include "Files.h"
-#include "Fuzz.h"
-#include "LabelExtraction.h"
-#include "PreviewReport.h"
-#include "ScriptEdit.h"
+#include "tests/fuzz/Fuzz.h"
+#include "tools/extract/LabelExtraction.h"
+#include "tools/extract/ScriptEdit.h"
+#include "tools/files/Files.h"
+#include "tools/preview/PreviewReport.h"
 
 namespace {
 

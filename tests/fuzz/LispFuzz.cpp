@@ -3,9 +3,9 @@
 #include <optional>
 #include <vector>
 
-#include "Fuzz.h"
-#include "Printer.h"
-#include "Reader.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/lisp/Reader.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

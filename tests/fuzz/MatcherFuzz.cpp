@@ -7,9 +7,9 @@
 #include <optional>
 #include <vector>
 
-#include "Fuzz.h"
-#include "PatternMatcher.h"
-#include "PatternTranslation.h"
+#include "itemdlg/PatternMatcher.h"
+#include "tests/fuzz/Fuzz.h"
+#include "tests/fuzz/PatternTranslation.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "Fuzz.h"
-#include "NumberText.h"
+#include "itemdlg/NumberText.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Reading a pattern and writing it for PCRE2.
-#include "PatternTranslation.h"
+#include "tests/fuzz/PatternTranslation.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -4,10 +4,10 @@
 #include <map>
 #include <optional>
 
-#include "BlockTracker.h"
-#include "Fuzz.h"
-#include "TemplateRewrite.h"
-#include "TemplateText.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/TemplateRewrite.h"
+#include "itemdlg/TemplateText.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

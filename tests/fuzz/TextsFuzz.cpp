@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
-#include "Files.h"
-#include "Fuzz.h"
-#include "ScriptEdit.h"
-#include "StringScript.h"
-#include "TextTable.h"
+#include "tests/fuzz/Fuzz.h"
+#include "tools/extract/ScriptEdit.h"
+#include "tools/files/Files.h"
+#include "tools/texts/StringScript.h"
+#include "tools/texts/TextTable.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <cstring>
 
-#include "Fuzz.h"
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
+#include "tests/fuzz/Fuzz.h"
 
 namespace {
 

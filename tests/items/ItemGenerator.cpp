@@ -1,4 +1,4 @@
-#include "ItemGenerator.h"
+#include "tests/items/ItemGenerator.h"
 
 namespace {
 

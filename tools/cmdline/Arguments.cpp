@@ -1,9 +1,9 @@
-#include "Arguments.h"
+#include "tools/cmdline/Arguments.h"
 
 #include <cmath>
 
-#include "Files.h"
-#include "WholeNumber.h"
+#include "tools/cmdline/WholeNumber.h"
+#include "tools/files/Files.h"
 
 bool CArguments::Next() {
     if (m_next == m_arguments.size()) {

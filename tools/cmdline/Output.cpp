@@ -1,8 +1,8 @@
-#include "Output.h"
+#include "tools/cmdline/Output.h"
 
 #include <cstdio>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 void Print(std::string_view text) {
     const bool isTaken = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();

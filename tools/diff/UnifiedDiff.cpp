@@ -1,4 +1,4 @@
-#include "UnifiedDiff.h"
+#include "tools/diff/UnifiedDiff.h"
 
 #include <algorithm>
 

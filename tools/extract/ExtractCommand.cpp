@@ -1,16 +1,16 @@
-#include "ExtractCommand.h"
+#include "tools/extract/ExtractCommand.h"
 
 #include <filesystem>
 #include <optional>
 
-#include "Arguments.h"
-#include "CodePage.h"
-#include "Files.h"
-#include "LabelExtraction.h"
-#include "Output.h"
-#include "ScriptEdit.h"
-#include "StringModule.h"
-#include "TemplateText.h"
+#include "itemdlg/TemplateText.h"
+#include "tools/cmdline/Arguments.h"
+#include "tools/cmdline/Output.h"
+#include "tools/extract/LabelExtraction.h"
+#include "tools/extract/ScriptEdit.h"
+#include "tools/files/Files.h"
+#include "tools/texts/CodePage.h"
+#include "tools/texts/StringModule.h"
 
 namespace {
 

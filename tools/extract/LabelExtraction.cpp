@@ -1,14 +1,14 @@
-#include "LabelExtraction.h"
+#include "tools/extract/LabelExtraction.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <utility>
 
-#include "BlockTracker.h"
-#include "Files.h"
-#include "ItemFiles.h"
-#include "TemplateText.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/ItemFiles.h"
+#include "itemdlg/TemplateText.h"
+#include "tools/files/Files.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "FileLines.h"
-#include "TextTable.h"
+#include "tools/lines/FileLines.h"
+#include "tools/texts/TextTable.h"
 
 struct SExtractedText {
     unsigned number = 0;

@@ -1,4 +1,4 @@
-#include "ScriptEdit.h"
+#include "tools/extract/ScriptEdit.h"
 
 #include <algorithm>
 #include <array>
@@ -6,9 +6,9 @@
 #include <cstdio>
 #include <optional>
 
-#include "CodePage.h"
-#include "Files.h"
-#include "StringScript.h"
+#include "tools/files/Files.h"
+#include "tools/texts/CodePage.h"
+#include "tools/texts/StringScript.h"
 
 namespace {
 

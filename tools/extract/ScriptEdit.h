@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "LabelExtraction.h"
-#include "UnifiedDiff.h"
+#include "tools/diff/UnifiedDiff.h"
+#include "tools/extract/LabelExtraction.h"
 
 // A file's bytes as lines with their line ends.
 std::vector<std::string> LinesWithEnds(std::string_view bytes);

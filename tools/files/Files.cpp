@@ -1,4 +1,4 @@
-#include "Files.h"
+#include "tools/files/Files.h"
 
 #include <fstream>
 #include <system_error>

@@ -1,4 +1,4 @@
-#include "ItemName.h"
+#include "tools/files/ItemName.h"
 
 #include <algorithm>
 

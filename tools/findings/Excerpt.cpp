@@ -1,8 +1,8 @@
-#include "Excerpt.h"
+#include "tools/findings/Excerpt.h"
 
 #include <algorithm>
 
-#include "CodePage.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Finding.h"
+#include "tools/findings/Finding.h"
 
 std::string_view SeverityName(ESeverity severity) {
     switch (severity) {

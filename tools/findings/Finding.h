@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "Excerpt.h"
+#include "tools/findings/Excerpt.h"
 
 enum ESeverity {
     SV_NOTE,     // worth knowing

@@ -1,6 +1,6 @@
 #include <nlohmann/json.hpp>
 
-#include "Report.h"
+#include "tools/findings/Report.h"
 
 std::string JsonReport(std::span<const SFinding> findings) {
     using Json = nlohmann::ordered_json;

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "Finding.h"
+#include "tools/findings/Finding.h"
 
 // A line per finding as compilers print it, then the line of the file with the offending text underlined:
 //

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "Report.h"
+#include "tools/findings/Report.h"
 
 namespace {
 

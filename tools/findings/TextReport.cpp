@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "Report.h"
+#include "tools/findings/Report.h"
 
 std::string TextReport(std::span<const SFinding> findings) {
     constexpr std::size_t kIndent = 4;

@@ -1,4 +1,4 @@
-#include "FileLines.h"
+#include "tools/lines/FileLines.h"
 
 #include <algorithm>
 

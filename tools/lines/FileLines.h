@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "TemplateRewrite.h"
+#include "itemdlg/TemplateRewrite.h"
 
 // A line and its end, "\n", "\r\n", or nothing behind the last line. LF and CR LF end a line; any other CR, a
 // NUL and a 0x1A are characters of their line.

@@ -1,13 +1,13 @@
-#include "ItemPreview.h"
+#include "tools/preview/ItemPreview.h"
 
 #include <cmath>
 #include <optional>
 #include <utility>
 
-#include "CodePage.h"
-#include "LinearUnits.h"
-#include "NumberText.h"
-#include "WholeNumber.h"
+#include "devhost/units/LinearUnits.h"
+#include "itemdlg/NumberText.h"
+#include "tools/cmdline/WholeNumber.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

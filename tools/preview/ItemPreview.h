@@ -6,8 +6,8 @@
 #include <functional>
 #include <string>
 
-#include "Files.h"
-#include "ItemContents.h"
+#include "itemdlg/ItemContents.h"
+#include "tools/files/Files.h"
 
 struct SPreviewSettings {
     double scale = 1.0;                                // between the values in the files and those shown

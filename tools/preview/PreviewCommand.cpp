@@ -1,4 +1,4 @@
-#include "PreviewCommand.h"
+#include "tools/preview/PreviewCommand.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -7,17 +7,17 @@
 #include <set>
 #include <utility>
 
-#include "Arguments.h"
-#include "CodePage.h"
-#include "FileLines.h"
-#include "Files.h"
-#include "ItemFiles.h"
-#include "ItemName.h"
-#include "ItemPreview.h"
-#include "LinearUnits.h"
-#include "Output.h"
-#include "PreviewReport.h"
-#include "TextTable.h"
+#include "devhost/units/LinearUnits.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/cmdline/Arguments.h"
+#include "tools/cmdline/Output.h"
+#include "tools/files/Files.h"
+#include "tools/files/ItemName.h"
+#include "tools/lines/FileLines.h"
+#include "tools/preview/ItemPreview.h"
+#include "tools/preview/PreviewReport.h"
+#include "tools/texts/CodePage.h"
+#include "tools/texts/TextTable.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
-#include "PreviewReport.h"
+#include "tools/preview/PreviewReport.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <map>
 
-#include "CodePage.h"
-#include "ItemMessages.h"
-#include "UnifiedDiff.h"
+#include "itemdlg/ItemMessages.h"
+#include "tools/diff/UnifiedDiff.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

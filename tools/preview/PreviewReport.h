@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "FileLines.h"
-#include "ItemPreview.h"
+#include "tools/lines/FileLines.h"
+#include "tools/preview/ItemPreview.h"
 
 struct SPreviewFile {
     std::string name;

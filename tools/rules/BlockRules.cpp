@@ -1,11 +1,11 @@
-#include "BlockRules.h"
+#include "tools/rules/BlockRules.h"
 
 #include <utility>
 
-#include "BlockTracker.h"
-#include "Characters.h"
-#include "ItemFiles.h"
-#include "LineRules.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/rules/Characters.h"
+#include "tools/rules/LineRules.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList BlockRules();
 

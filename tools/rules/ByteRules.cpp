@@ -1,10 +1,10 @@
-#include "ByteRules.h"
+#include "tools/rules/ByteRules.h"
 
 #include <algorithm>
 #include <string>
 
-#include "CodePage.h"
-#include "FileLines.h"
+#include "tools/lines/FileLines.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList ByteRules();
 

@@ -1,15 +1,15 @@
-#include "Checker.h"
+#include "tools/rules/Checker.h"
 
-#include "BlockRules.h"
-#include "ByteRules.h"
-#include "ItemFiles.h"
-#include "LabelRules.h"
-#include "LineRules.h"
-#include "LineWalk.h"
-#include "NumberRules.h"
-#include "PairRules.h"
-#include "TitleRules.h"
-#include "ValueRules.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/rules/BlockRules.h"
+#include "tools/rules/ByteRules.h"
+#include "tools/rules/LabelRules.h"
+#include "tools/rules/LineRules.h"
+#include "tools/rules/LineWalk.h"
+#include "tools/rules/NumberRules.h"
+#include "tools/rules/PairRules.h"
+#include "tools/rules/TitleRules.h"
+#include "tools/rules/ValueRules.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "Finding.h"
-#include "TextRules.h"
-#include "TextTable.h"
+#include "tools/findings/Finding.h"
+#include "tools/rules/TextRules.h"
+#include "tools/texts/TextTable.h"
 
 struct SCheckContext {
     std::string file;                   // its name for the user

@@ -1,4 +1,4 @@
-#include "FindingList.h"
+#include "tools/rules/FindingList.h"
 
 #include <algorithm>
 #include <tuple>

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "Finding.h"
-#include "ItemLine.h"
+#include "tools/findings/Finding.h"
+#include "tools/rules/ItemLine.h"
 
 class CFindingList {
 public:

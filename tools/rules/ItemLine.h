@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string>
 
-#include "ParamRecord.h"
-#include "TemplateText.h"
+#include "itemdlg/ParamRecord.h"
+#include "itemdlg/TemplateText.h"
 
 // A line that the reader takes for a parameter.
 struct SParameter {

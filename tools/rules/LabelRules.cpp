@@ -1,9 +1,9 @@
-#include "LabelRules.h"
+#include "tools/rules/LabelRules.h"
 
 #include <algorithm>
 
-#include "PlaceholderRules.h"
-#include "TemplateRewrite.h"
+#include "itemdlg/TemplateRewrite.h"
+#include "tools/rules/PlaceholderRules.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "RuleGroup.h"
-#include "TextIndex.h"
-#include "TextTable.h"
+#include "tools/rules/RuleGroup.h"
+#include "tools/rules/TextIndex.h"
+#include "tools/texts/TextTable.h"
 
 RuleList LabelRules();
 

@@ -1,11 +1,11 @@
-#include "LineRepair.h"
+#include "tools/rules/LineRepair.h"
 
 #include <algorithm>
 #include <string_view>
 #include <utility>
 
-#include "Characters.h"
-#include "TemplateText.h"
+#include "itemdlg/TemplateText.h"
+#include "tools/rules/Characters.h"
 
 namespace {
 

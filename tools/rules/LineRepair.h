@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Finding.h"
+#include "tools/findings/Finding.h"
 
 // One repair: what was wrong at the characters [start, start + length) of the line.
 struct SRepair {

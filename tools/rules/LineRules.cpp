@@ -1,8 +1,8 @@
-#include "LineRules.h"
+#include "tools/rules/LineRules.h"
 
-#include "Characters.h"
-#include "LineRepair.h"
-#include "NumberText.h"
+#include "itemdlg/NumberText.h"
+#include "tools/rules/Characters.h"
+#include "tools/rules/LineRepair.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Lines inside a block that were meant as parameters and are none.
 #pragma once
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList LineRules();
 

@@ -1,11 +1,11 @@
-#include "LineWalk.h"
+#include "tools/rules/LineWalk.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "BlockTracker.h"
-#include "ByteRules.h"
-#include "FileLines.h"
+#include "itemdlg/BlockTracker.h"
+#include "tools/lines/FileLines.h"
+#include "tools/rules/ByteRules.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 // Takes the lines one by one, so that no more than one is held at a time. A file in UTF-16 ends with its
 // first line: of the others the reader understands nothing that is worth saying.

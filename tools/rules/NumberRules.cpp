@@ -1,4 +1,4 @@
-#include "NumberRules.h"
+#include "tools/rules/NumberRules.h"
 
 #include <algorithm>
 

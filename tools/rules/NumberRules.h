@@ -1,8 +1,8 @@
 // The numbers of parameters.
 #pragma once
 
-#include "RuleGroup.h"
-#include "TextIndex.h"
+#include "tools/rules/RuleGroup.h"
+#include "tools/rules/TextIndex.h"
 
 RuleList NumberRules();
 

@@ -1,10 +1,10 @@
-#include "PairRules.h"
+#include "tools/rules/PairRules.h"
 
 #include <algorithm>
 #include <string_view>
 #include <unordered_set>
 
-#include "LineRules.h"
+#include "tools/rules/LineRules.h"
 
 namespace {
 

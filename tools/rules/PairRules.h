@@ -5,7 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList PairRules();
 

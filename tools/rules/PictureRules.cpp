@@ -1,13 +1,13 @@
-#include "PictureRules.h"
+#include "tools/rules/PictureRules.h"
 
 #include <algorithm>
 
-#include "ChoiceLayout.h"
-#include "ChoiceSlides.h"
-#include "CodePage.h"
-#include "FileLines.h"
-#include "ItemFiles.h"
-#include "RoutineCalls.h"
+#include "imagedlg/ChoiceLayout.h"
+#include "imagedlg/ChoiceSlides.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/lines/FileLines.h"
+#include "tools/rules/RoutineCalls.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

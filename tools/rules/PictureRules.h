@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "FindingList.h"
-#include "RuleGroup.h"
+#include "tools/rules/FindingList.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList PictureRules();
 

@@ -1,8 +1,8 @@
-#include "PlaceholderRules.h"
+#include "tools/rules/PlaceholderRules.h"
 
 #include <algorithm>
 
-#include "Characters.h"
+#include "tools/rules/Characters.h"
 
 namespace {
 

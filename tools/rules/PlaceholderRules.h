@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList PlaceholderRules();
 

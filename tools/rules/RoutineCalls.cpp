@@ -1,9 +1,9 @@
-#include "RoutineCalls.h"
+#include "tools/rules/RoutineCalls.h"
 
 #include <optional>
 #include <utility>
 
-#include "Reader.h"
+#include "devhost/lisp/Reader.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 
 #include <span>
 
-#include "FindingList.h"
-#include "ItemLine.h"
+#include "tools/rules/FindingList.h"
+#include "tools/rules/ItemLine.h"
 
 class CRuleGroup {
 public:

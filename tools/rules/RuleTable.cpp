@@ -1,19 +1,19 @@
-#include "RuleTable.h"
+#include "tools/rules/RuleTable.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "BlockRules.h"
-#include "ByteRules.h"
-#include "LabelRules.h"
-#include "LineRules.h"
-#include "NumberRules.h"
-#include "PairRules.h"
-#include "PictureRules.h"
-#include "PlaceholderRules.h"
-#include "TextRules.h"
-#include "TitleRules.h"
-#include "ValueRules.h"
+#include "tools/rules/BlockRules.h"
+#include "tools/rules/ByteRules.h"
+#include "tools/rules/LabelRules.h"
+#include "tools/rules/LineRules.h"
+#include "tools/rules/NumberRules.h"
+#include "tools/rules/PairRules.h"
+#include "tools/rules/PictureRules.h"
+#include "tools/rules/PlaceholderRules.h"
+#include "tools/rules/TextRules.h"
+#include "tools/rules/TitleRules.h"
+#include "tools/rules/ValueRules.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 // In the order in which they are listed: by what they are about.
 RuleList AllRules();

@@ -1,4 +1,4 @@
-#include "TextIndex.h"
+#include "tools/rules/TextIndex.h"
 
 #include <utility>
 

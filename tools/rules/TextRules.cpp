@@ -1,9 +1,9 @@
-#include "TextRules.h"
+#include "tools/rules/TextRules.h"
 
 #include <algorithm>
 
-#include "ChoiceSlides.h"
-#include "ItemFiles.h"
+#include "imagedlg/ChoiceSlides.h"
+#include "itemdlg/ItemFiles.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <bitset>
 #include <vector>
 
-#include "RuleGroup.h"
-#include "TextTable.h"
+#include "tools/rules/RuleGroup.h"
+#include "tools/texts/TextTable.h"
 
 RuleList TextRules();
 

@@ -1,11 +1,11 @@
-#include "TitleRules.h"
+#include "tools/rules/TitleRules.h"
 
 #include <algorithm>
 
-#include "Characters.h"
-#include "CodePage.h"
-#include "ItemFiles.h"
-#include "PlaceholderRules.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/rules/Characters.h"
+#include "tools/rules/PlaceholderRules.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

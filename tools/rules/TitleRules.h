@@ -1,8 +1,8 @@
 // The item's title: the second line.
 #pragma once
 
-#include "RuleGroup.h"
-#include "TextTable.h"
+#include "tools/rules/RuleGroup.h"
+#include "tools/texts/TextTable.h"
 
 RuleList TitleRules();
 

@@ -1,10 +1,10 @@
-#include "ValueRules.h"
+#include "tools/rules/ValueRules.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
-#include "NumberText.h"
+#include "itemdlg/NumberText.h"
 
 namespace {
 

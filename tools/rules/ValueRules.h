@@ -1,7 +1,7 @@
 // Type letters and values of parameters.
 #pragma once
 
-#include "RuleGroup.h"
+#include "tools/rules/RuleGroup.h"
 
 RuleList ValueRules();
 

@@ -1,22 +1,22 @@
-#include "CheckCommand.h"
+#include "tools/tavrincheck/CheckCommand.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <set>
 #include <string_view>
 
-#include "CheckOptions.h"
-#include "Checker.h"
-#include "CodePage.h"
-#include "FileList.h"
-#include "Files.h"
-#include "ItemFiles.h"
-#include "Output.h"
-#include "PictureRules.h"
-#include "Report.h"
-#include "RuleTable.h"
-#include "TextRules.h"
-#include "TextTable.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/cmdline/Output.h"
+#include "tools/files/Files.h"
+#include "tools/findings/Report.h"
+#include "tools/rules/Checker.h"
+#include "tools/rules/PictureRules.h"
+#include "tools/rules/RuleTable.h"
+#include "tools/rules/TextRules.h"
+#include "tools/tavrincheck/CheckOptions.h"
+#include "tools/tavrincheck/FileList.h"
+#include "tools/texts/CodePage.h"
+#include "tools/texts/TextTable.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "CheckOptions.h"
+#include "tools/tavrincheck/CheckOptions.h"
 
 #include <sstream>
 
-#include "Arguments.h"
-#include "Files.h"
+#include "tools/cmdline/Arguments.h"
+#include "tools/files/Files.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
-#include "FileList.h"
+#include "tools/tavrincheck/FileList.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <set>
 
-#include "CodePage.h"
-#include "Files.h"
-#include "ItemFiles.h"
-#include "ItemName.h"
+#include "itemdlg/ItemFiles.h"
+#include "tools/files/Files.h"
+#include "tools/files/ItemName.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

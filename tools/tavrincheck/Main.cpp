@@ -14,10 +14,10 @@
 #include <shellapi.h>
 #endif
 
-#include "CheckCommand.h"
-#include "ExtractCommand.h"
-#include "Files.h"
-#include "PreviewCommand.h"
+#include "tools/extract/ExtractCommand.h"
+#include "tools/files/Files.h"
+#include "tools/preview/PreviewCommand.h"
+#include "tools/tavrincheck/CheckCommand.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "CodePage.h"
+#include "tools/texts/CodePage.h"
 
 #include <algorithm>
 #include <array>

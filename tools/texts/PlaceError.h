@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 // "TavrinRes.it.rc:12: message".
 inline CToolError PlaceError(const std::string& file, std::size_t line, const std::string& message) {

@@ -1,6 +1,6 @@
 // Reads the file's resource directory: a tree of three levels (type, name, language) that ends in entries
 // which say where a block of sixteen texts lies.
-#include "StringModule.h"
+#include "tools/texts/StringModule.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,8 +8,8 @@
 #include <optional>
 #include <utility>
 
-#include "Files.h"
-#include "LanguageName.h"
+#include "tools/files/Files.h"
+#include "tools/texts/LanguageName.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "StringScript.h"
+#include "tools/texts/StringScript.h"
 
 #include <algorithm>
 #include <cctype>
@@ -7,9 +7,9 @@
 #include <optional>
 #include <utility>
 
-#include "CodePage.h"
-#include "LanguageName.h"
-#include "PlaceError.h"
+#include "tools/texts/CodePage.h"
+#include "tools/texts/LanguageName.h"
+#include "tools/texts/PlaceError.h"
 
 namespace {
 

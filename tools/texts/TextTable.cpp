@@ -1,10 +1,10 @@
-#include "TextTable.h"
+#include "tools/texts/TextTable.h"
 
 #include <utility>
 
-#include "PlaceError.h"
-#include "StringModule.h"
-#include "StringScript.h"
+#include "tools/texts/PlaceError.h"
+#include "tools/texts/StringModule.h"
+#include "tools/texts/StringScript.h"
 
 // A file's texts before they are known to fit in with the others; their languages by name.
 struct CTextTable::Reading {

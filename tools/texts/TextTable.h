@@ -20,7 +20,7 @@
 #include <utility>
 #include <vector>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 struct SText {
     unsigned number = 0;       // 0 to 65535

@@ -1,7 +1,7 @@
 // The LISP functions that draw.
-#include "DrawFunctions.h"
+#include "devhost/drawlisp/DrawFunctions.h"
 
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Drawing.h"
+#include "devhost/drawing/Drawing.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Evaluation of calls with the functions of a table.
 #include <string>
 
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <locale>
 #include <string>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Grid.h"
+#include "devhost/drawing/Grid.h"
 
 #include <gtest/gtest.h>
 

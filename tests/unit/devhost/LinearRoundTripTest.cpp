@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // LISP's assignments, definitions, branches and loops, and the functions that evaluate and call.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // How evaluations end that cannot go on: the place of a mistake, *error*, Escape, and the limits.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

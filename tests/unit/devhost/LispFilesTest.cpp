@@ -3,8 +3,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "LispFixture.h"
-#include "TextEncoding.h"
+#include "devhost/lisp/TextEncoding.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "Evaluator.h"
-#include "Printer.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/Printer.h"
 
 class CFakeLispHost : public ILispHost {
 public:

@@ -1,5 +1,5 @@
 // LISP's lists: made, taken apart, searched.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

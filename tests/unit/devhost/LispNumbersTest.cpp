@@ -1,5 +1,5 @@
 // Arithmetic, mathematics, comparisons and predicates of LISP.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

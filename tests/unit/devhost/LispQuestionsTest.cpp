@@ -1,5 +1,5 @@
 // What LISP asks of the user and of the program.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

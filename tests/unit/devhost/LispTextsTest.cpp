@@ -1,5 +1,5 @@
 // LISP's texts: joined, cut, converted, printed.
-#include "LispFixture.h"
+#include "tests/unit/devhost/LispFixture.h"
 
 namespace {
 

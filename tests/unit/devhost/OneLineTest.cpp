@@ -1,10 +1,10 @@
 // LISP of several lines made into one for the prompt.
-#include "OneLine.h"
+#include "devhost/lisp/OneLine.h"
 
 #include <gtest/gtest.h>
 
-#include "Printer.h"
-#include "Source.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/lisp/Source.h"
 
 namespace {
 

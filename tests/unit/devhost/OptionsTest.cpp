@@ -1,5 +1,5 @@
 // DevHost's command line.
-#include "Options.h"
+#include "devhost/cmdline/Options.h"
 
 #include <gtest/gtest.h>
 

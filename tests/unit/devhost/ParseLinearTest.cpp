@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "LinearUnits.h"
+#include "devhost/units/LinearUnits.h"
 
 namespace {
 

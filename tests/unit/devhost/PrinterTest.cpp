@@ -1,12 +1,12 @@
 // Values to LISP notation.
-#include "Printer.h"
+#include "devhost/lisp/Printer.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "Reader.h"
+#include "devhost/lisp/Reader.h"
 
 namespace {
 

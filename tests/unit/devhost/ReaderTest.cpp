@@ -1,13 +1,13 @@
 // LISP text to values: each kind of expression, through what it prints as, and each mistake with the
 // place where it is found.
-#include "Reader.h"
+#include "devhost/lisp/Reader.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "Printer.h"
+#include "devhost/lisp/Printer.h"
 
 namespace {
 

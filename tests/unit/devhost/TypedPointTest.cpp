@@ -1,4 +1,4 @@
-#include "TypedPoint.h"
+#include "devhost/drawing/TypedPoint.h"
 
 #include <gtest/gtest.h>
 

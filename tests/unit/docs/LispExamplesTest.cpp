@@ -9,11 +9,11 @@
 #include <sstream>
 #include <string>
 
-#include "DrawFunctions.h"
-#include "Pages.h"
-#include "Source.h"
-#include "SvgWriter.h"
-#include "TestLispHost.h"
+#include "devhost/drawing/SvgWriter.h"
+#include "devhost/drawlisp/DrawFunctions.h"
+#include "devhost/lisp/Source.h"
+#include "tests/unit/docs/Pages.h"
+#include "tests/unit/docs/TestLispHost.h"
 
 namespace {
 

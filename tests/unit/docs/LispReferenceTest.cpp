@@ -5,12 +5,12 @@
 #include <sstream>
 #include <string>
 
-#include "Builtins.h"
-#include "DrawFunctions.h"
-#include "Pages.h"
-#include "Printer.h"
-#include "Source.h"
-#include "TestLispHost.h"
+#include "devhost/drawlisp/DrawFunctions.h"
+#include "devhost/lisp/Builtins.h"
+#include "devhost/lisp/Printer.h"
+#include "devhost/lisp/Source.h"
+#include "tests/unit/docs/Pages.h"
+#include "tests/unit/docs/TestLispHost.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "Pages.h"
+#include "tests/unit/docs/Pages.h"
 
 #include <algorithm>
 #include <cctype>

@@ -4,7 +4,7 @@
 #include <regex>
 #include <set>
 
-#include "Pages.h"
+#include "tests/unit/docs/Pages.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <regex>
 #include <string>
 
-#include "ChoiceLayout.h"
-#include "Options.h"
-#include "Pages.h"
+#include "devhost/cmdline/Options.h"
+#include "imagedlg/ChoiceLayout.h"
+#include "tests/unit/docs/Pages.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "Evaluator.h"
+#include "devhost/lisp/Evaluator.h"
 
 class TestLispHost : public CNullLispHost {
 public:

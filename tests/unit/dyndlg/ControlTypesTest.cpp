@@ -1,5 +1,5 @@
 // Window classes and their codes, and what each code exchanges.
-#include "ControlTypes.h"
+#include "dyndlg/ControlTypes.h"
 
 #include <gtest/gtest.h>
 

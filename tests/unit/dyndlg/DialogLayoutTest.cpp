@@ -1,5 +1,5 @@
 // Rows, standard buttons and the extent of the dialog, all in dialog units.
-#include "DialogLayout.h"
+#include "dyndlg/DialogLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The bytes of a dialog template, one by one.
-#include "DialogTemplate.h"
+#include "dyndlg/DialogTemplate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "FailingMemory.h"
+#include "tests/unit/itemdlg/FailingMemory.h"
 
 #include <cstdlib>
 #include <new>

@@ -1,11 +1,11 @@
 // What the item dialog makes of a whole working file.
-#include "ItemContents.h"
+#include "itemdlg/ItemContents.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 
-#include "ItemFiles.h"
+#include "itemdlg/ItemFiles.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Numbers as the item files write them.
-#include "NumberText.h"
+#include "itemdlg/NumberText.h"
 
 #include <gtest/gtest.h>
 

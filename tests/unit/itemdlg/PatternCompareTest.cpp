@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "ExactText.h"
-#include "PatternGenerator.h"
-#include "PatternMatcher.h"
-#include "PatternReference.h"
+#include "itemdlg/PatternMatcher.h"
+#include "tests/unit/itemdlg/ExactText.h"
+#include "tests/unit/itemdlg/PatternGenerator.h"
+#include "tests/unit/itemdlg/PatternReference.h"
 
 namespace {
 

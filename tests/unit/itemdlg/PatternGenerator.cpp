@@ -1,4 +1,4 @@
-#include "PatternGenerator.h"
+#include "tests/unit/itemdlg/PatternGenerator.h"
 
 void ForEachText(const std::wstring& alphabet, std::size_t longest,
                  const std::function<void(const std::wstring&)>& use) {

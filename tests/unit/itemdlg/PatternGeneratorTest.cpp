@@ -1,12 +1,12 @@
 // The makers of patterns and inputs have tests of their own: a generator that leaves something out would
 // leave it untested without a sign.
-#include "PatternGenerator.h"
+#include "tests/unit/itemdlg/PatternGenerator.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "PatternMatcher.h"
+#include "itemdlg/PatternMatcher.h"
 
 TEST(PatternGenerator, MakesEveryTextOverAnAlphabetExactlyOnce) {
     const std::vector<std::wstring> texts = AllTexts(L"xyz", 4);

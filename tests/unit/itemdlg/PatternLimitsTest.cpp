@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "ExactText.h"
-#include "FailingMemory.h"
-#include "PatternMatcher.h"
+#include "itemdlg/PatternMatcher.h"
+#include "tests/unit/itemdlg/ExactText.h"
+#include "tests/unit/itemdlg/FailingMemory.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "PatternReference.h"
+#include "tests/unit/itemdlg/PatternReference.h"
 
 #include <functional>
 #include <utility>

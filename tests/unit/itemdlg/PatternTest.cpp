@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "ExactText.h"
-#include "LetterCase.h"
-#include "PatternMatcher.h"
+#include "itemdlg/LetterCase.h"
+#include "itemdlg/PatternMatcher.h"
+#include "tests/unit/itemdlg/ExactText.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Writing values back into an item's files.
-#include "TemplateRewrite.h"
+#include "itemdlg/TemplateRewrite.h"
 
 #include <gtest/gtest.h>
 
-#include "BlockTracker.h"
-#include "TemplateText.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/TemplateText.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // What the lines of an item's files mean.
-#include "TemplateText.h"
+#include "itemdlg/TemplateText.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 #include <vector>
 
-#include "BlockTracker.h"
-#include "FailingMemory.h"
+#include "itemdlg/BlockTracker.h"
+#include "tests/unit/itemdlg/FailingMemory.h"
 
 namespace {
 

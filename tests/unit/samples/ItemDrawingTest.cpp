@@ -2,7 +2,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "ItemRoutine.h"
+#include "tests/unit/samples/ItemRoutine.h"
 
 namespace {
 

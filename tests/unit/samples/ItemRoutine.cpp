@@ -1,11 +1,11 @@
-#include "ItemRoutine.h"
+#include "tests/unit/samples/ItemRoutine.h"
 
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
 
-#include "DrawFunctions.h"
+#include "devhost/drawlisp/DrawFunctions.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "Drawing.h"
-#include "Evaluator.h"
-#include "LispHost.h"
+#include "devhost/drawing/Drawing.h"
+#include "devhost/lisp/Evaluator.h"
+#include "devhost/lisp/LispHost.h"
 
 struct SItem {
     std::string name;

@@ -4,8 +4,8 @@
 #include <iterator>
 #include <random>
 
-#include "ItemRoutine.h"
-#include "SvgWriter.h"
+#include "devhost/drawing/SvgWriter.h"
+#include "tests/unit/samples/ItemRoutine.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <regex>
 #include <set>
 
-#include "ItemRoutine.h"
-#include "StringScript.h"
+#include "tests/unit/samples/ItemRoutine.h"
+#include "tools/texts/StringScript.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The check as a whole: the samples are clean, and files that break every rule give just what is expected.
-#include "CheckRun.h"
-#include "Files.h"
-#include "RuleTable.h"
+#include "tests/unit/tavrincheck/CheckRun.h"
+#include "tools/files/Files.h"
+#include "tools/rules/RuleTable.h"
 
 namespace {
 

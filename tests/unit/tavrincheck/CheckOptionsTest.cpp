@@ -1,8 +1,8 @@
 // The command line of the check and its exit status.
-#include "CheckRun.h"
-#include "Files.h"
-#include "RuleTable.h"
-#include "ToolFolder.h"
+#include "tests/unit/tavrincheck/CheckRun.h"
+#include "tests/unit/tools/ToolFolder.h"
+#include "tools/files/Files.h"
+#include "tools/rules/RuleTable.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The page about the checker says what the program says.
-#include "CheckRun.h"
-#include "Files.h"
+#include "tests/unit/tavrincheck/CheckRun.h"
+#include "tools/files/Files.h"
 
 namespace {
 

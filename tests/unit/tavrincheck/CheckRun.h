@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "CheckCommand.h"
+#include "tools/tavrincheck/CheckCommand.h"
 
 struct SCheckRun {
     int status = 0;

@@ -1,11 +1,11 @@
 // Single facts about what is found where.
-#include "Checker.h"
+#include "tools/rules/Checker.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "PictureRules.h"
+#include "tools/rules/PictureRules.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // The forms for programs say the same as the one for people.
-#include "Report.h"
+#include "tools/findings/Report.h"
 
 #include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "CheckRun.h"
-#include "Files.h"
-#include "RuleTable.h"
+#include "tests/unit/tavrincheck/CheckRun.h"
+#include "tools/files/Files.h"
+#include "tools/rules/RuleTable.h"
 
 namespace {
 

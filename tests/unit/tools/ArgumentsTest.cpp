@@ -1,9 +1,9 @@
 // The walk over a command line.
-#include "Arguments.h"
+#include "tools/cmdline/Arguments.h"
 
 #include <gtest/gtest.h>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 namespace {
 

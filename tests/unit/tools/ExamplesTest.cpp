@@ -1,9 +1,9 @@
 // The worked examples of the documentation print what it shows.
 #include <filesystem>
 
-#include "ExtractCommand.h"
-#include "PreviewCommand.h"
-#include "ToolFolder.h"
+#include "tests/unit/tools/ToolFolder.h"
+#include "tools/extract/ExtractCommand.h"
+#include "tools/preview/PreviewCommand.h"
 
 namespace {
 

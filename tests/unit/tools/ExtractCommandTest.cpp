@@ -1,7 +1,7 @@
 // tavrincheck extract.
-#include "ExtractCommand.h"
+#include "tools/extract/ExtractCommand.h"
 
-#include "ToolFolder.h"
+#include "tests/unit/tools/ToolFolder.h"
 
 namespace {
 

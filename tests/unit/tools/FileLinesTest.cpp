@@ -1,5 +1,5 @@
 // An item's files as lines.
-#include "FileLines.h"
+#include "tools/lines/FileLines.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Writing files whole or not at all, and the standard output.
-#include "Files.h"
+#include "tools/files/Files.h"
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -9,9 +9,9 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "ItemName.h"
-#include "Output.h"
-#include "ToolFolder.h"
+#include "tests/unit/tools/ToolFolder.h"
+#include "tools/cmdline/Output.h"
+#include "tools/files/ItemName.h"
 
 namespace {
 

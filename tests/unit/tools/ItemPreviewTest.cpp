@@ -1,11 +1,11 @@
 // The item dialog foretold. That it is foretold right is shown beside the dialog itself, among the window
 // tests; here stands what the preview adds.
-#include "ItemPreview.h"
+#include "tools/preview/ItemPreview.h"
 
 #include <gtest/gtest.h>
 
-#include "Files.h"
-#include "PreviewReport.h"
+#include "tools/files/Files.h"
+#include "tools/preview/PreviewReport.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // Taking literal labels out of templates.
-#include "LabelExtraction.h"
+#include "tools/extract/LabelExtraction.h"
 
 #include <gtest/gtest.h>
 
-#include "Files.h"
-#include "ItemContents.h"
-#include "ItemGenerator.h"
-#include "ScriptEdit.h"
+#include "itemdlg/ItemContents.h"
+#include "tests/items/ItemGenerator.h"
+#include "tools/extract/ScriptEdit.h"
+#include "tools/files/Files.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // tavrincheck preview: which files it takes, and its options.
-#include "PreviewCommand.h"
+#include "tools/preview/PreviewCommand.h"
 
-#include "ToolFolder.h"
+#include "tests/unit/tools/ToolFolder.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Adding texts to scripts.
-#include "ScriptEdit.h"
+#include "tools/extract/ScriptEdit.h"
 
 #include <gtest/gtest.h>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // The reader of compiled modules.
-#include "StringModule.h"
+#include "tools/texts/StringModule.h"
 
 #include <gtest/gtest.h>
 
-#include "CodePage.h"
-#include "Files.h"
-#include "ModuleImage.h"
+#include "tests/unit/tools/ModuleImage.h"
+#include "tools/files/Files.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

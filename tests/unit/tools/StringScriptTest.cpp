@@ -1,10 +1,10 @@
 // The reader of resource scripts.
-#include "StringScript.h"
+#include "tools/texts/StringScript.h"
 
 #include <gtest/gtest.h>
 
-#include "CodePage.h"
-#include "Files.h"
+#include "tools/files/Files.h"
+#include "tools/texts/CodePage.h"
 
 namespace {
 

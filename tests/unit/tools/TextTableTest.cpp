@@ -1,10 +1,10 @@
 // The texts by number and language.
-#include "TextTable.h"
+#include "tools/texts/TextTable.h"
 
 #include <gtest/gtest.h>
 
-#include "Files.h"
-#include "ModuleImage.h"
+#include "tests/unit/tools/ModuleImage.h"
+#include "tools/files/Files.h"
 
 namespace {
 

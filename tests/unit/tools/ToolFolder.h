@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <string>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 class CToolFolder {
 public:

@@ -1,5 +1,5 @@
 // The writer of diffs.
-#include "UnifiedDiff.h"
+#include "tools/diff/UnifiedDiff.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include <afxdlgs.h>
 #include <gtest/gtest.h>
 
-#include "ModalHands.h"
-#include "TempFolder.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "DialogTemplate.h"
+#include "tests/windows/afx/DialogTemplate.h"
 
 CDialogTemplate::CDialogTemplate(DWORD style, int x, int y, int width, int height) {
     Put32(style);

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "DialogTemplate.h"
+#include "tests/windows/afx/DialogTemplate.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include <stdexcept>
 
-#include "DialogTemplate.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
+#include "tests/windows/afx/DialogTemplate.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

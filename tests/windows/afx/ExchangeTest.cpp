@@ -2,7 +2,7 @@
 #include <afxcmn.h>
 #include <gtest/gtest.h>
 
-#include "DialogTemplate.h"
+#include "tests/windows/afx/DialogTemplate.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "HandleCount.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "DialogTemplate.h"
-#include "HandleCount.h"
+#include "tests/windows/afx/DialogTemplate.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

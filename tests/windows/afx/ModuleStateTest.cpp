@@ -3,7 +3,7 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "ModalHands.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "TempFolder.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

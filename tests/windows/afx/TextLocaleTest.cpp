@@ -4,7 +4,7 @@
 
 #include <clocale>
 
-#include "TempFolder.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

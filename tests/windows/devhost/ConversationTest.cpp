@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

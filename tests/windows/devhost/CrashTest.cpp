@@ -1,7 +1,7 @@
 // A plug-in that crashes ends DevHost with status 3 and a line that says where.
 #include <gtest/gtest.h>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // behind guard pages and, when those have run out, on the ordinary heap ("1" as the argument).
 #include <gtest/gtest.h>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "HostProcess.h"
+#include "tests/windows/devhost/HostProcess.h"
 
 namespace {
 

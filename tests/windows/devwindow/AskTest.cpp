@@ -1,5 +1,5 @@
 // Questions: answered by a click or a typed line, or not at all.
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
 
 namespace {
 

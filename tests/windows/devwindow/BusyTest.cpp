@@ -1,5 +1,5 @@
 // The window while something runs.
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
 
 namespace {
 

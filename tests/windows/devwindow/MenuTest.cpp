@@ -1,5 +1,5 @@
 // The menu, its keys, and the unit format of the status line.
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // What the drawing area shows, pixel by pixel.
-#include "Pixels.h"
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The prompt, what it remembers, and the list of outputs.
-#include "PromptHistory.h"
-#include "WindowFixture.h"
+#include "devhost/window/PromptHistory.h"
+#include "tests/windows/devwindow/WindowFixture.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 
 #include <commctrl.h>
 
-#include "HandleCount.h"
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "WindowFixture.h"
+#include "tests/windows/devwindow/WindowFixture.h"
 
 CWindowFixture::CWindowFixture() : m_window(m_drawing) {
     ForgetQuit();

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "Commands.h"
-#include "MainWindow.h"
+#include "devhost/window/Commands.h"
+#include "devhost/window/MainWindow.h"
 
 class CWindowFixture : public testing::Test {
 protected:

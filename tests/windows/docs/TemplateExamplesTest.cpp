@@ -15,7 +15,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // A control that is named by a ProgID, hosted for real: the system's web browser control, which every system
 // has.
-#include "DynDialogFixture.h"
-#include "HandleCount.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

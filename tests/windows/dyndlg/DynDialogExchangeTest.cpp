@@ -3,7 +3,7 @@
 #include <afxdisp.h>
 #include <afxdtctl.h>
 
-#include "DynDialogFixture.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
 
 namespace {
 

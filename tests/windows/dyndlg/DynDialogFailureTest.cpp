@@ -1,7 +1,7 @@
 // What the user is told when something cannot be made, and that the rest goes on.
-#include "DynDialogFixture.h"
-#include "HandleCount.h"
-#include "LocalMemoryHook.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
+#include "tests/windows/dyndlg/LocalMemoryHook.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "DynDialogEx.h"
-#include "ModalHands.h"
-#include "Pixels.h"
+#include "dyndlg/DynDialogEx.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
 
 constexpr DWORD plain = WS_CHILD | WS_VISIBLE;
 constexpr DWORD tabbed = plain | WS_TABSTOP;

@@ -1,6 +1,6 @@
 // Which font a dialog and its controls get.
-#include "DynDialogFixture.h"
-#include "HandleCount.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

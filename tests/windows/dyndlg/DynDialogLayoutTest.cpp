@@ -1,5 +1,5 @@
 // Which controls a dialog has, where they stand and what they are called.
-#include "DynDialogFixture.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <memory>
 
-#include "DynDialogFixture.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Controls in the dialog's template: Windows creates them, derived classes subclass them.
-#include "DialogTemplate.h"
+#include "dyndlg/DialogTemplate.h"
 
-#include "DynDialogFixture.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <afxdisp.h>
 #include <afxdtctl.h>
 
-#include "DynDialogFixture.h"
-#include "HandleCount.h"
+#include "tests/windows/dyndlg/DynDialogFixture.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

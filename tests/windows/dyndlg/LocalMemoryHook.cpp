@@ -1,4 +1,4 @@
-#include "LocalMemoryHook.h"
+#include "tests/windows/dyndlg/LocalMemoryHook.h"
 
 // The import table's entries, by the names under which the import library declares them.
 extern "C" {

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-#include "ImportHook.h"
+#include "tests/windows/support/ImportHook.h"
 
 // While one lives, this program's local memory functions go through it.
 class CLocalMemoryHook {

@@ -5,18 +5,18 @@
 #include <array>
 #include <stdexcept>
 
-#include "Arguments.h"
-#include "Bitmap.h"
-#include "Commands.h"
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "NoGdiPlus.h"
-#include "ProcessHeap.h"
-#include "TempFolder.h"
-#include "TextModule.h"
-#include "resource.h"
+#include "host/Commands.h"
+#include "res/resource.h"
+#include "tests/windows/host/ProcessHeap.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/NoGdiPlus.h"
+#include "tests/windows/support/TempFolder.h"
+#include "tests/windows/support/TextModule.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
-#include "Commands.h"
+#include "host/Commands.h"
 
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "Arguments.h"
-#include "FakeHost.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "TempFolder.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

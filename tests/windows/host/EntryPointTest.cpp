@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "Arguments.h"
-#include "CommandTable.h"
-#include "FakeHost.h"
-#include "sds.h"
+#include "host/CommandTable.h"
+#include "sds/sds.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/FakeHost.h"
 
 extern "C" int icrxEntryPoint(unsigned request, void* packet);
 

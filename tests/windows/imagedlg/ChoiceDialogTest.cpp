@@ -1,10 +1,10 @@
 // What the choice dialog shows and how it ends.
 #include <gtest/gtest.h>
 
-#include "ChoiceFixture.h"
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "HandleCount.h"
+#include "tests/windows/imagedlg/ChoiceFixture.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
-#include "ChoiceFixture.h"
+#include "tests/windows/imagedlg/ChoiceFixture.h"
 
 #include <algorithm>
 #include <array>
 #include <set>
 #include <vector>
 
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "PngFile.h"
+#include "tests/windows/imagedlg/PngFile.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
 
 namespace {
 

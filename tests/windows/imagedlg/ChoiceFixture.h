@@ -6,10 +6,10 @@
 #include <functional>
 #include <string>
 
-#include "ModalHands.h"
-#include "Pixels.h"
-#include "TavrinSelMaskDlg.h"
-#include "TempFolder.h"
+#include "imagedlg/TavrinSelMaskDlg.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
+#include "tests/windows/support/TempFolder.h"
 
 class CChoiceFixture : public testing::Test {
 protected:

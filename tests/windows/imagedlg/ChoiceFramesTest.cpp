@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "ChoiceFixture.h"
-#include "DialogInput.h"
+#include "tests/windows/imagedlg/ChoiceFixture.h"
+#include "tests/windows/support/DialogInput.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Size and place of the choice dialog and its buttons, in pixels.
 #include <gtest/gtest.h>
 
-#include "ChoiceFixture.h"
-#include "DialogInput.h"
+#include "tests/windows/imagedlg/ChoiceFixture.h"
+#include "tests/windows/support/DialogInput.h"
 
 namespace {
 

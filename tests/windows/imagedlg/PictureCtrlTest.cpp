@@ -1,16 +1,16 @@
-#include "PictureCtrl.h"
+#include "imagedlg/PictureCtrl.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <vector>
 
-#include "Bitmap.h"
-#include "HandleCount.h"
-#include "ImportHook.h"
-#include "NoGdiPlus.h"
-#include "Pixels.h"
-#include "TempFolder.h"
+#include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ImportHook.h"
+#include "tests/windows/support/NoGdiPlus.h"
+#include "tests/windows/support/Pixels.h"
+#include "tests/windows/support/TempFolder.h"
 
 extern "C" {
 extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream);

@@ -1,10 +1,10 @@
 // Picture files of every kind, and names of every kind, in the cells of the choice dialog.
 #include <gtest/gtest.h>
 
-#include "ChoiceFixture.h"
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "PngFile.h"
+#include "tests/windows/imagedlg/ChoiceFixture.h"
+#include "tests/windows/imagedlg/PngFile.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
 
 namespace {
 

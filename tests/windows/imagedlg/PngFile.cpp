@@ -1,4 +1,4 @@
-#include "PngFile.h"
+#include "tests/windows/imagedlg/PngFile.h"
 
 #include <algorithm>
 #include <array>

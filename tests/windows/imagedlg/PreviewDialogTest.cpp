@@ -1,14 +1,14 @@
 // The preview dialog: its place, its picture, how it ends.
 #include <gtest/gtest.h>
 
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "Pixels.h"
-#include "PngFile.h"
-#include "TavrinPreviewDlg.h"
-#include "TempFolder.h"
+#include "imagedlg/TavrinPreviewDlg.h"
+#include "tests/windows/imagedlg/PngFile.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

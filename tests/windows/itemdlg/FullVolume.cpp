@@ -1,4 +1,4 @@
-#include "FullVolume.h"
+#include "tests/windows/itemdlg/FullVolume.h"
 
 #include <algorithm>
 

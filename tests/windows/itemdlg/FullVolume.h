@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-#include "ImportHook.h"
+#include "tests/windows/support/ImportHook.h"
 
 class CFullVolume {
 public:

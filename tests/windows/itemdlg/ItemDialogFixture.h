@@ -6,13 +6,13 @@
 #include <functional>
 #include <string>
 
-#include "FakeHost.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "Pixels.h"
-#include "TavrinWndDlg.h"
-#include "TempFolder.h"
-#include "TextModule.h"
+#include "itemdlg/TavrinWndDlg.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
+#include "tests/windows/support/TempFolder.h"
+#include "tests/windows/support/TextModule.h"
 
 class ItemDialogFixture : public testing::Test {
 protected:

@@ -1,5 +1,5 @@
 // The item dialog's life: opening, what it shows, how it ends.
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Editing in the item dialog: what becomes of typed and picked values however the dialog ends, and the
 // keyboard's way through it.
-#include "DialogInput.h"
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tests/windows/support/DialogInput.h"
 
 namespace {
 

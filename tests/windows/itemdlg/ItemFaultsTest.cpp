@@ -2,11 +2,11 @@
 #include <filesystem>
 #include <memory>
 
-#include "Bitmap.h"
-#include "FileLock.h"
-#include "FullVolume.h"
-#include "ItemDialogFixture.h"
-#include "NoGdiPlus.h"
+#include "tests/windows/itemdlg/FileLock.h"
+#include "tests/windows/itemdlg/FullVolume.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/NoGdiPlus.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // What the item dialog reads from an item's files, and what OK makes of them.
 #include <memory>
 
-#include "BreakingFile.h"
-#include "FileLock.h"
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/BreakingFile.h"
+#include "tests/windows/itemdlg/FileLock.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
 
 namespace {
 

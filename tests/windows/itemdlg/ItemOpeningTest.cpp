@@ -1,10 +1,10 @@
 // The filling of the item dialog: what it leaves where its file fails, and filling it once more.
 #include <memory>
 
-#include "Bitmap.h"
-#include "BreakingFile.h"
-#include "FileLock.h"
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/BreakingFile.h"
+#include "tests/windows/itemdlg/FileLock.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tests/windows/support/Bitmap.h"
 
 namespace {
 

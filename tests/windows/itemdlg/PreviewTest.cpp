@@ -4,14 +4,14 @@
 #include <optional>
 #include <set>
 
-#include "FileLines.h"
-#include "Files.h"
-#include "ItemDialogFixture.h"
-#include "ItemGenerator.h"
-#include "ItemMessages.h"
-#include "ItemPreview.h"
-#include "LinearUnits.h"
-#include "TextTable.h"
+#include "devhost/units/LinearUnits.h"
+#include "itemdlg/ItemMessages.h"
+#include "tests/items/ItemGenerator.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tools/files/Files.h"
+#include "tools/lines/FileLines.h"
+#include "tools/preview/ItemPreview.h"
+#include "tools/texts/TextTable.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
-#include "TextFile.h"
+#include "itemdlg/TextFile.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "TempFolder.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The item dialog where the companion resource module cannot be found, is no module, or holds no texts.
 #include <filesystem>
 
-#include "ItemDialogFixture.h"
+#include "tests/windows/itemdlg/ItemDialogFixture.h"
 
 namespace {
 

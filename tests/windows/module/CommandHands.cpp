@@ -1,6 +1,6 @@
-#include "CommandHands.h"
+#include "tests/windows/module/CommandHands.h"
 
-#include "ModalHands.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

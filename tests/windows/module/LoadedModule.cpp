@@ -1,10 +1,10 @@
-#include "LoadedModule.h"
+#include "tests/windows/module/LoadedModule.h"
 
 #include <stdexcept>
 #include <string>
 
-#include "FakeHost.h"
-#include "sds.h"
+#include "sds/sds.h"
+#include "tests/windows/support/FakeHost.h"
 
 namespace {
 

@@ -4,16 +4,16 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "Arguments.h"
-#include "Bitmap.h"
-#include "CommandHands.h"
-#include "DialogInput.h"
-#include "FakeHost.h"
-#include "HandleCount.h"
-#include "LoadedModule.h"
-#include "ModalHands.h"
-#include "TempFolder.h"
-#include "TextModule.h"
+#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/LoadedModule.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/TempFolder.h"
+#include "tests/windows/support/TextModule.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "sds.h"
+#include "sds/sds.h"
 
 int sds_defun(const wchar_t*, short) {
     return RTNORM;

@@ -3,11 +3,11 @@
 #include <climits>
 #include <ostream>
 
-#include "DialogInput.h"
-#include "EditorFixture.h"
-#include "HandleCount.h"
-#include "Pixels.h"
-#include "PropertyGridCombo.h"
+#include "propgrid/PropertyGridCombo.h"
+#include "tests/windows/propgrid/EditorFixture.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "DistanceItem.h"
+#include "propgrid/DistanceItem.h"
 
 #include <string>
 
-#include "FakeHost.h"
-#include "GridFixture.h"
-#include "ModalHands.h"
-#include "Pixels.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "EditorFixture.h"
+#include "tests/windows/propgrid/EditorFixture.h"
 
 #include <utility>
 
-#include "DialogInput.h"
-#include "ModalHands.h"
-#include "Pixels.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/Pixels.h"
 
 std::ostream& operator<<(std::ostream& out, const SReport& report) {
     return out << "message " << report.message << ", index " << report.index << ", text "

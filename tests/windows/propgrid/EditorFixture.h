@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "GridFixture.h"
+#include "tests/windows/propgrid/GridFixture.h"
 
 // A message of an editor.
 struct SReport {

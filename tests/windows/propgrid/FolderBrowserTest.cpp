@@ -1,13 +1,13 @@
 // The folder browser, driven for real: confirmed, cancelled, and what it opens with.
-#include "FolderBrowser.h"
+#include "propgrid/FolderBrowser.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "GridFixture.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "TempFolder.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

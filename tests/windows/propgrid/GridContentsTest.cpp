@@ -1,11 +1,11 @@
-#include "GridContents.h"
+#include "propgrid/GridContents.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-#include "HandleCount.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // The grid's list and calendar: when and where they open, with what, each of their endings, what becomes of
 // the choice.
-#include "DialogInput.h"
-#include "GridInputFixture.h"
-#include "HandleCount.h"
-#include "PropertyGridCombo.h"
-#include "PropertyGridMonthCalCtrl.h"
+#include "propgrid/PropertyGridCombo.h"
+#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

@@ -2,10 +2,10 @@
 // the text. All runs on the checking allocator: what touches a freed editor ends the program.
 #include <clocale>
 
-#include "EditorFixture.h"
-#include "GridInputFixture.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
+#include "tests/windows/propgrid/EditorFixture.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "GridFixture.h"
+#include "tests/windows/propgrid/GridFixture.h"
 
 BEGIN_MESSAGE_MAP(CGridParent, CWnd)
     ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGridParent::OnGridItemChanged)

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "PropertyGrid.h"
+#include "propgrid/PropertyGrid.h"
 
 // A top-level window that keeps the notifications of its grid and has a font without grey edges, so that
 // the colour of a text can be read from its pixels.

@@ -1,10 +1,10 @@
-#include "GridInputFixture.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
 
 #include <sstream>
 #include <utility>
 
-#include "PropertyGridCombo.h"
-#include "PropertyGridMonthCalCtrl.h"
+#include "propgrid/PropertyGridCombo.h"
+#include "propgrid/PropertyGridMonthCalCtrl.h"
 
 bool CScriptedItem::OnLButtonDown(CRect place, CPoint point) {
     Note("down", place, point);

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "GridFixture.h"
-#include "Pixels.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/Pixels.h"
 
 // A custom item that keeps what the grid tells it and answers as it is told.
 class CScriptedItem final : public ICustomItem {

@@ -1,4 +1,4 @@
-#include "GridItem.h"
+#include "propgrid/GridItem.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include "GridFixture.h"
+#include "tests/windows/propgrid/GridFixture.h"
 
 namespace {
 

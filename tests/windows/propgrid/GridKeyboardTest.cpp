@@ -1,5 +1,5 @@
 // The grid and the keyboard: how the focus moves, what is collapsed, which keys a dialog leaves to the grid.
-#include "GridInputFixture.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include <afxdtctl.h>
 #include <commctrl.h>
 
-#include "FolderBrowser.h"
-#include "GridInputFixture.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
-#include "TempFolder.h"
+#include "propgrid/FolderBrowser.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The grid and the mouse: what a press focuses, the edit button, custom items, the divider, double clicks.
-#include "GridInputFixture.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
 
 namespace {
 

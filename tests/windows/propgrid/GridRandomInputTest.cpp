@@ -4,9 +4,9 @@
 #include <iostream>
 #include <random>
 
-#include "GridInputFixture.h"
-#include "HandleCount.h"
-#include "ModalHands.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The grid's scroll bar and the mouse wheel.
-#include "GridInputFixture.h"
+#include "tests/windows/propgrid/GridInputFixture.h"
 
 namespace {
 

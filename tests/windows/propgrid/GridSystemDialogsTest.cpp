@@ -6,10 +6,10 @@
 
 #include <cwchar>
 
-#include "FolderBrowser.h"
-#include "GridDialogs.h"
-#include "GridFixture.h"
-#include "ImportHook.h"
+#include "propgrid/FolderBrowser.h"
+#include "propgrid/GridDialogs.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/ImportHook.h"
 
 extern "C" {
 extern BOOL(WINAPI* __imp_GetOpenFileNameW)(LPOPENFILENAMEW dialog);

@@ -1,12 +1,12 @@
 // The in-place edit: how it opens, what its keys do, each of its endings, and that nothing of it is touched
 // once the grid has been told.
-#include "PropertyGridInPlaceEdit.h"
+#include "propgrid/PropertyGridInPlaceEdit.h"
 
 #include <ostream>
 
-#include "EditorFixture.h"
-#include "HandleCount.h"
-#include "Pixels.h"
+#include "tests/windows/propgrid/EditorFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 // touched once the grid has been told.
 #include <ostream>
 
-#include "DialogInput.h"
-#include "EditorFixture.h"
-#include "HandleCount.h"
-#include "Pixels.h"
-#include "PropertyGridMonthCalCtrl.h"
+#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "tests/windows/propgrid/EditorFixture.h"
+#include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "GridFixture.h"
+#include "tests/windows/propgrid/GridFixture.h"
 
 namespace {
 

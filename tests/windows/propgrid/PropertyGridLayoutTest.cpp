@@ -1,7 +1,7 @@
 #include <string>
 
-#include "GridFixture.h"
-#include "Pixels.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

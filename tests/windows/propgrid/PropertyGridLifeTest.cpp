@@ -2,10 +2,10 @@
 #include <memory>
 #include <string>
 
-#include "DistanceItem.h"
-#include "GridFixture.h"
-#include "HandleCount.h"
-#include "Pixels.h"
+#include "propgrid/DistanceItem.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/HandleCount.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

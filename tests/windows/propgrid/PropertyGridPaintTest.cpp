@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "GridFixture.h"
-#include "Pixels.h"
+#include "tests/windows/propgrid/GridFixture.h"
+#include "tests/windows/support/Pixels.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "GridFixture.h"
+#include "tests/windows/propgrid/GridFixture.h"
 
 namespace {
 

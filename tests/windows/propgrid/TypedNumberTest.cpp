@@ -1,5 +1,5 @@
 // Numbers as they are typed.
-#include "TypedNumber.h"
+#include "propgrid/TypedNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "resource.h"
+#include "res/resource.h"
 
 namespace {
 

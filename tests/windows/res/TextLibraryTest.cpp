@@ -1,11 +1,11 @@
-#include "TextLibrary.h"
+#include "res/TextLibrary.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
-#include "TempFolder.h"
-#include "TextModule.h"
+#include "tests/windows/support/TempFolder.h"
+#include "tests/windows/support/TextModule.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
-#include "FindFile.h"
+#include "sds/FindFile.h"
 
 #include <gtest/gtest.h>
 
 #include <cwchar>
 
-#include "FakeHost.h"
-#include "TempFolder.h"
-#include "sds.h"
+#include "sds/sds.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/TempFolder.h"
 
 namespace {
 

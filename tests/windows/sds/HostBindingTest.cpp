@@ -1,10 +1,10 @@
-#include "HostBinding.h"
+#include "sds/HostBinding.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "FakeHost.h"
-#include "sds.h"
+#include "sds/sds.h"
+#include "tests/windows/support/FakeHost.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "ProcessState.h"
+#include "tests/windows/soak/ProcessState.h"
 
 #include <windows.h>
 // After windows.h.
 #include <tlhelp32.h>
 
-#include "HandleCount.h"
+#include "tests/windows/support/HandleCount.h"
 
 namespace {
 

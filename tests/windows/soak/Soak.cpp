@@ -14,16 +14,16 @@
 #include <string>
 #include <vector>
 
-#include "Arguments.h"
-#include "Bitmap.h"
-#include "FakeHost.h"
-#include "HostBinding.h"
-#include "LoadedModule.h"
-#include "ProcessState.h"
-#include "SoakHands.h"
-#include "SoakItem.h"
-#include "TempFolder.h"
-#include "TextModule.h"
+#include "sds/HostBinding.h"
+#include "tests/windows/module/LoadedModule.h"
+#include "tests/windows/soak/ProcessState.h"
+#include "tests/windows/soak/SoakHands.h"
+#include "tests/windows/soak/SoakItem.h"
+#include "tests/windows/support/Arguments.h"
+#include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/FakeHost.h"
+#include "tests/windows/support/TempFolder.h"
+#include "tests/windows/support/TextModule.h"
 
 namespace {
 

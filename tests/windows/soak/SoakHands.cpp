@@ -1,9 +1,9 @@
-#include "SoakHands.h"
+#include "tests/windows/soak/SoakHands.h"
 
 #include <cstdio>
 #include <vector>
 
-#include "ModalHands.h"
+#include "tests/windows/support/ModalHands.h"
 
 namespace {
 

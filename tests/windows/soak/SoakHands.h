@@ -6,7 +6,7 @@
 #include <deque>
 #include <functional>
 
-#include "SoakItem.h"
+#include "tests/windows/soak/SoakItem.h"
 
 class CSoakHands {
 public:

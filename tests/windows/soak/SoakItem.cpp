@@ -1,10 +1,10 @@
-#include "SoakItem.h"
+#include "tests/windows/soak/SoakItem.h"
 
 #include <cmath>
 #include <set>
 
-#include "BlockTracker.h"
-#include "TemplateRewrite.h"
+#include "itemdlg/BlockTracker.h"
+#include "itemdlg/TemplateRewrite.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "ParamRecord.h"
-#include "TemplateText.h"
+#include "itemdlg/ParamRecord.h"
+#include "itemdlg/TemplateText.h"
 
 // Chooses among so many; the same seed chooses the same on every system.
 class CChoices {

@@ -4,7 +4,7 @@
 #include <deque>
 #include <string>
 
-#include "sds.h"
+#include "sds/sds.h"
 
 class CArguments {
 public:

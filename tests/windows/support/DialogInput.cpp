@@ -1,4 +1,4 @@
-#include "DialogInput.h"
+#include "tests/windows/support/DialogInput.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #define SDS_HOST
-#include "FakeHost.h"
+#include "tests/windows/support/FakeHost.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -7,7 +7,7 @@
 #include <cwchar>
 #include <string>
 
-#include "sds.h"
+#include "sds/sds.h"
 
 FakeHost fakeHost;
 

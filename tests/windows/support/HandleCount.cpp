@@ -1,4 +1,4 @@
-#include "HandleCount.h"
+#include "tests/windows/support/HandleCount.h"
 
 #include <windows.h>
 #include <winternl.h>

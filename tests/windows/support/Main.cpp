@@ -7,7 +7,7 @@
 #include <atomic>
 #include <cstdio>
 
-#include "HostBinding.h"
+#include "sds/HostBinding.h"
 
 namespace {
 

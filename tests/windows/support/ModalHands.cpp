@@ -1,4 +1,4 @@
-#include "ModalHands.h"
+#include "tests/windows/support/ModalHands.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include <objidl.h>
 #include <windows.h>
 
-#include "ImportHook.h"
+#include "tests/windows/support/ImportHook.h"
 
 extern "C" {
 extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output);

@@ -1,4 +1,4 @@
-#include "Pixels.h"
+#include "tests/windows/support/Pixels.h"
 
 CClientPixels::CClientPixels(HWND window) {
     RECT client;

@@ -1,4 +1,4 @@
-#include "TempFolder.h"
+#include "tests/windows/support/TempFolder.h"
 
 #include <windows.h>
 

@@ -1,4 +1,4 @@
-#include "TextModule.h"
+#include "tests/windows/support/TextModule.h"
 
 #include <windows.h>
 

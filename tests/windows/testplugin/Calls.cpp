@@ -4,7 +4,7 @@
 #include <cmath>
 #include <thread>
 
-#include "TestPlugin.h"
+#include "tests/windows/testplugin/TestPlugin.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <stdexcept>
 
-#include "TestPlugin.h"
+#include "tests/windows/testplugin/TestPlugin.h"
 
 namespace {
 

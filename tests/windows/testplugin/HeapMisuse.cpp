@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "TestPlugin.h"
+#include "tests/windows/testplugin/TestPlugin.h"
 
 extern "C" {
 __declspec(dllimport) void* td_new(std::size_t size);

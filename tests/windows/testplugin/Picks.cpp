@@ -1,5 +1,5 @@
 // Commands that ask the user for points.
-#include "TestPlugin.h"
+#include "tests/windows/testplugin/TestPlugin.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The entry point and the table of commands. Environment variables make the plug-in misbehave where no LISP
 // call can reach: TESTPLUGIN_LOAD is "refuse", "fail", "crash" or "throw", TESTPLUGIN_UNLOAD "refuse" or
 // "keep" (the functions stay defined).
-#include "TestPlugin.h"
+#include "tests/windows/testplugin/TestPlugin.h"
 
 #include <iterator>
 #include <string>

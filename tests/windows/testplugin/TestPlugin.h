@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include "sds.h"
+#include "sds/sds.h"
 
 // A function of the host, from whatever executable runs this: HOST(sds_retint)(5).
 #define HOST(function) reinterpret_cast<decltype(&function)>(reinterpret_cast<void*>(FindInHost(#function)))

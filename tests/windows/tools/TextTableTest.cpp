@@ -1,13 +1,13 @@
 // The texts of modules and scripts: what the reader reads is what the resource compiler wrote and what the
 // system loads.
-#include "TextTable.h"
+#include "tools/texts/TextTable.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
 #include <filesystem>
 
-#include "Files.h"
+#include "tools/files/Files.h"
 
 namespace {
 
