@@ -5,7 +5,7 @@ BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
-LINT_PACKAGES = clang-format clang-tidy cppcheck shellcheck
+LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck
 PRESETS = native x64 x86
 
 .PHONY: help build test run screenshots gallery lint coverage bench fuzz soak rules dist packages

@@ -11,8 +11,9 @@ BOOL CStatic::Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, 
 }
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, result);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }
@@ -22,8 +23,9 @@ BOOL CButton::Create(LPCTSTR caption, DWORD style, const RECT& rect, CWnd* paren
 }
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    if (message != WM_DRAWITEM)
+    if (message != WM_DRAWITEM) {
         return CWnd::OnChildNotify(message, wParam, lParam, result);
+    }
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
 }
@@ -34,8 +36,9 @@ BOOL CEdit::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {
 
 void CEdit::SetSel(int start, int end, BOOL noScroll) {
     SendMessage(EM_SETSEL, static_cast<WPARAM>(start), end);
-    if (!noScroll)
+    if (!noScroll) {
         SendMessage(EM_SCROLLCARET);
+    }
 }
 
 BOOL CScrollBar::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) {

@@ -14,8 +14,9 @@ using CDCMap = CAfxHandleMap<CDC, HDC, &CDC::m_hDC>;
 // Attaches a context that is not to be deleted but released in a way of its own, also when attaching fails.
 template <class TRelease>
 void AttachOrRelease(CDC& dc, HDC handle, TRelease release) {
-    if (handle == nullptr)
+    if (handle == nullptr) {
         AfxThrowResourceException();
+    }
     try {
         dc.Attach(handle);
     } catch (...) {
@@ -37,8 +38,9 @@ CDC* CDC::FromHandle(HDC handle) {
 
 BOOL CDC::Attach(HDC handle) {
     ASSERT(m_hDC == nullptr);
-    if (handle == nullptr)
+    if (handle == nullptr) {
         return FALSE;
+    }
     m_hDC = handle;
     CDCMap::SetPermanent(handle, this);
     return TRUE;
@@ -46,8 +48,9 @@ BOOL CDC::Attach(HDC handle) {
 
 HDC CDC::Detach() {
     const HDC handle = m_hDC;
-    if (handle != nullptr)
+    if (handle != nullptr) {
         CDCMap::RemovePermanent(handle);
+    }
     m_hDC = nullptr;
     return handle;
 }

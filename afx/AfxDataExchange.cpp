@@ -4,8 +4,9 @@
 HWND CDataExchange::PrepareCtrl(int id) {
     m_lastControl = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
     m_lastIsEdit = false;
-    if (m_lastControl == nullptr)
+    if (m_lastControl == nullptr) {
         AfxThrowNotSupportedException();
+    }
     return m_lastControl;
 }
 
@@ -18,8 +19,9 @@ HWND CDataExchange::PrepareEditCtrl(int id) {
 void CDataExchange::Fail() {
     if (m_bSaveAndValidate && m_lastControl != nullptr) {
         ::SetFocus(m_lastControl);
-        if (m_lastIsEdit)
+        if (m_lastIsEdit) {
             ::SendMessage(m_lastControl, EM_SETSEL, 0, -1);
+        }
     }
     AfxThrowUserException();
 }
@@ -27,8 +29,9 @@ void CDataExchange::Fail() {
 void CWnd::DoDataExchange(CDataExchange*) {}
 
 BOOL CWnd::UpdateData(BOOL saveAndValidate) {
-    if (m_hWnd == nullptr)
+    if (m_hWnd == nullptr) {
         return FALSE;
+    }
     CDataExchange exchange(this, saveAndValidate);
     try {
         DoDataExchange(&exchange);
@@ -43,10 +46,12 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate) {
 }
 
 void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control) {
-    if (control.m_hWnd != nullptr || exchange->m_bSaveAndValidate)
+    if (control.m_hWnd != nullptr || exchange->m_bSaveAndValidate) {
         return;
-    if (!control.SubclassWindow(exchange->PrepareCtrl(id)))
+    }
+    if (!control.SubclassWindow(exchange->PrepareCtrl(id))) {
         AfxThrowNotSupportedException();
+    }
 }
 
 void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value) {
@@ -55,32 +60,36 @@ void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value) {
     const int length = ::GetWindowTextLength(control);
     ::GetWindowText(control, shown.GetBufferSetLength(length), length + 1);
     shown.ReleaseBuffer();
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         value = shown;
-    else if (value != shown)  // an equal text is left alone, and with it the caret and the selection
+    } else if (value != shown) {  // an equal text is left alone, and with it the caret and the selection
         ::SetWindowText(control, value);
+    }
 }
 
 void AFXAPI DDX_Check(CDataExchange* exchange, int id, int& value) {
     const HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
-    else
+    } else {
         ::SendMessage(control, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0,
                       0);
+    }
 }
 
 void AFXAPI DDX_Radio(CDataExchange* exchange, int id, int& value) {
     HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         value = -1;
+    }
     int index = 0;
     do {
         if ((::SendMessage(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0) {
-            if (!exchange->m_bSaveAndValidate)
+            if (!exchange->m_bSaveAndValidate) {
                 ::SendMessage(control, BM_SETCHECK, index == value, 0);
-            else if (::SendMessage(control, BM_GETCHECK, 0, 0) != 0)
+            } else if (::SendMessage(control, BM_GETCHECK, 0, 0) != 0) {
                 value = index;
+            }
             ++index;
         }
         control = ::GetWindow(control, GW_HWNDNEXT);
@@ -89,16 +98,18 @@ void AFXAPI DDX_Radio(CDataExchange* exchange, int id, int& value) {
 
 void AFXAPI DDX_Scroll(CDataExchange* exchange, int id, int& value) {
     const HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         value = ::GetScrollPos(control, SB_CTL);
-    else
+    } else {
         ::SetScrollPos(control, SB_CTL, value, TRUE);
+    }
 }
 
 void AFXAPI DDX_Slider(CDataExchange* exchange, int id, int& value) {
     const HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         value = static_cast<int>(::SendMessage(control, TBM_GETPOS, 0, 0));
-    else
+    } else {
         ::SendMessage(control, TBM_SETPOS, TRUE, value);
+    }
 }

@@ -42,8 +42,9 @@ BOOL CMonthCalCtrl::GetCurSel(LPSYSTEMTIME time) const {
 
 BOOL CMonthCalCtrl::GetCurSel(COleDateTime& time) const {
     SYSTEMTIME parts = {};
-    if (!GetCurSel(&parts))
+    if (!GetCurSel(&parts)) {
         return FALSE;
+    }
     time = COleDateTime(parts);
     return TRUE;
 }
@@ -54,8 +55,9 @@ BOOL CMonthCalCtrl::GetMinReqRect(RECT* rect) const {
 
 BOOL CMonthCalCtrl::SizeMinReq(BOOL repaint) {
     CRect smallest;
-    if (!GetMinReqRect(smallest))
+    if (!GetMinReqRect(smallest)) {
         return FALSE;
+    }
     const UINT flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | (repaint ? 0 : SWP_NOREDRAW);
     return SetWindowPos(nullptr, 0, 0, smallest.right, smallest.bottom, flags);
 }
@@ -72,18 +74,20 @@ DWORD CDateTimeCtrl::GetTime(LPSYSTEMTIME time) const {
 DWORD CDateTimeCtrl::GetTime(CTime& time) const {
     SYSTEMTIME parts = {};
     const DWORD result = GetTime(&parts);
-    if (result == GDT_VALID)
+    if (result == GDT_VALID) {
         time = CTime(parts);
+    }
     return result;
 }
 
 BOOL CDateTimeCtrl::GetTime(COleDateTime& time) const {
     SYSTEMTIME parts = {};
     const DWORD result = GetTime(&parts);
-    if (result == GDT_VALID)
+    if (result == GDT_VALID) {
         time = COleDateTime(parts);
-    else
+    } else {
         time.SetStatus(result == GDT_NONE ? COleDateTime::null : COleDateTime::invalid);
+    }
     return result == GDT_VALID;
 }
 
@@ -106,24 +110,27 @@ BOOL CDateTimeCtrl::SetTime(const COleDateTime& time) {
 
 void AFXAPI DDX_DateTimeCtrl(CDataExchange* exchange, int id, CTime& value) {
     CBorrowed<CDateTimeCtrl> control(exchange->PrepareCtrl(id));
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         control.GetTime(value);
-    else
+    } else {
         control.SetTime(&value);
+    }
 }
 
 void AFXAPI DDX_DateTimeCtrl(CDataExchange* exchange, int id, COleDateTime& value) {
     CBorrowed<CDateTimeCtrl> control(exchange->PrepareCtrl(id));
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         control.GetTime(value);
-    else
+    } else {
         control.SetTime(value);
+    }
 }
 
 void AFXAPI DDX_MonthCalCtrl(CDataExchange* exchange, int id, COleDateTime& value) {
     CBorrowed<CMonthCalCtrl> control(exchange->PrepareCtrl(id));
-    if (exchange->m_bSaveAndValidate)
+    if (exchange->m_bSaveAndValidate) {
         control.GetCurSel(value);
-    else
+    } else {
         control.SetCurSel(value);
+    }
 }

@@ -55,8 +55,9 @@ public:
 
     void Enable() {
         for (HWND* const window : {&m_top, &m_owner}) {
-            if (*window != nullptr)
+            if (*window != nullptr) {
                 ::EnableWindow(*window, TRUE);
+            }
             *window = nullptr;
         }
     }
@@ -64,14 +65,16 @@ public:
 private:
     static HWND FindTop(HWND owner) {
         HWND top = owner;
-        for (HWND next = owner; next != nullptr; next = ::GetParent(next))
+        for (HWND next = owner; next != nullptr; next = ::GetParent(next)) {
             top = next;
+        }
         return top;
     }
     // The window if it was enabled, null if there is nothing to be undone.
     static HWND Disable(HWND window) {
-        if (window == nullptr || window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
+        if (window == nullptr || window == ::GetDesktopWindow() || !::IsWindowEnabled(window)) {
             return nullptr;
+        }
         ::EnableWindow(window, FALSE);
         return window;
     }
@@ -83,13 +86,15 @@ private:
 // Offers a message to the objects from its window upwards, then lets Windows translate and deliver it.
 void Pump(MSG& message) {
     const AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
-    for (HWND window = message.hwnd; window != nullptr; window = ::GetParent(window))
+    for (HWND window = message.hwnd; window != nullptr; window = ::GetParent(window)) {
         if (CWnd* const object = CWnd::FromHandlePermanent(window)) {
             BOOL handled = TRUE;
             AfxGuard([&] { handled = object->PreTranslateMessage(&message); });
-            if (handled)
+            if (handled) {
                 return;
+            }
         }
+    }
     ::TranslateMessage(&message);
     ::DispatchMessage(&message);
 }
@@ -102,12 +107,14 @@ CDialog::CDialog(LPCTSTR templateName, CWnd* parent)
 CDialog::CDialog(UINT templateId, CWnd* parent) : CDialog(MAKEINTRESOURCE(templateId), parent) {}
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData) {
-    if (m_lpszTemplateName != nullptr)
+    if (m_lpszTemplateName != nullptr) {
         return FALSE;
+    }
     m_template = dialogTemplate;
     m_initData = initData;
-    if (parent != nullptr)
+    if (parent != nullptr) {
         m_pParentWnd = parent;
+    }
     return TRUE;
 }
 
@@ -122,19 +129,22 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent) {
 }
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData) {
-    if (parent != nullptr)
+    if (parent != nullptr) {
         m_pParentWnd = parent;
+    }
     return CreateFromTemplate(dialogTemplate, FindOwner(), initData);
 }
 
 HWND CDialog::FindOwner() const {
     HWND owner = nullptr;
-    if (m_pParentWnd != nullptr)
+    if (m_pParentWnd != nullptr) {
         owner = m_pParentWnd->m_hWnd;
-    else if (const CWnd* const main = AfxGetMainWnd())
+    } else if (const CWnd* const main = AfxGetMainWnd()) {
         owner = ::GetLastActivePopup(main->m_hWnd);
-    while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD) != 0)
+    }
+    while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD) != 0) {
         owner = ::GetParent(owner);
+    }
     return owner;
 }
 
@@ -143,34 +153,39 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner, void
     const CAfxWindowHook hook(this);
     const HWND window = ::CreateDialogIndirectParam(AfxGetResourceHandle(), dialogTemplate, owner,
                                                     DialogProcedure, reinterpret_cast<LPARAM>(initData));
-    if (!hook.HasAttached())
+    if (!hook.HasAttached()) {
         PostNcDestroy();
+    }
     return window != nullptr;
 }
 
 INT_PTR CDialog::DoModal() {
     const LPCDLGTEMPLATE dialogTemplate =
         m_template != nullptr ? m_template : LoadDialogTemplate(m_lpszTemplateName);
-    if (dialogTemplate == nullptr)
+    if (dialogTemplate == nullptr) {
         return -1;
+    }
     const HWND owner = FindOwner();
     const HWND focus = ::GetFocus();
     CDisabledOwner disabledOwner(owner);
     m_modal = true;
     m_ended = false;
     m_result = -1;
-    if (CreateFromTemplate(dialogTemplate, owner, m_initData))
+    if (CreateFromTemplate(dialogTemplate, owner, m_initData)) {
         RunModalLoop();
+    }
     m_modal = false;
     // The owner must be able to take the activation before the dialog goes, else Windows would give it to
     // some other program's window.
     disabledOwner.Enable();
-    if (m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd)
+    if (m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd) {
         ::SetActiveWindow(owner);
+    }
     DestroyWindow();
     // A dialog brings the focus back to its control by itself, other windows keep it.
-    if (owner != nullptr && ::GetFocus() == owner && ::IsChild(owner, focus))
+    if (owner != nullptr && ::GetFocus() == owner && ::IsChild(owner, focus)) {
         ::SetFocus(focus);
+    }
     return m_result;
 }
 
@@ -220,22 +235,25 @@ BOOL CDialog::InitDialog() {
         return FALSE;
     }
     GetWindowRect(&after);
-    if (m_centre && before == after && !IsWindowVisible())
+    if (m_centre && before == after && !IsWindowVisible()) {
         CenterWindow();
+    }
     return setFocus;
 }
 
 INT_PTR CALLBACK CDialog::DialogProcedure(HWND window, UINT message, WPARAM, LPARAM) {
-    if (message != WM_INITDIALOG)
+    if (message != WM_INITDIALOG) {
         return FALSE;
+    }
     auto* const dialog = dynamic_cast<CDialog*>(FromHandlePermanent(window));
     return dialog == nullptr || dialog->InitDialog();
 }
 
 LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     // Windows shows a dialog of style WS_VISIBLE when it has been made, even if it has ended already.
-    if (message == WM_WINDOWPOSCHANGING && m_modal && m_ended)
+    if (message == WM_WINDOWPOSCHANGING && m_modal && m_ended) {
         reinterpret_cast<WINDOWPOS*>(lParam)->flags &= ~static_cast<UINT>(SWP_SHOWWINDOW);
+    }
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
@@ -246,8 +264,9 @@ BOOL CDialog::PreTranslateMessage(MSG* message) {
 }
 
 void CDialog::OnOK() {
-    if (UpdateData(TRUE))
+    if (UpdateData(TRUE)) {
         EndDialog(IDOK);
+    }
 }
 
 void CDialog::OnCancel() {

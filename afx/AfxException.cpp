@@ -23,28 +23,33 @@ BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const {
     const CRuntimeClass* ancestor = this;
-    while (ancestor != nullptr && ancestor != pBaseClass)
+    while (ancestor != nullptr && ancestor != pBaseClass) {
         ancestor = ancestor->m_pBaseClass;
+    }
     return ancestor != nullptr;
 }
 
 void CException::Delete() {
-    if (m_bAutoDelete)
+    if (m_bAutoDelete) {
         delete this;
+    }
 }
 
 BOOL CException::GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext) const {
-    if (helpContext != nullptr)
+    if (helpContext != nullptr) {
         *helpContext = 0;
-    if (maxLength > 0)
+    }
+    if (maxLength > 0) {
         text[0] = L'\0';
+    }
     return FALSE;
 }
 
 int CException::ReportError(UINT type, UINT idMessage) {
     TCHAR text[512];
-    if (GetErrorMessage(text, 512))
+    if (GetErrorMessage(text, 512)) {
         return AfxMessageBox(text, type);
+    }
     return idMessage != 0 ? AfxMessageBox(idMessage, type) : AfxMessageBox(L"Error.", type);
 }
 
@@ -111,15 +116,17 @@ int CFileException::OsErrorToException(LONG osError) {
 BOOL CFileException::GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext) const {
     CException::GetErrorMessage(text, maxLength, helpContext);
     CString message = m_strFileName;
-    if (!message.IsEmpty())
+    if (!message.IsEmpty()) {
         message += L": ";
+    }
     TCHAR reason[256];
     const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
     if (m_lOsError > 0 &&
-        ::FormatMessage(flags, nullptr, static_cast<DWORD>(m_lOsError), 0, reason, 256, nullptr) > 0)
+        ::FormatMessage(flags, nullptr, static_cast<DWORD>(m_lOsError), 0, reason, 256, nullptr) > 0) {
         message += reason;
-    else
+    } else {
         message.AppendFormat(L"file error %d.", m_cause);
+    }
     ::lstrcpyn(text, message.TrimRight(), static_cast<int>(maxLength));
     return TRUE;
 }

@@ -32,8 +32,9 @@ DWORD GetSharing(UINT openFlags) {
 }
 
 DWORD GetCreation(UINT openFlags) {
-    if ((openFlags & CFile::modeCreate) == 0)
+    if ((openFlags & CFile::modeCreate) == 0) {
         return OPEN_EXISTING;
+    }
     return (openFlags & CFile::modeNoTruncate) != 0 ? OPEN_ALWAYS : CREATE_ALWAYS;
 }
 
@@ -41,8 +42,9 @@ DWORD GetCreation(UINT openFlags) {
 
 CFile::CFile(LPCTSTR fileName, UINT openFlags) {
     CFileException error;
-    if (!CFile::Open(fileName, openFlags, &error))
+    if (!CFile::Open(fileName, openFlags, &error)) {
         AfxThrowFileException(error.m_cause, error.m_lOsError, error.m_strFileName);
+    }
 }
 
 CFile::~CFile() {
@@ -54,8 +56,9 @@ BOOL CFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
     m_strFileName = fileName;
     m_hFile = ::CreateFile(fileName, GetAccess(openFlags), GetSharing(openFlags), nullptr,
                            GetCreation(openFlags), FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (m_hFile != INVALID_HANDLE_VALUE)
+    if (m_hFile != INVALID_HANDLE_VALUE) {
         return TRUE;
+    }
     if (error != nullptr) {
         error->m_lOsError = static_cast<LONG>(::GetLastError());
         error->m_cause = CFileException::OsErrorToException(error->m_lOsError);
@@ -66,40 +69,47 @@ BOOL CFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
 
 UINT CFile::Read(void* buffer, UINT count) {
     DWORD done = 0;
-    if (count > 0 && !::ReadFile(m_hFile, buffer, count, &done, nullptr))
+    if (count > 0 && !::ReadFile(m_hFile, buffer, count, &done, nullptr)) {
         ThrowLastError();
+    }
     return done;
 }
 
 void CFile::Write(const void* buffer, UINT count) {
     DWORD done = 0;
-    if (count > 0 && !::WriteFile(m_hFile, buffer, count, &done, nullptr))
+    if (count > 0 && !::WriteFile(m_hFile, buffer, count, &done, nullptr)) {
         ThrowLastError();
-    if (done != count)
+    }
+    if (done != count) {
         AfxThrowFileException(CFileException::diskFull, ERROR_DISK_FULL, m_strFileName);
+    }
 }
 
 void CFile::Flush() {
-    if (m_hFile != INVALID_HANDLE_VALUE && !::FlushFileBuffers(m_hFile))
+    if (m_hFile != INVALID_HANDLE_VALUE && !::FlushFileBuffers(m_hFile)) {
         ThrowLastError();
+    }
 }
 
 void CFile::Close() {
     const HANDLE file = std::exchange(m_hFile, INVALID_HANDLE_VALUE);
-    if (file != INVALID_HANDLE_VALUE && !::CloseHandle(file))
+    if (file != INVALID_HANDLE_VALUE && !::CloseHandle(file)) {
         ThrowLastError();
+    }
 }
 
 void CFile::Abort() {
     const HANDLE file = std::exchange(m_hFile, INVALID_HANDLE_VALUE);
-    if (file != INVALID_HANDLE_VALUE)
+    if (file != INVALID_HANDLE_VALUE) {
         ::CloseHandle(file);
+    }
 }
 
 ULONGLONG CFile::GetLength() const {
     LARGE_INTEGER length;
-    if (!::GetFileSizeEx(m_hFile, &length))
+    if (!::GetFileSizeEx(m_hFile, &length)) {
         ThrowLastError();
+    }
     return static_cast<ULONGLONG>(length.QuadPart);
 }
 

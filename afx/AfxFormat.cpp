@@ -34,8 +34,9 @@ public:
             const LPCTSTR percent = m_next + std::wcscspn(m_next, L"%");
             m_output.append(m_next, percent);
             m_next = percent;
-            if (*m_next == L'%')
+            if (*m_next == L'%') {
                 Convert(ReadConversion());
+            }
         }
     }
 
@@ -43,8 +44,9 @@ private:
     CConversion ReadConversion() {
         CConversion conversion;
         ++m_next;
-        for (; *m_next != L'\0' && std::wcschr(L"-+ 0#", *m_next) != nullptr; ++m_next)
+        for (; *m_next != L'\0' && std::wcschr(L"-+ 0#", *m_next) != nullptr; ++m_next) {
             conversion.flags += static_cast<char>(*m_next);
+        }
         conversion.width = ReadNumber();
         if (conversion.width < 0) {  // only through "*": as a minus flag before the number
             conversion.flags += '-';
@@ -56,8 +58,9 @@ private:
         }
         ReadSize(conversion);
         conversion.type = *m_next;
-        if (*m_next != L'\0')
+        if (*m_next != L'\0') {
             ++m_next;
+        }
         return conversion;
     }
 
@@ -74,23 +77,25 @@ private:
 
     bool Skip(LPCTSTR text) {
         const size_t length = std::wcslen(text);
-        if (std::wcsncmp(m_next, text, length) != 0)
+        if (std::wcsncmp(m_next, text, length) != 0) {
             return false;
+        }
         m_next += length;
         return true;
     }
 
     void ReadSize(CConversion& conversion) {
-        if (Skip(L"I64") || Skip(L"ll") || Skip(L"j"))
+        if (Skip(L"I64") || Skip(L"ll") || Skip(L"j")) {
             conversion.size = CConversion::wide64;
-        else if (Skip(L"I32"))
+        } else if (Skip(L"I32")) {
             conversion.size = CConversion::normal;
-        else if (Skip(L"I") || Skip(L"z") || Skip(L"t"))
+        } else if (Skip(L"I") || Skip(L"z") || Skip(L"t")) {
             conversion.size = CConversion::pointerSized;
-        else if (Skip(L"l") || Skip(L"w"))
+        } else if (Skip(L"l") || Skip(L"w")) {
             conversion.size = CConversion::wide;
-        else if (Skip(L"h"))
+        } else if (Skip(L"h")) {
             conversion.size = CConversion::narrow;
+        }
     }
 
     void Convert(const CConversion& conversion) {
@@ -122,8 +127,9 @@ private:
                 AppendText(conversion, ReadText(conversion));
                 break;
             default:  // "%%", and as they stand characters that no conversion has
-                if (conversion.type != L'\0')
+                if (conversion.type != L'\0') {
                     m_output += conversion.type;
+                }
         }
     }
 
@@ -158,14 +164,16 @@ private:
         const bool isNarrow = conversion.type == L's' ? conversion.size == CConversion::narrow
                                                       : conversion.size != CConversion::wide;
         const void* const pointer = va_arg(m_arguments, const void*);
-        if (pointer == nullptr)
+        if (pointer == nullptr) {
             return L"(null)";
+        }
         const size_t limit = conversion.precision < 0 ? SIZE_MAX : static_cast<size_t>(conversion.precision);
         std::wstring text;
         if (isNarrow) {
             for (auto byte = static_cast<const unsigned char*>(pointer); text.size() < limit && *byte != 0;
-                 ++byte)
+                 ++byte) {
                 text += static_cast<wchar_t>(*byte);
+            }
         } else {
             const auto units = static_cast<const wchar_t*>(pointer);
             text.assign(units, limit == SIZE_MAX ? std::wcslen(units) : ::wcsnlen(units, limit));
@@ -176,10 +184,11 @@ private:
     void AppendText(const CConversion& conversion, const std::wstring& text) {
         const size_t width = static_cast<size_t>(conversion.width);
         const std::wstring padding(width > text.size() ? width - text.size() : 0, L' ');
-        if (conversion.flags.find('-') != std::string::npos)
+        if (conversion.flags.find('-') != std::string::npos) {
             m_output.append(text).append(padding);
-        else
+        } else {
             m_output.append(padding).append(text);
+        }
     }
 
     template <class TNumber>
@@ -190,8 +199,9 @@ private:
         std::string digits(static_cast<size_t>(std::max(length, 0)), '\0');
         std::snprintf(digits.data(), digits.size() + 1, format.c_str(), conversion.width,
                       conversion.precision, number);
-        for (const char digit : digits)
+        for (const char digit : digits) {
             m_output += static_cast<unsigned char>(digit);
+        }
     }
 
     std::wstring& m_output;

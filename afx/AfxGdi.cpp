@@ -41,8 +41,9 @@ CGdiObject* CGdiObject::FromHandle(HGDIOBJ handle) {
 
 BOOL CGdiObject::Attach(HGDIOBJ handle) {
     ASSERT(m_hObject == nullptr);
-    if (handle == nullptr)
+    if (handle == nullptr) {
         return FALSE;
+    }
     m_hObject = handle;
     CGdiMap::SetPermanent(handle, this);
     return TRUE;
@@ -50,8 +51,9 @@ BOOL CGdiObject::Attach(HGDIOBJ handle) {
 
 HGDIOBJ CGdiObject::Detach() {
     const HGDIOBJ handle = m_hObject;
-    if (handle != nullptr)
+    if (handle != nullptr) {
         CGdiMap::RemovePermanent(handle);
+    }
     m_hObject = nullptr;
     return handle;
 }
@@ -62,20 +64,23 @@ BOOL CGdiObject::DeleteObject() {
 }
 
 CPen::CPen(int style, int width, COLORREF colour) {
-    if (!CreatePen(style, width, colour))
+    if (!CreatePen(style, width, colour)) {
         AfxThrowResourceException();
+    }
 }
 
 CBrush::CBrush(COLORREF colour) {
-    if (!CreateSolidBrush(colour))
+    if (!CreateSolidBrush(colour)) {
         AfxThrowResourceException();
+    }
 }
 
 BOOL CFont::CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc) {
     const HDC screen = dc == nullptr ? ::GetDC(nullptr) : nullptr;
     const int pixelsPerInch = ::GetDeviceCaps(dc != nullptr ? dc->m_hDC : screen, LOGPIXELSY);
-    if (screen != nullptr)
+    if (screen != nullptr) {
         ::ReleaseDC(nullptr, screen);
+    }
     LOGFONT font = {};
     font.lfHeight = -::MulDiv(pointSize, pixelsPerInch, 720);
     font.lfCharSet = DEFAULT_CHARSET;

@@ -40,12 +40,15 @@ public:
     // The object that belongs to the handle; make gives a new one for a temporary.
     template <class TMake>
     static TObject* FromHandle(THandle handle, TMake make) {
-        if (handle == nullptr)
+        if (handle == nullptr) {
             return nullptr;
-        if (TObject* const known = FindPermanent(handle))
+        }
+        if (TObject* const known = FindPermanent(handle)) {
             return known;
-        if (TObject* const known = Find(Temporary(), handle))
+        }
+        if (TObject* const known = Find(Temporary(), handle)) {
             return known;
+        }
         CAfxTemporaries::MakeRoom();
         std::unique_ptr<TObject> temporary(make());
         Temporary().emplace(handle, temporary.get());
@@ -74,8 +77,9 @@ private:
     }
     static void Remove(Map& map, THandle handle) {
         map.erase(handle);
-        if (map.empty())
+        if (map.empty()) {
             map = Map();
+        }
     }
     static void FreeTemporary(void* pointer) {
         const auto handle = static_cast<THandle>(pointer);

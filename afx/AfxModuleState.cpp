@@ -20,8 +20,9 @@ AFX_MODULE_STATE* GetProgramState() {
 }
 
 HWND GetMessageBoxOwner() {
-    if (const CWnd* const main = AfxGetMainWnd())
+    if (const CWnd* const main = AfxGetMainWnd()) {
         return ::GetLastActivePopup(main->m_hWnd);
+    }
     return ::GetActiveWindow();
 }
 
@@ -54,8 +55,9 @@ std::vector<CAfxTemporaries::Temporary>& CAfxTemporaries::Stack() {
 
 void CAfxTemporaries::MakeRoom() {
     auto& stack = Stack();
-    if (stack.size() == stack.capacity())
+    if (stack.size() == stack.capacity()) {
         stack.reserve(2 * stack.size() + 4);
+    }
 }
 
 void CAfxTemporaries::Push(void* handle, FFree free) {
@@ -74,8 +76,9 @@ void CAfxTemporaries::FreeDownTo(size_t count) {
         top.free(top.handle);
     }
     // What the module allocates comes from its host: at rest it holds nothing of it.
-    if (stack.empty())
+    if (stack.empty()) {
         std::vector<Temporary>().swap(stack);
+    }
 }
 
 HINSTANCE AfxGetInstanceHandle() {
@@ -100,8 +103,9 @@ CWinApp::~CWinApp() {
 }
 
 LPCTSTR AfxGetAppName() {
-    if (application != nullptr && application->m_pszAppName != nullptr)
+    if (application != nullptr && application->m_pszAppName != nullptr) {
         return application->m_pszAppName;
+    }
     static TCHAR name[MAX_PATH] = L"";
     if (name[0] == L'\0') {
         TCHAR path[MAX_PATH];
@@ -109,8 +113,9 @@ LPCTSTR AfxGetAppName() {
             ::GetModuleFileName(AfxGetStaticModuleState()->m_hCurrentInstanceHandle, path, MAX_PATH);
         CString file(path, static_cast<int>(length));
         file = file.Mid(file.ReverseFind(L'\\') + 1);
-        if (const int dot = file.ReverseFind(L'.'); dot > 0)
+        if (const int dot = file.ReverseFind(L'.'); dot > 0) {
             file.Truncate(dot);
+        }
         ::lstrcpyn(name, file, MAX_PATH);
     }
     return name;
@@ -121,8 +126,9 @@ CWnd* AfxGetMainWnd() {
 }
 
 int AfxMessageBox(LPCTSTR text, UINT type, UINT) {
-    if ((type & MB_ICONMASK) == 0)
+    if ((type & MB_ICONMASK) == 0) {
         type |= MB_ICONEXCLAMATION;
+    }
     return ::MessageBox(GetMessageBoxOwner(), text, AfxGetAppName(), type);
 }
 

@@ -107,8 +107,9 @@ int COleDateTime::GetDayOfYear() const {
 }
 
 bool COleDateTime::GetAsSystemTime(SYSTEMTIME& time) const {
-    if (m_status != valid)
+    if (m_status != valid) {
         return false;
+    }
     time = AfxSystemTimeOf(CMoment(m_dt).AsParts());
     return true;
 }
@@ -120,23 +121,26 @@ double COleDateTime::Ordinal() const {
 
 CString COleDateTime::FormatUnlessValid() const {
     CString text;
-    if (m_status != null && !text.LoadString(invalidTextId))
+    if (m_status != null && !text.LoadString(invalidTextId)) {
         text = L"Invalid DateTime";
+    }
     return text;
 }
 
 CString COleDateTime::Format(DWORD flags, LCID locale) const {
     BSTR written = nullptr;
-    if (m_status != valid || FAILED(::VarBstrFromDate(m_dt, locale, flags, &written)))
+    if (m_status != valid || FAILED(::VarBstrFromDate(m_dt, locale, flags, &written))) {
         return FormatUnlessValid();
+    }
     const CString text(written, static_cast<int>(::SysStringLen(written)));
     ::SysFreeString(written);
     return text;
 }
 
 CString COleDateTime::Format(LPCTSTR format) const {
-    if (m_status != valid)
+    if (m_status != valid) {
         return FormatUnlessValid();
+    }
     const std::tm parts = CMoment(m_dt).AsParts();
     wchar_t text[1024];
     const size_t length = std::wcsftime(text, 1024, format, &parts);

@@ -11,11 +11,14 @@ const AFX_MSGMAP* CCmdTarget::GetThisMessageMap() {
 
 BOOL CCmdTarget::Dispatch(AFX_MESSAGE& message) {
     for (const AFX_MSGMAP* map = GetMessageMap(); map != nullptr;
-         map = map->base != nullptr ? map->base() : nullptr)
-        for (const AFX_MSGMAP_ENTRY* entry = map->entries; entry->message != 0; ++entry)
+         map = map->base != nullptr ? map->base() : nullptr) {
+        for (const AFX_MSGMAP_ENTRY* entry = map->entries; entry->message != 0; ++entry) {
             if (entry->message == message.message && entry->code == message.code &&
-                message.id >= entry->firstId && message.id <= entry->lastId)
+                message.id >= entry->firstId && message.id <= entry->lastId) {
                 return entry->call(this, message);
+            }
+        }
+    }
     return FALSE;
 }
 
@@ -56,8 +59,9 @@ AFX_MESSAGE MakeMapMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT result = 0;
-    if (OnWndMsg(message, wParam, lParam, &result))
+    if (OnWndMsg(message, wParam, lParam, &result)) {
         return result;
+    }
     return DefWindowProc(message, wParam, lParam);
 }
 
@@ -66,18 +70,21 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
         *result = OnCommand(wParam, lParam);
         return *result != 0;
     }
-    if (message == WM_NOTIFY)
+    if (message == WM_NOTIFY) {
         return OnNotify(wParam, lParam, result);
+    }
     AFX_MESSAGE mapMessage = MakeMapMessage(message, wParam, lParam);
-    if (!Dispatch(mapMessage))
+    if (!Dispatch(mapMessage)) {
         return FALSE;
+    }
     *result = mapMessage.result;
     return TRUE;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (m_previousProcedure == nullptr)
+    if (m_previousProcedure == nullptr) {
         return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    }
     return ::CallWindowProc(m_previousProcedure, m_hWnd, message, wParam, lParam);
 }
 
@@ -87,18 +94,21 @@ LRESULT CWnd::Default() {
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (lParam != 0 && ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+    if (lParam != 0 && ReflectLastMsg(reinterpret_cast<HWND>(lParam))) {
         return TRUE;
+    }
     AFX_MESSAGE message = MakeMapMessage(WM_COMMAND, wParam, lParam);
     return Dispatch(message);
 }
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    if (ReflectLastMsg(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, result))
+    if (ReflectLastMsg(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, result)) {
         return TRUE;
+    }
     AFX_MESSAGE message = MakeMapMessage(WM_NOTIFY, wParam, lParam);
-    if (!Dispatch(message))
+    if (!Dispatch(message)) {
         return FALSE;
+    }
     *result = message.result;
     return TRUE;
 }
@@ -120,10 +130,12 @@ BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* re
 BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) {
     AFX_MESSAGE reflected = MakeMapMessage(message, wParam, lParam);
     reflected.message += WM_REFLECT_BASE;
-    if (!Dispatch(reflected))
+    if (!Dispatch(reflected)) {
         return FALSE;
-    if (result != nullptr)
+    }
+    if (result != nullptr) {
         *result = reflected.result;
+    }
     return TRUE;
 }
 
@@ -135,29 +147,34 @@ void CWnd::OnNcDestroy() {
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* control, UINT) {
     LRESULT brush = 0;
-    if (control != nullptr && control->SendChildNotifyLastMsg(&brush))
+    if (control != nullptr && control->SendChildNotifyLastMsg(&brush)) {
         return reinterpret_cast<HBRUSH>(brush);
+    }
     return reinterpret_cast<HBRUSH>(Default());
 }
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT item) {
-    if (item->CtlType == ODT_MENU || !ReflectLastMsg(item->hwndItem))
+    if (item->CtlType == ODT_MENU || !ReflectLastMsg(item->hwndItem)) {
         Default();
+    }
 }
 
 void CWnd::OnMeasureItem(int id, LPMEASUREITEMSTRUCT item) {
-    if (item->CtlType == ODT_MENU || !ReflectLastMsg(::GetDlgItem(m_hWnd, id)))
+    if (item->CtlType == ODT_MENU || !ReflectLastMsg(::GetDlgItem(m_hWnd, id))) {
         Default();
+    }
 }
 
 void CWnd::OnVScroll(UINT, UINT, CScrollBar* bar) {
-    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
+    if (bar == nullptr || !bar->SendChildNotifyLastMsg()) {
         Default();
+    }
 }
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* bar) {
-    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
+    if (bar == nullptr || !bar->SendChildNotifyLastMsg()) {
         Default();
+    }
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*) {

@@ -17,8 +17,9 @@ CStdioFile::CStdioFile() = default;
 
 CStdioFile::CStdioFile(LPCTSTR fileName, UINT openFlags) {
     CFileException error;
-    if (!CStdioFile::Open(fileName, openFlags, &error))
+    if (!CStdioFile::Open(fileName, openFlags, &error)) {
         AfxThrowFileException(error.m_cause, error.m_lOsError, error.m_strFileName);
+    }
 }
 
 CStdioFile::~CStdioFile() {
@@ -30,14 +31,17 @@ CStdioFile::~CStdioFile() {
 }
 
 BOOL CStdioFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
-    if ((openFlags & typeBinary) != 0 || (openFlags & 3) == modeReadWrite)
+    if ((openFlags & typeBinary) != 0 || (openFlags & 3) == modeReadWrite) {
         AfxThrowNotSupportedException();
-    if (m_hFile != INVALID_HANDLE_VALUE)
+    }
+    if (m_hFile != INVALID_HANDLE_VALUE) {
         CStdioFile::Close();
+    }
     // Before the file is emptied: with no memory for this it stays as it is.
     m_codec = std::make_unique<CAfxTextCodec>(CAfxTextCodec::OfLocale());
-    if (!CFile::Open(fileName, openFlags, error))
+    if (!CFile::Open(fileName, openFlags, error)) {
         return FALSE;
+    }
     m_writing = (openFlags & 3) == modeWrite;
     m_buffer.clear();
     m_position = 0;
@@ -60,8 +64,9 @@ BOOL CStdioFile::ReadString(CString& line) {
     std::string bytes;
     for (bool ended = false; !ended;) {
         if (m_position == m_buffer.size() && !FillBuffer()) {
-            if (bytes.empty())
+            if (bytes.empty()) {
                 return FALSE;
+            }
             break;
         }
         const char* const first = m_buffer.data() + m_position;
@@ -71,8 +76,9 @@ BOOL CStdioFile::ReadString(CString& line) {
         const size_t length = ended ? static_cast<size_t>(lineEnd - first) : available;
         bytes.append(first, length);
         m_position += length + (ended ? 1 : 0);
-        if (ended && !bytes.empty() && bytes.back() == '\r')
+        if (ended && !bytes.empty() && bytes.back() == '\r') {
             bytes.pop_back();
+        }
     }
     const std::wstring text = m_codec->Decode(bytes);
     line.SetString(text.data(), static_cast<int>(text.size()));
@@ -81,8 +87,9 @@ BOOL CStdioFile::ReadString(CString& line) {
 
 void CStdioFile::WriteString(LPCTSTR text) {
     std::string bytes;
-    if (!m_codec->Encode(text, bytes))
+    if (!m_codec->Encode(text, bytes)) {
         AfxThrowFileException(CFileException::genericException, ERROR_NO_UNICODE_TRANSLATION, m_strFileName);
+    }
     Put(bytes.data(), bytes.size());
 }
 
@@ -99,14 +106,16 @@ void CStdioFile::Put(const char* bytes, size_t count) {
             m_buffer += "\r\n";
             ++bytes;
         }
-        if (m_buffer.size() >= bufferSize)
+        if (m_buffer.size() >= bufferSize) {
             Flush();
+        }
     }
 }
 
 void CStdioFile::Flush() {
-    if (!m_writing)
+    if (!m_writing) {
         return;
+    }
     CFile::Write(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
     m_buffer.clear();
 }

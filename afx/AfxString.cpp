@@ -99,8 +99,9 @@ int CString::FindOneOf(LPCTSTR characters) const {
 
 int CString::Replace(LPCTSTR oldText, LPCTSTR newText) {
     const std::wstring from = oldText;
-    if (from.empty())
+    if (from.empty()) {
         return 0;
+    }
     std::wstring result;
     int count = 0;
     size_t copied = 0;
@@ -108,8 +109,9 @@ int CString::Replace(LPCTSTR oldText, LPCTSTR newText) {
         result.append(m_text, copied, at - copied).append(newText != nullptr ? newText : L"");
         copied = at + from.size();
     }
-    if (count > 0)
+    if (count > 0) {
         m_text = result.append(m_text, copied);
+    }
     return count;
 }
 
@@ -125,8 +127,9 @@ int CString::Insert(int index, LPCTSTR text) {
 }
 
 int CString::Delete(int index, int count) {
-    if (AsSize(index) < m_text.size())
+    if (AsSize(index) < m_text.size()) {
         m_text.erase(AsSize(index), AsSize(count));
+    }
     return GetLength();
 }
 

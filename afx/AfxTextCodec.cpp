@@ -16,8 +16,9 @@ size_t ConvertThereAndBack(const char* bytes, size_t count, wchar_t& unit) {
     }
     std::mbstate_t reading{};
     const size_t used = std::mbrtowc(&unit, bytes, count, &reading);
-    if (used == 0 || used > count)
+    if (used == 0 || used > count) {
         return 0;
+    }
     char back[MB_LEN_MAX];
     std::mbstate_t writing{};
     const size_t written = std::wcrtomb(back, unit, &writing);
@@ -38,8 +39,9 @@ CAfxTextCodec::CAfxTextCodec() {
     for (int number = 0; number < 256; ++number) {
         const char byte = static_cast<char>(number);
         m_isSingle[number] = ConvertThereAndBack(&byte, 1, m_units[number]) == 1;
-        if (!m_isSingle[number])
+        if (!m_isSingle[number]) {
             m_units[number] = static_cast<wchar_t>(firstEscape + number);
+        }
     }
 }
 
@@ -51,17 +53,20 @@ CAfxTextCodec CAfxTextCodec::OfLocale() {
     if (locale == nullptr || std::strcmp(locale, name) != 0) {
         codec = CAfxTextCodec();
         name[0] = '\0';
-        if (locale != nullptr && std::strlen(locale) < sizeof name)
+        if (locale != nullptr && std::strlen(locale) < sizeof name) {
             std::strcpy(name, locale);
+        }
     }
     return codec;
 }
 
 size_t CAfxTextCodec::DecodeOne(const char* bytes, size_t count, wchar_t& unit) const {
     const auto first = static_cast<unsigned char>(*bytes);
-    if (!m_isSingle[first])
-        if (const size_t used = ConvertThereAndBack(bytes, count, unit))
+    if (!m_isSingle[first]) {
+        if (const size_t used = ConvertThereAndBack(bytes, count, unit)) {
             return used;
+        }
+    }
     unit = m_units[first];
     return 1;
 }
@@ -85,15 +90,16 @@ bool CAfxTextCodec::Encode(const std::wstring& text, std::string& bytes) const {
         const bool isPair = IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1]);
         char encoded[MB_LEN_MAX];
         std::mbstate_t state{};
-        if (unit < 0x80 && m_isSingle[unit] && m_units[unit] == unit)
+        if (unit < 0x80 && m_isSingle[unit] && m_units[unit] == unit) {
             bytes += static_cast<char>(unit);
-        else if (unit >= firstEscape && unit < firstEscape + 256 && !m_isSingle[unit - firstEscape])
+        } else if (unit >= firstEscape && unit < firstEscape + 256 && !m_isSingle[unit - firstEscape]) {
             bytes += static_cast<char>(unit - firstEscape);
-        else if (const size_t count = isPair ? 0 : std::wcrtomb(encoded, unit, &state);
-                 count > 0 && count <= MB_LEN_MAX)
+        } else if (const size_t count = isPair ? 0 : std::wcrtomb(encoded, unit, &state);
+                   count > 0 && count <= MB_LEN_MAX) {
             bytes.append(encoded, count);
-        else
+        } else {
             return false;
+        }
     }
     return true;
 }

@@ -53,8 +53,9 @@ int CTime::GetSecond() const {
 
 bool CTime::GetAsSystemTime(SYSTEMTIME& time) const {
     std::tm local{};
-    if (::_localtime64_s(&local, &m_time) != 0)
+    if (::_localtime64_s(&local, &m_time) != 0) {
         return false;
+    }
     time = AfxSystemTimeOf(local);
     return true;
 }

@@ -10,16 +10,19 @@ namespace {
 class CWindowClasses {
 public:
     ~CWindowClasses() {
-        for (const std::wstring& name : m_names)
+        for (const std::wstring& name : m_names) {
             ::UnregisterClass(name.c_str(), AfxGetStaticModuleState()->m_hCurrentInstanceHandle);
+        }
     }
 
     LPCTSTR Add(LPCTSTR name) { return m_names.emplace_back(name).c_str(); }
     void RemoveLast() { m_names.pop_back(); }
     LPCTSTR Find(LPCTSTR name) const {
-        for (const std::wstring& known : m_names)
-            if (known == name)
+        for (const std::wstring& known : m_names) {
+            if (known == name) {
                 return known.c_str();
+            }
+        }
         return nullptr;
     }
 
@@ -36,8 +39,9 @@ LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, 
     const HINSTANCE instance = AfxGetStaticModuleState()->m_hCurrentInstanceHandle;
     CString name;
     name.Format(L"Afx:%Ix:%x:%Ix:%Ix:%Ix", instance, classStyle, cursor, background, icon);
-    if (const LPCTSTR known = classes.Find(name))
+    if (const LPCTSTR known = classes.Find(name)) {
         return known;
+    }
     WNDCLASS windowClass = {};
     windowClass.style = classStyle;
     windowClass.lpfnWndProc = ::DefWindowProc;

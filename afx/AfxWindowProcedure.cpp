@@ -58,8 +58,9 @@ void AfxReportCaught(bool isCommand) {
         reason[room - 1] = L'\0';
     } catch (...) {
     }
-    if (reason[0] != L'\0')
+    if (reason[0] != L'\0') {
         text[length] = L'\n';
+    }
     AfxMessageBox(text, MB_ICONSTOP);
 }
 
@@ -69,13 +70,15 @@ const MSG* CWnd::GetCurrentMessage() {
 
 LRESULT CALLBACK CWnd::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     CWnd* const object = FromHandlePermanent(window);
-    if (object == nullptr)
+    if (object == nullptr) {
         return ::DefWindowProc(window, message, wParam, lParam);
+    }
     const AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
     const CCurrentMessage current(window, message, wParam, lParam);
     LRESULT result = 0;
-    if (!AfxGuard([&] { result = object->WindowProc(message, wParam, lParam); }, message == WM_COMMAND))
+    if (!AfxGuard([&] { result = object->WindowProc(message, wParam, lParam); }, message == WM_COMMAND)) {
         return GetResultOfFailure(window, message);
+    }
     return result;
 }
 
@@ -85,8 +88,9 @@ CAfxWindowHook::CAfxWindowHook(CWnd* window)
     : m_outer(s_current),
       m_window(window),
       m_hook(::SetWindowsHookEx(WH_CBT, Procedure, nullptr, ::GetCurrentThreadId())) {
-    if (m_hook == nullptr)
+    if (m_hook == nullptr) {
         AfxThrowResourceException();
+    }
     s_current = this;
 }
 
@@ -97,14 +101,16 @@ CAfxWindowHook::~CAfxWindowHook() {
 
 LRESULT CALLBACK CAfxWindowHook::Procedure(int code, WPARAM wParam, LPARAM lParam) {
     CAfxWindowHook* const hook = s_current;
-    if (hook == nullptr)
+    if (hook == nullptr) {
         return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
     if (code == HCBT_CREATEWND && hook->m_window != nullptr) {
         const auto window = reinterpret_cast<HWND>(wParam);
         // Windows makes input-method windows of its own accord along with a thread's first window.
         const bool isInputMethod = (::GetClassLong(window, GCL_STYLE) & CS_IME) != 0;
-        if (!isInputMethod && !hook->Attach(window))
+        if (!isInputMethod && !hook->Attach(window)) {
             return 1;  // ends the creation
+        }
     }
     return ::CallNextHookEx(hook->m_hook, code, wParam, lParam);
 }

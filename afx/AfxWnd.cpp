@@ -55,8 +55,9 @@ CWnd* CWnd::FromHandlePermanent(HWND window) {
 
 BOOL CWnd::Attach(HWND window) {
     ASSERT(m_hWnd == nullptr);
-    if (window == nullptr || FromHandlePermanent(window) != nullptr)
+    if (window == nullptr || FromHandlePermanent(window) != nullptr) {
         return FALSE;
+    }
     CWndMap::SetPermanent(window, this);
     m_hWnd = window;
     return TRUE;
@@ -64,8 +65,9 @@ BOOL CWnd::Attach(HWND window) {
 
 HWND CWnd::Detach() {
     const HWND window = m_hWnd;
-    if (window != nullptr)
+    if (window != nullptr) {
         CWndMap::RemovePermanent(window);
+    }
     m_hWnd = nullptr;
     m_hWndOwner = nullptr;
     m_previousProcedure = nullptr;
@@ -78,8 +80,9 @@ void CWnd::TakeMessages() {
 }
 
 BOOL CWnd::SubclassWindow(HWND window) {
-    if (!Attach(window))
+    if (!Attach(window)) {
         return FALSE;
+    }
     PreSubclassWindow();
     TakeMessages();
     return TRUE;
@@ -90,8 +93,9 @@ BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent) {
 }
 
 HWND CWnd::UnsubclassWindow() {
-    if (m_previousProcedure != nullptr)
+    if (m_previousProcedure != nullptr) {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_previousProcedure));
+    }
     return Detach();
 }
 
@@ -132,27 +136,31 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD 
                          static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
                          create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
     // A window that came into being and failed later has been through WM_NCDESTROY.
-    if (!hook.HasAttached())
+    if (!hook.HasAttached()) {
         PostNcDestroy();
+    }
     return window != nullptr;
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& create) {
-    if (create.lpszClass == nullptr)
+    if (create.lpszClass == nullptr) {
         create.lpszClass =
             AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursor(nullptr, IDC_ARROW),
                                 nullptr, ::LoadIcon(nullptr, IDI_APPLICATION));
+    }
     return TRUE;
 }
 
 BOOL CWnd::DestroyWindow() {
-    if (m_hWnd == nullptr)
+    if (m_hWnd == nullptr) {
         return FALSE;
+    }
     const HWND window = m_hWnd;
     const BOOL destroyed = ::DestroyWindow(window);
     // An object that never got the window's messages has not heard of its end.
-    if (FromHandlePermanent(window) == this)
+    if (FromHandlePermanent(window) == this) {
         Detach();
+    }
     return destroyed;
 }
 
@@ -164,8 +172,9 @@ void CWnd::GetWindowText(CString& text) const {
 
 int CWnd::GetDlgItemText(int id, CString& text) const {
     text.Empty();
-    if (const CWnd* const control = GetDlgItem(id))
+    if (const CWnd* const control = GetDlgItem(id)) {
         control->GetWindowText(text);
+    }
     return text.GetLength();
 }
 
@@ -179,12 +188,14 @@ namespace {
 BOOL ModifyStyleWord(HWND window, int word, DWORD remove, DWORD add, UINT flags) {
     const auto before = static_cast<DWORD>(::GetWindowLong(window, word));
     const DWORD after = (before & ~remove) | add;
-    if (before == after)
+    if (before == after) {
         return FALSE;
+    }
     ::SetWindowLong(window, word, static_cast<LONG>(after));
-    if (flags != 0)
+    if (flags != 0) {
         ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
                        SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
+    }
     return TRUE;
 }
 
@@ -215,8 +226,9 @@ void CWnd::CenterWindow(CWnd* over) {
     CRect rect;
     GetWindowRect(&rect);
     rect.MoveToXY(area.CenterPoint().x - rect.Width() / 2, area.CenterPoint().y - rect.Height() / 2);
-    if (!isChild)
+    if (!isChild) {
         MoveInside(rect, GetWorkArea(base != nullptr ? base : m_hWnd));
+    }
     SetWindowPos(nullptr, rect.left, rect.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

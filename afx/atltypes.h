@@ -74,10 +74,12 @@ public:
 };
 
 inline void CRect::NormalizeRect() {
-    if (left > right)
+    if (left > right) {
         *this = CRect(right, top, left, bottom);
-    if (top > bottom)
+    }
+    if (top > bottom) {
         *this = CRect(left, bottom, right, top);
+    }
 }
 
 inline CRect CRect::operator&(const RECT& rect) const {

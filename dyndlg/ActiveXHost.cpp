@@ -16,12 +16,14 @@ CreateControlFunction LoadHosting() {
     for (const LPCTSTR name : {_T("atl.dll"), _T("atl110.dll")}) {
         // Never freed: it registers window classes, and its windows may live as long as the process.
         const HMODULE library = ::LoadLibraryEx(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-        if (library == nullptr)
+        if (library == nullptr) {
             continue;
+        }
         const auto initialise = Find<BOOL(WINAPI*)()>(library, "AtlAxWinInit");
         const auto create = Find<CreateControlFunction>(library, "AtlAxCreateControl");
-        if (initialise != nullptr && create != nullptr && initialise())
+        if (initialise != nullptr && create != nullptr && initialise()) {
             return create;
+        }
         ::FreeLibrary(library);
     }
     return nullptr;

@@ -43,8 +43,9 @@ EExchange ExchangeOfButton(std::uint32_t style) {
     constexpr std::uint32_t autoRadioButton = 9;
     constexpr std::uint32_t autoCheckBox = 3;
     // The order matters: 0xB has both patterns and is a radio button.
-    if (HasBits(style, autoRadioButton))
+    if (HasBits(style, autoRadioButton)) {
         return EX_RADIO;
+    }
     return HasBits(style, autoCheckBox) ? EX_CHECK : EX_CONTROL;
 }
 
@@ -53,8 +54,9 @@ EExchange ExchangeOfButton(std::uint32_t style) {
 std::uint32_t TypeCodeOfClass(std::wstring_view className) {
     std::uint32_t code = firstCode;
     for (const ControlClass& known : classes) {
-        if (className.starts_with(known.name.substr(0, known.significant)))
+        if (className.starts_with(known.name.substr(0, known.significant))) {
             return code;
+        }
         ++code;
     }
     return CT_ACTIVEX;
@@ -68,8 +70,9 @@ const wchar_t* ClassOfTypeCode(std::uint32_t typeCode) {
 
 EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style) {
     constexpr std::uint32_t timeFormat = 9;  // DTS_TIMEFORMAT
-    if (typeCode - firstCode >= codeCount)
+    if (typeCode - firstCode >= codeCount) {
         return EX_NONE;
+    }
     switch (typeCode) {
         case CT_BUTTON:
             return ExchangeOfButton(style);

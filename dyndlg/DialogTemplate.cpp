@@ -60,8 +60,9 @@ public:
         Word(0);
     }
     void AlignForItem() {
-        while (m_used % itemAlignment != 0)
+        while (m_used % itemAlignment != 0) {
             Byte(0);
+        }
     }
 
 private:
@@ -112,14 +113,16 @@ void WriteItem(const DialogTemplateItem& item, CFieldWriter& writer) {
 
 std::size_t TemplateSize(const DialogTemplate& dialog) {
     std::size_t size = HeadSize(dialog);
-    for (const DialogTemplateItem& item : dialog.items)
+    for (const DialogTemplateItem& item : dialog.items) {
         size = RoundedUp(size) + ItemSize(item);
+    }
     return size;
 }
 
 void WriteTemplate(const DialogTemplate& dialog, std::span<std::byte> memory) {
     CFieldWriter writer(memory);
     WriteHead(dialog, writer);
-    for (const DialogTemplateItem& item : dialog.items)
+    for (const DialogTemplateItem& item : dialog.items) {
         WriteItem(item, writer);
+    }
 }

@@ -32,8 +32,9 @@ LOGFONT DefaultFont() {
 
 // What a window says of its font. False without window or font.
 bool ReadFontOf(const CWnd* window, LOGFONT& font) {
-    if (window == nullptr || window->GetSafeHwnd() == nullptr)
+    if (window == nullptr || window->GetSafeHwnd() == nullptr) {
         return false;
+    }
     const auto handle = reinterpret_cast<HGDIOBJ>(window->SendMessage(WM_GETFONT));
     return handle != nullptr && ::GetObject(handle, sizeof(font), &font) != 0;
 }
@@ -50,8 +51,9 @@ void RegisterCommonControls() {
 CDynDialogEx::CDynDialogEx(CWnd* parent) : m_parent(parent) {}
 
 CDynDialogEx::~CDynDialogEx() {
-    while (!m_items.empty())
+    while (!m_items.empty()) {
         m_items.pop_back();
+    }
 }
 
 CWnd* CDynDialogEx::GetParentWnd() {
@@ -59,8 +61,9 @@ CWnd* CDynDialogEx::GetParentWnd() {
 }
 
 CDynDialogItemEx* CDynDialogEx::GetItem(INT_PTR index) const {
-    if (index < 0 || index >= GetItemCount())
+    if (index < 0 || index >= GetItemCount()) {
         AfxThrowInvalidArgException();
+    }
     return m_items[static_cast<size_t>(index)].get();
 }
 
@@ -105,8 +108,9 @@ UINT CDynDialogEx::AddSubclassedDlgControl(LPCTSTR className, LPCTSTR caption, D
 UINT CDynDialogEx::Add(DynControl control, const RECT* rect, int defaultRight) {
     // One counter for all dialogs: two that are open at the same time share no assigned id.
     static CControlIds ids;
-    if (control.id == 0)
+    if (control.id == 0) {
         control.id = ids.Next();
+    }
     if (rect != nullptr) {
         const DialogRect given = {rect->left, rect->top, rect->right, rect->bottom};
         control.rect = m_layout.Place(&given, defaultRight);
@@ -131,12 +135,14 @@ void CDynDialogEx::AddSystemButtons() {
 // ---- Running
 
 INT_PTR CDynDialogEx::DoModal() {
-    if (m_addSystemButtons)
+    if (m_addSystemButtons) {
         AddSystemButtons();
+    }
     const LOGFONT font = ChooseTemplateFont();
     // The height as it stands, not as a size in points: a negative height keeps its low 16 bits.
-    if (m_fontSize == 0)
+    if (m_fontSize == 0) {
         m_fontSize = LOWORD(font.lfHeight);
+    }
     const DialogTemplate dialog = DescribeTemplate(font.lfFaceName);
 
     CLocalMemory memory(TemplateSize(dialog));
@@ -156,10 +162,12 @@ INT_PTR CDynDialogEx::DoModal() {
 
 LOGFONT CDynDialogEx::ChooseTemplateFont() {
     LOGFONT font = {};
-    if (m_font != nullptr && m_font->GetSafeHandle() != nullptr && m_font->GetLogFont(&font) != 0)
+    if (m_font != nullptr && m_font->GetSafeHandle() != nullptr && m_font->GetLogFont(&font) != 0) {
         return font;
-    if (ReadFontOf(GetParentWnd(), font) || ReadFontOf(AfxGetMainWnd(), font))
+    }
+    if (ReadFontOf(GetParentWnd(), font) || ReadFontOf(AfxGetMainWnd(), font)) {
         return font;
+    }
     return DefaultFont();
 }
 
@@ -173,28 +181,32 @@ DialogTemplate CDynDialogEx::DescribeTemplate(LPCTSTR faceName) const {
                              .faceName = faceName};
     for (const auto& item : m_items) {
         const DynControl& control = item->Control();
-        if (control.subclassed)
+        if (control.subclassed) {
             dialog.items.push_back({.style = control.style,
                                     .exStyle = control.exStyle,
                                     .rect = control.rect,
                                     .id = control.id,
                                     .typeCode = control.typeCode,
                                     .caption = control.caption.GetString()});
+        }
     }
     return dialog;
 }
 
 INT_PTR CDynDialogEx::Run(LPCDLGTEMPLATE dialogTemplate) {
-    if (m_modeless)
+    if (m_modeless) {
         return CreateIndirect(dialogTemplate, GetParentWnd());
-    if (!InitModalIndirect(dialogTemplate, GetParentWnd()))
+    }
+    if (!InitModalIndirect(dialogTemplate, GetParentWnd())) {
         return -1;
+    }
     return CDialog::DoModal();
 }
 
 int CDynDialogEx::OnCreate(LPCREATESTRUCT create) {
-    if (CDialog::OnCreate(create) == -1)
+    if (CDialog::OnCreate(create) == -1) {
         return -1;
+    }
     RegisterCommonControls();
     if (m_font == nullptr) {
         const LOGFONT font = DefaultFont();
@@ -204,16 +216,18 @@ int CDynDialogEx::OnCreate(LPCREATESTRUCT create) {
     }
     for (const auto& item : m_items) {
         const DynControl& control = item->Control();
-        if (!control.subclassed && control.typeCode != CT_ACTIVEX && !item->CreateOn(*this, *m_font))
+        if (!control.subclassed && control.typeCode != CT_ACTIVEX && !item->CreateOn(*this, *m_font)) {
             AfxMessageBox(_T("Failed to create DlgItem."));
+        }
     }
     return 0;
 }
 
 BOOL CDynDialogEx::OnInitDialog() {
     for (const auto& item : m_items) {
-        if (item->Control().subclassed || item->PlaceOn(*this))
+        if (item->Control().subclassed || item->PlaceOn(*this)) {
             continue;
+        }
         CString message;
         message.Format(_T("Failed SetWindowPos for control %s."), item->Control().className.GetString());
         AfxMessageBox(message);
@@ -224,8 +238,9 @@ BOOL CDynDialogEx::OnInitDialog() {
 }
 
 void CDynDialogEx::DoDataExchange(CDataExchange* pDX) {
-    for (auto item = m_items.rbegin(); item != m_items.rend(); ++item)
+    for (auto item = m_items.rbegin(); item != m_items.rend(); ++item) {
         (*item)->DoDataExchange(pDX);
+    }
 }
 
 // ---- Messages
@@ -242,23 +257,26 @@ BOOL CDynDialogEx::OnCommand(WPARAM wParam, LPARAM lParam) {
         return TRUE;
     }
     CWnd* const parent = GetParentWnd();
-    if (id != 0 && parent != nullptr && parent->GetSafeHwnd() != nullptr)
+    if (id != 0 && parent != nullptr && parent->GetSafeHwnd() != nullptr) {
         parent->SendMessage(WM_COMMAND, wParam, lParam);
+    }
     return CDialog::OnCommand(wParam, lParam);
 }
 
 void CDynDialogEx::OnOK() {
-    if (m_modeless)
+    if (m_modeless) {
         DestroyWindow();
-    else
+    } else {
         CDialog::OnOK();
+    }
 }
 
 void CDynDialogEx::OnCancel() {
-    if (m_modeless)
+    if (m_modeless) {
         DestroyWindow();
-    else
+    } else {
         CDialog::OnCancel();
+    }
 }
 
 BOOL CDynDialogEx::OnHelpInfo(HELPINFO*) {

@@ -27,8 +27,9 @@ BOOL CDynDialogItemEx::CreateOn(CWnd& dialog, CFont& font) {
     const DialogRect& rect = m_control.rect;
     CWnd& window = WindowObject();
     if (!window.CreateEx(m_control.exStyle, m_control.className, m_control.caption, m_control.style,
-                         CRect(rect.left, rect.top, rect.right, rect.bottom), &dialog, m_control.id))
+                         CRect(rect.left, rect.top, rect.right, rect.bottom), &dialog, m_control.id)) {
         return FALSE;
+    }
     window.SetFont(&font, FALSE);
     return TRUE;
 }
@@ -37,8 +38,9 @@ BOOL CDynDialogItemEx::PlaceOn(CDialog& dialog) {
     const DialogRect& rect = m_control.rect;
     CRect pixels(rect.left, rect.top, rect.right, rect.bottom);
     dialog.MapDialogRect(&pixels);
-    if (m_control.typeCode == CT_ACTIVEX)
+    if (m_control.typeCode == CT_ACTIVEX) {
         return CreateActiveXOn(dialog, pixels);
+    }
     CWnd& window = WindowObject();
     return window.GetSafeHwnd() != nullptr &&
            window.SetWindowPos(nullptr, pixels.left, pixels.top, pixels.Width(), pixels.Height(),
@@ -51,10 +53,12 @@ BOOL CDynDialogItemEx::CreateActiveXOn(CWnd& dialog, const RECT& pixels) {
                          m_control.id);
 #else
     if (!CreateEx(m_control.exStyle, AfxRegisterWndClass(0), m_control.caption, m_control.style, pixels,
-                  &dialog, m_control.id))
+                  &dialog, m_control.id)) {
         return FALSE;
-    if (CreateActiveXIn(m_hWnd, m_control.className))
+    }
+    if (CreateActiveXIn(m_hWnd, m_control.className)) {
         return TRUE;
+    }
     DestroyWindow();
     return FALSE;
 #endif
@@ -63,8 +67,9 @@ BOOL CDynDialogItemEx::CreateActiveXOn(CWnd& dialog, const RECT& pixels) {
 void CDynDialogItemEx::DoDataExchange(CDataExchange* pDX) {
     const int id = static_cast<int>(m_control.id);
     void* const data = m_control.data;
-    if (::GetDlgItem(pDX->m_pDlgWnd->GetSafeHwnd(), id) == nullptr)
+    if (::GetDlgItem(pDX->m_pDlgWnd->GetSafeHwnd(), id) == nullptr) {
         return;
+    }
     switch (Exchange()) {
         case EX_NONE:
             break;

@@ -19,8 +19,9 @@ public:
     HLOCAL Handle() const { return m_handle; }
     std::size_t Size() const { return m_size; }
     void Free() {
-        if (m_handle != nullptr)
+        if (m_handle != nullptr) {
             ::LocalFree(m_handle);
+        }
         m_handle = nullptr;
     }
 
@@ -36,8 +37,9 @@ public:
     explicit CLocalLock(const CLocalMemory& memory)
         : m_memory(memory), m_address(static_cast<std::byte*>(::LocalLock(memory.Handle()))) {}
     ~CLocalLock() {
-        if (m_address != nullptr)
+        if (m_address != nullptr) {
             ::LocalUnlock(m_memory.Handle());
+        }
     }
     CLocalLock(const CLocalLock&) = delete;
     CLocalLock& operator=(const CLocalLock&) = delete;

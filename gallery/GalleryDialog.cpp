@@ -150,8 +150,9 @@ void CGalleryDialog::FillStates() {
 
 void CGalleryDialog::FillManyRows() {
     const UINT section = m_grid.AddSection(L"Many rows", true);
-    for (int row = 1; row <= rowCount; ++row)
+    for (int row = 1; row <= rowCount; ++row) {
         m_grid.AddIntegerItem(section, L"Row " + std::to_wstring(row), row);
+    }
 }
 
 BOOL CGalleryDialog::OnInitDialog() {
@@ -163,8 +164,9 @@ BOOL CGalleryDialog::OnInitDialog() {
 }
 
 void CGalleryDialog::ShowFlags() {
-    for (const CFlag& flag : flags)
+    for (const CFlag& flag : flags) {
         CheckDlgButton(flag.id, (m_grid.*flag.get)() ? BST_CHECKED : BST_UNCHECKED);
+    }
 }
 
 // The button may be pressed by the Enter key or a mnemonic, without the focus leaving an open editor.
@@ -192,8 +194,9 @@ void CGalleryDialog::OnClickedMode(UINT id) {
 
 void CGalleryDialog::OnClickedFlag(UINT id) {
     for (const CFlag& flag : flags) {
-        if (flag.id == static_cast<int>(id))
+        if (flag.id == static_cast<int>(id)) {
             (m_grid.*flag.set)(IsDlgButtonChecked(flag.id) == BST_CHECKED);
+        }
     }
 }
 
@@ -226,8 +229,9 @@ void CGalleryDialog::RememberLayout() {
 
 void CGalleryDialog::OnSize(UINT type, int width, int height) {
     CDialog::OnSize(type, width, height);
-    if (m_initial.empty() || type == SIZE_MINIMIZED)
+    if (m_initial.empty() || type == SIZE_MINIMIZED) {
         return;
+    }
     const int dx = width - m_initialSize.cx;
     const int dy = height - m_initialSize.cy;
     for (std::size_t i = 0; i < m_initial.size(); ++i) {
@@ -255,8 +259,9 @@ void CGalleryDialog::PrintPlaces() {
     for (UINT id = 0; id < m_grid.GetItemCount(); ++id) {
         CRect name;
         CRect value;
-        if (!m_grid.GetItemRects(id, name, value) || value.IsRectEmpty())
+        if (!m_grid.GetItemRects(id, name, value) || value.IsRectEmpty()) {
             continue;
+        }
         m_grid.MapWindowPoints(this, &value);
         PrintLine(L"place " + std::to_wstring(value.left) + L' ' + std::to_wstring(value.top) + L' ' +
                   std::to_wstring(value.right) + L' ' + std::to_wstring(value.bottom) + L' ' +

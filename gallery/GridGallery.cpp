@@ -27,8 +27,9 @@ int RunMonkey(const wchar_t* events, const wchar_t* seed) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
-    if (__argc == 4 && std::wstring(__wargv[1]) == L"--monkey")
+    if (__argc == 4 && std::wstring(__wargv[1]) == L"--monkey") {
         return RunMonkey(__wargv[2], __wargv[3]);
+    }
     if (__argc != 1) {
         std::fputs("usage: GridGallery.exe [--monkey EVENTS SEED]\n", stderr);
         return statusWrongUse;

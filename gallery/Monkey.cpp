@@ -30,8 +30,9 @@ void HandleMessages() {
 }
 
 BOOL CALLBACK CollectUsable(HWND window, LPARAM list) {
-    if (IsWindowVisible(window) && IsWindowEnabled(window))
+    if (IsWindowVisible(window) && IsWindowEnabled(window)) {
         reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
     return TRUE;
 }
 
@@ -53,8 +54,9 @@ void PrintBlocks() {
     using PrintLive = void (*)(std::size_t most);
     const auto print = reinterpret_cast<PrintLive>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandle(L"TD_Alloc.dll"), "td_print_live")));
-    if (print != nullptr)
+    if (print != nullptr) {
         print(mostBlocks);
+    }
 }
 
 }  // namespace
@@ -75,8 +77,9 @@ int CMonkey::Run() {
     KillTimer(nullptr, timer);
     std::printf("heap blocks %lld -> %lld, GDI objects %d -> %d, windows %d -> %d\n", before.heapBlocks,
                 after.heapBlocks, before.gdiObjects, after.gdiObjects, before.windows, after.windows);
-    if (after.heapBlocks > before.heapBlocks)
+    if (after.heapBlocks > before.heapBlocks) {
         PrintBlocks();
+    }
     const bool grown = after.heapBlocks > before.heapBlocks ||
                        after.gdiObjects > before.gdiObjects + objectsOfTheSystem ||
                        after.windows > before.windows;
@@ -104,24 +107,27 @@ void CALLBACK CMonkey::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 }
 
 void CMonkey::Act() {
-    if (m_gallery == nullptr || !IsWindow(m_gallery->GetSafeHwnd()) || EndDialogs())
+    if (m_gallery == nullptr || !IsWindow(m_gallery->GetSafeHwnd()) || EndDialogs()) {
         return;
+    }
     const HWND gallery = m_gallery->GetSafeHwnd();
-    if (!m_warmingUp && m_eventsToCome <= 0)
+    if (!m_warmingUp && m_eventsToCome <= 0) {
         PostMessage(gallery, WM_CLOSE, 0, 0);
-    else if (m_warmingUp)
+    } else if (m_warmingUp) {
         OpenNextEditor();
-    else if (GetActiveWindow() == nullptr)
+    } else if (GetActiveWindow() == nullptr) {
         SetForegroundWindow(gallery);
-    else
+    } else {
         MakeGesture();
+    }
 }
 
 // Whether a dialog is up in front of the gallery; it is told to end, one way or the other.
 bool CMonkey::EndDialogs() {
     for (const HWND window : UsableWindows()) {
-        if (window == m_gallery->GetSafeHwnd() || !IsDialog(window))
+        if (window == m_gallery->GetSafeHwnd() || !IsDialog(window)) {
             continue;
+        }
         PostMessage(window, WM_COMMAND, Random(2) == 0 ? IDOK : IDCANCEL, 0);
         return true;
     }
@@ -141,23 +147,25 @@ void CMonkey::OpenNextEditor() {
     if (grid.GetItemRects(m_nextItem++, name, value) && !value.IsRectEmpty()) {
         const CPoint middle = value.CenterPoint();
         const LPARAM place = MAKELPARAM(middle.x, middle.y);
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP})
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
             grid.PostMessage(message, 0, place);
+        }
     }
 }
 
 void CMonkey::MakeGesture() {
     const int kind = Random(100);
-    if (kind < 45)
+    if (kind < 45) {
         PressMouse();
-    else if (kind < 55)
+    } else if (kind < 55) {
         DragMouse();
-    else if (kind < 63)
+    } else if (kind < 63) {
         TurnWheel();
-    else if (kind < 97)
+    } else if (kind < 97) {
         PressKey();
-    else
+    } else {
         PressMnemonic();
+    }
     Send();
 }
 
@@ -172,8 +180,9 @@ void CMonkey::PressMouse() {
 void CMonkey::DragMouse() {
     MoveTo(RandomPoint());
     AddMouse(MOUSEEVENTF_LEFTDOWN);
-    for (int moves = Random(3); moves >= 0; --moves)
+    for (int moves = Random(3); moves >= 0; --moves) {
         MoveTo(RandomPoint());
+    }
     AddMouse(MOUSEEVENTF_LEFTUP);
 }
 
@@ -190,12 +199,14 @@ void CMonkey::PressKey() {
     const WORD key = keys[Random(static_cast<int>(std::size(keys)))];
     static constexpr WORD modifiers[] = {VK_CONTROL, VK_SHIFT};
     const WORD modifier = Random(6) == 0 && key != VK_ESCAPE ? modifiers[Random(2)] : 0;
-    if (modifier != 0)
+    if (modifier != 0) {
         AddKey(modifier, 0);
+    }
     AddKey(key, 0);
     AddKey(key, KEYEVENTF_KEYUP);
-    if (modifier != 0)
+    if (modifier != 0) {
         AddKey(modifier, KEYEVENTF_KEYUP);
+    }
 }
 
 void CMonkey::PressMnemonic() {
@@ -248,8 +259,9 @@ POINT CMonkey::RandomPoint() {
 
 // Most often the grid, then an editor that stands open beside the gallery.
 HWND CMonkey::RandomWindow() {
-    if (Random(10) < 6)
+    if (Random(10) < 6) {
         return m_gallery->GetGrid().GetSafeHwnd();
+    }
     const std::vector<HWND> windows = UsableWindows();
     return windows.empty() ? m_gallery->GetSafeHwnd()
                            : windows[static_cast<std::size_t>(Random(static_cast<int>(windows.size())))];

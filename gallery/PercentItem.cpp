@@ -27,8 +27,9 @@ void CPercentItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
 
 // The grid asks for every press while the item has the focus, wherever it is.
 bool CPercentItem::OnLButtonDown(CRect rect, CPoint point) {
-    if (!rect.PtInRect(point))
+    if (!rect.PtInRect(point)) {
         return false;
+    }
     m_dragging = true;
     m_percentBefore = m_percent;
     Follow(rect, point);
@@ -40,8 +41,9 @@ void CPercentItem::OnMouseMove(CRect rect, CPoint point) {
 }
 
 void CPercentItem::OnLButtonUp(CRect /*rect*/, CPoint /*point*/) {
-    if (std::exchange(m_dragging, false) && m_percent != m_percentBefore)
+    if (std::exchange(m_dragging, false) && m_percent != m_percentBefore) {
         m_pGrid->NotifyChanged(m_id);
+    }
 }
 
 void CPercentItem::Follow(CRect rect, CPoint point) {

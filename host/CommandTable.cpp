@@ -20,16 +20,18 @@ std::span<const CommandRow> CommandTable() {
 void RegisterCommands() {
     short code = 0;
     for (const CommandRow& row : commandTable) {
-        if (sds_defun(row.name, code++) == 0)
+        if (sds_defun(row.name, code++) == 0) {
             return;
+        }
     }
 }
 
 void UnregisterCommands() {
     short code = 0;
     for (const CommandRow& row : commandTable) {
-        if (sds_undef(row.name, code++) == 0)
+        if (sds_undef(row.name, code++) == 0) {
             return;
+        }
     }
 }
 

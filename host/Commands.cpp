@@ -34,10 +34,11 @@ bool BeginsWithString(const sds_resbuf* list) {
 
 // The result of a function that answers no more than whether its dialog was confirmed.
 void SetResultOf(INT_PTR dialogResult) {
-    if (dialogResult == IDOK)
+    if (dialogResult == IDOK) {
         sds_retint(0);
-    else
+    } else {
         sds_retnil();
+    }
 }
 
 // Gives the dialog the caption, the 3D flag and each of the names that has a slide.
@@ -47,36 +48,43 @@ void TakeChoiceArguments(const sds_resbuf* list, CTavrinSelMaskDlg& dialog) {
     const wchar_t* const caption = list->type == RTSTR ? list->value.string : L"";
     const sds_resbuf* const flag = list->next;
     dialog.SetArguments(caption, flag != nullptr ? flag->value.integer : 0);
-    if (flag == nullptr)
+    if (flag == nullptr) {
         return;
+    }
     for (const sds_resbuf* item = flag->next; item != nullptr; item = item->next) {
-        if (item->type == RTSTR)
+        if (item->type == RTSTR) {
             dialog.AddChoice(item->value.string);
+        }
     }
 }
 
 }  // namespace
 
 std::optional<ItemArguments> ReadItemArguments(const sds_resbuf* list) {
-    if (!BeginsWithString(list))
+    if (!BeginsWithString(list)) {
         return std::nullopt;
+    }
     ItemArguments arguments{list->value.string};
     const sds_resbuf* second = list->next;
-    if (second == nullptr)
+    if (second == nullptr) {
         return arguments;
-    if (second->type == RTREAL)
+    }
+    if (second->type == RTREAL) {
         arguments.scale = second->value.real;
+    }
     // The third is looked at whatever the second was.
     const sds_resbuf* third = second->next;
-    if (third != nullptr && third->type == RTSHORT)
+    if (third != nullptr && third->type == RTSHORT) {
         arguments.mode = third->value.integer;
+    }
     return arguments;
 }
 
 int RunItemDialog() {
     const std::optional<ItemArguments> arguments = ReadItemArguments(sds_getargs());
-    if (!arguments)
+    if (!arguments) {
         return 0;
+    }
     return RunFramed([&](CWnd* parent) {
         CTavrinWndDlg dialog(parent);
         dialog.SetArguments(arguments->baseName, arguments->scale, arguments->mode);
@@ -87,8 +95,9 @@ int RunItemDialog() {
 
 int RunChoiceDialog() {
     const sds_resbuf* const list = sds_getargs();
-    if (list == nullptr)
+    if (list == nullptr) {
         return 0;
+    }
     return RunFramed([&](CWnd* parent) {
         CTavrinSelMaskDlg dialog(parent);
         TakeChoiceArguments(list, dialog);
@@ -104,18 +113,20 @@ int RunChoiceDialog() {
                                              ? sds_buildlist(RTSHORT, dialog.GetResult(), RTSTR,
                                                              dialog.GetSelectedName().GetString(), RTNONE)
                                              : nullptr;
-        if (result != nullptr)
+        if (result != nullptr) {
             sds_retlist(result);
-        else
+        } else {
             sds_retnil();
+        }
         return 0;
     });
 }
 
 int RunPreviewDialog() {
     const sds_resbuf* const list = sds_getargs();
-    if (!BeginsWithString(list))
+    if (!BeginsWithString(list)) {
         return 0;
+    }
     return RunFramed([&](CWnd* parent) {
         CTavrinPreviewDlg dialog(parent);
         dialog.SetName(list->value.string);

@@ -39,14 +39,18 @@ int Load() {
 // lacks a function.
 extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*packet*/) {
     try {
-        if (request > SDS_LAST_REQUEST)
+        if (request > SDS_LAST_REQUEST) {
             return requestRefused;
-        if (request == SDS_LOAD)
+        }
+        if (request == SDS_LOAD) {
             return Load();
-        if (request == SDS_UNLOAD && hostIsBound)
+        }
+        if (request == SDS_UNLOAD && hostIsBound) {
             UnregisterCommands();
-        if (request == SDS_INVOKE && hostIsBound)
+        }
+        if (request == SDS_INVOKE && hostIsBound) {
             InvokeCommand();
+        }
     } catch (...) {
         // An exception of this compiler's means nothing to the host.
     }

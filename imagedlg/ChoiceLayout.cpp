@@ -85,8 +85,9 @@ int GetCellContent(unsigned count, int cell) {
 }
 
 bool IsChoiceCellSelectable(unsigned count, int cell) {
-    if (!IsCell(cell))
+    if (!IsCell(cell)) {
         return false;
+    }
     switch (count) {
         case 1:
         case 2:
@@ -102,8 +103,9 @@ bool IsChoiceCellSelectable(unsigned count, int cell) {
 
 int GetChoiceOfCell(unsigned count, int cell, int previous) {
     // A quirk that is kept: with a count that the dialog does not show, each selection steps back by one.
-    if (count == 0 || count > MAX_CHOICES)
+    if (count == 0 || count > MAX_CHOICES) {
         return previous - 1;
+    }
     const int content = GetCellContent(count, cell);
     // A cell of the top row that shows nothing stands for the choice that it would show.
     return content >= 0 ? content : cell - 1;

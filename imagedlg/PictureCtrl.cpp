@@ -92,8 +92,9 @@ bool CPictureCtrl::ReadFileIntoStream(const CString& path) {
 }
 
 void CPictureCtrl::ReleaseImageStream() {
-    if (m_pStream == nullptr)
+    if (m_pStream == nullptr) {
         return;
+    }
     // Down to zero on purpose: the bytes go even if something else still counts a reference.
     while (m_pStream->Release() != 0) {
     }
@@ -101,13 +102,15 @@ void CPictureCtrl::ReleaseImageStream() {
 }
 
 void CPictureCtrl::DrawItem(LPDRAWITEMSTRUCT drawItem) {
-    if (m_bLoaded)
+    if (m_bLoaded) {
         Draw(drawItem->hDC);
+    }
 }
 
 BOOL CPictureCtrl::OnEraseBkgnd(CDC* pDC) {
-    if (!m_bLoaded)
+    if (!m_bLoaded) {
         return static_cast<BOOL>(Default());
+    }
     Draw(pDC == nullptr ? nullptr : pDC->GetSafeHdc());
     return TRUE;
 }

@@ -16,8 +16,9 @@ END_MESSAGE_MAP()
 
 BOOL CTavrinPreviewDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    if (const auto path = FindFile(std::wstring(m_strName) + L".png"))
+    if (const auto path = FindFile(std::wstring(m_strName) + L".png")) {
         m_picture.LoadFromFile(path->c_str());
+    }
     // In the corner of the screen on purpose, so that the drawing behind stays in sight.
     SetWindowPos(&wndTop, 100, 5, 0, 0, SWP_NOSIZE);
     return TRUE;

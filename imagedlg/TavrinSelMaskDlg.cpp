@@ -45,8 +45,9 @@ CTavrinSelMaskDlg::CTavrinSelMaskDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
 void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
         DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, PictureOf(cell));
+    }
     DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
 }
 
@@ -64,8 +65,9 @@ BOOL CTavrinSelMaskDlg::OnInitDialog() {
     m_brush.CreateSolidBrush(white);
     CDialog::OnInitDialog();
     // There is no paging: what does not fit is not offered at all.
-    if (m_nCount == 0 || m_nCount > MAX_CHOICES)
+    if (m_nCount == 0 || m_nCount > MAX_CHOICES) {
         OnCancel();
+    }
     ArrangeForCount();
     m_btnReplace.SetWindowText(m_strReplaceText);
     return TRUE;
@@ -107,8 +109,9 @@ void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
 }
 
 bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
-    if (!FindSlide(name, FLAT_SLIDE_ENDING) && (!FindSlide(name, SPACE_SLIDE_ENDING) || m_nSkip3D != 0))
+    if (!FindSlide(name, FLAT_SLIDE_ENDING) && (!FindSlide(name, SPACE_SLIDE_ENDING) || m_nSkip3D != 0)) {
         return false;
+    }
     m_choices[static_cast<int>(m_nCount)] = name;
     ++m_nCount;
     return true;
@@ -126,12 +129,14 @@ CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
     if (!name.IsEmpty()) {
         // Whether slides in space count was settled when the name became a choice.
         for (const wchar_t* ending : {FLAT_SLIDE_ENDING, SPACE_SLIDE_ENDING}) {
-            if (const auto path = FindSlide(name, ending))
+            if (const auto path = FindSlide(name, ending)) {
                 return path->c_str();
+            }
         }
     }
-    if (const auto path = FindFile(L"empty.png"))
+    if (const auto path = FindFile(L"empty.png")) {
         return path->c_str();
+    }
     // Without an owner while the dialog has no window yet.
     ::MessageBox(m_hWnd, L"Missing slide file! Unable to load correctly!", L"Error!", MB_OK);
     return {};
@@ -143,29 +148,33 @@ CString CTavrinSelMaskDlg::GetLogoPath() {
 }
 
 void CTavrinSelMaskDlg::SelectCell(int cell) {
-    if (!IsCellSelectable(cell))
+    if (!IsCellSelectable(cell)) {
         return;
+    }
     m_nSelChoice = GetChoiceOfCell(m_nCount, cell, m_nSelChoice);
     m_nSelCell = cell - 1;
     PaintFrames();
 }
 
 void CTavrinSelMaskDlg::ActivateCell(int cell) {
-    if (!IsCellSelectable(cell))
+    if (!IsCellSelectable(cell)) {
         return;
+    }
     SelectCell(cell);
     EndWith(RESULT_CHOSEN);
 }
 
 void CTavrinSelMaskDlg::EnableItem(UINT id, BOOL enable) {
-    if (CWnd* const item = GetDlgItem(static_cast<int>(id)))
+    if (CWnd* const item = GetDlgItem(static_cast<int>(id))) {
         item->EnableWindow(enable);
+    }
 }
 
 CString CTavrinSelMaskDlg::GetCellPath(int cell) {
     const int content = GetCellContent(m_nCount, cell);
-    if (content == CELL_EMPTY)
+    if (content == CELL_EMPTY) {
         return {};
+    }
     return content == CELL_LOGO ? GetLogoPath() : GetSlidePath(m_choices[content]);
 }
 
@@ -177,8 +186,9 @@ CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
 
 void CTavrinSelMaskDlg::LoadSlides() {
     // An empty path cannot be loaded, and a load that fails leaves the cell empty.
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
         PictureOf(cell).LoadFromFile(GetCellPath(cell));
+    }
     SelectCell(1);
 }
 
@@ -191,12 +201,14 @@ void CTavrinSelMaskDlg::ArrangeForCount() {
         MoveWindow(0, 0, arrangement->width, arrangement->height);
         MoveButton(ok, arrangement->ok);
         MoveButton(cancel, arrangement->cancel);
-        if (arrangement->replace)
+        if (arrangement->replace) {
             MoveButton(m_btnReplace, *arrangement->replace);
+        }
         // With one row the buttons stand where empty cells of the other row are, which would take their
         // clicks: the buttons must lie above.
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
             PictureOf(cell).SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        }
     }
     CenterWindow();
 }
@@ -206,19 +218,22 @@ bool CTavrinSelMaskDlg::IsCellSelectable(int cell) {
 }
 
 void CTavrinSelMaskDlg::PaintFrames() {
-    if (m_hWnd == nullptr)
+    if (m_hWnd == nullptr) {
         return;
+    }
     // On the dialog's surface: what a control's own device context reaches outside the control differs
     // from system to system.
     CClientDC dc(this);
     // With one or two choices there are frames in the bottom row too, where the buttons now stand.
     for (CWnd* const button : {GetDlgItem(IDOK), GetDlgItem(IDCANCEL), GetDlgItem(IDC_CHOICE_REPLACE)}) {
-        if (button->IsWindowVisible())
+        if (button->IsWindowVisible()) {
             dc.ExcludeClipRect(AreaOf(*button));
+        }
     }
     for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
-        if (HasChoiceFrame(m_nCount, cell))
+        if (HasChoiceFrame(m_nCount, cell)) {
             PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_nSelCell ? black : white);
+        }
     }
 }
 

@@ -77,8 +77,9 @@ BOOL CTavrinWndDlg::Initialize() {
 }
 
 HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {
-    if (pWnd->GetDlgCtrlID() != IDC_ITEM_HEADER)
+    if (pWnd->GetDlgCtrlID() != IDC_ITEM_HEADER) {
         return m_backBrush;
+    }
     pDC->SetBkColor(headerColor);
     return m_headerBrush;
 }
@@ -107,8 +108,9 @@ bool CTavrinWndDlg::ArgumentsAreUsable() {
 
 // An item without a picture is in order.
 void CTavrinWndDlg::ShowPicture() {
-    if (const std::optional<std::wstring> picture = FindFile(FileName(kPictureEnding)))
+    if (const std::optional<std::wstring> picture = FindFile(FileName(kPictureEnding))) {
         m_picture.LoadFromFile(picture->c_str());
+    }
 }
 
 void CTavrinWndDlg::LoadTemplate() {
@@ -131,10 +133,12 @@ void CTavrinWndDlg::LoadTemplate() {
         m_header.SetWindowText(item.header.c_str());
         SetWindowText(item.title->c_str());
     }
-    for (const ItemParameter& parameter : item.parameters)
+    for (const ItemParameter& parameter : item.parameters) {
         AddParameter(section, parameter);
-    if (!readWhole)
+    }
+    if (!readWhole) {
         ShowError(unableToOpen, systemCaption);
+    }
 }
 
 // Keeps the record of a parameter and adds its row. A record without row keeps the value that was read.
@@ -144,10 +148,11 @@ void CTavrinWndDlg::AddParameter(UINT section, const ItemParameter& parameter) {
         m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
         record.customItem = m_distanceItems.back().get();
     }
-    if (parameter.row == PR_SHOWN)
+    if (parameter.row == PR_SHOWN) {
         record.itemId = AddRow(section, record, parameter.editable);
-    else if (parameter.row == PR_INVALID_TYPE)
+    } else if (parameter.row == PR_INVALID_TYPE) {
         ShowError(kInvalidTypeMessage, L"Warning!");
+    }
 }
 
 UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editable) {
@@ -164,12 +169,13 @@ UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editabl
 // The text of a parameter's value as its row holds it now; what it was created with when the row gives none.
 std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
     ParamRecord current = record;
-    if (record.type == 'D')
+    if (record.type == 'D') {
         current.realValue = static_cast<const CDistanceItem*>(record.customItem)->GetDistance();
-    else if (record.type == 'I')
+    } else if (record.type == 'I') {
         m_grid.GetItemValue(record.itemId, current.intValue);
-    else
+    } else {
         m_grid.GetItemValue(record.itemId, current.realValue);
+    }
     return ValueText(current, m_scale);
 }
 
@@ -194,8 +200,9 @@ void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {
             ShowError(kFileNotFoundMessage, errorCaption);
             return;
         }
-        if (!ReadTextFile(*source, lines))
+        if (!ReadTextFile(*source, lines)) {
             ShowError(unableToOpen, systemCaption);
+        }
         rewrite(lines, m_params, [this](const ParamRecord& record) { return CurrentValueText(record); });
         failure = unableToWrite;
         const std::optional<std::wstring> target = FindFile(name);
@@ -203,8 +210,9 @@ void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {
             ShowError(kFileNotFoundMessage, errorCaption);
             return;
         }
-        if (!WriteTextFile(*target, lines))
+        if (!WriteTextFile(*target, lines)) {
             ShowError(unableToWrite, systemCaption);
+        }
     } catch (const std::bad_alloc&) {
         ShowError(failure, systemCaption);
     }

@@ -23,8 +23,9 @@ bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines) {
     try {
         CStdioFile file(path.c_str(), CFile::modeRead | CFile::typeText);
         CString line;
-        while (file.ReadString(line))
+        while (file.ReadString(line)) {
             lines.emplace_back(line.GetString(), static_cast<size_t>(line.GetLength()));
+        }
         file.Close();
         return true;
     } catch (CFileException* exception) {
@@ -36,8 +37,9 @@ bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines) {
 bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& lines) {
     try {
         CStdioFile file(path.c_str(), CFile::modeCreate | CFile::modeWrite | CFile::typeText);
-        for (const std::wstring& line : lines)
+        for (const std::wstring& line : lines) {
             WriteLine(file, line);
+        }
         file.Close();
         return true;
     } catch (CFileException* exception) {

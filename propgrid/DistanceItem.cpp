@@ -101,8 +101,9 @@ void CDistanceItem::ShowDropDown(CRect /*rect*/) {}
 bool CDistanceItem::OnButtonClicked() {
     const CDrawingAccess access(m_dialog);
     double distance = 0.0;
-    if (!PickDistance(distance))
+    if (!PickDistance(distance)) {
         return false;
+    }
     m_value = distance;
     return true;
 }

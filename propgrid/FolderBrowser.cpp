@@ -10,8 +10,9 @@ class COleScope {
 public:
     COleScope() : m_started(SUCCEEDED(::OleInitialize(nullptr))) {}
     ~COleScope() {
-        if (m_started)
+        if (m_started) {
             ::OleUninitialize();
+        }
     }
     COleScope(const COleScope&) = delete;
     COleScope& operator=(const COleScope&) = delete;
@@ -42,16 +43,18 @@ int CALLBACK OnBrowserEvent(HWND browser, UINT event, LPARAM parameter, LPARAM d
         ::SendMessage(browser, BFFM_SETSELECTION, TRUE, path);
     } else if (event == BFFM_SELCHANGED && !first.hasSelectionCome) {
         first.hasSelectionCome = true;
-        if (!IsFolder(parameter, first.path))
+        if (!IsFolder(parameter, first.path)) {
             ::PostMessage(browser, BFFM_SETSELECTION, TRUE, path);
+        }
     }
     return 0;
 }
 
 void FreeItemList(LPITEMIDLIST list) {
     IMalloc* allocator = nullptr;
-    if (FAILED(::SHGetMalloc(&allocator)))
+    if (FAILED(::SHGetMalloc(&allocator))) {
         return;
+    }
     allocator->Free(list);
     allocator->Release();
 }
@@ -75,8 +78,9 @@ bool BrowseForFolder(std::wstring& path, HWND owner) {
     CFirstFolder first{path};
     browse.lParam = reinterpret_cast<LPARAM>(&first);
     const LPITEMIDLIST chosen = ::SHBrowseForFolder(&browse);
-    if (chosen == nullptr)
+    if (chosen == nullptr) {
         return false;
+    }
     wchar_t chosenPath[MAX_PATH] = {};
     const bool hasPath = ::SHGetPathFromIDList(chosen, chosenPath);
     FreeItemList(chosen);

@@ -12,12 +12,14 @@
 class CSelectedObject {
 public:
     CSelectedObject(CDC& dc, const CGdiObject& object) : m_dc(dc.GetSafeHdc()) {
-        if (object.GetSafeHandle() != nullptr)
+        if (object.GetSafeHandle() != nullptr) {
             m_previous = ::SelectObject(m_dc, object.GetSafeHandle());
+        }
     }
     ~CSelectedObject() {
-        if (m_previous != nullptr)
+        if (m_previous != nullptr) {
             ::SelectObject(m_dc, m_previous);
+        }
     }
     CSelectedObject(const CSelectedObject&) = delete;
     CSelectedObject& operator=(const CSelectedObject&) = delete;
@@ -32,8 +34,9 @@ class CSavedDcState {
 public:
     explicit CSavedDcState(CDC& dc) : m_dc(dc), m_state(dc.SaveDC()) {}
     ~CSavedDcState() {
-        if (m_state != 0)
+        if (m_state != 0) {
             m_dc.RestoreDC(m_state);
+        }
     }
     CSavedDcState(const CSavedDcState&) = delete;
     CSavedDcState& operator=(const CSavedDcState&) = delete;

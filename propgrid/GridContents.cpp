@@ -10,8 +10,9 @@ UINT CGridContents::AddSection(const std::wstring& name, bool collapsed, UINT be
     section.collapsed = collapsed;
     // An unknown id deliberately means the end: the usual call passes NO_ID.
     auto place = m_sectionOrder.end();
-    if (before < section.id)
+    if (before < section.id) {
         place = std::find(m_sectionOrder.begin(), m_sectionOrder.end(), m_sections[before].get());
+    }
     m_sectionOrder.insert(place, &section);
     m_sorted = false;
     return section.id;
@@ -20,8 +21,9 @@ UINT CGridContents::AddSection(const std::wstring& name, bool collapsed, UINT be
 UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& name, CGridValue value,
                             bool editable, bool undefined) {
     CGridSection* section = FindSection(sectionId);
-    if (section == nullptr)
+    if (section == nullptr) {
         return NO_ID;
+    }
     CGridItem& item = *m_items.emplace_back(std::make_unique<CGridItem>());
     item.id = static_cast<UINT>(m_items.size() - 1);
     item.kind = kind;
@@ -37,8 +39,9 @@ UINT CGridContents::AddItem(UINT sectionId, EItemType kind, const std::wstring& 
     item.row = static_cast<unsigned>(section->items.size());
     section->items.push_back(&item);
     m_sorted = false;
-    if (!section->collapsed)
+    if (!section->collapsed) {
         ++m_expandedItems;
+    }
     // Last of all: a custom item that is asked to accept its value may do anything to the grid.
     const UINT id = item.id;
     item.TakeSavedCopy();
@@ -72,13 +75,15 @@ CGridItem* CGridContents::FindItem(UINT id) {
 }
 
 void CGridContents::SetCollapsed(CGridSection& section, bool collapsed) {
-    if (section.collapsed == collapsed)
+    if (section.collapsed == collapsed) {
         return;
+    }
     section.collapsed = collapsed;
-    if (collapsed)
+    if (collapsed) {
         m_expandedItems -= section.items.size();
-    else
+    } else {
         m_expandedItems += section.items.size();
+    }
 }
 
 const std::vector<CGridItem*>& CGridContents::Walk(const CGridSection& section) const {
@@ -97,13 +102,15 @@ std::vector<CGridItem*> CGridContents::WalkAll() const {
 }
 
 const std::vector<CGridItem*>& CGridContents::GetSorted() {
-    if (m_sorted)
+    if (m_sorted) {
         return m_sortedItems;
+    }
     m_sortedItems = WalkAll();
     std::stable_sort(m_sortedItems.begin(), m_sortedItems.end(),
                      [](const CGridItem* a, const CGridItem* b) { return a->name < b->name; });
-    for (unsigned row = 0; CGridItem* const item : m_sortedItems)
+    for (unsigned row = 0; CGridItem* const item : m_sortedItems) {
         item->sortedRow = row++;
+    }
     m_sorted = true;
     return m_sortedItems;
 }

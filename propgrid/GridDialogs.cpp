@@ -29,8 +29,9 @@ void AddControl(CDynDialogEx& dialog, LPCTSTR className, const std::wstring& cap
 
 // As the calendar of the place has it; what cannot be one in local time has no parts.
 CTime LocalTime(const COleDateTime& date) {
-    if (date.GetStatus() != COleDateTime::valid)
+    if (date.GetStatus() != COleDateTime::valid) {
         return CTime(-1);
+    }
     return CTime(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(), date.GetMinute(),
                  date.GetSecond(), -1);
 }
@@ -45,8 +46,9 @@ bool AskForText(const CGridDialogLook& look, std::wstring& text) {
     AddControl(dialog, L"BUTTON", look.texts.ok, buttonStyle, CRect(56, 106, 106, 120), nullptr, IDOK);
     AddControl(dialog, L"BUTTON", look.texts.cancel, buttonStyle, CRect(110, 106, 160, 120), nullptr,
                IDCANCEL);
-    if (dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK) {
         return false;
+    }
     text = edited.GetString();
     return true;
 }
@@ -62,8 +64,9 @@ bool AskForDateTime(const CGridDialogLook& look, COleDateTime& date) {
     AddControl(dialog, DATETIMEPICK_CLASS, L"", timeStyle, CRect(67, 13, 120, 26), &time);
     AddControl(dialog, L"BUTTON", look.texts.ok, buttonStyle, CRect(7, 37, 60, 51), nullptr, IDOK);
     AddControl(dialog, L"BUTTON", look.texts.cancel, buttonStyle, CRect(67, 37, 120, 51), nullptr, IDCANCEL);
-    if (dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK) {
         return false;
+    }
     // Parts of a date or a time that is none are -1 each, which no date has.
     date.SetDateTime(day.GetYear(), day.GetMonth(), day.GetDay(), time.GetHour(), time.GetMinute(),
                      time.GetSecond());
@@ -75,26 +78,30 @@ bool AskForFile(CWnd* parent, const std::wstring& filter, std::wstring& path) {
     const std::wstring initial = path.size() < MAX_PATH ? path : std::wstring();
     CFileDialog dialog(TRUE, nullptr, initial.c_str(), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                        filter.empty() ? nullptr : filter.c_str(), parent, 0, TRUE);
-    if (dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK) {
         return false;
+    }
     path = dialog.GetPathName().GetString();
     return true;
 }
 
 bool AskForFolder(CWnd* parent, const std::wstring* title, std::wstring& path) {
-    if (title != nullptr)
+    if (title != nullptr) {
         FolderBrowseTitle() = *title;
+    }
     std::wstring chosen = path;
-    if (!BrowseForFolder(chosen, parent != nullptr ? parent->GetSafeHwnd() : nullptr) || chosen.empty())
+    if (!BrowseForFolder(chosen, parent != nullptr ? parent->GetSafeHwnd() : nullptr) || chosen.empty()) {
         return false;
+    }
     path = chosen;
     return true;
 }
 
 bool AskForColor(CWnd* parent, COLORREF& color) {
     CColorDialog dialog(color, 0, parent);
-    if (dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK) {
         return false;
+    }
     color = dialog.GetColor();
     return true;
 }
@@ -104,8 +111,9 @@ bool AskForFont(CWnd* parent, LOGFONTW& font) {
     // A face name that fills its field has no end.
     initial.lfFaceName[LF_FACESIZE - 1] = L'\0';
     CFontDialog dialog(&initial, CF_SCREENFONTS | CF_EFFECTS, nullptr, parent);
-    if (dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK) {
         return false;
+    }
     dialog.GetCurrentFont(&font);
     return true;
 }

@@ -67,8 +67,9 @@ const T& As(const void* source) {
 }  // namespace
 
 bool ReadGridValue(EItemType kind, const void* source, CGridValue& value) {
-    if (source == nullptr)
+    if (source == nullptr) {
         return false;
+    }
     switch (kind) {
         case IT_CUSTOM:
             value = static_cast<ICustomItem*>(const_cast<void*>(source));
@@ -120,32 +121,37 @@ CRect CGridItem::GetPaintedRow() const {
 
 CRect CGridItem::GetNameRect() const {
     CRect rect = GetPaintedRow();
-    if (section->place.Shows(rect))
+    if (section->place.Shows(rect)) {
         rect.right = section->place.gutter;
+    }
     return rect;
 }
 
 CRect CGridItem::GetValueRect() const {
     const CGridPlace& place = section->place;
     CRect rect = GetPaintedRow();
-    if (!place.Shows(rect))
+    if (!place.Shows(rect)) {
         return CRect();
+    }
     rect.left = place.gutter;
-    if (place.buttonItem == id)
+    if (place.buttonItem == id) {
         rect.right -= place.rowHeight;
+    }
     return rect;
 }
 
 void CGridItem::TakeSavedCopy() {
     savedUndefined = undefined;
     saved = value;
-    if (kind == IT_CUSTOM)
+    if (kind == IT_CUSTOM) {
         std::get<ICustomItem*>(value)->AcceptValue();
+    }
 }
 
 bool CGridItem::IsModified() const {
-    if (kind == IT_CUSTOM)
+    if (kind == IT_CUSTOM) {
         return false;
+    }
     return std::visit(
         [this](const auto& current) {
             return !SameValue(current, std::get<std::decay_t<decltype(current)>>(saved));
@@ -171,8 +177,9 @@ int CGridItem::GetEditMode() const {
 }
 
 std::wstring CGridItem::GetText(const CGridTexts& texts, int pixelsPerInch) const {
-    if (undefined)
+    if (undefined) {
         return texts.undefined;
+    }
     static const std::wstring noFormat;
     const std::wstring& format = options.empty() ? noFormat : options.front();
     switch (kind) {

@@ -17,19 +17,22 @@ std::uint32_t CodeOf(const CGridItem& item) {
 }  // namespace
 
 bool CItemNames::AddLast(const ItemList& items) {
-    if (2 * (m_count + 1) > m_places.size())
+    if (2 * (m_count + 1) > m_places.size()) {
         Grow();
+    }
     const CGridItem& item = *items.back();
     const std::uint32_t code = CodeOf(item);
     const std::size_t last = m_places.size() - 1;
     std::size_t place = code & last;
     for (; m_places[place].id != FREE; place = (place + 1) & last) {
-        if (m_places[place].code != code)
+        if (m_places[place].code != code) {
             continue;
+        }
         ++m_comparisons;
         const CGridItem& other = *items[m_places[place].id];
-        if (other.section == item.section && other.name == item.name)
+        if (other.section == item.section && other.name == item.name) {
             return false;
+        }
     }
     m_places[place] = {code, item.id};
     ++m_count;
@@ -47,11 +50,13 @@ void CItemNames::Grow() {
     places.swap(m_places);
     const std::size_t last = m_places.size() - 1;
     for (const Place& old : places) {
-        if (old.id == FREE)
+        if (old.id == FREE) {
             continue;
+        }
         std::size_t place = old.code & last;
-        while (m_places[place].id != FREE)
+        while (m_places[place].id != FREE) {
             place = (place + 1) & last;
+        }
         m_places[place] = old;
     }
 }

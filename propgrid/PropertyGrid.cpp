@@ -31,8 +31,9 @@ CPropertyGrid::CPropertyGrid() = default;
 
 // The window goes while the grid is still whole; the base would destroy it after the members are gone.
 CPropertyGrid::~CPropertyGrid() {
-    if (GetSafeHwnd() != nullptr)
+    if (GetSafeHwnd() != nullptr) {
         DestroyWindow();
+    }
 }
 
 BOOL CPropertyGrid::PreCreateWindow(CREATESTRUCT& create) {
@@ -43,22 +44,25 @@ BOOL CPropertyGrid::PreCreateWindow(CREATESTRUCT& create) {
 // Runs for a window that is being created too, before it has a size; that one is initialised when its
 // WM_CREATE comes.
 void CPropertyGrid::PreSubclassWindow() {
-    if (!m_creating)
+    if (!m_creating) {
         Initialize();
+    }
     m_creating = false;
     CWnd::PreSubclassWindow();
 }
 
 LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY)
+    if (message == WM_DESTROY) {
         m_rowsPending = false;  // a window that goes needs no layout
+    }
     SettleLayout();
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
 int CPropertyGrid::OnCreate(LPCREATESTRUCT create) {
-    if (CWnd::OnCreate(create) == -1)
+    if (CWnd::OnCreate(create) == -1) {
         return -1;
+    }
     Initialize();
     return 0;
 }
@@ -68,8 +72,9 @@ void CPropertyGrid::OnPaint() {
     m_customItemDrew = false;
     PaintWindow(dc);
     // The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
-    if (m_customItemDrew)
+    if (m_customItemDrew) {
         ValidateRect(nullptr);
+    }
 }
 
 // Paint covers every pixel; erasing first would only flicker.
@@ -107,29 +112,34 @@ void CPropertyGrid::Initialize() {
     // tab stop; a grid in its place wants both mouse and keyboard.
     wchar_t windowClass[16] = {};
     ::GetClassName(m_hWnd, windowClass, 16);
-    if (_wcsicmp(windowClass, L"Static") == 0)
+    if (_wcsicmp(windowClass, L"Static") == 0) {
         ModifyStyle(0, SS_NOTIFY | WS_TABSTOP);
+    }
     TakeParentText(IDOK, L"OK", m_texts.ok);
     TakeParentText(IDCANCEL, L"Cancel", m_texts.cancel);
     // Rows that were added before there was a window to lay them out in.
-    if (m_contents.GetRowCount(IsCategorized()) > 0)
+    if (m_contents.GetRowCount(IsCategorized()) > 0) {
         Relayout();
+    }
 }
 
 // The parent's font as it is now, or Tahoma. The grid makes fonts of its own from it, so that it does
 // not depend on how long the parent keeps its font.
 void CPropertyGrid::CreateFonts() {
-    if (m_font.GetSafeHandle() != nullptr)
+    if (m_font.GetSafeHandle() != nullptr) {
         return;
+    }
     LOGFONT description = {};
     CWnd* const parent = GetParent();
     CFont* const parentFont = parent != nullptr ? parent->GetFont() : nullptr;
-    if (parentFont != nullptr && parentFont->GetLogFont(&description) != 0)
+    if (parentFont != nullptr && parentFont->GetLogFont(&description) != 0) {
         m_font.CreateFontIndirect(&description);
+    }
     if (m_font.GetSafeHandle() == nullptr) {
         m_font.CreatePointFont(85, L"Tahoma");
-        if (m_font.GetLogFont(&description) == 0)
+        if (m_font.GetLogFont(&description) == 0) {
             return;
+        }
     }
     description.lfWeight = FW_BOLD;
     m_boldFont.CreateFontIndirect(&description);
@@ -137,8 +147,9 @@ void CPropertyGrid::CreateFonts() {
 
 // Fills a text that is still empty with the caption of one of the parent's controls.
 void CPropertyGrid::TakeParentText(int controlId, const wchar_t* otherwise, std::wstring& text) const {
-    if (!text.empty())
+    if (!text.empty()) {
         return;
+    }
     text = otherwise;
     const CWnd* const parent = GetParent();
     const CWnd* const control = parent != nullptr ? parent->GetDlgItem(controlId) : nullptr;
@@ -150,8 +161,9 @@ void CPropertyGrid::TakeParentText(int controlId, const wchar_t* otherwise, std:
 }
 
 void CPropertyGrid::NotifyChanged(UINT item) {
-    if (CWnd* const owner = GetOwner())
+    if (CWnd* const owner = GetOwner()) {
         owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
+    }
 }
 
 // The owner may do anything while it hears of the change: remove the rows, or the grid.
@@ -161,6 +173,7 @@ void CPropertyGrid::ReportChange(UINT item) {
 }
 
 void CPropertyGrid::Repaint() {
-    if (GetSafeHwnd() != nullptr)
+    if (GetSafeHwnd() != nullptr) {
         Invalidate();
+    }
 }

@@ -39,8 +39,9 @@ BOOL CPropertyGridCombo::Create(DWORD style, const RECT& rect, CPropertyGrid* gr
     grid->ClientToScreen(&place);
     // With the grid's WS_CHILD it is deliberately a child and a pop-up at the same time.
     if (!CreateEx(0, AfxRegisterWndClass(CS_VREDRAW | CS_HREDRAW), nullptr, style | WS_POPUP, place,
-                  grid->GetParent(), id))
+                  grid->GetParent(), id)) {
         return FALSE;
+    }
     SetOwner(grid);
     return TRUE;
 }
@@ -65,8 +66,9 @@ const CFont& CPropertyGridCombo::FindFont(const CFont& none) const {
 
 void CPropertyGridCombo::OnShowWindow(BOOL show, UINT status) {
     CWnd::OnShowWindow(show, status);
-    if (!show)
+    if (!show) {
         return;
+    }
     FitHeight();
     SetFocus();
 }
@@ -105,8 +107,9 @@ void CPropertyGridCombo::OnPaint() {
 
     CRect row(border, border, client.right - border, border + m_rowHeight);
     for (int index = 0; index <= GetLast(); ++index) {
-        if (dc.RectVisible(&row))
+        if (dc.RectVisible(&row)) {
             PaintRow(dc, row, index);
+        }
         row.OffsetRect(0, m_rowHeight);
     }
 }
@@ -144,8 +147,9 @@ void CPropertyGridCombo::OnLButtonDown(UINT /*flags*/, CPoint point) {
 }
 
 void CPropertyGridCombo::OnMouseMove(UINT /*flags*/, CPoint point) {
-    if (m_tracking)
+    if (m_tracking) {
         SelectAt(point);
+    }
 }
 
 // The index is deliberately sent as it is, inside the list or not, and also when the button was pressed
@@ -193,6 +197,7 @@ UINT CPropertyGridCombo::OnGetDlgCode() {
 
 void CPropertyGridCombo::ReportChoice() {
     const auto index = static_cast<WPARAM>(static_cast<INT_PTR>(m_selection));
-    if (const CWnd* const grid = GetOwner())
+    if (const CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_CHOICE_MADE, index);
+    }
 }

@@ -24,12 +24,14 @@ std::wstring TextToEdit(const CGridItem& item) {
         case IT_STRING:
             return std::get<std::wstring>(item.value);
         case IT_INTEGER:
-            if (!item.undefined)
+            if (!item.undefined) {
                 text.Format(L"%d", std::get<int>(item.value));
+            }
             break;
         case IT_DOUBLE:
-            if (!item.undefined)
+            if (!item.undefined) {
                 text.Format(L"%g", std::get<double>(item.value));
+            }
             break;
         default:
             break;
@@ -43,30 +45,34 @@ bool IsEditedAsText(EItemType kind) {
 
 // Gives a String, an Integer or a Double what was typed. False when nothing was typed for a number.
 bool StoreText(CGridItem& item, const std::wstring& text) {
-    if (item.kind != IT_STRING && text.empty())
+    if (item.kind != IT_STRING && text.empty()) {
         return false;
+    }
     // A number that was left as it stood keeps the digits that its text does not show.
     const bool isNew = item.undefined || text != TextToEdit(item);
-    if (item.kind == IT_STRING)
+    if (item.kind == IT_STRING) {
         item.value = text;
-    else if (isNew && item.kind == IT_INTEGER)
+    } else if (isNew && item.kind == IT_INTEGER) {
         item.value = ReadTypedInteger(text);
-    else if (isNew)
+    } else if (isNew) {
         item.value = ReadTypedReal(text);
+    }
     item.undefined = false;
     return true;
 }
 
 void DestroyEditor(std::unique_ptr<CWnd> editor) {
-    if (editor != nullptr && editor->GetSafeHwnd() != nullptr)
+    if (editor != nullptr && editor->GetSafeHwnd() != nullptr) {
         editor->DestroyWindow();
+    }
 }
 
 }  // namespace
 
 void CPropertyGrid::EndEditing() {
-    if (IsEditing())
+    if (IsEditing()) {
         SetFocus();
+    }
     CloseEditor();
 }
 
@@ -79,8 +85,9 @@ void CPropertyGrid::CloseEditor() {
 void CPropertyGrid::OpenEditor(CPoint point) {
     CloseEditor();
     const CGridItem* const item = FindFocusedItem();
-    if (item == nullptr || !item->editable)
+    if (item == nullptr || !item->editable) {
         return;
+    }
     CRect cell = m_editButtonRect;
     switch (item->GetEditMode()) {
         case EM_INPLACE:
@@ -119,8 +126,9 @@ void CPropertyGrid::OpenInPlaceOrModal(const CGridItem& item, CPoint point) {
 
 void CPropertyGrid::OpenInPlaceEdit(const CRect& rect, const std::wstring& text) {
     auto edit = std::make_unique<CPropertyGridInPlaceEdit>(this, rect, WS_CHILD, IN_PLACE_EDIT_ID, text);
-    if (edit->GetSafeHwnd() == nullptr)
+    if (edit->GetSafeHwnd() == nullptr) {
         return;
+    }
     edit->SetColors(m_colors.back, m_colors.text);
     edit->SetFont(&m_font);
     edit->ShowWindow(SW_SHOW);
@@ -130,18 +138,20 @@ void CPropertyGrid::OpenInPlaceEdit(const CRect& rect, const std::wstring& text)
 void CPropertyGrid::DropDown(const CGridItem& item) {
     const CRect& button = m_editButtonRect;
     const CRect under(m_gutter, button.bottom, button.right, button.bottom + popUpHeight);
-    if (item.kind == IT_CUSTOM)
+    if (item.kind == IT_CUSTOM) {
         std::get<ICustomItem*>(item.value)->ShowDropDown({m_gutter, button.top, button.right, button.bottom});
-    else if (item.kind == IT_DATE)
+    } else if (item.kind == IT_DATE) {
         OpenCalendar(item, under);
-    else
+    } else {
         OpenList(item, under);
+    }
 }
 
 void CPropertyGrid::OpenList(const CGridItem& item, const CRect& under) {
     auto list = std::make_unique<CPropertyGridCombo>();
-    if (!list->Create(WS_CHILD, under, this, 0))
+    if (!list->Create(WS_CHILD, under, this, 0)) {
         return;
+    }
     list->SetColors(m_colors.back, m_colors.text, m_colors.focus, m_colors.focusText);
     list->SetFont(&m_font);
     int selection = 0;
@@ -150,12 +160,14 @@ void CPropertyGrid::OpenList(const CGridItem& item, const CRect& under) {
         list->AddString(m_texts.falseText);
         selection = std::get<bool>(item.value) ? 0 : 1;
     } else {
-        for (const std::wstring& choice : item.options)
+        for (const std::wstring& choice : item.options) {
             list->AddString(choice);
+        }
         selection = std::get<int>(item.value);
     }
-    if (!item.undefined)
+    if (!item.undefined) {
         list->SetCurSel(selection);
+    }
     m_editor = std::move(list);
     m_editor->ShowWindow(SW_SHOW);
 }
@@ -163,8 +175,9 @@ void CPropertyGrid::OpenList(const CGridItem& item, const CRect& under) {
 void CPropertyGrid::OpenCalendar(const CGridItem& item, CRect under) {
     auto calendar = std::make_unique<CPropertyGridMonthCalCtrl>();
     ClientToScreen(&under);
-    if (!calendar->CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, under, GetParent(), 0))
+    if (!calendar->CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, under, GetParent(), 0)) {
         return;
+    }
     // A date that is none leaves today selected.
     calendar->SetCurSel(std::get<COleDateTime>(item.value));
     calendar->SetOwner(this);
@@ -180,13 +193,15 @@ void CPropertyGrid::OpenCalendar(const CGridItem& item, CRect under) {
 // shows nothing. Another kind of item deliberately leaves the list open.
 void CPropertyGrid::TakeChoice(int index) {
     CGridItem* const item = FindFocusedItem();
-    if (item == nullptr || (item->kind != IT_BOOLEAN && item->kind != IT_COMBO))
+    if (item == nullptr || (item->kind != IT_BOOLEAN && item->kind != IT_COMBO)) {
         return;
+    }
     std::unique_ptr<CWnd> list = std::move(m_editor);
-    if (item->kind == IT_BOOLEAN)
+    if (item->kind == IT_BOOLEAN) {
         item->value = index == 0;
-    else
+    } else {
         item->value = index;
+    }
     item->undefined = false;
     NotifyChanged(item->id);
     DestroyEditor(std::move(list));
@@ -196,14 +211,16 @@ void CPropertyGrid::TakeChoice(int index) {
 // The in-place edit ended. Another kind of item deliberately leaves the edit alone.
 void CPropertyGrid::TakeText(const std::wstring& text) {
     CGridItem* const item = FindFocusedItem();
-    if (item == nullptr || !IsEditedAsText(item->kind))
+    if (item == nullptr || !IsEditedAsText(item->kind)) {
         return;
+    }
     const UINT id = item->id;
     std::unique_ptr<CWnd> edit = std::move(m_editor);
     const bool changed = item->kind == IT_CUSTOM ? std::get<ICustomItem*>(item->value)->SetStringValue(text)
                                                  : StoreText(*item, text);
-    if (changed)
+    if (changed) {
         NotifyChanged(id);
+    }
     DestroyEditor(std::move(edit));
     Repaint();
 }
@@ -213,8 +230,9 @@ void CPropertyGrid::TakeDate() {
     CGridItem* const item = FindFocusedItem();
     const auto* const calendar = dynamic_cast<const CMonthCalCtrl*>(m_editor.get());
     COleDateTime date;
-    if (item == nullptr || item->kind != IT_DATE || calendar == nullptr || !calendar->GetCurSel(date))
+    if (item == nullptr || item->kind != IT_DATE || calendar == nullptr || !calendar->GetCurSel(date)) {
         return;
+    }
     std::unique_ptr<CWnd> ended = std::move(m_editor);
     item->value = date;
     item->undefined = false;

@@ -42,8 +42,9 @@ bool IsNavigationKey(UINT key) {
 CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CPropertyGrid* parent, CRect rect, DWORD style, UINT id,
                                                    std::wstring text)
     : m_initialText(std::move(text)), m_position(rect) {
-    if (!Create(style | WS_CHILD | ES_AUTOHSCROLL, rect, parent, id))
+    if (!Create(style | WS_CHILD | ES_AUTOHSCROLL, rect, parent, id)) {
         return;
+    }
     SetColors(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT));
     SendMessage(WM_SETFONT, static_cast<WPARAM>(parent->SendMessage(WM_GETFONT)), TRUE);
     // An edit takes some 30 000 typed characters unless told otherwise; values may be longer.
@@ -68,20 +69,22 @@ BOOL CPropertyGridInPlaceEdit::PreTranslateMessage(MSG* message) {
 }
 
 void CPropertyGridInPlaceEdit::OnChar(UINT character, UINT repeat, UINT flags) {
-    if (character == VK_TAB || character == VK_RETURN)
+    if (character == VK_TAB || character == VK_RETURN) {
         Leave();
-    else if (character == VK_ESCAPE)
+    } else if (character == VK_ESCAPE) {
         Cancel();
-    else
+    } else {
         CEdit::OnChar(character, repeat, flags);
+    }
 }
 
 // Plain arrow keys move the caret.
 void CPropertyGridInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (IsNavigationKey(key) && (m_exitOnNavigation || ::GetKeyState(VK_CONTROL) < 0))
+    if (IsNavigationKey(key) && (m_exitOnNavigation || ::GetKeyState(VK_CONTROL) < 0)) {
         Leave();
-    else
+    } else {
         CEdit::OnKeyDown(key, repeat, flags);
+    }
 }
 
 // The rows are what scrolls. An edit of one line would hand the wheel on by itself on Windows, but not under
@@ -109,28 +112,33 @@ HBRUSH CPropertyGridInPlaceEdit::CtlColor(CDC* dc, UINT /*kind*/) {
 
 // Ends the edit: losing the focus does.
 void CPropertyGridInPlaceEdit::Leave() {
-    if (CWnd* const parent = GetParent())
+    if (CWnd* const parent = GetParent()) {
         parent->SetFocus();
+    }
 }
 
 // Ends the edit with the text that it was opened with: a window that is destroyed loses the focus first.
 void CPropertyGridInPlaceEdit::Cancel() {
     const HWND window = m_hWnd;
-    if (!::IsWindow(window))
+    if (!::IsWindow(window)) {
         return;
+    }
     ::SetWindowText(window, m_initialText.c_str());
     ::SendMessage(window, WM_CLOSE, 0, 0);
 }
 
 void CPropertyGridInPlaceEdit::End() {
-    if (endIsRunning)
+    if (endIsRunning) {
         return;
+    }
     const CRunningEnd running;
     const HWND window = m_hWnd;
     CString text;
     GetWindowText(text);
-    if (const CWnd* const grid = GetOwner())
+    if (const CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(text.GetString()));
-    if (::IsWindow(window))
+    }
+    if (::IsWindow(window)) {
         ::SendMessage(window, WM_CLOSE, 0, 0);
+    }
 }

@@ -10,8 +10,9 @@ void CPropertyGrid::OnDestroy() {
 }
 
 void CPropertyGrid::OnLButtonDown(UINT flags, CPoint point) {
-    if (!Press(point))
+    if (!Press(point)) {
         CWnd::OnLButtonDown(flags, point);
+    }
 }
 
 void CPropertyGrid::OnMouseMove(UINT /*flags*/, CPoint point) {
@@ -27,8 +28,9 @@ void CPropertyGrid::OnLButtonDblClk(UINT /*flags*/, CPoint /*point*/) {
 }
 
 void CPropertyGrid::OnCaptureChanged(CWnd* window) {
-    if (window != this)
+    if (window != this) {
         LetMouseGo();
+    }
     CWnd::OnCaptureChanged(window);
 }
 
@@ -38,18 +40,21 @@ BOOL CPropertyGrid::OnMouseWheel(UINT flags, short delta, CPoint point) {
 }
 
 void CPropertyGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
-    if (ScrollByBar(code, position, bar))
+    if (ScrollByBar(code, position, bar)) {
         CWnd::OnVScroll(code, position, bar);
+    }
 }
 
 void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (!PressKey(key))
+    if (!PressKey(key)) {
         CWnd::OnKeyDown(key, repeat, flags);
+    }
 }
 
 void CPropertyGrid::OnChar(UINT character, UINT repeat, UINT flags) {
-    if (!TypeCharacter(character))
+    if (!TypeCharacter(character)) {
         CWnd::OnChar(character, repeat, flags);
+    }
 }
 
 // In a dialog the arrow keys and the characters come to the grid; Tab leaves it, Enter and Escape are the

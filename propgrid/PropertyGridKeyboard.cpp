@@ -13,12 +13,14 @@ bool CPropertyGrid::PressKey(UINT key) {
             FocusPreviousRow();
             return true;
         case VK_LEFT:
-            if (!CollapseFocusedSection(true))
+            if (!CollapseFocusedSection(true)) {
                 FocusPreviousRow();
+            }
             return true;
         case VK_RIGHT:
-            if (!CollapseFocusedSection(false))
+            if (!CollapseFocusedSection(false)) {
                 FocusNextRow();
+            }
             return true;
         default:
             return false;
@@ -48,18 +50,21 @@ bool CPropertyGrid::TypeCharacter(UINT character) {
 // False when no section is focused or it is collapsed, or expanded, already.
 bool CPropertyGrid::CollapseFocusedSection(bool collapse) {
     CGridSection* const section = m_contents.FindSection(m_focusedSection);
-    if (section == nullptr || section->collapsed == collapse)
+    if (section == nullptr || section->collapsed == collapse) {
         return false;
+    }
     m_contents.SetCollapsed(*section, collapse);
     Relayout();
     return true;
 }
 
 void CPropertyGrid::CollapseAllSections(bool collapse) {
-    for (CGridSection* const section : m_contents.GetSections())
+    for (CGridSection* const section : m_contents.GetSections()) {
         m_contents.SetCollapsed(*section, collapse);
-    if (!m_contents.GetSections().empty())
+    }
+    if (!m_contents.GetSections().empty()) {
         Relayout();
+    }
 }
 
 // The rows that the focus moves along, in order, and among them the focused one whether it may have the
@@ -67,13 +72,16 @@ void CPropertyGrid::CollapseAllSections(bool collapse) {
 std::vector<CPropertyGrid::CRow> CPropertyGrid::ListFocusRows() const {
     std::vector<CRow> rows;
     for (const CGridSection* const section : m_contents.GetSections()) {
-        if (IsCategorized())
+        if (IsCategorized()) {
             rows.push_back({.section = section->id});
-        if (IsCategorized() && section->collapsed)
+        }
+        if (IsCategorized() && section->collapsed) {
             continue;
+        }
         for (const CGridItem* const item : m_contents.Walk(*section)) {
-            if (CanFocus(*item) || item->id == m_focusedItem)
+            if (CanFocus(*item) || item->id == m_focusedItem) {
                 rows.push_back({.item = item->id});
+            }
         }
     }
     return rows;
@@ -82,8 +90,9 @@ std::vector<CPropertyGrid::CRow> CPropertyGrid::ListFocusRows() const {
 // Behind the last row comes the first; there the focus begins, too.
 void CPropertyGrid::FocusNextRow() {
     const std::vector<CRow> rows = ListFocusRows();
-    if (rows.empty())
+    if (rows.empty()) {
         return;
+    }
     const CRow focused{m_focusedSection, m_focusedItem};
     const auto found = std::find(rows.begin(), rows.end(), focused);
     const bool isLast = found == rows.end() || found + 1 == rows.end();
@@ -95,15 +104,17 @@ void CPropertyGrid::FocusPreviousRow() {
     const std::vector<CRow> rows = ListFocusRows();
     const CRow focused{m_focusedSection, m_focusedItem};
     const auto found = std::find(rows.begin(), rows.end(), focused);
-    if (found != rows.end())
+    if (found != rows.end()) {
         FocusRow(found == rows.begin() ? rows.back() : found[-1]);
+    }
 }
 
 // An editor has the keyboard, but keys may have been on their way to the grid when it opened. It ends with
 // the row that it belongs to: what it gives back goes to the focused one.
 void CPropertyGrid::FocusRow(const CRow& row) {
-    if (IsEditing() && !TakeFocus())
+    if (IsEditing() && !TakeFocus()) {
         return;
+    }
     m_focusedSection = row.section;
     m_focusedItem = row.item;
     Repaint();
@@ -115,12 +126,14 @@ void CPropertyGrid::FocusRow(const CRow& row) {
 void CPropertyGrid::RevealFocusedRow() {
     UpdateWindow();
     CRect rect;
-    if (const CGridSection* const section = m_contents.FindSection(m_focusedSection))
+    if (const CGridSection* const section = m_contents.FindSection(m_focusedSection)) {
         rect = section->headerRect;
-    else if (const CGridItem* const item = FindFocusedItem())
+    } else if (const CGridItem* const item = FindFocusedItem()) {
         rect = item->GetNameRect();
+    }
     CRect client;
     GetClientRect(&client);
-    if (!rect.IsRectEmpty() && (rect & client).Height() != m_rowHeight && m_scrollBarShown)
+    if (!rect.IsRectEmpty() && (rect & client).Height() != m_rowHeight && m_scrollBarShown) {
         Scroll(SB_THUMBPOSITION, rect.top);
+    }
 }

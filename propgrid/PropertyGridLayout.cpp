@@ -5,18 +5,20 @@
 
 // Runs after every change of the rows, so it must not go through them: the row count is kept ready.
 void CPropertyGrid::Relayout() {
-    if (GetSafeHwnd() == nullptr)
+    if (GetSafeHwnd() == nullptr) {
         return;
+    }
     m_rowsPending = false;
     const int position = GetScrollPosition();
     const int totalHeight = GetTotalHeight();
     CRect client;
     GetClientRect(&client);
     // Rows that fill the window exactly deliberately show the bar too.
-    if (totalHeight >= client.Height())
+    if (totalHeight >= client.Height()) {
         ShowScrolling(client, totalHeight, position);
-    else
+    } else {
         HideScrolling();
+    }
     Invalidate(TRUE);
     m_laidOut = true;
 }
@@ -25,16 +27,18 @@ void CPropertyGrid::Relayout() {
 // anything since the last layout, nobody can see what one more row changes: that waits for the next message.
 // The window waits to be painted since that layout, so there will be one.
 void CPropertyGrid::RelayoutForMoreRows() {
-    if (m_laidOut)
+    if (m_laidOut) {
         m_rowsPending = true;
-    else
+    } else {
         Relayout();
+    }
 }
 
 // Before the grid or its bar handles a message. From then on each change counts at once.
 void CPropertyGrid::SettleLayout() {
-    if (m_rowsPending)
+    if (m_rowsPending) {
         Relayout();
+    }
     m_laidOut = false;
 }
 
@@ -43,8 +47,10 @@ int CPropertyGrid::GetTotalHeight() const {
 }
 
 void CPropertyGrid::ShowScrolling(const CRect& client, int totalHeight, int position) {
-    if (!HasScrollBar() && !m_scrollBar.Create(WS_CHILD | SBS_VERT, GetScrollBarRect(), this, SCROLL_BAR_ID))
+    if (!HasScrollBar() &&
+        !m_scrollBar.Create(WS_CHILD | SBS_VERT, GetScrollBarRect(), this, SCROLL_BAR_ID)) {
         return;
+    }
     m_scrollBar.EnableWindow(TRUE);
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
@@ -72,8 +78,9 @@ void CPropertyGrid::HideScrolling() {
 // Follows the window's size. Without a bar a new size deliberately changes nothing: no bar appears
 // before the rows next change, and the divider stays where it is.
 void CPropertyGrid::PlaceScrollBar() {
-    if (!HasScrollBar())
+    if (!HasScrollBar()) {
         return;
+    }
     m_scrollBar.MoveWindow(GetScrollBarRect(), TRUE);
     Relayout();
 }

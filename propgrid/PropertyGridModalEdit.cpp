@@ -13,11 +13,13 @@ void CPropertyGrid::EditCopy(const CGridItem& item, TAsk ask) {
     const UINT id = item.id;
     const EItemType kind = item.kind;
     T value = std::get<T>(item.value);
-    if (!ask(value))
+    if (!ask(value)) {
         return;
+    }
     CGridItem* const edited = m_contents.FindItem(id);
-    if (edited == nullptr || edited->kind != kind)
+    if (edited == nullptr || edited->kind != kind) {
         return;
+    }
     edited->value = std::move(value);
     edited->undefined = false;
     ReportChange(id);
@@ -25,8 +27,9 @@ void CPropertyGrid::EditCopy(const CGridItem& item, TAsk ask) {
 
 void CPropertyGrid::EditInDialog(UINT id) {
     const CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr || !item->editable)
+    if (item == nullptr || !item->editable) {
         return;
+    }
     CWnd* const parent = GetParent();
     const CGridDialogLook look{parent, item->name, &m_font, m_texts};
     const bool hasOption = !item->options.empty();
@@ -53,8 +56,9 @@ void CPropertyGrid::EditInDialog(UINT id) {
         case IT_FONT:
             EditCopy<CGridFont>(*item, [&](CGridFont& font) {
                 LOGFONTW chosen = *font;
-                if (!AskForFont(parent, chosen))
+                if (!AskForFont(parent, chosen)) {
                     return false;
+                }
                 font = std::make_shared<const LOGFONTW>(chosen);
                 return true;
             });
@@ -70,6 +74,7 @@ void CPropertyGrid::EditInDialog(UINT id) {
 void CPropertyGrid::PressCustomButton(const CGridItem& item) {
     const UINT id = item.id;
     const bool changed = std::get<ICustomItem*>(item.value)->OnButtonClicked();
-    if (changed && m_contents.FindItem(id) != nullptr)
+    if (changed && m_contents.FindItem(id) != nullptr) {
         ReportChange(id);
+    }
 }

@@ -39,8 +39,9 @@ void CPropertyGridMonthCalCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
 // The calendar's own edit of the year may take the focus; whatever else takes it closes the calendar.
 void CPropertyGridMonthCalCtrl::OnKillFocus(CWnd* newFocus) {
     CMonthCalCtrl::OnKillFocus(newFocus);
-    if (newFocus == nullptr || newFocus->GetParent() != this)
+    if (newFocus == nullptr || newFocus->GetParent() != this) {
         DestroyWindow();
+    }
 }
 
 // Enter and Escape too, which a dialog would otherwise keep to itself.
@@ -54,6 +55,7 @@ void CPropertyGridMonthCalCtrl::OnSelect(NMHDR* /*notification*/, LRESULT* resul
 }
 
 void CPropertyGridMonthCalCtrl::ReportDate() {
-    if (const CWnd* const grid = GetOwner())
+    if (const CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_DATE_CHOSEN);
+    }
 }

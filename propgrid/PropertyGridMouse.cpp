@@ -22,8 +22,9 @@ void ShowCursor(LPCTSTR name) {
 // False when nothing is under the point and the default handling is to follow.
 bool CPropertyGrid::Press(CPoint point) {
     m_editOnRelease = false;
-    if (!TakeFocus())
+    if (!TakeFocus()) {
         return true;
+    }
     UpdateWindow();
     if (IsOnEditButton(point)) {
         m_buttonPressed = true;
@@ -64,8 +65,9 @@ bool CPropertyGrid::PressCustomItem(CPoint point) {
 bool CPropertyGrid::PressSection(CPoint point) {
     for (CGridSection* const section : m_contents.GetSections()) {
         const bool onGlyph = section->glyphRect.PtInRect(point);
-        if (!onGlyph && !section->headerRect.PtInRect(point))
+        if (!onGlyph && !section->headerRect.PtInRect(point)) {
             continue;
+        }
         m_focusedSection = section->id;
         if (onGlyph) {
             m_contents.SetCollapsed(*section, !section->collapsed);
@@ -78,12 +80,14 @@ bool CPropertyGrid::PressSection(CPoint point) {
 
 bool CPropertyGrid::PressItem(CPoint point) {
     const CGridItem* const item = FindItemAt(point);
-    if (item == nullptr)
+    if (item == nullptr) {
         return false;
+    }
     m_focusedItem = item->id;
     // A click on the name only focuses.
-    if (!item->GetValueRect().PtInRect(point))
+    if (!item->GetValueRect().PtInRect(point)) {
         return true;
+    }
     const int mode = item->GetEditMode();
     m_editOnRelease = mode == EM_INPLACE || mode == EM_DROPDOWN || mode == EM_INPLACE_BUTTON;
     m_textPartPressed = item->kind == IT_CUSTOM && mode == EM_INPLACE_BUTTON &&
@@ -94,12 +98,14 @@ bool CPropertyGrid::PressItem(CPoint point) {
 // The rectangles of a collapsed section's items are those of an earlier paint.
 CGridItem* CPropertyGrid::FindItemAt(CPoint point) {
     for (const CGridSection* const section : m_contents.GetSections()) {
-        if (IsCategorized() && section->collapsed)
+        if (IsCategorized() && section->collapsed) {
             continue;
+        }
         for (CGridItem* const item : m_contents.Walk(*section)) {
             const bool isHit = item->GetNameRect().PtInRect(point) || item->GetValueRect().PtInRect(point);
-            if (isHit && CanFocus(*item))
+            if (isHit && CanFocus(*item)) {
                 return item;
+            }
         }
     }
     return nullptr;
@@ -114,8 +120,9 @@ bool CPropertyGrid::IsOnDivider(CPoint point) const {
 bool CPropertyGrid::IsOnEditButton(CPoint point) const {
     const CGridItem* const item = m_contents.FindItem(m_focusedItem);
     if (item == nullptr || !item->editable || item->GetValueRect().IsRectEmpty() ||
-        (IsCategorized() && item->section->collapsed))
+        (IsCategorized() && item->section->collapsed)) {
         return false;
+    }
     return m_editButtonRect.PtInRect(point);
 }
 
@@ -129,11 +136,13 @@ void CPropertyGrid::HoldMouse(EMouseUse use) {
 // capture has changed; from there alone when another window takes the mouse away.
 CPropertyGrid::EMouseUse CPropertyGrid::LetMouseGo() {
     const EMouseUse use = std::exchange(m_mouseUse, MU_NONE);
-    if (use == MU_NONE)
+    if (use == MU_NONE) {
         return use;
+    }
     m_buttonPressed = false;
-    if (::GetCapture() == m_hWnd)
+    if (::GetCapture() == m_hWnd) {
         ::ReleaseCapture();
+    }
     Repaint();
     return use;
 }
@@ -151,8 +160,9 @@ void CPropertyGrid::MoveMouse(CPoint point) {
             MoveDivider(point.x);
             break;
         case MU_NONE:
-            if (!IsEditing())
+            if (!IsEditing()) {
                 ShowCursor(IsOnDivider(point) ? IDC_SIZEWE : IDC_ARROW);
+            }
     }
 }
 
@@ -174,15 +184,18 @@ void CPropertyGrid::Release(CPoint point) {
         TellCustomItem(&ICustomItem::OnLButtonUp, point);
         return;
     }
-    if (use == MU_DIVIDER)
+    if (use == MU_DIVIDER) {
         ShowCursor(IDC_ARROW);
-    if (use != MU_EDIT_BUTTON && !editOnRelease)
+    }
+    if (use != MU_EDIT_BUTTON && !editOnRelease) {
         return;
+    }
     UpdateWindow();
     const CGridItem* const item = FindFocusedItem();
     const bool onValue = editOnRelease && item != nullptr && item->GetValueRect().PtInRect(point);
-    if (onValue || IsOnEditButton(point))
+    if (onValue || IsOnEditButton(point)) {
         OpenEditor(point);
+    }
 }
 
 // Goes by the focus alone, which the first click has set. Both values deliberately change whether the item is
@@ -211,6 +224,7 @@ void CPropertyGrid::DoubleClick() {
 
 void CPropertyGrid::TellCustomItem(void (ICustomItem::*event)(CRect, CPoint), CPoint point) {
     const CGridItem* const item = FindFocusedItem();
-    if (item != nullptr && item->kind == IT_CUSTOM)
+    if (item != nullptr && item->kind == IT_CUSTOM) {
         (std::get<ICustomItem*>(item->value)->*event)(item->GetValueRect(), point);
+    }
 }

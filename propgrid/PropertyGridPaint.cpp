@@ -32,8 +32,9 @@ constexpr int overhang = 16;
 constexpr std::size_t longestDrawnText = 8192;
 
 void DrawTextIn(CDC& dc, std::wstring_view text, CRect rect, UINT format) {
-    if (text.empty() || rect.Width() <= 0 || rect.Height() <= 0)
+    if (text.empty() || rect.Width() <= 0 || rect.Height() <= 0) {
         return;
+    }
     text = text.substr(0, longestDrawnText);
     dc.DrawText(text.data(), static_cast<int>(text.size()), &rect, format);
 }
@@ -48,8 +49,9 @@ std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
     wchar_t buffer[1024] = {};
     path.copy(buffer, std::size(buffer) - 1);
     // The shell keeps the file name in a buffer of its own, for which no real name is too long.
-    if (width > 0 && wcslen(::PathFindFileName(buffer)) < MAX_PATH)
+    if (width > 0 && wcslen(::PathFindFileName(buffer)) < MAX_PATH) {
         ::PathCompactPath(dc.GetSafeHdc(), buffer, static_cast<UINT>(width));
+    }
     return buffer;
 }
 
@@ -68,8 +70,9 @@ void CPropertyGrid::PaintWindow(CDC& target) {
     CRect client;
     GetClientRect(&client);
     std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
-    if (canvas == nullptr || canvas->Size() != client.Size())
+    if (canvas == nullptr || canvas->Size() != client.Size()) {
         canvas = std::make_unique<CMemoryCanvas>(target, client.Size());
+    }
     Paint(target, *canvas);
     m_canvas = std::move(canvas);
 }
@@ -80,8 +83,9 @@ void CPropertyGrid::PaintWindow(CDC& target) {
 void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
     const CRect client(CPoint(0, 0), canvas.Size());
     CRect area = client;
-    if (m_scrollBarShown)
+    if (m_scrollBarShown) {
         area.right -= ::GetSystemMetrics(SM_CXVSCROLL);
+    }
     CPaintTools tools = {canvas.Dc(), area, client};
     {
         CDC& dc = tools.dc;
@@ -100,12 +104,13 @@ void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
             section->glyphRect.SetRectEmpty();
             section->headerRect.SetRectEmpty();
         }
-        if (m_contents.GetSections().empty())
+        if (m_contents.GetSections().empty()) {
             PaintEmptyList(tools);
-        else if (m_displayMode == DM_SORTED)
+        } else if (m_displayMode == DM_SORTED) {
             PaintSorted(tools);
-        else
+        } else {
             PaintSections(tools);
+        }
     }
     canvas.CopyTo(target, tools.picture.bottom);
     if (tools.picture.bottom < client.bottom) {
@@ -120,8 +125,9 @@ void CPropertyGrid::PaintBelowRows(CPaintTools& tools) {
     CRect below = tools.picture;
     below.top = std::exchange(tools.picture.bottom, tools.area.bottom);
     below.bottom = tools.area.bottom;
-    if (!below.IsRectEmpty())
+    if (!below.IsRectEmpty()) {
         tools.dc.FillSolidRect(&below, m_colors.back);
+    }
 }
 
 void CPropertyGrid::PaintEmptyList(CPaintTools& tools) {
@@ -143,12 +149,14 @@ void CPropertyGrid::PaintSections(CPaintTools& tools) {
         section.headerRect = row;
         CGridPlace place = PlaceRows(tools, y, section.items.size());
         if (categorized) {
-            if (place.Shows(row))
+            if (place.Shows(row)) {
                 PaintHeader(tools, row, section);
+            }
             y += m_rowHeight;
             // Its place deliberately stays as an earlier paint recorded it.
-            if (section.collapsed)
+            if (section.collapsed) {
                 continue;
+            }
             place.top = y;
         }
         section.place = place;
@@ -162,8 +170,9 @@ void CPropertyGrid::PaintSorted(CPaintTools& tools) {
     const std::vector<CGridItem*>& items = m_contents.GetSorted();
     CGridPlace place = PlaceRows(tools, -GetScrollPosition(), items.size());
     place.sorted = true;
-    for (CGridSection* const section : m_contents.GetSections())
+    for (CGridSection* const section : m_contents.GetSections()) {
         section->place = place;
+    }
     PaintRows(tools, place, items);
 }
 
@@ -184,22 +193,25 @@ void CPropertyGrid::PaintRows(CPaintTools& tools, const CGridPlace& place,
     // By index: a custom item that draws may add rows, and another paint sorts them in.
     for (unsigned index = place.GetFirstShown(); index < items.size(); ++index) {
         const CRect row = place.GetRow(index);
-        if (!place.Shows(row))
+        if (!place.Shows(row)) {
             break;
+        }
         PaintItem(tools, row, m_contents.Visit(items, index));
     }
 }
 
 void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSection& section) {
     CDC& dc = tools.dc;
-    if (m_shadeHeaders)
+    if (m_shadeHeaders) {
         dc.FillSolidRect(&row, m_colors.shade);
+    }
     if (m_drawLines) {
         DrawLine(dc, 0, row.top, row.right + 1, row.top);
         DrawLine(dc, 0, row.bottom, row.right + 1, row.bottom);
     }
-    if (m_drawDivider)
+    if (m_drawDivider) {
         DrawLine(dc, m_gutter, row.top, m_gutter, row.bottom + 1);
+    }
 
     section.glyphRect.SetRect(2, row.top + 4, 11, row.top + 13);
     section.headerRect.SetRect(14, row.top, row.right, row.bottom);
@@ -211,8 +223,9 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
         titlePen.CreatePen(PS_SOLID, 1, m_colors.title);
         const CSelectedObject pen(dc, titlePen);
         DrawLine(dc, 4, row.top + 8, 9, row.top + 8);
-        if (section.collapsed)
+        if (section.collapsed) {
             DrawLine(dc, 6, row.top + 6, 6, row.top + 11);
+        }
     }
 
     const CSelectedObject font(dc, m_boldFont);
@@ -231,17 +244,21 @@ void CPropertyGrid::PaintHeader(CPaintTools& tools, const CRect& row, CGridSecti
 void CPropertyGrid::PaintColumns(CPaintTools& tools, const CGridPlace& place) {
     const int top = std::max(place.top, 0);
     const int bottom = std::min<int>(place.GetRow(place.rows).top, place.area.cy);
-    if (top >= bottom || place.area.cx <= 0)
+    if (top >= bottom || place.area.cx <= 0) {
         return;
-    if (m_shadeHeaders)
+    }
+    if (m_shadeHeaders) {
         tools.dc.FillSolidRect(0, top, bandWidth, bottom - top, m_colors.shade);
-    if (m_drawDivider)
+    }
+    if (m_drawDivider) {
         DrawLine(tools.dc, m_gutter, top, m_gutter, bottom + 1);
+    }
 }
 
 void CPropertyGrid::PaintItem(CPaintTools& tools, const CRect& row, CGridItem& item) {
-    if (m_drawLines)
+    if (m_drawLines) {
         DrawLine(tools.dc, 0, row.bottom, row.right + 1, row.bottom);
+    }
     const int valueRight = PaintEditButton(tools, row, item);
     PaintName(tools, row, item);
     PaintValue(tools, CRect(m_gutter, row.top, valueRight, row.bottom), item);
@@ -249,11 +266,13 @@ void CPropertyGrid::PaintItem(CPaintTools& tools, const CRect& row, CGridItem& i
 
 // Draws and records the edit button of the focused item. Returns where the value column ends.
 int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, CGridItem& item) {
-    if (item.id != m_focusedItem || !item.editable)
+    if (item.id != m_focusedItem || !item.editable) {
         return row.right;
+    }
     const int mode = item.GetEditMode();
-    if (mode == EM_CUSTOM)
+    if (mode == EM_CUSTOM) {
         return row.right;
+    }
 
     CDC& dc = tools.dc;
     CRect button(row.right - m_rowHeight, row.top, row.right, row.bottom);
@@ -271,8 +290,9 @@ int CPropertyGrid::PaintEditButton(CPaintTools& tools, const CRect& row, CGridIt
         DrawTextIn(dc, L"...", button, lineOfText | DT_CENTER);
     }
     // Where a press anywhere on the value opens the text edit, the whole of it counts as the button.
-    if (mode == EM_INPLACE || mode == EM_INPLACE_BUTTON)
+    if (mode == EM_INPLACE || mode == EM_INPLACE_BUTTON) {
         button.left = m_gutter;
+    }
     m_editButtonRect = button;
     return valueRight;
 }
@@ -302,18 +322,21 @@ void CPropertyGrid::PaintValue(CPaintTools& tools, const CRect& valueRect, const
 
     CRect cell = valueRect;
     cell.left += TEXT_MARGIN;
-    if (item.kind == IT_COLOR)
+    if (item.kind == IT_COLOR) {
         cell.left = PaintSwatch(tools, cell, std::get<COLORREF>(item.value)).right + 6;
+    }
 
     const bool modified = item.IsModified();
     const bool changed = modified || item.undefined != item.savedUndefined;
     const bool bold = (m_boldEditable && item.editable) || (m_boldModified && changed);
     std::optional<CSelectedObject> font;
-    if (bold)
+    if (bold) {
         font.emplace(dc, m_boldFont);
+    }
     std::wstring text = item.GetText(m_texts, dc.GetDeviceCaps(LOGPIXELSY));
-    if (item.IsPath() && !item.undefined)
+    if (item.IsPath() && !item.undefined) {
         text = CompactPath(dc, text, cell.Width());
+    }
     if (modified) {
         dc.SetBkMode(OPAQUE);
         dc.SetBkColor(modifiedColor);

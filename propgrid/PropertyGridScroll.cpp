@@ -8,8 +8,9 @@
 // False when the message is done with, true when the default handling is to follow.
 bool CPropertyGrid::ScrollByBar(UINT code, UINT position, const CScrollBar* bar) {
     const bool isOwnBar = bar != nullptr && bar->GetSafeHwnd() == m_scrollBar.GetSafeHwnd();
-    if (!m_scrollBarShown || !isOwnBar || code == SB_ENDSCROLL)
+    if (!m_scrollBarShown || !isOwnBar || code == SB_ENDSCROLL) {
         return true;
+    }
     SetFocus();
     return Scroll(code, FindThumbPosition(position));
 }
@@ -48,8 +49,9 @@ bool CPropertyGrid::Scroll(UINT code, int position) {
         case SB_THUMBPOSITION:
         case SB_THUMBTRACK:
             if (position == current || (position < current && current == first) ||
-                (position > current && current == last))
+                (position > current && current == last)) {
                 return false;
+            }
             target = position;
             break;
         case SB_TOP:
@@ -69,10 +71,13 @@ bool CPropertyGrid::Scroll(UINT code, int position) {
 // Three rows for each notch. The wheel ends an open edit, which would otherwise stay where its row was.
 void CPropertyGrid::ScrollByWheel(int delta) {
     const int lines = std::abs(delta) / WHEEL_DELTA * 3;
-    if (lines == 0 || !m_scrollBarShown)
+    if (lines == 0 || !m_scrollBarShown) {
         return;
-    if (delta < 0 || IsEditing())
+    }
+    if (delta < 0 || IsEditing()) {
         SetFocus();
-    for (int line = 0; line < lines; ++line)
+    }
+    for (int line = 0; line < lines; ++line) {
         Scroll(delta > 0 ? SB_LINEUP : SB_LINEDOWN);
+    }
 }

@@ -13,11 +13,13 @@ UINT CPropertyGrid::AddSection(const std::wstring& name, bool collapsed, UINT be
 UINT CPropertyGrid::AddItem(UINT section, EItemType kind, const std::wstring& name, const void* value,
                             bool editable, bool undefined) {
     CGridValue read;
-    if (!ReadGridValue(kind, value, read))
+    if (!ReadGridValue(kind, value, read)) {
         return NO_ID;
+    }
     const UINT id = m_contents.AddItem(section, kind, name, std::move(read), editable, undefined);
-    if (id != NO_ID)
+    if (id != NO_ID) {
         RelayoutForMoreRows();
+    }
     return id;
 }
 
@@ -28,8 +30,9 @@ UINT CPropertyGrid::AddItemWithOption(UINT section, EItemType kind, const std::w
     // The usual format is what a number without one has: a row costs less so.
     const bool isUsual = (kind == IT_INTEGER && option == L"%d") || (kind == IT_DOUBLE && option == L"%g");
     CGridItem* const item = m_contents.FindItem(id);
-    if (item != nullptr && !isUsual)
+    if (item != nullptr && !isUsual) {
         item->options.assign(1, option);
+    }
     return id;
 }
 
@@ -57,8 +60,9 @@ UINT CPropertyGrid::AddComboItem(UINT section, const std::wstring& name,
                                  const std::vector<std::wstring>& choices, int value, bool editable,
                                  bool undefined) {
     const UINT id = AddItem(section, IT_COMBO, name, &value, editable, undefined);
-    if (CGridItem* const item = m_contents.FindItem(id))
+    if (CGridItem* const item = m_contents.FindItem(id)) {
         item->options = choices;
+    }
     return id;
 }
 
@@ -98,13 +102,15 @@ UINT CPropertyGrid::AddFontItem(UINT section, const std::wstring& name, const LO
 }
 
 UINT CPropertyGrid::AddCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable) {
-    if (item == nullptr)
+    if (item == nullptr) {
         return NO_ID;
+    }
     // Known to the item before it is asked to accept its value, and forgotten again if there is no row.
     CPropertyGrid* const previous = std::exchange(item->m_pGrid, this);
     const UINT id = AddItem(section, IT_CUSTOM, name, item, editable, false);
-    if (id == NO_ID)
+    if (id == NO_ID) {
         item->m_pGrid = previous;
+    }
     return id;
 }
 
@@ -117,11 +123,13 @@ void CPropertyGrid::ResetContents() {
 template <class T>
 bool CPropertyGrid::ReadValue(UINT id, T& value) const {
     const CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr || item->undefined)
+    if (item == nullptr || item->undefined) {
         return false;
+    }
     const T* const stored = std::get_if<T>(&item->value);
-    if (stored == nullptr)
+    if (stored == nullptr) {
         return false;
+    }
     value = *stored;
     return true;
 }
@@ -150,8 +158,9 @@ bool CPropertyGrid::GetItemValue(UINT item, ICustomItem*& value) const {
 
 bool CPropertyGrid::GetItemValue(UINT item, LOGFONTW& value) const {
     CGridFont font;
-    if (!ReadValue(item, font))
+    if (!ReadValue(item, font)) {
         return false;
+    }
     value = *font;
     return true;
 }
@@ -159,8 +168,9 @@ bool CPropertyGrid::GetItemValue(UINT item, LOGFONTW& value) const {
 template <class T>
 bool CPropertyGrid::WriteValue(UINT id, T value) {
     CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr || !std::holds_alternative<T>(item->value))
+    if (item == nullptr || !std::holds_alternative<T>(item->value)) {
         return false;
+    }
     item->value = std::move(value);
     item->undefined = false;
     Repaint();
@@ -191,15 +201,17 @@ bool CPropertyGrid::SetItemValue(UINT item, const LOGFONTW& value) {
 }
 
 bool CPropertyGrid::SetItemValue(UINT item, ICustomItem* value) {
-    if (value == nullptr || !WriteValue(item, value))
+    if (value == nullptr || !WriteValue(item, value)) {
         return false;
+    }
     value->m_pGrid = this;
     return true;
 }
 
 void CPropertyGrid::AcceptValues() {
-    for (CGridItem* const item : m_contents.WalkAll())
+    for (CGridItem* const item : m_contents.WalkAll()) {
         item->TakeSavedCopy();
+    }
     Repaint();
 }
 
@@ -210,8 +222,9 @@ bool CPropertyGrid::IsItemModified(UINT id) const {
 
 bool CPropertyGrid::SetItemEditable(UINT id, bool editable) {
     CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr)
+    if (item == nullptr) {
         return false;
+    }
     Change(item->editable, editable);
     return true;
 }
@@ -223,8 +236,9 @@ bool CPropertyGrid::IsItemEditable(UINT id) const {
 
 bool CPropertyGrid::SetItemUndefined(UINT id, bool undefined) {
     CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr || item->kind == IT_CUSTOM)
+    if (item == nullptr || item->kind == IT_CUSTOM) {
         return false;
+    }
     Change(item->undefined, undefined);
     return true;
 }
@@ -241,24 +255,27 @@ std::wstring CPropertyGrid::GetItemName(UINT id) const {
 
 bool CPropertyGrid::GetItemKind(UINT id, EItemType& kind) const {
     const CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr)
+    if (item == nullptr) {
         return false;
+    }
     kind = item->kind;
     return true;
 }
 
 std::wstring CPropertyGrid::GetItemText(UINT id) const {
     const CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr)
+    if (item == nullptr) {
         return {};
+    }
     const CWindowDC screen(nullptr);
     return item->GetText(m_texts, screen.GetDeviceCaps(LOGPIXELSY));
 }
 
 bool CPropertyGrid::SetSectionCollapsed(UINT id, bool collapsed) {
     CGridSection* const section = m_contents.FindSection(id);
-    if (section == nullptr)
+    if (section == nullptr) {
         return false;
+    }
     m_contents.SetCollapsed(*section, collapsed);
     Relayout();
     return true;
@@ -280,16 +297,18 @@ std::size_t CPropertyGrid::GetSectionItemCount(UINT id) const {
 }
 
 bool CPropertyGrid::SetFocusedItem(UINT id) {
-    if (id != NO_ID && m_contents.FindItem(id) == nullptr)
+    if (id != NO_ID && m_contents.FindItem(id) == nullptr) {
         return false;
+    }
     m_focusedSection = NO_ID;
     Change(m_focusedItem, id);
     return true;
 }
 
 bool CPropertyGrid::SetFocusedSection(UINT id) {
-    if (id != NO_ID && m_contents.FindSection(id) == nullptr)
+    if (id != NO_ID && m_contents.FindSection(id) == nullptr) {
         return false;
+    }
     m_focusedItem = NO_ID;
     Change(m_focusedSection, id);
     return true;
@@ -297,8 +316,9 @@ bool CPropertyGrid::SetFocusedSection(UINT id) {
 
 bool CPropertyGrid::GetItemRects(UINT id, CRect& name, CRect& value) const {
     const CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr)
+    if (item == nullptr) {
         return false;
+    }
     name = item->GetNameRect();
     value = item->GetValueRect();
     return true;
@@ -306,8 +326,9 @@ bool CPropertyGrid::GetItemRects(UINT id, CRect& name, CRect& value) const {
 
 bool CPropertyGrid::GetSectionRects(UINT id, CRect& glyph, CRect& header) const {
     const CGridSection* const section = m_contents.FindSection(id);
-    if (section == nullptr)
+    if (section == nullptr) {
         return false;
+    }
     glyph = section->glyphRect;
     header = section->headerRect;
     return true;

@@ -19,11 +19,13 @@ private:
 }  // namespace
 
 CString CTextLibrary::Load(unsigned id) {
-    if (m_library == nullptr)
+    if (m_library == nullptr) {
         m_library = LoadLibraryW(L"TavrinRes.dll");
+    }
     // Only the low 16 bits reach the resource search: a larger number would find another text.
-    if (m_library == nullptr || id > 0xFFFF)
+    if (m_library == nullptr || id > 0xFFFF) {
         return {};
+    }
     const CResourceScope scope(m_library);
     wchar_t text[256];
     const int length = LoadStringW(m_library, id, text, 256);

@@ -17,8 +17,9 @@ __declspec(dllimport) void td_delete_array(void* block);
 namespace {
 
 void* OrThrow(void* block) {
-    if (block == nullptr)
+    if (block == nullptr) {
         throw std::bad_alloc();
+    }
     return block;
 }
 

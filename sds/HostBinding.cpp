@@ -57,8 +57,9 @@ std::wstring BindHost(HMODULE host) {
     for (const ImportedFunction& function : importedFunctions) {
         *function.pointer = GetProcAddress(host, function.name);
         if (*function.pointer == nullptr) {
-            if (!missing.empty())
+            if (!missing.empty()) {
                 missing += L'\n';
+            }
             missing.append(function.name, function.name + std::strlen(function.name));
         }
     }

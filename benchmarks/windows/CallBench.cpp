@@ -38,8 +38,9 @@ struct STimes {
 
 void HandleMessages() {
     MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         DispatchMessageW(&message);
+    }
 }
 
 // Times one dialog that `show` opens and that ends when it is confirmed.
@@ -72,19 +73,21 @@ void Measure(const char* name, CPaintedSentinel& sentinel, const std::function<v
         prepare();
         Time(sentinel, round > 0 ? our : warmUp, ours);
         Time(sentinel, round > 0 ? their : warmUp, bare);
-        if (rewrite)
+        if (rewrite) {
             Time(sentinel, round > 0 ? theirWithFiles : warmUp, [&] {
                 bare();
                 rewrite();
             });
+        }
     }
     PrintRow({"call", "invoke until painted", name, Median(our.opening), "ns", "bare dialog",
               Median(their.opening), 1.25});
     PrintRow({"call", "OK until result", name, Median(our.closing), "ns", "bare dialog",
               Median(their.closing), 1.25});
-    if (rewrite)
+    if (rewrite) {
         PrintRow({"call", "OK until result", name, Median(our.closing), "ns", "bare dialog and its files",
                   Median(theirWithFiles.closing), 1.25});
+    }
 }
 
 // Reads a file's lines and writes them again with the standard library.
@@ -92,12 +95,14 @@ void Rewrite(const std::filesystem::path& path) {
     std::vector<std::string> lines;
     {
         std::ifstream file(path);
-        for (std::string line; std::getline(file, line);)
+        for (std::string line; std::getline(file, line);) {
             lines.push_back(line);
+        }
     }
     std::ofstream file(path);
-    for (const std::string& line : lines)
+    for (const std::string& line : lines) {
         file << line << '\n';
+    }
 }
 
 }  // namespace
@@ -105,8 +110,9 @@ void Rewrite(const std::filesystem::path& path) {
 int main() {
     BindHost(GetModuleHandleW(nullptr));
     const CTempFolder folder;
-    for (const wchar_t* name : {L"door.png", L"door.TXT", L"door_TMP.TXT", L"door_preview.png"})
+    for (const wchar_t* name : {L"door.png", L"door.TXT", L"door_TMP.TXT", L"door_preview.png"}) {
         std::filesystem::copy_file(std::wstring(SAMPLES L"door/") + name, folder.Path(name));
+    }
     // A host that knows where its files are: how long it searches is not the module's time.
     fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, std::size_t) {
         std::wcscpy(result, folder.Path(name).c_str());

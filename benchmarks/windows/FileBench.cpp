@@ -14,9 +14,10 @@ namespace {
 // Each row has a label of its own, as in an item.
 std::string Template(std::size_t parameters) {
     std::string text = "free text\r\n<<2001>>\r\nVAR\r\n";
-    for (std::size_t number = 1; number <= parameters; ++number)
+    for (std::size_t number = 1; number <= parameters; ++number) {
         text += "$" + std::to_string(number) + " = \"<<" + std::to_string(1501 + number % 8) + ">> " +
                 std::to_string(number) + "\"D " + std::to_string(number % 3000) + "\r\n";
+    }
     return text + "END_VAR\r\n";
 }
 
@@ -29,8 +30,9 @@ TextLines LinesByModule(const std::wstring& path) {
 TextLines LinesByStandardLibrary(const std::wstring& path) {
     TextLines lines;
     std::wifstream file{std::filesystem::path(path)};
-    for (std::wstring line; std::getline(file, line);)
+    for (std::wstring line; std::getline(file, line);) {
         lines.push_back(line);
+    }
     return lines;
 }
 
@@ -41,8 +43,9 @@ void CopyByModule(const std::wstring& source, const std::wstring& target) {
 void CopyByStandardLibrary(const std::wstring& source, const std::wstring& target) {
     const TextLines lines = LinesByStandardLibrary(source);
     std::wofstream file{std::filesystem::path(target)};
-    for (const std::wstring& line : lines)
+    for (const std::wstring& line : lines) {
         file << line << L'\n';
+    }
 }
 
 // The parameters are read from the working file; after OK both files are rewritten.
@@ -51,8 +54,9 @@ void CallOfModule(const std::wstring& source, const std::wstring& target) {
     const ItemContents item =
         ReadItem(LinesByModule(source), 1.0, kReadOnlyMode, [&](unsigned) { return text; });
     ParamRecordMap records;
-    for (const ItemParameter& parameter : item.parameters)
+    for (const ItemParameter& parameter : item.parameters) {
         records.emplace(parameter.record.lineIndex, parameter.record);
+    }
     const ValueTextOf valueTextOf = [](const ParamRecord& record) { return ValueText(record, 1.0); };
     TextLines lines = LinesByModule(source);
     RewriteWorkingFile(lines, records, valueTextOf);

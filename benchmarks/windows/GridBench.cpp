@@ -48,8 +48,9 @@ public:
     void Clear() { m_grid.ResetContents(); }
     void Fill(std::size_t rows) {
         const UINT section = m_grid.AddSection(L"Item Data");
-        for (std::size_t row = 0; row < rows; ++row)
+        for (std::size_t row = 0; row < rows; ++row) {
             m_grid.AddDoubleItem(section, NameOf(row), ValueOf(row));
+        }
     }
     void Sort(bool sorted) {
         m_grid.SetDisplayMode(sorted ? CPropertyGrid::DM_SORTED : CPropertyGrid::DM_FLAT);
@@ -77,9 +78,10 @@ public:
         LVCOLUMNW column = {};
         column.mask = LVCF_WIDTH | LVCF_FMT;
         column.cx = width / 2 - ::GetSystemMetrics(SM_CXVSCROLL);
-        for (int index = 0; index < 2; ++index)
+        for (int index = 0; index < 2; ++index) {
             ::SendMessageW(m_list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(index),
                            reinterpret_cast<LPARAM>(&column));
+        }
     }
 
     void Clear() { ::SendMessageW(m_list, LVM_DELETEALLITEMS, 0, 0); }
@@ -116,8 +118,9 @@ private:
 // As a program does between two paints; else the system would show each paint on the screen within it.
 void HandleMessages() {
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         ::DispatchMessageW(&message);
+    }
 }
 
 void Row(const char* what, const std::string& size, double ours, const char* unit, const char* peer,
@@ -139,8 +142,9 @@ void MeasureMemory(CFilledGrid& grid, std::size_t rows) {
     const std::size_t before = HeapSize();
     grid.Fill(rows);
     std::size_t taken = HeapSize() - before;
-    for (std::size_t row = 0; row < rows; ++row)
+    for (std::size_t row = 0; row < rows; ++row) {
         taken -= sizeof(wchar_t) * NameOf(row).size();
+    }
     grid.Clear();
     Row("memory of a row beside its name", std::to_string(rows) + " rows",
         static_cast<double>(taken) / static_cast<double>(rows), "B", "limit", 400, 1);
@@ -167,20 +171,22 @@ void MeasureRows(CFilledGrid& grid, CFilledList& list) {
                                                        rounds);
         Row("adding a row", size, perRow(adding[0]), "ns", "limit", 1000, 1);
         Row("adding a row", size, perRow(adding[0]), "ns", listView, perRow(adding[1]), 0.2);
-        if (rows == 1000)
+        if (rows == 1000) {
             addingFew = perRow(adding[0]);
-        else if (rows > 1000)
+        } else if (rows > 1000) {
             Row("adding a row", size, perRow(adding[0]), "ns", "ours at 1000", addingFew, 1.5);
+        }
 
         grid.Paint();
         list.Paint();
         const std::vector<double> painting = MedianTurns(
             {{HandleMessages, [&] { grid.Paint(); }}, {HandleMessages, [&] { list.Paint(); }}}, 31);
         Row("full paint", size, painting[0], "ns", listView, painting[1], 0.5);
-        if (rows == 100)
+        if (rows == 100) {
             paintingFew = painting[0];
-        else if (rows > 100)
+        } else if (rows > 100) {
             Row("full paint", size, painting[0], "ns", "ours at 100", paintingFew, 0);
+        }
 
         if (rows >= 1000) {
             const std::vector<double> scrolling =

@@ -35,10 +35,12 @@ LRESULT CALLBACK CPaintedSentinel::WatchMessages(int code, WPARAM wParam, LPARAM
 }
 
 LRESULT CALLBACK CPaintedSentinel::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != WM_PAINT)
+    if (message != WM_PAINT) {
         return DefWindowProcW(window, message, wParam, lParam);
+    }
     ValidateRect(window, nullptr);
-    if (std::exchange(s_active->m_dialogShows, false) && s_active->m_painted)
+    if (std::exchange(s_active->m_dialogShows, false) && s_active->m_painted) {
         std::exchange(s_active->m_painted, nullptr)();
+    }
     return 0;
 }

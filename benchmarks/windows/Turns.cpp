@@ -23,12 +23,14 @@ std::vector<double> MedianTurns(const std::vector<STurn>& turns, std::size_t rou
     std::vector<std::vector<double>> times(turns.size());
     for (std::size_t round = 0; round <= rounds; ++round) {
         for (std::size_t index = 0; index < turns.size(); ++index) {
-            if (turns[index].prepare)
+            if (turns[index].prepare) {
                 turns[index].prepare();
+            }
             const double begin = Nanoseconds();
             turns[index].work();
-            if (round > 0)
+            if (round > 0) {
                 times[index].push_back(Nanoseconds() - begin);
+            }
         }
     }
     std::vector<double> medians;

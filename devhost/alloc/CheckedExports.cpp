@@ -18,10 +18,11 @@ CCheckedHeap& Heap() {
 
 LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
     const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
-    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2)
+    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2) {
         Heap().EndIfMisused(reinterpret_cast<const void*>(record.ExceptionInformation[1]),
                             record.ExceptionInformation[0] == 1 ? "writes" : "reads",
                             SCodeAddress(record.ExceptionAddress).text);
+    }
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
@@ -66,9 +67,10 @@ void td_print_live(std::size_t most) {
 }
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
-    if (reason == DLL_PROCESS_ATTACH)
+    if (reason == DLL_PROCESS_ATTACH) {
         watch = AddVectoredExceptionHandler(TRUE, OnException);
-    else if (reason == DLL_PROCESS_DETACH && watch != nullptr)
+    } else if (reason == DLL_PROCESS_DETACH && watch != nullptr) {
         RemoveVectoredExceptionHandler(watch);
+    }
     return TRUE;
 }

@@ -24,14 +24,16 @@ template <typename TStore>
 std::size_t ReleaseFrom(TStore& store, const void* address, EBlockKind kind) {
     const SHeapBlock* found = store.FindLive(address);
     if (found == nullptr) {
-        if (const SHeapBlock* freed = store.FindFreed(address))
+        if (const SHeapBlock* freed = store.FindFreed(address)) {
             EndOverHeapMisuse("%s was deleted twice", SBlockName(*freed).text);
+        }
         EndOverHeapMisuse("what was deleted at %p is no block of this heap", address);
     }
     const SHeapBlock block = *found;
-    if (block.kind != kind)
+    if (block.kind != kind) {
         EndOverHeapMisuse("%s was deleted with %s", SBlockName(block).text,
                           kind == EBlockKind::Array ? "delete[]" : "delete");
+    }
     store.CheckBorder(address);
     store.Release(address);
     return block.size;
@@ -42,8 +44,9 @@ std::size_t ReleaseFrom(TStore& store, const void* address, EBlockKind kind) {
 void* CCheckedHeap::Allocate(std::size_t size, EBlockKind kind) noexcept {
     const CLock lock(m_lock);
     ++m_requests;
-    if (m_requests == m_failAt)
+    if (m_requests == m_failAt) {
         return nullptr;
+    }
     void* address = Place({size, m_requests, kind});
     if (address != nullptr) {
         ++m_liveBlocks;
@@ -54,8 +57,9 @@ void* CCheckedHeap::Allocate(std::size_t size, EBlockKind kind) noexcept {
 
 void* CCheckedHeap::Place(const SHeapBlock& block) {
     try {
-        if (void* guarded = m_arena.Allocate(block))
+        if (void* guarded = m_arena.Allocate(block)) {
             return guarded;
+        }
         return m_overflow.Allocate(block);
     } catch (...) {
         return nullptr;  // no memory for the books
@@ -63,8 +67,9 @@ void* CCheckedHeap::Place(const SHeapBlock& block) {
 }
 
 void CCheckedHeap::Release(const void* address, EBlockKind kind) noexcept {
-    if (address == nullptr)
+    if (address == nullptr) {
         return;
+    }
     const CLock lock(m_lock);
     const std::size_t size =
         m_arena.Holds(address) ? ReleaseFrom(m_arena, address, kind) : ReleaseFrom(m_overflow, address, kind);
@@ -106,12 +111,14 @@ void CCheckedHeap::PrintLive(std::size_t most) noexcept {
     m_overflow.ForEachLive(collect);
     std::sort(live.begin(), live.end(),
               [](const SLive& a, const SLive& b) { return a.block.number < b.block.number; });
-    if (live.size() > most)
+    if (live.size() > most) {
         live.resize(most);
+    }
     for (const SLive& entry : live) {
         char bytes[16 * 3 + 1] = "";
-        for (std::size_t i = 0; i < std::min<std::size_t>(16, entry.block.size); ++i)
+        for (std::size_t i = 0; i < std::min<std::size_t>(16, entry.block.size); ++i) {
             std::snprintf(bytes + 3 * i, 4, " %02X", entry.data[i]);
+        }
         char line[200];
         std::snprintf(line, sizeof line, "heap check: %s is held, bytes%s\n", SBlockName(entry.block).text,
                       bytes);
@@ -121,7 +128,8 @@ void CCheckedHeap::PrintLive(std::size_t most) noexcept {
 
 void CCheckedHeap::EndIfMisused(const void* address, const char* access, const char* culprit) noexcept {
     // The thread that faulted may hold the lock itself; then the books cannot be trusted anyway.
-    if (!m_arena.Holds(address) || !TryAcquireSRWLockExclusive(&m_lock))
+    if (!m_arena.Holds(address) || !TryAcquireSRWLockExclusive(&m_lock)) {
         return;
+    }
     m_arena.EndOverFault(address, access, culprit);
 }

@@ -22,13 +22,15 @@ std::size_t RoundUp(std::size_t size, std::size_t step) {
 }  // namespace
 
 unsigned char* CGuardArena::Allocate(const SHeapBlock& block) {
-    if (block.size > kMaxBlockSize || m_liveBlocks == kMaxLiveBlocks || !Reserve())
+    if (block.size > kMaxBlockSize || m_liveBlocks == kMaxLiveBlocks || !Reserve()) {
         return nullptr;
+    }
     const std::size_t pages = std::max<std::size_t>(1, RoundUp(block.size, kPageSize) / kPageSize);
     const std::size_t first = FindRun(pages + 1);
     if (first == kNoPage ||
-        VirtualAlloc(PageAt(first), pages * kPageSize, MEM_COMMIT, PAGE_READWRITE) == nullptr)
+        VirtualAlloc(PageAt(first), pages * kPageSize, MEM_COMMIT, PAGE_READWRITE) == nullptr) {
         return nullptr;
+    }
 
     std::fill_n(m_records.begin() + std::ptrdiff_t(first), pages + 1, SRecord());
     std::fill_n(m_taken.begin() + std::ptrdiff_t(first), pages + 1, true);
@@ -44,8 +46,9 @@ unsigned char* CGuardArena::Allocate(const SHeapBlock& block) {
 }
 
 bool CGuardArena::Reserve() {
-    if (m_base != nullptr)
+    if (m_base != nullptr) {
         return true;
+    }
     m_records.resize(kArenaPages);
     m_taken.resize(kArenaPages);
     m_base = static_cast<unsigned char*>(
@@ -64,8 +67,9 @@ std::size_t CGuardArena::FindRun(std::size_t pages) {
             run = 0;
         }
         run = m_taken[page] ? 0 : run + 1;
-        if (run == pages)
+        if (run == pages) {
             return page + 1 - pages;
+        }
     }
     return kNoPage;
 }
@@ -92,8 +96,9 @@ unsigned char* CGuardArena::DataOf(std::size_t page) const {
 }
 
 const CGuardArena::SRecord* CGuardArena::RecordAt(const void* address) const {
-    if (!Holds(address))
+    if (!Holds(address)) {
         return nullptr;
+    }
     const std::size_t page = PageOf(address);
     return m_records[page].pages != 0 && DataOf(page) == address ? &m_records[page] : nullptr;
 }
@@ -112,10 +117,12 @@ void CGuardArena::CheckBorder(const void* address) const {
     const std::size_t page = PageOf(address);
     const SRecord& record = m_records[page];
     const unsigned char* data = DataOf(page);
-    if (!IsFilled(PageAt(page), data, kBorderByte))
+    if (!IsFilled(PageAt(page), data, kBorderByte)) {
         EndOverHeapMisuse("%s was written in front of its start", SBlockName(record.block).text);
-    if (!IsFilled(data + record.block.size, PageAt(page + record.pages), kBorderByte))
+    }
+    if (!IsFilled(data + record.block.size, PageAt(page + record.pages), kBorderByte)) {
         EndOverHeapMisuse("%s was written behind its end", SBlockName(record.block).text);
+    }
 }
 
 void CGuardArena::Release(const void* address) {
@@ -143,14 +150,17 @@ void CGuardArena::Quarantine(std::size_t page) {
 void CGuardArena::EndOverFault(const void* address, const char* access, const char* culprit) const {
     std::size_t page = PageOf(address);
     const std::size_t faulted = page;
-    while (page > 0 && m_records[page].pages == 0)
+    while (page > 0 && m_records[page].pages == 0) {
         --page;
+    }
     const SRecord& record = m_records[page];
-    if (record.pages == 0 || faulted > page + record.pages)
+    if (record.pages == 0 || faulted > page + record.pages) {
         EndOverHeapMisuse("%s %s where no block is (%p)", culprit, access, address);
+    }
     const SBlockName name(record.block);
-    if (!record.live)
+    if (!record.live) {
         EndOverHeapMisuse("%s %s %s after it was deleted", culprit, access, name.text);
+    }
     const auto behind = static_cast<const unsigned char*>(address) - (DataOf(page) + record.block.size);
     EndOverHeapMisuse("%s %s behind the end of %s, %lld bytes from it", culprit, access, name.text,
                       static_cast<long long>(behind));
@@ -158,7 +168,9 @@ void CGuardArena::EndOverFault(const void* address, const char* access, const ch
 
 void CGuardArena::ForEachLive(
     const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const {
-    for (std::size_t page = 0; page < m_records.size(); ++page)
-        if (m_records[page].live)
+    for (std::size_t page = 0; page < m_records.size(); ++page) {
+        if (m_records[page].live) {
             visit(m_records[page].block, DataOf(page));
+        }
+    }
 }

@@ -29,6 +29,7 @@ void EndOverHeapMisuse(const char* format, ...) {
     WriteToStandardError("\n");
     // Not exit: nothing of this process may run on a damaged heap.
     TerminateProcess(GetCurrentProcess(), kHeapMisuseStatus);
-    for (;;)
+    for (;;) {
         Sleep(INFINITE);
+    }
 }

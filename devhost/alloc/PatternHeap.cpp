@@ -14,11 +14,13 @@ constexpr std::size_t kMaxQuarantinedBytes = 64 * 1024 * 1024;
 }  // namespace
 
 unsigned char* CPatternHeap::Allocate(const SHeapBlock& block) {
-    if (block.size > PTRDIFF_MAX - 2 * kBorder)
+    if (block.size > PTRDIFF_MAX - 2 * kBorder) {
         return nullptr;
+    }
     auto* memory = static_cast<unsigned char*>(_aligned_malloc(block.size + 2 * kBorder, kBlockAlignment));
-    if (memory == nullptr)
+    if (memory == nullptr) {
         return nullptr;
+    }
     unsigned char* data = memory + kBorder;
     try {
         m_live.emplace(data, block);
@@ -46,10 +48,12 @@ const SHeapBlock* CPatternHeap::FindFreed(const void* address) const {
 void CPatternHeap::CheckBorder(const void* address) const {
     const SHeapBlock& block = m_live.at(address);
     const auto* data = static_cast<const unsigned char*>(address);
-    if (!IsFilled(data - kBorder, data, kBorderByte))
+    if (!IsFilled(data - kBorder, data, kBorderByte)) {
         EndOverHeapMisuse("%s was written in front of its start", SBlockName(block).text);
-    if (!IsFilled(data + block.size, data + block.size + kBorder, kBorderByte))
+    }
+    if (!IsFilled(data + block.size, data + block.size + kBorder, kBorderByte)) {
         EndOverHeapMisuse("%s was written behind its end", SBlockName(block).text);
+    }
 }
 
 void CPatternHeap::Release(const void* address) {
@@ -60,21 +64,24 @@ void CPatternHeap::Release(const void* address) {
     std::fill_n(data, block.size, kFreedByte);
     m_quarantine.push_back({data, block});
     m_quarantinedBytes += block.size;
-    while (m_quarantine.size() > kMaxQuarantinedBlocks || m_quarantinedBytes > kMaxQuarantinedBytes)
+    while (m_quarantine.size() > kMaxQuarantinedBlocks || m_quarantinedBytes > kMaxQuarantinedBytes) {
         LetOldestGo();
+    }
 }
 
 void CPatternHeap::LetOldestGo() {
     const SFreed oldest = m_quarantine.front();
     m_quarantine.pop_front();
     m_quarantinedBytes -= oldest.block.size;
-    if (!IsFilled(oldest.data, oldest.data + oldest.block.size, kFreedByte))
+    if (!IsFilled(oldest.data, oldest.data + oldest.block.size, kFreedByte)) {
         EndOverHeapMisuse("%s was written after it was deleted", SBlockName(oldest.block).text);
+    }
     _aligned_free(oldest.data - kBorder);
 }
 
 void CPatternHeap::ForEachLive(
     const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const {
-    for (const auto& [address, block] : m_live)
+    for (const auto& [address, block] : m_live) {
         visit(block, static_cast<const unsigned char*>(address));
+    }
 }

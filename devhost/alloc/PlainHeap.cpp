@@ -26,8 +26,9 @@ void* td_new_array(std::size_t size) {
 }
 
 void td_delete(void* block) {
-    if (block == nullptr)
+    if (block == nullptr) {
         return;
+    }
     --liveBlocks;
     liveBytes -= HeapSize(GetProcessHeap(), 0, block);
     HeapFree(GetProcessHeap(), 0, block);

@@ -15,8 +15,9 @@ HMODULE plugInModule = nullptr;
 
 [[noreturn]] void EndProcess() {
     TerminateProcess(GetCurrentProcess(), kExitCrashed);
-    for (;;)
+    for (;;) {
         Sleep(INFINITE);
+    }
 }
 
 void PrintCallers([[maybe_unused]] const CONTEXT& faulted) {
@@ -25,14 +26,16 @@ void PrintCallers([[maybe_unused]] const CONTEXT& faulted) {
     for (int i = 0; i < kMaxCallers; ++i) {
         DWORD64 base;
         PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
-        if (function == nullptr)
+        if (function == nullptr) {
             return;
+        }
         void* handlerData;
         DWORD64 frame;
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handlerData, &frame,
                          nullptr);
-        if (context.Rip == 0)
+        if (context.Rip == 0) {
             return;
+        }
         char line[200];
         std::snprintf(line, sizeof line, "  called from %s\n",
                       SCodeAddress(reinterpret_cast<const void*>(context.Rip)).text);
@@ -46,9 +49,10 @@ void Report(const EXCEPTION_POINTERS& exception) {
     char line[300];
     const int length = std::snprintf(line, sizeof line, "DevHost: crash in %s, exception %08lx",
                                      SCodeAddress(record.ExceptionAddress).text, record.ExceptionCode);
-    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2)
+    if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2) {
         std::snprintf(line + length, sizeof line - std::size_t(length), " at address %p",
                       reinterpret_cast<const void*>(record.ExceptionInformation[1]));
+    }
     WriteToStandardError(line);
     WriteToStandardError("\n");
     PrintCallers(*exception.ContextRecord);
@@ -65,8 +69,9 @@ bool IsOurs(const void* address) {
     HMODULE module;
     if (!GetModuleHandleExW(
             GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-            static_cast<const wchar_t*>(address), &module))
+            static_cast<const wchar_t*>(address), &module)) {
         return true;  // a jump into nowhere
+    }
     return module == plugInModule || IsModule(module, nullptr) || IsModule(module, L"TD_Alloc.dll") ||
            IsModule(module, L"msvcrt.dll") || IsModule(module, L"ucrtbase.dll");
 }
@@ -75,8 +80,9 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
     // The system's errors; C++ exceptions and the debugger's notes have other codes.
     constexpr DWORD kSystemError = 0xC;
     const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
-    if (record.ExceptionCode >> 28 != kSystemError || !IsOurs(record.ExceptionAddress))
+    if (record.ExceptionCode >> 28 != kSystemError || !IsOurs(record.ExceptionAddress)) {
         return EXCEPTION_CONTINUE_SEARCH;
+    }
     Report(*exception);
     EndProcess();
 }

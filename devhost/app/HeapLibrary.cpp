@@ -11,19 +11,22 @@ constexpr std::size_t kMostListed = 20;
 CHeapLibrary::CHeapLibrary(const std::wstring& folder, bool checking) {
     const std::wstring path = folder + (checking ? L"\\checked\\TD_Alloc.dll" : L"\\TD_Alloc.dll");
     m_library = LoadLibraryW(path.c_str());
-    if (m_library == nullptr)
+    if (m_library == nullptr) {
         throw CUserError(L"the allocator library '" + path +
                          L"' cannot be loaded: DevHost needs it at that place");
+    }
     m_liveBlocks = Find<decltype(td_live_blocks)>("td_live_blocks");
     m_liveBytes = Find<decltype(td_live_bytes)>("td_live_bytes");
     m_printLive = Find<decltype(td_print_live)>("td_print_live");
-    if (m_liveBlocks == nullptr || m_liveBytes == nullptr)
+    if (m_liveBlocks == nullptr || m_liveBytes == nullptr) {
         throw CUserError(L"the allocator library '" + path + L"' is not DevHost's: it counts no blocks");
+    }
 }
 
 void CHeapLibrary::PrintLive() const {
-    if (m_printLive != nullptr)
+    if (m_printLive != nullptr) {
         m_printLive(kMostListed);
+    }
 }
 
 template <typename TFunction>

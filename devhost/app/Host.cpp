@@ -50,8 +50,9 @@ int CHost::Run(CEntryPoint& entry, SRequest& request) {
 std::wstring CHost::Send(CEntryPoint& entry, unsigned code) {
     SRequest request(code);
     const int answer = Run(entry, request);
-    if (request.failure)
+    if (request.failure) {
         return L"it said '" + *request.failure + L"'";
+    }
     return answer != 0 ? L"it answered " + std::to_wstring(answer) : L"";
 }
 
@@ -66,41 +67,50 @@ std::wstring CHost::ForgetFunctions() {
 }
 
 CLispResult CHost::Invoke(const std::wstring& name, short code, std::span<const CValue> arguments) {
-    if (m_request != nullptr)
+    if (m_request != nullptr) {
         throw CLispError(name + L" cannot be called while another call is running");
-    if (!m_codes.contains(name))
+    }
+    if (!m_codes.contains(name)) {
         throw CLispError(name + L" belongs to a plug-in that is not loaded any more");
+    }
     SRequest request(SDS_INVOKE, code);
-    for (const CValue& argument : arguments)
+    for (const CValue& argument : arguments) {
         AddArgument(request.arguments, argument, name);
+    }
     m_output.Tell();
     const int answer = Run(*m_entry, request);
-    if (request.failure)
+    if (request.failure) {
         throw CReportedError(*request.failure);
-    if (answer != 0)
+    }
+    if (answer != 0) {
         throw CLispError(L"the plug-in answered " + std::to_wstring(answer) + L" to the call of " + name);
+    }
     return request.result;
 }
 
 bool CHost::Define(const wchar_t* name, short code) {
-    if (name == nullptr || m_entry == nullptr)
+    if (name == nullptr || m_entry == nullptr) {
         return false;
+    }
     const std::wstring upperCase = UpperCase(name);
     const bool defined =
         m_evaluator.Define(upperCase, [this, upperCase, code](std::span<const CValue> arguments) {
             return Invoke(upperCase, code, arguments);
         });
-    if (defined)
+    if (defined) {
         m_codes[upperCase] = code;
+    }
     return defined;
 }
 
 bool CHost::Undefine(const wchar_t* name, short code) {
-    if (name == nullptr)
+    if (name == nullptr) {
         return false;
+    }
     const auto found = m_codes.find(UpperCase(name));
-    if (found == m_codes.end() || found->second != code)
+    if (found == m_codes.end() || found->second != code) {
         return false;
+    }
     m_evaluator.Undefine(found->first);
     m_codes.erase(found);
     return true;
@@ -115,8 +125,9 @@ sds_resbuf* CHost::Arguments() {
 }
 
 bool CHost::SetResult(CValue result) {
-    if (m_request == nullptr || m_request->code != SDS_INVOKE)
+    if (m_request == nullptr || m_request->code != SDS_INVOKE) {
         return false;
+    }
     m_request->result = std::move(result);
     return true;
 }
@@ -128,8 +139,9 @@ CResbufList* CHost::NewList() {
 int CHost::Fail(const wchar_t* message) {
     const std::wstring text = message != nullptr ? message : L"";
     m_output.Line(L"; error: " + text);
-    if (m_request == nullptr)
+    if (m_request == nullptr) {
         return kStatusError;
+    }
     m_request->failure = text;
     return RTNORM;
 }
@@ -140,21 +152,25 @@ int CHost::Alert(const wchar_t* message) {
 }
 
 int CHost::FindFile(const wchar_t* name, wchar_t* result, std::size_t capacity) const {
-    if (name == nullptr || result == nullptr)
+    if (name == nullptr || result == nullptr) {
         return kStatusError;
+    }
     const auto path = m_searchPath.Find(name);
-    if (!path || path->size() >= capacity)
+    if (!path || path->size() >= capacity) {
         return kStatusError;
+    }
     std::wmemcpy(result, path->c_str(), path->size() + 1);
     return RTNORM;
 }
 
 int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
-    if (name == nullptr || result == nullptr)
+    if (name == nullptr || result == nullptr) {
         return kStatusError;
+    }
     const CValue value = m_variables.Get(UpperCase(name));
-    if (value.IsNil())
+    if (value.IsNil()) {
         return kStatusError;
+    }
     result->next = nullptr;
     result->type = RTSHORT;
     result->value.integer = short(value.AsInteger());
@@ -162,42 +178,49 @@ int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
 }
 
 int CHost::ToText(double value, int units, int precision, wchar_t* text) const {
-    if (text == nullptr)
+    if (text == nullptr) {
         return kStatusError;
+    }
     // Also on failure, since a caller may show the buffer without a look at the status.
     text[0] = L'\0';
     const auto formatted =
         FormatLinear(value, units, precision < 0 ? m_variables.Linear().luprec : precision);
-    if (!formatted || formatted->size() >= kTextRoom)
+    if (!formatted || formatted->size() >= kTextRoom) {
         return kStatusError;
+    }
     std::wmemcpy(text, formatted->c_str(), formatted->size() + 1);
     return RTNORM;
 }
 
 int CHost::ToNumber(const wchar_t* text, double* result) const {
     const auto number = text != nullptr ? ParseLinear(text) : std::nullopt;
-    if (!number || result == nullptr)
+    if (!number || result == nullptr) {
         return kStatusError;
+    }
     *result = *number;
     return RTNORM;
 }
 
 int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picked) {
     // With the main window disabled the user could never answer.
-    if (m_request == nullptr || m_window.IsAsking() || !IsWindowEnabled(m_window.Handle()))
+    if (m_request == nullptr || m_window.IsAsking() || !IsWindowEnabled(m_window.Handle())) {
         return kStatusError;
-    if (base && !(std::isfinite(base->x) && std::isfinite(base->y)))
+    }
+    if (base && !(std::isfinite(base->x) && std::isfinite(base->y))) {
         return kStatusError;
+    }
     const auto point = m_window.PickPoint(StatusText(prompt != nullptr ? prompt : L""), base);
-    if (!point)
+    if (!point) {
         return kStatusCancelled;
+    }
     picked = *point;
     return RTNORM;
 }
 
 int CHost::GetPoint(const double* base, const wchar_t* prompt, double* point) {
-    if (point == nullptr)
+    if (point == nullptr) {
         return kStatusError;
+    }
     SPoint picked;
     const int status =
         Pick(base != nullptr ? std::optional(SPoint{base[0], base[1]}) : std::nullopt, prompt, picked);
@@ -210,8 +233,9 @@ int CHost::GetPoint(const double* base, const wchar_t* prompt, double* point) {
 }
 
 int CHost::GetDistance(const double* base, const wchar_t* prompt, double* distance) {
-    if (distance == nullptr)
+    if (distance == nullptr) {
         return kStatusError;
+    }
     double from[3] = {0, 0, 0};
     if (base != nullptr) {
         std::copy_n(base, 3, from);
@@ -220,7 +244,8 @@ int CHost::GetDistance(const double* base, const wchar_t* prompt, double* distan
     }
     double to[3];
     const int status = GetPoint(from, base != nullptr ? prompt : L"Second point: ", to);
-    if (status == RTNORM)
+    if (status == RTNORM) {
         *distance = std::hypot(to[0] - from[0], to[1] - from[1], to[2] - from[2]);
+    }
     return status;
 }

@@ -12,8 +12,9 @@ namespace {
 template <typename TResult, typename TCall>
 TResult Fenced(TResult failure, TCall call) noexcept {
     CHost* host = CHost::OfThisThread();
-    if (host == nullptr)
+    if (host == nullptr) {
         return failure;
+    }
     try {
         return call(*host);
     } catch (...) {
@@ -36,8 +37,9 @@ bool AddNext(CResbufList& list, int type, std::va_list& values) {
             return true;
         case RTSTR: {
             const auto* text = va_arg(values, const wchar_t*);
-            if (text != nullptr)
+            if (text != nullptr) {
                 list.AddString(text);
+            }
             return text != nullptr;
         }
         default:
@@ -47,11 +49,14 @@ bool AddNext(CResbufList& list, int type, std::va_list& values) {
 
 sds_resbuf* BuildList(CHost& host, int type, std::va_list& values) {
     CResbufList* list = host.NewList();
-    if (list == nullptr)
+    if (list == nullptr) {
         return nullptr;
-    for (; type != RTNONE; type = va_arg(values, int))
-        if (!AddNext(*list, type, values))
+    }
+    for (; type != RTNONE; type = va_arg(values, int)) {
+        if (!AddNext(*list, type, values)) {
             return nullptr;
+        }
+    }
     return list->First();
 }
 

@@ -11,20 +11,23 @@
 
 std::vector<SItem> FindItems(const std::wstring& folder) {
     const std::wstring full = FullPath(folder);
-    if (!IsFolder(full))
+    if (!IsFolder(full)) {
         throw CUserError(L"the folder of items '" + folder +
                          L"' does not exist: give --items an existing folder");
+    }
     std::vector<SItem> items;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(full, error), end; entry != end; entry.increment(error)) {
         const std::wstring name = entry->path().filename().wstring();
         const std::wstring path = entry->path().wstring();
-        if (IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp"))
+        if (IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp")) {
             items.push_back({name, path});
+        }
     }
-    if (error)
+    if (error) {
         throw CUserError(L"the folder of items '" + folder +
                          L"' cannot be read: give --items a folder that you may read");
+    }
     std::sort(items.begin(), items.end(), [](const SItem& a, const SItem& b) { return a.name < b.name; });
     return items;
 }

@@ -47,8 +47,9 @@ void CLispConsole::SetVariable(const std::wstring& name, const CValue& value) {
 
 SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoint> base,
                               EQuestion question) {
-    if (m_window.IsAsking() || !IsWindowEnabled(m_window.Handle()))
+    if (m_window.IsAsking() || !IsWindowEnabled(m_window.Handle())) {
         throw CLispError(L"nothing can be asked while another question or a dialog is open");
+    }
     m_output.EndLine();
     const auto from = base ? std::optional(SPoint{base->x, base->y}) : std::nullopt;
     const CAnswer given = m_window.Ask(StatusText(prompt), from, question == Q_TEXT ? ASK_TEXT : ASK_POINT);
@@ -68,8 +69,9 @@ SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoi
 // would be repainted more than it is drawn.
 bool CLispConsole::IsEscapePressed() {
     constexpr unsigned long long kPause = 50;  // milliseconds
-    if (GetTickCount64() - m_lastLook < kPause)
+    if (GetTickCount64() - m_lastLook < kPause) {
         return false;
+    }
     m_output.TellNowAndThen();
     const bool isPressed = m_window.PollEscape();
     m_lastLook = GetTickCount64();

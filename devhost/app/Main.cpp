@@ -35,8 +35,9 @@ std::wstring ProgramFolder() {
 
 // The items of all folders, which are put on the search path: first each item's, then what they share.
 std::vector<SItem> TakeItems(std::vector<std::wstring> folders, CSearchPath& searchPath) {
-    if (folders.empty() && IsFolder(ProgramFolder() + L"\\samples"))
+    if (folders.empty() && IsFolder(ProgramFolder() + L"\\samples")) {
         folders.push_back(ProgramFolder() + L"\\samples");
+    }
     std::vector<SItem> items;
     for (const std::wstring& folder : folders) {
         for (const SItem& item : FindItems(folder)) {
@@ -57,8 +58,9 @@ CUserError NotWritten(const std::wstring& file) {
 // folder to go to is found before anything runs, rather than after.
 std::wstring DrawingPath(const std::wstring& file) {
     const std::wstring full = FullPath(file);
-    if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1)))
+    if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1))) {
         throw NotWritten(file);
+    }
     return full;
 }
 
@@ -66,8 +68,9 @@ void WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
     std::ofstream stream(std::filesystem::path(path), std::ios::binary);
     stream << ToSvg(drawing);
     stream.close();
-    if (!stream)
+    if (!stream) {
         throw NotWritten(path);
+    }
 }
 
 // True when the plug-in went away in good order and holds no block of the host's heap. A run of scripts
@@ -82,10 +85,12 @@ bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool
     }
     const std::size_t blocks = heap.LiveBlocks();
     std::wstring report = L"; heap: " + std::to_wstring(blocks) + L" blocks held";
-    if (blocks != 0)
+    if (blocks != 0) {
         report += L", " + std::to_wstring(heap.LiveBytes()) + L" bytes";
-    if (blocks != 0 || !quiet)
+    }
+    if (blocks != 0 || !quiet) {
         output.Line(report);
+    }
     heap.PrintLive();
     return inOrder && blocks == 0;
 }
@@ -124,8 +129,9 @@ void ShareFormat(CSystemVariables& variables, CMainWindow& window) {
 
 void OfferItems(const std::vector<SItem>& items, CSession& session, CMainWindow& window) {
     std::vector<std::wstring> names;
-    for (const SItem& item : items)
+    for (const SItem& item : items) {
         names.push_back(item.name);
+    }
     window.SetItems(names, [&session, names](std::size_t index) { session.RunItem(names[index]); });
 }
 
@@ -139,16 +145,19 @@ void Reload(CPlugIn& plugIn, CTextOutput& output) {
 }
 
 bool IsScriptsAlone(const std::vector<SPreparedTask>& tasks) {
-    for (const SPreparedTask& task : tasks)
-        if (!task.isScript)
+    for (const SPreparedTask& task : tasks) {
+        if (!task.isScript) {
             return false;
+        }
+    }
     return !tasks.empty();
 }
 
 int Run(const SOptions& options, CTextOutput& output) {
     std::vector<SPreparedTask> tasks;
-    for (const STask& task : options.tasks)
+    for (const STask& task : options.tasks) {
         tasks.push_back(Prepare(task));
+    }
     CSearchPath searchPath(options.searchFolders);
     const std::vector<SItem> items = TakeItems(options.itemFolders, searchPath);
     const std::wstring drawingPath = options.drawingFile.empty() ? L"" : DrawingPath(options.drawingFile);
@@ -178,8 +187,9 @@ int Run(const SOptions& options, CTextOutput& output) {
         window.Run();
     }
     listening.reset();
-    if (!drawingPath.empty())
+    if (!drawingPath.empty()) {
         WriteDrawing(drawing, drawingPath);
+    }
     const bool inOrder = Unload(plugIn, heap, output, IsScriptsAlone(tasks));
     return status == kExitDone && !inOrder ? kExitFailed : status;
 }

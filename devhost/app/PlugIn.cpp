@@ -37,13 +37,15 @@ CPlugIn::CPlugIn(CHost& host, const std::wstring& path)
 
 void CPlugIn::Load() {
     const std::wstring& full = m_path;
-    if (!IsFile(full))
+    if (!IsFile(full)) {
         throw CUserError(Quoted(m_given) + L" does not exist: give --plugin an existing file");
+    }
     // A name without an extension would get one, but for a point at its end.
     const bool hasExtension = full.find(L'.', full.find_last_of(L'\\')) != std::wstring::npos;
     m_library = LoadLibraryW(hasExtension ? full.c_str() : (full + L'.').c_str());
-    if (m_library == nullptr)
+    if (m_library == nullptr) {
         throw CUserError(Quoted(m_given) + L' ' + WhyNotLoaded(GetLastError()));
+    }
     WatchPlugIn(m_library);
 
     m_entry = reinterpret_cast<CEntryPoint*>(reinterpret_cast<void*>(GetProcAddress(m_library, kEntryPoint)));
@@ -75,20 +77,24 @@ void CPlugIn::Reload() {
         complaint = error;
     }
     Load();
-    if (complaint)
+    if (complaint) {
         throw *complaint;
+    }
 }
 
 void CPlugIn::Unload() {
-    if (m_library == nullptr)
+    if (m_library == nullptr) {
         return;
+    }
     const std::wstring refusal = m_host.Send(*m_entry, SDS_UNLOAD);
     const std::wstring leftBehind = m_host.ForgetFunctions();
     Free();
-    if (!refusal.empty())
+    if (!refusal.empty()) {
         throw CUserError(Quoted(m_given) + L" refused to be unloaded: " + refusal);
-    if (!leftBehind.empty())
+    }
+    if (!leftBehind.empty()) {
         throw CUserError(Quoted(m_given) + L" left functions defined when it was unloaded: " + leftBehind);
+    }
 }
 
 void CPlugIn::Free() {

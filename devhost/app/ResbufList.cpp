@@ -21,8 +21,9 @@ std::optional<CValue> ToLispValue(const sds_resbuf& record) {
         case RTSHORT:
             return CValue::Integer(record.value.integer);
         case RTSTR:
-            if (record.value.string == nullptr)
+            if (record.value.string == nullptr) {
                 return std::nullopt;
+            }
             return CValue::String(record.value.string);
         default:
             return std::nullopt;
@@ -48,8 +49,9 @@ sds_resbuf& CResbufList::Add(short type) {
     sds_resbuf* last = m_records.empty() ? nullptr : &m_records.back();
     sds_resbuf& record = m_records.emplace_back();
     record.type = type;
-    if (last != nullptr)
+    if (last != nullptr) {
         last->next = &record;
+    }
     return record;
 }
 
@@ -58,9 +60,10 @@ void AddArgument(CResbufList& list, const CValue& value, std::wstring_view name)
         case VT_INTEGER: {
             const std::int32_t number = value.AsInteger();
             using limits = std::numeric_limits<short>;
-            if (number < limits::min() || number > limits::max())
+            if (number < limits::min() || number > limits::max()) {
                 throw CLispError(std::wstring(name) + L" cannot take " + Print(value) +
                                  L": whole numbers are passed in 16 bits, -32768 to 32767");
+            }
             list.AddShort(short(number));
             break;
         }
@@ -80,8 +83,9 @@ std::optional<CValue> ToLisp(const sds_resbuf* list) {
     std::vector<CValue> elements;
     for (; list != nullptr; list = list->next) {
         const auto element = ToLispValue(*list);
-        if (!element || elements.size() == kMaxRecords)
+        if (!element || elements.size() == kMaxRecords) {
             return std::nullopt;
+        }
         elements.push_back(*element);
     }
     return CValue::List(elements);

@@ -20,8 +20,9 @@ bool IsFolder(const std::wstring& fullPath) {
 }
 
 bool IsFile(const std::wstring& fullPath) {
-    if (fullPath.empty() || fullPath.starts_with(L"\\\\.\\") || fullPath.ends_with(L'\\'))
+    if (fullPath.empty() || fullPath.starts_with(L"\\\\.\\") || fullPath.ends_with(L'\\')) {
         return false;
+    }
     const DWORD attributes = GetFileAttributesW(fullPath.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES &&
            (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
@@ -30,23 +31,29 @@ bool IsFile(const std::wstring& fullPath) {
 CSearchPath::CSearchPath(const std::vector<std::wstring>& folders) {
     for (const std::wstring& folder : folders) {
         const std::wstring full = FullPath(folder);
-        if (!IsFolder(full))
+        if (!IsFolder(full)) {
             throw CUserError(L"the search folder '" + folder +
                              L"' does not exist: give --search an existing folder");
+        }
         m_folders.push_back(full);
     }
 }
 
 std::optional<std::wstring> CSearchPath::Find(const std::wstring& name) const {
-    if (name.empty())
+    if (name.empty()) {
         return std::nullopt;
+    }
     std::vector<std::wstring> places;
-    if (PathIsRelativeW(name.c_str()))
-        for (const std::wstring& folder : m_folders)
+    if (PathIsRelativeW(name.c_str())) {
+        for (const std::wstring& folder : m_folders) {
             places.push_back(folder + L'\\' + name);
+        }
+    }
     places.push_back(name);
-    for (const std::wstring& place : places)
-        if (const std::wstring full = FullPath(place); IsFile(full))
+    for (const std::wstring& place : places) {
+        if (const std::wstring full = FullPath(place); IsFile(full)) {
             return full;
+        }
+    }
     return std::nullopt;
 }

@@ -20,16 +20,18 @@ private:
 
 SSource ReadExpressions(std::wstring_view text) {
     SSource source = ReadText(text);
-    if (source.expressions.empty())
+    if (source.expressions.empty()) {
         throw CLispError(L"there is nothing to evaluate");
+    }
     return source;
 }
 
 }  // namespace
 
 SPreparedTask Prepare(const STask& task) {
-    if (task.isScript)
+    if (task.isScript) {
         return {true, ReadSourceFile(task.text, task.text)};
+    }
     try {
         return {false, ReadExpressions(task.text)};
     } catch (const CLispError& error) {
@@ -38,9 +40,11 @@ SPreparedTask Prepare(const STask& task) {
 }
 
 int CSession::RunTasks(const std::vector<SPreparedTask>& tasks) {
-    for (const SPreparedTask& task : tasks)
-        if (const auto end = Evaluate(task.source, !task.isScript))
+    for (const SPreparedTask& task : tasks) {
+        if (const auto end = Evaluate(task.source, !task.isScript)) {
             return *end;
+        }
+    }
     return kExitDone;
 }
 
@@ -55,17 +59,19 @@ void CSession::RunTyped(const std::wstring& text) {
 
 void CSession::RunItem(const std::wstring& name) {
     m_output.Line(L'(' + name + L')');
-    if (!Evaluate(ReadText(L"(load \"" + name + L".lsp\")"), false))
+    if (!Evaluate(ReadText(L"(load \"" + name + L".lsp\")"), false)) {
         Evaluate(ReadText(L'(' + name + L')'), true);
+    }
 }
 
 std::optional<int> CSession::Evaluate(const SSource& source, bool printing) {
     const CBusyScope busy(m_window);
     try {
-        if (printing)
+        if (printing) {
             EvaluateAndPrint(source);
-        else
+        } else {
             m_evaluator.Run(source);
+        }
         m_output.EndLine();
         return std::nullopt;
     } catch (const SLispExit& exit) {
@@ -75,8 +81,9 @@ std::optional<int> CSession::Evaluate(const SSource& source, bool printing) {
         m_output.EndLine();
     } catch (const CLispError& error) {
         m_output.EndLine();
-        if (!error.IsHandled())
+        if (!error.IsHandled()) {
             m_output.Error(error.Text());
+        }
     }
     return kExitFailed;
 }
@@ -86,8 +93,9 @@ void CSession::EvaluateAndPrint(const SSource& source) {
         const CLispResult result = m_evaluator.Run({source.file, {expression}});
         m_output.EndLine();
         // (princ) at the end of a routine asks for silence.
-        if (result && result->IsSymbol(L""))
+        if (result && result->IsSymbol(L"")) {
             continue;
+        }
         m_output.Line(result ? Print(*result) : L"; no result");
     }
 }

@@ -46,8 +46,9 @@ void Write(DWORD standardHandle, std::wstring_view text) {
 // One line whatever a plug-in put into its text.
 std::wstring OnOneLine(std::wstring_view text) {
     std::wstring line;
-    for (const wchar_t c : text)
+    for (const wchar_t c : text) {
         line += c == L'\n' || c == L'\r' || c == L'\0' ? L' ' : c;
+    }
     return line;
 }
 
@@ -62,8 +63,9 @@ CTextOutput::CTextOutput() {
 }
 
 void CTextOutput::Text(std::wstring_view text) {
-    if (text.empty())
+    if (text.empty()) {
         return;
+    }
     Write(STD_OUTPUT_HANDLE, text);
     m_isLineOpen = text.back() != L'\n';
     Collect(text);
@@ -71,17 +73,20 @@ void CTextOutput::Text(std::wstring_view text) {
 }
 
 void CTextOutput::EndLine() {
-    if (m_isLineOpen)
+    if (m_isLineOpen) {
         Text(L"\n");
+    }
     Tell();
 }
 
 void CTextOutput::Collect(std::wstring_view text) {
-    if (!m_listener)
+    if (!m_listener) {
         return;
+    }
     m_collected += text.substr(0, kMostOfPiece);
-    if (text.size() > kMostOfPiece)
+    if (text.size() > kMostOfPiece) {
         m_collected += text.back() == L'\n' ? L"...\n" : L"...";
+    }
     if (m_collected.size() > kMostCollected) {
         // The older part, up to the end of a line.
         const std::size_t end = m_collected.find(L'\n', kMostCollected / 2);
@@ -90,15 +95,17 @@ void CTextOutput::Collect(std::wstring_view text) {
 }
 
 void CTextOutput::Tell() {
-    if (m_listener && !m_collected.empty())
+    if (m_listener && !m_collected.empty()) {
         m_listener(m_collected);
+    }
     m_collected.clear();
     m_lastTold = GetTickCount64();
 }
 
 void CTextOutput::TellNowAndThen() {
-    if (GetTickCount64() - m_lastTold >= kPause)
+    if (GetTickCount64() - m_lastTold >= kPause) {
         Tell();
+    }
 }
 
 void CTextOutput::Line(std::wstring_view text) {
@@ -113,12 +120,14 @@ void CTextOutput::Error(std::wstring_view text) {
     Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
     Collect(L"; error: " + line + L'\n');
     Tell();
-    if (!m_listener && m_useBoxes)
+    if (!m_listener && m_useBoxes) {
         MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
+    }
 }
 
 void CTextOutput::Help(std::wstring_view text) {
     Write(STD_OUTPUT_HANDLE, text);
-    if (m_useBoxes)
+    if (m_useBoxes) {
         MessageBoxW(nullptr, std::wstring(text).c_str(), kProgram, MB_OK);
+    }
 }

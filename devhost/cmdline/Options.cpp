@@ -16,16 +16,18 @@ public:
     }
 
     const std::wstring& TakeValue(const std::wstring& option, const wchar_t* meaning) {
-        if (AtEnd() || m_rest.front().empty() || m_rest.front().starts_with(L"--"))
+        if (AtEnd() || m_rest.front().empty() || m_rest.front().starts_with(L"--")) {
             throw CUserError(option + L" lacks its value: give " + meaning + L" behind it");
+        }
         return Take();
     }
 
     short TakeNumber(const std::wstring& option, wchar_t lowest, wchar_t highest) {
         const std::wstring range = std::wstring(L"a number from ") + lowest + L" to " + highest;
         const std::wstring& value = TakeValue(option, range.c_str());
-        if (value.size() != 1 || value[0] < lowest || value[0] > highest)
+        if (value.size() != 1 || value[0] < lowest || value[0] > highest) {
             throw CUserError(option + L" does not take '" + value + L"': give " + range);
+        }
         return short(value[0] - L'0');
     }
 
@@ -40,34 +42,35 @@ SOptions ParseOptions(std::span<const std::wstring> arguments) {
     CArguments rest(arguments);
     while (!rest.AtEnd() && !options.help && !options.version) {
         const std::wstring& option = rest.Take();
-        if (option == L"--plugin")
+        if (option == L"--plugin") {
             options.plugIn = rest.TakeValue(option, L"the plug-in's file");
-        else if (option == L"--search")
+        } else if (option == L"--search") {
             options.searchFolders.push_back(rest.TakeValue(option, L"a folder"));
-        else if (option == L"--items")
+        } else if (option == L"--items") {
             options.itemFolders.push_back(rest.TakeValue(option, L"a folder of items"));
-        else if (option == L"--script")
+        } else if (option == L"--script") {
             options.tasks.push_back({true, rest.TakeValue(option, L"a LISP file")});
-        else if (option == L"--eval")
+        } else if (option == L"--eval") {
             options.tasks.push_back({false, rest.TakeValue(option, L"a LISP expression")});
-        else if (option == L"--drawing")
+        } else if (option == L"--drawing") {
             options.drawingFile = rest.TakeValue(option, L"an SVG file");
-        else if (option == L"--stay")
+        } else if (option == L"--stay") {
             options.stay = true;
-        else if (option == L"--lunits")
+        } else if (option == L"--lunits") {
             options.lunits = rest.TakeNumber(option, L'1', L'5');
-        else if (option == L"--luprec")
+        } else if (option == L"--luprec") {
             options.luprec = rest.TakeNumber(option, L'0', L'8');
-        else if (option == L"--check-heap")
+        } else if (option == L"--check-heap") {
             options.checkHeap = true;
-        else if (option == L"--version")
+        } else if (option == L"--version") {
             options.version = true;
-        else if (option == L"--help")
+        } else if (option == L"--help") {
             options.help = true;
-        else if (option.starts_with(L"-"))
+        } else if (option.starts_with(L"-")) {
             throw CUserError(L"the option '" + option + L"' is not known: see --help");
-        else
+        } else {
             throw CUserError(L"the argument '" + option + L"' belongs to no option: see --help");
+        }
     }
     return options;
 }

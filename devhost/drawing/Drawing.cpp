@@ -46,8 +46,9 @@ public:
         Take(line.to);
     }
     void operator()(const SPolyline& line) {
-        for (const SPoint& point : line.points)
+        for (const SPoint& point : line.points) {
             Take(point);
+        }
     }
     void operator()(const SCircle& circle) {
         Take({circle.centre.x - circle.radius, circle.centre.y - circle.radius});
@@ -60,22 +61,26 @@ public:
         // Between its ends an arc reaches farthest where it crosses a direction of the axes.
         constexpr double kQuarter = kTurn / 4;
         for (double angle = std::ceil(arc.start / kQuarter) * kQuarter; angle < arc.start + sweep;
-             angle += kQuarter)
+             angle += kQuarter) {
             Take(PointOnCircle(arc.centre, arc.radius, angle));
+        }
     }
     void operator()(const SText& text) {
         const double length = double(text.text.size()) * kLetterPart / kCapitalPart * text.height;
         const double right[] = {std::cos(text.angle), std::sin(text.angle)};
-        for (const double along : {0.0, length})
-            for (const double up : {0.0, text.height})
+        for (const double along : {0.0, length}) {
+            for (const double up : {0.0, text.height}) {
                 Take({text.place.x + along * right[0] - up * right[1],
                       text.place.y + along * right[1] + up * right[0]});
+            }
+        }
     }
 
 private:
     void Take(SPoint point) {
-        if (!m_box)
+        if (!m_box) {
             m_box = SBox{point, point};
+        }
         m_box->low = {std::min(m_box->low.x, point.x), std::min(m_box->low.y, point.y)};
         m_box->high = {std::max(m_box->high.x, point.x), std::max(m_box->high.y, point.y)};
     }
@@ -95,8 +100,9 @@ SPoint PointOnCircle(SPoint centre, double radius, double angle) {
 }
 
 bool CDrawing::Add(CEntity entity) {
-    if (!std::visit(SCheck(), entity))
+    if (!std::visit(SCheck(), entity)) {
         return false;
+    }
     m_entities.push_back(std::move(entity));
     TellChange();
     return true;
@@ -109,12 +115,14 @@ void CDrawing::Clear() {
 
 std::optional<SBox> CDrawing::Extents() const {
     CBounds bounds;
-    for (const CEntity& entity : m_entities)
+    for (const CEntity& entity : m_entities) {
         std::visit(bounds, entity);
+    }
     return bounds.Box();
 }
 
 void CDrawing::TellChange() const {
-    if (m_onChanged)
+    if (m_onChanged) {
         m_onChanged();
+    }
 }

@@ -12,8 +12,9 @@ struct SOutline {
     std::vector<SPoint> operator()(const SLine& line) const { return {line.from, line.to}; }
     std::vector<SPoint> operator()(const SPolyline& line) const {
         std::vector<SPoint> points = line.points;
-        if (line.closed)
+        if (line.closed) {
             points.push_back(points.front());
+        }
         return points;
     }
     std::vector<SPoint> operator()(const SCircle& circle) const {
@@ -29,8 +30,9 @@ struct SOutline {
         const double angle = 2 * std::acos(1 - part);
         const int chords = int(std::min(std::ceil(sweep / angle), kMostChords));
         std::vector<SPoint> points;
-        for (int i = 0; i <= chords; ++i)
+        for (int i = 0; i <= chords; ++i) {
             points.push_back(PointOnCircle(arc.centre, arc.radius, arc.start + sweep * i / chords));
+        }
         return points;
     }
     std::vector<SPoint> operator()(const SText&) const { return {}; }
@@ -49,18 +51,21 @@ std::optional<SLine> Clip(const SLine& line, const SBox& box) {
     double enter = 0;
     double leave = 1;
     const auto keep = [&](double step, double room) {
-        if (step == 0)
+        if (step == 0) {
             return room >= 0;
+        }
         const double t = room / step;
-        if (step > 0)
+        if (step > 0) {
             leave = std::min(leave, t);
-        else
+        } else {
             enter = std::max(enter, t);
+        }
         return enter <= leave;
     };
     if (!keep(dx, box.high.x - line.from.x) || !keep(-dx, line.from.x - box.low.x) ||
-        !keep(dy, box.high.y - line.from.y) || !keep(-dy, line.from.y - box.low.y))
+        !keep(dy, box.high.y - line.from.y) || !keep(-dy, line.from.y - box.low.y)) {
         return std::nullopt;
+    }
     // An end that lies inside is kept as it is, without rounding.
     const auto at = [&](double t) { return SPoint{line.from.x + t * dx, line.from.y + t * dy}; };
     return SLine{enter > 0 ? at(enter) : line.from, leave < 1 ? at(leave) : line.to};

@@ -15,8 +15,9 @@ public:
         Try(line.to);
     }
     void operator()(const SPolyline& line) {
-        for (const SPoint& point : line.points)
+        for (const SPoint& point : line.points) {
             Try(point);
+        }
     }
     void operator()(const SCircle&) {}
     void operator()(const SArc& arc) {
@@ -28,8 +29,9 @@ public:
 private:
     void Try(SPoint point) {
         const double distance = std::hypot(point.x - m_place.x, point.y - m_place.y);
-        if (distance > m_distance)
+        if (distance > m_distance) {
             return;
+        }
         m_distance = distance;
         m_point = point;
     }
@@ -43,7 +45,8 @@ private:
 
 std::optional<SPoint> NearestEnd(const CDrawing& drawing, SPoint place, double reach) {
     CNearest nearest(place, reach);
-    for (const CEntity& entity : drawing.Entities())
+    for (const CEntity& entity : drawing.Entities()) {
         std::visit(nearest, entity);
+    }
     return nearest.Point();
 }

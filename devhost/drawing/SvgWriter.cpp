@@ -35,8 +35,9 @@ std::string Pair(SPoint point) {
 
 // What XML cannot hold becomes the sign for that.
 bool IsXmlCharacter(std::uint32_t code) {
-    if (code < 0x20)
+    if (code < 0x20) {
         return code == '\t' || code == '\n' || code == '\r';
+    }
     return (code < 0xD800 || code > 0xDFFF) && code != 0xFFFE && code != 0xFFFF && code <= 0x10FFFF;
 }
 
@@ -73,12 +74,13 @@ std::string Escaped(const std::wstring& text) {
                 ++i;
             }
         }
-        if (code == '<')
+        if (code == '<') {
             escaped += "&lt;";
-        else if (code == '&')
+        } else if (code == '&') {
             escaped += "&amp;";
-        else
+        } else {
             AddUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
+        }
     }
     return escaped;
 }
@@ -90,8 +92,9 @@ struct SElement {
     }
     std::string operator()(const SPolyline& line) const {
         std::string points;
-        for (const SPoint& point : line.points)
+        for (const SPoint& point : line.points) {
             points += (points.empty() ? "" : ", ") + Pair(point);
+        }
         return (line.closed ? "<polygon points=\"" : "<polyline points=\"") + points + "\"/>";
     }
     std::string operator()(const SCircle& circle) const {
@@ -101,8 +104,9 @@ struct SElement {
     std::string operator()(const SArc& arc) const {
         const double sweep = SweepOf(arc);
         // A path cannot lead from a point to itself.
-        if (sweep == 2 * std::numbers::pi)
+        if (sweep == 2 * std::numbers::pi) {
             return (*this)(SCircle{arc.centre, arc.radius});
+        }
         const char* large = sweep > std::numbers::pi ? "1" : "0";
         return "<path d=\"M " + Pair(PointOnCircle(arc.centre, arc.radius, arc.start)) + " A " +
                Number(arc.radius) + ' ' + Number(arc.radius) + " 0 " + large + " 0 " +
@@ -140,7 +144,8 @@ std::string ToSvg(const CDrawing& drawing) {
     svg += kStyle;
     svg += "<rect" + Attribute("x", part.low.x) + Attribute("y", -part.high.y) +
            " width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-    for (const CEntity& entity : drawing.Entities())
+    for (const CEntity& entity : drawing.Entities()) {
         svg += std::visit(SElement(), entity) + '\n';
+    }
     return svg + "</svg>\n";
 }

@@ -28,8 +28,9 @@ SBox CViewTransform::Shown() const {
 
 void CViewTransform::ZoomAbout(SPoint pixel, double factor) {
     const double scale = m_scale * factor;
-    if (!(scale >= kSmallestScale && scale <= kLargestScale))
+    if (!(scale >= kSmallestScale && scale <= kLargestScale)) {
         return;
+    }
     const SPoint fixed = ToDrawing(pixel);
     m_scale = scale;
     m_lowerLeft = {fixed.x - pixel.x / m_scale, fixed.y - (m_height - 1 - pixel.y) / m_scale};
@@ -44,8 +45,9 @@ void CViewTransform::Fit(const SBox& box, double margin) {
     const double width = std::max(m_width - 1 - 2 * margin, 1.0);
     const double height = std::max(m_height - 1 - 2 * margin, 1.0);
     double scale = m_scale;
-    if (box.Width() > 0 || box.Height() > 0)
+    if (box.Width() > 0 || box.Height() > 0) {
         scale = 1 / std::max(box.Width() / width, box.Height() / height);
+    }
     m_scale = std::clamp(scale, kSmallestScale, kLargestScale);
     const SPoint middle = box.Middle();
     m_lowerLeft = {middle.x - (m_width - 1) / 2 / m_scale, middle.y - (m_height - 1) / 2 / m_scale};

@@ -14,8 +14,9 @@ SPoint PointOf(const CArguments& arguments, std::size_t index) {
 }
 
 double Length(const CArguments& arguments, std::size_t index) {
-    if (!(arguments.Number(index) > 0))
+    if (!(arguments.Number(index) > 0)) {
         arguments.Refuse(index, L"a number above zero");
+    }
     return arguments.Number(index);
 }
 
@@ -27,12 +28,14 @@ SPolyline Polyline(const CArguments& arguments) {
     SPolyline polyline;
     for (const CValue& element : arguments.List(0)) {
         const auto point = ToPoint(element);
-        if (!point)
+        if (!point) {
             arguments.Fail(Excerpt(element) + L" is no point: each is a list of two or three numbers");
+        }
         polyline.points.push_back({point->x, point->y});
     }
-    if (polyline.points.size() < 2)
+    if (polyline.points.size() < 2) {
         arguments.Refuse(0, L"a list of two points at least");
+    }
     polyline.closed = arguments.Has(1) && !arguments[1].IsNil();
     return polyline;
 }
@@ -54,11 +57,13 @@ template <typename TMake>
 void DefineEntity(CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name, int least, int most,
                   TMake make) {
     const auto run = [&drawing, make](const CArguments& arguments) -> CLispResult {
-        if (drawing.Entities().size() >= kMostEntities)
+        if (drawing.Entities().size() >= kMostEntities) {
             arguments.Fail(L"the drawing holds " + std::to_wstring(kMostEntities) +
                            L" entities already: does a loop draw without end?");
-        if (!drawing.Add(make(arguments)))
+        }
+        if (!drawing.Add(make(arguments))) {
             arguments.Fail(L"a number is beyond 1e12 and cannot be drawn");
+        }
         return CValue::True();
     };
     evaluator.Define(name, TakeArguments(evaluator, name, least, most, run));

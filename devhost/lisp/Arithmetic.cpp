@@ -12,23 +12,27 @@
 namespace {
 
 bool AllWhole(const CArguments& arguments) {
-    for (const CValue& value : arguments.Values())
-        if (value.Type() != VT_INTEGER)
+    for (const CValue& value : arguments.Values()) {
+        if (value.Type() != VT_INTEGER) {
             return false;
+        }
+    }
     return true;
 }
 
 CValue Whole(const CArguments& arguments, std::int64_t result) {
     using limits = std::numeric_limits<std::int32_t>;
-    if (result < limits::min() || result > limits::max())
+    if (result < limits::min() || result > limits::max()) {
         arguments.Fail(L"the whole number " + std::to_wstring(result) +
                        L" does not fit 32 bits: calculate with reals, 1.0 instead of 1");
+    }
     return CValue::Integer(std::int32_t(result));
 }
 
 CValue Real(const CArguments& arguments, double result) {
-    if (!std::isfinite(result))
+    if (!std::isfinite(result)) {
         arguments.Fail(L"the result is no number that a real can hold");
+    }
     return CValue::Real(result);
 }
 
@@ -37,20 +41,23 @@ template <typename TWhole, typename TReal>
 CValue Combine(const CArguments& arguments, TWhole combineWhole, TReal combineReal) {
     if (AllWhole(arguments)) {
         std::int32_t result = arguments.Integer(0);
-        for (std::size_t i = 1; i < arguments.Count(); ++i)
+        for (std::size_t i = 1; i < arguments.Count(); ++i) {
             result = Whole(arguments, combineWhole(std::int64_t(result), std::int64_t(arguments.Integer(i))))
                          .AsInteger();
+        }
         return CValue::Integer(result);
     }
     double result = arguments.Number(0);
-    for (std::size_t i = 1; i < arguments.Count(); ++i)
+    for (std::size_t i = 1; i < arguments.Count(); ++i) {
         result = combineReal(result, arguments.Number(i));
+    }
     return Real(arguments, result);
 }
 
 CLispResult Add(const CArguments& arguments) {
-    if (arguments.Count() == 0)
+    if (arguments.Count() == 0) {
         return CValue::Integer(0);
+    }
     const auto add = [](auto a, auto b) { return a + b; };
     return Combine(arguments, add, add);
 }
@@ -58,24 +65,29 @@ CLispResult Add(const CArguments& arguments) {
 // One argument alone is negated.
 CLispResult Subtract(const CArguments& arguments) {
     const auto subtract = [](auto a, auto b) { return a - b; };
-    if (arguments.Count() != 1)
+    if (arguments.Count() != 1) {
         return Combine(arguments, subtract, subtract);
-    if (AllWhole(arguments))
+    }
+    if (AllWhole(arguments)) {
         return Whole(arguments, -std::int64_t(arguments.Integer(0)));
+    }
     return CValue::Real(-arguments.Number(0));
 }
 
 CLispResult Multiply(const CArguments& arguments) {
-    if (arguments.Count() == 0)
+    if (arguments.Count() == 0) {
         return CValue::Integer(1);
+    }
     const auto multiply = [](auto a, auto b) { return a * b; };
     return Combine(arguments, multiply, multiply);
 }
 
 void RefuseZero(const CArguments& arguments) {
-    for (std::size_t i = 1; i < arguments.Count(); ++i)
-        if (arguments.Number(i) == 0)
+    for (std::size_t i = 1; i < arguments.Count(); ++i) {
+        if (arguments.Number(i) == 0) {
             arguments.Fail(L"division by zero");
+        }
+    }
 }
 
 // Whole numbers give a whole number, cut towards zero: (/ 7 2) is 3.
@@ -93,20 +105,23 @@ CLispResult Remainder(const CArguments& arguments) {
 }
 
 CLispResult Increment(const CArguments& arguments) {
-    if (AllWhole(arguments))
+    if (AllWhole(arguments)) {
         return Whole(arguments, std::int64_t(arguments.Integer(0)) + 1);
+    }
     return Real(arguments, arguments.Number(0) + 1);
 }
 
 CLispResult Decrement(const CArguments& arguments) {
-    if (AllWhole(arguments))
+    if (AllWhole(arguments)) {
         return Whole(arguments, std::int64_t(arguments.Integer(0)) - 1);
+    }
     return Real(arguments, arguments.Number(0) - 1);
 }
 
 CLispResult Absolute(const CArguments& arguments) {
-    if (AllWhole(arguments))
+    if (AllWhole(arguments)) {
         return Whole(arguments, std::abs(std::int64_t(arguments.Integer(0))));
+    }
     return CValue::Real(std::fabs(arguments.Number(0)));
 }
 
@@ -127,8 +142,9 @@ CLispResult GreatestDivisor(const CArguments& arguments) {
 // Combines the bits of whole numbers.
 template <typename TCombine>
 CValue CombineBits(const CArguments& arguments, std::int32_t start, TCombine combine) {
-    for (std::size_t i = 0; i < arguments.Count(); ++i)
+    for (std::size_t i = 0; i < arguments.Count(); ++i) {
         start = combine(start, arguments.Integer(i));
+    }
     return CValue::Integer(start);
 }
 

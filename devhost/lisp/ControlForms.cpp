@@ -9,27 +9,31 @@ namespace {
 // Whether `list` is a proper list with at least `least` elements.
 bool HasElements(const CValue& list, int least) {
     const CValue* rest = &list;
-    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr())
+    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         --least;
+    }
     return rest->IsNil() && least <= 0;
 }
 
 void Require(bool holds, const wchar_t* usage) {
-    if (!holds)
+    if (!holds) {
         throw CLispError(std::wstring(L"write ") + usage);
+    }
 }
 
 CLispResult Quote(CEvaluator&, const CValue& arguments) {
-    if (arguments.Type() != VT_PAIR || !arguments.Cdr().IsNil())
+    if (arguments.Type() != VT_PAIR || !arguments.Cdr().IsNil()) {
         throw CLispError(L"QUOTE takes one argument");
+    }
     return arguments.Car();
 }
 
 // (function F) marks a quoted function; it is one at once when it is a lambda.
 CLispResult FunctionForm(CEvaluator& evaluator, const CValue& arguments) {
     CLispResult quoted = Quote(evaluator, arguments);
-    if (quoted->Type() == VT_PAIR && quoted->Car().IsSymbol(L"LAMBDA"))
+    if (quoted->Type() == VT_PAIR && quoted->Car().IsSymbol(L"LAMBDA")) {
         return evaluator.MakeFunction(L"LAMBDA", quoted->Cdr());
+    }
     return quoted;
 }
 
@@ -39,8 +43,9 @@ CLispResult Setq(CEvaluator& evaluator, const CValue& arguments) {
     for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr().Cdr()) {
         Require(rest->Type() == VT_PAIR && rest->Cdr().Type() == VT_PAIR, kUsage);
         const CValue& name = rest->Car();
-        if (name.Type() != VT_SYMBOL)
+        if (name.Type() != VT_SYMBOL) {
             throw CLispError(L"SETQ cannot assign to " + Excerpt(name) + L": it is no symbol");
+        }
         value = evaluator.EvaluateValue(rest->Cdr().Car(), L"SETQ");
         evaluator.Assign(name.AsSymbol(), value);
     }
@@ -63,8 +68,9 @@ CLispResult Lambda(CEvaluator& evaluator, const CValue& arguments) {
 CLispResult If(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 2) && !HasElements(arguments, 4), L"(if CONDITION THEN [ELSE])");
     const CValue& branches = arguments.Cdr();
-    if (!evaluator.EvaluateValue(arguments.Car(), L"IF").IsNil())
+    if (!evaluator.EvaluateValue(arguments.Car(), L"IF").IsNil()) {
         return evaluator.Evaluate(branches.Car());
+    }
     return branches.Cdr().IsNil() ? CValue() : evaluator.Evaluate(branches.Cdr().Car());
 }
 
@@ -75,41 +81,48 @@ CLispResult Cond(CEvaluator& evaluator, const CValue& arguments) {
         const CValue& clause = rest->Car();
         Require(HasElements(clause, 1), kUsage);
         const CValue condition = evaluator.EvaluateValue(clause.Car(), L"COND");
-        if (!condition.IsNil())
+        if (!condition.IsNil()) {
             return clause.Cdr().IsNil() ? condition : evaluator.EvaluateBody(clause.Cdr());
+        }
     }
     return CValue();
 }
 
 CLispResult And(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 0), L"(and CONDITION ...)");
-    for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr())
-        if (evaluator.EvaluateValue(rest->Car(), L"AND").IsNil())
+    for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr()) {
+        if (evaluator.EvaluateValue(rest->Car(), L"AND").IsNil()) {
             return CValue();
+        }
+    }
     return CValue::True();
 }
 
 CLispResult Or(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 0), L"(or CONDITION ...)");
-    for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr())
-        if (!evaluator.EvaluateValue(rest->Car(), L"OR").IsNil())
+    for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr()) {
+        if (!evaluator.EvaluateValue(rest->Car(), L"OR").IsNil()) {
             return CValue::True();
+        }
+    }
     return CValue();
 }
 
 CLispResult While(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 1), L"(while CONDITION BODY ...)");
     CLispResult result = CValue();
-    while (!evaluator.EvaluateValue(arguments.Car(), L"WHILE").IsNil())
+    while (!evaluator.EvaluateValue(arguments.Car(), L"WHILE").IsNil()) {
         result = evaluator.EvaluateBody(arguments.Cdr());
+    }
     return result;
 }
 
 CLispResult Repeat(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 1), L"(repeat COUNT BODY ...)");
     const CValue count = evaluator.EvaluateValue(arguments.Car(), L"REPEAT");
-    if (count.Type() != VT_INTEGER)
+    if (count.Type() != VT_INTEGER) {
         throw CLispError(L"REPEAT needs a whole number as its count, not " + Excerpt(count));
+    }
     CLispResult result = CValue();
     for (std::int32_t i = 0; i < count.AsInteger(); ++i) {
         evaluator.Step();
@@ -124,8 +137,9 @@ CLispResult Foreach(CEvaluator& evaluator, const CValue& arguments) {
             L"(foreach NAME LIST BODY ...)");
     const std::wstring& name = arguments.Car().AsSymbol();
     const CValue list = evaluator.EvaluateValue(arguments.Cdr().Car(), L"FOREACH");
-    if (!HasElements(list, 0))
+    if (!HasElements(list, 0)) {
         throw CLispError(L"FOREACH needs a list to go through, not " + Excerpt(list));
+    }
 
     struct SRestore {
         ~SRestore() { evaluator.Assign(name, before); }
@@ -173,8 +187,9 @@ CLispResult Mapcar(const CArguments& arguments) {
     for (std::size_t i = 0; i < length; ++i) {
         std::vector<CValue> row;
         row.reserve(lists.size());
-        for (const auto& list : lists)
+        for (const auto& list : lists) {
             row.push_back(list[i]);
+        }
         arguments.Evaluator().Step();
         results.push_back(arguments.Evaluator().ApplyForValue(arguments[0], row));
     }
@@ -184,8 +199,9 @@ CLispResult Mapcar(const CArguments& arguments) {
 // A larger status would lose its upper part on the way to the shells of other systems: 256 would be success.
 CLispResult Exit(const CArguments& arguments) {
     const std::int32_t status = arguments.Has(0) ? arguments.Integer(0) : 0;
-    if (status < 0 || status > 255)
+    if (status < 0 || status > 255) {
         arguments.Refuse(0, L"a status from 0 to 255");
+    }
     throw SLispExit{status};
 }
 

@@ -17,14 +17,17 @@ std::string NumberStart(const std::wstring& text) {
     std::string start;
     for (const wchar_t c : text) {
         const bool blank = c == L' ' || c == L'\t';
-        if (start.empty() && blank)
+        if (start.empty() && blank) {
             continue;
-        if (c > 0x7F || blank)
+        }
+        if (c > 0x7F || blank) {
             break;
+        }
         start += char(c);
     }
-    if (!start.empty() && start[0] == '+')
+    if (!start.empty() && start[0] == '+') {
         start.erase(0, 1);
+    }
     return start;
 }
 
@@ -33,8 +36,9 @@ CLispResult TextToInteger(const CArguments& arguments) {
     const std::string digits = NumberStart(arguments.Text(0));
     std::int32_t number = 0;
     if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec ==
-        std::errc::result_out_of_range)
+        std::errc::result_out_of_range) {
         arguments.Fail(L"the number in " + Excerpt(arguments[0]) + L" does not fit 32 bits");
+    }
     return CValue::Integer(number);
 }
 
@@ -42,8 +46,9 @@ CLispResult TextToReal(const CArguments& arguments) {
     const std::string digits = NumberStart(arguments.Text(0));
     double number = 0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    if (read.ec == std::errc::result_out_of_range)
+    if (read.ec == std::errc::result_out_of_range) {
         arguments.Fail(L"the number in " + Excerpt(arguments[0]) + L" is too large or too small for a real");
+    }
     // Names such as "inf" are numbers to from_chars, but not to LISP.
     return CValue::Real(std::isfinite(number) ? number : 0);
 }
@@ -55,8 +60,9 @@ CLispResult IntegerToText(const CArguments& arguments) {
 // An optional whole number from 0 on, otherwise the system variable's value.
 int Setting(const CArguments& arguments, std::size_t index, const wchar_t* variable, int otherwise) {
     if (arguments.Has(index)) {
-        if (arguments.Integer(index) < 0)
+        if (arguments.Integer(index) < 0) {
             arguments.Refuse(index, L"a whole number from 0 on");
+        }
         return arguments.Integer(index);
     }
     const CValue value = arguments.Evaluator().Host().GetVariable(variable);
@@ -67,18 +73,21 @@ int Setting(const CArguments& arguments, std::size_t index, const wchar_t* varia
 CLispResult LengthToText(const CArguments& arguments) {
     const double length = arguments.Number(0);
     const int units = Setting(arguments, 1, L"LUNITS", LU_DECIMAL);
-    if (units < LU_SCIENTIFIC || units > LU_FRACTIONAL)
+    if (units < LU_SCIENTIFIC || units > LU_FRACTIONAL) {
         arguments.Refuse(1, L"units from 1 to 5");
+    }
     const auto text = FormatLinear(length, units, Setting(arguments, 2, L"LUPREC", 4));
-    if (!text)
+    if (!text) {
         arguments.Refuse(0, L"a finite number");
+    }
     return CValue::String(*text);
 }
 
 // A text is read in every format, whatever units are given. nil when it is no length.
 CLispResult TextToLength(const CArguments& arguments) {
-    if (arguments.Has(1))
+    if (arguments.Has(1)) {
         arguments.Integer(1);
+    }
     const auto length = ParseLinear(arguments.Text(0));
     return length ? CValue::Real(*length) : CValue();
 }
@@ -98,10 +107,12 @@ std::wstring DegreesMinutesSeconds(double degrees, int precision) {
 CLispResult AngleToText(const CArguments& arguments) {
     constexpr double kCircle = 2 * std::numbers::pi;
     double turn = std::fmod(arguments.Number(0), kCircle) / kCircle;
-    if (!std::isfinite(turn))
+    if (!std::isfinite(turn)) {
         arguments.Refuse(0, L"a finite number");
-    if (turn < 0)
+    }
+    if (turn < 0) {
         turn += 1;
+    }
     const int units = Setting(arguments, 1, L"AUNITS", 0);
     const int precision = std::min(Setting(arguments, 2, L"AUPREC", 0), kMaxLinearPrecision);
     switch (units) {

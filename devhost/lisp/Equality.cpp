@@ -9,10 +9,12 @@
 namespace {
 
 bool AreEqualAtoms(const CValue& a, const CValue& b, double tolerance) {
-    if (IsNumber(a) && IsNumber(b))
+    if (IsNumber(a) && IsNumber(b)) {
         return ToReal(a) == ToReal(b) || std::fabs(ToReal(a) - ToReal(b)) <= tolerance;
-    if (a.Type() == VT_STRING && b.Type() == VT_STRING)
+    }
+    if (a.Type() == VT_STRING && b.Type() == VT_STRING) {
         return a.AsString() == b.AsString();
+    }
     return a.IsSameAs(b);
 }
 
@@ -26,8 +28,9 @@ bool IsEqual(CEvaluator& evaluator, const CValue& a, const CValue& b, double tol
         pending.pop_back();
         evaluator.Step();
         if (left->Type() == VT_PAIR && right->Type() == VT_PAIR) {
-            if (left->IsSameAs(*right))
+            if (left->IsSameAs(*right)) {
                 continue;
+            }
             pending.emplace_back(&left->Cdr(), &right->Cdr());
             pending.emplace_back(&left->Car(), &right->Car());
         } else if (!AreEqualAtoms(*left, *right, tolerance)) {

@@ -39,15 +39,18 @@ SDefinition ReadParameters(const std::wstring& name, const CValue& list) {
     const CValue* rest = &list;
     for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         const CValue& parameter = rest->Car();
-        if (parameter.Type() != VT_SYMBOL || parameter.IsSymbol(L"T"))
+        if (parameter.Type() != VT_SYMBOL || parameter.IsSymbol(L"T")) {
             throw CLispError(name + L" cannot have " + Excerpt(parameter) + L" as a parameter");
-        if (parameter.IsSymbol(L"/") && names == &definition.parameters)
+        }
+        if (parameter.IsSymbol(L"/") && names == &definition.parameters) {
             names = &definition.locals;
-        else
+        } else {
             names->push_back(parameter.AsSymbol());
+        }
     }
-    if (!rest->IsNil())
+    if (!rest->IsNil()) {
         throw CLispError(name + L" has " + Excerpt(list) + L" in place of a list of parameters");
+    }
     return definition;
 }
 
@@ -105,8 +108,9 @@ CEvaluator::CEvaluator(ILispHost& host, std::size_t stackBytes) : m_host(host), 
 
 bool CEvaluator::Define(std::wstring_view name, CLispFunction function) {
     const std::wstring upperCase = UpperCase(name);
-    if (!IsSymbolName(name) || IsOfTheProgram(upperCase))
+    if (!IsSymbolName(name) || IsOfTheProgram(upperCase)) {
         return false;
+    }
     m_variables[upperCase] = CValue::Function(std::make_shared<SFunction>(upperCase, std::move(function)));
     return true;
 }
@@ -135,8 +139,9 @@ CLispResult CEvaluator::Run(const SSource& source) {
     }
     try {
         CLispResult result = CValue();
-        for (const CValue& expression : source.expressions)
+        for (const CValue& expression : source.expressions) {
             result = Evaluate(expression);
+        }
         return result;
     } catch (CLispError& error) {
         Settle(error);
@@ -170,16 +175,18 @@ CLispResult CEvaluator::Evaluate(const CValue& expression) {
 
 CValue CEvaluator::EvaluateValue(const CValue& expression, std::wstring_view user) {
     CLispResult result = Evaluate(expression);
-    if (!result)
+    if (!result) {
         throw CLispError(Excerpt(expression) + L", an argument of " + std::wstring(user) +
                          L", has no result");
+    }
     return *std::move(result);
 }
 
 CLispResult CEvaluator::EvaluateBody(const CValue& body) {
     CLispResult result = CValue();
-    for (const CValue* rest = &body; rest->Type() == VT_PAIR; rest = &rest->Cdr())
+    for (const CValue* rest = &body; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         result = Evaluate(rest->Car());
+    }
     return result;
 }
 
@@ -189,36 +196,44 @@ CLispResult CEvaluator::Call(const CValue& call) {
     frame.line = line;
     CheckStack();
     const auto function = FunctionOf(call.Car());
-    if (const auto* special = std::get_if<CSpecialForm>(&function->code))
+    if (const auto* special = std::get_if<CSpecialForm>(&function->code)) {
         return (*special)(*this, call.Cdr());
+    }
 
     std::vector<CValue> arguments;
     const CValue* rest = &call.Cdr();
-    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr())
+    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         arguments.push_back(EvaluateValue(rest->Car(), function->name));
-    if (!rest->IsNil())
+    }
+    if (!rest->IsNil()) {
         throw CLispError(L"the call of " + function->name + L" ends in a dot and " + Excerpt(*rest));
+    }
     frame.line = line;
     return Invoke(*function, arguments);
 }
 
 std::shared_ptr<const SFunction> CEvaluator::FunctionOf(const CValue& head) {
     const CValue function = head.Type() == VT_SYMBOL ? Variable(head.AsSymbol()) : head;
-    if (function.Type() == VT_FUNCTION)
+    if (function.Type() == VT_FUNCTION) {
         return function.AsFunction();
-    if (function.Type() == VT_PAIR && function.Car().IsSymbol(L"LAMBDA"))
+    }
+    if (function.Type() == VT_PAIR && function.Car().IsSymbol(L"LAMBDA")) {
         return MakeFunction(L"LAMBDA", function.Cdr()).AsFunction();
-    if (head.Type() != VT_SYMBOL)
+    }
+    if (head.Type() != VT_SYMBOL) {
         throw CLispError(Excerpt(head) + L" is not the name of a function");
-    if (function.IsNil())
+    }
+    if (function.IsNil()) {
         throw CLispError(L"the function " + head.AsSymbol() +
                          L" is not known: check its name and whether the plug-in defines it");
+    }
     throw CLispError(head.AsSymbol() + L" is no function: its value is " + Excerpt(function));
 }
 
 CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition) {
-    if (definition.Type() != VT_PAIR)
+    if (definition.Type() != VT_PAIR) {
         throw CLispError(name + L" lacks its list of parameters");
+    }
     SDefinition code = ReadParameters(name, definition.Car());
     code.body = definition.Cdr();
     code.file = *m_frame->file;
@@ -234,17 +249,20 @@ CLispResult CEvaluator::Apply(const CValue& function, std::span<const CValue> ar
 CValue CEvaluator::ApplyForValue(const CValue& function, std::span<const CValue> arguments) {
     const auto code = FunctionOf(function);
     CLispResult result = Invoke(*code, arguments);
-    if (!result)
+    if (!result) {
         throw CLispError(L"a call of " + code->name + L" has no result");
+    }
     return *std::move(result);
 }
 
 // `function` is held by the caller: it may lose its name while it runs.
 CLispResult CEvaluator::Invoke(const SFunction& function, std::span<const CValue> arguments) {
-    if (const auto* definition = std::get_if<SDefinition>(&function.code))
+    if (const auto* definition = std::get_if<SDefinition>(&function.code)) {
         return CallDefined(function, *definition, arguments);
-    if (const auto* native = std::get_if<CLispFunction>(&function.code))
+    }
+    if (const auto* native = std::get_if<CLispFunction>(&function.code)) {
         return (*native)(arguments);
+    }
     std::vector<CValue> quoted;
     for (const CValue& argument : arguments) {
         const CValue quote[] = {CValue::Symbol(L"QUOTE"), argument};
@@ -255,14 +273,17 @@ CLispResult CEvaluator::Invoke(const SFunction& function, std::span<const CValue
 
 CLispResult CEvaluator::CallDefined(const SFunction& function, const SDefinition& definition,
                                     std::span<const CValue> arguments) {
-    if (arguments.size() != definition.parameters.size())
+    if (arguments.size() != definition.parameters.size()) {
         throw CLispError(function.name + L" takes " + ArgumentCount(definition.parameters.size()) +
                          L", not " + std::to_wstring(arguments.size()));
+    }
     CBindings bindings(*this);
-    for (std::size_t i = 0; i < arguments.size(); ++i)
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
         bindings.Bind(definition.parameters[i], arguments[i]);
-    for (const std::wstring& local : definition.locals)
+    }
+    for (const std::wstring& local : definition.locals) {
         bindings.Bind(local, {});
+    }
     const CFrameScope frame(*this, {&function.name, &definition.file, definition.line});
     try {
         return EvaluateBody(definition.body);
@@ -275,13 +296,15 @@ CLispResult CEvaluator::CallDefined(const SFunction& function, const SDefinition
 // Where an error is caught first, the variables still have the values that they had when it happened: an
 // *error* function finds the locals of the function that failed, and may be one of them.
 void CEvaluator::Settle(CLispError& error) {
-    if (error.IsSettled())
+    if (error.IsSettled()) {
         return;
+    }
     error.SetPlace(Place());
     error.SetSettled();
     const CValue handler = Variable(L"*ERROR*");
-    if (m_inErrorHandler || handler.IsNil())
+    if (m_inErrorHandler || handler.IsNil()) {
         return;
+    }
     struct SHandling {
         explicit SHandling(bool& flag) : inHandler(flag) { inHandler = true; }
         ~SHandling() { inHandler = false; }
@@ -298,8 +321,9 @@ void CEvaluator::Settle(CLispError& error) {
 }
 
 std::wstring CEvaluator::Place() const {
-    if (m_frame->line == 0)
+    if (m_frame->line == 0) {
         return {};
+    }
     const std::wstring line = std::to_wstring(m_frame->line);
     const std::wstring place = m_frame->file->empty() ? L"line " + line : *m_frame->file + L':' + line;
     return m_frame->function != nullptr ? place + L": in " + *m_frame->function : place;
@@ -311,32 +335,38 @@ CValue CEvaluator::Variable(const std::wstring& name) const {
 }
 
 void CEvaluator::Assign(const std::wstring& name, CValue value) {
-    if (name == L"T")
+    if (name == L"T") {
         throw CLispError(L"T cannot be assigned to");
+    }
     m_variables[name] = std::move(value);
 }
 
 void CEvaluator::Step(std::uint64_t steps) {
     m_steps += steps;
-    if (m_stepLimit != 0 && m_steps > m_stepLimit)
+    if (m_stepLimit != 0 && m_steps > m_stepLimit) {
         throw CLispError(L"the evaluation takes more than " + std::to_wstring(m_stepLimit) + L" steps");
+    }
     CheckMemory();
-    if (m_steps < m_nextPoll)
+    if (m_steps < m_nextPoll) {
         return;
+    }
     m_nextPoll = m_steps + kStepsBetweenPolls;
-    if (m_host.IsEscapePressed())
+    if (m_host.IsEscapePressed()) {
         throw CLispCancelled();
+    }
 }
 
 void CEvaluator::CheckMemory() const {
-    if (CValue::HeldBytes() > m_mostHeld + (m_inErrorHandler ? m_memoryLimit / kReserve : 0))
+    if (CValue::HeldBytes() > m_mostHeld + (m_inErrorHandler ? m_memoryLimit / kReserve : 0)) {
         throw CLispError(L"the values take more than " + std::to_wstring(m_mostHeld / kMegabyte) +
                          L" MB of memory: does a loop collect them without end?");
+    }
 }
 
 void CEvaluator::CheckStack() const {
     const std::uintptr_t here = StackPointer();
     const std::size_t used = m_stackStart > here ? m_stackStart - here : 0;
-    if (used > m_stackBytes + (m_inErrorHandler ? kStackForErrorHandler : 0))
+    if (used > m_stackBytes + (m_inErrorHandler ? kStackForErrorHandler : 0)) {
         throw CLispError(kTooDeep);
+    }
 }

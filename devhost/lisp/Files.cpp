@@ -9,8 +9,9 @@ namespace {
 // nil when the file cannot be opened.
 CLispResult Open(const CArguments& arguments) {
     const std::wstring& mode = arguments.Text(1);
-    if (mode != L"r" && mode != L"w" && mode != L"a")
+    if (mode != L"r" && mode != L"w" && mode != L"a") {
         arguments.Refuse(1, L"\"r\", \"w\" or \"a\"");
+    }
     auto file = arguments.Evaluator().Host().OpenFile(arguments.Text(0), mode == L"r"   ? FM_READ
                                                                          : mode == L"w" ? FM_WRITE
                                                                                         : FM_APPEND);
@@ -31,8 +32,9 @@ CLispResult ReadLine(const CArguments& arguments) {
         return line ? CValue::String(*std::move(line)) : CValue();
     }
     const SLispAnswer answer = arguments.Evaluator().Host().Ask(L"", std::nullopt, Q_TEXT);
-    if (answer.kind == ANSWER_CANCELLED)
+    if (answer.kind == ANSWER_CANCELLED) {
         throw CLispCancelled();
+    }
     return CValue::String(answer.text);
 }
 
@@ -60,10 +62,12 @@ CLispResult Load(const CArguments& arguments) {
     const std::wstring& given = arguments.Text(0);
     const std::wstring name = HasExtension(given) ? given : given + L".lsp";
     const auto path = evaluator.Host().FindFile(name);
-    if (!path && arguments.Has(1))
+    if (!path && arguments.Has(1)) {
         return arguments[1];
-    if (!path)
+    }
+    if (!path) {
         arguments.Fail(L"the file '" + name + L"' is not found: check its name and the search folders");
+    }
     evaluator.CheckStack();
     return evaluator.Run(ReadSourceFile(*path, name));
 }

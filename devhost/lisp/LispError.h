@@ -9,8 +9,9 @@ public:
 
     // Puts the place of the mistake in front of the text, once: the innermost place is the right one.
     void SetPlace(const std::wstring& place) {
-        if (m_needsPlace && !place.empty())
+        if (m_needsPlace && !place.empty()) {
             static_cast<CUserError&>(*this) = CUserError(place + L": " + Text());
+        }
         m_needsPlace = false;
     }
 

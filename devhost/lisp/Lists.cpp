@@ -14,10 +14,12 @@ CLispResult Walk(const CArguments& arguments) {
     const std::wstring name = arguments.Function();
     const CValue* value = &arguments[0];
     for (std::size_t i = name.size() - 2; i > 0; --i) {
-        if (value->IsNil())
+        if (value->IsNil()) {
             return CValue();
-        if (value->Type() != VT_PAIR)
+        }
+        if (value->Type() != VT_PAIR) {
             arguments.Refuse(0, name.size() == 3 ? L"a list" : L"a list nested deeply enough");
+        }
         value = name[i] == L'A' ? &value->Car() : &value->Cdr();
     }
     return *value;
@@ -44,15 +46,19 @@ CLispResult Append(const CArguments& arguments) {
 
 CLispResult Nth(const CArguments& arguments) {
     std::int32_t index = arguments.Integer(0);
-    if (index < 0)
+    if (index < 0) {
         arguments.Refuse(0, L"a whole number from 0 on");
+    }
     const CValue* rest = &arguments[1];
-    for (; rest->Type() == VT_PAIR && index > 0; rest = &rest->Cdr())
+    for (; rest->Type() == VT_PAIR && index > 0; rest = &rest->Cdr()) {
         --index;
-    if (rest->Type() == VT_PAIR)
+    }
+    if (rest->Type() == VT_PAIR) {
         return rest->Car();
-    if (!rest->IsNil())
+    }
+    if (!rest->IsNil()) {
         arguments.Refuse(1, L"a list");
+    }
     return CValue();
 }
 
@@ -73,12 +79,15 @@ CLispResult Last(const CArguments& arguments) {
 
 CLispResult Assoc(const CArguments& arguments) {
     for (const CValue& element : arguments.List(1)) {
-        if (element.IsNil())
+        if (element.IsNil()) {
             continue;
-        if (element.Type() != VT_PAIR)
+        }
+        if (element.Type() != VT_PAIR) {
             arguments.Fail(Excerpt(element) + L" in the list is no pair");
-        if (IsEqual(arguments.Evaluator(), element.Car(), arguments[0]))
+        }
+        if (IsEqual(arguments.Evaluator(), element.Car(), arguments[0])) {
             return element;
+        }
     }
     return CValue();
 }
@@ -86,18 +95,22 @@ CLispResult Assoc(const CArguments& arguments) {
 // The list from the element on.
 CLispResult Member(const CArguments& arguments) {
     const CValue* rest = &arguments[1];
-    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr())
-        if (IsEqual(arguments.Evaluator(), rest->Car(), arguments[0]))
+    for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
+        if (IsEqual(arguments.Evaluator(), rest->Car(), arguments[0])) {
             return *rest;
-    if (!rest->IsNil())
+        }
+    }
+    if (!rest->IsNil()) {
         arguments.Refuse(1, L"a list");
+    }
     return CValue();
 }
 
 CValue Substitute(CEvaluator& evaluator, const CValue& wanted, const CValue& old, const CValue& tree) {
     evaluator.CheckStack();
-    if (IsEqual(evaluator, tree, old))
+    if (IsEqual(evaluator, tree, old)) {
         return wanted;
+    }
     std::vector<CValue> elements;
     const CValue* rest = &tree;
     // A tail can be what is replaced, like everything else in the tree; but not the nil that ends a list.

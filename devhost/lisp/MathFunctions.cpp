@@ -8,18 +8,21 @@
 namespace {
 
 CValue Real(const CArguments& arguments, double result) {
-    if (!std::isfinite(result))
+    if (!std::isfinite(result)) {
         arguments.Fail(L"the result is no number that a real can hold");
+    }
     return CValue::Real(result);
 }
 
 CLispResult Fix(const CArguments& arguments) {
-    if (arguments[0].Type() == VT_INTEGER)
+    if (arguments[0].Type() == VT_INTEGER) {
         return arguments[0];
+    }
     const double whole = std::trunc(arguments.Number(0));
     using limits = std::numeric_limits<std::int32_t>;
-    if (!(whole >= limits::min() && whole <= limits::max()))
+    if (!(whole >= limits::min() && whole <= limits::max())) {
         arguments.Refuse(0, L"a number that fits 32 bits");
+    }
     return CValue::Integer(std::int32_t(whole));
 }
 
@@ -42,8 +45,9 @@ CLispResult ArcTangent(const CArguments& arguments) {
 }
 
 CLispResult SquareRoot(const CArguments& arguments) {
-    if (arguments.Number(0) < 0)
+    if (arguments.Number(0) < 0) {
         arguments.Refuse(0, L"a number that is not negative");
+    }
     return CValue::Real(std::sqrt(arguments.Number(0)));
 }
 
@@ -52,8 +56,9 @@ CLispResult Exponential(const CArguments& arguments) {
 }
 
 CLispResult Logarithm(const CArguments& arguments) {
-    if (arguments.Number(0) <= 0)
+    if (arguments.Number(0) <= 0) {
         arguments.Refuse(0, L"a number above zero");
+    }
     return CValue::Real(std::log(arguments.Number(0)));
 }
 
@@ -61,12 +66,14 @@ CLispResult Logarithm(const CArguments& arguments) {
 CLispResult Power(const CArguments& arguments) {
     const double result = std::pow(arguments.Number(0), arguments.Number(1));
     const bool whole = arguments[0].Type() == VT_INTEGER && arguments[1].Type() == VT_INTEGER;
-    if (!whole || arguments.Integer(1) < 0)
+    if (!whole || arguments.Integer(1) < 0) {
         return Real(arguments, result);
+    }
     // Exact, since every whole number of 32 bits is a real.
     using limits = std::numeric_limits<std::int32_t>;
-    if (!(result >= limits::min() && result <= limits::max()))
+    if (!(result >= limits::min() && result <= limits::max())) {
         arguments.Fail(L"the result does not fit 32 bits: calculate with reals, 2.0 instead of 2");
+    }
     return CValue::Integer(std::int32_t(result));
 }
 

@@ -13,12 +13,13 @@ public:
 
     std::wstring Join() {
         while (!m_rest.empty()) {
-            if (m_rest[0] == L'"')
+            if (m_rest[0] == L'"') {
                 JoinText();
-            else if (m_rest[0] == L';')
+            } else if (m_rest[0] == L';') {
                 SkipComment();
-            else
+            } else {
                 TakeOutside();
+            }
         }
         const std::size_t end = m_joined.find_last_not_of(L' ');
         m_joined.resize(end != std::wstring::npos ? end + 1 : 0);
@@ -28,10 +29,11 @@ public:
 private:
     void TakeOutside() {
         const wchar_t c = m_rest[0];
-        if (c == L' ' || c == L'\t' || IsLineEnd(c))
+        if (c == L' ' || c == L'\t' || IsLineEnd(c)) {
             Replace(1);
-        else
+        } else {
             Take();
+        }
     }
 
     void SkipComment() {
@@ -50,8 +52,9 @@ private:
             } else {
                 Take();
             }
-            if (c == L'"' && !isEscaped)
+            if (c == L'"' && !isEscaped) {
                 return;
+            }
             isEscaped = c == L'\\' && !isEscaped;
         }
     }
@@ -64,8 +67,9 @@ private:
     // Puts a blank in the place of so many characters; none behind another, since lines begin with many.
     void Replace(std::size_t count) {
         m_rest.remove_prefix(count);
-        if (!m_joined.empty() && m_joined.back() != L' ')
+        if (!m_joined.empty() && m_joined.back() != L' ') {
             m_joined += L' ';
+        }
     }
 
     std::wstring_view m_rest;

@@ -7,10 +7,11 @@ namespace {
 
 // Into the file that is argument `index`, or to the host when it is missing or nil.
 void WriteTo(const CArguments& arguments, std::size_t index, const std::wstring& text) {
-    if (arguments.Has(index) && !arguments[index].IsNil())
+    if (arguments.Has(index) && !arguments[index].IsNil()) {
         arguments.WithFile(index, [&](CLispFile& file) { file.Write(text); });
-    else
+    } else {
         arguments.Evaluator().Host().Write(text);
+    }
 }
 
 // What a routine ends with in order to show no result: a symbol without a name.
@@ -19,23 +20,26 @@ CValue Silence() {
 }
 
 CLispResult PrintDisplayed(const CArguments& arguments) {
-    if (arguments.Count() == 0)
+    if (arguments.Count() == 0) {
         return Silence();
+    }
     WriteTo(arguments, 1, Display(arguments[0]));
     return arguments[0];
 }
 
 CLispResult PrintReadable(const CArguments& arguments) {
-    if (arguments.Count() == 0)
+    if (arguments.Count() == 0) {
         return Silence();
+    }
     WriteTo(arguments, 1, Print(arguments[0]));
     return arguments[0];
 }
 
 // On a line of its own.
 CLispResult PrintLine(const CArguments& arguments) {
-    if (arguments.Count() == 0)
+    if (arguments.Count() == 0) {
         return Silence();
+    }
     WriteTo(arguments, 1, L'\n' + Print(arguments[0]) + L' ');
     return arguments[0];
 }
@@ -57,8 +61,9 @@ CLispResult WriteLine(const CArguments& arguments) {
 
 CLispResult WriteCharacter(const CArguments& arguments) {
     const std::int32_t code = arguments.Integer(0);
-    if (code < 1 || code > 0xFFFF)
+    if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
+    }
     WriteTo(arguments, 1, std::wstring(1, wchar_t(code)));
     return arguments[0];
 }

@@ -11,16 +11,20 @@ bool AreEqual(CEvaluator& evaluator, const CValue& a, const CValue& b) {
 }
 
 CLispResult Equals(const CArguments& arguments) {
-    for (std::size_t i = 1; i < arguments.Count(); ++i)
-        if (!AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i]))
+    for (std::size_t i = 1; i < arguments.Count(); ++i) {
+        if (!AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i])) {
             return CValue();
+        }
+    }
     return CValue::True();
 }
 
 CLispResult Differs(const CArguments& arguments) {
-    for (std::size_t i = 1; i < arguments.Count(); ++i)
-        if (AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i]))
+    for (std::size_t i = 1; i < arguments.Count(); ++i) {
+        if (AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i])) {
             return CValue();
+        }
+    }
     return CValue::True();
 }
 
@@ -30,13 +34,15 @@ template <typename TOrder>
 CValue InOrder(const CArguments& arguments, TOrder order) {
     bool holds = true;
     const bool texts = arguments[0].Type() == VT_STRING;
-    if (!texts)
+    if (!texts) {
         arguments.Number(0);
+    }
     for (std::size_t i = 1; i < arguments.Count(); ++i) {
-        if (texts)
+        if (texts) {
             holds = order(arguments.Text(i - 1).compare(arguments.Text(i)), 0) && holds;
-        else
+        } else {
             holds = order(arguments.Number(i - 1), arguments.Number(i)) && holds;
+        }
     }
     return CValue::Truth(holds);
 }
@@ -97,8 +103,9 @@ CLispResult IsBound(const CArguments& arguments) {
 CLispResult TypeOf(const CArguments& arguments) {
     constexpr const wchar_t* kNames[] = {L"NIL", L"INT", L"REAL", L"STR", L"SYM", L"LIST", L"SUBR", L"FILE"};
     const CValue& value = arguments[0];
-    if (value.Type() == VT_FUNCTION && std::holds_alternative<SDefinition>(value.AsFunction()->code))
+    if (value.Type() == VT_FUNCTION && std::holds_alternative<SDefinition>(value.AsFunction()->code)) {
         return CValue::Symbol(L"USUBR");
+    }
     return CValue::Symbol(kNames[value.Type()]);
 }
 

@@ -15,13 +15,15 @@ constexpr std::size_t kExcerptLength = 60;
 constexpr std::size_t kMaxLength = 4'000'000;
 
 std::wstring RealText(double number) {
-    if (std::isnan(number))
+    if (std::isnan(number)) {
         return L"nan";
+    }
     char buffer[64];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
     std::wstring text(buffer, end);
-    if (std::isfinite(number) && text.find_first_of(L".e") == std::wstring::npos)
+    if (std::isfinite(number) && text.find_first_of(L".e") == std::wstring::npos) {
         text += L".0";
+    }
     return text;
 }
 
@@ -92,8 +94,9 @@ std::wstring Text(const CValue& value, bool quoted, std::size_t enough) {
                 rest = &rest->Cdr();
                 continue;
             }
-            if (!rest->IsNil())
+            if (!rest->IsNil()) {
                 text += L" . " + AtomText(*rest, quoted);
+            }
             text += L')';
             rests.pop_back();
         }
@@ -103,8 +106,9 @@ std::wstring Text(const CValue& value, bool quoted, std::size_t enough) {
 
 std::wstring WholeText(const CValue& value, bool quoted) {
     std::wstring text = Text(value, quoted, kMaxLength);
-    if (text.size() > kMaxLength)
+    if (text.size() > kMaxLength) {
         throw CLispError(L"a value is too long to be printed: " + Excerpt(value));
+    }
     return text;
 }
 
@@ -119,10 +123,12 @@ std::wstring Display(const CValue& value) {
 }
 
 std::wstring Excerpt(const CValue& value) {
-    if (value.IsSymbol(L""))
+    if (value.IsSymbol(L"")) {
         return L"what (princ) gives";
+    }
     std::wstring text = Text(value, true, kExcerptLength);
-    if (text.size() > kExcerptLength)
+    if (text.size() > kExcerptLength) {
         text.replace(kExcerptLength, std::wstring::npos, L"...");
+    }
     return text;
 }

@@ -19,10 +19,11 @@ struct SQuestion {
 SQuestion QuestionOf(const CArguments& arguments) {
     SQuestion question;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
-        if (arguments[i].Type() == VT_STRING)
+        if (arguments[i].Type() == VT_STRING) {
             question.prompt = arguments.Text(i);
-        else if (!arguments[i].IsNil())
+        } else if (!arguments[i].IsNil()) {
             question.base = arguments.Point(i);
+        }
     }
     return question;
 }
@@ -49,12 +50,15 @@ CValue AskUntil(const CArguments& arguments, const SQuestion& question, EQuestio
     ILispHost& host = arguments.Evaluator().Host();
     for (;;) {
         const SLispAnswer answer = host.Ask(question.prompt, question.base, kind);
-        if (answer.kind == ANSWER_CANCELLED)
+        if (answer.kind == ANSWER_CANCELLED) {
             throw CLispCancelled();
-        if (answer.kind == ANSWER_NOTHING)
+        }
+        if (answer.kind == ANSWER_NOTHING) {
             return CValue();
-        if (const std::optional<CValue> value = convert(answer))
+        }
+        if (const std::optional<CValue> value = convert(answer)) {
             return *value;
+        }
         host.Write(L"'" + answer.text + L"' is not " + needed + L"\n");
     }
 }
@@ -78,15 +82,17 @@ CLispResult GetDistance(const CArguments& arguments) {
             const auto length = ParseLinear(answer.text);
             return length ? std::optional(CValue::Real(*length)) : std::nullopt;
         }
-        if (!question.base)
+        if (!question.base) {
             return PointValue(answer.point);
+        }
         const SLispPoint& base = *question.base;
         return CValue::Real(
             std::hypot(answer.point.x - base.x, answer.point.y - base.y, answer.point.z - base.z));
     };
     const CValue first = AskUntil(arguments, question, Q_DISTANCE, kNeeded, convert);
-    if (first.Type() != VT_PAIR)
+    if (first.Type() != VT_PAIR) {
         return first;
+    }
     question = {L"Second point: ", ToPoint(first)};
     return AskUntil(arguments, question, Q_DISTANCE, kNeeded, convert);
 }
@@ -105,16 +111,19 @@ CLispResult GetInteger(const CArguments& arguments) {
     return AskUntil(arguments, PromptOf(arguments), Q_TEXT, L"a whole number of 32 bits: type one such as 12",
                     [](const SLispAnswer& answer) -> std::optional<CValue> {
                         std::wstring text = Trimmed(answer.text);
-                        if (text.starts_with(L'+') && !text.starts_with(L"+-"))
+                        if (text.starts_with(L'+') && !text.starts_with(L"+-")) {
                             text.erase(0, 1);
+                        }
                         std::string digits;
-                        for (const wchar_t c : text)
+                        for (const wchar_t c : text) {
                             digits += c <= 0x7F ? char(c) : '?';
+                        }
                         std::int32_t number = 0;
                         const char* const end = digits.data() + digits.size();
                         const auto read = std::from_chars(digits.data(), end, number);
-                        if (read.ec != std::errc() || read.ptr != end)
+                        if (read.ec != std::errc() || read.ptr != end) {
                             return std::nullopt;
+                        }
                         return CValue::Integer(number);
                     });
 }
@@ -123,9 +132,11 @@ CLispResult GetInteger(const CArguments& arguments) {
 // Enter.
 CLispResult GetText(const CArguments& arguments) {
     SQuestion question;
-    for (std::size_t i = 0; i < arguments.Count(); ++i)
-        if (arguments[i].Type() == VT_STRING || i == 1)
+    for (std::size_t i = 0; i < arguments.Count(); ++i) {
+        if (arguments[i].Type() == VT_STRING || i == 1) {
             question.prompt = arguments.Text(i);
+        }
+    }
     const CValue text = AskUntil(arguments, question, Q_TEXT, L"a text", [](const SLispAnswer& answer) {
         return std::optional(CValue::String(answer.text));
     });

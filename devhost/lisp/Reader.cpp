@@ -24,8 +24,9 @@ bool LooksLikeNumber(std::wstring_view word) {
     const auto skipSign = [&] { i += i < word.size() && (word[i] == L'+' || word[i] == L'-'); };
     const auto skipDigits = [&] {
         const std::size_t start = i;
-        while (i < word.size() && word[i] >= L'0' && word[i] <= L'9')
+        while (i < word.size() && word[i] >= L'0' && word[i] <= L'9') {
             ++i;
+        }
         return i - start;
     };
     skipSign();
@@ -34,13 +35,15 @@ bool LooksLikeNumber(std::wstring_view word) {
         ++i;
         digits += skipDigits();
     }
-    if (digits == 0)
+    if (digits == 0) {
         return false;
+    }
     if (i < word.size() && (word[i] == L'e' || word[i] == L'E')) {
         ++i;
         skipSign();
-        if (skipDigits() == 0)
+        if (skipDigits() == 0) {
             return false;
+        }
     }
     return i == word.size();
 }
@@ -57,8 +60,9 @@ std::optional<TNumber> ToNumber(const std::string& digits) {
 
 std::optional<CValue> CReader::Read() {
     SkipBlanks();
-    if (AtEnd())
+    if (AtEnd()) {
         return std::nullopt;
+    }
     return ReadExpression(0);
 }
 
@@ -75,34 +79,39 @@ wchar_t CReader::Take() {
 
 void CReader::SkipBlanks() {
     while (!AtEnd()) {
-        if (Peek() == L';')
+        if (Peek() == L';') {
             SkipComment();
-        else if (IsBlank(Peek()))
+        } else if (IsBlank(Peek())) {
             Take();
-        else
+        } else {
             return;
+        }
     }
 }
 
 void CReader::SkipComment() {
     const SPosition start = m_position;
     if (m_text.substr(m_next, 2) != L";|") {
-        while (!AtEnd() && Peek() != L'\n')
+        while (!AtEnd() && Peek() != L'\n') {
             Take();
+        }
         return;
     }
     const std::size_t end = m_text.find(L"|;", m_next + 2);
-    if (end == std::wstring_view::npos)
+    if (end == std::wstring_view::npos) {
         Fail(start, L"a comment is not closed");
-    while (m_next != end + 2)
+    }
+    while (m_next != end + 2) {
         Take();
+    }
 }
 
 // At the first character of an expression.
 CValue CReader::ReadExpression(int depth) {
     const SPosition start = m_position;
-    if (depth > kMaxDepth)
+    if (depth > kMaxDepth) {
         Fail(start, L"expressions are nested more than " + std::to_wstring(kMaxDepth) + L" deep");
+    }
     switch (Peek()) {
         case L'(':
             Take();
@@ -115,8 +124,9 @@ CValue CReader::ReadExpression(int depth) {
         case L'\'': {
             Take();
             SkipBlanks();
-            if (AtEnd() || Peek() == L')')
+            if (AtEnd() || Peek() == L')') {
                 Fail(start, L"nothing follows the quote");
+            }
             const CValue quoted[] = {CValue::Symbol(L"QUOTE"), ReadExpression(depth + 1)};
             return CValue::List(quoted, {}, start.line);
         }
@@ -129,8 +139,9 @@ CValue CReader::ReadList(SPosition start, int depth) {
     std::vector<CValue> elements;
     for (;;) {
         SkipBlanks();
-        if (AtEnd())
+        if (AtEnd()) {
             Fail(start, L"a parenthesis is not closed");
+        }
         if (Peek() == L')') {
             Take();
             return CValue::List(elements, {}, start.line);
@@ -142,8 +153,9 @@ CValue CReader::ReadList(SPosition start, int depth) {
             continue;
         }
         Take();
-        if (elements.empty())
+        if (elements.empty()) {
             Fail(position, L"nothing stands in front of the dot");
+        }
         CValue tail = ReadTail(position, depth);
         return CValue::List(elements, std::move(tail), start.line);
     }
@@ -152,12 +164,14 @@ CValue CReader::ReadList(SPosition start, int depth) {
 // What stands between the dot of a dotted pair and the closing parenthesis.
 CValue CReader::ReadTail(SPosition dot, int depth) {
     SkipBlanks();
-    if (AtEnd() || Peek() == L')')
+    if (AtEnd() || Peek() == L')') {
         Fail(dot, L"nothing follows the dot");
+    }
     CValue tail = ReadExpression(depth + 1);
     SkipBlanks();
-    if (AtEnd() || Peek() != L')')
+    if (AtEnd() || Peek() != L')') {
         Fail(dot, L"more than one expression follows the dot");
+    }
     Take();
     return tail;
 }
@@ -166,8 +180,9 @@ CValue CReader::ReadString(SPosition start) {
     const std::size_t quote = m_next - 1;
     std::wstring text;
     for (;;) {
-        if (AtEnd())
+        if (AtEnd()) {
             Fail(start, L"a text is not closed");
+        }
         const SPosition position = m_position;
         wchar_t c = Take();
         if (c == L'"') {
@@ -175,18 +190,20 @@ CValue CReader::ReadString(SPosition start) {
             return CValue::String(std::move(text));
         }
         if (c == L'\\') {
-            if (AtEnd())
+            if (AtEnd()) {
                 Fail(start, L"a text is not closed");
+            }
             c = Take();
-            if (c == L'n')
+            if (c == L'n') {
                 c = L'\n';
-            else if (c == L'r')
+            } else if (c == L'r') {
                 c = L'\r';
-            else if (c == L't')
+            } else if (c == L't') {
                 c = L'\t';
-            else if (c != L'"' && c != L'\\')
+            } else if (c != L'"' && c != L'\\') {
                 Fail(position, std::wstring(L"the escape \\") + c +
                                    L" is not known: a backslash in a text is written \\\\");
+            }
         }
         text += c;
     }
@@ -194,30 +211,36 @@ CValue CReader::ReadString(SPosition start) {
 
 std::wstring_view CReader::TakeWord() {
     const std::size_t start = m_next;
-    while (!AtEnd() && !EndsWord(Peek()))
+    while (!AtEnd() && !EndsWord(Peek())) {
         Take();
+    }
     return m_text.substr(start, m_next - start);
 }
 
 CValue CReader::ReadWord(SPosition start) {
     const std::wstring_view word = TakeWord();
-    if (word == L".")
+    if (word == L".") {
         Fail(start, L"a dot stands outside a list");
-    if (!LooksLikeNumber(word))
+    }
+    if (!LooksLikeNumber(word)) {
         return CValue::Symbol(word);
+    }
 
     std::string digits(word.begin(), word.end());
-    if (digits[0] == '+')
+    if (digits[0] == '+') {
         digits.erase(0, 1);
+    }
     if (digits.find_first_of(".eE") == std::string::npos) {
         const auto number = ToNumber<std::int32_t>(digits);
-        if (!number)
+        if (!number) {
             Fail(start, L"the whole number " + std::wstring(word) + L" does not fit 32 bits");
+        }
         return CValue::Integer(*number);
     }
     const auto number = ToNumber<double>(digits);
-    if (!number)
+    if (!number) {
         Fail(start, L"the real " + std::wstring(word) + L" is too large or too small");
+    }
     return CValue::Real(*number);
 }
 

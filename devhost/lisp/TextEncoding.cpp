@@ -21,17 +21,20 @@ std::optional<char32_t> TakeCodePoint(std::string_view& bytes) {
     // cppcheck-suppress containerOutOfBounds; who calls makes sure that there is a byte
     const auto lead = static_cast<unsigned char>(bytes[0]);
     const std::size_t more = lead < 0x80 ? 0 : lead < 0xC0 ? 4 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-    if (more == 4 || lead > 0xF7 || bytes.size() <= more)
+    if (more == 4 || lead > 0xF7 || bytes.size() <= more) {
         return std::nullopt;
+    }
     char32_t code = more == 0 ? lead : char32_t(lead & (0x3F >> more));
     for (std::size_t i = 1; i <= more; ++i) {
         const auto next = static_cast<unsigned char>(bytes[i]);
-        if ((next & 0xC0) != 0x80)
+        if ((next & 0xC0) != 0x80) {
             return std::nullopt;
+        }
         code = code << 6 | (next & 0x3F);
     }
-    if (code < kLeast[more] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+    if (code < kLeast[more] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF)) {
         return std::nullopt;
+    }
     bytes.remove_prefix(more + 1);
     return code;
 }
@@ -51,8 +54,9 @@ std::wstring DecodeSource(std::string_view bytes) {
     std::wstring text;
     for (std::string_view rest = bytes; !rest.empty();) {
         const auto code = TakeCodePoint(rest);
-        if (!code)
+        if (!code) {
             return FromWindows1252(bytes);
+        }
         Append(text, *code);
     }
     return text;
@@ -69,9 +73,11 @@ std::wstring FromWindows1252(std::string_view bytes) {
 
 std::optional<char> ToWindows1252(wchar_t character) {
     const auto* found = std::find(std::begin(kWindows1252), std::end(kWindows1252), character);
-    if (found != std::end(kWindows1252))
+    if (found != std::end(kWindows1252)) {
         return char(kFirst + (found - kWindows1252));
-    if (character > 0xFF || (character >= kFirst && character <= kLast))
+    }
+    if (character > 0xFF || (character >= kFirst && character <= kLast)) {
         return std::nullopt;
+    }
     return char(character);
 }

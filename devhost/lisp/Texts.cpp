@@ -15,8 +15,9 @@ CLispResult Join(const CArguments& arguments) {
     std::wstring text;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         text += arguments.Text(i);
-        if (text.size() > kMaxLength)
+        if (text.size() > kMaxLength) {
             arguments.Fail(L"the text would be longer than " + std::to_wstring(kMaxLength) + L" characters");
+        }
     }
     arguments.Evaluator().Step(text.size() / 16);
     return CValue::String(std::move(text));
@@ -25,19 +26,23 @@ CLispResult Join(const CArguments& arguments) {
 // Of all texts together.
 CLispResult Length(const CArguments& arguments) {
     std::int64_t length = 0;
-    for (std::size_t i = 0; i < arguments.Count(); ++i)
+    for (std::size_t i = 0; i < arguments.Count(); ++i) {
         length += std::int64_t(arguments.Text(i).size());
-    if (length > INT32_MAX)
+    }
+    if (length > INT32_MAX) {
         arguments.Fail(L"the length does not fit 32 bits");
+    }
     return CValue::Integer(std::int32_t(length));
 }
 
 CLispResult Part(const CArguments& arguments) {
     const std::wstring& text = arguments.Text(0);
-    if (arguments.Integer(1) < 1)
+    if (arguments.Integer(1) < 1) {
         arguments.Refuse(1, L"a place from 1 on");
-    if (arguments.Has(2) && arguments.Integer(2) < 0)
+    }
+    if (arguments.Has(2) && arguments.Integer(2) < 0) {
         arguments.Refuse(2, L"a length from 0 on");
+    }
     const std::size_t start = std::size_t(arguments.Integer(1)) - 1;
     const std::size_t length = arguments.Has(2) ? std::size_t(arguments.Integer(2)) : text.size();
     return CValue::String(start < text.size() ? text.substr(start, length) : L"");
@@ -56,21 +61,24 @@ wchar_t OtherCase(wchar_t c, bool toCapital) {
 CLispResult Case(const CArguments& arguments) {
     std::wstring text = arguments.Text(0);
     const bool toCapital = !arguments.Has(1) || arguments[1].IsNil();
-    for (wchar_t& c : text)
+    for (wchar_t& c : text) {
         c = OtherCase(c, toCapital);
+    }
     return CValue::String(std::move(text));
 }
 
 CLispResult Code(const CArguments& arguments) {
-    if (arguments.Text(0).empty())
+    if (arguments.Text(0).empty()) {
         arguments.Refuse(0, L"a text of at least one character");
+    }
     return CValue::Integer(std::int32_t(arguments.Text(0)[0]));
 }
 
 CLispResult Character(const CArguments& arguments) {
     const std::int32_t code = arguments.Integer(0);
-    if (code < 1 || code > 0xFFFF)
+    if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
+    }
     return CValue::String(std::wstring(1, wchar_t(code)));
 }
 

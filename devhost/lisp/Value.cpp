@@ -57,9 +57,11 @@ const std::size_t CPair::kSize = sizeof(CPair) + kOfTheHeap;
 CPair::~CPair() {
     heldBytes -= kSize;
     std::vector<CValue> parts;
-    for (CValue* part : {&m_car, &m_cdr})
-        if (part->Type() == VT_PAIR || part->Type() == VT_FUNCTION)
+    for (CValue* part : {&m_car, &m_cdr}) {
+        if (part->Type() == VT_PAIR || part->Type() == VT_FUNCTION) {
             parts.push_back(std::move(*part));
+        }
+    }
     CValue::LetGo(parts);
 }
 
@@ -91,8 +93,9 @@ void CValue::MovePartsTo(std::vector<CValue>& parts) {
     } else if (Type() == VT_FUNCTION) {
         const auto& function = std::get<VT_FUNCTION>(m_data);
         auto* definition = std::get_if<SDefinition>(&function->code);
-        if (definition != nullptr && function.use_count() == 1)
+        if (definition != nullptr && function.use_count() == 1) {
             parts.push_back(std::move(definition->body));
+        }
     }
 }
 
@@ -128,8 +131,9 @@ CValue CValue::String(std::wstring text) {
 CValue CValue::Symbol(std::wstring_view name) {
     CValue value;
     std::wstring upperCase = UpperCase(name);
-    if (upperCase != L"NIL")
+    if (upperCase != L"NIL") {
         value.m_data = SSymbol{std::make_shared<const CHeldText>(std::move(upperCase))};
+    }
     return value;
 }
 
@@ -140,8 +144,9 @@ CValue CValue::Pair(CValue car, CValue cdr, int line) {
 }
 
 CValue CValue::List(std::span<const CValue> elements, CValue tail, int line) {
-    for (std::size_t i = elements.size(); i-- > 0;)
+    for (std::size_t i = elements.size(); i-- > 0;) {
         tail = Pair(elements[i], std::move(tail), i == 0 ? line : 0);
+    }
     return tail;
 }
 
@@ -195,8 +200,9 @@ int CValue::Line() const {
 }
 
 bool CValue::IsSameAs(const CValue& other) const {
-    if (Type() != other.Type())
+    if (Type() != other.Type()) {
         return false;
+    }
     switch (Type()) {
         case VT_INTEGER:
             return AsInteger() == other.AsInteger();
@@ -219,8 +225,10 @@ bool CValue::IsSameAs(const CValue& other) const {
 
 std::wstring UpperCase(std::wstring_view name) {
     std::wstring result(name);
-    for (wchar_t& c : result)
-        if (c >= L'a' && c <= L'z')
+    for (wchar_t& c : result) {
+        if (c >= L'a' && c <= L'z') {
             c = wchar_t(c - L'a' + L'A');
+        }
+    }
     return result;
 }

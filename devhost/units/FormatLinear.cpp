@@ -78,15 +78,17 @@ std::string Architectural(double magnitude, int precision) {
     const SFraction inches = RoundToFraction(magnitude, precision);
     std::string text =
         FeetPrefix(inches.whole / kInchesPerFoot) + std::to_string(inches.whole % kInchesPerFoot);
-    if (inches.numerator != 0)
+    if (inches.numerator != 0) {
         text += ' ' + FractionText(inches);
+    }
     return text + '"';
 }
 
 std::string Fractional(double magnitude, int precision) {
     const SFraction length = RoundToFraction(magnitude, precision);
-    if (length.numerator == 0)
+    if (length.numerator == 0) {
         return std::to_string(length.whole);
+    }
     return (length.whole != 0 ? std::to_string(length.whole) + ' ' : "") + FractionText(length);
 }
 
@@ -110,20 +112,23 @@ std::string Magnitude(double magnitude, int units, int precision) {
 // Whether the text shows a digit other than zero. A scientific text of a number other than zero starts
 // with one, so that its exponent does not matter.
 bool ShowsMoreThanZero(const std::string& text, int units) {
-    if (units == LU_SCIENTIFIC)
+    if (units == LU_SCIENTIFIC) {
         return text[0] != '0';
+    }
     return text.find_first_of("123456789") != std::string::npos;
 }
 
 }  // namespace
 
 std::optional<std::wstring> FormatLinear(double value, int units, int precision) {
-    if (!std::isfinite(value))
+    if (!std::isfinite(value)) {
         return std::nullopt;
+    }
     const double magnitude = std::fabs(value) < kSmallestLength ? 0 : std::fabs(value);
     const std::string text = Magnitude(magnitude, units, std::clamp(precision, 0, kMaxLinearPrecision));
     std::wstring result(text.begin(), text.end());
-    if (value < 0 && ShowsMoreThanZero(text, units))
+    if (value < 0 && ShowsMoreThanZero(text, units)) {
         result.insert(result.begin(), L'-');
+    }
     return result;
 }

@@ -26,8 +26,9 @@ public:
     bool AtDigit() const { return !m_text.empty() && IsDigit(m_text.front()); }
 
     bool Take(wchar_t wanted) {
-        if (!At(wanted))
+        if (!At(wanted)) {
             return false;
+        }
         m_text.remove_prefix(1);
         return true;
     }
@@ -63,16 +64,18 @@ SDecimal TakeDecimal(CCursor& cursor) {
     SDecimal number;
     number.whole = cursor.TakeDigits();
     number.hasPoint = cursor.Take(L'.');
-    if (number.hasPoint)
+    if (number.hasPoint) {
         number.fraction = cursor.TakeDigits();
+    }
     return number;
 }
 
 std::optional<double> ToDouble(const std::string& digits) {
     double value = 0.0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (read.ec != std::errc() || read.ptr != digits.data() + digits.size())
+    if (read.ec != std::errc() || read.ptr != digits.data() + digits.size()) {
         return std::nullopt;
+    }
     return value;
 }
 
@@ -104,66 +107,80 @@ SDecimal AddFeet(const SDecimal& feet, const SDecimal& inches) {
 // What the fraction `numerator`/… behind `whole` comes to, the cursor being at the slash. The sum is exact
 // for every fraction that FormatLinear writes.
 std::optional<double> TakeFraction(CCursor& cursor, const SDecimal& whole, const SDecimal& numerator) {
-    if (whole.hasPoint || numerator.hasPoint || !cursor.Take(L'/') || !cursor.AtDigit())
+    if (whole.hasPoint || numerator.hasPoint || !cursor.Take(L'/') || !cursor.AtDigit()) {
         return std::nullopt;
+    }
     const auto w = ToDouble(whole);
     const auto n = ToDouble(numerator);
     const auto d = ToDouble(SDecimal{cursor.TakeDigits(), ""});
-    if (!w || !n || !d || *d == 0)
+    if (!w || !n || !d || *d == 0) {
         return std::nullopt;
+    }
     const double value = (*w * *d + *n) / *d;
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 // Everything from the inches on: `first` is the number that was read last, `feet` what came before it.
 std::optional<double> TakeInches(CCursor& cursor, const SDecimal& feet, const SDecimal& first) {
-    if (!first.IsNumber())
+    if (!first.IsNumber()) {
         return std::nullopt;
+    }
     std::optional<double> value;
-    if (cursor.At(L'/'))
+    if (cursor.At(L'/')) {
         value = TakeFraction(cursor, AddFeet(feet, {}), first);
-    else if (cursor.Take(L'-') || cursor.TakeBlanks())
+    } else if (cursor.Take(L'-') || cursor.TakeBlanks()) {
         value = cursor.AtDigit() ? TakeFraction(cursor, AddFeet(feet, first), {cursor.TakeDigits(), ""})
                                  : std::nullopt;
-    else
+    } else {
         value = ToDouble(AddFeet(feet, first));
+    }
     cursor.Take(L'"');
     return value;
 }
 
 std::optional<double> TakeExponent(CCursor& cursor, const SDecimal& mantissa) {
     const bool negative = cursor.Take(L'-');
-    if (!negative)
+    if (!negative) {
         cursor.Take(L'+');
-    if (!cursor.AtDigit())
+    }
+    if (!cursor.AtDigit()) {
         return std::nullopt;
+    }
     return ToDouble('0' + mantissa.whole + '.' + mantissa.fraction + (negative ? "e-" : "e") +
                     cursor.TakeDigits());
 }
 
 std::optional<double> TakeMagnitude(CCursor& cursor) {
     const SDecimal first = TakeDecimal(cursor);
-    if (!first.IsNumber())
+    if (!first.IsNumber()) {
         return std::nullopt;
-    if (cursor.Take(L'e') || cursor.Take(L'E'))
+    }
+    if (cursor.Take(L'e') || cursor.Take(L'E')) {
         return TakeExponent(cursor, first);
-    if (!cursor.Take(L'\''))
+    }
+    if (!cursor.Take(L'\'')) {
         return TakeInches(cursor, {}, first);
-    if (cursor.AtEnd())
+    }
+    if (cursor.AtEnd()) {
         return ToDouble(AddFeet(first, {}));
-    if (first.hasPoint)
+    }
+    if (first.hasPoint) {
         return std::nullopt;
-    if (!cursor.Take(L'-'))
+    }
+    if (!cursor.Take(L'-')) {
         cursor.TakeBlanks();
+    }
     const SDecimal inches = TakeDecimal(cursor);
     return TakeInches(cursor, first, inches);
 }
 
 std::wstring_view TrimBlanks(std::wstring_view text) {
-    while (!text.empty() && IsBlank(text.front()))
+    while (!text.empty() && IsBlank(text.front())) {
         text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back()))
+    }
+    while (!text.empty() && IsBlank(text.back())) {
         text.remove_suffix(1);
+    }
     return text;
 }
 
@@ -172,11 +189,13 @@ std::wstring_view TrimBlanks(std::wstring_view text) {
 std::optional<double> ParseLinear(std::wstring_view text) {
     CCursor cursor(TrimBlanks(text));
     const bool negative = cursor.Take(L'-');
-    if (!negative)
+    if (!negative) {
         cursor.Take(L'+');
+    }
     const std::optional<double> magnitude = TakeMagnitude(cursor);
-    if (!magnitude || !cursor.AtEnd())
+    if (!magnitude || !cursor.AtEnd()) {
         return std::nullopt;
+    }
     // Adding zero turns a negative zero into a plain one.
     return (negative ? -*magnitude : *magnitude) + 0.0;
 }

@@ -39,15 +39,17 @@ CDrawingView::CDrawingView(HWND parent, int id, CDrawing& drawing) : m_drawing(d
     RegisterDrawingClass();
     CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, parent,
                     reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), this);
-    if (m_window == nullptr)
+    if (m_window == nullptr) {
         throw CUserError(L"the drawing area cannot be opened");
+    }
     m_drawing.SetListener([this] { RefreshScene(); });
 }
 
 CDrawingView::~CDrawingView() {
     m_drawing.SetListener(nullptr);
-    if (m_window != nullptr)
+    if (m_window != nullptr) {
         DestroyWindow(m_window);
+    }
 }
 
 SPoint CDrawingView::MousePoint() const {
@@ -120,8 +122,9 @@ LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             OnWheel(PlaceIn(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
             return 0;
         case WM_SETCURSOR:
-            if (LOWORD(lParam) != HTCLIENT)
+            if (LOWORD(lParam) != HTCLIENT) {
                 break;
+            }
             // Otherwise the crosshair is the cursor.
             SetCursor(m_isPanning ? LoadCursorW(nullptr, IDC_SIZEALL) : nullptr);
             return TRUE;
@@ -158,8 +161,9 @@ void CDrawingView::OnMouseLeave() {
 }
 
 void CDrawingView::OnLeftButton(POINT pixel) {
-    if (!m_onPicked)
+    if (!m_onPicked) {
         return;
+    }
     MoveMouse(pixel);
     const SPoint point = MousePoint();
     m_crosses.push_back(point);
@@ -184,12 +188,14 @@ void CDrawingView::OnWheel(POINT screen, int delta) {
 void CDrawingView::MoveMouse(POINT pixel) {
     m_mouse = pixel;
     m_snapped.reset();
-    if (m_hasSnap && m_onPicked)
+    if (m_hasSnap && m_onPicked) {
         m_snapped = NearestEnd(m_drawing, m_view.ToDrawing(AsPoint(pixel)),
                                m_scale(kSnapReach) * m_view.UnitsPerPixel());
+    }
     Invalidate();
-    if (m_onMove)
+    if (m_onMove) {
         m_onMove(MousePoint());
+    }
 }
 
 void CDrawingView::RefreshScene() {
@@ -199,6 +205,7 @@ void CDrawingView::RefreshScene() {
 
 void CDrawingView::Invalidate() {
     // The drawing may change after the window was closed, and no window means every one to the system.
-    if (m_window != nullptr)
+    if (m_window != nullptr) {
         InvalidateRect(m_window, nullptr, FALSE);
+    }
 }

@@ -47,21 +47,25 @@ void CDrawingView::Paint() {
 
 void CDrawingView::PaintScene(HDC dc, const RECT& client) {
     const bool isNew = m_scene == nullptr;
-    if (isNew)
+    if (isNew) {
         m_scene.reset(CreateCompatibleBitmap(dc, client.right, client.bottom));
+    }
     const CBitmapDc scene(dc, m_scene.get());
-    if (isNew)
+    if (isNew) {
         ::PaintScene(scene.Get(), client, m_drawing, m_view);
+    }
     BitBlt(dc, 0, 0, client.right, client.bottom, scene.Get(), 0, 0, SRCCOPY);
 }
 
 void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
-    if (!m_base)
+    if (!m_base) {
         return;
+    }
     const auto line = Clip({m_view.ToPixel(*m_base), m_view.ToPixel(MousePoint())},
                            {{0, 0}, {double(client.right), double(client.bottom)}});
-    if (!line)
+    if (!line) {
         return;
+    }
     const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
     const CSelection selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
@@ -69,16 +73,18 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
 }
 
 void CDrawingView::PaintCrosshair(HDC dc) const {
-    if (!m_isMouseInside || m_isPanning)
+    if (!m_isMouseInside || m_isPanning) {
         return;
+    }
     const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
     const CSelection selection(dc, pen);
     DrawCross(dc, m_mouse, m_scale(kCrosshairArm));
 }
 
 void CDrawingView::PaintSnapMark(HDC dc) const {
-    if (!m_snapped)
+    if (!m_snapped) {
         return;
+    }
     const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
     const CSelection penSelection(dc, pen);
     const CSelection brushSelection(dc, GetStockObject(NULL_BRUSH));
@@ -90,8 +96,9 @@ void CDrawingView::PaintSnapMark(HDC dc) const {
 void CDrawingView::PaintCrosses(HDC dc) const {
     const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
     const CSelection selection(dc, pen);
-    for (const SPoint& cross : m_crosses)
+    for (const SPoint& cross : m_crosses) {
         DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
+    }
 }
 
 POINT CDrawingView::ToPixel(SPoint point) const {

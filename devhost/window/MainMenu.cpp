@@ -31,8 +31,9 @@ void AddPopup(HMENU menu, HMENU popup, const wchar_t* title) {
 // An ampersand would underline the letter behind it.
 std::wstring Shown(const std::wstring& title) {
     std::wstring shown;
-    for (const wchar_t letter : title)
+    for (const wchar_t letter : title) {
         shown.append(letter == L'&' ? 2 : 1, letter);
+    }
     return shown;
 }
 
@@ -60,14 +61,16 @@ CMainMenu::CMainMenu(HWND window)
 }
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
-    while (GetMenuItemCount(m_items) > 0)
+    while (GetMenuItemCount(m_items) > 0) {
         RemoveMenu(m_items, 0, MF_BYPOSITION);
+    }
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const std::wstring key = i < kItemKeys ? L"\tCtrl+" + std::to_wstring(i + 1) : L"";
         AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, (Shown(titles[i]) + key).c_str());
     }
-    if (titles.empty())
+    if (titles.empty()) {
         AppendMenuW(m_items, MF_STRING | MF_GRAYED, 0, L"No items found");
+    }
     AppendMenuW(m_items, MF_SEPARATOR, 0, nullptr);
     AppendMenuW(m_items, MF_STRING, IDM_EXIT, L"E&xit\tAlt+F4");
     m_itemCount = titles.size();
@@ -77,8 +80,9 @@ void CMainMenu::Update(const SMenuState& state) const {
     const auto enable = [&](UINT command, bool enabled) {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
-    for (std::size_t i = 0; i < m_itemCount; ++i)
+    for (std::size_t i = 0; i < m_itemCount; ++i) {
         enable(UINT(IDM_ITEM + i), state.isIdle);
+    }
     enable(IDM_EXIT, state.isIdle);
     enable(IDM_RELOAD, state.isIdle && state.canReload);
     enable(IDM_CLEAR, state.isIdle && state.hasDrawing);

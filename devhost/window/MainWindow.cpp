@@ -57,8 +57,9 @@ CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m
     CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place.left, place.top,
                     place.right - place.left, place.bottom - place.top, nullptr, nullptr,
                     GetModuleHandleW(nullptr), this);
-    if (m_window == nullptr)
+    if (m_window == nullptr) {
         throw CUserError(L"the main window cannot be opened");
+    }
     try {
         CreateControls();
     } catch (...) {
@@ -69,8 +70,9 @@ CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m
 }
 
 CMainWindow::~CMainWindow() {
-    if (m_window != nullptr)
+    if (m_window != nullptr) {
         DestroyWindow(m_window);
+    }
 }
 
 void CMainWindow::Show() {
@@ -121,8 +123,9 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_SIZE:
             Layout();
-            if (m_output != nullptr)
+            if (m_output != nullptr) {
                 m_output->ShowCaret();
+            }
             return 0;
         case WM_ERASEBKGND:
             PaintBackground(reinterpret_cast<HDC>(wParam));
@@ -135,18 +138,21 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             Focus();
             return 0;
         case WM_SETCURSOR:
-            if (reinterpret_cast<HWND>(wParam) != m_window || !IsOverStrip())
+            if (reinterpret_cast<HWND>(wParam) != m_window || !IsOverStrip()) {
                 break;
+            }
             SetCursor(LoadCursorW(nullptr, IDC_SIZENS));
             return TRUE;
         case WM_LBUTTONDOWN:
             m_isStripMoving = IsOverStrip();
-            if (m_isStripMoving)
+            if (m_isStripMoving) {
                 SetCapture(m_window);
+            }
             return 0;
         case WM_MOUSEMOVE:
-            if (m_isStripMoving)
+            if (m_isStripMoving) {
                 MoveStrip(GET_Y_LPARAM(lParam));
+            }
             return 0;
         case WM_LBUTTONUP:
             ReleaseCapture();
@@ -164,8 +170,9 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             UpdateMenu();
             return 0;
         case WM_COMMAND:
-            if (lParam == 0)
+            if (lParam == 0) {
                 OnCommand(LOWORD(wParam));
+            }
             return 0;
         case WM_CLOSE:
             OnClose();
@@ -192,37 +199,40 @@ void CMainWindow::OnClose() {
 // The menu makes grey what cannot be done at the moment; a command that was sent all the same is refused
 // here.
 void CMainWindow::OnCommand(int command) {
-    if (command == IDM_FIT)
+    if (command == IDM_FIT) {
         FitDrawing();
-    else if (command == IDM_SNAP)
+    } else if (command == IDM_SNAP) {
         m_drawing->SetSnap(!m_drawing->HasSnap());
-    else if (command - IDM_UNITS >= LU_SCIENTIFIC && command - IDM_UNITS <= LU_FRACTIONAL)
+    } else if (command - IDM_UNITS >= LU_SCIENTIFIC && command - IDM_UNITS <= LU_FRACTIONAL) {
         ChooseFormat(command - IDM_UNITS, m_status->Precision());
-    else if (command >= IDM_PRECISION && command <= IDM_PRECISION + kMaxLinearPrecision)
+    } else if (command >= IDM_PRECISION && command <= IDM_PRECISION + kMaxLinearPrecision) {
         ChooseFormat(m_status->Units(), command - IDM_PRECISION);
-    else if (!IsIdle())
+    } else if (!IsIdle()) {
         MessageBeep(MB_ICONWARNING);
-    else if (command == IDM_RELOAD && m_onReload)
+    } else if (command == IDM_RELOAD && m_onReload) {
         m_onReload();
-    else if (command == IDM_CLEAR)
+    } else if (command == IDM_CLEAR) {
         ClearDrawing();
-    else if (command == IDM_ABOUT)
+    } else if (command == IDM_ABOUT) {
         ShowAbout();
-    else if (command == IDM_EXIT)
+    } else if (command == IDM_EXIT) {
         OnClose();
-    else if (command >= IDM_ITEM)
+    } else if (command >= IDM_ITEM) {
         OnItem(std::size_t(command - IDM_ITEM));
+    }
 }
 
 void CMainWindow::OnItem(std::size_t index) {
-    if (index < m_itemCount && m_onItem)
+    if (index < m_itemCount && m_onItem) {
         m_onItem(index);
+    }
 }
 
 void CMainWindow::ChooseFormat(int lunits, int luprec) {
     SetFormat(lunits, luprec);
-    if (m_onFormat)
+    if (m_onFormat) {
         m_onFormat(lunits, luprec);
+    }
 }
 
 void CMainWindow::ClearDrawing() {
@@ -245,8 +255,9 @@ void CMainWindow::UpdateMenu() {
 }
 
 void CMainWindow::Focus() {
-    if (GetActiveWindow() == m_window)
+    if (GetActiveWindow() == m_window) {
         SetFocus(IsWindowEnabled(m_prompt) ? m_prompt : m_drawing->Handle());
+    }
 }
 
 void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example) {

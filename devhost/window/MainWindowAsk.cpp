@@ -31,8 +31,9 @@ std::wstring WithoutBlanksBehind(std::wstring_view text) {
 
 void CMainWindow::Run() {
     MSG message;
-    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         Handle(message);
+    }
 }
 
 CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, EAsk what) {
@@ -43,10 +44,12 @@ CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, E
                what == ASK_POINT ? L"click into the drawing, or type" : L"");
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, TRUE);
-    if (what == ASK_POINT)
+    if (what == ASK_POINT) {
         m_drawing->BeginPick(base, [this](SPoint point) { EndAsk(point); });
-    if (IsIconic(m_window))
+    }
+    if (IsIconic(m_window)) {
         ShowWindow(m_window, SW_RESTORE);
+    }
     SetForegroundWindow(m_window);
     Focus();
 
@@ -73,13 +76,16 @@ CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, E
 std::optional<SPoint> CMainWindow::PickPoint(std::wstring_view prompt, std::optional<SPoint> base) {
     for (;;) {
         const CAnswer answer = Ask(prompt, base, ASK_POINT);
-        if (std::holds_alternative<SCancelled>(answer))
+        if (std::holds_alternative<SCancelled>(answer)) {
             return std::nullopt;
-        if (const auto* point = std::get_if<SPoint>(&answer))
+        }
+        if (const auto* point = std::get_if<SPoint>(&answer)) {
             return *point;
+        }
         if (const auto* text = std::get_if<std::wstring>(&answer)) {
-            if (const auto point = ParsePoint(*text, base, m_drawing->MousePoint()))
+            if (const auto point = ParsePoint(*text, base, m_drawing->MousePoint())) {
                 return point;
+            }
             AddOutput(L"'" + *text + L"' is no point: click one, or type it as X,Y");
         }
     }
@@ -87,18 +93,21 @@ std::optional<SPoint> CMainWindow::PickPoint(std::wstring_view prompt, std::opti
 
 // Ends the loop, also when the message that led here was sent to the window and did not come through it.
 void CMainWindow::EndAsk(CAnswer answer) {
-    if (m_isAnswered)
+    if (m_isAnswered) {
         return;
+    }
     m_isAnswered = true;
     m_answer = std::move(answer);
     PostMessageW(m_window, WM_NULL, 0, 0);
 }
 
 std::wstring CMainWindow::ShownAnswer() const {
-    if (std::holds_alternative<SCancelled>(m_answer))
+    if (std::holds_alternative<SCancelled>(m_answer)) {
         return L"(cancelled)";
-    if (const auto* point = std::get_if<SPoint>(&m_answer))
+    }
+    if (const auto* point = std::get_if<SPoint>(&m_answer)) {
         return m_status->TextOf(*point);
+    }
     const auto* text = std::get_if<std::wstring>(&m_answer);
     return text != nullptr ? *text : L"";
 }
@@ -116,21 +125,24 @@ bool CMainWindow::PollEscape() {
 }
 
 void CMainWindow::Handle(MSG message) {
-    if (TakeMessage(message))
+    if (TakeMessage(message)) {
         return;
+    }
     TranslateMessage(&message);
     DispatchMessageW(&message);
 }
 
 // True when the message is for the window as a whole, and done. Others it may turn to the prompt.
 bool CMainWindow::TakeMessage(MSG& message) {
-    if (message.hwnd != m_window && !IsChild(m_window, message.hwnd))
+    if (message.hwnd != m_window && !IsChild(m_window, message.hwnd)) {
         return false;
+    }
     if (message.message == WM_MOUSEWHEEL) {
         // The wheel turns what is under the mouse, wherever the focus is.
         const POINT mouse = {GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
-        if (WindowFromPoint(mouse) == m_drawing->Handle())
+        if (WindowFromPoint(mouse) == m_drawing->Handle()) {
             message.hwnd = m_drawing->Handle();
+        }
         return false;
     }
     if (message.message == WM_CHAR && message.wParam >= L' ' && IsWindowEnabled(m_prompt)) {
@@ -138,8 +150,9 @@ bool CMainWindow::TakeMessage(MSG& message) {
         SetFocus(m_prompt);
         return false;
     }
-    if (TranslateAcceleratorW(m_window, m_menu->Keys(), &message))
+    if (TranslateAcceleratorW(m_window, m_menu->Keys(), &message)) {
         return true;
+    }
     return message.message == WM_KEYDOWN && TakeKey(message);
 }
 
@@ -153,12 +166,14 @@ bool CMainWindow::TakeKey(const MSG& message) {
             TakeEnter();
             return true;
         case VK_UP:
-            if (isInPrompt)
+            if (isInPrompt) {
                 ShowInPrompt(m_prompt, m_history.Older(TextOf(m_prompt)));
+            }
             return isInPrompt;
         case VK_DOWN:
-            if (isInPrompt)
+            if (isInPrompt) {
                 ShowInPrompt(m_prompt, m_history.Newer(TextOf(m_prompt)));
+            }
             return isInPrompt;
         case VK_PRIOR:
         case VK_NEXT:
@@ -169,23 +184,27 @@ bool CMainWindow::TakeKey(const MSG& message) {
 }
 
 void CMainWindow::TakeEscape() {
-    if (m_isAsking)
+    if (m_isAsking) {
         EndAsk(SCancelled());
-    else if (m_busy != 0)
+    } else if (m_busy != 0) {
         m_isEscapePressed = true;
-    else
+    } else {
         SetWindowTextW(m_prompt, L"");
+    }
 }
 
 void CMainWindow::TakeEnter() {
-    if (!m_isAsking && !IsIdle())
+    if (!m_isAsking && !IsIdle()) {
         return;
+    }
     const std::wstring text = TextOf(m_prompt);
     SetWindowTextW(m_prompt, L"");
-    if (!text.empty())
+    if (!text.empty()) {
         m_history.Add(text);
-    if (m_isAsking)
+    }
+    if (m_isAsking) {
         EndAsk(text.empty() ? CAnswer(SPlainEnter()) : CAnswer(text));
-    else if (m_onCommand && !text.empty())
+    } else if (m_onCommand && !text.empty()) {
         m_onCommand(text);
+    }
 }

@@ -28,8 +28,9 @@ constexpr COLORREF kCodeColour = RGB(28, 36, 48);
 HWND CreateControl(HWND parent, EControl id, const wchar_t* className, DWORD style) {
     HWND control = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
                                    reinterpret_cast<HMENU>(INT_PTR(id)), GetModuleHandleW(nullptr), nullptr);
-    if (control == nullptr)
+    if (control == nullptr) {
         throw CUserError(L"the main window cannot be opened");
+    }
     return control;
 }
 
@@ -84,14 +85,16 @@ void CMainWindow::CreateControls() {
     SetFont(m_prompt, m_codeFont);
     SetFont(m_label, m_codeFont);
     SetFont(m_status->Handle(), m_textFont);
-    for (const HWND edit : {m_output->Handle(), m_prompt})
+    for (const HWND edit : {m_output->Handle(), m_prompt}) {
         SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    }
     Layout();
 }
 
 void CMainWindow::Layout() {
-    if (m_status == nullptr)
+    if (m_status == nullptr) {
         return;
+    }
     RECT client;
     GetClientRect(m_window, &client);
     m_status->Layout();

@@ -18,25 +18,31 @@ COutputList::COutputList(HWND parent)
           0, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
           0, 0, 0, 0, parent, reinterpret_cast<HMENU>(INT_PTR(IDC_OUTPUT)), GetModuleHandleW(nullptr),
           nullptr)) {
-    if (m_window == nullptr)
+    if (m_window == nullptr) {
         throw CUserError(L"the main window cannot be opened");
+    }
     SendMessageW(m_window, EM_SETLIMITTEXT, 0, 0);
 }
 
 void COutputList::AddText(std::wstring_view text) {
-    if (text.empty())
+    if (text.empty()) {
         return;
+    }
     std::wstring added;
-    if (m_isLineDue)
+    if (m_isLineDue) {
         added = L"\r\n";
+    }
     m_isLineDue = text.back() == L'\n';
-    if (m_isLineDue)
+    if (m_isLineDue) {
         text.remove_suffix(1);
-    for (const wchar_t letter : text)
-        if (letter == L'\n')
+    }
+    for (const wchar_t letter : text) {
+        if (letter == L'\n') {
             added += L"\r\n";
-        else if (letter != L'\r')
+        } else if (letter != L'\r') {
             added += letter;
+        }
+    }
 
     if (GetWindowTextLengthW(m_window) > kMostText) {
         SendMessageW(m_window, EM_SETSEL, 0, kMostText / 2);
@@ -49,14 +55,16 @@ void COutputList::AddText(std::wstring_view text) {
 }
 
 void COutputList::AddLine(std::wstring_view line) {
-    if (!m_isLineDue && GetWindowTextLengthW(m_window) > 0)
+    if (!m_isLineDue && GetWindowTextLengthW(m_window) > 0) {
         m_isLineDue = true;
+    }
     AddText(std::wstring(line) + L'\n');
 }
 
 void COutputList::ScrollPages(int pages) {
-    for (int i = 0; i < std::abs(pages); ++i)
+    for (int i = 0; i < std::abs(pages); ++i) {
         SendMessageW(m_window, EM_SCROLL, pages < 0 ? SB_PAGEUP : SB_PAGEDOWN, 0);
+    }
 }
 
 void COutputList::ShowCaret() {

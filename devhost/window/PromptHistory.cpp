@@ -7,24 +7,29 @@ constexpr std::size_t kMostLines = 200;
 }  // namespace
 
 void CPromptHistory::Add(const std::wstring& line) {
-    if (m_lines.empty() || m_lines.back() != line)
+    if (m_lines.empty() || m_lines.back() != line) {
         m_lines.push_back(line);
-    if (m_lines.size() > kMostLines)
+    }
+    if (m_lines.size() > kMostLines) {
         m_lines.erase(m_lines.begin());
+    }
     m_place = m_lines.size();
 }
 
 std::wstring CPromptHistory::Older(const std::wstring& shown) {
-    if (m_place == 0)
+    if (m_place == 0) {
         return shown;
-    if (m_place == m_lines.size())
+    }
+    if (m_place == m_lines.size()) {
         m_draft = shown;
+    }
     return m_lines[--m_place];
 }
 
 std::wstring CPromptHistory::Newer(const std::wstring& shown) {
-    if (m_place == m_lines.size())
+    if (m_place == m_lines.size()) {
         return shown;
+    }
     ++m_place;
     return m_place == m_lines.size() ? m_draft : m_lines[m_place];
 }

@@ -7,8 +7,9 @@ namespace {
 // What the clipboard holds as text; nothing when it holds none or is in use.
 std::wstring ClipboardText(HWND window) {
     std::wstring text;
-    if (!OpenClipboard(window))
+    if (!OpenClipboard(window)) {
         return text;
+    }
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto* start = static_cast<const wchar_t*>(GlobalLock(data))) {
             // The text ends at its zero, the memory may go on.

@@ -51,29 +51,35 @@ public:
         const double spacing = GridSpacing(m_view.UnitsPerPixel(), m_scale(kDotDistance));
         const SBox shown = m_view.Shown();
         const std::vector<double> rows = GridSteps(shown.low.y, shown.high.y, spacing);
-        for (const double column : GridSteps(shown.low.x, shown.high.x, spacing))
-            for (const double row : rows)
+        for (const double column : GridSteps(shown.low.x, shown.high.x, spacing)) {
+            for (const double row : rows) {
                 Dot(column, row, spacing);
+            }
+        }
     }
 
     void Axes() {
         // One that is out of sight may be farther away than the system's coordinates reach.
         const SPoint origin = m_view.ToPixel({0, 0});
-        if (origin.y >= m_limits.low.y && origin.y <= m_limits.high.y)
+        if (origin.y >= m_limits.low.y && origin.y <= m_limits.high.y) {
             Stroke(kAxisX, Rounded({0, origin.y}), Rounded({m_limits.high.x, origin.y}));
-        if (origin.x >= m_limits.low.x && origin.x <= m_limits.high.x)
+        }
+        if (origin.x >= m_limits.low.x && origin.x <= m_limits.high.x) {
             Stroke(kAxisY, Rounded({origin.x, 0}), Rounded({origin.x, m_limits.high.y}));
+        }
     }
 
     void Entities(const CDrawing& drawing) {
         // Rounded down, so that details stay apart.
         const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
         const CSelection selection(m_dc, pen);
-        for (const CEntity& entity : drawing.Entities())
-            if (const auto* text = std::get_if<SText>(&entity))
+        for (const CEntity& entity : drawing.Entities()) {
+            if (const auto* text = std::get_if<SText>(&entity)) {
                 Text(*text);
-            else
+            } else {
                 Outline(OutlineOf(entity, m_view.UnitsPerPixel() * kCurveTolerance));
+            }
+        }
     }
 
 private:
@@ -96,8 +102,9 @@ private:
         std::vector<POINT> run;
         for (std::size_t i = 1; i < points.size(); ++i) {
             const auto piece = Clip({m_view.ToPixel(points[i - 1]), m_view.ToPixel(points[i])}, m_limits);
-            if (!piece)
+            if (!piece) {
                 continue;
+            }
             const POINT from = Rounded(piece->from);
             if (run.empty() || run.back().x != from.x || run.back().y != from.y) {
                 Draw(run);
@@ -109,8 +116,9 @@ private:
     }
 
     void Draw(const std::vector<POINT>& run) {
-        if (run.size() < 2)
+        if (run.size() < 2) {
             return;
+        }
         Polyline(m_dc, run.data(), int(run.size()));
         // The system leaves a line's last pixel out.
         SetPixelV(m_dc, run.back().x, run.back().y, kInk);
@@ -120,8 +128,9 @@ private:
         const double size = text.height / kCapitalPart / m_view.UnitsPerPixel();
         const SPoint pixel = m_view.ToPixel(text.place);
         if (!(size <= kMostTextSize) || std::abs(pixel.x) > 2 * kMostTextSize ||
-            std::abs(pixel.y) > 2 * kMostTextSize)
+            std::abs(pixel.y) > 2 * kMostTextSize) {
             return;
+        }
         if (size < kLeastTextSize) {
             const double length = double(text.text.size()) * text.height / 2;
             Outline({text.place, PointOnCircle(text.place, length, text.angle)});

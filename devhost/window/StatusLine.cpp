@@ -32,16 +32,19 @@ constexpr SUnits kUnits[] = {
 };
 
 std::wstring NameOf(int units) {
-    for (const SUnits& known : kUnits)
-        if (known.lunits == units)
+    for (const SUnits& known : kUnits) {
+        if (known.lunits == units) {
             return known.name;
+        }
+    }
     return L"Decimal";  // what other values work like
 }
 
 // The smallest step that a precision shows: 0.01, or 1/4.
 std::wstring StepOf(int units, int precision) {
-    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL)
+    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL) {
         return precision == 0 ? L"1" : L"1/" + std::to_wstring(1 << precision);
+    }
     return precision == 0 ? L"1" : L"0." + std::wstring(std::size_t(precision) - 1, L'0') + L'1';
 }
 
@@ -51,8 +54,9 @@ CStatusLine::CStatusLine(HWND parent)
     : m_window(CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0,
                                parent, reinterpret_cast<HMENU>(INT_PTR(IDC_STATUS)),
                                GetModuleHandleW(nullptr), nullptr)) {
-    if (m_window == nullptr)
+    if (m_window == nullptr) {
         throw CUserError(L"the main window cannot be opened");
+    }
     SendMessageW(m_window, SB_SETMINHEIGHT, WPARAM(m_scale(22)), 0);
     ShowFormat();
 }
@@ -98,8 +102,9 @@ void CStatusLine::SetFormat(int lunits, int luprec) {
 }
 
 void CStatusLine::ShowFormat() {
-    for (const EPart part : {PART_UNITS, PART_PRECISION})
+    for (const EPart part : {PART_UNITS, PART_PRECISION}) {
         SendMessageW(m_window, SB_SETTEXTW, WPARAM(part | SBT_OWNERDRAW), 0);
+    }
 }
 
 // A text and, at the right, the small arrow of things that open a list.
@@ -124,11 +129,13 @@ void CStatusLine::DrawPart(const DRAWITEMSTRUCT& item) const {
 }
 
 void CStatusLine::OnNotify(const NMHDR& header) const {
-    if (header.hwndFrom != m_window || header.code != UINT(NM_CLICK))
+    if (header.hwndFrom != m_window || header.code != UINT(NM_CLICK)) {
         return;
+    }
     const auto part = int(reinterpret_cast<const NMMOUSE&>(header).dwItemSpec);
-    if (part == PART_UNITS || part == PART_PRECISION)
+    if (part == PART_UNITS || part == PART_PRECISION) {
         OpenMenu(part);
+    }
 }
 
 void CStatusLine::OpenMenu(int part) const {
@@ -142,8 +149,9 @@ void CStatusLine::OpenMenu(int part) const {
         }
         chosen = UINT(IDM_UNITS + m_units);
     } else {
-        for (int precision = 0; precision <= kMaxLinearPrecision; ++precision)
+        for (int precision = 0; precision <= kMaxLinearPrecision; ++precision) {
             AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), StepOf(m_units, precision).c_str());
+        }
         chosen = UINT(IDM_PRECISION + m_precision);
     }
     CheckMenuRadioItem(menu, IDM_UNITS, IDM_PRECISION + kMaxLinearPrecision, chosen, MF_BYCOMMAND);

@@ -38,8 +38,9 @@ protected:
     static fs::path Pack(const std::string& name) {
         const fs::path folder = packed->Folder() / name;
         OutputOf(SCRIPTS_DIR "/pack-dist x64 '" + folder.string() + "'");
-        for (const fs::directory_entry& file : fs::directory_iterator(folder))
+        for (const fs::directory_entry& file : fs::directory_iterator(folder)) {
             return file.path();
+        }
         return {};
     }
 
@@ -77,8 +78,9 @@ TEST_F(Archive, IsNamedAfterTheVersionThatTheModuleShows) {
     const std::size_t start = name.find('-') + 1;
     std::u16string wide;
     for (const char letter :
-         "ProductVersion" + std::string(1, '\0') + name.substr(start, name.rfind('-') - start) + '\0')
+         "ProductVersion" + std::string(1, '\0') + name.substr(start, name.rfind('-') - start) + '\0') {
         wide += static_cast<char16_t>(letter);
+    }
     const std::string bytes(reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(char16_t));
     EXPECT_NE(BytesOf(unpacked / "TavrinWnd.dll").find(bytes), std::string::npos);
 }

@@ -22,8 +22,9 @@ void FailWithScreen(const std::string& message) {
 std::vector<std::string> VisibleWindows(const std::string& windowClass) {
     std::istringstream found(OutputOf("xdotool search --onlyvisible --class '" + windowClass + "'"));
     std::vector<std::string> windows;
-    for (std::string id; std::getline(found, id);)
+    for (std::string id; std::getline(found, id);) {
         windows.push_back(id);
+    }
     return windows;
 }
 
@@ -32,11 +33,13 @@ std::vector<std::string> VisibleWindows(const std::string& windowClass) {
 std::string OutputOf(const std::string& command) {
     std::string output;
     FILE* pipe = popen((command + " 2>/dev/null").c_str(), "r");
-    if (pipe == nullptr)
+    if (pipe == nullptr) {
         return output;
+    }
     std::array<char, 65536> buffer;
-    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe))
+    while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), pipe)) {
         output.append(buffer.data(), count);
+    }
     pclose(pipe);
     return output;
 }
@@ -44,8 +47,9 @@ std::string OutputOf(const std::string& command) {
 bool WaitUntil(const std::function<bool()>& condition, int seconds) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
     while (!condition()) {
-        if (std::chrono::steady_clock::now() > deadline)
+        if (std::chrono::steady_clock::now() > deadline) {
             return false;
+        }
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     return true;
@@ -57,8 +61,9 @@ void PressKeys(const std::string& names) {
 
 void TypeText(const std::string& text) {
     std::string quoted = "'";
-    for (const char letter : text)
+    for (const char letter : text) {
         quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+    }
     OutputOf("xdotool type --delay 5 " + quoted + "'");
 }
 
@@ -68,13 +73,15 @@ Screenshot::Screenshot(const std::string& ppm) {
     int depth = 0;
     stream >> magic >> m_width >> m_height >> depth;
     stream.get();
-    if (magic == "P6" && depth == 255)
+    if (magic == "P6" && depth == 255) {
         m_pixels = ppm.substr(static_cast<std::size_t>(stream.tellg()));
+    }
 }
 
 Rgb Screenshot::At(int x, int y) const {
-    if (x < 0 || y < 0 || x >= m_width || y >= m_height)
+    if (x < 0 || y < 0 || x >= m_width || y >= m_height) {
         return {-1, -1, -1};
+    }
     const auto at = static_cast<std::size_t>(3 * (y * m_width + x));
     const auto channel = [&](std::size_t offset) {
         return static_cast<unsigned char>(m_pixels.at(at + offset));
@@ -88,8 +95,9 @@ Window Window::WithTitle(const std::string& title) {
         std::istringstream found(OutputOf("xdotool search --onlyvisible --name '^" + title + "$'"));
         return static_cast<bool>(std::getline(found, window.m_id));
     });
-    if (!window.IsValid())
+    if (!window.IsValid()) {
         FailWithScreen("no window has the title " + title);
+    }
     return window;
 }
 
@@ -97,13 +105,15 @@ Window Window::WithoutTitle(const std::string& windowClass) {
     Window window;
     WaitUntil([&] {
         for (const std::string& id : VisibleWindows(windowClass)) {
-            if (OutputOf("xdotool getwindowname " + id) == "\n")
+            if (OutputOf("xdotool getwindowname " + id) == "\n") {
                 window.m_id = id;
+            }
         }
         return window.IsValid();
     });
-    if (!window.IsValid())
+    if (!window.IsValid()) {
         FailWithScreen("no window without a title belongs to " + windowClass);
+    }
     return window;
 }
 
@@ -113,15 +123,17 @@ Window Window::OpenedBy(const std::function<void()>& action, const std::string& 
     Window opened;
     WaitUntil([&] {
         for (const std::string& id : VisibleWindows(windowClass)) {
-            if (std::find(before.begin(), before.end(), id) == before.end())
+            if (std::find(before.begin(), before.end(), id) == before.end()) {
                 opened.m_id = id;
+            }
         }
         return opened.IsValid();
     });
-    if (opened.IsValid())
+    if (opened.IsValid()) {
         opened.LookWhenStill();
-    else
+    } else {
         FailWithScreen("no window of " + windowClass + " opened");
+    }
     return opened;
 }
 
@@ -137,14 +149,16 @@ bool Window::Activate() const {
     bool open = true;
     const bool done = WaitUntil([&] {
         open = IsOpen();
-        if (!open || IsActive())
+        if (!open || IsActive()) {
             return true;
+        }
         // With a bound: a window that vanishes now never becomes active.
         OutputOf("timeout 2 xdotool windowactivate --sync " + m_id);
         return IsActive();
     });
-    if (!done)
+    if (!done) {
         FailWithScreen("the window " + m_id + " does not become active");
+    }
     return done && open;
 }
 
@@ -184,8 +198,9 @@ void Window::Wheel(int x, int y, int notches) const {
 }
 
 void Window::Press(const std::string& key) const {
-    if (Activate())
+    if (Activate()) {
         OutputOf("xdotool key " + key);
+    }
 }
 
 bool Window::PressUntilClosed(const std::string& key) const {

@@ -48,8 +48,9 @@ protected:
             const std::size_t start = at == std::string::npos ? at : output.find('\n', at);
             const std::size_t end =
                 start == std::string::npos ? start : output.find_first_of("\r\n", start + 1);
-            if (end == std::string::npos)
+            if (end == std::string::npos) {
                 return false;
+            }
             result = output.substr(start + 1, end - start - 1);
             return true;
         });

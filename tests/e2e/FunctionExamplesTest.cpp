@@ -14,8 +14,9 @@ protected:
     void SetUp() override {
         const fs::path program = host.Folder() / "program";
         fs::create_directory(program);
-        for (const char* file : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"})
+        for (const char* file : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"}) {
             fs::copy_file(fs::path(BIN_DIR) / file, program / file);
+        }
         fs::copy_file(EXAMPLE_TEXTS, program / "TavrinRes.dll");
         host.UseProgram(program / "DevHost.exe");
         fs::copy(examples / "functions", host.Folder());

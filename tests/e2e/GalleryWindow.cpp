@@ -52,8 +52,9 @@ void GalleryWindow::ReadPlaces() {
             places[word] = place;
         }
     }
-    for (const auto& [name, place] : places)
+    for (const auto& [name, place] : places) {
         placeOrder.push_back(name);
+    }
     std::sort(placeOrder.begin(), placeOrder.end(),
               [this](const auto& one, const auto& other) { return places[one].top < places[other].top; });
 }
@@ -73,8 +74,9 @@ Window GalleryWindow::OpenDialog(const std::string& name, const std::string& tit
     DoubleClickValue(name);
     Window dialog = Window::WithTitle(title);
     EXPECT_TRUE(dialog.IsValid()) << "no dialog for " << name;
-    if (dialog.IsValid() && dialog.Activate())
+    if (dialog.IsValid() && dialog.Activate()) {
         dialog.LookWhenStill();
+    }
     return dialog;
 }
 
@@ -99,8 +101,9 @@ std::vector<std::string> GalleryWindow::Lines() const {
     std::istringstream output(run.Output());
     std::vector<std::string> lines;
     for (std::string line; std::getline(output, line);) {
-        if (!line.empty() && line.back() == '\r')
+        if (!line.empty() && line.back() == '\r') {
             line.pop_back();
+        }
         lines.push_back(line);
     }
     return lines;

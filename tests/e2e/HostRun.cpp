@@ -31,8 +31,9 @@ HostRun::HostRun() : m_program(BIN_DIR "/DevHost.exe") {
 }
 
 HostRun::~HostRun() {
-    if (m_wasStarted && testing::Test::HasFailure())
+    if (m_wasStarted && testing::Test::HasFailure()) {
         Tell();
+    }
     if (m_process > 0) {
         kill(m_process, SIGKILL);
         waitpid(m_process, nullptr, 0);
@@ -42,9 +43,10 @@ HostRun::~HostRun() {
 }
 
 void HostRun::UseSample(const std::string& name) const {
-    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(SAMPLES_DIR) / name))
+    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(SAMPLES_DIR) / name)) {
         std::filesystem::copy(file.path(), m_folder / file.path().filename(),
                               std::filesystem::copy_options::overwrite_existing);
+    }
 }
 
 void HostRun::Write(const std::string& name, const std::string& bytes) const {
@@ -53,8 +55,9 @@ void HostRun::Write(const std::string& name, const std::string& bytes) const {
 
 std::string HostRun::Read(const std::string& name) const {
     std::ifstream file(m_folder / name, std::ios::binary);
-    if (!file)
+    if (!file) {
         return "(no file)";
+    }
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -73,30 +76,35 @@ void HostRun::StartProgram(const std::vector<std::string>& arguments) {
     std::vector<std::string> words = {wine, m_program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
-    for (std::string& word : words)
+    for (std::string& word : words) {
         argv.push_back(word.data());
+    }
     argv.push_back(nullptr);
     m_wasStarted = true;
     m_process = fork();
-    if (m_process == 0)
+    if (m_process == 0) {
         Become(argv);
+    }
 }
 
 // In the child. Nothing may throw here: the tests would go on in it as well, and start further children.
 void HostRun::Become(const std::vector<char*>& argv) const noexcept {
     if (chdir(m_folder.c_str()) == 0 && RedirectTo(".output", STDOUT_FILENO) &&
-        RedirectTo(".errors", STDERR_FILENO))
+        RedirectTo(".errors", STDERR_FILENO)) {
         execv(argv[0], argv.data());
+    }
     _exit(127);
 }
 
 int HostRun::Wait(int seconds) {
-    if (m_process <= 0)
+    if (m_process <= 0) {
         return -1;
+    }
     int status = 0;
     const bool ended = WaitUntil([&] { return waitpid(m_process, &status, WNOHANG) == m_process; }, seconds);
-    if (!ended)
+    if (!ended) {
         return -1;
+    }
     m_process = -1;
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
@@ -105,8 +113,9 @@ void HostRun::Tell() const {
     int status = 0;
     const bool runs = m_process > 0 && waitpid(m_process, &status, WNOHANG) == 0;
     std::cout << m_program.filename().string() << (runs ? " still runs" : " has ended");
-    if (m_process > 0 && !runs)
+    if (m_process > 0 && !runs) {
         std::cout << " with wait status " << status;
+    }
     std::cout << "\nits output: " << Output() << "\nits errors: " << Errors() << std::endl;
 }
 

@@ -13,8 +13,9 @@ void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
 // The height of the grid's first row: its bottom line has the header's grey. 0 when there is no line.
 int ItemDialogWindow::FindRowHeight() const {
     for (int y = Y(18) + 2; y < Y(18) + 100; ++y) {
-        if (screen.At(RowEnd() - 3, y) == headerGrey)
+        if (screen.At(RowEnd() - 3, y) == headerGrey) {
             return y - Y(18);
+        }
     }
     return 0;
 }
@@ -31,8 +32,9 @@ bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
     const Screenshot now = dialog.Look();
     for (int y = RowY(row) - m_rowHeight / 2; y < RowY(row) + m_rowHeight / 2; ++y) {
         for (int x = X(453) + 211; x < RowEnd(); ++x) {
-            if (now.At(x, y) == colour)
+            if (now.At(x, y) == colour) {
                 return true;
+            }
         }
     }
     return false;
@@ -54,8 +56,9 @@ Window ItemDialogWindow::WaitForQuestion() const {
         const Screenshot now = main.Look();
         for (int y = now.Height() - 50; y < now.Height() - 30; ++y) {
             for (int x = 60; x < 140; ++x) {
-                if (now.At(x, y) == labelBlue)
+                if (now.At(x, y) == labelBlue) {
                     return true;
+                }
             }
         }
         return false;

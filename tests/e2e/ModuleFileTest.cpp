@@ -41,8 +41,9 @@ protected:
         std::set<std::string> words;
         std::istringstream lines(text);
         for (std::string line; std::getline(lines, line);) {
-            if (line.find(mark) != std::string::npos)
+            if (line.find(mark) != std::string::npos) {
                 words.insert(line.substr(line.find_last_of(" \t") + 1));
+            }
         }
         return words;
     }
@@ -57,8 +58,9 @@ protected:
     // The stretch of `text` from one mark up to another.
     static std::string Between(const std::string& text, const std::string& from, const std::string& to) {
         const std::size_t start = text.find(from);
-        if (start == std::string::npos)
+        if (start == std::string::npos) {
             return {};
+        }
         return text.substr(start, text.find(to, start + from.size()) - start);
     }
 };
@@ -75,15 +77,17 @@ TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
                                            "msvcrt.dll",   "comctl32.dll", "comdlg32.dll", "ole32.dll",
                                            "oleaut32.dll", "shell32.dll",  "shlwapi.dll",  "gdiplus.dll",
                                            "advapi32.dll"};
-    for (const std::string& library : libraries)
+    for (const std::string& library : libraries) {
         EXPECT_TRUE(allowed.contains(LowerCase(library))) << library;
+    }
     EXPECT_EQ(LastWords(Between(headers, "DLL Name: TD_Alloc.dll", "DLL Name:"), "?"), GetParam().allocator);
 }
 
 TEST_P(ModuleFile, ComesWithItsCompanions) {
     for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "en/TavrinRes.dll", "TD_Alloc.dll",
-                             "DevHost.exe", "tavrincheck.exe"})
+                             "DevHost.exe", "tavrincheck.exe"}) {
         EXPECT_TRUE(fs::exists(fs::path(GetParam().folder) / file)) << file;
+    }
 }
 
 // The system may load each file anywhere (with all 64 bits of choice where there are so many) and runs none
@@ -132,8 +136,9 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     host.UseSample("door");
     const fs::path folder = host.Folder() / "program";
     fs::create_directory(folder);
-    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll"})
+    for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll"}) {
         fs::copy_file(fs::path(BIN_DIR) / file, folder / file);
+    }
     fs::copy_file(fs::path(BIN_DIR) / "DevHost.exe", folder / "Other Name.exe");
     host.UseProgram(folder / "Other Name.exe");
     host.Start({"--eval", R"((tavrinwnd "door"))"});

@@ -22,14 +22,17 @@ std::vector<Block> ReadGuide() {
     std::ifstream guide(SAMPLES_DIR "/README.md");
     std::string file;
     for (std::string line; std::getline(guide, line);) {
-        if (line.starts_with("**`") && line.ends_with("`**"))
+        if (line.starts_with("**`") && line.ends_with("`**")) {
             file = line.substr(3, line.size() - 6);
-        if (!line.starts_with("```"))
+        }
+        if (!line.starts_with("```")) {
             continue;
+        }
         Block block{file, line.substr(3), {}};
         file.clear();
-        while (std::getline(guide, line) && line != "```")
+        while (std::getline(guide, line) && line != "```") {
             block.text += line + '\n';
+        }
         blocks.push_back(block);
     }
     return blocks;
@@ -39,14 +42,16 @@ class SampleGuide : public ItemRun {
 protected:
     // The programs with `samples` beside them, and the shelf of the guide among the samples.
     void SetUp() override {
-        for (const char* name : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"})
+        for (const char* name : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"}) {
             fs::copy(fs::path(BIN_DIR) / name, host.Folder() / name);
+        }
         host.UseProgram(host.Folder() / "DevHost.exe");
         UseSamples();
         fs::create_directories(Samples() / "shelf" / "slides");
         for (const Block& block : guide) {
-            if (!block.file.empty())
+            if (!block.file.empty()) {
                 TypeIn(block);
+            }
         }
         Run("rsvg-convert");
         Run("x86_64-w64-mingw32-windres");
@@ -58,8 +63,9 @@ protected:
     // The block that follows the line with this text.
     const Block& BlockWith(const std::string& text) const {
         for (const Block& block : guide) {
-            if (block.text.find(text) != std::string::npos)
+            if (block.text.find(text) != std::string::npos) {
                 return block;
+            }
         }
         ADD_FAILURE() << "the guide says nothing of " << text;
         return guide.front();
@@ -125,8 +131,9 @@ TEST_F(SampleGuide, ChecksTheShelfWithAScriptThatPrintsWhatItSays) {
     const Block& command = BlockWith("--script");
     std::istringstream words(command.text);
     std::vector<std::string> arguments;
-    for (std::string word; words >> word;)
+    for (std::string word; words >> word;) {
         arguments.push_back(word);
+    }
     ASSERT_EQ(arguments.front(), "DevHost.exe");
     arguments.erase(arguments.begin());
     host.StartProgram(arguments);

@@ -56,8 +56,9 @@ TEST_F(SampleItems, TheBuildPutsEveryItemBesideTheHost) {
     int files = 0;
     for (const auto& file : std::filesystem::recursive_directory_iterator(SAMPLES_DIR)) {
         const std::filesystem::path& path = file.path();
-        if (path.extension() != ".lsp" && path.extension() != ".png" && path.extension() != ".TXT")
+        if (path.extension() != ".lsp" && path.extension() != ".png" && path.extension() != ".TXT") {
             continue;
+        }
         ++files;
         EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(BIN_DIR) / "samples" /
                                             std::filesystem::relative(path, SAMPLES_DIR)))

@@ -13,8 +13,9 @@ constexpr std::size_t kStack = std::size_t{512} * 1024;
 
 void RunToItsEnd(CEvaluator& evaluator, std::string_view script) {
     try {
-        if (const CLispResult result = evaluator.Run(ReadText(DecodeSource(script))))
+        if (const CLispResult result = evaluator.Run(ReadText(DecodeSource(script)))) {
             Print(*result);
+        }
     } catch (const CLispError& mistake) {
         Require(!mistake.Text().empty(), "a mistake is told");
     } catch (const SLispExit&) {

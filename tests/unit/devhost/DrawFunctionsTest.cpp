@@ -66,8 +66,9 @@ TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
 }
 
 TEST_F(DrawFunctions, ALoopDoesNotDrawWithoutEnd) {
-    for (int i = 1; i < 1'000'000; ++i)
+    for (int i = 1; i < 1'000'000; ++i) {
         m_drawing.Add(SLine{{0, 0}, {1, 1}});
+    }
     EXPECT_EQ(
         Mistake(L"(while T (draw-line '(0 0) '(1 1)))"),
         L"line 1: DRAW-LINE: the drawing holds 1000000 entities already: does a loop draw without end?");

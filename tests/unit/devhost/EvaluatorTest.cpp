@@ -20,15 +20,17 @@ protected:
 };
 
 TEST_F(Evaluator, ConstantsAreTheirOwnValue) {
-    for (const wchar_t* text : {L"42", L"-1.5", L"\"text\"", L"nil", L"T"})
+    for (const wchar_t* text : {L"42", L"-1.5", L"\"text\"", L"nil", L"T"}) {
         EXPECT_EQ(Evaluate(text), text);
+    }
 }
 
 TEST_F(Evaluator, QuoteLeavesItsArgumentAsItIs) {
     EXPECT_EQ(Evaluate(L"'(1 . a)"), L"(1 . A)");
     EXPECT_EQ(Evaluate(L"(quote (unknown 1))"), L"(UNKNOWN 1)");
-    for (const wchar_t* text : {L"(quote)", L"(quote 1 2)", L"(quote . 1)"})
+    for (const wchar_t* text : {L"(quote)", L"(quote 1 2)", L"(quote . 1)"}) {
         EXPECT_EQ(Mistake(text), L"line 1: QUOTE takes one argument");
+    }
 }
 
 TEST_F(Evaluator, ACallGetsItsArgumentsEvaluated) {
@@ -77,8 +79,9 @@ TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenA
 
 TEST_F(Evaluator, WhatIsNoNameIsNotDefined) {
     const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
-    for (const wchar_t* name : {L"", L"5", L"nil", L"t", L"quote", L"a b", L"(a"})
+    for (const wchar_t* name : {L"", L"5", L"nil", L"t", L"quote", L"a b", L"(a"}) {
         EXPECT_FALSE(m_evaluator.Define(name, one)) << testing::PrintToString(name);
+    }
 }
 
 TEST_F(Evaluator, AFunctionMayTakeItselfAway) {

@@ -128,8 +128,9 @@ TEST(FormatLinear, ExponentsHaveAtLeastTwoDigits) {
 }
 
 TEST(FormatLinear, UnknownUnitsAreDecimal) {
-    for (const int units : {0, 6, -1, 32767, -32768})
+    for (const int units : {0, 6, -1, 32767, -32768}) {
         EXPECT_EQ(FormatLinear(15.5, units, 3), L"15.500") << units;
+    }
 }
 
 TEST(FormatLinear, PrecisionIsClamped) {
@@ -191,8 +192,9 @@ TEST(FormatLinear, ACommaLocaleChangesNothing) {
     const std::locale before = std::locale::global(std::locale(std::locale(), new SCommaPunctuation));
     const std::string beforeInC = std::setlocale(LC_ALL, nullptr);
     // Installed or not: the runtime of Windows programs knows these anyway.
-    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr)
+    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
         std::setlocale(LC_ALL, "de-DE");
+    }
     EXPECT_EQ(FormatLinear(1234.5, LU_DECIMAL, 1), L"1234.5");
     EXPECT_EQ(FormatLinear(1234.5, LU_ENGINEERING, 1), L"102'-10.5\"");
     EXPECT_EQ(FormatLinear(12345678, LU_ARCHITECTURAL, 1), L"1028806'-6\"");

@@ -32,8 +32,9 @@ std::string Digits(WideInteger number) {
 // Takes "12'-" off the front of `text` and gives the feet.
 WideInteger TakeFeet(std::string& text) {
     const std::size_t mark = text.find("'-");
-    if (mark == std::string::npos)
+    if (mark == std::string::npos) {
         return 0;
+    }
     const WideInteger feet = std::strtoull(text.c_str(), nullptr, 10);
     text.erase(0, mark + 2);
     return feet;
@@ -43,10 +44,12 @@ WideInteger TakeFeet(std::string& text) {
 double Meaning(const std::wstring& wide) {
     std::string text(wide.begin(), wide.end());
     const bool negative = text.front() == '-';
-    if (negative)
+    if (negative) {
         text.erase(0, 1);
-    if (text.back() == '"')
+    }
+    if (text.back() == '"') {
         text.pop_back();
+    }
     const WideInteger feet = TakeFeet(text);
 
     double magnitude;
@@ -73,10 +76,12 @@ double Meaning(const std::wstring& wide) {
 // Half a step of the text's last digit or of its largest denominator.
 double HalfStep(const std::wstring& text, int units, int precision) {
     const std::size_t exponent = text.find(L'E');
-    if (exponent != std::wstring::npos)
+    if (exponent != std::wstring::npos) {
         return 0.5 * std::pow(10.0, std::wcstol(text.c_str() + exponent + 1, nullptr, 10) - precision);
-    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL)
+    }
+    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL) {
         return std::ldexp(0.5, -precision);
+    }
     return 0.5 * std::pow(10.0, -precision);
 }
 
@@ -111,8 +116,9 @@ void CheckEveryFormat(double value) {
         for (int precision = 0; precision <= kMaxLinearPrecision; ++precision) {
             CheckRoundTrip(value, units, precision);
             CheckRoundTrip(-value, units, precision);
-            if (testing::Test::HasFatalFailure())
+            if (testing::Test::HasFatalFailure()) {
                 return;
+            }
         }
     }
 }
@@ -120,22 +126,25 @@ void CheckEveryFormat(double value) {
 void CheckAll(const std::vector<double>& values) {
     for (const double value : values) {
         CheckEveryFormat(value);
-        if (testing::Test::HasFatalFailure())
+        if (testing::Test::HasFatalFailure()) {
             return;
+        }
     }
 }
 
 TEST(LinearRoundTrip, EveryMultipleOfA512thUpToThreeFeet) {
     std::vector<double> values;
-    for (int i = 0; i <= 36 * 512; ++i)
+    for (int i = 0; i <= 36 * 512; ++i) {
         values.push_back(i / 512.0);
+    }
     CheckAll(values);
 }
 
 TEST(LinearRoundTrip, EveryThousandthUpToThirteenInches) {
     std::vector<double> values;
-    for (int i = 0; i <= 13'000; ++i)
+    for (int i = 0; i <= 13'000; ++i) {
         values.push_back(i / 1000.0);
+    }
     CheckAll(values);
 }
 
@@ -144,17 +153,23 @@ TEST(LinearRoundTrip, NeighboursOfWholeFeetAndOfEachPowerOfTenAndTwo) {
     const auto addWithNeighbours = [&](double value) {
         values.push_back(std::nextafter(value, 0));
         values.push_back(value);
-        if (value < std::numeric_limits<double>::max())
+        if (value < std::numeric_limits<double>::max()) {
             values.push_back(std::nextafter(value, std::numeric_limits<double>::infinity()));
+        }
     };
-    for (int feet = 1; feet <= 200; ++feet)
+    for (int feet = 1; feet <= 200; ++feet) {
         addWithNeighbours(12.0 * feet);
-    for (int exponent = -323; exponent <= 308; ++exponent)
-        for (const double digit : {1.0, 5.0, 9.5, 9.999999999})
-            if (const double value = digit * std::pow(10.0, exponent); std::isfinite(value))
+    }
+    for (int exponent = -323; exponent <= 308; ++exponent) {
+        for (const double digit : {1.0, 5.0, 9.5, 9.999999999}) {
+            if (const double value = digit * std::pow(10.0, exponent); std::isfinite(value)) {
                 addWithNeighbours(value);
-    for (int exponent = -1074; exponent <= 1023; ++exponent)
+            }
+        }
+    }
+    for (int exponent = -1074; exponent <= 1023; ++exponent) {
         addWithNeighbours(std::ldexp(1.0, exponent));
+    }
     values.push_back(std::numeric_limits<double>::max());
     CheckAll(values);
 }
@@ -172,10 +187,12 @@ TEST(LinearRoundTrip, RandomLengths) {
         double anyBits;
         const std::uint64_t bits = random();
         std::memcpy(&anyBits, &bits, sizeof anyBits);
-        if (std::isfinite(anyBits))
+        if (std::isfinite(anyBits)) {
             CheckEveryFormat(std::fabs(anyBits));
-        if (HasFatalFailure())
+        }
+        if (HasFatalFailure()) {
             return;
+        }
     }
 }
 
@@ -188,11 +205,13 @@ TEST(LinearRoundTrip, RandomTextsAreReadOrRefusedButNeverTrip) {
     int readable = 0;
     for (int i = 0; i < 300'000; ++i) {
         std::wstring text;
-        for (auto length = random() % 10; length > 0; --length)
+        for (auto length = random() % 10; length > 0; --length) {
             text += letters[random() % letters.size()];
+        }
         const auto value = ParseLinear(text);
-        if (!value)
+        if (!value) {
             continue;
+        }
         ++readable;
         ASSERT_TRUE(std::isfinite(*value));
         ASSERT_TRUE(std::any_of(text.begin(), text.end(), [](wchar_t c) { return c >= '0' && c <= '9'; }));

@@ -70,9 +70,11 @@ TEST_F(LispFiles, BothKindsOfLineEndsAreRead) {
 
 TEST_F(LispFiles, EveryByteSurvives) {
     std::string bytes;
-    for (int i = 1; i < 256; ++i)
-        if (i != '\n' && i != '\r')
+    for (int i = 1; i < 256; ++i) {
+        if (i != '\n' && i != '\r') {
             bytes += char(i);
+        }
+    }
     Write(L"file.txt", bytes + "\r\n");
     Evaluate(
         L"(setq f (open name \"r\") l (read-line f)) (close f)"
@@ -161,8 +163,9 @@ TEST_F(LispFiles, AFileThatLoadsItselfEndsWithAnError) {
 TEST_F(LispFiles, SourcesAreUtf8OrWindows1252) {
     Write(L"utf8.lsp", "\xEF\xBB\xBF\"per\xC3\xB2 \xE2\x82\xAC\"");
     Write(L"ansi.lsp", "\"per\xF2 \x80\"");
-    for (const wchar_t* name : {L"utf8", L"ansi"})
+    for (const wchar_t* name : {L"utf8", L"ansi"}) {
         EXPECT_EQ(Evaluate(std::wstring(L"(load \"") + name + L"\")"), L"\"però €\"");
+    }
 }
 
 TEST_F(LispFiles, ASourceInUtf16IsNamed) {
@@ -183,8 +186,9 @@ TEST(TextEncoding, OnlyValidUtf8IsTakenForIt) {
                                  "\xF8\x88\x80\x80\x80",
                                  "\xC3(",
                                  "\xE2\x82"};
-    for (const std::string& bytes : wrong)
+    for (const std::string& bytes : wrong) {
         EXPECT_EQ(DecodeSource(bytes), FromWindows1252(bytes));
+    }
     EXPECT_EQ(DecodeSource(""), L"");
     EXPECT_EQ(DecodeSource("\xF0\x9F\x9A\xAA"), L"\U0001F6AA");
 }

@@ -32,8 +32,9 @@ public:
     void SetVariable(const std::wstring& name, const CValue& value) override { variables[name] = value; }
     SLispAnswer Ask(const std::wstring& prompt, std::optional<SLispPoint> base, EQuestion question) override {
         asked.push_back({prompt, base, question});
-        if (answers.empty())
+        if (answers.empty()) {
             return {};
+        }
         const SLispAnswer answer = answers.front();
         answers.pop_front();
         return answer;
@@ -76,15 +77,17 @@ protected:
     };
 
     void ExpectValues(std::initializer_list<SCase> cases) {
-        for (const SCase& c : cases)
+        for (const SCase& c : cases) {
             EXPECT_EQ(Mistake(c.text), std::wstring(L"gave ") + c.expected) << testing::PrintToString(c.text);
+        }
     }
 
     // Without the place, which is line 1 of typed text.
     void ExpectMistakes(std::initializer_list<SCase> cases) {
-        for (const SCase& c : cases)
+        for (const SCase& c : cases) {
             EXPECT_EQ(Mistake(c.text), std::wstring(L"line 1: ") + c.expected)
                 << testing::PrintToString(c.text);
+        }
     }
 
     CFakeLispHost m_host;

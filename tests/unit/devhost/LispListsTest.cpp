@@ -27,13 +27,15 @@ TEST_F(LispLists, CarAndCdrTakeUpToFourSteps) {
 
 TEST_F(LispLists, EveryNameOfOneToFourStepsIsKnown) {
     int names = 0;
-    for (int length = 1; length <= 4; ++length)
+    for (int length = 1; length <= 4; ++length) {
         for (int bits = 0; bits < 1 << length; ++bits, ++names) {
             std::wstring name = L"c";
-            for (int i = 0; i < length; ++i)
+            for (int i = 0; i < length; ++i) {
                 name += (bits >> i & 1) != 0 ? L'd' : L'a';
+            }
             EXPECT_EQ(Evaluate(L"(" + name + L"r nil)"), L"nil");
         }
+    }
     EXPECT_EQ(names, 30);
 }
 

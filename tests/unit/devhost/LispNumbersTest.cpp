@@ -29,8 +29,9 @@ TEST_F(LispNumbers, AWholeNumberThatDoesNotFitIsAnErrorAndNotAnotherNumber) {
         {L"(1- -2147483648)", L"1-: the whole number -2147483649"},
         {L"(abs -2147483648)", L"ABS: the whole number 2147483648"},
         {L"(gcd -2147483648 0)", L"GCD: the whole number 2147483648"}};
-    for (const auto& [text, mistake] : cases)
+    for (const auto& [text, mistake] : cases) {
         EXPECT_EQ(Mistake(text), std::wstring(L"line 1: ") + mistake + kHint);
+    }
     ExpectValues({{L"(+ 2147483647 1.0)", L"2147483648.0"}, {L"(rem -2147483648 -1)", L"0"}});
 }
 

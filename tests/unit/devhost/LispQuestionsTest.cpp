@@ -63,8 +63,9 @@ TEST_F(LispQuestions, NumbersAreTyped) {
     ExpectValues({{L"(getreal)", L"2.0"}});
     Type(L" +12 ");
     ExpectValues({{L"(getint \"Count: \")", L"12"}});
-    for (const wchar_t* typed : {L"1.5", L"99999999999", L"", L"+-1", L"ù", L"-3"})
+    for (const wchar_t* typed : {L"1.5", L"99999999999", L"", L"+-1", L"ù", L"-3"}) {
         Type(typed);
+    }
     ExpectValues({{L"(getint)", L"-3"}});
     EXPECT_NE(m_host.output.find(L"'1.5' is not a whole number of 32 bits: type one such as 12\n"),
               std::wstring::npos);
@@ -86,9 +87,10 @@ TEST_F(LispQuestions, ATextIsTakenAsItIs) {
 
 TEST_F(LispQuestions, EscapeEndsWhatRunsWithoutAPlace) {
     for (const wchar_t* question :
-         {L"(getpoint)", L"(getdist)", L"(getreal)", L"(getint)", L"(getstring)", L"(read-line)"})
+         {L"(getpoint)", L"(getdist)", L"(getreal)", L"(getint)", L"(getstring)", L"(read-line)"}) {
         EXPECT_EQ(Mistake(std::wstring(L"(defun ask () ") + question + L" (princ \"after\")) (ask)"),
                   L"cancelled");
+    }
     Click(1, 1);
     EXPECT_EQ(Mistake(L"(getdist)"), L"cancelled") << "for the second point";
     EXPECT_EQ(m_host.output, L"");

@@ -32,8 +32,9 @@ TEST(OneLine, WhatIsReadIsTheSame) {
         L"; a routine\n(setq a '(1 . 2) ; pair\n  b \"two\nlines; \\\"here\\\"\")\n;| |;(list a\nb)";
     const auto printed = [](const std::wstring& text) {
         std::wstring all;
-        for (const CValue& expression : ReadText(text).expressions)
+        for (const CValue& expression : ReadText(text).expressions) {
             all += Print(expression) + L' ';
+        }
         return all;
     };
     EXPECT_EQ(printed(OnOneLine(source)), printed(source));

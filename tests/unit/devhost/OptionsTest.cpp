@@ -58,9 +58,10 @@ TEST(Options, AMissingValueNamesItsOption) {
 }
 
 TEST(Options, ANumberOutOfRangeNamesTheRange) {
-    for (const wchar_t* value : {L"0", L"6", L"22", L"x", L"-1", L"2.0"})
+    for (const wchar_t* value : {L"0", L"6", L"22", L"x", L"-1", L"2.0"}) {
         EXPECT_EQ(Mistake({L"--lunits", value}),
                   std::wstring(L"--lunits does not take '") + value + L"': give a number from 1 to 5");
+    }
     EXPECT_EQ(Mistake({L"--luprec", L"9"}), L"--luprec does not take '9': give a number from 0 to 8");
 }
 
@@ -80,8 +81,9 @@ TEST(Options, TheHelpNamesEveryOption) {
     const std::wstring help = HelpText();
     for (const wchar_t* option :
          {L"--plugin", L"--search", L"--lunits", L"--luprec", L"--eval", L"--check-heap", L"--help",
-          L"--items", L"--script", L"--drawing", L"--stay", L"--version"})
+          L"--items", L"--script", L"--drawing", L"--stay", L"--version"}) {
         EXPECT_NE(help.find(option), std::wstring::npos) << testing::PrintToString(option);
+    }
 }
 
 }  // namespace

@@ -14,13 +14,15 @@ struct SCase {
 };
 
 void ExpectLengths(std::initializer_list<SCase> cases) {
-    for (const SCase& c : cases)
+    for (const SCase& c : cases) {
         EXPECT_EQ(ParseLinear(c.text), c.value) << testing::PrintToString(c.text);
+    }
 }
 
 void ExpectRefused(std::initializer_list<const wchar_t*> texts) {
-    for (const wchar_t* text : texts)
+    for (const wchar_t* text : texts) {
         EXPECT_EQ(ParseLinear(text), std::nullopt) << testing::PrintToString(text);
+    }
 }
 
 TEST(ParseLinear, NumbersAreReadAsTheNearestDouble) {

@@ -67,8 +67,9 @@ TEST(Reader, SymbolsDoNotDistinguishCase) {
 }
 
 TEST(Reader, NilIsTheEmptyList) {
-    for (const wchar_t* text : {L"nil", L"NIL", L"Nil", L"()", L"( )"})
+    for (const wchar_t* text : {L"nil", L"NIL", L"Nil", L"()", L"( )"}) {
         EXPECT_TRUE(CReader(text).Read()->IsNil()) << testing::PrintToString(text);
+    }
 }
 
 TEST(Reader, TextsKnowFourEscapes) {
@@ -143,16 +144,18 @@ TEST(Reader, NestingHasALimitInsteadOfTheStacks) {
 
 TEST(Reader, AListOfAMillionElementsIsReadPrintedAndLetGo) {
     std::wstring text = L"(";
-    for (int i = 0; i < 1'000'000; ++i)
+    for (int i = 0; i < 1'000'000; ++i) {
         text += L"7 ";
+    }
     text.back() = L')';
     EXPECT_EQ(Echo(text), text);
 }
 
 TEST(Value, ANestOfAMillionPairsIsLetGoWithoutRecursion) {
     CValue nest;
-    for (int i = 0; i < 1'000'000; ++i)
+    for (int i = 0; i < 1'000'000; ++i) {
         nest = CValue::Pair(nest, CValue::Integer(i));
+    }
     EXPECT_EQ(nest.Cdr().AsInteger(), 999'999);
 }
 
@@ -164,11 +167,13 @@ TEST(Value, WhatIsStillHeldSurvivesTheListAroundIt) {
 }
 
 TEST(Reader, NamesOfFunctionsAreSymbolsThatAreNoConstants) {
-    for (const wchar_t* name : {L"tavrinwnd", L"C:DOOR", L"1+", L"a.b"})
+    for (const wchar_t* name : {L"tavrinwnd", L"C:DOOR", L"1+", L"a.b"}) {
         EXPECT_TRUE(IsSymbolName(name)) << testing::PrintToString(name);
+    }
     for (const wchar_t* name :
-         {L"", L"nil", L"T", L"5", L"1.5", L".", L"a b", L"a(", L"'a", L"a;b", L"\"a\""})
+         {L"", L"nil", L"T", L"5", L"1.5", L".", L"a b", L"a(", L"'a", L"a;b", L"\"a\""}) {
         EXPECT_FALSE(IsSymbolName(name)) << testing::PrintToString(name);
+    }
 }
 
 TEST(Reader, KnowsWhereTheTextsStood) {
@@ -176,8 +181,9 @@ TEST(Reader, KnowsWhereTheTextsStood) {
     while (reader.Read()) {
     }
     std::vector<std::size_t> places;
-    for (const CReader::SPlace& place : reader.TextPlaces())
+    for (const CReader::SPlace& place : reader.TextPlaces()) {
         places.insert(places.end(), {place.start, place.length});
+    }
     EXPECT_EQ(places, (std::vector<std::size_t>{3, 3, 22, 5, 29, 2}));
 }
 

@@ -29,8 +29,9 @@ TEST(TypedPoint, ALengthGoesFromTheBaseTowardsTheMouse) {
 }
 
 TEST(TypedPoint, WhatIsNoPointIsNone) {
-    for (const wchar_t* text : {L"", L"@", L",", L"1,", L",1", L"1,2,3", L"here", L"1;2", L"@@1,2"})
+    for (const wchar_t* text : {L"", L"@", L",", L"1,", L",1", L"1,2,3", L"here", L"1;2", L"@@1,2"}) {
         EXPECT_FALSE(ParsePoint(text, SPoint{10, 20}, kMouse)) << text;
+    }
 }
 
 }  // namespace

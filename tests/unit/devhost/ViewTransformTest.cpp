@@ -41,11 +41,13 @@ TEST_F(ViewTransform, ZoomingKeepsThePointUnderTheMouse) {
 }
 
 TEST_F(ViewTransform, ZoomingEndsWherePixelsWouldNoLongerDiffer) {
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         m_view.ZoomAbout({10, 10}, 2);
+    }
     EXPECT_GE(m_view.UnitsPerPixel(), 1e-9);
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         m_view.ZoomAbout({10, 10}, 0.5);
+    }
     EXPECT_LE(m_view.UnitsPerPixel(), 1e9);
     EXPECT_GT(m_view.UnitsPerPixel(), 1e8);
 }

@@ -24,8 +24,9 @@ const fs::path examples = fs::path(SOURCE_DIR) / "docs/examples";
 std::vector<std::string> RoutineNames() {
     std::vector<std::string> names;
     for (const fs::directory_entry& file : fs::directory_iterator(examples / "lisp")) {
-        if (file.path().extension() == ".lsp")
+        if (file.path().extension() == ".lsp") {
             names.push_back(file.path().stem().string());
+        }
     }
     std::sort(names.begin(), names.end());
     return names;
@@ -37,8 +38,9 @@ std::string ShapesOf(const std::string& svg) {
     std::string shapes;
     for (std::string line; std::getline(lines, line);) {
         if (std::ranges::any_of(std::array{"<line ", "<poly", "<circle ", "<path "},
-                                [&](const char* start) { return line.starts_with(start); }))
+                                [&](const char* start) { return line.starts_with(start); })) {
             shapes += line + '\n';
+        }
     }
     return shapes;
 }

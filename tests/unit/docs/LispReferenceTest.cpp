@@ -19,8 +19,9 @@ std::string Narrow(const std::wstring& text) {
 }
 
 std::string LowerCase(std::string text) {
-    for (char& letter : text)
+    for (char& letter : text) {
         letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    }
     return text;
 }
 
@@ -30,8 +31,9 @@ std::vector<std::string> CodeIn(const std::string& cell) {
     std::istringstream parts(cell);
     std::string part;
     for (bool inside = false; std::getline(parts, part, '`'); inside = !inside) {
-        if (inside)
+        if (inside) {
             code.push_back(part);
+        }
     }
     return code;
 }
@@ -40,8 +42,9 @@ std::vector<std::string> CodeIn(const std::string& cell) {
 std::vector<std::vector<std::string>> FunctionRows() {
     std::vector<std::vector<std::string>> rows;
     for (std::vector<std::string>& row : ReadPage("docs/authors/lisp.md").rows) {
-        if (row.size() == 4 && row[0].starts_with("`"))
+        if (row.size() == 4 && row[0].starts_with("`")) {
             rows.push_back(std::move(row));
+        }
     }
     return rows;
 }
@@ -49,8 +52,9 @@ std::vector<std::vector<std::string>> FunctionRows() {
 std::set<std::string> DocumentedNames() {
     std::set<std::string> names;
     for (const std::vector<std::string>& row : FunctionRows()) {
-        for (const std::string& name : CodeIn(row[0]))
+        for (const std::string& name : CodeIn(row[0])) {
             names.insert(name);
+        }
     }
     return names;
 }
@@ -58,17 +62,20 @@ std::set<std::string> DocumentedNames() {
 // The functions of the language and of the drawing. The one that fits the view belongs to the window.
 std::set<std::string> KnownNames() {
     std::set<std::string> names = {"draw-fit"};
-    for (const SSpecialForm& form : ControlForms())
+    for (const SSpecialForm& form : ControlForms()) {
         names.insert(LowerCase(Narrow(form.name)));
+    }
     for (const auto& table : {ControlFunctions(), ArithmeticFunctions(), MathFunctions(),
                               PredicateFunctions(), ListFunctions(), TextFunctions(), ConversionFunctions(),
                               GeometryFunctions(), OutputFunctions(), FileFunctions(), HostFunctions()}) {
-        for (const SBuiltin& builtin : table)
+        for (const SBuiltin& builtin : table) {
             names.insert(LowerCase(Narrow(builtin.name)));
+        }
     }
     for (const char* name :
-         {"draw-line", "draw-polyline", "draw-circle", "draw-arc", "draw-text", "draw-clear"})
+         {"draw-line", "draw-polyline", "draw-circle", "draw-arc", "draw-text", "draw-clear"}) {
         names.insert(name);
+    }
     return names;
 }
 

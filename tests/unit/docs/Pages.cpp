@@ -37,10 +37,11 @@ std::string AnchorOf(const std::string& heading) {
     std::string anchor;
     for (const char letter : heading) {
         const auto byte = static_cast<unsigned char>(letter);
-        if (byte >= 0x80 || std::isalnum(byte) != 0 || letter == '_' || letter == '-')
+        if (byte >= 0x80 || std::isalnum(byte) != 0 || letter == '_' || letter == '-') {
             anchor += static_cast<char>(std::tolower(byte));
-        else if (letter == ' ')
+        } else if (letter == ' ') {
             anchor += '-';
+        }
     }
     return anchor;
 }
@@ -48,8 +49,9 @@ std::string AnchorOf(const std::string& heading) {
 std::vector<std::string> MatchesOf(const std::string& line, const char* pattern) {
     std::vector<std::string> found;
     const std::regex expression(pattern);
-    for (std::sregex_iterator match(line.begin(), line.end(), expression), end; match != end; ++match)
+    for (std::sregex_iterator match(line.begin(), line.end(), expression), end; match != end; ++match) {
         found.push_back((*match)[1]);
+    }
     return found;
 }
 
@@ -78,10 +80,12 @@ void AppendTo(std::vector<std::string>& list, const std::vector<std::string>& mo
 }
 
 void ReadTextLine(Page& page, const std::string& line) {
-    if (line.starts_with("#"))
+    if (line.starts_with("#")) {
         page.anchors.insert(AnchorOf(line.substr(line.find_first_not_of("# "))));
-    if (line.starts_with("|"))
+    }
+    if (line.starts_with("|")) {
         page.rows.push_back(CellsOf(line));
+    }
     AppendTo(page.spans, MatchesOf(line, "`([^`]+)`"));
     AppendTo(page.links, MatchesOf(std::regex_replace(line, std::regex("`[^`]*`"), ""), R"(\]\(([^)]+)\))"));
 }
@@ -115,15 +119,17 @@ static std::vector<Page> ReadAllPages() {
     for (const char* folder : {"docs", "samples"}) {
         for (const fs::directory_entry& file :
              fs::recursive_directory_iterator(fs::path(SOURCE_DIR) / folder)) {
-            if (file.path().extension() == ".md")
+            if (file.path().extension() == ".md") {
                 paths.push_back(file.path().lexically_relative(SOURCE_DIR));
+            }
         }
     }
     std::sort(paths.begin(), paths.end());
     std::vector<Page> pages;
     pages.reserve(paths.size());
-    for (const fs::path& path : paths)
+    for (const fs::path& path : paths) {
         pages.push_back(ReadPage(path));
+    }
     return pages;
 }
 
@@ -138,12 +144,14 @@ std::string TextOf(const fs::path& path) {
     std::string text;
     for (const char letter : bytes) {
         const auto byte = static_cast<unsigned char>(letter);
-        if (letter == '\r')
+        if (letter == '\r') {
             continue;
-        if (path.extension() == ".TXT")
+        }
+        if (path.extension() == ".TXT") {
             AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? special[byte - 0x80] : byte);
-        else
+        } else {
             text += letter;
+        }
     }
     return text;
 }

@@ -17,8 +17,9 @@ bool IsThere(const fs::path& path) {
 TEST(Documentation, ShowsItsExamplesAsTheyAre) {
     for (const Page& page : AllPages()) {
         for (const CodeBlock& block : page.blocks) {
-            if (block.file.empty())
+            if (block.file.empty()) {
                 continue;
+            }
             const fs::path file = (page.path.parent_path() / block.file).lexically_normal();
             EXPECT_TRUE(IsThere(file)) << page.path << " shows " << file;
             EXPECT_EQ(block.text, TextOf(file)) << page.path << " shows " << file;
@@ -29,10 +30,12 @@ TEST(Documentation, ShowsItsExamplesAsTheyAre) {
 TEST(Documentation, ShowsEachExample) {
     std::set<fs::path> shown;
     for (const Page& page : AllPages()) {
-        for (const CodeBlock& block : page.blocks)
+        for (const CodeBlock& block : page.blocks) {
             shown.insert((page.path.parent_path() / block.file).lexically_normal());
-        for (const std::string& link : page.links)
+        }
+        for (const std::string& link : page.links) {
             shown.insert((page.path.parent_path() / link).lexically_normal());
+        }
     }
     const fs::path examples = fs::path(SOURCE_DIR) / "docs/examples";
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(examples)) {
@@ -61,8 +64,9 @@ TEST(Documentation, LinksToWhatIsThere) {
 // Everything in a page that is set as code.
 std::vector<std::string> CodeOf(const Page& page) {
     std::vector<std::string> code = page.spans;
-    for (const CodeBlock& block : page.blocks)
+    for (const CodeBlock& block : page.blocks) {
         code.push_back(block.text);
+    }
     return code;
 }
 
@@ -71,9 +75,10 @@ TEST(Documentation, NamesTargetsOfMakeThatExist) {
     const std::regex call("(?:^|\n|&& )make ([a-z-]+)");
     for (const Page& page : AllPages()) {
         for (const std::string& code : CodeOf(page)) {
-            for (std::sregex_iterator match(code.begin(), code.end(), call), end; match != end; ++match)
+            for (std::sregex_iterator match(code.begin(), code.end(), call), end; match != end; ++match) {
                 EXPECT_NE(makefile.find("\n" + (*match)[1].str() + ":"), std::string::npos)
                     << page.path << ": " << match->str();
+            }
         }
     }
 }
@@ -86,11 +91,13 @@ TEST(Documentation, NamesFilesOfTheSourcesThatExist) {
         "\n(])((?:afx|cmake|devhost|docs|dyndlg|gallery|host|imagedlg|itemdlg|propgrid|res|samples|scripts|"
         "sds|tests|tools)/[A-Za-z0-9_./-]*[A-Za-z0-9_/])");
     for (const Page& page : AllPages()) {
-        if (page.path == "CHANGELOG.md")
+        if (page.path == "CHANGELOG.md") {
             continue;
+        }
         for (const std::string& code : CodeOf(page)) {
-            for (std::sregex_iterator match(code.begin(), code.end(), path), end; match != end; ++match)
+            for (std::sregex_iterator match(code.begin(), code.end(), path), end; match != end; ++match) {
                 EXPECT_TRUE(IsThere((*match)[1].str())) << page.path << ": " << match->str();
+            }
         }
     }
 }

@@ -13,21 +13,24 @@ namespace {
 
 // What the page on pictures calls the content of a cell: a choice by its number, counted from 1.
 std::string NameOf(int content) {
-    if (content == CELL_EMPTY)
+    if (content == CELL_EMPTY) {
         return "empty";
+    }
     return content == CELL_LOGO ? "`logo.png`" : std::to_string(content + 1);
 }
 
 TEST(Documentation, TellsWhereEachChoiceStands) {
     int countsSeen = 0;
     for (const std::vector<std::string>& row : ReadPage("docs/authors/pictures.md").rows) {
-        if (row.size() != 1 + CHOICE_CELLS || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6')
+        if (row.size() != 1 + CHOICE_CELLS || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6') {
             continue;
+        }
         ++countsSeen;
         const auto count = static_cast<unsigned>(row[0][0] - '0');
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
             EXPECT_EQ(row[static_cast<std::size_t>(cell)], NameOf(GetCellContent(count, cell)))
                 << count << " choices, cell " << cell;
+        }
     }
     EXPECT_EQ(countsSeen, 6);
 }
@@ -38,8 +41,9 @@ std::string SourcesOfTheModule() {
     for (const char* folder : {"host", "imagedlg", "itemdlg", "propgrid"}) {
         for (const auto& file :
              std::filesystem::directory_iterator(std::filesystem::path(SOURCE_DIR) / folder)) {
-            if (file.path().extension() == ".cpp" || file.path().extension() == ".h")
+            if (file.path().extension() == ".cpp" || file.path().extension() == ".h") {
                 sources += TextOf(file.path());
+            }
         }
     }
     return sources;
@@ -52,11 +56,13 @@ TEST(Documentation, QuotesTheModulesMessages) {
     int messagesSeen = 0;
     for (const char* page : {"docs/authors/functions.md", "docs/install.md"}) {
         for (const std::vector<std::string>& row : ReadPage(page).rows) {
-            if (row[0][0] != '`')
+            if (row[0][0] != '`') {
                 continue;
+            }
             const std::string text = row[0].substr(1, row[0].find('`', 1) - 1);
-            if (text.find(' ') == std::string::npos)
+            if (text.find(' ') == std::string::npos) {
                 continue;
+            }
             ++messagesSeen;
             EXPECT_NE(sources.find("L\"" + text.substr(0, text.find("NAME"))), std::string::npos) << text;
         }
@@ -73,12 +79,15 @@ TEST(Documentation, UsesOptionsThatDevHostHas) {
         std::vector<std::string> calls;
         for (const CodeBlock& block : page.blocks) {
             const std::size_t call = block.text.find("DevHost.exe ");
-            if (call != std::string::npos)
+            if (call != std::string::npos) {
                 calls.push_back(block.text.substr(call));
+            }
         }
         for (const std::string& span : page.spans) {
-            if (span.starts_with("DevHost.exe ") || (span.starts_with("--") && page.path.stem() == "devhost"))
+            if (span.starts_with("DevHost.exe ") ||
+                (span.starts_with("--") && page.path.stem() == "devhost")) {
                 calls.push_back(span);
+            }
         }
         for (const std::string& call : calls) {
             for (std::sregex_iterator match(call.begin(), call.end(), option), end; match != end; ++match) {

@@ -13,8 +13,9 @@ public:
 
     void Write(std::wstring_view text) override { m_printed += text; }
     std::optional<std::wstring> FindFile(const std::wstring& name) override {
-        if (std::filesystem::is_regular_file(name))
+        if (std::filesystem::is_regular_file(name)) {
             return name;
+        }
         return std::nullopt;
     }
     std::shared_ptr<CLispFile> OpenFile(const std::wstring& name, EFileMode mode) override {

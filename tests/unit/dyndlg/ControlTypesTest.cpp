@@ -39,8 +39,9 @@ TEST(ControlTypes, EachCodeHasItsWindowClass) {
 }
 
 TEST(ControlTypes, AnyOtherCodeHasNoWindowClass) {
-    for (const unsigned code : {0U, 1U, 127U, 147U, 1000U, 0x7FFFFFFFU, 0xFFFFFFFFU})
+    for (const unsigned code : {0U, 1U, 127U, 147U, 1000U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
         EXPECT_EQ(ClassOfTypeCode(code), std::wstring()) << code;
+    }
 }
 
 TEST(ControlTypes, TheFirstCharactersOfANameDecide) {
@@ -67,8 +68,9 @@ TEST(ControlTypes, TheFirstCharactersOfANameDecide) {
 TEST(ControlTypes, TheCaseOfANameCounts) {
     for (const wchar_t* name :
          {L"Button", L"button", L"Edit", L"eDIT", L"Static", L"ListBox", L"ScrollBar", L"comboBox",
-          L"MSCTLS_UPDOWN32", L"SYSLISTVIEW32", L"RichEdit20W", L"sysMonthCal32"})
+          L"MSCTLS_UPDOWN32", L"SYSLISTVIEW32", L"RichEdit20W", L"sysMonthCal32"}) {
         EXPECT_EQ(TypeCodeOfClass(name), 0U) << testing::PrintToString(name);
+    }
     EXPECT_EQ(TypeCodeOfClass(L"COMBobox"), 133U);
     EXPECT_EQ(TypeCodeOfClass(L"ComboBox"), 146U);
 }
@@ -99,10 +101,12 @@ TEST(ControlTypes, EveryOtherClassExchangesTheSameWhateverItsStyle) {
         EXPECT_EQ(ExchangeOf(CT_SCROLLBAR, style), EX_SCROLL);
         EXPECT_EQ(ExchangeOf(CT_TRACKBAR, style), EX_SLIDER);
         EXPECT_EQ(ExchangeOf(CT_MONTHCAL, style), EX_CALENDAR_DATE);
-        for (const unsigned code : {131U, 133U, 134U, 135U, 137U, 138U, 139U, 140U, 141U, 142U, 145U, 146U})
+        for (const unsigned code : {131U, 133U, 134U, 135U, 137U, 138U, 139U, 140U, 141U, 142U, 145U, 146U}) {
             EXPECT_EQ(ExchangeOf(code, style), EX_CONTROL) << code;
-        for (const unsigned code : {0U, 127U, 147U, 0xFFFFFFFFU})
+        }
+        for (const unsigned code : {0U, 127U, 147U, 0xFFFFFFFFU}) {
             EXPECT_EQ(ExchangeOf(code, style), EX_NONE) << code;
+        }
     }
 }
 

@@ -18,8 +18,9 @@ namespace {
 
 DialogExtent ExtentOf(std::initializer_list<DialogRect> rects) {
     CDialogLayout layout;
-    for (const DialogRect& rect : rects)
+    for (const DialogRect& rect : rects) {
         layout.Place(&rect, 0);
+    }
     return layout.Extent();
 }
 
@@ -33,8 +34,9 @@ TEST(DialogLayout, ControlsWithoutARectangleStandInRows) {
 
 TEST(DialogLayout, StandardButtonsStandSideBySideBelowTheRows) {
     CDialogLayout layout;
-    for (int row = 0; row < 3; ++row)
+    for (int row = 0; row < 3; ++row) {
         layout.Place(nullptr, 270);
+    }
     const StandardButtonRects buttons = layout.StartStandardButtons();
     EXPECT_EQ(buttons.ok, (DialogRect{10, 52, 60, 66}));
     EXPECT_EQ(buttons.cancel, (DialogRect{65, 52, 115, 66}));

@@ -18,11 +18,13 @@ Bytes BytesOf(const DialogTemplate& dialog) {
     const std::size_t size = TemplateSize(dialog);
     std::vector<std::byte> memory(size + 8, std::byte{guard});
     WriteTemplate(dialog, memory);
-    for (std::size_t index = size; index < memory.size(); ++index)
+    for (std::size_t index = size; index < memory.size(); ++index) {
         EXPECT_EQ(memory[index], std::byte{guard}) << "behind the template";
+    }
     Bytes bytes;
-    for (std::size_t index = 0; index < size; ++index)
+    for (std::size_t index = 0; index < size; ++index) {
         bytes.push_back(std::to_integer<unsigned>(memory[index]));
+    }
     return bytes;
 }
 

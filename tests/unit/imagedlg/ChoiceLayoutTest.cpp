@@ -10,8 +10,9 @@ namespace {
 template <typename Character>
 std::string PerCell(Character character) {
     std::string text;
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
         text += character(cell);
+    }
     return text;
 }
 
@@ -48,8 +49,9 @@ TEST(ChoiceLayout, EachCountHasItsCells) {
 }
 
 TEST(ChoiceLayout, ShowsNothingForACountThatItDoesNotKnow) {
-    for (const unsigned count : {0U, 7U, 8U, 0x7FFFFFFFU, 0xFFFFFFFFU})
+    for (const unsigned count : {0U, 7U, 8U, 0x7FFFFFFFU, 0xFFFFFFFFU}) {
         EXPECT_EQ(Contents(count), "......") << count;
+    }
 }
 
 TEST(ChoiceLayout, TheWholeTopRowCanBeSelectedWithUpToThreeChoices) {
@@ -64,8 +66,9 @@ TEST(ChoiceLayout, EmptyCellsAndTheLogoCannotBeSelectedWithFourAndFiveChoices) {
 }
 
 TEST(ChoiceLayout, EveryCellCanBeSelectedForEveryOtherCount) {
-    for (const unsigned count : {0U, 6U, 7U, 8U})
+    for (const unsigned count : {0U, 6U, 7U, 8U}) {
         EXPECT_EQ(Selectable(count), "yyyyyy") << count;
+    }
 }
 
 TEST(ChoiceLayout, EachCellStandsForItsChoice) {
@@ -93,8 +96,9 @@ TEST(ChoiceLayout, CellsThatShowNoChoiceHaveNoFrameWithThreeToFiveChoices) {
 }
 
 TEST(ChoiceLayout, EveryCellHasAFrameForEveryOtherCount) {
-    for (const unsigned count : {0U, 1U, 2U, 6U, 7U, 8U})
+    for (const unsigned count : {0U, 1U, 2U, 6U, 7U, 8U}) {
         EXPECT_EQ(Framed(count), "yyyyyy") << count;
+    }
 }
 
 TEST(ChoiceLayout, ACellThatDoesNotExistIsNothing) {
@@ -139,8 +143,9 @@ TEST(ChoiceWindow, KeepsTwoColumnsForFourChoicesAndLeavesReplaceWhereItIs) {
 }
 
 TEST(ChoiceWindow, StaysAsItIsForEveryOtherCount) {
-    for (const unsigned count : {0U, 5U, 6U, 7U, 8U, 0xFFFFFFFFU})
+    for (const unsigned count : {0U, 5U, 6U, 7U, 8U, 0xFFFFFFFFU}) {
         EXPECT_EQ(Arrange(count), std::nullopt) << count;
+    }
 }
 
 // An odd size, left of and above the main monitor, each button at a height of its own: 1073 by 563.

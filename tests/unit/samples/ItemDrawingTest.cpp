@@ -81,8 +81,9 @@ TEST_F(ItemRoutine, AStaircaseEndsAtTheUpperFloor) {
     double plan = 0;
     for (const CEntity& entity : drawing.Entities()) {
         const auto* line = std::get_if<SPolyline>(&entity);
-        if (line == nullptr || line->points.size() != 4)
+        if (line == nullptr || line->points.size() != 4) {
             continue;
+        }
         if (std::abs(line->points[0].x - 16 * 280) < 1e-6 &&
             std::abs(line->points[1].x - 16 * 280 - 600) < 1e-6) {
             found = true;

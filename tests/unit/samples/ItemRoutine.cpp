@@ -23,8 +23,9 @@ bool IsNear(double a, double b) {
 
 // Whether the points are the corners of an upright rectangle of this size.
 bool IsBox(const SPolyline& line, double width, double height) {
-    if (!line.closed || line.points.size() != 4)
+    if (!line.closed || line.points.size() != 4) {
         return false;
+    }
     const auto& [a, b, c, d] = std::tie(line.points[0], line.points[1], line.points[2], line.points[3]);
     return IsNear(a.y, b.y) && IsNear(b.x, c.x) && IsNear(c.y, d.y) && IsNear(d.x, a.x) &&
            IsNear(std::abs(b.x - a.x), width) && IsNear(std::abs(c.y - b.y), height);
@@ -75,15 +76,17 @@ bool ItemRoutine::Run(const std::string& text) {
 
 int ItemRoutine::ParameterCount(const std::string& name) const {
     const CValue value = m_evaluator.Variable(UpperCase(Wide(name)));
-    if (value.Type() != VT_FUNCTION)
+    if (value.Type() != VT_FUNCTION) {
         return -1;
+    }
     const auto* definition = std::get_if<SDefinition>(&value.AsFunction()->code);
     return definition != nullptr ? static_cast<int>(definition->parameters.size()) : -1;
 }
 
 bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
-    if (m_item != item)
+    if (m_item != item) {
         Load(item);
+    }
     drawing.Clear();
     messages.clear();
     chosen = variant;
@@ -112,8 +115,9 @@ int ItemRoutine::Arcs(double radius) const {
 bool ItemRoutine::HasText(const std::wstring& text) const {
     for (const CEntity& entity : drawing.Entities()) {
         const auto* shownText = std::get_if<SText>(&entity);
-        if (shownText != nullptr && shownText->text.find(text) != std::wstring::npos)
+        if (shownText != nullptr && shownText->text.find(text) != std::wstring::npos) {
             return true;
+        }
     }
     return false;
 }
@@ -123,8 +127,9 @@ std::optional<std::wstring> ItemRoutine::FindFile(const std::wstring& name) {
     for (const auto& place : {folder, samples / m_item, samples}) {
         // The template alone is there to be written to.
         const bool isTemplate = name.ends_with(L".TXT");
-        if (isTemplate == (place == folder) && std::filesystem::exists(place / name))
+        if (isTemplate == (place == folder) && std::filesystem::exists(place / name)) {
             return (place / name).wstring();
+        }
     }
     return std::nullopt;
 }
@@ -149,10 +154,12 @@ SLispAnswer ItemRoutine::Ask(const std::wstring& prompt, std::optional<SLispPoin
 
 CLispResult ItemRoutine::PlayChoice(std::span<const CValue> arguments) {
     offered.clear();
-    for (const CValue& name : arguments.subspan(2))
+    for (const CValue& name : arguments.subspan(2)) {
         offered.push_back(Narrow(name.AsString()));
-    if (chosen.empty())
+    }
+    if (chosen.empty()) {
         return CValue();
+    }
     const CValue answer[] = {CValue::Integer(100), CValue::String(Wide(m_item + "_" + chosen))};
     return CValue::List(answer);
 }
@@ -165,8 +172,9 @@ CLispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
     bool inBlock = false;
     shown.clear();
     while (std::getline(before, line)) {
-        if (line.ends_with('\r'))
+        if (line.ends_with('\r')) {
             line.pop_back();
+        }
         const std::size_t quote = line.rfind('"');
         inBlock = line == "VAR" || (inBlock && line != "END_VAR");
         if (inBlock && line.starts_with('$') && quote != std::string::npos) {
@@ -179,8 +187,9 @@ CLispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
         }
         after += line + "\r\n";
     }
-    if (!presses)
+    if (!presses) {
         return CValue();
+    }
     std::ofstream(working, std::ios::binary) << after;
     return CValue::Integer(0);
 }

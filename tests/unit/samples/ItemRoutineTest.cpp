@@ -15,8 +15,9 @@ std::map<int, char> ParametersOf(const std::map<int, std::string>& shown, const 
     std::ifstream lines(file);
     for (std::string line; std::getline(lines, line);) {
         const std::size_t quote = line.rfind('"');
-        if (line.starts_with('$') && quote != std::string::npos)
+        if (line.starts_with('$') && quote != std::string::npos) {
             types[std::atoi(line.c_str() + 1)] = line[quote + 1];
+        }
     }
     EXPECT_EQ(types.size(), shown.size());
     return types;
@@ -29,8 +30,9 @@ std::string BytesOf(const std::filesystem::path& path) {
 
 // Another value that is near enough to be allowed.
 std::string Changed(const std::string& value, char type) {
-    if (type == 'I')
+    if (type == 'I') {
         return std::to_string(std::atoi(value.c_str()) + 1);
+    }
     return std::to_string(std::atof(value.c_str()) * 0.85 + 0.001);
 }
 
@@ -76,9 +78,10 @@ TEST_F(ItemRoutine, EachParameterSteersTheDrawing) {
         for (const auto& [number, type] : ParametersOf(values, folder / (item.name + ".TXT"))) {
             typed = {{number, Changed(values.at(number), type)}};
             bool changes = false;
-            for (const std::string& variant : item.variants)
+            for (const std::string& variant : item.variants) {
                 changes = changes || (Make(item.name, variant) ? ToSvg(drawing) != pictures[variant]
                                                                : !messages.empty());
+            }
             EXPECT_TRUE(changes) << item.name << ": parameter " << number;
         }
     }
@@ -185,8 +188,9 @@ TEST_F(ItemRoutine, WhateverIsTypedIsDrawnOrRefusedAsAWhole) {
         int drawn = 0;
         for (int run = 0; run < 120; ++run) {
             typed.clear();
-            for (auto changes = 1 + random() % 3; changes > 0; --changes)
+            for (auto changes = 1 + random() % 3; changes > 0; --changes) {
                 typed[1 + static_cast<int>(random() % 27)] = values[random() % std::size(values)];
+            }
             const bool isMade = Make(item.name, item.variants[random() % item.variants.size()]);
             EXPECT_EQ(messages.size(), isMade ? 0u : 1u) << item.name << ", run " << run;
             EXPECT_EQ(drawing.Entities().empty(), !isMade) << item.name << ", run " << run;
@@ -202,8 +206,9 @@ TEST_F(ItemRoutine, TheGuideNamesFunctionsWithTheirParameters) {
     std::ifstream guide(SAMPLES_DIR "/README.md");
     int functions = 0;
     for (std::string line; std::getline(guide, line);) {
-        if (!line.starts_with("| `(item-"))
+        if (!line.starts_with("| `(item-")) {
             continue;
+        }
         for (std::size_t at = 0; (at = line.find("`(item-", at)) != std::string::npos;) {
             const std::string call = line.substr(at + 2, line.find(")`", at) - at - 2);
             at += call.size();

@@ -28,9 +28,10 @@ std::string BytesOf(const std::string& file) {
 std::map<unsigned, std::wstring> TextsIn(const std::string& language) {
     const std::string file = "texts/TavrinRes." + language + ".rc";
     std::map<unsigned, std::wstring> texts;
-    for (const SScriptText& text : ReadStringScript(file, BytesOf(file)).texts)
+    for (const SScriptText& text : ReadStringScript(file, BytesOf(file)).texts) {
         EXPECT_TRUE(texts.emplace(text.number, text.text).second)
             << file << ": " << text.number << " is twice";
+    }
     return texts;
 }
 
@@ -39,8 +40,9 @@ std::vector<unsigned> PlaceholdersOf(const std::string& item) {
     const std::string bytes = BytesOf(item + "/" + item + ".TXT");
     const std::regex placeholder("<<([0-9]+)>>");
     std::vector<unsigned> numbers;
-    for (std::sregex_iterator match(bytes.begin(), bytes.end(), placeholder), end; match != end; ++match)
+    for (std::sregex_iterator match(bytes.begin(), bytes.end(), placeholder), end; match != end; ++match) {
         numbers.push_back(static_cast<unsigned>(std::stoul((*match)[1])));
+    }
     return numbers;
 }
 
@@ -67,11 +69,13 @@ TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheirPlace) {
 TEST_P(ItemTexts, AreAllUsed) {
     std::set<unsigned> used = kModuleTexts;
     for (const SItem& item : SampleItems()) {
-        for (const unsigned number : PlaceholdersOf(item.name))
+        for (const unsigned number : PlaceholdersOf(item.name)) {
             used.insert(number);
+        }
     }
-    for (const auto& [number, text] : texts)
+    for (const auto& [number, text] : texts) {
         EXPECT_TRUE(used.contains(number)) << number;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ItemTexts, testing::Values("it", "en"),

@@ -22,8 +22,9 @@ TEST_F(CheckCommand, FindsJustWhatIsBad) {
 
 TEST_F(CheckCommand, HasAnExpectedFindingForEveryRule) {
     const std::string expected = ReadBytes("bad.expected");
-    for (const SRule* rule : AllRules())
+    for (const SRule* rule : AllRules()) {
         EXPECT_NE(expected.find("[" + std::string(rule->id) + "]\n"), std::string::npos) << rule->id;
+    }
 }
 
 // The lines of an expected finding: its own, one of the file, and the underline.
@@ -48,8 +49,9 @@ TEST_F(CheckCommand, LeavesOutADisabledRule) {
 TEST_F(CheckCommand, SaysNothingOfTextsThatItDoesNotKnow) {
     const std::string output = Check({"bad"}).output;
     for (const char* rule : {"title-text-unknown", "text-unknown", "mark-from-text", "text-too-long",
-                             "text-missing", "text-unused"})
+                             "text-missing", "text-unused"}) {
         EXPECT_EQ(output.find("[" + std::string(rule) + "]"), std::string::npos) << rule;
+    }
 }
 
 }  // namespace

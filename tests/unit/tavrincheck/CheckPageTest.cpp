@@ -16,8 +16,9 @@ private:
 // On the page, the headings are one level deeper.
 std::string WithDeeperHeadings(std::string text) {
     text.insert(0, "\n");
-    for (std::size_t at = text.find("\n##"); at != std::string::npos; at = text.find("\n##", at + 1))
+    for (std::size_t at = text.find("\n##"); at != std::string::npos; at = text.find("\n##", at + 1)) {
         text.insert(at + 1, "#");
+    }
     return text;
 }
 

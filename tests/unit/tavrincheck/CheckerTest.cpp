@@ -16,9 +16,10 @@ std::string File(const std::string& parameters) {
 // The findings as "line:column rule".
 std::vector<std::string> Places(const std::vector<SFinding>& findings) {
     std::vector<std::string> places;
-    for (const SFinding& finding : findings)
+    for (const SFinding& finding : findings) {
         places.push_back(std::to_string(finding.line) + ":" + std::to_string(finding.column) + " " +
                          std::string(finding.rule->id));
+    }
     return places;
 }
 
@@ -97,8 +98,9 @@ TEST(Checker, NumbersThatDifferInZerosLookAlikeWhicheverComesFirst) {
 // Enough of them that the memory for what was seen grows several times.
 TEST(Checker, FindsTheOneRepetitionAmongThousands) {
     std::string parameters;
-    for (int number = 1; number <= 5000; ++number)
+    for (int number = 1; number <= 5000; ++number) {
         parameters += "$" + std::to_string(number) + " = \"<<1501>> " + std::to_string(number) + "\"D 9\n";
+    }
     SCheckContext context;
     EXPECT_EQ(Places(CheckText(File(parameters + "$77 = \"<<1501>> 4999\"D 9\n"), context)),
               (PlaceList{"5004:1 number-duplicate", "5004:8 label-duplicate"}));

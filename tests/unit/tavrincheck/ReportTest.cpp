@@ -27,8 +27,9 @@ protected:
         const std::string expected = ReadBytes("bad.expected");
         for (std::size_t start = 0; start < expected.size();) {
             const std::size_t end = expected.find('\n', start);
-            if (expected.compare(start, 1, " ") != 0)
+            if (expected.compare(start, 1, " ") != 0) {
                 lines.push_back(expected.substr(start, end - start));
+            }
             start = end + 1;
         }
         return lines;

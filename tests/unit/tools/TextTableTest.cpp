@@ -94,8 +94,9 @@ TEST(TextTable, TheColumnOfATextIsThatOfItsNumber) {
     CTextTable table;
     table.ReadBytes("a.rc", "\xEF\xBB\xBFSTRINGTABLE {1 \"a\\\nb\" 2 \"c\"\n\t3 \"d\" }");
     std::vector<std::size_t> places;
-    for (const SText& text : table.Texts())
+    for (const SText& text : table.Texts()) {
         places.insert(places.end(), {text.line, text.column});
+    }
     EXPECT_EQ(places, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));
 }
 

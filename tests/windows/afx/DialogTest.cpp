@@ -39,8 +39,9 @@ protected:
         return result;
     }
     void OnDestroy() {
-        if (m_log != nullptr)
+        if (m_log != nullptr) {
             *m_log += "destroyed;";
+        }
         CDialog::OnDestroy();
     }
     LRESULT OnShown(WPARAM, LPARAM) {
@@ -62,10 +63,12 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_ENABLE)
+        if (message == WM_ENABLE) {
             m_log += wParam != 0 ? "enabled;" : "disabled;";
-        if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && m_dialog != nullptr)
+        }
+        if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && m_dialog != nullptr) {
             m_log += m_dialog->m_hWnd != nullptr && m_dialog->IsWindowVisible() ? "active;" : "active late;";
+        }
         return CWnd::WindowProc(message, wParam, lParam);
     }
 };
@@ -282,8 +285,9 @@ public:
     bool m_swallow = false;
     explicit CTranslatingEdit(std::string& log) : m_log(log) {}
     BOOL PreTranslateMessage(MSG* message) override {
-        if (message->message == WM_SYSCHAR)
+        if (message->message == WM_SYSCHAR) {
             m_log += "edit;";
+        }
         return m_swallow || CEdit::PreTranslateMessage(message);
     }
 };
@@ -297,8 +301,9 @@ TEST_F(Dialog, OffersAMessageToItsWindowThenToTheParents) {
         CSteppedDialog dialog(withControls, &m_owner);
         dialog.m_onInit = [&] { return edit.SubclassDlgItem(10, &dialog); };
         dialog.m_preTranslate = [&](MSG* message) {
-            if (message->message == WM_SYSCHAR)
+            if (message->message == WM_SYSCHAR) {
                 log += "dialog;";
+            }
             return FALSE;
         };
         dialog.m_onShown = [&] {

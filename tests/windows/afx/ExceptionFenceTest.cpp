@@ -17,20 +17,23 @@ class CThrowingWnd : public CWnd {
 public:
     bool m_throwOnCreate = false, m_throwOnPaint = false, m_throwOnSubclass = false;
     void PreSubclassWindow() override {
-        if (m_throwOnSubclass)
+        if (m_throwOnSubclass) {
             AfxThrowResourceException();
+        }
     }
 
 protected:
     DECLARE_MESSAGE_MAP()
     int OnCreate(LPCREATESTRUCT create) {
-        if (m_throwOnCreate)
+        if (m_throwOnCreate) {
             AfxThrowUserException();
+        }
         return CWnd::OnCreate(create);
     }
     void OnPaint() {
-        if (m_throwOnPaint)
+        if (m_throwOnPaint) {
             AfxThrowUserException();
+        }
         CWnd::OnPaint();
     }
     LRESULT OnThrow(WPARAM, LPARAM) {
@@ -141,10 +144,11 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override {
-        if (m_missing != 0)
+        if (m_missing != 0) {
             exchange->PrepareCtrl(m_missing);
-        else
+        } else {
             exchange->Fail();
+        }
     }
 };
 

@@ -31,8 +31,9 @@ public:
 protected:
     BOOL OnInitDialog() override { return TRUE; }
     void DoDataExchange(CDataExchange* exchange) override {
-        if (!m_hasControls)
+        if (!m_hasControls) {
             return;
+        }
         DDX_Text(exchange, 10, m_text);
         DDX_Check(exchange, 11, m_check);
         DDX_Radio(exchange, 12, m_radio);

@@ -98,8 +98,9 @@ TEST_F(Gdi, ReleasesTheContextsOfWindowsAndPaints) {
     };
     cycle();
     const int before = GdiObjectCount();
-    for (int count = 0; count < 200; ++count)
+    for (int count = 0; count < 200; ++count) {
         cycle();
+    }
     EXPECT_EQ(GdiObjectCount(), before);
 }
 

@@ -95,8 +95,9 @@ TEST(Leaks, AreNotLeftByTenThousandPaints) {
     CRepaintedWnd window;
     window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE, 0, 0, 30, 30, nullptr, nullptr);
     const auto paint = [&](int count) {
-        for (; count > 0; --count)
+        for (; count > 0; --count) {
             window.RedrawWindow();
+        }
     };
     paint(10);
     const int gdiObjects = GdiObjectCount();

@@ -18,8 +18,9 @@ protected:
         ASSERT_NE(m_module, nullptr) << ::GetLastError();
     }
     void TearDown() override {
-        if (m_module != nullptr)
+        if (m_module != nullptr) {
             ::FreeLibrary(m_module);
+        }
     }
     template <class TFunction>
     TFunction* Find(const char* name) const {

@@ -33,8 +33,9 @@ EXPORTED HINSTANCE ResourcesInside(bool fail) {
     try {
         AFX_MAINTAIN_STATE2 state(AfxGetStaticModuleState());
         seen = AfxGetResourceHandle();
-        if (fail)
+        if (fail) {
             AfxThrowUserException();
+        }
     } catch (CException* error) {
         error->Delete();
     }

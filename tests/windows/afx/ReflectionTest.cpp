@@ -16,8 +16,9 @@ protected:
     DECLARE_MESSAGE_MAP()
     HBRUSH CtlColor(CDC* dc, UINT kind) {
         m_heard += "colour " + std::to_string(kind) + ";";
-        if (m_leaveColour)
+        if (m_leaveColour) {
             return nullptr;
+        }
         dc->SetBkColor(RGB(1, 2, 3));
         return m_brush;
     }

@@ -13,8 +13,9 @@ protected:
         m_folder.Write(L"in.txt", bytes);
         CStdioFile file(m_folder.Path(L"in.txt").c_str(), CFile::modeRead | CFile::typeText);
         std::vector<std::wstring> lines;
-        for (CString line; file.ReadString(line);)
+        for (CString line; file.ReadString(line);) {
             lines.emplace_back(line.GetString(), static_cast<size_t>(line.GetLength()));
+        }
         file.Close();
         return lines;
     }
@@ -47,8 +48,9 @@ private:
         for (size_t at = 0;; ++at) {
             file.WriteString(line.c_str() + at);
             at = line.find(L'\0', at);
-            if (at == std::wstring::npos)
+            if (at == std::wstring::npos) {
                 return;
+            }
             file.Write("", 1);
         }
     }

@@ -11,18 +11,22 @@ namespace {
 // Every byte, followed by each of a few that some code pages would take as the second half of a character.
 std::string MakeEveryPair() {
     std::string bytes;
-    for (int first = 1; first < 256; ++first)
-        for (const int second : {0x20, 0x40, 0x5C, 0x7E, 0x80, 0x81, 0x9F, 0xA1, 0xC3, 0xE9, 0xFC, 0xFF})
-            if (first != '\n' && first != '\r')
+    for (int first = 1; first < 256; ++first) {
+        for (const int second : {0x20, 0x40, 0x5C, 0x7E, 0x80, 0x81, 0x9F, 0xA1, 0xC3, 0xE9, 0xFC, 0xFF}) {
+            if (first != '\n' && first != '\r') {
                 (bytes += static_cast<char>(first)) += static_cast<char>(second);
+            }
+        }
+    }
     return bytes;
 }
 
 class TextLocale : public testing::TestWithParam<const char*> {
 protected:
     void SetUp() override {
-        if (std::setlocale(LC_ALL, GetParam()) == nullptr)
+        if (std::setlocale(LC_ALL, GetParam()) == nullptr) {
             GTEST_SKIP() << "no locale " << GetParam();
+        }
     }
     void TearDown() override { std::setlocale(LC_ALL, "C"); }
 };
@@ -33,8 +37,9 @@ TEST_P(TextLocale, EveryByteSurvivesBeingReadAndWritten) {
     folder.Write(L"in.txt", bytes);
     CStdioFile input(folder.Path(L"in.txt").c_str(), CFile::modeRead);
     CStdioFile output(folder.Path(L"out.txt").c_str(), CFile::modeCreate | CFile::modeWrite);
-    for (CString line; input.ReadString(line);)
+    for (CString line; input.ReadString(line);) {
         output.WriteString(line + L"\n");
+    }
     output.Close();
     EXPECT_EQ(folder.Read(L"out.txt"), bytes);
 }
@@ -45,8 +50,9 @@ INSTANTIATE_TEST_SUITE_P(CodePages, TextLocale,
                                          "English_United States.65001"));
 
 TEST(TextLocaleOfWesternEurope, ReadsAByteAsTheCharacterOfItsCodePage) {
-    if (std::setlocale(LC_ALL, "English_United States.1252") == nullptr)
+    if (std::setlocale(LC_ALL, "English_United States.1252") == nullptr) {
         GTEST_SKIP();
+    }
     const CTempFolder folder;
     folder.Write(L"in.txt", "\x80\xE9");
     CStdioFile input(folder.Path(L"in.txt").c_str(), CFile::modeRead);

@@ -35,10 +35,11 @@ TEST(CommandLine, AWrongOptionIsNamed) {
 TEST(CommandLine, ASearchFolderMustBeAFolder) {
     const CTestFolder folder;
     folder.Write(L"file", "");
-    for (const std::wstring name : {L"nowhere", L"file"})
+    for (const std::wstring name : {L"nowhere", L"file"}) {
         ExpectMistake(RunHost({L"--search", L".", L"--search", name, L"--eval", L"(give-nil)"}),
                       "the search folder '" + std::string(name.begin(), name.end()) +
                           "' does not exist: give --search an existing folder");
+    }
 }
 
 TEST(CommandLine, ATextThatDoesNotParseIsFoundBeforeThePlugInIsLoaded) {

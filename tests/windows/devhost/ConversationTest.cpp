@@ -161,8 +161,9 @@ TEST_F(Conversation, TheFormatOfTheStatusLineIsThatOfTheVariables) {
 
 TEST_F(Conversation, ItemsAreLoadedAndCalledFromTheMenu) {
     const CTestFolder folder;
-    for (const wchar_t* name : {L"items", L"items\\beta", L"items\\alpha", L"items\\noroutine"})
+    for (const wchar_t* name : {L"items", L"items\\beta", L"items\\alpha", L"items\\noroutine"}) {
         folder.MakeFolder(name);
+    }
     folder.Write(L"items\\alpha\\alpha.lsp", "(defun alpha () (load \"shared\") (shared \"alpha\"))");
     folder.Write(L"items\\beta\\beta.lsp", "(defun beta () (car 5))");
     folder.Write(L"items\\shared.lsp",

@@ -103,18 +103,22 @@ TEST(HostInterface, TextsAreReadInEveryFormatOrRefused) {
 
 TEST(HostInterface, FilesAreFoundInTheFoldersInOrderThenInTheCurrentOne) {
     const CTestFolder folder;
-    for (const wchar_t* name : {L"one", L"two", L"two\\inner"})
+    for (const wchar_t* name : {L"one", L"two", L"two\\inner"}) {
         folder.MakeFolder(name);
-    for (const wchar_t* name : {L"one\\a", L"two\\a", L"a", L"two\\b", L"b", L"c", L"two\\inner\\d"})
+    }
+    for (const wchar_t* name : {L"one\\a", L"two\\a", L"a", L"two\\b", L"b", L"c", L"two\\inner\\d"}) {
         folder.Write(name, "");
+    }
     const auto found = [&](const std::wstring& name) {
         const std::string printed =
             Evaluate(L"(find-file \"" + name + L"\" 254)", {L"--search", L"one", L"--search", L"two\\"});
         const std::size_t start = printed.find('"') + 1;
         std::wstring path;
-        for (const char c : printed.substr(start, printed.rfind('"') - start))
-            if (c != '\\' || path.empty() || path.back() != L'\\')
+        for (const char c : printed.substr(start, printed.rfind('"') - start)) {
+            if (c != '\\' || path.empty() || path.back() != L'\\') {
                 path += wchar_t(c);
+            }
+        }
         return path.starts_with(folder.Path() + L'\\') ? path.substr(folder.Path().size() + 1) : path;
     };
     EXPECT_EQ(found(L"a"), L"one\\a");
@@ -135,8 +139,9 @@ TEST(HostInterface, AnAbsolutePathIsLookedForWhereItSays) {
     folder.MakeFolder(L"one");
     folder.Write(L"a", "");
     std::wstring path;
-    for (const wchar_t c : folder.Path() + L"\\a")
+    for (const wchar_t c : folder.Path() + L"\\a") {
         path += c == L'\\' ? L"\\\\" : std::wstring(1, c);
+    }
     const std::string text(path.begin(), path.end());
     EXPECT_EQ(Evaluate(L"(find-file \"" + path + L"\" 254)", {L"--search", L"one"}),
               "(5100 " + std::to_string(folder.Path().size() + 3) + " \"" + text + "\")\n");

@@ -23,8 +23,9 @@ std::wstring Quoted(const std::wstring& argument) {
     std::wstring quoted = L"\"";
     std::size_t backslashes = 0;
     for (const wchar_t c : argument) {
-        if (c == L'"')
+        if (c == L'"') {
             quoted.append(backslashes + 1, L'\\');
+        }
         backslashes = c == L'\\' ? backslashes + 1 : 0;
         quoted += c;
     }
@@ -49,10 +50,12 @@ CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments, EStart st
     : m_outputFile(TestsFolder() / L"devhost_tests.output"),
       m_errorsFile(TestsFolder() / L"devhost_tests.errors") {
     std::wstring commandLine = Quoted(HostProgram());
-    if (start != EStart::Bare)
+    if (start != EStart::Bare) {
         commandLine += L" --plugin " + Quoted(TestPlugIn());
-    for (const std::wstring& argument : arguments)
+    }
+    for (const std::wstring& argument : arguments) {
         commandLine += L' ' + Quoted(argument);
+    }
 
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
@@ -65,9 +68,11 @@ CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments, EStart st
         HostProgram().c_str(), commandLine.data(), nullptr, nullptr, start != EStart::OwnConsole,
         start == EStart::OwnConsole ? CREATE_NEW_CONSOLE : 0, nullptr, nullptr, &startup, &m_process))
         << "error " << GetLastError();
-    for (const HANDLE output : {startup.hStdOutput, startup.hStdError})
-        if (output != nullptr)
+    for (const HANDLE output : {startup.hStdOutput, startup.hStdError}) {
+        if (output != nullptr) {
             CloseHandle(output);
+        }
+    }
 }
 
 CHostProcess::~CHostProcess() {
@@ -105,8 +110,9 @@ HWND CHostProcess::WindowWithTitle(const wchar_t* className, const wchar_t* titl
         while ((found = FindWindowExW(nullptr, found, className, title)) != nullptr) {
             DWORD process;
             GetWindowThreadProcessId(found, &process);
-            if (process == m_process.dwProcessId && IsWindowVisible(found))
+            if (process == m_process.dwProcessId && IsWindowVisible(found)) {
                 return true;
+            }
         }
         return false;
     });
@@ -131,8 +137,9 @@ std::string Evaluate(const std::wstring& text, const std::vector<std::wstring>& 
 bool WaitUntil(const std::function<bool()>& condition) {
     const ULONGLONG start = GetTickCount64();
     while (!condition()) {
-        if (GetTickCount64() - start > 20'000)
+        if (GetTickCount64() - start > 20'000) {
             return false;
+        }
         Sleep(10);
     }
     return true;

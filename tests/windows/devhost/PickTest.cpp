@@ -148,8 +148,9 @@ TEST_F(Pick, PickedPointsStayAsCrossesAndALineFollowsTheMouse) {
 
     const auto lineAlong = [&](int y) {
         int pixels = 0;
-        for (int x = 220; x < 380; ++x)
+        for (int x = 220; x < 380; ++x) {
             pixels += PixelAt(x, y) != sheet;
+        }
         return pixels;
     };
     EXPECT_EQ(lineAlong(150), 0);
@@ -161,10 +162,12 @@ TEST_F(Pick, PickedPointsStayAsCrossesAndALineFollowsTheMouse) {
     Click(400, 100);
     ASSERT_TRUE(WaitForPrompt(L"Stay"));
     EXPECT_TRUE(WaitUntil([&] { return PixelAt(400, 100) == cross && lineAlong(150) == 0; }));
-    for (const auto& [x, y] : {std::pair(195, 150), {205, 150}, {200, 145}, {200, 155}, {400, 105}})
+    for (const auto& [x, y] : {std::pair(195, 150), {205, 150}, {200, 145}, {200, 155}, {400, 105}}) {
         EXPECT_EQ(PixelAt(x, y), cross) << x << ", " << y;
-    for (const auto& [x, y] : {std::pair(194, 150), {206, 150}, {200, 144}, {200, 156}, {201, 151}})
+    }
+    for (const auto& [x, y] : {std::pair(194, 150), {206, 150}, {200, 144}, {200, 156}, {201, 151}}) {
         EXPECT_EQ(PixelAt(x, y), sheet) << x << ", " << y;
+    }
     Press(VK_ESCAPE);
     EXPECT_EQ(Result(), "(5100 206.15528128088303)");
 }

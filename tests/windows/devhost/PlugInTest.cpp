@@ -22,8 +22,9 @@ void ExpectNotLoaded(const std::wstring& file, const std::string& why) {
 TEST(PlugIn, AFileThatIsNotThereIsNamed) {
     const CTestFolder folder;
     folder.MakeFolder(L"folder.dll");
-    for (const wchar_t* file : {L"nothing.dll", L"folder.dll", L"no\\where.dll"})
+    for (const wchar_t* file : {L"nothing.dll", L"folder.dll", L"no\\where.dll"}) {
         ExpectNotLoaded(file, "does not exist: give --plugin an existing file");
+    }
 }
 
 TEST(PlugIn, AFileThatIsNoLibraryIsNamed) {
@@ -31,8 +32,9 @@ TEST(PlugIn, AFileThatIsNoLibraryIsNamed) {
     folder.Write(L"text.dll", "This is not a library.");
     folder.Write(L"empty.dll", "");
     folder.Write(L"noextension", "This is not a library.");
-    for (const wchar_t* file : {L"text.dll", L"empty.dll", L"noextension"})
+    for (const wchar_t* file : {L"text.dll", L"empty.dll", L"noextension"}) {
         ExpectNotLoaded(file, "is no library for this DevHost: it takes a 64-bit DLL");
+    }
 }
 
 TEST(PlugIn, ALibraryWithoutEntryPointIsNamed) {

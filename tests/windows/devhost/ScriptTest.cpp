@@ -132,10 +132,11 @@ TEST_F(Script, TheDrawingIsWrittenAtTheEnd) {
 }
 
 TEST_F(Script, ADrawingThatCannotBeWrittenIsNamedBeforeAnythingRuns) {
-    for (const std::string file : {"no\\where.svg", "..", "c:\\"})
+    for (const std::string file : {"no\\where.svg", "..", "c:\\"}) {
         ExpectFailure(Run("(princ \"never\")", {L"--drawing", std::wstring(file.begin(), file.end())}),
                       "the drawing cannot be written to '" + file +
                           "': give --drawing a writable file in an existing folder");
+    }
 }
 
 TEST_F(Script, ADrawingThatMayNotBeOverwrittenIsNamedAndStays) {

@@ -22,10 +22,12 @@ protected:
 TEST_F(Paint, LinesAreOnePixelOfInkWhereTheirUnitsSay) {
     m_drawing.Add(SLine{{50, 110}, {250, 110}});
     const CClientPixels pixels = Look();
-    for (const int x : {50, 51, 150, 249, 250})
+    for (const int x : {50, 51, 150, 249, 250}) {
         EXPECT_EQ(pixels.At(x, Y(110)), kInk) << x;
-    for (const int x : {49, 251})
+    }
+    for (const int x : {49, 251}) {
         EXPECT_EQ(pixels.At(x, Y(110)), kSheet) << x;
+    }
     EXPECT_EQ(pixels.At(150, Y(111)), kSheet);
     EXPECT_EQ(pixels.At(150, Y(109)), kSheet);
 }

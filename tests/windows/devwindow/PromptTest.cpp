@@ -31,8 +31,9 @@ TEST_F(PromptRow, EnterHandsTheLineOn) {
 }
 
 TEST_F(PromptRow, UpAndDownWalkThroughWhatWasTyped) {
-    for (const wchar_t* line : {L"1", L"2", L"2", L"3"})
+    for (const wchar_t* line : {L"1", L"2", L"2", L"3"}) {
         PostLine(line);
+    }
     Handle();
     SetWindowTextW(Part(IDC_PROMPT), L"draft");
     EXPECT_EQ(After(VK_UP), L"3");
@@ -81,8 +82,9 @@ TEST_F(PromptRow, TheListOfOutputsTakesLinesAndPieces) {
 }
 
 TEST_F(PromptRow, PageUpScrollsTheListOfOutputs) {
-    for (int line = 0; line < 100; ++line)
+    for (int line = 0; line < 100; ++line) {
         m_window.AddOutput(std::to_wstring(line));
+    }
     const auto firstLine = [&] { return SendMessageW(Part(IDC_OUTPUT), EM_GETFIRSTVISIBLELINE, 0, 0); };
     const LRESULT atEnd = firstLine();
     EXPECT_GT(atEnd, 50);
@@ -94,11 +96,13 @@ TEST_F(PromptRow, PageUpScrollsTheListOfOutputs) {
 
 TEST(PromptHistory, KeepsTheLatestLinesAlone) {
     CPromptHistory history;
-    for (int line = 0; line < 300; ++line)
+    for (int line = 0; line < 300; ++line) {
         history.Add(std::to_wstring(line));
+    }
     std::wstring shown;
-    for (int step = 0; step < 300; ++step)
+    for (int step = 0; step < 300; ++step) {
         shown = history.Older(shown);
+    }
     EXPECT_EQ(shown, L"100");
 }
 

@@ -154,8 +154,9 @@ TEST(ViewLife, OpeningDrawingAndClosingLeavesNoObjectsBehind) {
     useWindow();
     const int objects = GdiObjectCount();
     const int windows = WindowCount();
-    for (int cycle = 0; cycle < 3; ++cycle)
+    for (int cycle = 0; cycle < 3; ++cycle) {
         useWindow();
+    }
     EXPECT_EQ(GdiObjectCount(), objects);
     EXPECT_EQ(WindowCount(), windows);
 }

@@ -28,8 +28,9 @@ void CWindowFixture::PostKey(WPARAM key, EControl part) const {
 }
 
 void CWindowFixture::PostLine(const std::wstring& text) const {
-    for (const wchar_t letter : text)
+    for (const wchar_t letter : text) {
         PostMessageW(Part(IDC_PROMPT), WM_CHAR, letter, 0);
+    }
     PostKey(VK_RETURN);
 }
 

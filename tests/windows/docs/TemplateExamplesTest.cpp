@@ -38,8 +38,9 @@ std::string Utf8(const std::wstring& text) {
 
 std::vector<std::string> ExampleNames() {
     std::vector<std::string> names;
-    for (const fs::directory_entry& folder : fs::directory_iterator(examples))
+    for (const fs::directory_entry& folder : fs::directory_iterator(examples)) {
         names.push_back(folder.path().filename().string());
+    }
     std::sort(names.begin(), names.end());
     return names;
 }

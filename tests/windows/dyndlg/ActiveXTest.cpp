@@ -41,8 +41,9 @@ TEST_F(DynDialog, ReleasesAnActiveXControlWithItsWindow) {
     run();
     const int windows = WindowCount();
     const long long blocks = HeapBlockCount();
-    for (int cycle = 0; cycle < 10; ++cycle)
+    for (int cycle = 0; cycle < 10; ++cycle) {
         run();
+    }
     EXPECT_EQ(WindowCount(), windows);
     EXPECT_EQ(HeapBlockCount(), blocks);
 }

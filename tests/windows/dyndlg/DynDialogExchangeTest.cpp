@@ -37,9 +37,10 @@ TEST_F(DynDialogExchange, AnAutoRadioButtonNamesTheOneOfItsGroup) {
         dialog.AddDlgControl(L"BUTTON", L"c", plain | BS_AUTORADIOBUTTON, 0, nullptr, nullptr, 412);
         dialog.AddDlgControl(L"STATIC", L"the group ends here", plain | WS_GROUP, 0, nullptr, nullptr, 0);
         RunWithOk(dialog, [&](HWND window) {
-            for (int button = 0; button < 3; ++button)
+            for (int button = 0; button < 3; ++button) {
                 EXPECT_EQ(::IsDlgButtonChecked(window, 410 + button),
                           button == initial ? BST_CHECKED : BST_UNCHECKED);
+            }
             ::SendDlgItemMessageW(window, 410 + (initial + 1) % 3, BM_CLICK, 0, 0);
         });
         EXPECT_EQ(chosen, (initial + 1) % 3);
@@ -74,8 +75,9 @@ TEST_F(DynDialogExchange, AnEditHoldsAText) {
     Run(L"EDIT", tabbed | ES_AUTOHSCROLL, &text, [](HWND control) {
         EXPECT_EQ(TextOf(control), L"Porta \u00E0 \u4E2D");
         ::SendMessageW(control, EM_SETSEL, 0, -1);
-        for (const wchar_t character : {L'x', L'\u20AC'})
+        for (const wchar_t character : {L'x', L'\u20AC'}) {
             ::SendMessageW(control, WM_CHAR, character, 1);
+        }
     });
     EXPECT_STREQ(text, L"x\u20AC");
 }

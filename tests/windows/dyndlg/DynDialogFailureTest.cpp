@@ -64,8 +64,9 @@ TEST_F(DynDialogFailure, EachControlThatCannotBeCreatedIsReported) {
     CDynDialogEx dialog(&m_parent);
     dialog.AddDlgControl(L"EDIT-A", L"", tabbed, 0, nullptr, nullptr, 0);
     dialog.AddDlgControl(L"EDIT-B", L"", tabbed, 0, nullptr, nullptr, 0);
-    for (int message = 0; message < 4; ++message)
+    for (int message = 0; message < 4; ++message) {
         m_hands->ThenPressOk();
+    }
     EXPECT_EQ(RunWithOk(dialog), IDOK);
     ExpectMessages({L"Failed to create DlgItem.", L"Failed to create DlgItem.",
                     L"Failed SetWindowPos for control EDIT-A.", L"Failed SetWindowPos for control EDIT-B."});
@@ -142,11 +143,13 @@ TEST_F(DynDialogFailure, NothingIsLeftOverManyDialogs) {
     };
     CLocalMemoryHook memory;
     // What the system and the framework make once and keep.
-    for (int warmUp = 0; warmUp < 3; ++warmUp)
+    for (int warmUp = 0; warmUp < 3; ++warmUp) {
         run();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int cycle = 0; cycle < 100; ++cycle)
+    for (int cycle = 0; cycle < 100; ++cycle) {
         run();
+    }
     EXPECT_EQ(CountHoldings(), before);
     EXPECT_EQ(memory.alive, 0);
     EXPECT_EQ(memory.locked, 0);

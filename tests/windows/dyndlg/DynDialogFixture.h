@@ -40,12 +40,14 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_GETFONT)
+        if (message == WM_GETFONT) {
             return reinterpret_cast<LRESULT>(font);
+        }
         if (message == WM_COMMAND) {
             commands.push_back({m_hWnd, wParam, lParam});
-            if (log != nullptr)
+            if (log != nullptr) {
                 log->push_back(commands.back());
+            }
         }
         return CWnd::WindowProc(message, wParam, lParam);
     }
@@ -65,16 +67,19 @@ public:
     std::vector<std::byte> modelessTemplate;  // of the last modeless dialog
 
     BOOL OnInitDialog() override {
-        if (beforeInit)
+        if (beforeInit) {
             beforeInit();
+        }
         const BOOL result = CDynDialogEx::OnInitDialog();
-        if (afterInit)
+        if (afterInit) {
             afterInit();
+        }
         return result;
     }
     void DoDataExchange(CDataExchange* pDX) override {
-        if (exchange)
+        if (exchange) {
             exchange(pDX);
+        }
         CDynDialogEx::DoDataExchange(pDX);
     }
     BOOL CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData) override {
@@ -93,8 +98,9 @@ protected:
     }
     INT_PTR RunAndPress(CDynDialogEx& dialog, int button, CModalHands::Step look) {
         m_hands->Then([look = std::move(look), button](HWND window) {
-            if (look)
+            if (look) {
                 look(window);
+            }
             ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
         const INT_PTR result = dialog.DoModal();

@@ -45,8 +45,9 @@ TEST_F(DynDialog, AddsTheStandardButtonsAgainWhenItRunsAgain) {
                           [](HWND window) {
                               int buttons = 0;
                               for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
-                                   child = ::GetWindow(child, GW_HWNDNEXT))
+                                   child = ::GetWindow(child, GW_HWNDNEXT)) {
                                   ++buttons;
+                              }
                               EXPECT_EQ(buttons, 4);
                           }),
               IDCANCEL);
@@ -117,8 +118,9 @@ protected:
                 ::GetWindowRect(window, &place);
             });
             centres = {place.CenterPoint(), now.CenterPoint()};
-            if (now == before)
+            if (now == before) {
                 break;
+            }
         }
         return centres;
     }
@@ -158,8 +160,9 @@ TEST_F(DynDialog, GivesAnIdFromOneCounterToEveryControlThatAsksForOne) {
     CDynDialogEx second(&m_parent);
     EXPECT_EQ(second.AddDlgControl(L"STATIC", L"", plain, 0, nullptr, nullptr, 0), id + 3);
     RunWithOk(first, [id](HWND window) {
-        for (const UINT present : {id, id + 1, 77U, id + 2})
+        for (const UINT present : {id, id + 1, 77U, id + 2}) {
             EXPECT_NE(::GetDlgItem(window, static_cast<int>(present)), nullptr) << present;
+        }
     });
 }
 

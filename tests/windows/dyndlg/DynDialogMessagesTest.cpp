@@ -105,8 +105,9 @@ TEST_F(DynDialogMessages, TheFirstControlHasTheFocus) {
 TEST_F(DynDialogMessages, OkAndCancelAreNotTheParentsToHear) {
     Run([](HWND window) { PressButton(window, IDOK); });
     Run([](HWND window) { PressButton(window, IDCANCEL); });
-    for (const Command& command : m_parent.commands)
+    for (const Command& command : m_parent.commands) {
         EXPECT_EQ(LOWORD(command.wParam), editId);
+    }
 }
 
 TEST_F(DynDialogMessages, AControlsCommandGoesToTheParentFirst) {
@@ -230,8 +231,9 @@ std::vector<UINT> endedChildren;
 WNDPROC listenedWindow = nullptr;
 
 LRESULT CALLBACK ListenToChildren(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY)
+    if (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY) {
         endedChildren.push_back(HIWORD(wParam));
+    }
     return ::CallWindowProcW(listenedWindow, window, message, wParam, lParam);
 }
 
@@ -239,8 +241,9 @@ TEST_F(DynDialogModeless, TakesItsControlsWithItFromTheLastToTheFirst) {
     CParentWindow parent;
     auto dialog = std::make_unique<CTestDialog>(&parent);
     dialog->m_modeless = true;
-    for (const UINT id : {310U, 311U, 312U})
+    for (const UINT id : {310U, 311U, 312U}) {
         dialog->AddDlgControl(L"EDIT", L"", tabbed, 0, nullptr, nullptr, id);
+    }
     ASSERT_EQ(dialog->DoModal(), TRUE);
     const HWND window = dialog->m_hWnd;
     endedChildren.clear();

@@ -22,8 +22,9 @@ TEST_F(DynDialog, HasTheSubclassedControlsInItsTemplate) {
         top += 20;
     }
     dialog.beforeInit = [&] {
-        for (INT_PTR index = 0; index < 6; ++index)
+        for (INT_PTR index = 0; index < 6; ++index) {
             EXPECT_EQ(dialog.GetItem(index)->m_hWnd, nullptr) << index;
+        }
     };
     RunWithOk(dialog, [&](HWND window) {
         for (size_t index = 0; index < ids.size(); ++index) {

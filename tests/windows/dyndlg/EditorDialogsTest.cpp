@@ -75,8 +75,9 @@ TEST_F(EditorDialogs, ATextIsTypedOverSeveralLines) {
                                 EXPECT_EQ(FontOf(edit).lfHeight, -11);
                                 EXPECT_NE(::GetWindowLong(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
                                 ::SendMessageW(edit, EM_SETSEL, 3, 3);
-                                for (const wchar_t key : {L' ', L'\u00E8', L'\r', L'x'})
+                                for (const wchar_t key : {L' ', L'\u00E8', L'\r', L'x'}) {
                                     ::SendMessageW(edit, WM_CHAR, key, 1);
+                                }
                             }),
               IDOK);
     EXPECT_STREQ(text, L"one \u00E8\r\nx\r\ntwo");
@@ -102,8 +103,9 @@ TEST_F(EditorDialogs, EnterBelongsToTheTextAndEscapeEndsTheEditor) {
 
 TEST_F(EditorDialogs, ALongTextComesBackWhole) {
     std::wstring longText;
-    while (longText.size() < 100000)
+    while (longText.size() < 100000) {
         longText += L"A line of the text that is long enough.\r\n";
+    }
     CString text = longText.c_str();
     EXPECT_EQ(
         RunTextEditor(text, IDOK,
@@ -210,11 +212,13 @@ TEST_F(EditorDialogs, LeaveNothingBehind) {
         RunDateEditor(date, time, button, {});
         ForgetSteps();
     };
-    for (int warmUp = 0; warmUp < 3; ++warmUp)
+    for (int warmUp = 0; warmUp < 3; ++warmUp) {
         runBoth(IDOK);
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int cycle = 0; cycle < 50; ++cycle)
+    for (int cycle = 0; cycle < 50; ++cycle) {
         runBoth(cycle % 2 == 0 ? IDOK : IDCANCEL);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -23,8 +23,9 @@ HLOCAL WINAPI CLocalMemoryHook::Alloc(UINT flags, SIZE_T size) {
 
 LPVOID WINAPI CLocalMemoryHook::Lock(HLOCAL memory) {
     void* const address = s_active->failLock ? nullptr : s_active->m_lock.System()(memory);
-    if (address != nullptr)
+    if (address != nullptr) {
         ++s_active->locked;
+    }
     return address;
 }
 

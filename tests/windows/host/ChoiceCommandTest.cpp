@@ -251,8 +251,9 @@ TEST_F(ChoiceCommand, ASlideThatVanishesAfterTheSearchKeepsItsChoice) {
     int searches = 0;
     // The two searches of the names succeed, later ones do not.
     fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
-        if (++searches > 2)
+        if (++searches > 2) {
             return FakeHost::RtNorm - 1;
+        }
         wcscpy(result, m_folder.Path(name).c_str());
         return FakeHost::RtNorm;
     };
@@ -344,21 +345,24 @@ TEST_F(ChoiceCommand, FiveHundredCallsLeaveNothingBehind) {
     }
     const auto call = [&](int round) {
         Run(list, [round](HWND dialog) {
-            if (round % 2 == 0)
+            if (round % 2 == 0) {
                 Notify(dialog, 2, STN_DBLCLK);
-            else
+            } else {
                 PressButton(dialog, IDCANCEL);
+            }
         });
         m_hands.Forget();
         fakeHost.searched.clear();
         fakeHost.results.clear();
     };
-    for (int round = 0; round < 4; ++round)
+    for (int round = 0; round < 4; ++round) {
         call(round);
+    }
     const ProcessHoldings before = CountHoldings();
     const long long memory = ProcessHeapSize();
-    for (int round = 0; round < 500; ++round)
+    for (int round = 0; round < 500; ++round) {
         call(round);
+    }
     EXPECT_EQ(CountHoldings(), before);
     EXPECT_LT(ProcessHeapSize() - memory, 4'000'000);
 }

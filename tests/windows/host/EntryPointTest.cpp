@@ -76,10 +76,12 @@ TEST_F(EntryPoint, InvokeRunsTheFunctionOfTheCode) {
 TEST_F(EntryPoint, TheOtherRequestsAskForNothing) {
     icrxEntryPoint(1, nullptr);
     fakeHost = {};
-    for (const unsigned request : {0U, 3U, 4U, 6U, 7U, 8U, 9U, 10U, 11U, 12U, 13U, 14U, 15U, 16U, 17U})
+    for (const unsigned request : {0U, 3U, 4U, 6U, 7U, 8U, 9U, 10U, 11U, 12U, 13U, 14U, 15U, 16U, 17U}) {
         EXPECT_EQ(icrxEntryPoint(request, nullptr), 0) << request;
-    for (const unsigned request : {18U, 19U, 1000U, 0xFFFFFFFFU})
+    }
+    for (const unsigned request : {18U, 19U, 1000U, 0xFFFFFFFFU}) {
         EXPECT_EQ(icrxEntryPoint(request, nullptr), 3) << request;
+    }
     EXPECT_TRUE(fakeHost.defined.empty());
     EXPECT_TRUE(fakeHost.undefined.empty());
     EXPECT_TRUE(fakeHost.failures.empty());

@@ -140,12 +140,14 @@ TEST_F(PreviewCommand, FiveHundredCallsLeaveNothingBehind) {
         fakeHost.searched.clear();
         fakeHost.results.clear();
     };
-    for (int round = 0; round < 4; ++round)
+    for (int round = 0; round < 4; ++round) {
         call(round);
+    }
     const ProcessHoldings before = CountHoldings();
     const long long memory = ProcessHeapSize();
-    for (int round = 0; round < 500; ++round)
+    for (int round = 0; round < 500; ++round) {
         call(round);
+    }
     EXPECT_EQ(CountHoldings(), before);
     EXPECT_LT(ProcessHeapSize() - memory, 4'000'000);
 }

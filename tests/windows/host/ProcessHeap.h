@@ -10,8 +10,9 @@ inline long long ProcessHeapSize() {
     PROCESS_HEAP_ENTRY entry = {};
     HeapLock(heap);
     while (HeapWalk(heap, &entry)) {
-        if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0)
+        if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) {
             size += static_cast<long long>(entry.cbData);
+        }
     }
     HeapUnlock(heap);
     return size;

@@ -83,9 +83,10 @@ TEST_F(ChoiceDialog, IsWhite) {
 }
 
 TEST_F(ChoiceDialog, StartsWithTheFirstChoiceSelected) {
-    for (const int count : {1, 2, 3, 4, 5, 6})
+    for (const int count : {1, 2, 3, 4, 5, 6}) {
         EXPECT_EQ(ChosenBy(count, [](HWND window) { PressButton(window, IDOK); }), (Chosen{100, L"c0"}))
             << count;
+    }
 }
 
 TEST_F(ChoiceDialog, EnterChoosesTheSelectedCell) {
@@ -170,8 +171,9 @@ TEST_F(ChoiceDialog, ADoubleClickChoosesEveryCellThatShowsAChoice) {
     for (const unsigned count : {1U, 2U, 3U, 4U, 5U, 6U}) {
         for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
             const int choice = GetCellContent(count, cell);
-            if (choice < 0)
+            if (choice < 0) {
                 continue;
+            }
             EXPECT_EQ(
                 ChosenBy(static_cast<int>(count), [&](HWND window) { DoubleClick(CellOf(window, cell)); }),
                 (Chosen{100, L"c" + std::to_wstring(choice)}))
@@ -198,11 +200,12 @@ TEST_F(ChoiceDialog, ACellOutsideTheSelectionIgnoresItsNotifications) {
     EXPECT_EQ(ChosenBy(4,
                        [](HWND window) {
                            for (const int cell : {3, 6}) {
-                               for (const int code : {STN_CLICKED, STN_DBLCLK})
+                               for (const int code : {STN_CLICKED, STN_DBLCLK}) {
                                    SendMessageW(
                                        window, WM_COMMAND,
                                        static_cast<WPARAM>(MAKELONG(IDC_CHOICE_CELL1 + cell - 1, code)),
                                        reinterpret_cast<LPARAM>(CellOf(window, cell)));
+                               }
                            }
                            EXPECT_EQ(FramesIn(window, white)[0], 'B');
                            PressButton(window, IDOK);
@@ -316,8 +319,9 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedForEachCellBeforeTheDialogShows) {
     DeleteFileW(m_folder.Path(L"empty.png").c_str());
     CTavrinSelMaskDlg dialog;
     dialog.SetArguments(L"", 0);
-    for (const wchar_t* name : {L"c0", L"c1", L"c2"})
+    for (const wchar_t* name : {L"c0", L"c1", L"c2"}) {
         dialog.AddChoice(name);
+    }
     DeleteFileW(m_folder.Path(L"c0_t.png").c_str());
     DeleteFileW(m_folder.Path(L"c2_t.png").c_str());
     m_hands.ThenPressOk();
@@ -434,11 +438,13 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
         m_hands.Forget();
         fakeHost.searched = {};
     };
-    for (const int count : {1, 4, 5, 6})
+    for (const int count : {1, 4, 5, 6}) {
         cycle(count);
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 40; ++round)
+    for (int round = 0; round < 40; ++round) {
         cycle(1 + round % 7);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -30,11 +30,13 @@ std::string PlainPicture(unsigned colour) {
 
 char NameOf(COLORREF colour) {
     for (size_t number = 0; number < slideColours.size(); ++number) {
-        if (colour == AsColourRef(slideColours[number]))
+        if (colour == AsColourRef(slideColours[number])) {
             return static_cast<char>('0' + number);
+        }
     }
-    if (colour == CLR_INVALID)
+    if (colour == CLR_INVALID) {
         return ' ';
+    }
     return colour == AsColourRef(logoColour)    ? 'L'
            : colour == AsColourRef(emptyColour) ? 'E'
            : colour == white                    ? '.'
@@ -44,17 +46,22 @@ char NameOf(COLORREF colour) {
 // What five pixels across an edge of a cell show: one outside the frame, three of the frame, one inside.
 char BandAcross(const CClientPixels& pixels, POINT start, POINT step, COLORREF background) {
     std::array<COLORREF, 5> line;
-    for (int index = 0; index < 5; ++index)
+    for (int index = 0; index < 5; ++index) {
         line[static_cast<size_t>(index)] = pixels.At(start.x + index * step.x, start.y + index * step.y);
-    if (std::find(line.begin(), line.end(), CLR_INVALID) != line.end())
+    }
+    if (std::find(line.begin(), line.end(), CLR_INVALID) != line.end()) {
         return ' ';
-    if (line[0] != background || line[1] != line[2] || line[2] != line[3])
+    }
+    if (line[0] != background || line[1] != line[2] || line[2] != line[3]) {
         return '?';
-    if (line[1] == background)
+    }
+    if (line[1] == background) {
         return '-';
+    }
     // Not wider than three pixels.
-    if (line[3] == line[4])
+    if (line[3] == line[4]) {
         return '?';
+    }
     return line[1] == black ? 'B' : line[1] == white ? 'W' : '?';
 }
 
@@ -86,16 +93,18 @@ void CChoiceFixture::WriteSlide(int number, const std::wstring& ending) const {
 }
 
 void CChoiceFixture::WriteSlides(int count) const {
-    for (int number = 0; number < count; ++number)
+    for (int number = 0; number < count; ++number) {
         WriteSlide(number);
+    }
     m_folder.Write(L"logo.png", PlainPicture(logoColour));
     m_folder.Write(L"empty.png", PlainPicture(emptyColour));
 }
 
 void CChoiceFixture::Fill(CTavrinSelMaskDlg& dialog, int count) {
     dialog.SetArguments(L"Other", 0);
-    for (int number = 0; number < count; ++number)
+    for (int number = 0; number < count; ++number) {
         dialog.AddChoice((L"c" + std::to_wstring(number)).c_str());
+    }
     dialog.LoadSlides();
 }
 
@@ -140,8 +149,9 @@ std::string ShownIn(HWND dialog) {
 std::string FramesIn(HWND dialog, COLORREF background) {
     const CClientPixels pixels(dialog);
     std::string frames;
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell)
+    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
         frames += FrameAround(pixels, PlaceOf(dialog, CellOf(dialog, cell)), background);
+    }
     return frames;
 }
 

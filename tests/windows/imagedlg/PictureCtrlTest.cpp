@@ -28,8 +28,9 @@ constexpr COLORREF blue = RGB(0, 0, 255);
 std::string Coloured(unsigned left, unsigned right) {
     constexpr int size = 64;
     std::vector<unsigned> pixels;
-    for (int pixel = 0; pixel < size * size; ++pixel)
+    for (int pixel = 0; pixel < size * size; ++pixel) {
         pixels.push_back(pixel % size < size / 2 ? left : right);
+    }
     return BitmapFile(size, size, pixels);
 }
 
@@ -310,8 +311,9 @@ TEST_F(PictureCtrl, LeavesNoHandleAndNoBlockBehind) {
     };
     cycle();
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 50; ++round)
+    for (int round = 0; round < 50; ++round) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

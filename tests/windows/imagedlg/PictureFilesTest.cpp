@@ -14,8 +14,9 @@ constexpr COLORREF white = RGB(255, 255, 255);
 std::string TwoColours(EPngForm form) {
     constexpr int size = 16;
     std::vector<unsigned> pixels;
-    for (int pixel = 0; pixel < size * size; ++pixel)
+    for (int pixel = 0; pixel < size * size; ++pixel) {
         pixels.push_back(pixel % size < size / 2 ? 0xFF0000 : 0x0000FF);
+    }
     return PngFile(size, size, pixels, form);
 }
 
@@ -66,8 +67,9 @@ TEST_F(PictureFiles, AFileThatIsNoPictureLeavesTheCellEmpty) {
 
 TEST_F(PictureFiles, APictureCutOffAnywhereDoesNoHarm) {
     const std::string whole = TwoColours(EPngForm::Rgb8);
-    for (size_t size = 1; size < whole.size(); size += whole.size() / 7)
+    for (size_t size = 1; size < whole.size(); size += whole.size() / 7) {
         Show(whole.substr(0, size), [](const CClientPixels&) {});
+    }
     ExpectEmpty(whole.substr(0, 30));
 }
 
@@ -134,10 +136,12 @@ TEST_F(PictureFiles, NamesMayHoldEveryCharacterOfAFileName) {
     };
     for (unsigned character = 0x20; character <= 0xFFFD; ++character) {
         const bool halfOfAPair = character >= 0xD800 && character <= 0xDFFF;
-        if (!halfOfAPair && forbidden.find(static_cast<wchar_t>(character)) == std::wstring::npos)
+        if (!halfOfAPair && forbidden.find(static_cast<wchar_t>(character)) == std::wstring::npos) {
             name += static_cast<wchar_t>(character);
-        if (name.size() == 70)
+        }
+        if (name.size() == 70) {
             take();
+        }
     }
     name += L"\U0001F6AA";
     take();

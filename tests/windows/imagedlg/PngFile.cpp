@@ -10,16 +10,18 @@ constexpr unsigned char trueColour = 2;
 constexpr unsigned char paletteColour = 3;
 
 void PutBigEndian(std::string& bytes, std::uint32_t value, int size) {
-    for (int byte = size - 1; byte >= 0; --byte)
+    for (int byte = size - 1; byte >= 0; --byte) {
         bytes += static_cast<char>(value >> (8 * byte) & 0xFFU);
+    }
 }
 
 std::uint32_t Crc(const std::string& bytes) {
     std::uint32_t crc = 0xFFFFFFFFU;
     for (const char byte : bytes) {
         crc ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit)
+        for (int bit = 0; bit < 8; ++bit) {
             crc = crc >> 1 ^ ((crc & 1U) != 0 ? 0xEDB88320U : 0U);
+        }
     }
     return crc ^ 0xFFFFFFFFU;
 }
@@ -86,8 +88,9 @@ public:
             Code(0b11000101, 8);
             Code(0, 5);
         }
-        for (; left > 0; --left)
+        for (; left > 0; --left) {
             Code(0b00110000, 8);
+        }
         Code(0, 7);
         Put(0, (8 - m_bits) % 8);
         PutBigEndian(m_stream, count % 65521 << 16 | 1, 4);
@@ -111,8 +114,9 @@ private:
 
     // Bits of a code go in from the highest.
     void Code(unsigned code, int bits) {
-        for (int bit = bits - 1; bit >= 0; --bit)
+        for (int bit = bits - 1; bit >= 0; --bit) {
             Put(code >> bit & 1U, 1);
+        }
     }
 
     std::string m_stream;
@@ -137,8 +141,9 @@ template <typename Sample>
 void AddPass(std::string& data, const Pass& pass, int width, int height, Sample sample) {
     for (int y = pass.top; y < height && pass.left < width; y += pass.down) {
         data += '\0';  // no filter
-        for (int x = pass.left; x < width; x += pass.across)
+        for (int x = pass.left; x < width; x += pass.across) {
             data += sample(static_cast<size_t>(y * width + x));
+        }
     }
 }
 
@@ -153,13 +158,15 @@ std::string PngFile(int width, int height, const std::vector<unsigned>& pixels, 
             return std::string(1, static_cast<char>(palette.size() / 3 - 1));
         }
         std::string bytes;
-        for (const char byte : Colour(pixels[index]))
+        for (const char byte : Colour(pixels[index])) {
             bytes += std::string(form == EPngForm::Rgb16 ? 2 : 1, byte);
+        }
         return bytes;
     };
     if (form == EPngForm::Interlaced) {
-        for (const Pass& pass : interlacing)
+        for (const Pass& pass : interlacing) {
             AddPass(data, pass, width, height, sample);
+        }
     } else {
         AddPass(data, wholePicture, width, height, sample);
     }

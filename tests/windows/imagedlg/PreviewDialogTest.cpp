@@ -22,8 +22,9 @@ protected:
         fakeHost.searchFolders = {m_folder.Path(L"")};
         // Red at the left, blue at the right.
         std::vector<unsigned> pixels;
-        for (int pixel = 0; pixel < 64 * 64; ++pixel)
+        for (int pixel = 0; pixel < 64 * 64; ++pixel) {
             pixels.push_back(pixel % 64 < 32 ? 0xFF0000 : 0x0000FF);
+        }
         m_folder.Write(L"two.png", PngFile(64, 64, pixels));
     }
 
@@ -159,8 +160,9 @@ TEST_F(PreviewDialog, LeavesNoHandleAndNoBlockBehind) {
     };
     cycle(L"two");
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 40; ++round)
+    for (int round = 0; round < 40; ++round) {
         cycle(round % 2 == 0 ? L"two" : L"missing");
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

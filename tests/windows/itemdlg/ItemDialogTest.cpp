@@ -43,8 +43,9 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         if (message == WM_WINDOWPOSCHANGED &&
-            (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) != 0)
+            (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) != 0) {
             wasShown = true;
+        }
         return CTavrinWndDlg::WindowProc(message, wParam, lParam);
     }
 };
@@ -173,8 +174,9 @@ TEST_F(ItemDialog, LeavesNothingBehind) {
     WriteItem("$1 = \"<<1501>>\"D 900\n$2 = \"<<1502>>\"I 2\n$3 = \"<<1503>>\"R 0.5\n");
     cycle(IDCANCEL);
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 200; ++round)
+    for (int round = 0; round < 200; ++round) {
         cycle(IDCANCEL);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -44,8 +44,9 @@ protected:
         const auto edit = [&] { return ::FindWindowEx(grid.m_hWnd, nullptr, L"Edit", nullptr); };
         EXPECT_TRUE(PumpUntil([&] { return edit() != nullptr; }));
         ::SendMessage(edit(), EM_SETSEL, 0, -1);
-        for (const wchar_t* character = typed; *character != L'\0'; ++character)
+        for (const wchar_t* character = typed; *character != L'\0'; ++character) {
             ::SendMessage(edit(), WM_CHAR, static_cast<WPARAM>(*character), 1);
+        }
         return edit();
     }
     std::string WorkingFile() { return folder.Read(L"item_TMP.TXT"); }
@@ -281,11 +282,13 @@ TEST_F(ItemEditing, LeavesNothingBehind) {
         hands.Forget();
         fakeHost.searched.clear();
     };
-    for (int warmUp = 0; warmUp < 2; ++warmUp)
+    for (int warmUp = 0; warmUp < 2; ++warmUp) {
         cycle(IDOK);
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 20; ++round)
+    for (int round = 0; round < 20; ++round) {
         cycle(round % 2 == 0 ? IDOK : IDCANCEL);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -30,8 +30,9 @@ protected:
     std::wstring ConfirmDespite(const std::function<void()>& fault, size_t messages) {
         WriteItem(parameter);
         InDialog([&](HWND, CPropertyGrid&) { fault(); });
-        for (size_t message = 0; message < messages; ++message)
+        for (size_t message = 0; message < messages; ++message) {
             hands.ThenPressOk();
+        }
         EXPECT_EQ(Run(), IDOK);
         std::wstring seen;
         for (const MessageBoxSeen& message : hands.messages) {
@@ -63,8 +64,9 @@ protected:
 };
 
 TEST_F(ItemFaults, AReadOnlyWorkingFileIsReportedAndKept) {
-    if (!ReadOnlyCounts())
+    if (!ReadOnlyCounts()) {
         GTEST_SKIP() << "no file is read-only to this user";
+    }
     EXPECT_EQ(ConfirmDespite([&] { MakeReadOnly(working); }, 1), L"Error - unable to write file / Error\n");
     EXPECT_EQ(folder.Read(working), asWritten);
     EXPECT_EQ(folder.Read(defaults), withNewDefault);
@@ -72,8 +74,9 @@ TEST_F(ItemFaults, AReadOnlyWorkingFileIsReportedAndKept) {
 }
 
 TEST_F(ItemFaults, AReadOnlyTemplateIsReportedAndKept) {
-    if (!ReadOnlyCounts())
+    if (!ReadOnlyCounts()) {
         GTEST_SKIP() << "no file is read-only to this user";
+    }
     EXPECT_EQ(ConfirmDespite([&] { MakeReadOnly(defaults); }, 1), L"Error - unable to write file / Error\n");
     EXPECT_EQ(folder.Read(working), withAssignment);
     EXPECT_EQ(folder.Read(defaults), asWritten);
@@ -108,8 +111,9 @@ TEST_F(ItemFaults, FilesThatAreGoneWhenTheyAreReadComeBackEmpty) {
 TEST_F(ItemFaults, FilesThatAreGoneWhenTheyAreWrittenAreMadeAnew) {
     const auto loseEachAfterReading = [&] {
         fakeHost.findFile = [&, searches = 0](const wchar_t* name, wchar_t* result, size_t) mutable {
-            if (++searches % 2 == 0)
+            if (++searches % 2 == 0) {
                 ::DeleteFileW(folder.Path(name).c_str());
+            }
             std::wcscpy(result, folder.Path(name).c_str());
             return FakeHost::RtNorm;
         };

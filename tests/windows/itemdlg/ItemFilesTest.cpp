@@ -221,8 +221,9 @@ TEST_F(ItemFiles, AFileThatVanishesBeforeWritingIsReported) {
     int searches = 0;
     InDialog([&](HWND, CPropertyGrid&) {
         fakeHost.findFile = [&](const wchar_t* name, wchar_t* result, size_t) {
-            if (++searches == 2 || searches == 4)
+            if (++searches == 2 || searches == 4) {
                 return 0;
+            }
             std::wcscpy(result, folder.Path(name).c_str());
             return FakeHost::RtNorm;
         };
@@ -302,8 +303,9 @@ TEST_F(ItemFiles, AFileIsCutWhereReadingFailed) {
 
 TEST_F(ItemFiles, BytesThatMeanNothingComeBackAsTheyWere) {
     std::string bytes;
-    for (int byte = 0x80; byte < 0x100; ++byte)
+    for (int byte = 0x80; byte < 0x100; ++byte) {
         bytes += static_cast<char>(byte);
+    }
     WriteItem("$1 = \"<<1501>>\"R 1\n" + bytes + "\nlone \r return, mark \x1A, tab\t\n");
     PressInDialog(IDOK);
     Run();

@@ -22,8 +22,9 @@ protected:
     void FindWorkingFile(std::function<std::optional<std::wstring>(int search)> place) {
         fakeHost.findFile = [this, place = std::move(place), searches = 0](const wchar_t* name,
                                                                            wchar_t* result, size_t) mutable {
-            if (std::wcscmp(name, L"item_TMP.TXT") != 0)
+            if (std::wcscmp(name, L"item_TMP.TXT") != 0) {
                 return FakeHost::RtNorm - 1;
+            }
             const std::optional<std::wstring> path = place(++searches);
             std::wcscpy(result, path.value_or(L"").c_str());
             return path ? FakeHost::RtNorm : FakeHost::RtNorm - 1;

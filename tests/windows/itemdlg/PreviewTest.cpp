@@ -66,10 +66,11 @@ protected:
 
     void PutFiles(const SGeneratedItem& item) {
         folder.Write(L"item_TMP.TXT", item.workingFile);
-        if (item.templateFile)
+        if (item.templateFile) {
             folder.Write(L"item.TXT", *item.templateFile);
-        else
+        } else {
             ::DeleteFileW(folder.Path(L"item.TXT").c_str());
+        }
     }
 
     static CItemPreview PreviewOf(const SGeneratedItem& item) {
@@ -102,9 +103,10 @@ protected:
                              (contents.title ? contents.header : L"  Parametri") + L"\n";
         for (const ItemParameter& parameter : contents.parameters) {
             const ParamRecord& record = parameter.record;
-            if (parameter.row == PR_SHOWN)
+            if (parameter.row == PR_SHOWN) {
                 shown += RowText(std::wstring(1, static_cast<wchar_t>(record.type)), record.label,
                                  preview.ValueTextOf(parameter), parameter.editable);
+            }
         }
         return shown;
     }
@@ -112,39 +114,46 @@ protected:
     // Gives every third row that can be meant by its number a new value, here and there.
     static void ChangeValues(CItemPreview& preview, CPropertyGrid& grid) {
         std::multiset<std::wstring> numbers;
-        for (const ItemParameter& parameter : preview.Contents().parameters)
+        for (const ItemParameter& parameter : preview.Contents().parameters) {
             numbers.insert(parameter.record.number);
+        }
         UINT row = 0;
         for (const ItemParameter& parameter : preview.Contents().parameters) {
-            if (parameter.row != PR_SHOWN)
+            if (parameter.row != PR_SHOWN) {
                 continue;
+            }
             const UINT item = row++;
             const ParamRecord& record = parameter.record;
-            if (item % 3 != 0 || !parameter.editable || numbers.count(record.number) > 1)
+            if (item % 3 != 0 || !parameter.editable || numbers.count(record.number) > 1) {
                 continue;
+            }
             const std::wstring value = NewValue(record.type);
             preview.SetValue(record.number, value);
             ICustomItem* custom = nullptr;
-            if (grid.GetItemValue(item, custom))
+            if (grid.GetItemValue(item, custom)) {
                 custom->SetStringValue(value);
-            else if (record.type == 'I')
+            } else if (record.type == 'I') {
                 grid.SetItemValue(item, std::stoi(value));
-            else
+            } else {
                 grid.SetItemValue(item, std::stod(value));
+            }
         }
     }
 
     void ExpectMessages(const CItemPreview& preview, bool templateIsMissing) {
         std::vector<std::wstring> foretold;
         for (const ItemParameter& parameter : preview.Contents().parameters) {
-            if (parameter.row == PR_INVALID_TYPE)
+            if (parameter.row == PR_INVALID_TYPE) {
                 foretold.push_back(kInvalidTypeMessage);
+            }
         }
-        if (templateIsMissing)
+        if (templateIsMissing) {
             foretold.push_back(kFileNotFoundMessage);
+        }
         m_messagesForetold = foretold;
-        for (size_t i = 0; i < foretold.size(); ++i)
+        for (size_t i = 0; i < foretold.size(); ++i) {
             hands.ThenPressOk();
+        }
     }
 
     void Compare(const SGeneratedItem& item, bool changeValues) {
@@ -164,8 +173,9 @@ protected:
         };
         EXPECT_EQ(dialog.DoModal(), IDOK);
         std::vector<std::wstring> messages;
-        for (const MessageBoxSeen& message : hands.messages)
+        for (const MessageBoxSeen& message : hands.messages) {
             messages.push_back(message.text);
+        }
         EXPECT_EQ(messages, m_messagesForetold);
         EXPECT_EQ(folder.Read(L"item_TMP.TXT"),
                   WrittenFile(preview.WorkingFileAfter(TextsOf(SplitLines(item.workingFile)))));
@@ -194,8 +204,9 @@ TEST_F(Preview, ForetellsTheDialogOnEverySample) {
     int samples = 0;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(SAMPLES_FOLDER)) {
         const std::string name = NameOf(entry.path());
-        if (!name.ends_with(".TXT") || name.ends_with("_TMP.TXT"))
+        if (!name.ends_with(".TXT") || name.ends_with("_TMP.TXT")) {
             continue;
+        }
         SCOPED_TRACE(name);
         ++samples;
         const std::string working = name.substr(0, name.size() - 4) + "_TMP.TXT";

@@ -75,8 +75,9 @@ TEST_F(TextFile, TheOldEndOfFileMarkIsACharacter) {
 TEST_F(TextFile, EveryByteSurvives) {
     std::string line;
     for (int byte = 1; byte < 256; ++byte) {
-        if (byte != '\n')
+        if (byte != '\n') {
             line += static_cast<char>(byte);
+        }
     }
     EXPECT_EQ(RoundTrip(line + "\r\n"), line + "\r\n");
 }

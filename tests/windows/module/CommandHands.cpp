@@ -11,8 +11,9 @@ constexpr int ticksToClose = 30;
 BOOL CALLBACK FindDialog(HWND window, LPARAM found) {
     wchar_t name[16] = {};
     GetClassNameW(window, name, 16);
-    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window) || !IsWindowEnabled(window))
+    if (lstrcmpW(name, L"#32770") != 0 || !IsWindowVisible(window) || !IsWindowEnabled(window)) {
         return TRUE;
+    }
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
 }
@@ -36,18 +37,21 @@ CCommandHands::~CCommandHands() {
 }
 
 void CALLBACK CCommandHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr)
+    if (activeHands != nullptr) {
         activeHands->Act();
+    }
 }
 
 void CCommandHands::Act() {
     HWND dialog = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dialog));
-    if (dialog == nullptr)
+    if (dialog == nullptr) {
         return;
+    }
     if (dialog == m_current) {
-        if (--m_patience == 0)
+        if (--m_patience == 0) {
             PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+        }
         return;
     }
     m_current = dialog;

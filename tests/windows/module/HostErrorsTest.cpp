@@ -31,8 +31,9 @@ protected:
         OfferTextModule();
         fakeHost = {};
         fakeHost.searchFolders = {m_folder.Path(L"")};
-        for (const wchar_t* picture : {L"item.png", L"a_t.png"})
+        for (const wchar_t* picture : {L"item.png", L"a_t.png"}) {
             m_folder.Write(picture, BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
+        }
     }
 
     // What a call with this host gives LISP; m_messages holds what the user saw.

@@ -18,8 +18,9 @@ std::wstring FolderOfThisProgram() {
 template <typename Function>
 void Fetch(HMODULE library, const char* name, Function& function) {
     function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-    if (function == nullptr)
+    if (function == nullptr) {
         throw std::runtime_error(std::string("a library cannot be loaded or lacks ") + name);
+    }
 }
 
 }  // namespace

@@ -38,8 +38,9 @@ protected:
         OfferTextModule();
         fakeHost = {};
         fakeHost.searchFolders = {m_folder.Path(L"")};
-        for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png"})
+        for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png"}) {
             m_folder.Write(picture, BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
+        }
     }
 
     // Calls the function whose `failing`-th allocation fails; 0 for none.

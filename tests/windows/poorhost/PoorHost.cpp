@@ -65,8 +65,9 @@ int wmain() {
     using EntryPoint = int (*)(unsigned, void*);
     const auto entry =
         reinterpret_cast<EntryPoint>(reinterpret_cast<void*>(GetProcAddress(module, "icrxEntryPoint")));
-    if (entry == nullptr)
+    if (entry == nullptr) {
         return 1;
+    }
     const int answer = entry(1, nullptr);
     entry(5, nullptr);
     entry(2, nullptr);

@@ -26,10 +26,12 @@ CPropertyGridCombo& OpenList(CEditorGrid& grid, const std::vector<std::wstring>&
     auto list = std::make_unique<CPropertyGridCombo>();
     EXPECT_TRUE(list->Create(WS_CHILD, under, &grid, 0));
     list->SetColors(back, textColor, focusColor, focusTextColor);
-    if (font != nullptr)
+    if (font != nullptr) {
         list->SetFont(font);
-    for (const std::wstring& string : strings)
+    }
+    for (const std::wstring& string : strings) {
         list->AddString(string);
+    }
     list->SetCurSel(selection);
     list->ShowWindow(SW_SHOW);
     CPropertyGridCombo& opened = *list;
@@ -42,8 +44,9 @@ int HeightOfGg(HFONT font) {
     const HGDIOBJ previous = font != nullptr ? ::SelectObject(dc, font) : nullptr;
     SIZE size = {};
     ::GetTextExtentPoint32(dc, L"Gg", 2, &size);
-    if (previous != nullptr)
+    if (previous != nullptr) {
         ::SelectObject(dc, previous);
+    }
     ::ReleaseDC(nullptr, dc);
     return size.cy;
 }
@@ -160,8 +163,9 @@ TEST_F(ComboList, UsesTheFontThatItsWindowAnswersWhenNoneWasSet) {
     struct CAnswering : CPropertyGridCombo {
         CFont font;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message == WM_GETFONT)
+            if (message == WM_GETFONT) {
                 return reinterpret_cast<LRESULT>(font.GetSafeHandle());
+            }
             return CPropertyGridCombo::WindowProc(message, wParam, lParam);
         }
     } list;
@@ -178,8 +182,9 @@ TEST_F(ComboList, TellsItsWindowTheFont) {
     struct CHearing : CPropertyGridCombo {
         std::vector<std::pair<WPARAM, LPARAM>> heard;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-            if (message == WM_SETFONT)
+            if (message == WM_SETFONT) {
                 heard.emplace_back(wParam, lParam);
+            }
             return CPropertyGridCombo::WindowProc(message, wParam, lParam);
         }
     } list;
@@ -284,8 +289,9 @@ TEST_F(ComboListPaint, CentresTheTextInItsRow) {
     int first = -1;
     int last = -1;
     for (int y = 1; y < 1 + rowHeight; ++y) {
-        if (picture.Count({1, y, 149, y + 1}, textColor) == 0)
+        if (picture.Count({1, y, 149, y + 1}, textColor) == 0) {
             continue;
+        }
         first = first < 0 ? y : first;
         last = y;
     }
@@ -318,8 +324,9 @@ TEST_F(ComboListPaint, CutsAStringAtTheEdgeWithoutAnEllipsis) {
     Open(2, {wide, wide + L"l", L""});
     const CClientPixels picture = Picture();
     for (int y = 0; y < RowHeight(); ++y) {
-        for (int x = 1; x < 149; ++x)
+        for (int x = 1; x < 149; ++x) {
             ASSERT_EQ(picture.At(x, 1 + y), picture.At(x, 1 + y + RowHeight()));
+        }
     }
     EXPECT_GT(picture.Count({139, 1, 149, RowHeight()}, textColor), 5) << "up to the edge";
 }
@@ -569,8 +576,9 @@ TEST_F(ComboList, MovesNowhereWithoutStrings) {
 
 TEST_F(ComboList, LeavesOtherKeysAlone) {
     Open(1);
-    for (const UINT key : {VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_SPACE, VK_TAB, VK_F4})
+    for (const UINT key : {VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_SPACE, VK_TAB, VK_F4}) {
         Key(key);
+    }
     EXPECT_EQ(List().GetCurSel(), 1);
     EXPECT_EQ(::GetFocus(), List().m_hWnd);
     EXPECT_TRUE(grid.reports.empty());
@@ -638,11 +646,13 @@ TEST_P(ComboListEnding, LeavesNothingBehind) {
         grid.CloseEditor();
         grid.reports = {};
     };
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         cycle();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

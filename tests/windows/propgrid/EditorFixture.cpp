@@ -49,17 +49,20 @@ void CEditorGrid::OnDestroy() {
 
 void CEditorGrid::Take(const SReport& report) {
     reports.push_back(report);
-    if (beforeClosing)
+    if (beforeClosing) {
         beforeClosing();
-    if (!keepsEditor)
+    }
+    if (!keepsEditor) {
         CloseEditor();
+    }
 }
 
 // Lets go of the pointer first: destroying the window may bring a message about its end.
 void CEditorGrid::CloseEditor() {
     const std::unique_ptr<CWnd> closing = std::move(editor);
-    if (closing != nullptr && closing->m_hWnd != nullptr)
+    if (closing != nullptr && closing->m_hWnd != nullptr) {
         closing->DestroyWindow();
+    }
 }
 
 EditorTest::EditorTest() {
@@ -81,8 +84,9 @@ void EditorTest::ClickOn(const std::function<HWND()>& open, const std::function<
         grid.CloseEditor();
         const HWND editor = open();
         PumpMessages();
-        if (!::IsWindow(editor))
+        if (!::IsWindow(editor)) {
             continue;
+        }
         Click(editor, point(editor));
         PumpUntil([&] { return !::IsWindow(editor); });
     }

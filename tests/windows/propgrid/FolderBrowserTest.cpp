@@ -159,11 +159,13 @@ TEST_F(FolderBrowser, LeavesNothingBehind) {
         Browse(path, IDOK);
         Browse(path, IDCANCEL);
     };
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         cycle();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < 10; ++i) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

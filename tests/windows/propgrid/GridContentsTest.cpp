@@ -17,8 +17,9 @@ UINT AddNumber(CGridContents& contents, UINT section, const std::wstring& name) 
 
 std::vector<UINT> SectionIds(const CGridContents& contents) {
     std::vector<UINT> ids;
-    for (const CGridSection* section : contents.GetSections())
+    for (const CGridSection* section : contents.GetSections()) {
         ids.push_back(section->id);
+    }
     return ids;
 }
 
@@ -120,8 +121,9 @@ TEST(GridContents, WalksTheItemsInSectionOrder) {
     AddNumber(contents, 1, L"b");
     AddNumber(contents, 0, L"c");
     std::vector<UINT> ids;
-    for (const CGridItem* item : contents.WalkAll())
+    for (const CGridItem* item : contents.WalkAll()) {
         ids.push_back(item->id);
+    }
     EXPECT_EQ(ids, (std::vector<UINT>{1, 0, 2}));
     EXPECT_EQ(contents.GetItemsWalked(), 3U);
 }
@@ -156,8 +158,9 @@ TEST(GridContents, TakesTheSavedCopyOfWhatIsAdded) {
 std::size_t ComparisonsFor(CGridContents& contents, int count) {
     static int number = 0;
     const std::size_t before = contents.GetNameComparisons();
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         AddNumber(contents, 0, L"row " + std::to_wstring(number++));
+    }
     return contents.GetNameComparisons() - before;
 }
 
@@ -178,10 +181,12 @@ TEST(GridContents, RefusesEveryNameOfManyASecondTimeUntilItIsCleared) {
     CGridContents contents;
     for (int round = 0; round < 2; ++round) {
         contents.AddSection(L"A", false, none);
-        for (UINT row = 0; row < rows; ++row)
+        for (UINT row = 0; row < rows; ++row) {
             ASSERT_EQ(AddNumber(contents, 0, std::to_wstring(row)), row);
-        for (UINT row = 0; row < rows; ++row)
+        }
+        for (UINT row = 0; row < rows; ++row) {
             ASSERT_EQ(AddNumber(contents, 0, std::to_wstring(row)), none) << row;
+        }
         EXPECT_EQ(contents.GetItemCount(), rows);
         contents.Clear();
     }
@@ -192,8 +197,9 @@ TEST(GridContents, SortsByNameAgainAfterARowOrASectionWasAdded) {
     contents.AddSection(L"A", false, none);
     const auto ids = [&] {
         std::vector<UINT> sorted;
-        for (const CGridItem* const item : contents.GetSorted())
+        for (const CGridItem* const item : contents.GetSorted()) {
             sorted.push_back(item->id);
+        }
         return sorted;
     };
     AddNumber(contents, 0, L"b");

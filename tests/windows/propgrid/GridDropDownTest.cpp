@@ -216,8 +216,9 @@ TEST_F(GridDropDown, AListWithoutChoicesIsHarmless) {
     ClickOn(ValueOf(item));
     ASSERT_NE(List(), nullptr);
     ::UpdateWindow(List());
-    for (const UINT key : {VK_DOWN, VK_UP, VK_RETURN})
+    for (const UINT key : {VK_DOWN, VK_UP, VK_RETURN}) {
         ::SendMessage(List(), WM_KEYDOWN, key, 1);
+    }
     EXPECT_EQ(grid.GetItemText(item), L"");
     ExpectNoEditorLeft();
 }
@@ -391,11 +392,13 @@ TEST_F(GridDropDown, LeavesNothingBehind) {
         parent.changedItems.clear();
         PumpMessages();
     };
-    for (int warmUp = 0; warmUp < 3; ++warmUp)
+    for (int warmUp = 0; warmUp < 3; ++warmUp) {
         cycle(VK_RETURN);
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int round = 0; round < 40; ++round)
+    for (int round = 0; round < 40; ++round) {
         cycle(round % 2 == 0 ? VK_RETURN : VK_ESCAPE);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

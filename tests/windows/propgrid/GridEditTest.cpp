@@ -539,11 +539,13 @@ TEST_F(GridEdit, LeavesNothingBehind) {
         parent.changedItems.clear();
         PumpMessages();
     };
-    for (int number = 0; number < 3; ++number)
+    for (int number = 0; number < 3; ++number) {
         cycle(number);
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int number = 0; number < 100; ++number)
+    for (int number = 0; number < 100; ++number) {
         cycle(number);
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -33,8 +33,9 @@ CGridPicture::CGridPicture(CWnd& window) {
     CRect client;
     window.GetClientRect(&client);
     m_size = client.Size();
-    if (client.IsRectEmpty())
+    if (client.IsRectEmpty()) {
         return;
+    }
     BITMAPINFO info = {};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
     info.bmiHeader.biWidth = m_size.cx;
@@ -56,8 +57,9 @@ CGridPicture::CGridPicture(CWnd& window) {
 }
 
 COLORREF CGridPicture::At(int x, int y) const {
-    if (x < 0 || y < 0 || x >= m_size.cx || y >= m_size.cy)
+    if (x < 0 || y < 0 || x >= m_size.cx || y >= m_size.cy) {
         return CLR_INVALID;
+    }
     const unsigned pixel = m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.cx) +
                                     static_cast<std::size_t>(x)];
     return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
@@ -66,8 +68,9 @@ COLORREF CGridPicture::At(int x, int y) const {
 int CGridPicture::Count(const CRect& area, COLORREF color) const {
     int count = 0;
     for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x)
+        for (int x = area.left; x < area.right; ++x) {
             count += At(x, y) == color ? 1 : 0;
+        }
     }
     return count;
 }
@@ -75,8 +78,9 @@ int CGridPicture::Count(const CRect& area, COLORREF color) const {
 // Leaves the device context in a state that would spoil every later row.
 void CRecordingItem::DrawItem(CDC& dc, CRect rect, bool focused) {
     drawings.push_back({rect, focused, dc.GetTextColor(), dc.GetBkMode()});
-    if (whileDrawing)
+    if (whileDrawing) {
         whileDrawing();
+    }
     dc.SetBkMode(OPAQUE);
     dc.SetBkColor(RGB(255, 0, 0));
     dc.SetTextColor(RGB(255, 0, 0));
@@ -105,7 +109,8 @@ SCROLLINFO GridTest::ScrollInfo() const {
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
     info.fMask = SIF_ALL;
-    if (ScrollBar() != nullptr)
+    if (ScrollBar() != nullptr) {
         ::GetScrollInfo(ScrollBar()->m_hWnd, SB_CTL, &info);
+    }
     return info;
 }

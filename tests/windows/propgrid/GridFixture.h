@@ -157,15 +157,17 @@ protected:
     bool SameRows(const CGridPicture& picture, int left, int a, int b) const {
         for (int y = 0; y < RowHeight(); ++y) {
             for (int x = left; x < 300; ++x) {
-                if (picture.At(x, a * RowHeight() + y) != picture.At(x, b * RowHeight() + y))
+                if (picture.At(x, a * RowHeight() + y) != picture.At(x, b * RowHeight() + y)) {
                     return false;
+                }
             }
         }
         return true;
     }
     void FillWindow(UINT section) {
-        for (int row = 0; row < 40; ++row)
+        for (int row = 0; row < 40; ++row) {
             grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
+        }
     }
     void ScrollTo(int position) { ::SetScrollPos(ScrollBar()->m_hWnd, SB_CTL, position, FALSE); }
 };

@@ -14,17 +14,20 @@ bool CScriptedItem::OnLButtonDown(CRect place, CPoint point) {
 bool CScriptedItem::SetStringValue(std::wstring newText) {
     text = newText;
     calls.push_back("text ");
-    for (const wchar_t character : newText)
+    for (const wchar_t character : newText) {
         calls.back() += static_cast<char>(character);
-    if (during)
+    }
+    if (during) {
         during();
+    }
     return takesText;
 }
 
 bool CScriptedItem::OnButtonClicked() {
     calls.emplace_back("button");
-    if (during)
+    if (during) {
         during();
+    }
     return buttonChanges;
 }
 
@@ -33,8 +36,9 @@ void CScriptedItem::Note(const char* what, CRect place, CPoint point) {
     call << what << ' ' << point.x << ' ' << point.y;
     calls.push_back(call.str());
     rect = place;
-    if (during)
+    if (during) {
         during();
+    }
 }
 
 BEGIN_MESSAGE_MAP(CListeningOwner, CWnd)
@@ -109,8 +113,9 @@ HWND FindPopUp() {
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
         [](HWND window, LPARAM result) -> BOOL {
-            if (dynamic_cast<T*>(CWnd::FromHandlePermanent(window)) == nullptr)
+            if (dynamic_cast<T*>(CWnd::FromHandlePermanent(window)) == nullptr) {
                 return TRUE;
+            }
             *reinterpret_cast<HWND*>(result) = window;
             return FALSE;
         },

@@ -83,8 +83,9 @@ TEST(GridItemText, IsTheChosenOneOfTheChoices) {
 }
 
 TEST(GridItemText, IsEmptyForAnIndexWithoutAChoice) {
-    for (const int index : {-1, 2, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+    for (const int index : {-1, 2, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         EXPECT_EQ(Text(Item(IT_COMBO, index, {L"left", L"right"})), L"") << index;
+    }
     EXPECT_EQ(Text(Item(IT_COMBO, 0)), L"");
 }
 

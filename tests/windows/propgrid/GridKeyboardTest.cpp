@@ -27,8 +27,9 @@ protected:
     std::string Focused() const {
         EXPECT_TRUE(grid.GetFocusedItem() == CPropertyGrid::NO_ID ||
                     grid.GetFocusedSection() == CPropertyGrid::NO_ID);
-        if (grid.GetFocusedSection() != CPropertyGrid::NO_ID)
+        if (grid.GetFocusedSection() != CPropertyGrid::NO_ID) {
             return grid.GetFocusedSection() == section ? "S" : "T";
+        }
         const std::wstring name = grid.GetItemName(grid.GetFocusedItem());
         return name.empty() ? "-" : std::string(name.begin(), name.end());
     }
@@ -111,8 +112,9 @@ TEST_F(GridKeyboard, RightExpandsAFocusedSectionAndElseGoesDown) {
 }
 
 TEST_F(GridKeyboard, CollapsingByKeyRecomputesTheScrollRange) {
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 40; ++row) {
         grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
     grid.SetFocusedSection(section);
     PressKey(VK_LEFT);
     EXPECT_FALSE(ScrollBarShows());
@@ -153,8 +155,9 @@ TEST_F(GridKeyboard, PlusAndMinusGoToTheFocusedSection) {
 
 TEST_F(GridKeyboard, OtherCharactersDoNothing) {
     grid.SetFocusedItem(a);
-    for (const wchar_t character : std::wstring(L"aZ 1\t\r\x1b"))
+    for (const wchar_t character : std::wstring(L"aZ 1\t\r\x1b")) {
         Type(character);
+    }
     EXPECT_EQ(Focused(), "a");
     EXPECT_EQ(EditorCount(), 0);
     EXPECT_FALSE(grid.IsSectionCollapsed(section));
@@ -162,10 +165,12 @@ TEST_F(GridKeyboard, OtherCharactersDoNothing) {
 
 TEST_F(GridKeyboard, AGridWithoutRowsTakesAnyKey) {
     grid.ResetContents();
-    for (const UINT key : {VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT})
+    for (const UINT key : {VK_DOWN, VK_UP, VK_LEFT, VK_RIGHT}) {
         EXPECT_EQ(Walk(key, 1), "-");
-    for (const wchar_t character : std::wstring(L"*/+-"))
+    }
+    for (const wchar_t character : std::wstring(L"*/+-")) {
         Type(character);
+    }
     grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
     grid.AddSection(L"empty");
     EXPECT_EQ(Walk(VK_DOWN, 1), "-");
@@ -199,8 +204,9 @@ TEST_F(GridKeyboard, APlaceholderKeepsItsAnswerToADialog) {
 class GridReveal : public GridInputTest {
 protected:
     void Fill(int rows) {
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rows; ++row) {
             items.push_back(grid.AddIntegerItem(section, std::to_wstring(row), row));
+        }
         grid.UpdateWindow();
     }
     // The first row that does not show in full.
@@ -212,8 +218,9 @@ protected:
 TEST_F(GridReveal, ARowThatShowsInFullScrollsNothing) {
     Fill(40);
     grid.SetFocusedItem(items[0]);
-    for (int step = 1; step < Hidden(); ++step)
+    for (int step = 1; step < Hidden(); ++step) {
         PressKey(VK_DOWN);
+    }
     EXPECT_EQ(grid.GetFocusedItem(), items[static_cast<size_t>(Hidden() - 1)]);
     EXPECT_EQ(ScrollPosition(), 0);
 }
@@ -250,8 +257,9 @@ TEST_F(GridReveal, NothingScrollsWithoutAScrollBar) {
     EXPECT_EQ(grid.GetFocusedItem(), items.front());
     // Two rows taller than the window that shows no bar: a smaller window deliberately brings none.
     grid.MoveWindow(0, 0, 300, 2 * RowHeight());
-    for (size_t step = 0; step < items.size(); ++step)
+    for (size_t step = 0; step < items.size(); ++step) {
         PressKey(VK_DOWN);
+    }
     EXPECT_EQ(grid.GetFocusedItem(), items.front());
 }
 

@@ -33,8 +33,9 @@ protected:
     void Edit(UINT item, int button, CModalHands::Step act = {}) {
         hands.Then([this, button, act](HWND dialog) {
             EXPECT_EQ(::GetWindow(dialog, GW_OWNER), parent.m_hWnd);
-            if (act)
+            if (act) {
                 act(dialog);
+            }
             PressButton(dialog, button);
         });
         Focus(item);
@@ -42,8 +43,9 @@ protected:
     }
     static HWND ChildOf(HWND dialog, const wchar_t* className, int number = 0) {
         HWND child = nullptr;
-        for (int passed = 0; passed <= number; ++passed)
+        for (int passed = 0; passed <= number; ++passed) {
             child = ::FindWindowEx(dialog, child, className, nullptr);
+        }
         return child;
     }
     static std::wstring Caption(HWND dialog, int id) { return TextOf(::GetDlgItem(dialog, id)); }
@@ -334,8 +336,9 @@ TEST_F(GridModalEdit, TheRowsMayBeRemovedWhileADialogRuns) {
             custom.during = nullptr;
         } else {
             const std::wstring file = L"C:\\windows\\win.ini";
-            if (kind == IT_FILE)
+            if (kind == IT_FILE) {
                 grid.SetItemValue(item, file);
+            }
             Edit(item, IDOK, [&](HWND) { grid.ResetContents(); });
         }
         EXPECT_EQ(grid.GetItemCount(), 0U);
@@ -370,10 +373,11 @@ TEST_F(GridModalEdit, EscapeAndTheCloseBoxCancel) {
         hands.Then([=](HWND dialog) {
             const HWND edit = ChildOf(dialog, L"Edit");
             ::SetWindowText(edit, L"two");
-            if (closeBox)
+            if (closeBox) {
                 ::PostMessage(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
-            else
+            } else {
                 ::PostMessage(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+            }
         });
         Focus(item);
         ClickOn(ButtonOf(item));
@@ -386,18 +390,21 @@ TEST_F(GridModalEdit, LeavesNothingBehind) {
     const UINT first = AddAllKinds(L"kinds");
     grid.SetItemValue(first + IT_FILE, L"C:\\windows\\win.ini");
     const auto cycle = [&](int button) {
-        for (const EItemType kind : {IT_TEXT, IT_DATETIME, IT_FILE, IT_COLOR, IT_FONT})
+        for (const EItemType kind : {IT_TEXT, IT_DATETIME, IT_FILE, IT_COLOR, IT_FONT}) {
             Edit(first + kind, button);
+        }
         hands.Forget();
         parent.changedItems.clear();
         PumpMessages();
     };
-    for (int warmUp = 0; warmUp < 2; ++warmUp)
+    for (int warmUp = 0; warmUp < 2; ++warmUp) {
         cycle(IDOK);
+    }
     const int objects = GdiObjectCount(), windows = WindowCount();
     const long long blocks = HeapBlockCount();
-    for (int round = 0; round < 6; ++round)
+    for (int round = 0; round < 6; ++round) {
         cycle(round % 2 == 0 ? IDOK : IDCANCEL);
+    }
     EXPECT_EQ(WindowCount(), windows);
     EXPECT_EQ(HeapBlockCount(), blocks);
     // The system's own dialogs keep a few objects of theirs; what the grid forgot would come each time.

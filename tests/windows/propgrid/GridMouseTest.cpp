@@ -52,8 +52,9 @@ TEST_F(GridMouse, AGlyphCollapsesItsSectionAndFocusesIt) {
 
 TEST_F(GridMouse, AGlyphRecomputesTheScrollRange) {
     grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 40; ++row) {
         grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
     EXPECT_TRUE(ScrollBarShows());
     ClickOn(GlyphOf(section));
     EXPECT_FALSE(ScrollBarShows());
@@ -113,8 +114,9 @@ TEST_F(GridMouse, TheEditButtonIsPushedWhileTheMouseIsOnIt) {
 
 TEST_F(GridMouse, TheButtonOfARowThatIsScrolledAwayIsGone) {
     std::vector<UINT> items;
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 40; ++row) {
         items.push_back(grid.AddStringItem(section, std::to_wstring(row), L"value"));
+    }
     const CPoint value = ValueOf(items[1]);
     Focus(items[1]);
     Turn(-240);
@@ -311,8 +313,9 @@ TEST_F(GridMouse, ADoubleClickLeavesUndefinedValuesUndefined) {
 
 TEST_F(GridMouse, ADoubleClickOnASectionLeavesTheScrollRangeToTheNextLayout) {
     grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 40; ++row) {
         grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
     CPoint header = HeaderOf(section);
     header.x = 40;
     const int range = ScrollInfo().nMax;
@@ -344,12 +347,14 @@ TEST_F(GridMouse, ADoubleClickOnOtherKindsDoesNothing) {
 
 TEST_F(GridMouse, AGridWithoutItemsTakesAnyClick) {
     grid.ResetContents();
-    for (const CPoint point : {CPoint(5, 5), CPoint(200, 5), CPoint(dividerAt, 5), CPoint(-1, -1)})
+    for (const CPoint point : {CPoint(5, 5), CPoint(200, 5), CPoint(dividerAt, 5), CPoint(-1, -1)}) {
         DoubleClickOn(point);
+    }
     grid.AddSection(L"empty");
     grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
-    for (const CPoint point : {CPoint(5, 5), CPoint(200, 5), CPoint(dividerAt, 5), CPoint(5, 100)})
+    for (const CPoint point : {CPoint(5, 5), CPoint(200, 5), CPoint(dividerAt, 5), CPoint(5, 100)}) {
         DoubleClickOn(point);
+    }
     EXPECT_TRUE(parent.changedItems.empty());
 }
 

@@ -42,8 +42,9 @@ private:
                 wchar_t name[16] = {};
                 ::GetClassName(window, name, 16);
                 if (::lstrcmp(name, L"#32770") != 0 || !::IsWindowVisible(window) ||
-                    !::IsWindowEnabled(window))
+                    !::IsWindowEnabled(window)) {
                     return TRUE;
+                }
                 ++current->dialogs;
                 PressButton(window, current->dialogs % 2 == 0 ? IDOK : IDCANCEL);
                 return FALSE;
@@ -100,13 +101,15 @@ protected:
             case 11:
                 ActOnPopUp();
         }
-        if (Below(4) == 0)
+        if (Below(4) == 0) {
             PumpMessages();
+        }
     }
     void ActOnPopUp() {
         const HWND popUp = List() != nullptr ? List() : Calendar();
-        if (popUp == nullptr)
+        if (popUp == nullptr) {
             return;
+        }
         const LPARAM place = MAKELPARAM(Below(200), Below(160));
         ::PostMessage(popUp, WM_LBUTTONDOWN, 0, place);
         ::PostMessage(popUp, WM_LBUTTONUP, 0, place);

@@ -6,8 +6,9 @@ namespace {
 class GridScroll : public GridInputTest {
 protected:
     GridScroll() {
-        for (int row = 0; row < 40; ++row)
+        for (int row = 0; row < 40; ++row) {
             items.push_back(grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row));
+        }
         grid.UpdateWindow();
     }
     int Range() const { return 40 * RowHeight(); }
@@ -81,14 +82,16 @@ WNDPROC barProcedure = nullptr;
 LRESULT CALLBACK DraggedBar(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT result = ::CallWindowProc(barProcedure, window, message, wParam, lParam);
     auto* const info = reinterpret_cast<SCROLLINFO*>(lParam);
-    if (message == SBM_GETSCROLLINFO && (info->fMask & SIF_TRACKPOS) != 0)
+    if (message == SBM_GETSCROLLINFO && (info->fMask & SIF_TRACKPOS) != 0) {
         info->nTrackPos = draggedTo;
+    }
     return result;
 }
 
 TEST_F(GridScroll, TheThumbIsFollowedInAListOfMoreThan65535Pixels) {
-    for (int row = 40; row < 6000; ++row)
+    for (int row = 40; row < 6000; ++row) {
         grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
+    }
     ASSERT_GT(ScrollInfo().nMax, 80000);
     const HWND bar = ScrollBar()->m_hWnd;
     barProcedure = reinterpret_cast<WNDPROC>(

@@ -109,8 +109,9 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == 1127 && wParam == TRUE)
+        if (message == 1127 && wParam == TRUE) {
             selected = reinterpret_cast<const wchar_t*>(lParam);
+        }
         return CWnd::WindowProc(message, wParam, lParam);
     }
 };

@@ -25,8 +25,9 @@ std::wstring TextOf(HWND window) {
 }
 
 void Type(HWND window, const std::wstring& text) {
-    for (const wchar_t character : text)
+    for (const wchar_t character : text) {
         ::SendMessage(window, WM_CHAR, character, 1);
+    }
 }
 
 // Opens an edit in the grid as the grid does for a value.
@@ -179,8 +180,9 @@ TEST_F(InPlaceEdit, IsPaintedInItsColors) {
 TEST_F(InPlaceEdit, KeepsOneBrushHoweverOftenItsColorsChange) {
     CPropertyGridInPlaceEdit& edit = Open(L"x");
     const int before = GdiObjectCount();
-    for (COLORREF color = 0; color < 200; ++color)
+    for (COLORREF color = 0; color < 200; ++color) {
         edit.SetColors(color, 0);
+    }
     EXPECT_EQ(GdiObjectCount(), before);
     EXPECT_EQ(AskForColors(grid, edit.m_hWnd).brush, 199U);
 }
@@ -200,8 +202,9 @@ TEST_F(InPlaceEdit, MovesTheCaretByPlainArrowKeys) {
     EXPECT_EQ(Selection(edit), CPoint(3, 3));
     ::SendMessage(edit, WM_KEYDOWN, VK_HOME, 1);
     EXPECT_EQ(Selection(edit), CPoint(0, 0));
-    for (const UINT key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT})
+    for (const UINT key : {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT}) {
         ::SendMessage(edit, WM_KEYDOWN, key, 1);
+    }
     EXPECT_EQ(::GetFocus(), edit);
     EXPECT_TRUE(grid.reports.empty());
 }
@@ -209,16 +212,18 @@ TEST_F(InPlaceEdit, MovesTheCaretByPlainArrowKeys) {
 TEST_F(InPlaceEdit, StaysForOtherKeysWithCtrl) {
     const HWND edit = Open(L"12.5").m_hWnd;
     const CKeyHeldDown control(VK_CONTROL);
-    for (const UINT key : {VK_HOME, VK_END, VK_INSERT, VK_F5, VK_CONTROL, VK_SHIFT})
+    for (const UINT key : {VK_HOME, VK_END, VK_INSERT, VK_F5, VK_CONTROL, VK_SHIFT}) {
         ::SendMessage(edit, WM_KEYDOWN, key, 1);
+    }
     EXPECT_EQ(::GetFocus(), edit);
     EXPECT_TRUE(grid.reports.empty());
 }
 
 TEST_F(InPlaceEdit, LeavesTheKeysOfEndingsToTheirCharacters) {
     const HWND edit = Open(L"12.5").m_hWnd;
-    for (const UINT key : {VK_RETURN, VK_TAB, VK_ESCAPE})
+    for (const UINT key : {VK_RETURN, VK_TAB, VK_ESCAPE}) {
         ::SendMessage(edit, WM_KEYDOWN, key, 1);
+    }
     EXPECT_EQ(::GetFocus(), edit);
     EXPECT_EQ(TextOf(edit), L"12.5");
     EXPECT_TRUE(grid.reports.empty());
@@ -337,11 +342,13 @@ TEST_P(InPlaceEditEnding, LeavesNothingBehind) {
         End(Open(L"a text too long for the object to hold inside").m_hWnd);
         grid.reports = {};
     };
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         cycle();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 
@@ -420,8 +427,9 @@ TEST_F(InPlaceEdit, DoesNotEndWhileAnotherOneIsEnding) {
     HWND second = nullptr;
     std::unique_ptr<CPropertyGridInPlaceEdit> secondEdit;
     grid.beforeClosing = [&] {
-        if (second != nullptr)
+        if (second != nullptr) {
             return;
+        }
         secondEdit = std::make_unique<CPropertyGridInPlaceEdit>(&grid, Cell(), WS_VISIBLE, 1001, L"second");
         second = secondEdit->m_hWnd;
         sibling.SetFocus();
@@ -486,8 +494,9 @@ protected:
     // Posts one message to the window with the focus, which is an edit's unless the grid is to have it.
     void Post(UINT message, WPARAM wParam, bool withEdit = true) {
         dialog.Run([=, this] {
-            if (withEdit)
+            if (withEdit) {
                 OpenEdit(dialog.grid, L"12.5", CRect(150, 20, 300, 36), nullptr);
+            }
             ::PostMessage(::GetFocus(), message, wParam, 1);
         });
     }

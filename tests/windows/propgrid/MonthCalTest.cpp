@@ -55,8 +55,9 @@ protected:
                 hit.pt = {x, y};
                 if (static_cast<UINT>(
                         ::SendMessage(calendar, MCM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit))) == part &&
-                    (day == 0 || hit.st.wDay == day))
+                    (day == 0 || hit.st.wDay == day)) {
                     return {x + 2, y + 2};
+                }
             }
         }
         ADD_FAILURE() << "nothing there";
@@ -169,8 +170,9 @@ TEST_F(MonthCal, IsChosenFromWithARealMouse) {
 
 TEST_F(MonthCal, LeavesOtherKeysToTheCalendar) {
     const HWND calendar = Open().m_hWnd;
-    for (const UINT key : {VK_LEFT, VK_RIGHT, VK_SPACE, VK_TAB, VK_F4})
+    for (const UINT key : {VK_LEFT, VK_RIGHT, VK_SPACE, VK_TAB, VK_F4}) {
         ::SendMessage(calendar, WM_KEYDOWN, key, 1);
+    }
     EXPECT_TRUE(::IsWindow(calendar));
     EXPECT_TRUE(grid.reports.empty());
 }
@@ -250,11 +252,13 @@ TEST_P(MonthCalEnding, LeavesTheClosingAfterADateToTheGrid) {
 }
 
 void ExpectNothingLeftBehind(const std::function<void()>& cycle) {
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         cycle();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int i = 0; i < 30; ++i)
+    for (int i = 0; i < 30; ++i) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

@@ -55,8 +55,9 @@ TEST_F(PropertyGridCell, DrawsTheButtonsOfTheModesDifferently) {
         const CGridPicture picture(grid);
         std::vector<COLORREF> pixels;
         for (int y = square.top; y < square.bottom; ++y) {
-            for (int x = square.left; x < square.right; ++x)
+            for (int x = square.left; x < square.right; ++x) {
                 pixels.push_back(picture.At(x, y));
+            }
         }
         return pixels;
     };
@@ -139,8 +140,9 @@ TEST_F(PropertyGridCell, MarksModifiedValuesOfEveryKind) {
     grid.SetItemValue(fontItem, font);
     grid.MoveWindow(0, 0, 300, 14 * RowHeight());
     const CGridPicture picture(grid);
-    for (int row = 0; row < 11; ++row)
+    for (int row = 0; row < 11; ++row) {
         EXPECT_TRUE(picture.Has(ValueOfRow(row), modified)) << row;
+    }
 }
 
 TEST_F(PropertyGridCell, ReplacesAnUndefinedValueByTheUndefinedText) {
@@ -209,8 +211,9 @@ TEST_F(PropertyGridCell, SurvivesPathsThatNoFileSystemWouldTake) {
     Plain();
     const UINT section = grid.AddSection(L"");
     std::wstring deep = L"C:";
-    while (deep.size() < 5000)
+    while (deep.size() < 5000) {
         deep += L"\\folder";
+    }
     grid.AddFileItem(section, L"deep", deep + L"\\name.txt", L"");
     grid.AddFileItem(section, L"one name", std::wstring(100000, L'n'), L"");
     grid.AddFileItem(section, L"long name", L"C:\\" + std::wstring(700, L'n'), L"");
@@ -241,8 +244,9 @@ TEST_F(PropertyGridCell, DrawsBoldValuesAsTheFontFlagsSay) {
     const auto bold = [&] {
         const CGridPicture picture(grid);
         std::string rows;
-        for (int row = 0; row < 4; ++row)
+        for (int row = 0; row < 4; ++row) {
             rows += picture.Count(ValueOfRow(row), editable) > normal ? 'b' : '.';
+        }
         return rows;
     };
     EXPECT_EQ(bold(), "....");

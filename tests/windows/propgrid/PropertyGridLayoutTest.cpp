@@ -15,8 +15,9 @@ protected:
         AddRows(section, rows);
     }
     void AddRows(UINT section, int rows) {
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rows; ++row) {
             grid.AddIntegerItem(section, L"row " + std::to_wstring(grid.GetItemCount()), row);
+        }
     }
     void ScrollTo(int position) { ::SetScrollPos(ScrollBar()->m_hWnd, SB_CTL, position, TRUE); }
     int Total() const { return static_cast<int>(grid.GetItemCount()) * RowHeight(); }
@@ -187,8 +188,9 @@ TEST_F(PropertyGridLayout, SurvivesAWindowWithoutArea) {
 TEST_F(PropertyGridLayout, LaysOutRowsThatWereAddedBeforeTheWindow) {
     CTestGrid early;
     early.AddSection(L"Section");
-    for (int row = 0; row < 30; ++row)
+    for (int row = 0; row < 30; ++row) {
         early.AddIntegerItem(0, std::to_wstring(row), row);
+    }
     ASSERT_TRUE(
         early.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &parent, 1));
     ASSERT_NE(early.GetDlgItem(1000), nullptr);
@@ -214,8 +216,9 @@ TEST_F(PropertyGridLayout, HasTheWholeWidthInANewWindow) {
     CreateGrid(300, 200);
     const CGridPicture again(grid);
     EXPECT_TRUE(again.Has({100, 0, 200, 200}, text));
-    for (int x = 0; x < 300; ++x)
+    for (int x = 0; x < 300; ++x) {
         EXPECT_EQ(again.Count({x, 0, x + 1, 200}, text), first.Count({x, 0, x + 1, 200}, text)) << x;
+    }
 }
 
 TEST_F(PropertyGridLayout, AsksForARepaintAfterEveryChange) {
@@ -250,8 +253,9 @@ TEST_F(PropertyGridLayout, CostsTheSameForEveryRow) {
     grid.AddSection(L"Section");
     const auto comparisonsFor = [this](int rows) {
         const std::size_t before = grid.GetContents().GetNameComparisons();
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rows; ++row) {
             grid.AddIntegerItem(0, L"r" + std::to_wstring(grid.GetItemCount()), row);
+        }
         return grid.GetContents().GetNameComparisons() - before;
     };
     EXPECT_LE(comparisonsFor(1000), 2000U);

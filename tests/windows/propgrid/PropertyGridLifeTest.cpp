@@ -120,8 +120,9 @@ TEST_F(PropertyGridLife, KeepsItsContentsWhenItsWindowGoesAndIsMadeAgain) {
     CTestGrid grid;
     ASSERT_TRUE(Create(grid));
     const UINT section = grid.AddSection(L"section");
-    for (int row = 0; row < 30; ++row)
+    for (int row = 0; row < 30; ++row) {
         grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
     grid.DestroyWindow();
     grid.AddIntegerItem(section, L"between", 1);
     grid.SetBackColor(1);
@@ -180,12 +181,14 @@ TEST_F(PropertyGridLife, LeavesNoGdiObjectBehindByTenThousandPaints) {
         grid.SetDisplayMode(number / 13 % 3);
         grid.UpdateWindow();
     };
-    for (UINT number = 0; number < 39; ++number)
+    for (UINT number = 0; number < 39; ++number) {
         paint(number);
+    }
     const int before = GdiObjectCount();
     ASSERT_GT(before, 0);
-    for (UINT number = 0; number < 10000; ++number)
+    for (UINT number = 0; number < 10000; ++number) {
         paint(number);
+    }
     EXPECT_EQ(GdiObjectCount(), before);
 }
 
@@ -198,11 +201,13 @@ TEST_F(PropertyGridLife, LeavesNothingBehindByTwoHundredGrids) {
         grid->UpdateWindow();
         PumpMessages();
     };
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         cycle();
+    }
     const ProcessHoldings before = CountHoldings();
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         cycle();
+    }
     EXPECT_EQ(CountHoldings(), before);
 }
 

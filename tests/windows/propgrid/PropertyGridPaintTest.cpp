@@ -137,8 +137,9 @@ TEST_F(PropertyGridPaint, FramesTheNameOfTheFocusedSection) {
     int right = -1;
     for (int y = 0; y < RowHeight(); ++y) {
         for (int x = 0; x < 300; ++x) {
-            if (with.At(x, y) == without.At(x, y))
+            if (with.At(x, y) == without.At(x, y)) {
                 continue;
+            }
             ++changed;
             left = std::min(left, x);
             right = std::max(right, x);
@@ -370,8 +371,9 @@ TEST_F(PropertyGridPaint, RecordsWholeRowsAndNoValuesForRowsThatAreScrolledAway)
 
 TEST_F(PropertyGridPaint, VisitsOnlyTheRowsInSight) {
     const UINT section = grid.AddSection(L"HHH");
-    for (int row = 0; row < 5000; ++row)
+    for (int row = 0; row < 5000; ++row) {
         grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
+    }
     ScrollTo(2000 * RowHeight() + 1);
     const auto visits = [this] {
         const std::size_t before = grid.GetContents().GetItemsWalked();
@@ -443,8 +445,9 @@ TEST_F(PropertyGridPaint, PaintsTheScreenAsIntoAGivenDeviceContext) {
     const CGridPicture picture(grid);
     int different = 0;
     for (int y = 0; y < 200; ++y) {
-        for (int x = 0; x < 300; ++x)
+        for (int x = 0; x < 300; ++x) {
             different += screen.At(x, y) != picture.At(x, y) ? 1 : 0;
+        }
     }
     EXPECT_EQ(different, 0);
 }
@@ -512,12 +515,14 @@ TEST_F(PropertyGridPaint, MeasuresNoMoreThanItShows) {
     Flat();
     const UINT section = grid.AddSection(L"");
     std::vector<CRecordingItem> items(500);
-    for (std::size_t i = 0; i < items.size(); ++i)
+    for (std::size_t i = 0; i < items.size(); ++i) {
         grid.AddCustomItem(section, std::to_wstring(i), &items[i]);
+    }
     CGridPicture picture(grid);
     std::size_t drawn = 0;
-    for (const CRecordingItem& item : items)
+    for (const CRecordingItem& item : items) {
         drawn += item.drawings.size();
+    }
     EXPECT_LE(drawn, 200U / static_cast<unsigned>(RowHeight()) + 1);
     EXPECT_GE(drawn, 200U / static_cast<unsigned>(RowHeight()));
 }

@@ -47,8 +47,9 @@ public:
         dialog.points = Take<WORD>();
         m_next += 4;  // weight, italic, character set
         dialog.face = Name();
-        for (int index = 0; index < count; ++index)
+        for (int index = 0; index < count; ++index) {
             dialog.controls.push_back(ReadControl());
+        }
         return dialog;
     }
 
@@ -80,8 +81,9 @@ private:
     std::wstring Name() {
         std::wstring name;
         for (WORD unit = Take<WORD>(); unit != 0; unit = Take<WORD>()) {
-            if (unit == 0xFFFF)
+            if (unit == 0xFFFF) {
                 return L"#" + std::to_wstring(Take<WORD>());
+            }
             name += static_cast<wchar_t>(unit);
         }
         return name;

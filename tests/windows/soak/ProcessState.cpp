@@ -13,8 +13,9 @@ int ThreadCount() {
     THREADENTRY32 thread = {};
     thread.dwSize = sizeof(thread);
     int count = 0;
-    for (BOOL more = Thread32First(snapshot, &thread); more; more = Thread32Next(snapshot, &thread))
+    for (BOOL more = Thread32First(snapshot, &thread); more; more = Thread32Next(snapshot, &thread)) {
         count += thread.th32OwnerProcessID == GetCurrentProcessId() ? 1 : 0;
+    }
     CloseHandle(snapshot);
     return count;
 }

@@ -59,8 +59,9 @@ public:
     CSoak(const CLoadedModule& module, unsigned seed)
         : m_module(module), m_choices(seed), m_hands(m_choices) {
         fakeHost.searchFolders = {m_folder.Path(L"")};
-        for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png", L"c_t_3d.png", L"empty.png"})
+        for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png", L"c_t_3d.png", L"empty.png"}) {
             m_folder.Write(picture, BitmapFile(8, 8, std::vector<unsigned>(64, 0x3060C0)));
+        }
     }
 
     void CallAny() {
@@ -102,8 +103,9 @@ private:
         fakeHost.searched.clear();
         fakeHost.prompts.clear();
         fakeHost.alerts.clear();
-        if (fakeHost.results.size() != 1)
+        if (fakeHost.results.size() != 1) {
             Fail("a call set " + std::to_string(fakeHost.results.size()) + " results");
+        }
         return fakeHost.results.empty() ? "" : fakeHost.results.front();
     }
 
@@ -113,10 +115,11 @@ private:
         m_folder.Write(L"item.TXT", item.TemplateFile());
         const bool wild = m_choices.OneIn(2);
         std::deque<CSoakHands::Step> steps;
-        if (wild)
+        if (wild) {
             PlanInput(steps);
-        else
+        } else {
             PlanTyping(item, steps);
+        }
         m_hands.Plan(std::move(steps));
         CArguments arguments;
         arguments.String(L"item").Real(item.Scale()).Short(static_cast<short>(item.Mode()));
@@ -128,8 +131,9 @@ private:
         for (int typing = m_choices.Below(4); typing > 0 && !item.EditableRows().empty(); --typing) {
             const CSoakItem::SRow& row = item.EditableRows()[static_cast<std::size_t>(
                 m_choices.Below(static_cast<int>(item.EditableRows().size())))];
-            if (row.row >= rowsInSight)
+            if (row.row >= rowsInSight) {
                 continue;
+            }
             const int quarters = m_choices.Below(40000) - 2000;
             const double number = row.type == L'I' ? quarters : quarters / 4.0;
             wchar_t text[32];
@@ -141,8 +145,9 @@ private:
     }
 
     void PlanInput(std::deque<CSoakHands::Step>& steps) {
-        for (int input = m_choices.Below(12); input > 0; --input)
+        for (int input = m_choices.Below(12); input > 0; --input) {
             steps.push_back(m_hands.RandomInput());
+        }
     }
 
     void Check(CSoakItem& item, const std::string& result, bool wild) {
@@ -156,8 +161,9 @@ private:
         ++m_rewritten;
         if (wild) {
             const std::string problem = item.TakeValuesFrom(working);
-            if (!problem.empty())
+            if (!problem.empty()) {
                 Fail(problem + " in\n" + working);
+            }
         }
         Compare("working file", working, item.ExpectedWorkingFile());
         Compare("template", defaults, item.ExpectedTemplateFile());
@@ -174,8 +180,9 @@ private:
         PlanInput(steps);
         m_hands.Plan(std::move(steps));
         const std::string result = Invoke(1, arguments);
-        if (result != "nil" && result.rfind("(100 \"", 0) != 0 && result.rfind("(1000 \"", 0) != 0)
+        if (result != "nil" && result.rfind("(100 \"", 0) != 0 && result.rfind("(1000 \"", 0) != 0) {
             Fail("tavrinselmask answered " + result);
+        }
     }
 
     void CallPreview() {
@@ -185,13 +192,15 @@ private:
         PlanInput(steps);
         m_hands.Plan(std::move(steps));
         const std::string result = Invoke(2, arguments);
-        if (result != "nil" && result != "0")
+        if (result != "nil" && result != "0") {
             Fail("tavrinprevmask answered " + result);
+        }
     }
 
     void Compare(const char* what, const std::string& now, const std::string& expected) {
-        if (now != expected)
+        if (now != expected) {
             Fail(std::string(what) + ":\n" + now + "--- expected:\n" + expected);
+        }
     }
 
     void Fail(const std::string& what) {
@@ -246,11 +255,13 @@ int main(int argc, char** argv) {
         const auto elapsed = [start] { return GetTickCount64() - start; };
         const auto whole = static_cast<ULONGLONG>(seconds) * 1000;
         // What the system and the module load once is there after a third of the time.
-        while (elapsed() < whole / 3)
+        while (elapsed() < whole / 3) {
             soak.CallAny();
+        }
         const SProcessState before = SProcessState::Now(heap.liveBlocks());
-        while (elapsed() < whole)
+        while (elapsed() < whole) {
             soak.CallAny();
+        }
         const SProcessState after = SProcessState::Now(heap.liveBlocks());
         soak.PrintSummary();
         grown |= PrintGrowth("heap blocks", static_cast<long long>(before.heapBlocks),

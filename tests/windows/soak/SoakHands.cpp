@@ -17,8 +17,9 @@ constexpr int valueColumn = 240;  // pixels: right of the divider, left of any b
 BOOL CALLBACK CollectDialog(HWND window, LPARAM list) {
     wchar_t name[16] = {};
     GetClassNameW(window, name, 16);
-    if (lstrcmpW(name, L"#32770") == 0 && IsWindowVisible(window) && IsWindowEnabled(window))
+    if (lstrcmpW(name, L"#32770") == 0 && IsWindowVisible(window) && IsWindowEnabled(window)) {
         reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
     return TRUE;
 }
 
@@ -62,15 +63,17 @@ CSoakHands::~CSoakHands() {
 }
 
 void CALLBACK CSoakHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr)
+    if (activeHands != nullptr) {
         activeHands->Act();
+    }
 }
 
 void CSoakHands::Act() {
     std::vector<HWND> dialogs;
     EnumThreadWindows(GetCurrentThreadId(), CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
-    if (dialogs.empty())
+    if (dialogs.empty()) {
         return;
+    }
     for (const HWND dialog : dialogs) {
         if (IsMessageBox(dialog)) {
             ++m_boxes;
@@ -120,8 +123,9 @@ void CSoakHands::AddTyping(std::deque<Step>& steps, int row, const std::wstring&
     steps.push_back([text](HWND dialog) {
         const HWND edit = FindWindowExW(GetDlgItem(dialog, gridId), nullptr, L"Edit", nullptr);
         SendMessageW(edit, EM_SETSEL, 0, -1);
-        for (const wchar_t character : text)
+        for (const wchar_t character : text) {
             SendMessageW(edit, WM_CHAR, static_cast<WPARAM>(character), 1);
+        }
         PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 0x1C0001);
     });
     steps.push_back([](HWND) {});
@@ -129,8 +133,9 @@ void CSoakHands::AddTyping(std::deque<Step>& steps, int row, const std::wstring&
 
 CSoakHands::Step CSoakHands::RandomInput() {
     return [this](HWND dialog) {
-        for (int input = m_choices.Below(4); input >= 0; --input)
+        for (int input = m_choices.Below(4); input >= 0; --input) {
             MakeInput(dialog);
+        }
     };
 }
 
@@ -169,17 +174,19 @@ void CSoakHands::MakeInput(HWND dialog) {
                          keys[m_choices.Below(static_cast<int>(std::size(keys)))], 1);
             break;
         case 7:
-            if (HWND const cell = GetDlgItem(dialog, firstCellId + m_choices.Below(6)))
+            if (HWND const cell = GetDlgItem(dialog, firstCellId + m_choices.Below(6))) {
                 PostMessageW(dialog, WM_COMMAND,
                              static_cast<WPARAM>(
                                  MAKELONG(GetDlgCtrlID(cell), m_choices.OneIn(4) ? STN_DBLCLK : STN_CLICKED)),
                              reinterpret_cast<LPARAM>(cell));
+            }
             break;
         case 8:
-            if (m_choices.OneIn(4) && GetDlgItem(dialog, replaceId) != nullptr)
+            if (m_choices.OneIn(4) && GetDlgItem(dialog, replaceId) != nullptr) {
                 PressButton(dialog, replaceId);
-            else
+            } else {
                 InvalidateRect(dialog, nullptr, TRUE);
+            }
             break;
         default:
             PostMessageW(FocusOr(dialog), WM_CHAR,

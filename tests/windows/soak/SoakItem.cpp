@@ -14,24 +14,27 @@ TextLines LinesOf(const std::string& file) {
     std::wstring line;
     for (const char byte : file) {
         if (byte == '\n') {
-            if (!line.empty() && line.back() == L'\r')
+            if (!line.empty() && line.back() == L'\r') {
                 line.pop_back();
+            }
             lines.push_back(line);
             line.clear();
         } else {
             line += static_cast<wchar_t>(byte);
         }
     }
-    if (!line.empty())
+    if (!line.empty()) {
         lines.push_back(line);
+    }
     return lines;
 }
 
 std::string FileOf(const TextLines& lines) {
     std::string file;
     for (const std::wstring& line : lines) {
-        for (const wchar_t character : line)
+        for (const wchar_t character : line) {
             file += static_cast<char>(character);
+        }
         file += "\r\n";
     }
     return file;
@@ -100,17 +103,21 @@ CSoakItem::CSoakItem(CChoices& choices, const TextLookup& texts) : m_texts(texts
     const TextLines lines = LinesOf(m_workingFile);
     for (int index = 0; index < static_cast<int>(lines.size()); ++index) {
         const std::wstring& line = lines[static_cast<std::size_t>(index)];
-        if (!block.TakeLine(line))
+        if (!block.TakeLine(line)) {
             continue;
+        }
         const std::optional<ParameterRow> read = ReadParameter(line, index, m_scale, m_mode, m_texts);
-        if (!read)
+        if (!read) {
             continue;
+        }
         m_records[index] = read->record;
         const auto type = static_cast<wchar_t>(read->record.type);
-        if (type == L'U' || !labels.insert(read->record.label).second)
+        if (type == L'U' || !labels.insert(read->record.label).second) {
             continue;
-        if (read->editable)
+        }
+        if (read->editable) {
             m_editableRows.push_back({row, index, type});
+        }
         ++row;
     }
 }
@@ -121,10 +128,12 @@ std::string CSoakItem::RandomFile(CChoices& choices) const {
     file += (choices.OneIn(2) ? "<<2001>>" : "A title") + std::string(lineEnd) + "VAR" + lineEnd;
     const int parameters = choices.Below(choices.OneIn(10) ? 60 : 12);
     for (int number = 1; number <= parameters; ++number) {
-        if (choices.OneIn(10))
+        if (choices.OneIn(10)) {
             file += std::string("a line between") + lineEnd;
-        if (choices.OneIn(25))
+        }
+        if (choices.OneIn(25)) {
             file += std::string("END_VAR") + lineEnd + "VAR" + lineEnd;
+        }
         file += RandomParameter(choices, choices.OneIn(15) ? 1 : number) + lineEnd;
     }
     return file + "END_VAR" + (choices.OneIn(4) ? "" : lineEnd);
@@ -132,35 +141,41 @@ std::string CSoakItem::RandomFile(CChoices& choices) const {
 
 void CSoakItem::Type(int lineIndex, double number) {
     ParamRecord& record = m_records[lineIndex];
-    if (record.type == 'I')
+    if (record.type == 'I') {
         record.intValue = static_cast<std::int32_t>(number);
-    else
+    } else {
         record.realValue = number;
+    }
 }
 
 std::string CSoakItem::TakeValuesFrom(const std::string& workingFile) {
     const TextLines lines = LinesOf(workingFile);
     for (const auto& [index, record] : m_records) {
-        if (record.type == 'U')
+        if (record.type == 'U') {
             continue;
+        }
         const std::wstring line = static_cast<std::size_t>(index) < lines.size()
                                       ? lines[static_cast<std::size_t>(index)]
                                       : std::wstring();
         const std::size_t start = line.find(L" = ");
-        if (start == std::wstring::npos || !IsNumber(line.substr(start + 3)))
+        if (start == std::wstring::npos || !IsNumber(line.substr(start + 3))) {
             return "line " + std::to_string(index) + " is no assignment";
+        }
         m_written[index] = line.substr(start + 3);
     }
     // What nobody could edit has the value that it was read with.
     std::map<int, std::wstring> fixed;
-    for (const auto& [index, record] : m_records)
+    for (const auto& [index, record] : m_records) {
         fixed[index] = ValueText(record, m_scale);
-    for (const SRow& row : m_editableRows)
+    }
+    for (const SRow& row : m_editableRows) {
         fixed.erase(row.lineIndex);
+    }
     for (const auto& [index, text] : m_written) {
         const auto found = fixed.find(index);
-        if (found != fixed.end() && found->second != text)
+        if (found != fixed.end() && found->second != text) {
             return "line " + std::to_string(index) + " has a value that nobody could give it";
+        }
     }
     return {};
 }

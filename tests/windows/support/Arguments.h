@@ -35,8 +35,9 @@ private:
 
     Value& Add(short type) {
         m_values.push_back({});
-        if (m_values.size() > 1)
+        if (m_values.size() > 1) {
             m_values[m_values.size() - 2].next = &m_values.back();
+        }
         m_values.back().type = type;
         return m_values.back().value;
     }

@@ -8,8 +8,9 @@
 inline std::string BitmapFile(int width, int height, const std::vector<unsigned>& pixels) {
     std::string bytes;
     const auto put = [&](unsigned value, int size) {
-        for (int byte = 0; byte < size; ++byte)
+        for (int byte = 0; byte < size; ++byte) {
             bytes += static_cast<char>(value >> (8 * byte) & 0xFFU);
+        }
     };
     const unsigned rowSize = (static_cast<unsigned>(width) * 3 + 3) / 4 * 4;
     const unsigned imageSize = rowSize * static_cast<unsigned>(height);
@@ -24,11 +25,13 @@ inline std::string BitmapFile(int width, int height, const std::vector<unsigned>
     put(24, 2);
     put(0, 4);
     put(imageSize, 4);
-    for (int field = 0; field < 4; ++field)
+    for (int field = 0; field < 4; ++field) {
         put(0, 4);
+    }
     for (int y = height - 1; y >= 0; --y) {
-        for (int x = 0; x < width; ++x)
+        for (int x = 0; x < width; ++x) {
             put(pixels[static_cast<size_t>(y * width + x)], 3);
+        }
         bytes.append(rowSize - static_cast<unsigned>(width) * 3, '\0');
     }
     return bytes;

@@ -15,27 +15,31 @@ namespace {
 
 std::string Narrow(const wchar_t* text) {
     std::string narrow;
-    for (; *text != L'\0'; ++text)
+    for (; *text != L'\0'; ++text) {
         narrow += *text < 0x80 ? static_cast<char>(*text) : '?';
+    }
     return narrow;
 }
 
 std::string ListText(const sds_resbuf* list) {
     std::string text = "(";
     for (; list != nullptr; list = list->next) {
-        if (text.size() > 1)
+        if (text.size() > 1) {
             text += ' ';
-        if (list->type == RTSTR)
+        }
+        if (list->type == RTSTR) {
             text += '"' + Narrow(list->value.string) + '"';
-        else
+        } else {
             text += std::to_string(list->value.integer);
+        }
     }
     return text + ')';
 }
 
 std::string PointText(const double* point) {
-    if (point == nullptr)
+    if (point == nullptr) {
         return "none";
+    }
     char text[100];
     std::snprintf(text, sizeof text, "%g %g %g", point[0], point[1], point[2]);
     return text;
@@ -47,8 +51,9 @@ bool IsFile(const std::wstring& path) {
 }
 
 int Found(const std::wstring& path, wchar_t* result, size_t capacity) {
-    if (path.size() >= capacity || !IsFile(path))
+    if (path.size() >= capacity || !IsFile(path)) {
         return RTNORM - 1;
+    }
     std::wmemcpy(result, path.c_str(), path.size() + 1);
     return RTNORM;
 }
@@ -102,8 +107,9 @@ int sds_retlist(const sds_resbuf* list) {
 }
 
 sds_resbuf* sds_buildlist(int type, ...) {
-    if (Fails("sds_buildlist"))
+    if (Fails("sds_buildlist")) {
         return nullptr;
+    }
     std::va_list values;
     va_start(values, type);
     sds_resbuf* first = nullptr;
@@ -111,12 +117,13 @@ sds_resbuf* sds_buildlist(int type, ...) {
     for (; type != RTNONE; type = va_arg(values, int)) {
         sds_resbuf* const item = NewListItem();
         item->type = static_cast<short>(type);
-        if (type == RTREAL)
+        if (type == RTREAL) {
             item->value.real = va_arg(values, double);
-        else if (type == RTSTR)
+        } else if (type == RTSTR) {
             item->value.string = _wcsdup(va_arg(values, const wchar_t*));
-        else
+        } else {
             item->value.integer = static_cast<short>(va_arg(values, int));
+        }
         *link = item;
         link = &item->next;
     }
@@ -140,20 +147,24 @@ HWND sds_getmainhwnd(void) {
 
 int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity) {
     fakeHost.searched.push_back(name);
-    if (Fails("sds_findfile"))
+    if (Fails("sds_findfile")) {
         return RTNORM - 1;
-    if (fakeHost.findFile)
+    }
+    if (fakeHost.findFile) {
         return fakeHost.findFile(name, result, capacity);
+    }
     for (const std::wstring& folder : fakeHost.searchFolders) {
-        if (Found(folder + name, result, capacity) == RTNORM)
+        if (Found(folder + name, result, capacity) == RTNORM) {
             return RTNORM;
+        }
     }
     return Found(name, result, capacity);
 }
 
 int sds_getvar(const wchar_t* name, sds_resbuf* result) {
-    if (Fails("sds_getvar") || std::wcscmp(name, L"LUNITS") != 0)
+    if (Fails("sds_getvar") || std::wcscmp(name, L"LUNITS") != 0) {
         return RTNORM - 1;
+    }
     result->type = RTSHORT;
     result->value.integer = fakeHost.linearUnits;
     return RTNORM;
@@ -161,8 +172,9 @@ int sds_getvar(const wchar_t* name, sds_resbuf* result) {
 
 // "U2:900.0000": the units that were asked for can be read in the text.
 int sds_rtos(double value, int units, int precision, wchar_t* text) {
-    if (Fails("sds_rtos"))
+    if (Fails("sds_rtos")) {
         return RTNORM - 1;
+    }
     const int digits = precision < 0 ? fakeHost.precision : precision;
     if (fakeHost.distanceText) {
         const std::optional<std::wstring> formatted = fakeHost.distanceText(value, units, digits);
@@ -192,19 +204,23 @@ int sds_distof(const wchar_t* text, int units, double* result) {
 int sds_getpoint(const double* base, const wchar_t* prompt, double* point) {
     fakeHost.prompts.push_back(prompt);
     fakeHost.bases.push_back(PointText(base));
-    if (fakeHost.duringPick)
+    if (fakeHost.duringPick) {
         fakeHost.duringPick();
-    for (int axis = 0; axis < 3; ++axis)
+    }
+    for (int axis = 0; axis < 3; ++axis) {
         point[axis] = axis + 1;
+    }
     return Fails("sds_getpoint") ? RTNORM - 1 : fakeHost.pointStatus;
 }
 
 int sds_getdist(const double* base, const wchar_t* prompt, double* distance) {
     fakeHost.prompts.push_back(prompt);
     fakeHost.bases.push_back(PointText(base));
-    if (Fails("sds_getdist"))
+    if (Fails("sds_getdist")) {
         return RTNORM - 1;
-    if (fakeHost.distanceStatus == RTNORM)
+    }
+    if (fakeHost.distanceStatus == RTNORM) {
         *distance = fakeHost.distance;
+    }
     return fakeHost.distanceStatus;
 }

@@ -27,23 +27,27 @@ constexpr int gdiTableOffset = 0x94;
 int CountInSharedTable() {
     PROCESS_BASIC_INFORMATION process = {};
     if (NtQueryInformationProcess(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof(process),
-                                  nullptr) != 0)
+                                  nullptr) != 0) {
         return -1;
+    }
     const auto* environment = reinterpret_cast<const char*>(process.PebBaseAddress);
     const auto* table = *reinterpret_cast<const GdiTableEntry* const*>(environment + gdiTableOffset);
-    if (table == nullptr)
+    if (table == nullptr) {
         return -1;
+    }
     const auto processId = static_cast<unsigned short>(GetCurrentProcessId());
     int count = 0;
     for (unsigned index = 0; index < 0x10000; ++index) {
         const GdiTableEntry& entry = table[index];
-        if (entry.type == 0)
+        if (entry.type == 0) {
             continue;
+        }
         // Wine keeps the table per process and does not fill in every entry's owner.
         const auto handle = reinterpret_cast<HGDIOBJ>(
             static_cast<UINT_PTR>(index | static_cast<unsigned>(entry.upperHandle) << 16));
-        if ((entry.processId == processId || entry.processId == 0) && GetObjectType(handle) != 0)
+        if ((entry.processId == processId || entry.processId == 0) && GetObjectType(handle) != 0) {
             ++count;
+        }
     }
     return count;
 }

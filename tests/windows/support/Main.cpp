@@ -41,8 +41,9 @@ DWORD WINAPI Watch(void*) {
     for (;;) {
         Sleep(500);
         const ULONGLONG started = testStarted;
-        if (started == 0 || GetTickCount64() - started < secondsPerTest * 1000)
+        if (started == 0 || GetTickCount64() - started < secondsPerTest * 1000) {
             continue;
+        }
         wchar_t title[200] = {};
         GetWindowTextW(GetForegroundWindow(), title, 200);
         std::fprintf(stderr, "HUNG: %s.%s did not end within %lu s; the window in front is \"%ls\"\n",
@@ -66,7 +67,8 @@ int main(int argc, char** argv) {
     const HRESULT com = CoInitialize(nullptr);
     CloseHandle(CreateThread(nullptr, 0, Watch, nullptr, 0, nullptr));
     const int result = RUN_ALL_TESTS();
-    if (SUCCEEDED(com))
+    if (SUCCEEDED(com)) {
         CoUninitialize();
+    }
     return result;
 }

@@ -19,17 +19,20 @@ bool IsClass(HWND window, const wchar_t* name) {
 }
 
 BOOL CALLBACK CollectDialog(HWND window, LPARAM list) {
-    if (IsClass(window, L"#32770") && IsWindowVisible(window) && IsWindowEnabled(window))
+    if (IsClass(window, L"#32770") && IsWindowVisible(window) && IsWindowEnabled(window)) {
         reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
     return TRUE;
 }
 
 BOOL CALLBACK ReadChild(HWND child, LPARAM parameter) {
     auto& box = *reinterpret_cast<MessageBoxSeen*>(parameter);
-    if (IsClass(child, L"Static") && !TextOf(child).empty())
+    if (IsClass(child, L"Static") && !TextOf(child).empty()) {
         box.text = TextOf(child);
-    if (IsClass(child, L"Button"))
+    }
+    if (IsClass(child, L"Button")) {
         ++box.buttons;
+    }
     return TRUE;
 }
 
@@ -63,19 +66,22 @@ void CModalHands::ThenPressOk() {
 }
 
 void CALLBACK CModalHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr)
+    if (activeHands != nullptr) {
         activeHands->Act();
+    }
 }
 
 void CModalHands::Act() {
-    if (m_next == m_steps.size())
+    if (m_next == m_steps.size()) {
         return;
+    }
     std::vector<HWND> dialogs;
     EnumThreadWindows(GetCurrentThreadId(), CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
     std::erase_if(m_seen, [](HWND window) { return !IsWindow(window); });
     for (const HWND dialog : dialogs) {
-        if (std::find(m_seen.begin(), m_seen.end(), dialog) != m_seen.end())
+        if (std::find(m_seen.begin(), m_seen.end(), dialog) != m_seen.end()) {
             continue;
+        }
         m_seen.push_back(dialog);
         const Step step = m_steps[m_next++];
         step(dialog);

@@ -5,8 +5,9 @@ CClientPixels::CClientPixels(HWND window) {
     GetClientRect(window, &client);
     m_width = client.right;
     m_height = client.bottom;
-    if (m_width <= 0 || m_height <= 0)
+    if (m_width <= 0 || m_height <= 0) {
         return;
+    }
     m_rows.resize(static_cast<size_t>(m_width) * static_cast<size_t>(m_height));
     const HDC source = GetDC(window);
     const HDC memory = CreateCompatibleDC(source);
@@ -30,8 +31,9 @@ CClientPixels::CClientPixels(HWND window) {
 }
 
 COLORREF CClientPixels::At(int x, int y) const {
-    if (x < 0 || y < 0 || x >= m_width || y >= m_height)
+    if (x < 0 || y < 0 || x >= m_width || y >= m_height) {
         return CLR_INVALID;
+    }
     const unsigned pixel =
         m_rows[static_cast<size_t>(y) * static_cast<size_t>(m_width) + static_cast<size_t>(x)];
     return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
@@ -40,8 +42,9 @@ COLORREF CClientPixels::At(int x, int y) const {
 int CClientPixels::Count(const RECT& area, COLORREF colour) const {
     int count = 0;
     for (int y = area.top; y < area.bottom; ++y) {
-        for (int x = area.left; x < area.right; ++x)
+        for (int x = area.left; x < area.right; ++x) {
             count += At(x, y) == colour ? 1 : 0;
+        }
     }
     return count;
 }

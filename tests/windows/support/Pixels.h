@@ -34,10 +34,12 @@ bool PumpUntil(Condition condition) {
     const ULONGLONG deadline = GetTickCount64() + 5000;
     for (;;) {
         PumpMessages();
-        if (condition())
+        if (condition()) {
             return true;
-        if (GetTickCount64() > deadline)
+        }
+        if (GetTickCount64() > deadline) {
             return false;
+        }
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
     }
 }

@@ -31,7 +31,8 @@ void CTempFolder::Write(const std::wstring& name, const std::string& bytes) cons
 
 std::string CTempFolder::Read(const std::wstring& name) const {
     std::ifstream file(std::filesystem::path(m_path + name), std::ios::binary);
-    if (!file)
+    if (!file) {
         return "(no file)";
+    }
     return {std::istreambuf_iterator<char>(file), {}};
 }

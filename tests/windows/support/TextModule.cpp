@@ -15,6 +15,7 @@ void OfferTextModule() {
 
 void TakeTextModuleAway() {
     SetDllDirectoryW(nullptr);
-    while (const HMODULE module = GetModuleHandleW(L"TavrinRes.dll"))
+    while (const HMODULE module = GetModuleHandleW(L"TavrinRes.dll")) {
         FreeLibrary(module);
+    }
 }

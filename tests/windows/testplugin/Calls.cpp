@@ -17,8 +17,9 @@ struct SBuffer {
     // The index behind the last character that was written.
     int Written() const {
         std::size_t end = kRoom;
-        while (end > 0 && text[end - 1] == kUntouched)
+        while (end > 0 && text[end - 1] == kUntouched) {
             --end;
+        }
         return int(end);
     }
     wchar_t text[kRoom];
@@ -55,13 +56,15 @@ void GiveWrongLists() {
     sds_resbuf circle = {nullptr, RTSHORT, {}};
     circle.next = &circle;
     int refused = 0;
-    for (const sds_resbuf* list : {&unknownType, &noText, &circle})
+    for (const sds_resbuf* list : {&unknownType, &noText, &circle}) {
         refused += HOST(sds_retlist)(list) != RTNORM;
+    }
     refused += HOST(sds_buildlist)(5009, 1, RTNONE) == nullptr;
     refused += HOST(sds_buildlist)(RTSTR, static_cast<const wchar_t*>(nullptr), RTNONE) == nullptr;
     refused += HOST(sds_buildlist)(RTNONE) == nullptr;
-    if (refused == 6)
+    if (refused == 6) {
         HOST(sds_retlist)(nullptr);
+    }
 }
 
 void FailWith() {
@@ -142,8 +145,9 @@ void UseBadPointers() {
 // How many definitions and removals were refused.
 void DefineOddNames() {
     int refused = 0;
-    for (const wchar_t* name : {L"", L"5", L"nil", L"T", L"quote", L"a b", L"(a", L"ECHO"})
+    for (const wchar_t* name : {L"", L"5", L"nil", L"T", L"quote", L"a b", L"(a", L"ECHO"}) {
         refused += HOST(sds_defun)(name, 90) == 0;
+    }
     refused += HOST(sds_undef)(L"echo", 1) == 0;     // another function's code
     refused += HOST(sds_undef)(L"unknown", 0) == 0;  // no function
     HOST(sds_retint)(refused);

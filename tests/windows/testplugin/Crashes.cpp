@@ -11,8 +11,9 @@ int* volatile nowhere = nullptr;
 void* (*volatile fill)(void*, int, std::size_t) = std::memset;
 
 LRESULT CALLBACK CrashingProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_USER)
+    if (message == WM_USER) {
         *nowhere = 1;
+    }
     return DefWindowProcW(window, message, wParam, lParam);
 }
 

@@ -32,17 +32,20 @@ TFunction* FindInAllocator(const char* name) {
 
 // Makes so many small blocks that the following ones lie on the ordinary heap, if the argument says so.
 void FillGuardedRoom(int argument) {
-    if (ShortArgument(argument) != 0)
-        for (int i = 0; i < 20'000; ++i)
+    if (ShortArgument(argument) != 0) {
+        for (int i = 0; i < 20'000; ++i) {
             td_new(1);
+        }
+    }
 }
 
 }  // namespace
 
 // (leak BLOCKS BYTES)
 void Leak() {
-    for (int i = 0; i < ShortArgument(0); ++i)
+    for (int i = 0; i < ShortArgument(0); ++i) {
         NewBlock(std::size_t(ShortArgument(1)));
+    }
     HOST(sds_retnil)();
 }
 
@@ -60,11 +63,13 @@ void Churn() {
         return block;
     };
     const auto check = [&](const char* block, int i) {
-        for (int byte = 0; byte < i % 131; ++byte)
+        for (int byte = 0; byte < i % 131; ++byte) {
             wrong += block[byte] != char(i);
+        }
     };
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         blocks.push_back(make(i));
+    }
     for (int i = 0; i < count; ++i) {
         check(blocks[std::size_t(i)], i);
         td_delete_array(blocks[std::size_t(i)]);
@@ -111,8 +116,9 @@ void WriteAfterDelete() {
     volatile char* block = NewBlock(5);
     Delete(block);
     block[0] = 1;
-    for (int i = 0; i < 10'000; ++i)
+    for (int i = 0; i < 10'000; ++i) {
         Delete(NewBlock(1));
+    }
 }
 
 void DeleteTwice() {
@@ -136,15 +142,17 @@ void DeleteWithTheOther() {
 void FailOneAllocation() {
     auto* failAfter = FindInAllocator<void(std::size_t)>("td_fail_after");
     auto* allocations = FindInAllocator<std::size_t()>("td_allocations");
-    if (failAfter == nullptr || allocations == nullptr)
+    if (failAfter == nullptr || allocations == nullptr) {
         return;
+    }
     const std::size_t before = allocations();
     failAfter(std::size_t(ShortArgument(0)));
     int failed = 0;
     for (int i = 1; i <= 5; ++i) {
         volatile char* block = NewBlock(10);
-        if (block == nullptr)
+        if (block == nullptr) {
             failed = failed * 10 + i;
+        }
         Delete(block);
     }
     failAfter(0);

@@ -57,14 +57,18 @@ std::wstring Wish(const wchar_t* variable) {
 int Load() {
     const std::wstring wish = Wish(L"TESTPLUGIN_LOAD");
     short code = 0;
-    for (const SCommand& command : kCommands)
+    for (const SCommand& command : kCommands) {
         HOST(sds_defun)(command.name, code++);
-    if (wish == L"fail")
+    }
+    if (wish == L"fail") {
         HOST(sds_fail)(L"not today");
-    if (wish == L"crash")
+    }
+    if (wish == L"crash") {
         Crash();
-    if (wish == L"throw")
+    }
+    if (wish == L"throw") {
         ThrowOut();
+    }
     return wish == L"refuse" ? 1 : 0;
 }
 
@@ -72,8 +76,9 @@ int Unload() {
     const std::wstring wish = Wish(L"TESTPLUGIN_UNLOAD");
     short code = 0;
     for (const SCommand& command : kCommands) {
-        if (wish != L"keep" || code > 1)
+        if (wish != L"keep" || code > 1) {
             HOST(sds_undef)(command.name, code);
+        }
         ++code;
     }
     return wish == L"refuse" ? 1 : 0;
@@ -85,16 +90,18 @@ int Invoke() {
         HOST(sds_fail)(L"unknown code");
         return 0;
     }
-    if (kCommands[code].run == nullptr)
+    if (kCommands[code].run == nullptr) {
         return 7;
+    }
     kCommands[code].run();
     return 0;
 }
 
 const sds_resbuf* Argument(int index) {
     const sds_resbuf* argument = HOST(sds_getargs)();
-    for (; argument != nullptr && index > 0; --index)
+    for (; argument != nullptr && index > 0; --index) {
         argument = argument->next;
+    }
     return argument;
 }
 

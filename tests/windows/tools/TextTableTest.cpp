@@ -29,8 +29,9 @@ std::vector<std::wstring> AllTexts(const CTextTable& table) {
     for (unsigned number = 0; number < 0x10000; ++number) {
         for (std::size_t language = 0; language < table.Languages().size(); ++language) {
             const SText* const text = table.Find(number, language);
-            if (text != nullptr && !text->text.empty())
+            if (text != nullptr && !text->text.empty()) {
                 texts.push_back(std::to_wstring(number) + L"=" + text->text);
+            }
         }
     }
     return texts;
