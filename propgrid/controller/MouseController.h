@@ -35,7 +35,7 @@ public:
 
 private:
     // What the mouse is captured for.
-    enum ECapture { CM_NONE, CM_EDIT_BUTTON, CM_CUSTOM_ITEM, CM_DIVIDER };
+    enum ECapture { CAP_NONE, CAP_EDIT_BUTTON, CAP_CUSTOM_ITEM, CAP_DIVIDER };
 
     Actions Capture(ECapture mode);
     ECapture EndCapture(Actions& actions);
@@ -50,7 +50,7 @@ private:
 
     CGridModel& m_model;
     CGridLayout& m_layout;
-    ECapture m_capture = CM_NONE;
+    ECapture m_capture = CAP_NONE;
     bool m_buttonPressed = false;
     int m_lastDividerX = 0;        // of the mouse, while it drags the divider
     bool m_editOnRelease = false;  // the button went down on a value whose editor opens on release
