@@ -1,7 +1,7 @@
 // The grid's list and calendar: when and where they open, with what, each of their endings, what becomes of
 // the choice.
-#include "propgrid/PropertyGridCombo.h"
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"
