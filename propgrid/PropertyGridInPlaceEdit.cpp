@@ -63,6 +63,16 @@ void CPropertyGridInPlaceEdit::SetColors(COLORREF background, COLORREF text) {
     m_brush.CreateSolidBrush(background);
 }
 
+// The text may have been set from outside too, which does not count as the user's change.
+bool CPropertyGridInPlaceEdit::IsUntouched() const {
+    if (GetSafeHwnd() == nullptr || GetModify()) {
+        return false;
+    }
+    CString text;
+    GetWindowText(text);
+    return m_initialText == text.GetString();
+}
+
 // A dialog would look for a mnemonic: Alt with a letter does nothing while the edit is open.
 BOOL CPropertyGridInPlaceEdit::PreTranslateMessage(MSG* message) {
     return message->message == WM_SYSCHAR || CEdit::PreTranslateMessage(message);

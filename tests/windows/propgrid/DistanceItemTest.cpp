@@ -1,5 +1,6 @@
 #include "propgrid/DistanceItem.h"
 
+#include <cmath>
 #include <string>
 
 #include "tests/windows/propgrid/GridFixture.h"
@@ -56,13 +57,31 @@ TEST_F(DistanceItem, ReportsNoChangeForAnotherSpellingOfTheSameLength) {
     EXPECT_EQ(item.GetDistance(), 2.0);
 }
 
-TEST_F(DistanceItem, KeepsTheDigitsThatItsTextDoesNotShowWhenThatIsLeftAsItStands) {
+TEST_F(DistanceItem, TakesTheVeryTextThatItShowsAsALengthToo) {
     EXPECT_TRUE(item.SetStringValue(L"2.00001234"));
     EXPECT_EQ(item.GetStringValue(), L"U2:2.0000");
-    EXPECT_FALSE(item.SetStringValue(L"U2:2.0000"));
-    EXPECT_EQ(item.GetDistance(), 2.00001234);
-    EXPECT_TRUE(item.SetStringValue(L"2.00001"));
-    EXPECT_EQ(item.GetDistance(), 2.00001);
+    EXPECT_TRUE(item.SetStringValue(L"U2:2.0000"));
+    EXPECT_EQ(item.GetDistance(), 2.0);
+}
+
+TEST_F(DistanceItem, NeedsNoGridToTakeALength) {
+    CDistanceItem alone(nullptr, 2.0);
+    EXPECT_TRUE(alone.SetStringValue(L"3"));
+    EXPECT_EQ(alone.GetDistance(), 3.0);
+}
+
+TEST_F(DistanceItem, KeepsAZeroWhoseSignAloneIsTypedAnew) {
+    CDistanceItem zero(nullptr, 0.0);
+    EXPECT_FALSE(zero.SetStringValue(L"-0"));
+    EXPECT_FALSE(std::signbit(zero.GetDistance()));
+}
+
+TEST_F(DistanceItem, IsDrawnWhenItWasAddedAsAnItemOfItsKind) {
+    CDistanceItem other(nullptr, 5.0);
+    const UINT added = grid.AddItem(0, IT_CUSTOM, L"Height", static_cast<ICustomItem*>(&other));
+    ASSERT_NE(added, CPropertyGrid::NO_ID);
+    EXPECT_EQ(other.m_pGrid, &grid);
+    EXPECT_TRUE(CGridPicture(grid).Has(ValueOfRow(1), editable));
 }
 
 TEST_F(DistanceItem, ReadsATypedLengthInTheDrawingsUnits) {

@@ -1,5 +1,10 @@
 #include "tests/windows/propgrid/GridFixture.h"
 
+std::wstring ShownValue(const CPropertyGrid& grid, UINT item) {
+    ICustomItem* custom = nullptr;
+    return grid.GetItemValue(item, custom) ? custom->GetStringValue() : grid.GetItemText(item);
+}
+
 BEGIN_MESSAGE_MAP(CGridParent, CWnd)
     ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGridParent::OnGridItemChanged)
     ON_MESSAGE(WM_GETFONT, &CGridParent::OnAskedForFont)
@@ -22,7 +27,15 @@ CGridParent::~CGridParent() {
 LRESULT CGridParent::OnGridItemChanged(WPARAM item, LPARAM zero) {
     EXPECT_EQ(zero, 0);
     changedItems.push_back(static_cast<UINT>(item));
+    if (grid != nullptr) {
+        changedValues.push_back(ShownValue(*grid, static_cast<UINT>(item)));
+    }
     return 0;
+}
+
+void CGridParent::ForgetChanges() {
+    std::vector<UINT>().swap(changedItems);
+    std::vector<std::wstring>().swap(changedValues);
 }
 
 LRESULT CGridParent::OnAskedForFont(WPARAM, LPARAM) {

@@ -10,6 +10,9 @@
 
 #include "propgrid/PropertyGrid.h"
 
+// The text that an item shows, a custom item's included.
+std::wstring ShownValue(const CPropertyGrid& grid, UINT item);
+
 // A top-level window that keeps the notifications of its grid and has a font without grey edges, so that
 // the colour of a text can be read from its pixels.
 class CGridParent : public CWnd {
@@ -17,8 +20,14 @@ public:
     CGridParent();
     ~CGridParent() override;
 
+    // Drops the notifications, and the memory that they took.
+    void ForgetChanges();
+
     std::vector<UINT> changedItems;  // of WM_GRID_ITEM_CHANGED, in order
-    CFont font;                      // answered to WM_GETFONT; none when it has no handle
+    // What the items of `grid` showed at the moment of each: a notification comes after the value is stored.
+    std::vector<std::wstring> changedValues;
+    const CPropertyGrid* grid = nullptr;
+    CFont font;  // answered to WM_GETFONT; none when it has no handle
 
 protected:
     afx_msg LRESULT OnGridItemChanged(WPARAM item, LPARAM zero);
@@ -90,7 +99,10 @@ protected:
     static constexpr COLORREF nonEditable = RGB(120, 110, 0);
     static constexpr COLORREF modified = 0x0050FFFF;
 
-    GridTest() { CreateGrid(300, 200); }
+    GridTest() {
+        CreateGrid(300, 200);
+        parent.grid = &grid;
+    }
 
     void CreateGrid(int width, int height);
     int RowHeight() const { return grid.GetRowHeight(); }

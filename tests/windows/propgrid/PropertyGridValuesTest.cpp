@@ -276,6 +276,23 @@ TEST(PropertyGridCustomItem, StaysWithItsGridWhenAnotherRefusesIt) {
     EXPECT_EQ(item.accepted, 1);
 }
 
+TEST(PropertyGridCustomItem, IsAddedByItsKindAsByItsOwnAdd) {
+    CPropertyGrid grid;
+    CRecordingItem item;
+    const UINT section = grid.AddSection(L"Section");
+    ICustomItem* const custom = &item;
+    const UINT id = grid.AddItem(section, IT_CUSTOM, L"custom", custom, true, true);
+    EXPECT_EQ(item.gridWhenAccepted, &grid);
+    EXPECT_EQ(item.m_pGrid, &grid);
+    EXPECT_FALSE(grid.IsItemUndefined(id)) << "a custom item never is";
+    ICustomItem* held = nullptr;
+    EXPECT_TRUE(grid.GetItemValue(id, held));
+    EXPECT_EQ(held, custom);
+    CPropertyGrid other;
+    EXPECT_EQ(other.AddItem(5, IT_CUSTOM, L"custom", custom), none);
+    EXPECT_EQ(item.m_pGrid, &grid) << "another grid has refused it";
+}
+
 TEST(PropertyGridCustomItem, MayNotBeNull) {
     CTestGrid grid;
     CRecordingItem item;
