@@ -284,6 +284,22 @@ TEST_F(PropertyGridCell, LetsACustomItemDrawItsValueAndTakesTheDeviceContextBack
     EXPECT_FALSE(locked.drawings.back().focused);
 }
 
+TEST_F(PropertyGridCell, GivesACustomItemABrushOfTheTextColour) {
+    Plain();
+    class CFillingItem : public CRecordingItem {
+    public:
+        void DrawItem(CDC& dc, CRect rect, bool) override { dc.Rectangle(&rect); }
+    } custom;
+    const UINT section = grid.AddSection(L"");
+    grid.AddStringItem(section, L"before", L"");
+    const UINT id = grid.AddCustomItem(section, L"custom", &custom);
+    const CGridPicture picture(grid);
+    CRect cell = ValueRect(id);
+    EXPECT_TRUE(picture.Is({cell.left, cell.top, cell.right, cell.top + 1}, shade)) << "the pen";
+    cell.DeflateRect(1, 1);
+    EXPECT_TRUE(picture.Is(cell, text)) << "the brush";
+}
+
 // ---- Odd geometry
 
 TEST_F(PropertyGridCell, SurvivesADividerOutsideTheWindow) {

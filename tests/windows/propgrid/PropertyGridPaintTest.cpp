@@ -1,7 +1,11 @@
 // The rows that the grid paints, by pixels: headers, bands, lines, names, their order, and what it records
 // of them. Rows are counted from the top of the window.
 #include <algorithm>
+#include <climits>
+#include <map>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/Pixels.h"
@@ -431,6 +435,83 @@ TEST_F(PropertyGridPaint, EmptiesTheRectanglesOfASectionThatTheSortedDisplayDoes
     CGridPicture after(grid);
     EXPECT_TRUE(GlyphRect(0).IsRectEmpty());
     EXPECT_TRUE(HeaderRect(0).IsRectEmpty());
+}
+
+// ---- From right to left
+
+// What the screen shows of a window's client area, whichever way the window runs.
+class CScreenPicture {
+public:
+    explicit CScreenPicture(const CWnd& window) {
+        CRect area;
+        window.GetClientRect(&area);
+        window.ClientToScreen(&area);
+        area.NormalizeRect();
+        const HDC screen = ::GetDC(nullptr);
+        for (int y = area.top; y < area.bottom; ++y) {
+            for (int x = area.left; x < area.right; ++x) {
+                m_pixels[{x - area.left, y - area.top}] = ::GetPixel(screen, x, y);
+            }
+        }
+        ::ReleaseDC(nullptr, screen);
+    }
+    // The pixels of one colour, the leftmost and the topmost at 0.
+    std::set<std::pair<int, int>> Shape(COLORREF color) const {
+        int left = INT_MAX;
+        int top = INT_MAX;
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                left = std::min(left, place.first);
+                top = std::min(top, place.second);
+            }
+        }
+        std::set<std::pair<int, int>> shape;
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                shape.insert({place.first - left, place.second - top});
+            }
+        }
+        return shape;
+    }
+    int LeftmostOf(COLORREF color) const {
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                return place.first;
+            }
+        }
+        return -1;
+    }
+
+private:
+    std::map<std::pair<int, int>, COLORREF> m_pixels;
+};
+
+TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
+    CGridParent mirrored;
+    mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    CTestGrid rightToLeft;
+    ASSERT_TRUE(rightToLeft.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 40),
+                                   &mirrored, 100));
+    ASSERT_NE(rightToLeft.GetExStyle() & WS_EX_LAYOUTRTL, 0U);
+    CTestGrid leftToRight;
+    ASSERT_TRUE(leftToRight.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE,
+                                   CRect(0, 200, 300, 240), &mirrored, 101));
+    leftToRight.ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    for (CTestGrid* const shown : {&rightToLeft, &leftToRight}) {
+        shown->SetDisplayMode(CPropertyGrid::DM_FLAT);
+        shown->SetTextColor(text);
+        shown->SetEditableColor(editable);
+        shown->AddStringItem(shown->AddSection(L""), L"FLRE", L"JKP");
+        shown->Invalidate();
+        shown->UpdateWindow();
+    }
+    const CScreenPicture picture(rightToLeft);
+    const CScreenPicture expected(leftToRight);
+    ASSERT_GT(expected.Shape(text).size(), 20U);
+    EXPECT_EQ(picture.Shape(text), expected.Shape(text));
+    EXPECT_EQ(picture.Shape(editable), expected.Shape(editable));
+    EXPECT_GT(picture.LeftmostOf(text), 150) << "the names are at the right";
+    EXPECT_LT(expected.LeftmostOf(text), 150);
 }
 
 // ---- The window's messages
