@@ -11,7 +11,7 @@
 namespace {
 
 // The fake host writes 2 in units 2 as "U2:2.0000" and reads back that or a plain number.
-class DistanceItem : public GridTest {
+class DistanceItem : public GridPaintTest {
 protected:
     DistanceItem() {
         fakeHost = FakeHost{};
@@ -44,6 +44,21 @@ TEST_F(DistanceItem, DrawsItsTextAtTheGridsMargin) {
     const CGridPicture picture(grid);
     EXPECT_TRUE(picture.Has({154, 0, 300, RowHeight()}, editable));
     EXPECT_TRUE(picture.Is({150, 0, 154, RowHeight()}, back));
+}
+
+TEST_F(DistanceItem, EndsATextThatIsTooLongInAnEllipsis) {
+    const std::wstring length(10, L'H');
+    fakeHost.distanceText = [&](double, int, int) { return length; };
+    grid.SetDrawDivider(false);
+    grid.SetDrawLines(false);
+    const int fits = 154 + ExtentOf(length, parent.font).cx;
+    const auto endsInAnEllipsis = [&](int width) {
+        grid.MoveWindow(0, 0, width, 200);
+        return CGridPicture(grid).EndsInAnEllipsis({154, 0, width, RowHeight()}, editable);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(200));
 }
 
 TEST_F(DistanceItem, TakesATypedLength) {

@@ -44,6 +44,8 @@ public:
 class CGridPicture {
 public:
     explicit CGridPicture(CWnd& window);
+    // What `draw` draws, on black at the start.
+    CGridPicture(CSize size, const std::function<void(CDC&)>& draw);
 
     // The colour at a point in client coordinates; CLR_INVALID outside.
     COLORREF At(int x, int y) const;
@@ -54,7 +56,15 @@ public:
         return Count(area, color) == area.Width() * area.Height();
     }
 
+    // The smallest rectangle that holds all pixels of the area that have the colour.
+    CRect Bounds(const CRect& area, COLORREF color) const;
+    // Whether the text of this colour at the end of the area is dots on the base line alone. The text before
+    // them must have tall letters, such as H.
+    bool EndsInAnEllipsis(const CRect& area, COLORREF color) const;
+
 private:
+    void Draw(const std::function<void(CDC&)>& draw);
+
     CSize m_size;
     std::vector<unsigned> m_pixels;  // 0x00RRGGBB, top down
 };
@@ -160,6 +170,22 @@ protected:
         CRect header;
         EXPECT_TRUE(grid.GetSectionRects(section, glyph, header));
         return header;
+    }
+    // The grid's bold font, made as the grid makes it.
+    HFONT MakeBoldFont() {
+        LOGFONT description = {};
+        parent.font.GetLogFont(&description);
+        description.lfWeight = FW_BOLD;
+        return ::CreateFontIndirect(&description);
+    }
+    static CSize ExtentOf(const std::wstring& measured, HFONT font) {
+        const HDC dc = ::GetDC(nullptr);
+        const HGDIOBJ previous = ::SelectObject(dc, font);
+        SIZE size = {};
+        ::GetTextExtentPoint32(dc, measured.c_str(), static_cast<int>(measured.size()), &size);
+        ::SelectObject(dc, previous);
+        ::ReleaseDC(nullptr, dc);
+        return size;
     }
     // Pixels that are not the background.
     static int Ink(const CGridPicture& picture, const CRect& area) {

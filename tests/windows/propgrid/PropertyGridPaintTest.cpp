@@ -131,29 +131,45 @@ TEST_F(PropertyGridPaint, EndsALongSectionNameInTheWindow) {
     EXPECT_TRUE(CGridPicture(grid).Has({250, 0, 300, RowHeight()}, title));
 }
 
+TEST_F(PropertyGridPaint, EndsASectionNameThatIsTooLongInAnEllipsis) {
+    const std::wstring name(20, L'H');
+    grid.AddSection(name);
+    grid.SetDrawDivider(false);
+    CFont bold;
+    bold.Attach(MakeBoldFont());
+    const int fits = 18 + ExtentOf(name, bold).cx;
+    const auto endsInAnEllipsis = [&](int width) {
+        grid.MoveWindow(0, 0, width, 200);
+        return CGridPicture(grid).EndsInAnEllipsis({18, 1, width, RowHeight()}, title);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits + 1));
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(fits / 2));
+}
+
 TEST_F(PropertyGridPaint, FramesTheNameOfTheFocusedSection) {
-    grid.AddSection(L"HH");
+    grid.AddSection(L"HHHH");
     const CGridPicture without(grid);
     grid.SetFocusedSection(0);
     const CGridPicture with(grid);
-    int changed = 0;
-    int left = 300;
-    int right = -1;
-    for (int y = 0; y < RowHeight(); ++y) {
+    CRect frame(300, 200, 0, 0);
+    for (int y = 0; y < 200; ++y) {
         for (int x = 0; x < 300; ++x) {
-            if (with.At(x, y) == without.At(x, y)) {
-                continue;
+            if (with.At(x, y) != without.At(x, y)) {
+                frame.SetRect(std::min<int>(frame.left, x), std::min<int>(frame.top, y),
+                              std::max<int>(frame.right, x + 1), std::max<int>(frame.bottom, y + 1));
             }
-            ++changed;
-            left = std::min(left, x);
-            right = std::max(right, x);
         }
     }
-    EXPECT_GT(changed, 10);
-    EXPECT_GE(left, 14);
-    EXPECT_LE(left, 15) << "every second pixel is set";
-    EXPECT_GT(right, 20);
-    EXPECT_LT(right, 60);
+    CFont bold;
+    bold.Attach(MakeBoldFont());
+    const CSize name = ExtentOf(L"HHHH", bold);
+    const int top = (RowHeight() - name.cy) / 2;
+    EXPECT_EQ(frame.left, 14);
+    EXPECT_EQ(frame.top, top);
+    EXPECT_EQ(frame.right, name.cx + 20);
+    EXPECT_EQ(frame.bottom, top + name.cy);
 }
 
 TEST_F(PropertyGridPaint, DrawsNoHeadersInTheFlatDisplays) {
@@ -307,6 +323,34 @@ TEST_F(PropertyGridPaint, KeepsLongTextsInTheirColumns) {
     EXPECT_EQ(Ink(picture, {149, 0, 154, RowHeight()}), 0);
     EXPECT_TRUE(picture.Has({270, 0, 300, RowHeight()}, editable));
     EXPECT_EQ(Ink(picture, {0, RowHeight(), 300, 200}), 0);
+}
+
+// The name's column ends one pixel before the divider.
+TEST_F(PropertyGridPaint, EndsANameThatIsTooLongForItsColumnInAnEllipsis) {
+    Plain();
+    const std::wstring name(8, L'H');
+    grid.AddStringItem(grid.AddSection(L""), name, L"");
+    const int fits = 18 + ExtentOf(name, parent.font).cx + 1;
+    const auto endsInAnEllipsis = [&](int gutter) {
+        grid.SetGutterWidth(gutter);
+        return CGridPicture(grid).EndsInAnEllipsis({18, 0, gutter, RowHeight()}, text);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits + 1));
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(fits / 2 + 18));
+}
+
+TEST_F(PropertyGridPaint, DrawsTheDividerOnePixelBelowTheLastRow) {
+    Plain();
+    grid.SetDrawDivider(true);
+    const UINT section = grid.AddSection(L"");
+    for (const int rows : {1, 2, 3}) {
+        grid.AddStringItem(section, std::to_wstring(rows), L"");
+        const CGridPicture picture(grid);
+        EXPECT_TRUE(picture.Is({150, 0, 151, rows * RowHeight() + 1}, shade));
+        EXPECT_EQ(picture.Count({0, 0, 300, 200}, shade), rows * RowHeight() + 1);
+    }
 }
 
 TEST_F(PropertyGridPaint, FillsTheNameOfTheFocusedItem) {

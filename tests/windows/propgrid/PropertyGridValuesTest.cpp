@@ -1,3 +1,4 @@
+#include <cmath>
 #include <cstring>
 
 #include "tests/windows/propgrid/GridFixture.h"
@@ -250,6 +251,23 @@ TEST_F(PropertyGridValues, AreRefusedForAnUnknownSection) {
     EXPECT_EQ(grid.AddIntegerItem(17, L"Width", 1), none);
     EXPECT_EQ(grid.AddComboItem(17, L"Width", {L"a"}, 0), none);
     EXPECT_EQ(grid.GetItemCount(), 0U);
+}
+
+// A height of -13 pixels is 9.75 points at 96 pixels per inch.
+TEST_F(PropertyGridValues, ShowAFontsSizeInRoundedPoints) {
+    const CWindowDC screen(nullptr);
+    const double perInch = screen.GetDeviceCaps(LOGPIXELSY);
+    bool wasRoundedUp = false;
+    for (int height = 1; height < 40; ++height) {
+        LOGFONTW font = {};
+        wcscpy(font.lfFaceName, L"Tahoma");
+        font.lfHeight = -height;
+        const UINT id = grid.AddFontItem(section, std::to_wstring(height), font);
+        const double points = height * 72 / perInch;
+        EXPECT_EQ(grid.GetItemText(id), L"Tahoma; " + std::to_wstring(std::lround(points)) + L"pt");
+        wasRoundedUp = wasRoundedUp || std::lround(points) > points;
+    }
+    EXPECT_TRUE(wasRoundedUp);
 }
 
 TEST(PropertyGridCustomItem, KnowsItsGridWhenItAcceptsItsValue) {
