@@ -139,6 +139,7 @@ TEST_F(GridMouse, TheEditButtonOfTheRowThatHadTheFocusIsNoButtonAnyMore) {
     const UINT string = grid.AddStringItem(section, L"string", L"value");
     const UINT item = grid.AddCustomItem(section, L"custom", &custom);
     Focus(string);
+    grid.UpdateWindow();
     PressKey(VK_DOWN);
     ASSERT_EQ(grid.GetFocusedItem(), item);
     ClickOn(ValueOf(string));
