@@ -259,7 +259,7 @@ void CPropertyGrid::OnMouseMove(UINT /*flags*/, CPoint point) {
 }
 
 void CPropertyGrid::OnLButtonUp(UINT /*flags*/, CPoint point) {
-    if (IsReadyForHitTest()) {
+    if (!m_mouse.AwaitsRelease() || IsReadyForHitTest()) {
         m_actions.Run(m_mouse.Release(ToPoint(point)));
     }
 }

@@ -1,8 +1,8 @@
 // What the mouse means to the grid: focusing rows, the edit button, the divider, custom items, double clicks.
 //
 // Hit tests go by the rectangles that the last paint recorded, so the window paints what is still to be
-// painted before it hands on a press or a release: two messages of the mouse may come without a paint between
-// them.
+// painted before it hands on a press or an awaited release: two messages of the mouse may come without a paint
+// between them.
 #pragma once
 
 #include "propgrid/controller/Action.h"
@@ -23,6 +23,9 @@ public:
     // `editing` is whether an editor is open.
     Actions Move(Point point, bool editing);
     Actions Release(Point point);
+
+    // Whether a release may open an editor, which goes by the recorded rectangles.
+    bool AwaitsRelease() const { return m_capture == CAP_EDIT_BUTTON || m_editOnRelease; }
 
     // Goes by the focus alone, which the first click has set.
     Actions DoubleClick();
