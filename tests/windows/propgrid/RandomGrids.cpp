@@ -46,7 +46,8 @@ const std::wstring kPaths[] = {
     L"relative\\path\\to\\something\\",
     L"C:/with/slashes/and/more/slashes/and/still/more/slashes/than/before/up/to/the/end.txt",
     L"D:\\" + std::wstring(600, L'x') + L"\\" + std::wstring(600, L'y') + L".txt",
-    L"D:\\" + std::wstring(500, L'x') + L"\\" + std::wstring(400, L'y') + L"\\" + std::wstring(300, L'z'),
+    // Only 1023 characters of a path are shown: here the last name ends in g.
+    L"D:\\" + std::wstring(1012, L'x') + L"\\abcdefghijklmnop",
 };
 
 const std::wstring kIntegerFormats[] = {L"", L"%d", L"%05d mm", L"0x%X", L"%+d"};
@@ -237,6 +238,16 @@ void MoveFocus(CRandom& random, CMirroredGrid& grid) {
     }
 }
 
+// As high as the contents, or nearly so: where the scroll bar comes and goes.
+void FitHeight(CRandom& random, CMirroredGrid& grid) {
+    const GridModel& model = grid.GetModel();
+    const int height = model.GetContentHeight() + random.Between(-1, 1);
+    if (height >= 1 && height <= 600) {
+        grid.Resize({model.client.cx, height});
+        grid.SetMode(model.mode);  // also where a resize alone computes no new scroll range
+    }
+}
+
 void ChangeState(CRandom& random, CMirroredGrid& grid) {
     const GridModel& model = grid.GetModel();
     const int choice = random.Between(1, 20);
@@ -252,6 +263,8 @@ void ChangeState(CRandom& random, CMirroredGrid& grid) {
         grid.SetMode(static_cast<UINT>(random.Between(0, 3)));
     } else if (choice <= 18) {
         grid.AcceptValues();
+    } else if (choice == 19) {
+        FitHeight(random, grid);
     } else if (choice == 20) {
         grid.ResetContents();
         grid.Settle();

@@ -54,6 +54,7 @@ void CTally::AddGrid(const GridModel& model) {
     Add("narrow window", model.client.cx < 30);
     Add("flat window", model.client.cy < 30);
     Add("text of an empty list", model.sections.empty() && !model.emptyListText.empty());
+    Add("window as high as the contents", model.client.cy == model.GetContentHeight());
     Add("scrolled", model.GetScrollPosition() > 0);
     Add("scrolled to the end", model.barShown && model.barPosition == model.GetLastPosition());
     for (const ModelSection& section : model.sections) {
