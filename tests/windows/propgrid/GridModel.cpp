@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace tests {
 namespace {
@@ -51,7 +52,8 @@ std::wstring FontText(const LOGFONTW& font) {
 }  // namespace
 
 void CFigureItem::DrawItem(CDC& dc, CRect rect, bool focused) {
-    // With the grid's own pen, font, text colour and background mode.
+    // With the grid's own pen, font, text colour and background mode. Which brush it has selected is left
+    // open.
     ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
     dc.Rectangle(rect.left + 3, rect.top + 2, rect.left + 12, rect.bottom - 2);
     CRect text(rect.left + 14, rect.top, rect.right, rect.bottom);
@@ -166,15 +168,19 @@ ModelSection* GridModel::FindSection(UINT id) {
     return nullptr;
 }
 
-ModelItem* GridModel::FindItem(UINT id) {
-    for (ModelSection& section : sections) {
-        for (ModelItem& item : section.items) {
+const ModelItem* GridModel::FindItem(UINT id) const {
+    for (const ModelSection& section : sections) {
+        for (const ModelItem& item : section.items) {
             if (item.id == id) {
                 return &item;
             }
         }
     }
     return nullptr;
+}
+
+ModelItem* GridModel::FindItem(UINT id) {
+    return const_cast<ModelItem*>(std::as_const(*this).FindItem(id));
 }
 
 std::wstring GridModel::GetValueText(const ModelItem& item) const {

@@ -142,6 +142,7 @@ struct GridModel {
     void ScrollTo(int position);
 
     ModelSection* FindSection(UINT id);
+    const ModelItem* FindItem(UINT id) const;
     ModelItem* FindItem(UINT id);
 
     // What the value column shows, before a path is shortened.

@@ -205,8 +205,7 @@ void ChangeItem(CRandom& random, CMirroredGrid& grid) {
     }
     const int choice = random.Between(1, 10);
     if (choice <= 7) {
-        GridModel model = grid.GetModel();
-        grid.SetValue(id, RandomValue(random, *model.FindItem(id)));
+        grid.SetValue(id, RandomValue(random, *grid.GetModel().FindItem(id)));
     } else if (choice <= 9) {
         grid.SetUndefined(id, random.Chance(60));
     } else {

@@ -65,7 +65,6 @@ void CSecondPainter::PaintSections() {
     }
 }
 
-// Items of the same name stay in the order of their sections.
 void CSecondPainter::PaintSorted() {
     std::vector<const ModelItem*> items;
     for (const ModelSection& section : m_model.sections) {
@@ -175,7 +174,6 @@ void CSecondPainter::PaintButton(int editMode, const CRect& button) {
         default:
             return;
     }
-    // Buttons have the colours of the system.
     Text(L"...", button, m_bold, ::GetSysColor(COLOR_BTNTEXT), DT_SINGLELINE | DT_CENTER | DT_VCENTER);
 }
 
