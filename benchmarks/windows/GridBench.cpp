@@ -12,6 +12,8 @@
 
 namespace {
 
+using tavrin::propgrid::CPropertyGrid;
+
 constexpr int width = 400;  // pixels
 constexpr int height = 500;
 constexpr int scrollBarId = 1000;

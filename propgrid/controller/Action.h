@@ -70,11 +70,12 @@ struct EditInDialog {
     Id item;
 };
 
-// Gives a custom item the text of its edit: calls ICustomItem::SetStringValue, and notifies when that is
-// true.
+// Gives a custom item the text of its edit, which the user typed or left as it was: calls
+// ICustomItem::SetStringValue, and notifies when that is true.
 struct GiveText {
     Id item;
     std::wstring text;
+    bool typed;
 };
 
 // Tells the owner that the user changed the item. Sent even when the item is gone by then.

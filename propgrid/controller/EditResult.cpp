@@ -20,7 +20,7 @@ Actions TakeEditText(CGridModel& model, Id id, const std::wstring& text, bool ty
         return {};
     }
     if (item->kind == IT_CUSTOM) {
-        return {action::GiveText{id, text}, action::Repaint{}};
+        return {action::GiveText{id, text, typed}, action::Repaint{}};
     }
     return TakeText(*item, text, typed) ? ReportChange(id) : Actions{action::Repaint{}};
 }

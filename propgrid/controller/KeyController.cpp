@@ -9,8 +9,10 @@ bool CKeyController::IsGridKey(unsigned key) {
     return key >= KEY_LEFT && key <= KEY_DOWN;
 }
 
-bool CKeyController::IsGridCharacter(wchar_t character) {
-    return character == L'*' || character == L'/' || character == L'+' || character == L'-';
+bool CKeyController::ChangesSections(wchar_t character) const {
+    const bool isForFocused = character == L'+' || character == L'-';
+    return character == L'*' || character == L'/' ||
+           (isForFocused && m_model.FindSection(m_model.GetFocus().section) != nullptr);
 }
 
 Actions CKeyController::PressKey(unsigned key, const ScrollState& scroll) {

@@ -18,9 +18,10 @@ class CKeyController {
 public:
     CKeyController(CGridModel& model, CGridLayout& layout) : m_model(model), m_layout(layout) {}
 
-    // Whether a key, or a character, is one of the grid's. The others have their default handling.
+    // Whether a key is one of the grid's. The others have their default handling.
     static bool IsGridKey(unsigned key);
-    static bool IsGridCharacter(wchar_t character);
+    // Whether a character collapses or expands something, or would if it were not so already.
+    bool ChangesSections(wchar_t character) const;
 
     // Down and Up move the focus to the next or previous row; Right expands and Left collapses a focused
     // section, and else they do the same. `scroll` is what the scroll bar holds.

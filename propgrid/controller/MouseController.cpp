@@ -12,7 +12,7 @@ Actions CMouseController::Press(Point point) {
     const Hit hit = m_layout.HitTest(point);
     if (hit.onEditButton) {
         m_buttonPressed = true;
-        return Capture(CM_EDIT_BUTTON);
+        return Capture(CAP_EDIT_BUTTON);
     }
     const GridItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM && item->GetEditMode() == EM_CUSTOM) {
@@ -22,13 +22,13 @@ Actions CMouseController::Press(Point point) {
 }
 
 Actions CMouseController::AnswerPress(bool taken, Point point) {
-    return taken ? Capture(CM_CUSTOM_ITEM) : PressRow(m_layout.HitTest(point), point);
+    return taken ? Capture(CAP_CUSTOM_ITEM) : PressRow(m_layout.HitTest(point), point);
 }
 
 Actions CMouseController::PressRow(const Hit& hit, Point point) {
     if (hit.onDivider) {
         m_lastDividerX = point.x;
-        Actions actions = Capture(CM_DIVIDER);
+        Actions actions = Capture(CAP_DIVIDER);
         actions.push_back(action::ShowCursor{CU_SIZE});
         return actions;
     }
@@ -79,8 +79,8 @@ Actions CMouseController::Capture(ECapture mode) {
 
 // Returns what the mouse was captured for.
 CMouseController::ECapture CMouseController::EndCapture(Actions& actions) {
-    const ECapture mode = std::exchange(m_capture, CM_NONE);
-    if (mode != CM_NONE) {
+    const ECapture mode = std::exchange(m_capture, CAP_NONE);
+    if (mode != CAP_NONE) {
         m_buttonPressed = false;
         actions.insert(actions.end(), {action::EndCapture{}, action::Repaint{}});
     }
@@ -96,19 +96,19 @@ Actions CMouseController::LoseCapture() {
 Actions CMouseController::Move(Point point, bool editing) {
     Actions actions;
     switch (m_capture) {
-        case CM_CUSTOM_ITEM:
+        case CAP_CUSTOM_ITEM:
             TellCustomItem(CE_MOVE, point, actions);
             break;
-        case CM_EDIT_BUTTON:
+        case CAP_EDIT_BUTTON:
             if (std::exchange(m_buttonPressed, m_layout.HitTest(point).onEditButton) != m_buttonPressed) {
                 actions.push_back(action::Repaint{});
             }
             break;
-        case CM_DIVIDER:
+        case CAP_DIVIDER:
             MoveDivider(point.x);
             actions.insert(actions.end(), {action::ShowCursor{CU_SIZE}, action::Repaint{}});
             break;
-        case CM_NONE:
+        case CAP_NONE:
             if (!editing) {
                 actions.push_back(action::ShowCursor{m_layout.IsOnDivider(point) ? CU_SIZE : CU_ARROW});
             }
@@ -129,14 +129,14 @@ Actions CMouseController::Release(Point point) {
     Actions actions;
     const ECapture capture = EndCapture(actions);
     const bool editOnRelease = std::exchange(m_editOnRelease, false);
-    if (capture == CM_CUSTOM_ITEM) {
+    if (capture == CAP_CUSTOM_ITEM) {
         TellCustomItem(CE_UP, point, actions);
         return actions;
     }
-    if (capture == CM_DIVIDER) {
+    if (capture == CAP_DIVIDER) {
         actions.push_back(action::ShowCursor{CU_ARROW});
     }
-    if (capture != CM_EDIT_BUTTON && !editOnRelease) {
+    if (capture != CAP_EDIT_BUTTON && !editOnRelease) {
         return actions;
     }
     const GridItem* const item = FindFocusedItem();

@@ -1,8 +1,8 @@
 // What the mouse means to the grid: focusing rows, the edit button, the divider, custom items, double clicks.
 //
 // Hit tests go by the rectangles that the last paint recorded, so the window paints what is still to be
-// painted before it hands on a press or a release: two messages of the mouse may come without a paint between
-// them.
+// painted before it hands on a press or an awaited release: two messages of the mouse may come without a paint
+// between them.
 #pragma once
 
 #include "propgrid/controller/Action.h"
@@ -24,6 +24,9 @@ public:
     Actions Move(Point point, bool editing);
     Actions Release(Point point);
 
+    // Whether a release may open an editor, which goes by the recorded rectangles.
+    bool AwaitsRelease() const { return m_capture == CAP_EDIT_BUTTON || m_editOnRelease; }
+
     // Goes by the focus alone, which the first click has set.
     Actions DoubleClick();
 
@@ -35,7 +38,7 @@ public:
 
 private:
     // What the mouse is captured for.
-    enum ECapture { CM_NONE, CM_EDIT_BUTTON, CM_CUSTOM_ITEM, CM_DIVIDER };
+    enum ECapture { CAP_NONE, CAP_EDIT_BUTTON, CAP_CUSTOM_ITEM, CAP_DIVIDER };
 
     Actions Capture(ECapture mode);
     ECapture EndCapture(Actions& actions);
@@ -50,7 +53,7 @@ private:
 
     CGridModel& m_model;
     CGridLayout& m_layout;
-    ECapture m_capture = CM_NONE;
+    ECapture m_capture = CAP_NONE;
     bool m_buttonPressed = false;
     int m_lastDividerX = 0;        // of the mouse, while it drags the divider
     bool m_editOnRelease = false;  // the button went down on a value whose editor opens on release

@@ -58,10 +58,14 @@ CGridLayout::SectionRecord& CGridLayout::MakeRecord(const GridSection& section) 
 
 // The records of rows that were removed would else be those of the new rows with their ids.
 void CGridLayout::ForgetRows() {
-    if (m_generation != m_model.GetGeneration()) {
-        m_records.clear();
-        m_generation = m_model.GetGeneration();
+    if (m_generation == m_model.GetGeneration()) {
+        return;
     }
+    m_records = {};
+    m_sorted = {};
+    m_sortedRows = {};
+    m_sortedRevision = kNeverSorted;
+    m_generation = m_model.GetGeneration();
 }
 
 Rect CGridLayout::FindPaintedRow(const GridItem& item) const {

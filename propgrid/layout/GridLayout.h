@@ -90,6 +90,8 @@ public:
 private:
     friend class CPaintPass;
 
+    static constexpr unsigned kNeverSorted = 0xFFFFFFFF;
+
     struct SectionRecord {
         Rect glyph;
         Rect header;
@@ -111,8 +113,8 @@ private:
     std::vector<SectionRecord> m_records;  // by section id
     unsigned m_generation = 0;             // of the model, that the records are of
     std::vector<const GridItem*> m_sorted;
-    std::vector<std::uint32_t> m_sortedRows;  // by item id
-    unsigned m_sortedRevision = 0xFFFFFFFF;   // of the model
+    std::vector<std::uint32_t> m_sortedRows;   // by item id
+    unsigned m_sortedRevision = kNeverSorted;  // of the model
 };
 
 }  // namespace tavrin::propgrid

@@ -34,7 +34,7 @@ Id CGridModel::AddSection(const std::wstring& name, bool collapsed, Id before) {
 }
 
 Id CGridModel::AddItem(Id sectionId, EItemType kind, const std::wstring& name, Value value, bool editable,
-                       bool undefined) {
+                       bool undefined, std::vector<std::wstring> options) {
     GridSection* const section = FindSection(sectionId);
     if (section == nullptr) {
         return kNoId;
@@ -50,6 +50,7 @@ Id CGridModel::AddItem(Id sectionId, EItemType kind, const std::wstring& name, V
     item.kind = kind;
     item.value = std::move(value);
     item.undefined = undefined;
+    item.options = std::move(options);
     item.row = static_cast<std::uint32_t>(section->items.size());
     section->items.push_back(&item);
     item.editable = editable;

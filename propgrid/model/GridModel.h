@@ -37,7 +37,7 @@ public:
     // that the kind stores. Returns its id: 0 for the first in the grid, then one more each time. Returns
     // kNoId, and changes nothing, when there is no such section or when it has an item of exactly that name.
     Id AddItem(Id section, EItemType kind, const std::wstring& name, Value value, bool editable,
-               bool undefined);
+               bool undefined, std::vector<std::wstring> options = {});
 
     // Removes everything; ids start at 0 again. The focus deliberately stays with its ids: a new row that
     // gets the id of the focused one has the focus.

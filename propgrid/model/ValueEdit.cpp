@@ -30,17 +30,18 @@ bool IsEditedAsText(const GridItem& item) {
 }
 
 bool TakeText(GridItem& item, const std::wstring& text, bool typed) {
-    if (item.kind == IT_STRING) {
-        return TakeValue(item, text);
-    }
-    if (text.empty()) {
+    if (text.empty() && item.kind != IT_STRING) {
         return false;
     }
-    const bool keeps = !typed && !item.undefined;
-    if (item.kind == IT_INTEGER) {
-        return keeps || TakeValue(item, ReadTypedInteger(text));
+    if (typed && item.kind == IT_STRING) {
+        item.value = text;
+    } else if (typed && item.kind == IT_INTEGER) {
+        item.value = ReadTypedInteger(text);
+    } else if (typed) {
+        item.value = ReadTypedReal(text);
     }
-    return keeps || TakeValue(item, ReadTypedReal(text));
+    item.undefined = false;
+    return true;
 }
 
 bool TakeChoice(GridItem& item, int index) {

@@ -72,7 +72,7 @@ TEST_F(KeyController, OtherKeysAreLeftToTheWindow) {
     }
     EXPECT_TRUE(HasAction<action::DefaultHandling>(keys.PressKey(13, Scroll())));
     for (const wchar_t character : std::wstring(L"aZ 1\t\r\x1b")) {
-        EXPECT_FALSE(CKeyController::IsGridCharacter(character));
+        EXPECT_FALSE(keys.ChangesSections(character));
         EXPECT_TRUE(HasAction<action::DefaultHandling>(keys.TypeCharacter(character)));
     }
 }
@@ -81,7 +81,7 @@ TEST_F(KeyController, AStarExpandsAndASlashCollapsesAllSectionsAndEachLaysOut) {
     model.settings.displayMode = DM_CATEGORIZED;
     AddSection();
     AddSection();
-    EXPECT_TRUE(CKeyController::IsGridCharacter(L'*') && CKeyController::IsGridCharacter(L'/'));
+    EXPECT_TRUE(keys.ChangesSections(L'*') && keys.ChangesSections(L'/'));
     EXPECT_TRUE(HasAction<action::Relayout>(keys.TypeCharacter(L'/')));
     EXPECT_TRUE(Section(0).collapsed && Section(1).collapsed);
     EXPECT_TRUE(HasAction<action::Relayout>(keys.TypeCharacter(L'*')));
@@ -93,8 +93,8 @@ TEST_F(KeyController, PlusAndMinusGoToTheFocusedSectionAndLayOutEvenWhenItIsSoAl
     AddSection();
     AddSection();
     AddRows(0, 1);
-    EXPECT_TRUE(CKeyController::IsGridCharacter(L'+') && CKeyController::IsGridCharacter(L'-'));
     model.SetFocus({.section = 1});
+    EXPECT_TRUE(keys.ChangesSections(L'+') && keys.ChangesSections(L'-'));
     for (int repeated = 0; repeated < 2; ++repeated) {
         EXPECT_TRUE(HasAction<action::Relayout>(keys.TypeCharacter(L'-')));
         EXPECT_TRUE(Section(1).collapsed);
@@ -105,6 +105,7 @@ TEST_F(KeyController, PlusAndMinusGoToTheFocusedSectionAndLayOutEvenWhenItIsSoAl
         EXPECT_FALSE(Section(1).collapsed);
     }
     model.SetFocus({.item = 0});
+    EXPECT_FALSE(keys.ChangesSections(L'+') || keys.ChangesSections(L'-'));
     EXPECT_TRUE(keys.TypeCharacter(L'-').empty());
     EXPECT_FALSE(Section(0).collapsed);
 }
