@@ -155,7 +155,7 @@ Step CDecoder::DecodeClientStep() {
     step.flag = flags % 4 != 0;
     step.flag2 = flags / 4 % 4 == 0;
     const int number = static_cast<int>(flags / 16 + step.seed);
-    step.other = number % static_cast<int>(kCustomItems);
+    step.other = static_cast<int>(step.id % kCustomItems);
     switch (step.kind) {
         case ST_ADD_ITEM:
         case ST_REBUILD:
@@ -410,11 +410,13 @@ public:
 private:
     void RunStep(const Step& step, const Reaction& reaction);
     void Compare(Point point);
+    void CompareHitsOf(const Rect& row);
 
     CGridHost m_grid;
     CSimpleGrid m_simple;
     CProof m_proof;
     bool m_buttonDown = false;
+    std::size_t m_steps = 0;
 };
 
 void CTwoGrids::Run(CBytes& bytes) {
@@ -463,11 +465,17 @@ void CTwoGrids::Compare(Point point) {
     CompareWindows(m_grid, m_simple, m_proof);
     CheckDrawnRows(m_grid, m_proof);
     CompareHits(m_grid, m_simple, point, m_proof);
+    // One row after each step, each row in its turn.
+    if (!m_simple.window.drawn.empty()) {
+        CompareHitsOf(m_simple.window.drawn[m_steps++ % m_simple.window.drawn.size()].row);
+    }
+}
+
+void CTwoGrids::CompareHitsOf(const Rect& row) {
     const int gutter = m_simple.gutter;
-    for (const DrawnRow& row : m_simple.window.drawn) {
-        for (const int x : {1, 2, 10, 11, 13, 14, gutter - 1, gutter, row.row.right - 1, row.row.right}) {
-            CompareHits(m_grid, m_simple, {x, row.row.top}, m_proof);
-            CompareHits(m_grid, m_simple, {x, row.row.bottom - 1}, m_proof);
+    for (const int x : {1, 2, 10, 11, 13, 14, gutter - 1, gutter, row.right - 1, row.right}) {
+        for (const int y : {row.top, row.top + 4, row.top + 13, row.bottom - 1}) {
+            CompareHits(m_grid, m_simple, {x, y}, m_proof);
         }
     }
 }

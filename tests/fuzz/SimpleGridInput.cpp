@@ -352,15 +352,12 @@ void CSimpleGrid::TakeText(const std::wstring& text, bool typed) {
     const bool isNumber = item->kind == IT_INTEGER || item->kind == IT_DOUBLE;
     if (item->kind == IT_CUSTOM) {
         GiveCustomText(item->id, text);
-    } else if (item->kind == IT_STRING) {
-        item->value.text = text;
-        item->undefined = false;
-        Notify(item->id);
     } else if (isNumber && text.empty()) {
         Repaint();
-    } else if (isNumber) {
-        // A number that nobody typed keeps the digits that its text does not have.
-        if (typed || item->undefined) {
+    } else if (isNumber || item->kind == IT_STRING) {
+        // What nobody typed keeps its value: a number the digits that its text does not have.
+        if (typed) {
+            item->value.text = text;
             item->value.number = ReadInteger(text);
             item->value.real = ReadReal(text);
         }
@@ -489,7 +486,10 @@ void CSimpleGrid::TypeCharacter(wchar_t character) {
 
 void CSimpleGrid::CollapseAll(bool collapse) {
     for (SimpleSection& section : sections) {
-        SetCollapsed(section.id, collapse);
+        section.collapsed = collapse;
+    }
+    if (!sections.empty()) {
+        Relayout();
     }
 }
 
