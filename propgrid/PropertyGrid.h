@@ -76,25 +76,19 @@ public:
     // then the operation goes on. The owner may do anything when it is notified, also remove the row that the
     // operation is about: the operation is then refused.
     //
-    //   ends the editor                          leaves it open on its cell
-    //   ---------------------------------------  -----------------------------------------------------------
-    //   SetFocusedItem, SetFocusedSection:       the row that has the focus; no such row
-    //     any other row, or none
-    //   SetItemValue, of the edited item         another item; a value of another type
-    //   SetItemEditable, SetItemUndefined:       another item; the state that it has
-    //     another state of the edited item
-    //   AddSection, AddItem and the typed adds   refused adds
-    //   ResetContents, SetDisplayMode
-    //   SetSectionCollapsed                      no such section
-    //   SetGutterWidth: another position         the position that it has
-    //   another size or place of the window
-    //   the arrow keys; "*" and "/";             all other keys and characters; "+" and "-", which are for
-    //     a press; the wheel, the scroll bar       a focused section
-    //                                            AcceptValues, NotifyChanged, the getters, all of
-    //                                            CGridAppearance
-    //                                              but what is named here
+    // These end the editor:
+    //   SetFocusedItem, SetFocusedSection   for another row than the focused one, or none
+    //   SetItemValue                        of its item; the new value is the one that stays
+    //   SetItemEditable, SetItemUndefined   of its item, for the other state
+    //   AddSection, AddItem, typed adds     in any section; the new row is complete before
+    //   ResetContents, SetDisplayMode       always
+    //   SetSectionCollapsed                 of any section
+    //   SetGutterWidth                      for another position
+    //   another size or place of the grid's window, and its end
+    //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
     //
-    // The end of the grid's window ends it, too.
+    // All else leaves it open on its cell: whatever is refused or sets what is set already, the values and
+    // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
 
     // Whether an in-place edit, a list or a calendar is open.
     bool IsEditing() const { return m_editors.IsOpen(); }

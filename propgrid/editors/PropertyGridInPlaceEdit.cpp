@@ -51,6 +51,7 @@ CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWO
     // An edit takes some 30 000 typed characters unless told otherwise; values may be longer.
     LimitText(0);
     SetWindowText(m_initialText.c_str());
+    GetWindowText(m_shownText);
     SetFocus();
     // Scrolls the end of the text into view and leaves the caret there, with nothing selected.
     SetSel(0, -1);
@@ -71,7 +72,7 @@ bool CPropertyGridInPlaceEdit::IsUntouched() const {
     }
     CString text;
     GetWindowText(text);
-    return m_initialText == text.GetString();
+    return text == m_shownText;
 }
 
 // A dialog would look for a mnemonic: Alt with a letter does nothing while the edit is open.

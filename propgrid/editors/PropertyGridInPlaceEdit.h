@@ -66,6 +66,7 @@ private:
     void End();
 
     std::wstring m_initialText;
+    CString m_shownText;  // what the window makes of it: one line at most
     bool m_exitOnNavigation = false;
     CRect m_position;
     COLORREF m_background = 0;

@@ -343,6 +343,7 @@ TEST_F(GridDropDown, EnterTakesTheCalendarsDate) {
     ::SendMessage(Calendar(), WM_KEYDOWN, VK_RETURN, 1);
     EXPECT_EQ(grid.GetItemText(item), L"2023-11-05");
     EXPECT_FALSE(grid.IsItemUndefined(item));
+    EXPECT_EQ(parent.changedValues, Texts{L"2023-11-05"}) << "stored before it is notified";
     EXPECT_EQ(parent.changedItems, Ids{item});
     ExpectNoEditorLeft();
 }

@@ -201,6 +201,24 @@ TEST_F(GridEdit, LeavingANumberUntouchedKeepsAllItsDigits) {
     EXPECT_EQ(Value<double>(real), 1.234567) << "a text that was set from outside is another one";
 }
 
+TEST_F(GridEdit, LeavingAStringUntouchedKeepsWhatTheEditDoesNotShow) {
+    const std::wstring twoLines = L"one\r\ntwo", withNul(L"one\0two", 7);
+    const UINT lines = grid.AddStringItem(section, L"lines", twoLines);
+    const UINT nul = grid.AddStringItem(section, L"nul", withNul);
+    for (const std::wstring typed : {L"\r", L"\x1b", L"x\x1b"}) {
+        for (const UINT item : {lines, nul}) {
+            ClickOn(ValueOf(item));
+            TypeInEdit(typed);
+            EXPECT_FALSE(grid.IsItemModified(item));
+        }
+    }
+    EXPECT_EQ(Value<std::wstring>(lines), twoLines);
+    EXPECT_EQ(Value<std::wstring>(nul), withNul);
+    ClickOn(ValueOf(nul));
+    TypeInEdit(L"one\r");
+    EXPECT_EQ(Value<std::wstring>(nul), L"one");
+}
+
 TEST_F(GridEdit, ANumberTypedExactlyAsItIsShownIsATypedNumber) {
     const UINT real = grid.AddDoubleItem(section, L"real", 80.123456789);
     ClickOn(ValueOf(real));
