@@ -471,12 +471,16 @@ void CTwoGrids::Compare(Point point) {
     }
 }
 
+// On both sides of every edge that a row may have.
 void CTwoGrids::CompareHitsOf(const Rect& row) {
     const int gutter = m_simple.gutter;
-    for (const int x : {1, 2, 10, 11, 13, 14, gutter - 1, gutter, row.right - 1, row.right}) {
-        for (const int y : {row.top, row.top + 4, row.top + 13, row.bottom - 1}) {
-            CompareHits(m_grid, m_simple, {x, y}, m_proof);
-        }
+    for (const int x : {13, 14, gutter - 3, gutter - 2, gutter - 1, gutter, row.right - 1, row.right}) {
+        CompareHits(m_grid, m_simple, {x, row.top}, m_proof);
+        CompareHits(m_grid, m_simple, {x, row.bottom - 1}, m_proof);
+    }
+    for (const int x : {1, 2, 10, 11}) {
+        CompareHits(m_grid, m_simple, {x, row.top + 4}, m_proof);
+        CompareHits(m_grid, m_simple, {x, row.top + 13}, m_proof);
     }
 }
 

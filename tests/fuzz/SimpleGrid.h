@@ -144,7 +144,7 @@ private:
     void Notify(Id id);
 
     bool CanFocus(const SimpleRow& row) const;
-    SimpleRow FindNextRow(const SimpleRow& row) const;
+    SimpleRow FindNextRow() const;
     SimpleRow FindPreviousRow() const;
     void FocusRow(const SimpleRow& row);
     void CollapseAll(bool collapse);

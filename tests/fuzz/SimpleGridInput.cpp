@@ -412,9 +412,9 @@ bool CSimpleGrid::CanFocus(const SimpleRow& row) const {
 }
 
 // From a row that is not there the first one; no row when none can have the focus.
-SimpleRow CSimpleGrid::FindNextRow(const SimpleRow& row) const {
+SimpleRow CSimpleGrid::FindNextRow() const {
     const std::vector<SimpleRow> rows = ListRows();
-    const auto found = std::find(rows.begin(), rows.end(), row);
+    const auto found = std::find(rows.begin(), rows.end(), focus);
     const std::size_t start = found == rows.end() ? 0 : static_cast<std::size_t>(found - rows.begin()) + 1;
     for (std::size_t step = 0; step < rows.size(); ++step) {
         const SimpleRow& next = rows[(start + step) % rows.size()];
@@ -425,15 +425,19 @@ SimpleRow CSimpleGrid::FindNextRow(const SimpleRow& row) const {
     return {};
 }
 
-// The row whose next row is the focused one.
+// The last one above the focused row, whether that may have the focus or not, or else below it; no row above
+// one that is not there.
 SimpleRow CSimpleGrid::FindPreviousRow() const {
     const std::vector<SimpleRow> rows = ListRows();
-    if (std::find(rows.begin(), rows.end(), focus) == rows.end()) {
+    const auto found = std::find(rows.begin(), rows.end(), focus);
+    if (found == rows.end()) {
         return {};
     }
-    for (const SimpleRow& row : rows) {
-        if (CanFocus(row) && FindNextRow(row) == focus) {
-            return row;
+    const auto start = static_cast<std::size_t>(found - rows.begin());
+    for (std::size_t step = 1; step <= rows.size(); ++step) {
+        const SimpleRow& previous = rows[(start + rows.size() - step) % rows.size()];
+        if (CanFocus(previous)) {
+            return previous;
         }
     }
     return {};
@@ -453,7 +457,7 @@ void CSimpleGrid::PressKey(unsigned key) {
     } else if (key == RIGHT && section != nullptr && section->collapsed) {
         SetCollapsed(section->id, false);
     } else {
-        FocusRow(key == DOWN || key == RIGHT ? FindNextRow(focus) : FindPreviousRow());
+        FocusRow(key == DOWN || key == RIGHT ? FindNextRow() : FindPreviousRow());
     }
 }
 
