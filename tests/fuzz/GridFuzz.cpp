@@ -9,222 +9,15 @@
 #include <vector>
 
 #include "tests/fuzz/Fuzz.h"
+#include "tests/fuzz/GridDecoder.h"
 #include "tests/fuzz/GridHost.h"
 #include "tests/fuzz/SimpleGrid.h"
 
 namespace tests {
 
-std::wstring MakeText(unsigned seed) {
-    static const wchar_t* const texts[] = {
-        L"",     L"a",    L"B",       L"b",      L"12abc",      L"-7",   L" +8 ",         L"0.5",
-        L"1e3x", L".5e-", L"0x10",    L"inf",    L"9999999999", L"-",    L"-99999999999", L"12345678.125",
-        L"aa",   L"ab",   L"c\u00e4", L"\u20ac", L"long name",  L"name", L"Name",         L"z",
-    };
-    return texts[seed % std::size(texts)];
-}
-
-SlotValue MakeValue(unsigned seed) {
-    static constexpr int numbers[] = {0, 1, 2, 3, -1, -2, 100, 2147483647, -2147483647 - 1};
-    static constexpr double reals[] = {0.0, 0.1, -2.5, 1e300, 12345678.9, 1.0 / 3, -0.0};
-    static constexpr double days[] = {0.0, 45000.75, -1.25, 45001.0, -20000.5};
-    SlotValue value;
-    value.number = numbers[seed % std::size(numbers)];
-    value.real = reals[seed % std::size(reals)];
-    value.text = MakeText(seed / 2);
-    value.flag = seed % 2 == 1;
-    value.days = days[seed % std::size(days)];
-    value.status = static_cast<int>(seed / 8 % 3);
-    value.color = seed * 0x010203U;
-    value.font[seed % value.font.size()] = static_cast<std::uint8_t>(seed);
-    value.custom = seed % kCustomItems;
-    return value;
-}
-
 namespace {
 
 constexpr std::size_t kMostRows = 40;
-
-// Reads the fuzzer's bytes; zeros behind the last.
-class CBytes {
-public:
-    CBytes(const std::uint8_t* data, std::size_t size) : m_data(data), m_end(data + size) {}
-    bool IsAtEnd() const { return m_data == m_end; }
-    unsigned Next() { return IsAtEnd() ? 0 : *m_data++; }
-    int Below(unsigned count) { return static_cast<int>(Next() % count); }
-    bool Flag() { return Next() % 2 == 1; }
-
-private:
-    const std::uint8_t* m_data;
-    const std::uint8_t* m_end;
-};
-
-// ---- Steps from bytes
-
-class CDecoder {
-public:
-    CDecoder(CBytes& bytes, const CSimpleGrid& grid) : m_bytes(bytes), m_grid(grid) {}
-
-    // A client's call for about every third step.
-    Step Decode(bool buttonDown);
-    Step DecodeClientStep();
-
-private:
-    Step DecodeUserStep(bool buttonDown);
-    Id DecodeItem();
-    Id DecodeSection();
-    Point DecodePoint();
-    Rect DecodeTarget();
-    int DecodeNear(int low, int high);
-
-    CBytes& m_bytes;
-    const CSimpleGrid& m_grid;
-};
-
-// Mostly one that there is.
-Id CDecoder::DecodeItem() {
-    return static_cast<Id>(m_bytes.Below(12));
-}
-
-Id CDecoder::DecodeSection() {
-    const int id = m_bytes.Below(5);
-    return id == 4 ? kNoId : static_cast<Id>(id);
-}
-
-// On one of the edges, beside them, or in the middle.
-int CDecoder::DecodeNear(int low, int high) {
-    const int places[] = {(low + high) / 2, low, low - 1, high - 1, high};
-    return places[m_bytes.Below(std::size(places))];
-}
-
-// Something that was painted.
-Rect CDecoder::DecodeTarget() {
-    const int part = m_bytes.Below(4);
-    if (part == 0 || m_grid.window.drawn.empty()) {
-        return m_grid.editButton;
-    }
-    const auto index = static_cast<std::size_t>(m_bytes.Next()) % m_grid.window.drawn.size();
-    const DrawnRow& row = m_grid.window.drawn[index];
-    if (row.item != kNoId) {
-        return part == 1 ? row.name : part == 2 ? row.value : row.button;
-    }
-    return part == 1 ? Rect{2, row.row.top + 4, 11, row.row.top + 13} : row.row;
-}
-
-Point CDecoder::DecodePoint() {
-    const int way = m_bytes.Below(8);
-    if (way == 0) {
-        return {static_cast<int>(m_bytes.Next()) * 2 - 50, static_cast<int>(m_bytes.Next()) - 20};
-    }
-    if (way == 1) {
-        return {m_grid.gutter - 4 + m_bytes.Below(9), static_cast<int>(m_bytes.Next())};
-    }
-    const Rect target = DecodeTarget();
-    const int x = DecodeNear(target.left, target.right);
-    return {x, DecodeNear(target.top, target.bottom)};
-}
-
-Step CDecoder::DecodeClientStep() {
-    // Rows are what all else needs.
-    static constexpr EStep kinds[] = {
-        ST_ADD_ITEM,
-        ST_ADD_ITEM,
-        ST_ADD_ITEM,
-        ST_ADD_SECTION,
-        ST_RESET,
-        ST_REBUILD,
-        ST_MODE,
-        ST_GUTTER,
-        ST_COLLAPSE,
-        ST_EDITABLE,
-        ST_VALUE,
-        ST_UNDEFINED,
-        ST_FOCUS_NON_EDITABLE,
-        ST_CHOICES,
-        ST_ACCEPT,
-        ST_FOCUS_ITEM,
-        ST_CUSTOM,
-        ST_FOCUS_SECTION,
-    };
-    Step step;
-    step.kind = kinds[m_bytes.Below(std::size(kinds))];
-    const bool ofSection = step.kind == ST_ADD_SECTION || step.kind == ST_ADD_ITEM ||
-                           step.kind == ST_COLLAPSE || step.kind == ST_FOCUS_SECTION;
-    step.id = ofSection ? DecodeSection() : DecodeItem();
-    step.seed = m_bytes.Next();
-    const unsigned flags = m_bytes.Next();
-    step.flag = flags % 4 != 0;
-    step.flag2 = flags / 4 % 4 == 0;
-    const int number = static_cast<int>(flags / 16 + step.seed);
-    step.other = static_cast<int>(step.id % kCustomItems);
-    switch (step.kind) {
-        case ST_ADD_ITEM:
-        case ST_REBUILD:
-            step.number = number % 13;
-            break;
-        case ST_ADD_SECTION:
-            step.flag = !step.flag;
-            break;
-        case ST_MODE:
-        case ST_CHOICES:
-            step.number = number % 4;
-            break;
-        case ST_GUTTER:
-            step.number = number * 2 - 20;
-            break;
-        default:
-            step.number = number % 6;
-            break;
-    }
-    return step;
-}
-
-// Presses, releases and keys come more often than all else.
-Step CDecoder::DecodeUserStep(bool buttonDown) {
-    static constexpr EStep kinds[] = {
-        ST_PRESS, ST_PRESS,    ST_PRESS, ST_PRESS, ST_MOVE,   ST_DOUBLE_CLICK, ST_LOSE_CAPTURE,
-        ST_KEY,   ST_KEY,      ST_KEY,   ST_WHEEL, ST_SCROLL, ST_RESIZE,       ST_CHARACTER,
-        ST_TYPE,  ST_END_TEXT, ST_DATE,  ST_PAINT, ST_CHOOSE, ST_CLOSE_EDITOR,
-    };
-    Step step;
-    step.kind = kinds[m_bytes.Below(std::size(kinds))];
-    const bool isButton = step.kind == ST_PRESS || step.kind == ST_DOUBLE_CLICK;
-    if (isButton && buttonDown) {
-        step.kind = ST_RELEASE;
-    }
-    if (isButton || step.kind == ST_MOVE) {
-        step.point = DecodePoint();
-    }
-    step.seed = m_bytes.Next();
-    const int seed = static_cast<int>(step.seed);
-    step.flag = seed % 4 == 0;
-    switch (step.kind) {
-        case ST_KEY:
-            step.number = 36 + seed % 6;
-            break;
-        case ST_CHARACTER:
-            step.number = L"*/+-a"[seed % 5];
-            break;
-        case ST_WHEEL:
-            step.number = (seed - 128) * 5;
-            break;
-        case ST_SCROLL:
-            step.number = seed % 11;
-            step.other = static_cast<int>(m_bytes.Next()) * 3 - 100;
-            break;
-        case ST_RESIZE:
-            step.number = seed * 2;
-            step.other = static_cast<int>(m_bytes.Next());
-            break;
-        default:
-            step.number = seed % 6 - 1;
-            break;
-    }
-    return step;
-}
-
-Step CDecoder::Decode(bool buttonDown) {
-    return m_bytes.Below(3) == 0 ? DecodeClientStep() : DecodeUserStep(buttonDown);
-}
 
 // ---- What must hold
 
@@ -420,7 +213,7 @@ private:
 };
 
 void CTwoGrids::Run(CBytes& bytes) {
-    CDecoder decoder(bytes, m_simple);
+    CGridDecoder decoder(bytes, m_simple);
     while (!bytes.IsAtEnd() && m_simple.ListRows().size() < kMostRows) {
         const Step step = decoder.Decode(m_buttonDown);
         Reaction reaction;

@@ -90,30 +90,9 @@ struct Step {
     Point point;
 };
 
-// A client's call of either grid.
 template <class TGrid>
-void RunClientStep(TGrid& grid, const Step& step) {
+void RunItemStep(TGrid& grid, const Step& step) {
     switch (step.kind) {
-        case ST_ADD_SECTION:
-            return grid.AddSection(MakeText(step.seed), step.flag, step.id);
-        case ST_ADD_ITEM:
-            return grid.AddItem(step.id, static_cast<EItemType>(step.number), MakeText(step.seed),
-                                MakeValue(step.seed), step.flag, step.flag2);
-        case ST_RESET:
-            return grid.Reset();
-        case ST_REBUILD:
-            grid.Reset();
-            grid.AddSection(L"again", step.flag, kNoId);
-            return grid.AddItem(0, static_cast<EItemType>(step.number), L"again", MakeValue(step.seed), true,
-                                step.flag2);
-        case ST_MODE:
-            return grid.SetDisplayMode(static_cast<std::uint32_t>(step.number));
-        case ST_GUTTER:
-            return grid.SetGutter(step.number);
-        case ST_FOCUS_NON_EDITABLE:
-            return grid.SetFocusNonEditable(step.flag);
-        case ST_COLLAPSE:
-            return grid.SetCollapsed(step.id, step.flag);
         case ST_EDITABLE:
             return grid.SetEditable(step.id, step.flag);
         case ST_VALUE:
@@ -136,7 +115,55 @@ void RunClientStep(TGrid& grid, const Step& step) {
     }
 }
 
-// What the user does to either grid. `seed` answers a dialog.
+// A client's call of either grid.
+template <class TGrid>
+void RunClientStep(TGrid& grid, const Step& step) {
+    const auto kind = static_cast<EItemType>(step.number);
+    switch (step.kind) {
+        case ST_ADD_SECTION:
+            return grid.AddSection(MakeText(step.seed), step.flag, step.id);
+        case ST_ADD_ITEM:
+            return grid.AddItem(step.id, kind, MakeText(step.seed), MakeValue(step.seed), step.flag,
+                                step.flag2);
+        case ST_RESET:
+            return grid.Reset();
+        case ST_REBUILD:
+            grid.Reset();
+            grid.AddSection(L"again", step.flag, kNoId);
+            return grid.AddItem(0, kind, L"again", MakeValue(step.seed), true, step.flag2);
+        case ST_MODE:
+            return grid.SetDisplayMode(static_cast<std::uint32_t>(step.number));
+        case ST_GUTTER:
+            return grid.SetGutter(step.number);
+        case ST_FOCUS_NON_EDITABLE:
+            return grid.SetFocusNonEditable(step.flag);
+        case ST_COLLAPSE:
+            return grid.SetCollapsed(step.id, step.flag);
+        default:
+            return RunItemStep(grid, step);
+    }
+}
+
+template <class TGrid>
+void RunEditorStep(TGrid& grid, const Step& step) {
+    switch (step.kind) {
+        case ST_TYPE:
+            return grid.TypeText(MakeText(step.seed));
+        case ST_END_TEXT:
+            return grid.EndText(step.flag);
+        case ST_CHOOSE:
+            return grid.Choose(step.number);
+        case ST_DATE:
+            return grid.ChooseDate(MakeValue(step.seed).days);
+        case ST_CLOSE_EDITOR:
+            return grid.CloseEditor();
+        default:
+            return;
+    }
+}
+
+// What the user, or the system, does to either grid. The seed of a release or a double click answers a
+// dialog.
 template <class TGrid>
 void RunUserStep(TGrid& grid, const Step& step) {
     switch (step.kind) {
@@ -160,20 +187,10 @@ void RunUserStep(TGrid& grid, const Step& step) {
             return grid.TurnWheel(step.number);
         case ST_SCROLL:
             return grid.Scroll(static_cast<unsigned>(step.number), step.other);
-        case ST_TYPE:
-            return grid.TypeText(MakeText(step.seed));
-        case ST_END_TEXT:
-            return grid.EndText(step.flag);
-        case ST_CHOOSE:
-            return grid.Choose(step.number);
-        case ST_DATE:
-            return grid.ChooseDate(MakeValue(step.seed).days);
-        case ST_CLOSE_EDITOR:
-            return grid.CloseEditor();
         case ST_PAINT:
             return grid.Paint();
         default:
-            return;
+            return RunEditorStep(grid, step);
     }
 }
 
