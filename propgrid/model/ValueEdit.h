@@ -11,8 +11,8 @@ namespace tavrin::propgrid {
 bool IsEditedAsText(const GridItem& item);
 
 // The text that the in-place edit ended with; `typed` when the user touched it. False when nothing changes: a
-// number keeps its value when the text is empty. A number whose text was left as it stood keeps the digits
-// that the text does not have.
+// number keeps its value when the text is empty. A text that was left as it stood stands for the value
+// itself, of which it need not have all digits or lines.
 bool TakeText(GridItem& item, const std::wstring& text, bool typed);
 
 // The index that was chosen from the list. It is deliberately stored as it comes, whether there is such a

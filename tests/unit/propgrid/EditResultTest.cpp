@@ -39,6 +39,7 @@ TEST_F(EditResult, ATextIsGivenToACustomItem) {
     ASSERT_TRUE(HasAction<action::GiveText>(actions));
     EXPECT_EQ(FindAction<action::GiveText>(actions)->item, id);
     EXPECT_EQ(FindAction<action::GiveText>(actions)->text, L"typed");
+    EXPECT_TRUE(FindAction<action::GiveText>(actions)->typed);
     EXPECT_FALSE(HasAction<action::Notify>(actions));
 }
 

@@ -144,6 +144,26 @@ TEST_F(MouseController, ADialogOpensByItsButtonAlone) {
     EXPECT_FALSE(HasAction<action::EditInDialog>(Click({200, 5})));
 }
 
+TEST_F(MouseController, AReleaseIsAwaitedOnlyAfterAPressThatMayOpenAnEditor) {
+    AddSection();
+    AddItem(0, L"string");
+    AddItem(0, L"colour", IT_COLOR, Color{1});
+    Focus({.item = 1});
+    EXPECT_FALSE(mouse.AwaitsRelease());
+    Press({20, 5});
+    EXPECT_FALSE(mouse.AwaitsRelease());
+    Press({200, 5});
+    EXPECT_TRUE(mouse.AwaitsRelease());
+    Release({200, 5});
+    EXPECT_FALSE(mouse.AwaitsRelease());
+    Focus({.item = 1});
+    Press({290, 25});
+    EXPECT_TRUE(mouse.AwaitsRelease());
+    mouse.BeginPress();
+    mouse.LoseCapture();
+    EXPECT_FALSE(mouse.AwaitsRelease());
+}
+
 // ---- Text edit and button
 
 class TextWithButton : public MouseController {
@@ -245,6 +265,19 @@ TEST_F(CustomMouse, AnItemThatDoesNotLeavesThePressToTheGrid) {
 TEST_F(CustomMouse, AnItemWithAnEditorIsNotAsked) {
     custom.mode = EM_MODAL;
     EXPECT_FALSE(HasAction<action::AskCustomItem>(Press({20, 5})));
+}
+
+TEST_F(CustomMouse, AnItemThatLosesItsEditorMeanwhileGetsTheRelease) {
+    custom.mode = EM_INPLACE;
+    Focus({.item = 1});
+    Press({200, 5});
+    custom.mode = EM_CUSTOM;
+    const Actions actions = mouse.Release({200, 5});
+    ASSERT_TRUE(HasAction<action::TellCustomItem>(actions));
+    EXPECT_EQ(FindAction<action::TellCustomItem>(actions)->event, CE_UP);
+    custom.mode = 77;
+    Focus({.item = 1});
+    EXPECT_TRUE(Click({200, 5}).empty()) << "an edit mode that there is not";
 }
 
 TEST_F(CustomMouse, AnItemThatRemovesTheRowsLeavesAPressOnNothing) {

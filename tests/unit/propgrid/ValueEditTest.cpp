@@ -53,6 +53,13 @@ TEST(TakenText, ThatWasNotTypedKeepsTheDigitsThatItDoesNotHave) {
     EXPECT_EQ(std::get<double>(real.value), 80.123456789);
 }
 
+TEST(TakenText, ThatWasNotTypedKeepsTheLinesThatTheEditDoesNotHave) {
+    GridItem string = Item(IT_STRING, std::wstring(L"one\r\ntwo"), true);
+    EXPECT_TRUE(TakeText(string, L"one", false));
+    EXPECT_EQ(std::get<std::wstring>(string.value), L"one\r\ntwo");
+    EXPECT_FALSE(string.undefined);
+}
+
 TEST(TakenText, ThatWasTypedAsItWasShownIsATypedNumber) {
     GridItem real = Item(IT_DOUBLE, 80.123456789);
     EXPECT_TRUE(TakeText(real, L"80.1235", true));

@@ -76,6 +76,10 @@ TEST(ValueText, FormatsRealNumbersWithTheItemsFormat) {
     EXPECT_EQ(Text(Item(IT_DOUBLE, 1e300, {L"%.0f"})).size(), 301U);
 }
 
+TEST(ValueText, IsEmptyForAFormatThatNoNumberFits) {
+    EXPECT_EQ(Text(Item(IT_INTEGER, 7, {L"%100000d"})), L"");
+}
+
 TEST(ValueText, IsTheChosenOneOfTheChoices) {
     EXPECT_EQ(Text(Item(IT_COMBO, 0, {L"left", L"right"})), L"left");
     EXPECT_EQ(Text(Item(IT_COMBO, 1, {L"left", L"right"})), L"right");
