@@ -50,8 +50,8 @@ void CGridHost::SetGutter(int x) {
     Repaint();
 }
 
-void CGridHost::SetFocusNonEditable(bool focus) {
-    m_model.settings.focusNonEditable = focus;
+void CGridHost::SetFocusNonEditable(bool canFocus) {
+    m_model.settings.focusNonEditable = canFocus;
     Repaint();
 }
 

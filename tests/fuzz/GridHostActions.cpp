@@ -1,6 +1,6 @@
 // The host: what the controllers ask for.
-#include <type_traits>
 #include <utility>
+#include <variant>
 
 #include "propgrid/controller/EditResult.h"
 #include "propgrid/model/ValueText.h"
@@ -15,9 +15,11 @@ namespace {
 template <class T>
 constexpr bool kNamesItem = requires(const T& action) { action.item; };
 
-template <class T>
-constexpr bool kOpensEditor = std::is_same_v<T, action::OpenTextEdit> ||
-                              std::is_same_v<T, action::DropDown> || std::is_same_v<T, action::EditInDialog>;
+bool OpensEditor(const Action& asked) {
+    return std::holds_alternative<action::OpenTextEdit>(asked) ||
+           std::holds_alternative<action::DropDown>(asked) ||
+           std::holds_alternative<action::EditInDialog>(asked);
+}
 
 }  // namespace
 
@@ -41,7 +43,7 @@ void CGridHost::Run(const Actions& actions) {
     for (const Action& asked : actions) {
         const Id item = FindNamedItem(asked);
         Require(item == kNoId || m_model.FindItem(item) != nullptr, "an action is for an item that is there");
-        editors += std::visit([]<class T>(const T&) { return kOpensEditor<T> ? 1 : 0; }, asked);
+        editors += OpensEditor(asked) ? 1 : 0;
     }
     Require(editors <= 1, "one editor at a time is asked for");
     for (const Action& asked : actions) {

@@ -37,13 +37,13 @@ void CSimpleGrid::AddSection(const std::wstring& name, bool collapsed, Id before
     Relayout();
 }
 
-void CSimpleGrid::AddItem(Id sectionId, EItemType kind, const std::wstring& name, const SlotValue& value,
+void CSimpleGrid::AddItem(Id section, EItemType kind, const std::wstring& name, const SlotValue& value,
                           bool editable, bool undefined) {
-    SimpleSection* const section = FindSection(sectionId);
-    if (section == nullptr) {
+    SimpleSection* const parent = FindSection(section);
+    if (parent == nullptr) {
         return;
     }
-    for (const SimpleItem& other : section->items) {
+    for (const SimpleItem& other : parent->items) {
         if (other.name == name) {
             return;
         }
@@ -55,7 +55,7 @@ void CSimpleGrid::AddItem(Id sectionId, EItemType kind, const std::wstring& name
     item.value = value;
     item.editable = editable;
     item.undefined = undefined;
-    section->items.push_back(item);
+    parent->items.push_back(item);
     TakeSavedCopy(item.id);
     Relayout();
 }
@@ -78,8 +78,8 @@ void CSimpleGrid::SetGutter(int x) {
     Repaint();
 }
 
-void CSimpleGrid::SetFocusNonEditable(bool focusThem) {
-    focusNonEditable = focusThem;
+void CSimpleGrid::SetFocusNonEditable(bool canFocus) {
+    focusNonEditable = canFocus;
     Repaint();
 }
 
@@ -178,8 +178,8 @@ SimpleSection* CSimpleGrid::FindSection(Id id) {
     return nullptr;
 }
 
-SimpleSection* CSimpleGrid::FindSectionOf(Id item) {
-    for (SimpleSection& section : sections) {
+const SimpleSection* CSimpleGrid::FindSectionOf(Id item) const {
+    for (const SimpleSection& section : sections) {
         for (const SimpleItem& candidate : section.items) {
             if (candidate.id == item) {
                 return &section;
@@ -337,8 +337,7 @@ void CSimpleGrid::PaintItem(SimpleItem& item, int y, int width) {
     const Rect row = {0, y, width, y + m_rowHeight};
     item.nameRect = row;
     item.valueRect = {};
-    item.drawn = IsInSight(row);
-    if (!item.drawn) {
+    if (!IsInSight(row)) {
         return;
     }
     DrawnRow drawn = {.item = item.id, .row = row};
@@ -361,13 +360,13 @@ void CSimpleGrid::PaintItem(SimpleItem& item, int y, int width) {
 
 // ---- What lies under a point
 
-// The focused item's, as long as it is drawn and may be edited.
+// The focused item's, as long as its value is to be seen and may be edited.
 bool CSimpleGrid::IsOnButton(Point point) const {
     const SimpleItem* const item = FindFocusedItem();
-    if (item == nullptr || !item->editable || !item->drawn || item->valueRect.left >= item->valueRect.right) {
+    if (item == nullptr || !item->editable || item->valueRect.left >= item->valueRect.right) {
         return false;
     }
-    const bool hidden = IsCategorized() && const_cast<CSimpleGrid*>(this)->FindSectionOf(item->id)->collapsed;
+    const bool hidden = IsCategorized() && FindSectionOf(item->id)->collapsed;
     return !hidden && Contains(editButton, point);
 }
 

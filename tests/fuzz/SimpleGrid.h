@@ -21,7 +21,6 @@ struct SimpleItem {
     int choices = 0;
     Rect nameRect;
     Rect valueRect;
-    bool drawn = false;  // by the last paint that came to it
 };
 
 struct SimpleSection {
@@ -51,15 +50,15 @@ public:
     void Reset();
     void SetDisplayMode(std::uint32_t mode);
     void SetGutter(int x);
-    void SetFocusNonEditable(bool focus);
-    void SetCollapsed(Id section, bool collapsed);
-    void SetEditable(Id item, bool editable);
-    void SetValue(Id item, const SlotValue& value);
-    void SetUndefined(Id item, bool undefined);
-    void SetChoices(Id item, int count);
+    void SetFocusNonEditable(bool canFocus);
+    void SetCollapsed(Id id, bool collapsed);
+    void SetEditable(Id id, bool editable);
+    void SetValue(Id id, const SlotValue& value);
+    void SetUndefined(Id id, bool undefined);
+    void SetChoices(Id id, int count);
     void AcceptValues();
-    void FocusItem(Id item);
-    void FocusSection(Id section);
+    void FocusItem(Id id);
+    void FocusSection(Id id);
     void ChangeCustom(unsigned index, const CustomState& state);
 
     // The user's and the system's events.
@@ -94,7 +93,7 @@ public:
 
     SimpleItem* FindItem(Id id);
     SimpleSection* FindSection(Id id);
-    SimpleSection* FindSectionOf(Id item);
+    const SimpleSection* FindSectionOf(Id item) const;
     const SimpleItem* FindItem(Id id) const { return const_cast<CSimpleGrid*>(this)->FindItem(id); }
     int EditModeOf(const SimpleItem& item) const;
     static bool IsModified(const SimpleItem& item);
