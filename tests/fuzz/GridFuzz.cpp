@@ -50,10 +50,10 @@ private:
 };
 
 // Whether the value of the item's kind is the one of the slots.
-bool IsValue(const CGridHost& grid, const GridItem& item, const Value& value, const SlotValue& slots) {
+bool IsValue(const GridItem& item, const Value& value, const SlotValue& slots) {
     switch (item.kind) {
         case IT_CUSTOM:
-            return grid.FindCustomIndex(item) == slots.custom;
+            return CGridHost::FindCustomIndex(item) == slots.custom;
         case IT_STRING:
         case IT_TEXT:
         case IT_FILE:
@@ -84,8 +84,8 @@ void CompareItem(const CGridHost& grid, const GridItem& item, const SimpleItem& 
     proof.Holds(item.editable == simple.editable && item.undefined == simple.undefined &&
                     item.savedUndefined == simple.savedUndefined,
                 "the flags of an item are the same");
-    proof.Holds(IsValue(grid, item, item.value, simple.value), "the value of an item is the same");
-    proof.Holds(item.kind == IT_CUSTOM || IsValue(grid, item, item.saved, simple.saved),
+    proof.Holds(IsValue(item, item.value, simple.value), "the value of an item is the same");
+    proof.Holds(item.kind == IT_CUSTOM || IsValue(item, item.saved, simple.saved),
                 "the saved copy of an item is the same");
     proof.Holds(item.IsModified() == CSimpleGrid::IsModified(simple), "the same items are modified");
     const CGridLayout& layout = grid.GetLayout();

@@ -153,7 +153,7 @@ Value CGridHost::MakeValueOf(EItemType kind, const SlotValue& slots) {
     return 0;
 }
 
-unsigned CGridHost::FindCustomIndex(const GridItem& item) const {
+unsigned CGridHost::FindCustomIndex(const GridItem& item) {
     return static_cast<const CHostedCustomItem*>(item.GetCustomItem())->GetIndex();
 }
 

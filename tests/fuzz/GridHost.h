@@ -61,7 +61,7 @@ public:
     const CGridLayout& GetLayout() const { return m_layout; }
     bool IsButtonPressed() const { return m_mouse.IsButtonPressed(); }
     // Which of the client's custom items an item holds.
-    unsigned FindCustomIndex(const GridItem& item) const;
+    static unsigned FindCustomIndex(const GridItem& item);
 
     GridWindow window;
     bool asksForPaint = false;
@@ -98,7 +98,7 @@ private:
     void Do(const action::Notify& change);
     void Do(const action::DefaultHandling& handling);
     void ReportCustomChange(Id item, const ICustomItem* custom);
-    const ICustomItem* FindCustomItem(Id item) const;
+    const ICustomItem* FindCustomItem(Id id) const;
 
     CGridModel m_model;
     CGridLayout m_layout{m_model};

@@ -17,6 +17,10 @@ namespace tests {
 class CHostedCustomItem final : public ICustomItem {
 public:
     CHostedCustomItem(CGridHost& host, unsigned index) : m_host(host), m_index(index) {}
+    virtual ~CHostedCustomItem() = default;
+    CHostedCustomItem(const CHostedCustomItem&) = delete;
+    CHostedCustomItem& operator=(const CHostedCustomItem&) = delete;
+
     unsigned GetIndex() const { return m_index; }
     CustomState GetState() const { return m_host.window.customs[m_index]; }
 

@@ -189,9 +189,9 @@ const SimpleSection* CSimpleGrid::FindSectionOf(Id item) const {
     return nullptr;
 }
 
-SimpleItem* CSimpleGrid::FindItem(Id id) {
-    for (SimpleSection& section : sections) {
-        for (SimpleItem& item : section.items) {
+const SimpleItem* CSimpleGrid::FindItem(Id id) const {
+    for (const SimpleSection& section : sections) {
+        for (const SimpleItem& item : section.items) {
             if (item.id == id) {
                 return &item;
             }

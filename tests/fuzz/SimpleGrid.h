@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/fuzz/GridWindow.h"
@@ -91,10 +92,10 @@ public:
     bool asksForPaint = false;
     Reaction reaction;
 
-    SimpleItem* FindItem(Id id);
+    const SimpleItem* FindItem(Id id) const;
     SimpleSection* FindSection(Id id);
     const SimpleSection* FindSectionOf(Id item) const;
-    const SimpleItem* FindItem(Id id) const { return const_cast<CSimpleGrid*>(this)->FindItem(id); }
+    SimpleItem* FindItem(Id id) { return const_cast<SimpleItem*>(std::as_const(*this).FindItem(id)); }
     int EditModeOf(const SimpleItem& item) const;
     static bool IsModified(const SimpleItem& item);
     std::wstring EditTextOf(const SimpleItem& item) const;
