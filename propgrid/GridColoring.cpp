@@ -1,4 +1,4 @@
-#include "propgrid/GridAppearance.h"
+#include "propgrid/GridColoring.h"
 
 namespace tavrin::propgrid {
 
@@ -10,7 +10,7 @@ Color SystemColor(int index) {
 
 }  // namespace
 
-CGridAppearance::CGridAppearance() {
+CGridColoring::CGridColoring() {
     m_model.settings.colors = {.text = SystemColor(COLOR_WINDOWTEXT),
                                .title = SystemColor(COLOR_WINDOWTEXT),
                                .back = SystemColor(COLOR_WINDOW),
@@ -19,24 +19,6 @@ CGridAppearance::CGridAppearance() {
                                .focusText = SystemColor(COLOR_HIGHLIGHTTEXT),
                                .editable = SystemColor(COLOR_WINDOWTEXT),
                                .nonEditable = SystemColor(COLOR_GRAYTEXT)};
-}
-
-void CGridAppearance::SetDisplayMode(UINT mode) {
-    LeaveEditor();
-    m_model.settings.displayMode = mode;
-    Relayout();
-}
-
-void CGridAppearance::SetGutterWidth(int x) {
-    if (x != GetGutterWidth()) {
-        LeaveEditor();
-    }
-    Change(m_model.settings.gutter, x);
-}
-
-void CGridAppearance::SetBooleanTexts(const std::wstring& trueText, const std::wstring& falseText) {
-    m_model.settings.texts.trueText = trueText;
-    Change(m_model.settings.texts.falseText, falseText);
 }
 
 }  // namespace tavrin::propgrid
