@@ -1,6 +1,6 @@
 #include "devhost/app/HeapLibrary.h"
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 
 namespace {
 

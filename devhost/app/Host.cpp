@@ -6,7 +6,7 @@
 
 #include "devhost/app/CrashReport.h"
 #include "devhost/app/LispConsole.h"
-#include "devhost/units/LinearUnits.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

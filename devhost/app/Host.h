@@ -16,8 +16,8 @@
 #include "devhost/app/SearchPath.h"
 #include "devhost/app/SystemVariables.h"
 #include "devhost/app/TextOutput.h"
-#include "devhost/lisp/Evaluator.h"
 #include "devhost/window/MainWindow.h"
+#include "lisp/Evaluator.h"
 
 // The statuses besides RTNORM.
 inline constexpr int kStatusError = -5001;

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "devhost/UserError.h"
 #include "devhost/app/SearchPath.h"
-#include "devhost/error/UserError.h"
-#include "devhost/lisp/Reader.h"
+#include "lisp/Reader.h"
 
 std::vector<SItem> FindItems(const std::wstring& folder) {
     const std::wstring full = FullPath(folder);

@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "devhost/drawing/TypedPoint.h"
-#include "devhost/lisp/LispError.h"
+#include "lisp/LispError.h"
 
 SLispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::optional<SPoint> base,
                                       EQuestion question) const {

@@ -5,8 +5,8 @@
 #include "devhost/app/SearchPath.h"
 #include "devhost/app/SystemVariables.h"
 #include "devhost/app/TextOutput.h"
-#include "devhost/lisp/LispHost.h"
 #include "devhost/window/MainWindow.h"
+#include "lisp/LispHost.h"
 
 class CLispConsole : public ILispHost {
 public:

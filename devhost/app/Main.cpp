@@ -19,8 +19,8 @@
 #include "devhost/cmdline/Options.h"
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Arguments.h"
-#include "devhost/lisp/OneLine.h"
+#include "lisp/Arguments.h"
+#include "lisp/OneLine.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <limits>
 #include <vector>
 
-#include "devhost/lisp/LispError.h"
-#include "devhost/lisp/Printer.h"
+#include "lisp/LispError.h"
+#include "lisp/Printer.h"
 
 namespace {
 

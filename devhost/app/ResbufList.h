@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "devhost/lisp/Value.h"
+#include "lisp/Value.h"
 #include "sds/sds.h"
 
 // Owns the records of one list and the texts in them; their addresses hold as long as the list lives.

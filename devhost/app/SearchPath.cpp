@@ -4,7 +4,7 @@
 
 #include <shlwapi.h>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 
 std::wstring FullPath(const std::wstring& path) {
     const DWORD room = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);

@@ -2,7 +2,7 @@
 
 #include "devhost/app/ExitStatus.h"
 #include "devhost/app/Host.h"
-#include "devhost/lisp/Printer.h"
+#include "lisp/Printer.h"
 
 namespace {
 
@@ -29,13 +29,11 @@ SSource ReadExpressions(std::wstring_view text) {
 }  // namespace
 
 SPreparedTask Prepare(const STask& task) {
-    if (task.isScript) {
-        return {true, ReadSourceFile(task.text, task.text)};
-    }
     try {
-        return {false, ReadExpressions(task.text)};
+        return {task.isScript,
+                task.isScript ? ReadSourceFile(task.text, task.text) : ReadExpressions(task.text)};
     } catch (const CLispError& error) {
-        throw CUserError(L"--eval '" + task.text + L"': " + error.Text());
+        throw CUserError((task.isScript ? L"" : L"--eval '" + task.text + L"': ") + error.Text());
     }
 }
 

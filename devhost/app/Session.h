@@ -8,8 +8,8 @@
 
 #include "devhost/app/TextOutput.h"
 #include "devhost/cmdline/Options.h"
-#include "devhost/lisp/Evaluator.h"
 #include "devhost/window/MainWindow.h"
+#include "lisp/Evaluator.h"
 
 // A task of the command line, read before anything is loaded.
 struct SPreparedTask {

@@ -1,8 +1,8 @@
 #include "devhost/app/SystemVariables.h"
 
-#include "devhost/lisp/LispError.h"
-#include "devhost/lisp/Printer.h"
-#include "devhost/units/LinearUnits.h"
+#include "lisp/LispError.h"
+#include "lisp/Printer.h"
+#include "units/LinearUnits.h"
 
 void CSystemVariables::SetLinear(SLinearFormat linear) {
     m_linear = linear;

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "devhost/lisp/Value.h"
+#include "lisp/Value.h"
 
 struct SLinearFormat {
     short lunits;

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "devhost/error/UserError.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/UserError.h"
+#include "units/LinearUnits.h"
 
 // Something to evaluate before the window is the user's.
 struct STask {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "devhost/units/LinearUnits.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

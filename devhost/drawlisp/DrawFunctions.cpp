@@ -1,7 +1,7 @@
 #include "devhost/drawlisp/DrawFunctions.h"
 
-#include "devhost/lisp/Arguments.h"
-#include "devhost/lisp/Printer.h"
+#include "lisp/Arguments.h"
+#include "lisp/Printer.h"
 
 namespace {
 

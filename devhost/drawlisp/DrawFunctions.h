@@ -6,7 +6,7 @@
 #pragma once
 
 #include "devhost/drawing/Drawing.h"
-#include "devhost/lisp/Evaluator.h"
+#include "lisp/Evaluator.h"
 
 // Both must live as long as the functions are called.
 void DefineDrawFunctions(CEvaluator& evaluator, CDrawing& drawing);

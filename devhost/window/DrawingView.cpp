@@ -4,8 +4,8 @@
 
 #include <cmath>
 
+#include "devhost/UserError.h"
 #include "devhost/drawing/Snap.h"
-#include "devhost/error/UserError.h"
 #include "devhost/window/WindowProc.h"
 
 namespace {

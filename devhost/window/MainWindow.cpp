@@ -8,11 +8,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "devhost/error/UserError.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 #include "devhost/window/ProgramVersion.h"
 #include "devhost/window/WindowProc.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 #include "devhost/window/MainWindow.h"
 

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 
 namespace {

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "devhost/error/UserError.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 #include "devhost/window/GdiScope.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

@@ -151,7 +151,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
 
 TEST(AnyHost, IsToldWhichFunctionItLacks) {
     HostRun host;
-    host.UseProgram(fs::path(TESTS_DIR) / "PoorHost.exe");
+    host.UseProgram(fs::path(TESTS_DIR) / "IncompleteHost.exe");
     host.Start({});
     const Window box = Window::WithTitle("Error!");
     ASSERT_TRUE(box.IsValid()) << host.Errors();

@@ -6,9 +6,9 @@
 #include <tuple>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/findings/Report.h"
 #include "tools/rules/Checker.h"
 #include "tools/rules/RuleTable.h"
+#include "tools/tavrincheck/Report.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // LISP that is evaluated: whatever a script says, it ends in a value, a mistake with a text, or an exit, and
 // afterwards the evaluator goes on as if nothing had happened.
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Evaluator.h"
-#include "devhost/lisp/Printer.h"
-#include "devhost/lisp/TextEncoding.h"
+#include "lisp/Evaluator.h"
+#include "lisp/Printer.h"
+#include "lisp/TextEncoding.h"
 #include "tests/fuzz/Fuzz.h"
 
 namespace {

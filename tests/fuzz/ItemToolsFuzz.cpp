@@ -3,10 +3,10 @@
 #include <string>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/extract/LabelExtraction.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewReport.h"
+#include "tools/tavrincheck/LabelExtraction.h"
+#include "tools/tavrincheck/PreviewReport.h"
+#include "tools/texts/ScriptEdit.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include "devhost/lisp/Printer.h"
-#include "devhost/lisp/Reader.h"
+#include "lisp/Printer.h"
+#include "lisp/Reader.h"
 #include "tests/fuzz/Fuzz.h"
 
 namespace {

@@ -4,14 +4,14 @@
 #include <string>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
+#include "tools/texts/ScriptEdit.h"
 #include "tools/texts/StringScript.h"
 #include "tools/texts/TextTable.h"
 
 namespace {
 
-const std::vector<SExtractedText> kTexts = {{60001, L"new \"text\" \\"}, {60002, L"\u00E0\u0080\t"}};
+const std::vector<SNewText> kTexts = {{60001, L"new \"text\" \\"}, {60002, L"\u00E0\u0080\t"}};
 
 // A script takes every new text, and all that it had stays.
 void CheckAdding(const std::string& script) {
@@ -28,7 +28,7 @@ void CheckAdding(const std::string& script) {
     }
     after.ReadBytes("a.rc", Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, kTexts)));
     Require(after.Texts().size() == before.Texts().size() + kTexts.size(), "just the new texts are added");
-    for (const SExtractedText& text : kTexts) {
+    for (const SNewText& text : kTexts) {
         Require(after.Load(text.number) == text.text, "a new text reads as it was given");
     }
     // The new texts may come first and so may their language.

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <cstring>
 
-#include "devhost/units/LinearUnits.h"
 #include "tests/fuzz/Fuzz.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 #include "tools/texts/CodePage.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/findings/Finding.h"
+#include "tools/rules/Finding.h"
 #include "tools/rules/TextRules.h"
 #include "tools/texts/TextTable.h"
 

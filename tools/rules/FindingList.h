@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/findings/Finding.h"
+#include "tools/rules/Finding.h"
 #include "tools/rules/ItemLine.h"
 
 class CFindingList {

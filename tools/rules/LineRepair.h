@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/findings/Finding.h"
+#include "tools/rules/Finding.h"
 
 // One repair: what was wrong at the characters [start, start + length) of the line.
 struct SRepair {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "itemdlg/BlockTracker.h"
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 #include "tools/rules/ByteRules.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include "imagedlg/ChoiceLayout.h"
 #include "imagedlg/ChoiceSlides.h"
 #include "itemdlg/ItemFiles.h"
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 #include "tools/rules/RoutineCalls.h"
 #include "tools/texts/CodePage.h"
 
@@ -78,7 +78,7 @@ private:
                     CheckPreview(call.names.front());
                 }
             }
-        } catch (const CUserError& error) {
+        } catch (const CLispError& error) {
             m_routine.Add(kRoutineUnread, "the routine cannot be read: " + Utf8Text(error.Text()));
         }
     }

@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "devhost/lisp/Reader.h"
+#include "lisp/Reader.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "devhost/lisp/LispError.h"
+#include "lisp/LispError.h"
 
 // A name that stands as a text in a call: what it is, and where it stands with its quotes, in characters.
 struct SRoutineName {

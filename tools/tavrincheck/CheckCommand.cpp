@@ -6,15 +6,15 @@
 #include <string_view>
 
 #include "itemdlg/ItemFiles.h"
-#include "tools/cmdline/Output.h"
 #include "tools/files/Files.h"
-#include "tools/findings/Report.h"
 #include "tools/rules/Checker.h"
 #include "tools/rules/PictureRules.h"
 #include "tools/rules/RuleTable.h"
 #include "tools/rules/TextRules.h"
 #include "tools/tavrincheck/CheckOptions.h"
 #include "tools/tavrincheck/FileList.h"
+#include "tools/tavrincheck/Output.h"
+#include "tools/tavrincheck/Report.h"
 #include "tools/texts/CodePage.h"
 #include "tools/texts/TextTable.h"
 

@@ -2,8 +2,8 @@
 
 #include <sstream>
 
-#include "tools/cmdline/Arguments.h"
 #include "tools/files/Files.h"
+#include "tools/tavrincheck/Arguments.h"
 
 namespace {
 

@@ -14,10 +14,10 @@
 #include <shellapi.h>
 #endif
 
-#include "tools/extract/ExtractCommand.h"
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewCommand.h"
 #include "tools/tavrincheck/CheckCommand.h"
+#include "tools/tavrincheck/ExtractCommand.h"
+#include "tools/tavrincheck/PreviewCommand.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The LISP functions that draw.
 #include "devhost/drawlisp/DrawFunctions.h"
 
-#include "tests/unit/devhost/LispFixture.h"
+#include "tests/unit/lisp/LispFixture.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Builtins.h"
-#include "devhost/lisp/Printer.h"
-#include "devhost/lisp/Source.h"
+#include "lisp/Builtins.h"
+#include "lisp/Printer.h"
+#include "lisp/Source.h"
 #include "tests/unit/docs/Pages.h"
 #include "tests/unit/docs/TestLispHost.h"
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "devhost/lisp/Evaluator.h"
+#include "lisp/Evaluator.h"
 
 class TestLispHost : public CNullLispHost {
 public:

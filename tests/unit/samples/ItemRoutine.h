@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "devhost/drawing/Drawing.h"
-#include "devhost/lisp/Evaluator.h"
-#include "devhost/lisp/LispHost.h"
+#include "lisp/Evaluator.h"
+#include "lisp/LispHost.h"
 
 struct SItem {
     std::string name;

@@ -1,5 +1,5 @@
 // The walk over a command line.
-#include "tools/cmdline/Arguments.h"
+#include "tools/tavrincheck/Arguments.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // tavrincheck extract.
-#include "tools/extract/ExtractCommand.h"
+#include "tools/tavrincheck/ExtractCommand.h"
 
 #include "tests/unit/tools/ToolFolder.h"
 

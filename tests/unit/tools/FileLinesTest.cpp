@@ -1,5 +1,5 @@
 // An item's files as lines.
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 
 #include <gtest/gtest.h>
 

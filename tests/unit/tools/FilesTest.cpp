@@ -10,8 +10,8 @@
 #include <filesystem>
 
 #include "tests/unit/tools/ToolFolder.h"
-#include "tools/cmdline/Output.h"
 #include "tools/files/ItemName.h"
+#include "tools/tavrincheck/Output.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // The item dialog foretold. That it is foretold right is shown beside the dialog itself, among the window
 // tests; here stands what the preview adds.
-#include "tools/preview/ItemPreview.h"
+#include "tools/tavrincheck/ItemPreview.h"
 
 #include <gtest/gtest.h>
 
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewReport.h"
+#include "tools/tavrincheck/PreviewReport.h"
 
 namespace {
 

@@ -1,12 +1,12 @@
 // Taking literal labels out of templates.
-#include "tools/extract/LabelExtraction.h"
+#include "tools/tavrincheck/LabelExtraction.h"
 
 #include <gtest/gtest.h>
 
 #include "itemdlg/ItemContents.h"
 #include "tests/items/ItemGenerator.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
+#include "tools/texts/ScriptEdit.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ SExtraction Extract(const std::string& file, unsigned first = 1501, const SKnown
 // The new texts: "1501=Width|".
 std::wstring Texts(const SExtraction& extraction) {
     std::wstring texts;
-    for (const SExtractedText& text : extraction.newTexts) {
+    for (const SNewText& text : extraction.newTexts) {
         texts += std::to_wstring(text.number) + L"=" + text.text + L"|";
     }
     return texts;

@@ -1,5 +1,5 @@
 // tavrincheck preview: which files it takes, and its options.
-#include "tools/preview/PreviewCommand.h"
+#include "tools/tavrincheck/PreviewCommand.h"
 
 #include "tests/unit/tools/ToolFolder.h"
 

@@ -1,5 +1,5 @@
 // The writer of diffs.
-#include "tools/diff/UnifiedDiff.h"
+#include "tools/files/UnifiedDiff.h"
 
 #include <gtest/gtest.h>
 

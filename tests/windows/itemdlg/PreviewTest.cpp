@@ -4,14 +4,14 @@
 #include <optional>
 #include <set>
 
-#include "devhost/units/LinearUnits.h"
 #include "itemdlg/ItemMessages.h"
 #include "tests/items/ItemGenerator.h"
 #include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tools/files/FileLines.h"
 #include "tools/files/Files.h"
-#include "tools/lines/FileLines.h"
-#include "tools/preview/ItemPreview.h"
+#include "tools/tavrincheck/ItemPreview.h"
 #include "tools/texts/TextTable.h"
+#include "units/LinearUnits.h"
 
 namespace {
 

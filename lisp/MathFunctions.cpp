@@ -1,0 +1,90 @@
+// Roots, powers, logarithms and angles (in radians), and the way between whole numbers and reals.
+#include <cmath>
+#include <limits>
+
+#include "lisp/Builtins.h"
+#include "lisp/LispError.h"
+
+namespace {
+
+CValue Real(const CArguments& arguments, double result) {
+    if (!std::isfinite(result)) {
+        arguments.Fail(L"the result is no number that a real can hold");
+    }
+    return CValue::Real(result);
+}
+
+CLispResult Fix(const CArguments& arguments) {
+    if (arguments[0].Type() == VT_INTEGER) {
+        return arguments[0];
+    }
+    const double whole = std::trunc(arguments.Number(0));
+    using limits = std::numeric_limits<std::int32_t>;
+    if (!(whole >= limits::min() && whole <= limits::max())) {
+        arguments.Refuse(0, L"a number that fits 32 bits");
+    }
+    return CValue::Integer(std::int32_t(whole));
+}
+
+CLispResult Float(const CArguments& arguments) {
+    return CValue::Real(arguments.Number(0));
+}
+
+CLispResult Sine(const CArguments& arguments) {
+    return Real(arguments, std::sin(arguments.Number(0)));
+}
+
+CLispResult Cosine(const CArguments& arguments) {
+    return Real(arguments, std::cos(arguments.Number(0)));
+}
+
+// With one argument in -pi/2 to pi/2; with two the angle of (X, Y), given as Y and X, in -pi to pi.
+CLispResult ArcTangent(const CArguments& arguments) {
+    const double y = arguments.Number(0);
+    return Real(arguments, arguments.Has(1) ? std::atan2(y, arguments.Number(1)) : std::atan(y));
+}
+
+CLispResult SquareRoot(const CArguments& arguments) {
+    if (arguments.Number(0) < 0) {
+        arguments.Refuse(0, L"a number that is not negative");
+    }
+    return CValue::Real(std::sqrt(arguments.Number(0)));
+}
+
+CLispResult Exponential(const CArguments& arguments) {
+    return Real(arguments, std::exp(arguments.Number(0)));
+}
+
+CLispResult Logarithm(const CArguments& arguments) {
+    if (arguments.Number(0) <= 0) {
+        arguments.Refuse(0, L"a number above zero");
+    }
+    return CValue::Real(std::log(arguments.Number(0)));
+}
+
+// Whole numbers give a whole number, except with a negative exponent.
+CLispResult Power(const CArguments& arguments) {
+    const double result = std::pow(arguments.Number(0), arguments.Number(1));
+    const bool whole = arguments[0].Type() == VT_INTEGER && arguments[1].Type() == VT_INTEGER;
+    if (!whole || arguments.Integer(1) < 0) {
+        return Real(arguments, result);
+    }
+    // Exact, since every whole number of 32 bits is a real.
+    using limits = std::numeric_limits<std::int32_t>;
+    if (!(result >= limits::min() && result <= limits::max())) {
+        arguments.Fail(L"the result does not fit 32 bits: calculate with reals, 2.0 instead of 2");
+    }
+    return CValue::Integer(std::int32_t(result));
+}
+
+constexpr SBuiltin kFunctions[] = {
+    {L"FIX", 1, 1, Fix},         {L"FLOAT", 1, 1, Float},     {L"SIN", 1, 1, Sine},
+    {L"COS", 1, 1, Cosine},      {L"ATAN", 1, 2, ArcTangent}, {L"SQRT", 1, 1, SquareRoot},
+    {L"EXP", 1, 1, Exponential}, {L"LOG", 1, 1, Logarithm},   {L"EXPT", 2, 2, Power},
+};
+
+}  // namespace
+
+std::span<const SBuiltin> MathFunctions() {
+    return kFunctions;
+}

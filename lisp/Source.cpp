@@ -1,0 +1,41 @@
+#include "lisp/Source.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "lisp/LispError.h"
+#include "lisp/Reader.h"
+#include "lisp/TextEncoding.h"
+
+SSource ReadText(std::wstring_view text) {
+    SSource source;
+    CReader reader(text);
+    while (auto expression = reader.Read()) {
+        source.expressions.push_back(std::move(*expression));
+    }
+    return source;
+}
+
+SSource ReadSourceFile(const std::wstring& path, const std::wstring& name) {
+    const std::filesystem::path place(path);
+    std::error_code error;
+    std::ifstream stream;
+    if (!std::filesystem::is_directory(place, error)) {
+        stream.open(place, std::ios::binary);
+    }
+    if (!stream.is_open()) {
+        throw CLispError(L"the file '" + name + L"' cannot be opened: give an existing file");
+    }
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")) {
+        throw CLispError(L"the file '" + name + L"' is UTF-16: save it as UTF-8");
+    }
+    try {
+        SSource source = ReadText(DecodeSource(bytes));
+        source.file = name;
+        return source;
+    } catch (const CReadError& mistake) {
+        throw mistake.InFile(name);
+    }
+}

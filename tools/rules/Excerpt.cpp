@@ -1,0 +1,52 @@
+#include "tools/rules/Excerpt.h"
+
+#include <algorithm>
+
+#include "tools/texts/CodePage.h"
+
+namespace {
+
+constexpr std::size_t kLongestExcerpt = 160;
+constexpr std::size_t kContext = 60;  // in front of the offending text, when the line is cut
+constexpr std::size_t kLongestQuote = 60;
+
+// What a character of a file is shown as. The files' characters are bytes, which their authors' programs
+// show in code page 1252.
+wchar_t Shown(wchar_t character) {
+    if (character < 0x20) {
+        return static_cast<wchar_t>(0x2400 + character);
+    }
+    if (character == 0x7F) {
+        return 0x2421;
+    }
+    if (character < 0x80 || character >= 0xA0) {
+        return character;
+    }
+    const auto byte = static_cast<char>(character);
+    return DecodeText({&byte, 1}, kWesternEuropean).value_or(L"\uFFFD").front();
+}
+
+std::string ShownText(std::wstring_view text) {
+    std::wstring shown;
+    std::transform(text.begin(), text.end(), std::back_inserter(shown), Shown);
+    return Utf8Text(shown);
+}
+
+}  // namespace
+
+SExcerpt MakeExcerpt(std::wstring_view line, std::size_t start, std::size_t length) {
+    start = std::min(start, line.size());
+    length = std::min(length, line.size() - start);
+    const bool isCut = line.size() > kLongestExcerpt;
+    const std::size_t first = isCut ? start - std::min(start, kContext) : 0;
+    SExcerpt excerpt;
+    excerpt.text = ShownText(line.substr(first, kLongestExcerpt));
+    excerpt.start = start - first;
+    excerpt.length = std::min(length, kLongestExcerpt - std::min(kLongestExcerpt, excerpt.start));
+    return excerpt;
+}
+
+std::string Quoted(std::wstring_view text) {
+    const bool isCut = text.size() > kLongestQuote;
+    return "'" + ShownText(text.substr(0, kLongestQuote)) + (isCut ? "\xE2\x80\xA6'" : "'");
+}
