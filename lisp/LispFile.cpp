@@ -2,8 +2,11 @@
 
 #include <filesystem>
 
+#include "encoding/Encoding.h"
 #include "lisp/LispError.h"
-#include "lisp/TextEncoding.h"
+
+using tavrin::encoding::DecodeWindows1252;
+using tavrin::encoding::EncodeWindows1252;
 
 namespace {
 
@@ -29,7 +32,7 @@ std::wstring CodeText(wchar_t character) {
 std::string ToBytes(const std::wstring& text, const std::wstring& file) {
     std::string bytes;
     for (const wchar_t c : text) {
-        const auto byte = ToWindows1252(c);
+        const auto byte = EncodeWindows1252(char32_t(c));
         if (!byte) {
             throw CLispError(Named(file) + L" cannot hold the character " + CodeText(c) +
                              L": text files are Windows-1252");
@@ -65,7 +68,7 @@ std::optional<std::wstring> CLispFile::ReadLine() {
     if (!line.empty() && line.back() == '\r') {
         line.pop_back();
     }
-    return FromWindows1252(line);
+    return DecodeWindows1252(line);
 }
 
 std::optional<wchar_t> CLispFile::ReadCharacter() {
@@ -77,7 +80,7 @@ std::optional<wchar_t> CLispFile::ReadCharacter() {
     if (c == '\r' && m_stream.peek() == '\n') {
         m_stream.get(c);
     }
-    return FromWindows1252({&c, 1}).front();
+    return DecodeWindows1252({&c, 1}).front();
 }
 
 void CLispFile::Write(const std::wstring& text) {

@@ -4,9 +4,9 @@
 #include <fstream>
 #include <iterator>
 
+#include "encoding/Encoding.h"
 #include "lisp/LispError.h"
 #include "lisp/Reader.h"
-#include "lisp/TextEncoding.h"
 
 SSource ReadText(std::wstring_view text) {
     SSource source;
@@ -32,7 +32,7 @@ SSource ReadSourceFile(const std::wstring& path, const std::wstring& name) {
         throw CLispError(L"the file '" + name + L"' is UTF-16: save it as UTF-8");
     }
     try {
-        SSource source = ReadText(DecodeSource(bytes));
+        SSource source = ReadText(tavrin::encoding::DecodeUtf8OrWindows1252(bytes));
         source.file = name;
         return source;
     } catch (const CReadError& mistake) {

@@ -16,9 +16,9 @@
 #include "devhost/app/LispConsole.h"
 #include "devhost/app/PlugIn.h"
 #include "devhost/app/Session.h"
-#include "devhost/cmdline/Options.h"
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
+#include "devhost/options/Options.h"
 #include "lisp/Arguments.h"
 #include "lisp/OneLine.h"
 
@@ -122,9 +122,7 @@ void ShareFormat(CSystemVariables& variables, CMainWindow& window) {
     const SLinearFormat format = variables.Linear();
     window.SetFormat(format.lunits, format.luprec);
     variables.SetListener([&](SLinearFormat changed) { window.SetFormat(changed.lunits, changed.luprec); });
-    window.SetFormatHandler([&](int lunits, int luprec) {
-        variables.SetLinear({short(lunits), short(luprec)});
-    });
+    window.SetFormatHandler([&](int lunits, int luprec) { variables.SetLinear({lunits, luprec}); });
 }
 
 void OfferItems(const std::vector<SItem>& items, CSession& session, CMainWindow& window) {

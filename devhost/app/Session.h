@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "devhost/app/TextOutput.h"
-#include "devhost/cmdline/Options.h"
+#include "devhost/options/Options.h"
 #include "devhost/window/MainWindow.h"
 #include "lisp/Evaluator.h"
 

@@ -33,6 +33,6 @@ void CSystemVariables::Set(const std::wstring& name, const CValue& value) {
                          L" to " + std::to_wstring(highest) + L", not " + Excerpt(value));
     }
     SLinearFormat linear = m_linear;
-    (isUnits ? linear.lunits : linear.luprec) = short(value.AsInteger());
+    (isUnits ? linear.lunits : linear.luprec) = value.AsInteger();
     SetLinear(linear);
 }

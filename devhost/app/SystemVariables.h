@@ -7,8 +7,8 @@
 #include "lisp/Value.h"
 
 struct SLinearFormat {
-    short lunits;
-    short luprec;
+    int lunits;
+    int luprec;
 };
 
 class CSystemVariables {

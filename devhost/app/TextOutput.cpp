@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "encoding/Encoding.h"
+
 namespace {
 
 constexpr wchar_t kProgram[] = L"DevHost";
@@ -23,14 +25,6 @@ bool HasConsoleOfItsOwn() {
     return GetConsoleProcessList(processes, 2) == 1 && IsWindowVisible(GetConsoleWindow());
 }
 
-std::string ToUtf8(std::wstring_view text) {
-    const int length =
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
-    std::string bytes(std::size_t(length), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), bytes.data(), length, nullptr, nullptr);
-    return bytes;
-}
-
 // Unbuffered, so that what was said stands there when the process crashes after it.
 void Write(DWORD standardHandle, std::wstring_view text) {
     const HANDLE handle = GetStdHandle(standardHandle);
@@ -38,7 +32,7 @@ void Write(DWORD standardHandle, std::wstring_view text) {
     if (IsConsole(handle)) {
         WriteConsoleW(handle, text.data(), DWORD(text.size()), &written, nullptr);
     } else {
-        const std::string bytes = ToUtf8(text);
+        const std::string bytes = tavrin::encoding::EncodeUtf8(text);
         WriteFile(handle, bytes.data(), DWORD(bytes.size()), &written, nullptr);
     }
 }

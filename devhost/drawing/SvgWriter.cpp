@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
 #include <numbers>
+
+#include "encoding/Encoding.h"
 
 namespace {
 
@@ -33,53 +34,25 @@ std::string Pair(SPoint point) {
     return Number(point.x) + ' ' + Number(-point.y);
 }
 
-// What XML cannot hold becomes the sign for that.
-bool IsXmlCharacter(std::uint32_t code) {
+bool IsXmlCharacter(char32_t code) {
     if (code < 0x20) {
-        return code == '\t' || code == '\n' || code == '\r';
+        return code == U'\t' || code == U'\n' || code == U'\r';
     }
-    return (code < 0xD800 || code > 0xDFFF) && code != 0xFFFE && code != 0xFFFF && code <= 0x10FFFF;
+    return code != 0xFFFE && code != 0xFFFF;
 }
 
-void AddUtf8(std::string& text, std::uint32_t code) {
-    const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-    const auto addTail = [&](int shift) { add(0x80 | (code >> shift & 0x3F)); };
-    if (code < 0x80) {
-        add(code);
-    } else if (code < 0x800) {
-        add(0xC0 | code >> 6);
-        addTail(0);
-    } else if (code < 0x10000) {
-        add(0xE0 | code >> 12);
-        addTail(6);
-        addTail(0);
-    } else {
-        add(0xF0 | code >> 18);
-        addTail(12);
-        addTail(6);
-        addTail(0);
-    }
-}
-
-// Text between tags. Pairs of surrogates are joined wherever wide characters have 16 bits or more.
-std::string Escaped(const std::wstring& text) {
-    constexpr std::uint32_t kReplacement = 0xFFFD;
+// Text between tags.
+std::string Escaped(std::wstring_view text) {
+    constexpr char32_t kReplacement = 0xFFFD;
     std::string escaped;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        auto code = static_cast<std::uint32_t>(text[i]);
-        if (code >= 0xD800 && code < 0xDC00 && i + 1 < text.size()) {
-            const auto low = static_cast<std::uint32_t>(text[i + 1]);
-            if (low >= 0xDC00 && low < 0xE000) {
-                code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
-                ++i;
-            }
-        }
-        if (code == '<') {
+    while (!text.empty()) {
+        const char32_t code = tavrin::encoding::TakeCodePoint(text);
+        if (code == U'<') {
             escaped += "&lt;";
-        } else if (code == '&') {
+        } else if (code == U'&') {
             escaped += "&amp;";
         } else {
-            AddUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
+            tavrin::encoding::AppendUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
         }
     }
     return escaped;

@@ -1,9 +1,9 @@
 // LISP that is evaluated: whatever a script says, it ends in a value, a mistake with a text, or an exit, and
 // afterwards the evaluator goes on as if nothing had happened.
 #include "devhost/drawlisp/DrawFunctions.h"
+#include "encoding/Encoding.h"
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
-#include "lisp/TextEncoding.h"
 #include "tests/fuzz/Fuzz.h"
 
 namespace {
@@ -13,7 +13,8 @@ constexpr std::size_t kStack = std::size_t{512} * 1024;
 
 void RunToItsEnd(CEvaluator& evaluator, std::string_view script) {
     try {
-        if (const CLispResult result = evaluator.Run(ReadText(DecodeSource(script)))) {
+        if (const CLispResult result =
+                evaluator.Run(ReadText(tavrin::encoding::DecodeUtf8OrWindows1252(script)))) {
             Print(*result);
         }
     } catch (const CLispError& mistake) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/texts/CodePage.h"
+#include "encoding/Encoding.h"
 
 namespace {
 
@@ -23,13 +23,14 @@ wchar_t Shown(wchar_t character) {
         return character;
     }
     const auto byte = static_cast<char>(character);
-    return DecodeText({&byte, 1}, kWesternEuropean).value_or(L"\uFFFD").front();
+    const wchar_t decoded = tavrin::encoding::DecodeWindows1252({&byte, 1}).front();
+    return decoded != character ? decoded : 0xFFFD;
 }
 
 std::string ShownText(std::wstring_view text) {
     std::wstring shown;
     std::transform(text.begin(), text.end(), std::back_inserter(shown), Shown);
-    return Utf8Text(shown);
+    return tavrin::encoding::EncodeUtf8(shown);
 }
 
 }  // namespace

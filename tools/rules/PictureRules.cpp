@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "encoding/Encoding.h"
 #include "imagedlg/ChoiceLayout.h"
 #include "imagedlg/ChoiceSlides.h"
 #include "itemdlg/ItemFiles.h"
@@ -38,21 +39,13 @@ constexpr SRule kRoutineUnread = {
 
 constexpr const SRule* kRules[] = {&kPictureMissing, &kSlideMissing, &kChoiceCount, &kRoutineUnread};
 
-// Routines are UTF-8 if they can be, else in code page 1252; a byte without meaning there stands for itself.
-std::wstring RoutineText(const std::string& bytes) {
-    if (std::optional<std::wstring> text = DecodeText(bytes, kUtf8)) {
-        return *std::move(text);
-    }
-    return CharactersOf(bytes);
-}
-
 class CPictureCheck {
 public:
     explicit CPictureCheck(const SPictureContext& context)
         : m_context(context), m_item(context.templateFile), m_routine(context.routineFile) {}
 
     std::vector<SFinding> Run() {
-        const std::string picture = m_context.baseName + Utf8Text(kPictureEnding);
+        const std::string picture = m_context.baseName + tavrin::encoding::EncodeUtf8(kPictureEnding);
         if (!m_context.isThere(picture)) {
             m_item.Add(kPictureMissing, "the item's picture " + picture + " is not beside it");
         }
@@ -68,7 +61,7 @@ public:
 
 private:
     void CheckRoutine() {
-        m_text = RoutineText(*m_context.routine);
+        m_text = tavrin::encoding::DecodeUtf8OrWindows1252(*m_context.routine);
         FindLines();
         try {
             for (const SRoutineCall& call : FindRoutineCalls(m_text)) {
@@ -79,12 +72,13 @@ private:
                 }
             }
         } catch (const CLispError& error) {
-            m_routine.Add(kRoutineUnread, "the routine cannot be read: " + Utf8Text(error.Text()));
+            m_routine.Add(kRoutineUnread,
+                          "the routine cannot be read: " + tavrin::encoding::EncodeUtf8(error.Text()));
         }
     }
 
     void CheckPreview(const SRoutineName& name) {
-        const std::string picture = Utf8Text(name.text + kPictureEnding);
+        const std::string picture = tavrin::encoding::EncodeUtf8(name.text + kPictureEnding);
         if (!m_context.isThere(picture)) {
             AddAt(kPictureMissing, name, "the picture " + picture + " is not beside the routine");
         }
@@ -93,8 +87,8 @@ private:
     void CheckChoice(const SRoutineCall& call) {
         std::size_t count = 0;
         for (const SRoutineName& name : call.names) {
-            const std::string flat = Utf8Text(name.text + FLAT_SLIDE_ENDING);
-            const std::string inSpace = Utf8Text(name.text + SPACE_SLIDE_ENDING);
+            const std::string flat = tavrin::encoding::EncodeUtf8(name.text + FLAT_SLIDE_ENDING);
+            const std::string inSpace = tavrin::encoding::EncodeUtf8(name.text + SPACE_SLIDE_ENDING);
             if (m_context.isThere(flat) || (!call.isFlatOnly && m_context.isThere(inSpace))) {
                 ++count;
                 continue;

@@ -5,6 +5,8 @@
 #include <set>
 #include <string_view>
 
+#include "cmdline/CommandLine.h"
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemFiles.h"
 #include "tools/files/Files.h"
 #include "tools/rules/Checker.h"
@@ -15,7 +17,6 @@
 #include "tools/tavrincheck/FileList.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/tavrincheck/Report.h"
-#include "tools/texts/CodePage.h"
 #include "tools/texts/TextTable.h"
 
 namespace {
@@ -30,7 +31,7 @@ public:
     explicit CCheckRun(const SCheckOptions& options) : m_options(options) {
         for (const std::string& rule : options.disabledRules) {
             if (FindRule(rule) == nullptr) {
-                throw CToolError("--disable: there is no rule '" + rule + "', see --rules");
+                throw tavrin::cmdline::InvalidValue("--disable", rule, "the name of a rule, see --rules");
             }
             m_disabled.insert(rule);
         }
@@ -85,7 +86,8 @@ private:
     // The pair is compared once, with whichever of the two comes first.
     void ComparePairOf(const SItemFile& file, const std::string& bytes) {
         const std::string other =
-            file.item + Utf8Text(file.isWorkingFile ? kTemplateFileEnding : kWorkingFileEnding);
+            file.item +
+            tavrin::encoding::EncodeUtf8(file.isWorkingFile ? kTemplateFileEnding : kWorkingFileEnding);
         if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
             return;
         }

@@ -1,23 +1,23 @@
 #include "tools/tavrincheck/CheckOptions.h"
 
+#include <map>
 #include <sstream>
 
+#include "cmdline/CommandLine.h"
 #include "tools/files/Files.h"
-#include "tools/tavrincheck/Arguments.h"
+
+using tavrin::cmdline::CCommandLine;
 
 namespace {
 
 EReportFormat FormatOf(const std::string& name) {
-    if (name == "text") {
-        return RF_TEXT;
+    static const std::map<std::string, EReportFormat> kFormats = {
+        {"text", RF_TEXT}, {"json", RF_JSON}, {"sarif", RF_SARIF}};
+    const auto format = kFormats.find(name);
+    if (format == kFormats.end()) {
+        throw tavrin::cmdline::InvalidValue("--format", name, "text, json or sarif");
     }
-    if (name == "json") {
-        return RF_JSON;
-    }
-    if (name == "sarif") {
-        return RF_SARIF;
-    }
-    throw CToolError("--format does not know '" + name + "': give text, json or sarif");
+    return format->second;
 }
 
 void AppendList(std::vector<std::string>& list, const std::string& value) {
@@ -27,48 +27,25 @@ void AppendList(std::vector<std::string>& list, const std::string& value) {
     }
 }
 
-bool* FlagOf(SCheckOptions& options, const std::string& name) {
-    if (name == "--strict") {
-        return &options.strict;
-    }
-    if (name == "--rules") {
-        return &options.listRules;
-    }
-    if (name == "--help" || name == "-h") {
-        return &options.help;
-    }
-    return name == "--version" ? &options.version : nullptr;
-}
-
-void TakeOption(SCheckOptions& options, CArguments& arguments) {
-    const std::string& name = arguments.Current();
-    if (name == "--format") {
-        options.format = FormatOf(arguments.Value("text, json or sarif"));
-    } else if (name == "--disable") {
-        AppendList(options.disabledRules, arguments.Value("the name of a rule"));
-    } else if (name == "--texts") {
-        options.texts.push_back(arguments.Value("a string table script or a DLL"));
-    } else if (bool* const flag = FlagOf(options, name)) {
-        arguments.ExpectNoValue();
-        *flag = true;
-    } else {
-        arguments.FailUnknown();
-    }
-}
-
 }  // namespace
 
 SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
     SCheckOptions options;
-    for (CArguments rest(arguments); rest.Next();) {
-        if (rest.IsOption()) {
-            TakeOption(options, rest);
-        } else {
-            options.names.push_back(rest.Current());
-        }
-    }
+    CCommandLine commandLine;
+    commandLine.AddOption("--format", "json",
+                          [&](const std::string& value) { options.format = FormatOf(value); });
+    commandLine.AddOption("--disable", "block-empty",
+                          [&](const std::string& value) { AppendList(options.disabledRules, value); });
+    commandLine.AddTexts("--texts", "TavrinRes.rc", options.texts);
+    commandLine.AddFlag("--strict", options.strict);
+    commandLine.AddExitFlag("--rules", options.listRules);
+    commandLine.AddExitFlag("--version", options.version);
+    commandLine.AddExitFlag("--help", options.help);
+    commandLine.AddExitFlag("-h", options.help);
+    commandLine.AddArguments(options.names);
+    commandLine.Parse(arguments);
     if (options.names.empty() && !options.help && !options.version && !options.listRules) {
-        throw CToolError("there is nothing to check: name a file or a folder, or see --help");
+        throw CToolError("nothing to check: give a file or a folder, or see --help");
     }
     return options;
 }

@@ -17,8 +17,8 @@ struct SCheckOptions {
     bool version = false;
 };
 
-// Reads the arguments. An option's value stands behind it or behind its "="; what follows "--" is no option.
-// Throws CToolError for an option that is not known, one without its value, and when there is nothing to do.
+// Throws CUsageError (cmdline/CommandLine.h) for options that are wrong, and CToolError when there is nothing
+// to do.
 SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments);
 
 // What --help prints.

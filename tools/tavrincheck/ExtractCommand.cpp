@@ -3,14 +3,15 @@
 #include <filesystem>
 #include <optional>
 
+#include "cmdline/CommandLine.h"
 #include "itemdlg/TemplateText.h"
 #include "tools/files/Files.h"
-#include "tools/tavrincheck/Arguments.h"
 #include "tools/tavrincheck/LabelExtraction.h"
 #include "tools/tavrincheck/Output.h"
-#include "tools/texts/CodePage.h"
 #include "tools/texts/ScriptEdit.h"
 #include "tools/texts/StringModule.h"
+
+using tavrin::cmdline::CCommandLine;
 
 namespace {
 
@@ -30,51 +31,32 @@ would change is printed as a diff.
 )";
 
 struct SOptions {
-    std::optional<std::string> file;
+    std::vector<std::string> files;
     std::optional<std::string> script;
-    unsigned firstNumber = 0;  // 0: not given
+    int firstNumber = 0;  // 0: not given
     bool write = false;
     bool help = false;
 };
 
-void TakeOption(SOptions& options, CArguments& arguments) {
-    const std::string& name = arguments.Current();
-    if (name == "--from") {
-        options.firstNumber =
-            static_cast<unsigned>(arguments.IntValue("a number from 1 to 65535", 1, kHighestTextNumber));
-    } else if (name == "--rc") {
-        options.script = arguments.Value("a string table script");
-    } else if (name == "--write") {
-        arguments.ExpectNoValue();
-        options.write = true;
-    } else if (name == "--help" || name == "-h") {
-        arguments.ExpectNoValue();
-        options.help = true;
-    } else {
-        arguments.FailUnknown();
-    }
-}
-
 SOptions ParseOptions(const std::vector<std::string>& arguments) {
     SOptions options;
-    for (CArguments rest(arguments); rest.Next();) {
-        if (rest.IsOption()) {
-            TakeOption(options, rest);
-        } else if (options.file) {
-            throw CToolError("one file is taken at a time, not both '" + *options.file + "' and '" +
-                             rest.Current() + "'");
-        } else {
-            options.file = rest.Current();
-        }
-    }
+    CCommandLine commandLine;
+    commandLine.AddNumber("--from", 1501, {1, kHighestTextNumber}, options.firstNumber);
+    commandLine.AddOption("--rc", "TavrinRes.rc", [&](const std::string& value) { options.script = value; });
+    commandLine.AddFlag("--write", options.write);
+    commandLine.AddExitFlag("--help", options.help);
+    commandLine.AddExitFlag("-h", options.help);
+    commandLine.AddArguments(options.files);
+    commandLine.Parse(arguments);
     if (options.help) {
         return options;
     }
-    if (!options.file) {
-        throw CToolError("there is nothing to extract from: name a template, or see --help");
+    if (options.files.size() != 1) {
+        throw CToolError("extract takes one file, not " + std::to_string(options.files.size()) +
+                         ", see --help");
     }
     if (options.firstNumber == 0) {
-        throw CToolError("--from is missing: give the number for the first text, such as --from 1501");
+        throw CToolError("option '--from' is required, for example --from 1501");
     }
     return options;
 }
@@ -130,30 +112,30 @@ int RunExtract(const std::vector<std::string>& arguments) {
         Print(kHelp);
         return 0;
     }
-    const std::string scriptName =
-        options.script.value_or(NameOf(PathOf(*options.file).replace_extension(".rc")));
-    const std::vector<SFileLine> lines = SplitLines(ReadBytes(*options.file));
+    const std::string& file = options.files.front();
+    const std::string scriptName = options.script.value_or(NameOf(PathOf(file).replace_extension(".rc")));
+    const std::vector<SFileLine> lines = SplitLines(ReadBytes(file));
     CTextTable table;
-    const std::optional<std::string> script = ReadScript(scriptName, *options.file);
+    const std::optional<std::string> script = ReadScript(scriptName, file);
     if (script) {
         table.ReadBytes(scriptName, *script);
     }
-    const SExtraction extraction = ExtractLabels(lines, options.firstNumber, KnownTexts(table));
+    const SExtraction extraction =
+        ExtractLabels(lines, static_cast<unsigned>(options.firstNumber), KnownTexts(table));
     for (const std::string& note : extraction.notes) {
-        Print(*options.file + ": " + note + "\n");
+        Print(file + ": " + note + "\n");
     }
     const std::vector<std::string> before = Bytes(lines);
-    const SChange templateChange = {*options.file, false, before,
-                                    EditsBetween(before, Bytes(extraction.lines))};
+    const SChange templateChange = {file, false, before, EditsBetween(before, Bytes(extraction.lines))};
     if (templateChange.edits.empty()) {
-        Print(*options.file + ": there is no literal label to move\n");
+        Print(file + ": there is no literal label to move\n");
         return 0;
     }
     std::vector<SChange> changes;
     if (!extraction.newTexts.empty()) {
         // First, so that no placeholder stands in the template without its text.
         changes.push_back(
-            ScriptChange(scriptName, script, NameOf(PathOf(*options.file).filename()), extraction.newTexts));
+            ScriptChange(scriptName, script, NameOf(PathOf(file).filename()), extraction.newTexts));
     }
     changes.push_back(templateChange);
     for (const SChange& change : changes) {

@@ -5,10 +5,10 @@
 #include <optional>
 #include <set>
 
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemFiles.h"
 #include "tools/files/Files.h"
 #include "tools/files/ItemName.h"
-#include "tools/texts/CodePage.h"
 
 namespace {
 
@@ -27,7 +27,7 @@ bool IsFile(const fs::directory_entry& entry) {
 }
 
 void AppendFolder(const std::string& folder, std::vector<std::string>& names, SFileList& list) {
-    const std::string ending = Utf8Text(kTemplateFileEnding);
+    const std::string ending = tavrin::encoding::EncodeUtf8(kTemplateFileEnding);
     std::vector<std::string> found;
     bool isRead = true;
     try {

@@ -4,15 +4,15 @@
 #include <optional>
 #include <utility>
 
+#include "cmdline/ParseNumber.h"
+#include "encoding/Encoding.h"
 #include "itemdlg/NumberText.h"
-#include "tools/tavrincheck/WholeNumber.h"
-#include "tools/texts/CodePage.h"
 #include "units/LinearUnits.h"
 
 namespace {
 
 std::string Quoted(const std::wstring& text) {
-    return "'" + Utf8Text(text) + "'";
+    return "'" + tavrin::encoding::EncodeUtf8(text) + "'";
 }
 
 }  // namespace
@@ -67,7 +67,8 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
     }
     ParamRecord& record = parameter.record;
     if (record.type == 'I') {
-        const std::optional<int> whole = WholeNumber<int>(Utf8Text(value));
+        const std::optional<int> whole =
+            tavrin::cmdline::ParseNumber<int>(tavrin::encoding::EncodeUtf8(value));
         if (!whole) {
             throw CToolError("parameter " + Quoted(number) + " takes a whole number, not " + Quoted(value));
         }
@@ -75,7 +76,8 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
         return;
     }
     const std::optional<double> real =
-        record.type == 'D' ? ParseLinear(value) : WholeNumber<double>(Utf8Text(value));
+        record.type == 'D' ? ParseLinear(value)
+                           : tavrin::cmdline::ParseNumber<double>(tavrin::encoding::EncodeUtf8(value));
     if (!real || !std::isfinite(*real)) {
         throw CToolError("parameter " + Quoted(number) +
                          (record.type == 'D' ? " takes a distance, not " : " takes a real number, not ") +

@@ -14,6 +14,7 @@
 #include <shellapi.h>
 #endif
 
+#include "encoding/Encoding.h"
 #include "tools/files/Files.h"
 #include "tools/tavrincheck/CheckCommand.h"
 #include "tools/tavrincheck/ExtractCommand.h"
@@ -25,20 +26,13 @@ namespace {
 constexpr int kCouldNotRun = 2;
 
 #ifdef _WIN32
-std::string Utf8(const wchar_t* text) {
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    std::string bytes(size > 0 ? static_cast<std::size_t>(size - 1) : 0, '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), size, nullptr, nullptr);
-    return bytes;
-}
-
 // The runtime's arguments are in the system's code page, which not all names of files can be written in.
 std::vector<std::string> Arguments(int /*count*/, char** /*values*/) {
     int count = 0;
     wchar_t** const values = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i) {
-        arguments.push_back(Utf8(values[i]));
+        arguments.push_back(tavrin::encoding::EncodeUtf8(values[i]));
     }
     LocalFree(values);
     return arguments;

@@ -1,5 +1,6 @@
 #include "tools/tavrincheck/PreviewCommand.h"
 
+#include <cmath>
 #include <cstddef>
 #include <filesystem>
 #include <limits>
@@ -7,17 +8,21 @@
 #include <set>
 #include <utility>
 
+#include "cmdline/CommandLine.h"
+#include "cmdline/ParseNumber.h"
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemFiles.h"
 #include "tools/files/FileLines.h"
 #include "tools/files/Files.h"
 #include "tools/files/ItemName.h"
-#include "tools/tavrincheck/Arguments.h"
 #include "tools/tavrincheck/ItemPreview.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/tavrincheck/PreviewReport.h"
-#include "tools/texts/CodePage.h"
 #include "tools/texts/TextTable.h"
 #include "units/LinearUnits.h"
+
+using tavrin::cmdline::CCommandLine;
+using tavrin::cmdline::InvalidValue;
 
 namespace {
 
@@ -40,7 +45,7 @@ too. With any other file, a template, the working file is taken to be a copy of 
 )";
 
 struct SOptions {
-    std::optional<std::string> file;
+    std::vector<std::string> files;
     std::vector<std::string> texts;
     std::vector<std::pair<std::string, std::string>> values;
     double scale = 1.0;
@@ -50,52 +55,41 @@ struct SOptions {
     bool help = false;
 };
 
+double ScaleOf(const std::string& text) {
+    const std::optional<double> number = tavrin::cmdline::ParseNumber<double>(text);
+    if (!number || !std::isfinite(*number)) {
+        throw InvalidValue("--scale", text, "a number, for example 0.001");
+    }
+    return *number;
+}
+
 std::pair<std::string, std::string> Assignment(const std::string& text) {
     const std::size_t equals = text.find('=');
     if (equals == std::string::npos) {
-        throw CToolError("--set does not take '" + text + "': give NUMBER=VALUE, such as 1=900");
+        throw InvalidValue("--set", text, "NUMBER=VALUE, for example 1=900");
     }
     return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
-void TakeOption(SOptions& options, CArguments& arguments) {
-    const std::string& name = arguments.Current();
-    if (name == "--texts") {
-        options.texts.push_back(arguments.Value("a string table script or a DLL"));
-    } else if (name == "--scale") {
-        options.scale = arguments.RealValue("a number, such as 0.001");
-    } else if (name == "--mode") {
-        constexpr int kLowest = std::numeric_limits<short>::min();
-        constexpr int kHighest = std::numeric_limits<short>::max();
-        options.mode = arguments.IntValue("a whole number, such as 1", kLowest, kHighest);
-    } else if (name == "--lunits") {
-        options.units = arguments.IntValue("1 to 5", LU_SCIENTIFIC, LU_FRACTIONAL);
-    } else if (name == "--luprec") {
-        options.precision = arguments.IntValue("0 to 8", 0, kMaxLinearPrecision);
-    } else if (name == "--set") {
-        options.values.push_back(Assignment(arguments.Value("NUMBER=VALUE, such as 1=900")));
-    } else if (name == "--help" || name == "-h") {
-        arguments.ExpectNoValue();
-        options.help = true;
-    } else {
-        arguments.FailUnknown();
-    }
-}
-
 SOptions ParseOptions(const std::vector<std::string>& arguments) {
+    using Limits = std::numeric_limits<short>;
     SOptions options;
-    for (CArguments rest(arguments); rest.Next();) {
-        if (rest.IsOption()) {
-            TakeOption(options, rest);
-        } else if (options.file) {
-            throw CToolError("one file is previewed at a time, not both '" + *options.file + "' and '" +
-                             rest.Current() + "'");
-        } else {
-            options.file = rest.Current();
-        }
-    }
-    if (!options.file && !options.help) {
-        throw CToolError("there is nothing to preview: name a file, or see --help");
+    CCommandLine commandLine;
+    commandLine.AddTexts("--texts", "TavrinRes.rc", options.texts);
+    commandLine.AddOption("--scale", "0.001",
+                          [&](const std::string& value) { options.scale = ScaleOf(value); });
+    commandLine.AddNumber("--mode", 1, {Limits::min(), Limits::max()}, options.mode);
+    commandLine.AddNumber("--lunits", 4, {LU_SCIENTIFIC, LU_FRACTIONAL}, options.units);
+    commandLine.AddNumber("--luprec", 2, {0, kMaxLinearPrecision}, options.precision);
+    commandLine.AddOption("--set", "1=900",
+                          [&](const std::string& value) { options.values.push_back(Assignment(value)); });
+    commandLine.AddExitFlag("--help", options.help);
+    commandLine.AddExitFlag("-h", options.help);
+    commandLine.AddArguments(options.files);
+    commandLine.Parse(arguments);
+    if (options.files.size() != 1 && !options.help) {
+        throw CToolError("a preview takes one file, not " + std::to_string(options.files.size()) +
+                         ", see --help");
     }
     return options;
 }
@@ -110,7 +104,7 @@ SPreviewInput ReadInput(const std::string& file) {
     if (const std::optional<std::string> item = WithoutEnding(file, kWorkingFileEnding)) {
         base = *item;
         input.workingFile = ReadLines(file);
-        input.templateName = base + Utf8Text(kTemplateFileEnding);
+        input.templateName = base + tavrin::encoding::EncodeUtf8(kTemplateFileEnding);
         if (std::filesystem::is_regular_file(PathOf(input.templateName))) {
             input.templateFile = ReadLines(input.templateName);
         }
@@ -118,9 +112,10 @@ SPreviewInput ReadInput(const std::string& file) {
         base = WithoutEnding(file, kTemplateFileEnding).value_or(file);
         input.templateName = file;
         input.templateFile = ReadLines(file);
-        input.workingFile = {base + Utf8Text(kWorkingFileEnding), input.templateFile->lines};
+        input.workingFile = {base + tavrin::encoding::EncodeUtf8(kWorkingFileEnding),
+                             input.templateFile->lines};
     }
-    const std::string picture = base + Utf8Text(kPictureEnding);
+    const std::string picture = base + tavrin::encoding::EncodeUtf8(kPictureEnding);
     if (std::filesystem::is_regular_file(PathOf(picture))) {
         input.picture = picture;
     }
@@ -152,7 +147,7 @@ std::string MissingTexts(const std::set<unsigned>& missing) {
 
 // The numbers of parameters are digits; what else is typed names none.
 std::wstring Wide(const std::string& text) {
-    return DecodeText(text, kUtf8).value_or(std::wstring(1, L'\xFFFD'));
+    return tavrin::encoding::DecodeUtf8(text).value_or(std::wstring(1, L'\xFFFD'));
 }
 
 }  // namespace
@@ -167,7 +162,7 @@ int RunPreview(const std::vector<std::string>& arguments) {
     for (const std::string& file : options.texts) {
         texts.ReadFile(file);
     }
-    const SPreviewInput input = ReadInput(*options.file);
+    const SPreviewInput input = ReadInput(options.files.front());
     std::set<unsigned> missing;
     SPreviewSettings settings;
     settings.scale = options.scale;

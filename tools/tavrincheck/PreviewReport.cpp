@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <map>
 
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemMessages.h"
 #include "tools/files/UnifiedDiff.h"
-#include "tools/texts/CodePage.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ std::string TableText(const std::vector<Cells>& rows) {
             line += L"  ";
         }
         line.erase(line.find_last_not_of(L' ') + 1);
-        text += Utf8Text(line) + "\n";
+        text += tavrin::encoding::EncodeUtf8(line) + "\n";
     }
     return text;
 }
@@ -88,7 +88,7 @@ std::string RowsText(const CItemPreview& preview) {
 
 // What the user is told, and what he is not told but should know.
 std::string MessagesText(const SPreviewInput& input, const CItemPreview& preview) {
-    const std::string box = Utf8Text(kInvalidTypeMessage);
+    const std::string box = tavrin::encoding::EncodeUtf8(kInvalidTypeMessage);
     std::string text;
     std::map<std::wstring, const ParamRecord*> shown;
     for (const ItemParameter& parameter : preview.Contents().parameters) {
@@ -105,8 +105,8 @@ std::string MessagesText(const SPreviewInput& input, const CItemPreview& preview
         }
     }
     if (!input.templateFile) {
-        text += "after OK a box says \"" + Utf8Text(kFileNotFoundMessage) + "\": there is no " +
-                input.templateName + "\n";
+        text += "after OK a box says \"" + tavrin::encoding::EncodeUtf8(kFileNotFoundMessage) +
+                "\": there is no " + input.templateName + "\n";
     }
     return text;
 }
@@ -115,7 +115,7 @@ std::vector<std::string> DiffLines(const TextLines& lines) {
     std::vector<std::string> result;
     result.reserve(lines.size());
     for (const std::wstring& line : lines) {
-        result.push_back(Utf8Text(Printable(line)) + "\n");
+        result.push_back(tavrin::encoding::EncodeUtf8(Printable(line)) + "\n");
     }
     return result;
 }
@@ -141,7 +141,7 @@ std::string ChangesText(const SPreviewFile& file, const TextLines& after) {
 
 std::string PreviewReport(const SPreviewInput& input, const CItemPreview& preview) {
     const ItemContents& contents = preview.Contents();
-    const auto shown = [](const std::wstring& text) { return Utf8Text(Printable(text)); };
+    const auto shown = [](const std::wstring& text) { return tavrin::encoding::EncodeUtf8(Printable(text)); };
     std::string text = "Title:    " + shown(contents.title.value_or(L"(the item's base name)")) + "\n";
     text += "Header:   " + shown(contents.title ? contents.header : L"  Parametri") + "\n";
     text += "Picture:  " + input.picture.value_or("(none)") + "\n\n";

@@ -1,4 +1,4 @@
-// Single-byte and UTF-8 text of a script as UTF-16, and back.
+// Text of a script in its code page as UTF-16, and back.
 #pragma once
 
 #include <optional>
@@ -16,6 +16,3 @@ std::optional<std::wstring> DecodeText(std::string_view bytes, unsigned codePage
 // The bytes of one character, given as a UTF-16 unit or as a whole character beyond 0xFFFF; nothing when the
 // code page does not have it. Surrogates alone are no characters.
 std::optional<std::string> EncodeCharacter(char32_t character, unsigned codePage);
-
-// A text of UTF-16 units as UTF-8, for messages; an unpaired surrogate becomes U+FFFD.
-std::string Utf8Text(std::wstring_view text);

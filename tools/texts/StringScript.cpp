@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "encoding/Encoding.h"
 #include "tools/texts/CodePage.h"
 #include "tools/texts/LanguageName.h"
 #include "tools/texts/PlaceError.h"
@@ -471,7 +472,7 @@ std::string Utf8Script(std::string_view units) {
         const auto high = static_cast<unsigned char>(units[i + 1]);
         text += static_cast<wchar_t>(low | high << 8);
     }
-    return std::string(kUtf8Mark) + Utf8Text(text);
+    return std::string(kUtf8Mark) + tavrin::encoding::EncodeUtf8(text);
 }
 
 }  // namespace

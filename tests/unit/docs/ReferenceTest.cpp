@@ -5,7 +5,7 @@
 #include <regex>
 #include <string>
 
-#include "devhost/cmdline/Options.h"
+#include "devhost/options/Options.h"
 #include "imagedlg/ChoiceLayout.h"
 #include "tests/unit/docs/Pages.h"
 

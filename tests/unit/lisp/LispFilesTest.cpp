@@ -3,7 +3,6 @@
 #include <fstream>
 #include <iterator>
 
-#include "lisp/TextEncoding.h"
 #include "tests/unit/lisp/LispFixture.h"
 
 namespace {
@@ -173,35 +172,6 @@ TEST_F(LispFiles, ASourceInUtf16IsNamed) {
         Write(L"wide.lsp", start + std::string("5\0", 2));
         EXPECT_EQ(Mistake(L"(load \"wide\")"), L"line 1: the file 'wide.lsp' is UTF-16: save it as UTF-8");
     }
-}
-
-TEST(TextEncoding, OnlyValidUtf8IsTakenForIt) {
-    EXPECT_EQ(DecodeSource("a\xC3\xB2\xE9\x96\x80"), L"aò門");
-    const std::string wrong[] = {"\x80",
-                                 "\xC3",
-                                 "\xC0\xAF",
-                                 "\xE0\x80\x80",
-                                 "\xED\xA0\x80",
-                                 "\xF4\x90\x80\x80",
-                                 "\xF8\x88\x80\x80\x80",
-                                 "\xC3(",
-                                 "\xE2\x82"};
-    for (const std::string& bytes : wrong) {
-        EXPECT_EQ(DecodeSource(bytes), FromWindows1252(bytes));
-    }
-    EXPECT_EQ(DecodeSource(""), L"");
-    EXPECT_EQ(DecodeSource("\xF0\x9F\x9A\xAA"), L"\U0001F6AA");
-}
-
-TEST(TextEncoding, EveryByteHasItsCharacter) {
-    for (int i = 0; i < 256; ++i) {
-        const char byte = char(i);
-        const std::wstring text = FromWindows1252({&byte, 1});
-        ASSERT_EQ(text.size(), 1u);
-        EXPECT_EQ(ToWindows1252(text[0]), byte);
-    }
-    EXPECT_EQ(ToWindows1252(L'\u0416'), std::nullopt);
-    EXPECT_EQ(ToWindows1252(0x80), std::nullopt);
 }
 
 }  // namespace

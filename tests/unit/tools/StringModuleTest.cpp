@@ -3,16 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include "encoding/Encoding.h"
 #include "tests/unit/tools/ModuleImage.h"
 #include "tools/files/Files.h"
-#include "tools/texts/CodePage.h"
 
 namespace {
 
 std::string Texts(const std::string& bytes) {
     std::string texts;
     for (const SModuleText& text : ReadStringModule("a.dll", bytes)) {
-        texts += std::to_string(text.number) + "=" + Utf8Text(text.text) + " (" + text.language + ")|";
+        texts += std::to_string(text.number) + "=" + tavrin::encoding::EncodeUtf8(text.text) + " (" +
+                 text.language + ")|";
     }
     return texts;
 }

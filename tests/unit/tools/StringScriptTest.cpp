@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "encoding/Encoding.h"
 #include "tools/files/Files.h"
 #include "tools/texts/CodePage.h"
 
@@ -12,7 +13,7 @@ namespace {
 std::string Texts(const std::string& script) {
     std::string texts;
     for (const SScriptText& text : ReadStringScript("a.rc", script).texts) {
-        texts += std::to_string(text.number) + "=" + Utf8Text(text.text) + "|";
+        texts += std::to_string(text.number) + "=" + tavrin::encoding::EncodeUtf8(text.text) + "|";
     }
     return texts;
 }
@@ -138,7 +139,8 @@ TEST(StringScript, IllFormedUtf8IsRefused) {
         EXPECT_FALSE(DecodeText(bytes, kUtf8));
     }
     EXPECT_EQ(DecodeText("\xF0\x9F\x9A\xAA", kUtf8), std::optional(std::wstring{0xD83D, 0xDEAA}));
-    EXPECT_EQ(Utf8Text(std::wstring{0xD83D, 0xDEAA, 0xD83D}), "\xF0\x9F\x9A\xAA\xEF\xBF\xBD");
+    EXPECT_EQ(tavrin::encoding::EncodeUtf8(std::wstring{0xD83D, 0xDEAA, 0xD83D}),
+              "\xF0\x9F\x9A\xAA\xEF\xBF\xBD");
 }
 
 // Random bytes of what means something here: the sanitizers watch, and every error is one of ours.

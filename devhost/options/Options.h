@@ -22,17 +22,16 @@ struct SOptions {
     std::vector<std::wstring> itemFolders;  // empty: samples beside the executable, if there is such a folder
     std::vector<STask> tasks;               // in the order given
     std::wstring drawingFile;               // empty: the drawing is not kept
-    short lunits = LU_DECIMAL;
-    short luprec = 4;
+    int lunits = LU_DECIMAL;
+    int luprec = 4;
     bool checkHeap = false;
     bool stay = false;
     bool version = false;
     bool help = false;
 };
 
-// Reads the arguments behind the program's name. Throws CUserError for an option or an argument that is
-// not known, for one without its value and for a number out of range. --help and --version win over what
-// follows them.
+// Parses the arguments after the program's name. Throws CUserError for unknown options and arguments, and for
+// missing and invalid values. --help and --version win over everything else.
 SOptions ParseOptions(std::span<const std::wstring> arguments);
 
 // What --help prints, in lines.

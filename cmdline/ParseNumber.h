@@ -3,14 +3,18 @@
 
 #include <charconv>
 #include <optional>
-#include <string>
+#include <string_view>
 #include <system_error>
 
-// The number that a text is as a whole; nothing when it is none or anything stands around it.
+namespace tavrin::cmdline {
+
+// Nothing unless the whole text is a number of the type.
 template <class Number>
-std::optional<Number> WholeNumber(const std::string& text) {
+std::optional<Number> ParseNumber(std::string_view text) {
     Number number{};
     const char* const end = text.data() + text.size();
     const auto [last, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && last == end ? std::optional(number) : std::nullopt;
 }
+
+}  // namespace tavrin::cmdline
