@@ -1,9 +1,11 @@
-// What the user did wrong or must know, thrown to where it can be shown: one line without a full stop that
-// names the thing and, where it is not plain, says what to do.
+// An error for the user: one line without a full stop that names the cause and, where it is not obvious, the
+// remedy.
 #pragma once
 
 #include <exception>
 #include <string>
+
+namespace devhost {
 
 class CUserError : public std::exception {
 public:
@@ -14,3 +16,5 @@ public:
 private:
     std::wstring m_text;
 };
+
+}  // namespace devhost

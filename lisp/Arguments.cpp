@@ -3,6 +3,8 @@
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 std::wstring CountText(int least, int most) {
@@ -60,7 +62,7 @@ std::vector<CValue> CArguments::List(std::size_t index) const {
     return elements;
 }
 
-SLispPoint CArguments::Point(std::size_t index) const {
+LispPoint CArguments::Point(std::size_t index) const {
     const auto point = ToPoint(m_values[index]);
     if (!point) {
         Refuse(index, L"a point, a list of two or three numbers,");
@@ -96,7 +98,7 @@ double ToReal(const CValue& number) {
     return number.Type() == VT_INTEGER ? number.AsInteger() : number.AsReal();
 }
 
-std::optional<SLispPoint> ToPoint(const CValue& list) {
+std::optional<LispPoint> ToPoint(const CValue& list) {
     double coordinates[3] = {};
     std::size_t count = 0;
     const CValue* rest = &list;
@@ -109,11 +111,11 @@ std::optional<SLispPoint> ToPoint(const CValue& list) {
     if (!rest->IsNil() || count < 2) {
         return std::nullopt;
     }
-    return SLispPoint{coordinates[0], coordinates[1], coordinates[2]};
+    return LispPoint{coordinates[0], coordinates[1], coordinates[2]};
 }
 
-CLispFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
-                            std::function<CLispResult(const CArguments&)> run) {
+NativeFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
+                             std::function<LispResult(const CArguments&)> run) {
     return [&evaluator, name = std::move(name), least, most,
             run = std::move(run)](std::span<const CValue> values) {
         const bool fits =
@@ -125,3 +127,5 @@ CLispFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least,
         return run(CArguments(evaluator, name, values));
     };
 }
+
+}  // namespace tavrin::lisp

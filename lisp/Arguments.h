@@ -1,5 +1,5 @@
-// The evaluated arguments of a call of a built-in function, taken by type. Indices count from 0, in messages
-// from 1.
+// The evaluated arguments of a call of a built-in function, accessed by type. Indices count from 0, in
+// messages from 1.
 #pragma once
 
 #include <cstdint>
@@ -11,6 +11,8 @@
 #include "lisp/Function.h"
 #include "lisp/LispHost.h"
 #include "lisp/Value.h"
+
+namespace tavrin::lisp {
 
 class CArguments {
 public:
@@ -24,19 +26,19 @@ public:
     std::span<const CValue> Values() const { return m_values; }
     std::wstring Function() const { return std::wstring(m_function); }
 
-    // Each of these throws CLispError, which names function and argument, for a value of another type.
+    // Each of these throws CLispError, with the names of function and argument, for a value of another type.
     std::int32_t Integer(std::size_t index) const;
     double Number(std::size_t index) const;  // a whole number or a real
     const std::wstring& Text(std::size_t index) const;
     const std::wstring& Symbol(std::size_t index) const;
     std::vector<CValue> List(std::size_t index) const;  // the elements; nil has none
-    SLispPoint Point(std::size_t index) const;          // a list of two or three numbers
-    // Uses an open file. What the file says against it is an error of the function.
+    LispPoint Point(std::size_t index) const;           // a list of two or three numbers
+    // Uses an open file. Errors of the file become errors of the function.
     void WithFile(std::size_t index, const std::function<void(CLispFile&)>& use) const;
 
-    // The argument is not what the function needs: "FUNCTION needs WHAT as argument N, not VALUE".
+    // Throws CLispError: "FUNCTION needs WHAT as argument N, not VALUE".
     [[noreturn]] void Refuse(std::size_t index, const wchar_t* needed) const;
-    // Something else is wrong: "FUNCTION: WHAT".
+    // Throws CLispError: "FUNCTION: WHAT".
     [[noreturn]] void Fail(const std::wstring& what) const;
 
 private:
@@ -46,14 +48,16 @@ private:
 };
 
 bool IsNumber(const CValue& value);
-// Of a whole number or a real.
+// The value of a whole number or a real.
 double ToReal(const CValue& number);
-// The list of two or three numbers; nothing when it is no such list.
-std::optional<SLispPoint> ToPoint(const CValue& list);
+// Nothing unless the value is a list of two or three numbers.
+std::optional<LispPoint> ToPoint(const CValue& list);
 
 constexpr int kAnyCount = -1;
 
-// For CEvaluator::Define: a function that gets no fewer than `least` and no more than `most` arguments
-// (kAnyCount: no limit); another count is an error that names it.
-CLispFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
-                            std::function<CLispResult(const CArguments&)> run);
+// For CEvaluator::Define: a function with `least` to `most` arguments (kAnyCount: no limit); any other count
+// is an error.
+NativeFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least, int most,
+                             std::function<LispResult(const CArguments&)> run);
+
+}  // namespace tavrin::lisp

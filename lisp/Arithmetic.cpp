@@ -1,6 +1,5 @@
-// Sums, products and their kind. Whole numbers stay whole as long as only whole numbers take part; a result
-// that does not fit 32 bits is an error, since a length or count that wrapped around would go unnoticed into
-// a drawing.
+// Arithmetic. Whole numbers give whole numbers; a result that does not fit 32 bits is an error, since nobody
+// would notice a length or count that wrapped around.
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -8,6 +7,8 @@
 
 #include "lisp/Builtins.h"
 #include "lisp/LispError.h"
+
+namespace tavrin::lisp {
 
 namespace {
 
@@ -31,12 +32,12 @@ CValue Whole(const CArguments& arguments, std::int64_t result) {
 
 CValue Real(const CArguments& arguments, double result) {
     if (!std::isfinite(result)) {
-        arguments.Fail(L"the result is no number that a real can hold");
+        arguments.Fail(L"the result is not a finite number");
     }
     return CValue::Real(result);
 }
 
-// Combines from left to right, in whole numbers or in reals, as all arguments are.
+// Combines from left to right: in whole numbers if all arguments are whole, otherwise in reals.
 template <typename TWhole, typename TReal>
 CValue Combine(const CArguments& arguments, TWhole combineWhole, TReal combineReal) {
     if (AllWhole(arguments)) {
@@ -54,7 +55,7 @@ CValue Combine(const CArguments& arguments, TWhole combineWhole, TReal combineRe
     return Real(arguments, result);
 }
 
-CLispResult Add(const CArguments& arguments) {
+LispResult Add(const CArguments& arguments) {
     if (arguments.Count() == 0) {
         return CValue::Integer(0);
     }
@@ -62,8 +63,8 @@ CLispResult Add(const CArguments& arguments) {
     return Combine(arguments, add, add);
 }
 
-// One argument alone is negated.
-CLispResult Subtract(const CArguments& arguments) {
+// A single argument is negated.
+LispResult Subtract(const CArguments& arguments) {
     const auto subtract = [](auto a, auto b) { return a - b; };
     if (arguments.Count() != 1) {
         return Combine(arguments, subtract, subtract);
@@ -74,7 +75,7 @@ CLispResult Subtract(const CArguments& arguments) {
     return CValue::Real(-arguments.Number(0));
 }
 
-CLispResult Multiply(const CArguments& arguments) {
+LispResult Multiply(const CArguments& arguments) {
     if (arguments.Count() == 0) {
         return CValue::Integer(1);
     }
@@ -90,52 +91,52 @@ void RefuseZero(const CArguments& arguments) {
     }
 }
 
-// Whole numbers give a whole number, cut towards zero: (/ 7 2) is 3.
-CLispResult Divide(const CArguments& arguments) {
+// Whole numbers give a whole number, truncated towards zero: (/ 7 2) is 3.
+LispResult Divide(const CArguments& arguments) {
     RefuseZero(arguments);
     const auto divide = [](auto a, auto b) { return a / b; };
     return Combine(arguments, divide, divide);
 }
 
-CLispResult Remainder(const CArguments& arguments) {
+LispResult Remainder(const CArguments& arguments) {
     RefuseZero(arguments);
     return Combine(
         arguments, [](std::int64_t a, std::int64_t b) { return a % b; },
         [](double a, double b) { return std::fmod(a, b); });
 }
 
-CLispResult Increment(const CArguments& arguments) {
+LispResult Increment(const CArguments& arguments) {
     if (AllWhole(arguments)) {
         return Whole(arguments, std::int64_t(arguments.Integer(0)) + 1);
     }
     return Real(arguments, arguments.Number(0) + 1);
 }
 
-CLispResult Decrement(const CArguments& arguments) {
+LispResult Decrement(const CArguments& arguments) {
     if (AllWhole(arguments)) {
         return Whole(arguments, std::int64_t(arguments.Integer(0)) - 1);
     }
     return Real(arguments, arguments.Number(0) - 1);
 }
 
-CLispResult Absolute(const CArguments& arguments) {
+LispResult Absolute(const CArguments& arguments) {
     if (AllWhole(arguments)) {
         return Whole(arguments, std::abs(std::int64_t(arguments.Integer(0))));
     }
     return CValue::Real(std::fabs(arguments.Number(0)));
 }
 
-CLispResult Minimum(const CArguments& arguments) {
+LispResult Minimum(const CArguments& arguments) {
     const auto least = [](auto a, auto b) { return b < a ? b : a; };
     return Combine(arguments, least, least);
 }
 
-CLispResult Maximum(const CArguments& arguments) {
+LispResult Maximum(const CArguments& arguments) {
     const auto most = [](auto a, auto b) { return a < b ? b : a; };
     return Combine(arguments, most, most);
 }
 
-CLispResult GreatestDivisor(const CArguments& arguments) {
+LispResult GreatestDivisor(const CArguments& arguments) {
     return Whole(arguments, std::gcd(std::int64_t(arguments.Integer(0)), std::int64_t(arguments.Integer(1))));
 }
 
@@ -148,19 +149,19 @@ CValue CombineBits(const CArguments& arguments, std::int32_t start, TCombine com
     return CValue::Integer(start);
 }
 
-CLispResult BitsAnd(const CArguments& arguments) {
+LispResult BitsAnd(const CArguments& arguments) {
     return CombineBits(arguments, -1, [](std::int32_t a, std::int32_t b) { return a & b; });
 }
 
-CLispResult BitsOr(const CArguments& arguments) {
+LispResult BitsOr(const CArguments& arguments) {
     return CombineBits(arguments, 0, [](std::int32_t a, std::int32_t b) { return a | b; });
 }
 
-CLispResult BitsNot(const CArguments& arguments) {
+LispResult BitsNot(const CArguments& arguments) {
     return CValue::Integer(~arguments.Integer(0));
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"+", 0, kAnyCount, Add},         {L"-", 1, kAnyCount, Subtract},  {L"*", 0, kAnyCount, Multiply},
     {L"/", 1, kAnyCount, Divide},      {L"1+", 1, 1, Increment},        {L"1-", 1, 1, Decrement},
     {L"REM", 2, kAnyCount, Remainder}, {L"ABS", 1, 1, Absolute},        {L"MIN", 1, kAnyCount, Minimum},
@@ -170,6 +171,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> ArithmeticFunctions() {
+std::span<const Builtin> ArithmeticFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -1,4 +1,4 @@
-// The functions and special forms that every evaluator knows, in tables by role.
+// The built-in functions and special forms, in tables by topic.
 #pragma once
 
 #include <functional>
@@ -7,33 +7,37 @@
 #include "lisp/Arguments.h"
 #include "lisp/Function.h"
 
+namespace tavrin::lisp {
+
 // A function of a table, with the counts of arguments that TakeArguments allows.
-struct SBuiltin {
+struct Builtin {
     const wchar_t* name;  // in capitals
     int least;
     int most;
-    CLispResult (*run)(const CArguments& arguments);
+    LispResult (*run)(const CArguments& arguments);
 };
 
-struct SSpecialForm {
+struct SpecialForm {
     const wchar_t* name;
-    CSpecialForm run;
+    SpecialFormCode run;
 };
 
-std::span<const SSpecialForm> ControlForms();
-std::span<const SBuiltin> ControlFunctions();
-std::span<const SBuiltin> ArithmeticFunctions();
-std::span<const SBuiltin> MathFunctions();
-std::span<const SBuiltin> PredicateFunctions();
-std::span<const SBuiltin> ListFunctions();
-std::span<const SBuiltin> TextFunctions();
-std::span<const SBuiltin> ConversionFunctions();
-std::span<const SBuiltin> GeometryFunctions();
-std::span<const SBuiltin> OutputFunctions();
-std::span<const SBuiltin> FileFunctions();
-std::span<const SBuiltin> HostFunctions();
+std::span<const SpecialForm> ControlForms();
+std::span<const Builtin> ControlFunctions();
+std::span<const Builtin> ArithmeticFunctions();
+std::span<const Builtin> MathFunctions();
+std::span<const Builtin> PredicateFunctions();
+std::span<const Builtin> ListFunctions();
+std::span<const Builtin> TextFunctions();
+std::span<const Builtin> ConversionFunctions();
+std::span<const Builtin> GeometryFunctions();
+std::span<const Builtin> OutputFunctions();
+std::span<const Builtin> FileFunctions();
+std::span<const Builtin> HostFunctions();
 
-// Gives `define` the name and code of each.
-using CDefineBuiltin =
-    std::function<void(const wchar_t* name, std::variant<CLispFunction, CSpecialForm, SDefinition> code)>;
-void DefineBuiltins(CEvaluator& evaluator, const CDefineBuiltin& define);
+// Calls `define` with the name and code of each.
+using DefineBuiltin =
+    std::function<void(const wchar_t* name, std::variant<NativeFunction, SpecialFormCode, Definition> code)>;
+void DefineBuiltins(CEvaluator& evaluator, const DefineBuiltin& define);
+
+}  // namespace tavrin::lisp

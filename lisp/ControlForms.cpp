@@ -1,8 +1,9 @@
-// Assignment, definition, branches and loops: what decides itself what it evaluates; and the functions that
-// evaluate and call.
+// The special forms for assignment, definition, branches and loops, and the functions that evaluate and call.
 #include "lisp/Builtins.h"
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
+
+namespace tavrin::lisp {
 
 namespace {
 
@@ -21,30 +22,30 @@ void Require(bool holds, const wchar_t* usage) {
     }
 }
 
-CLispResult Quote(CEvaluator&, const CValue& arguments) {
+LispResult Quote(CEvaluator&, const CValue& arguments) {
     if (arguments.Type() != VT_PAIR || !arguments.Cdr().IsNil()) {
         throw CLispError(L"QUOTE takes one argument");
     }
     return arguments.Car();
 }
 
-// (function F) marks a quoted function; it is one at once when it is a lambda.
-CLispResult FunctionForm(CEvaluator& evaluator, const CValue& arguments) {
-    CLispResult quoted = Quote(evaluator, arguments);
+// (function F) quotes a function; a lambda becomes a function at once.
+LispResult FunctionForm(CEvaluator& evaluator, const CValue& arguments) {
+    LispResult quoted = Quote(evaluator, arguments);
     if (quoted->Type() == VT_PAIR && quoted->Car().IsSymbol(L"LAMBDA")) {
         return evaluator.MakeFunction(L"LAMBDA", quoted->Cdr());
     }
     return quoted;
 }
 
-CLispResult Setq(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Setq(CEvaluator& evaluator, const CValue& arguments) {
     constexpr wchar_t kUsage[] = L"(setq NAME VALUE ...)";
     CValue value;
     for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr().Cdr()) {
         Require(rest->Type() == VT_PAIR && rest->Cdr().Type() == VT_PAIR, kUsage);
         const CValue& name = rest->Car();
         if (name.Type() != VT_SYMBOL) {
-            throw CLispError(L"SETQ cannot assign to " + Excerpt(name) + L": it is no symbol");
+            throw CLispError(L"SETQ cannot assign to " + Excerpt(name) + L": it is not a symbol");
         }
         value = evaluator.EvaluateValue(rest->Cdr().Car(), L"SETQ");
         evaluator.Assign(name.AsSymbol(), value);
@@ -52,7 +53,7 @@ CLispResult Setq(CEvaluator& evaluator, const CValue& arguments) {
     return value;
 }
 
-CLispResult Defun(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Defun(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 2) && arguments.Car().Type() == VT_SYMBOL,
             L"(defun NAME (PARAMETERS / LOCALS) BODY ...)");
     const CValue& name = arguments.Car();
@@ -60,12 +61,12 @@ CLispResult Defun(CEvaluator& evaluator, const CValue& arguments) {
     return name;
 }
 
-CLispResult Lambda(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Lambda(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 1), L"(lambda (PARAMETERS / LOCALS) BODY ...)");
     return evaluator.MakeFunction(L"LAMBDA", arguments);
 }
 
-CLispResult If(CEvaluator& evaluator, const CValue& arguments) {
+LispResult If(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 2) && !HasElements(arguments, 4), L"(if CONDITION THEN [ELSE])");
     const CValue& branches = arguments.Cdr();
     if (!evaluator.EvaluateValue(arguments.Car(), L"IF").IsNil()) {
@@ -74,7 +75,7 @@ CLispResult If(CEvaluator& evaluator, const CValue& arguments) {
     return branches.Cdr().IsNil() ? CValue() : evaluator.Evaluate(branches.Cdr().Car());
 }
 
-CLispResult Cond(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Cond(CEvaluator& evaluator, const CValue& arguments) {
     constexpr wchar_t kUsage[] = L"(cond (CONDITION BODY ...) ...)";
     Require(HasElements(arguments, 0), kUsage);
     for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr()) {
@@ -88,7 +89,7 @@ CLispResult Cond(CEvaluator& evaluator, const CValue& arguments) {
     return CValue();
 }
 
-CLispResult And(CEvaluator& evaluator, const CValue& arguments) {
+LispResult And(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 0), L"(and CONDITION ...)");
     for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr()) {
         if (evaluator.EvaluateValue(rest->Car(), L"AND").IsNil()) {
@@ -98,7 +99,7 @@ CLispResult And(CEvaluator& evaluator, const CValue& arguments) {
     return CValue::True();
 }
 
-CLispResult Or(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Or(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 0), L"(or CONDITION ...)");
     for (const CValue* rest = &arguments; !rest->IsNil(); rest = &rest->Cdr()) {
         if (!evaluator.EvaluateValue(rest->Car(), L"OR").IsNil()) {
@@ -108,22 +109,22 @@ CLispResult Or(CEvaluator& evaluator, const CValue& arguments) {
     return CValue();
 }
 
-CLispResult While(CEvaluator& evaluator, const CValue& arguments) {
+LispResult While(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 1), L"(while CONDITION BODY ...)");
-    CLispResult result = CValue();
+    LispResult result = CValue();
     while (!evaluator.EvaluateValue(arguments.Car(), L"WHILE").IsNil()) {
         result = evaluator.EvaluateBody(arguments.Cdr());
     }
     return result;
 }
 
-CLispResult Repeat(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Repeat(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 1), L"(repeat COUNT BODY ...)");
     const CValue count = evaluator.EvaluateValue(arguments.Car(), L"REPEAT");
     if (count.Type() != VT_INTEGER) {
         throw CLispError(L"REPEAT needs a whole number as its count, not " + Excerpt(count));
     }
-    CLispResult result = CValue();
+    LispResult result = CValue();
     for (std::int32_t i = 0; i < count.AsInteger(); ++i) {
         evaluator.Step();
         result = evaluator.EvaluateBody(arguments.Cdr());
@@ -131,8 +132,8 @@ CLispResult Repeat(CEvaluator& evaluator, const CValue& arguments) {
     return result;
 }
 
-// The variable is the loop's own: what it was before, it is again afterwards.
-CLispResult Foreach(CEvaluator& evaluator, const CValue& arguments) {
+// The variable is local to the loop: afterwards it has its previous value again.
+LispResult Foreach(CEvaluator& evaluator, const CValue& arguments) {
     Require(HasElements(arguments, 2) && arguments.Car().Type() == VT_SYMBOL,
             L"(foreach NAME LIST BODY ...)");
     const std::wstring& name = arguments.Car().AsSymbol();
@@ -141,15 +142,15 @@ CLispResult Foreach(CEvaluator& evaluator, const CValue& arguments) {
         throw CLispError(L"FOREACH needs a list to go through, not " + Excerpt(list));
     }
 
-    struct SRestore {
-        ~SRestore() { evaluator.Assign(name, before); }
+    struct Restore {
+        ~Restore() { evaluator.Assign(name, before); }
         CEvaluator& evaluator;
         const std::wstring& name;
         CValue before;
     };
     evaluator.Assign(name, evaluator.Variable(name));  // throws for what cannot be a variable
-    const SRestore restore{evaluator, name, evaluator.Variable(name)};
-    CLispResult result = CValue();
+    const Restore restore{evaluator, name, evaluator.Variable(name)};
+    LispResult result = CValue();
     for (const CValue* rest = &list; !rest->IsNil(); rest = &rest->Cdr()) {
         evaluator.Step();
         evaluator.Assign(name, rest->Car());
@@ -158,25 +159,25 @@ CLispResult Foreach(CEvaluator& evaluator, const CValue& arguments) {
     return result;
 }
 
-CLispResult Progn(CEvaluator& evaluator, const CValue& arguments) {
+LispResult Progn(CEvaluator& evaluator, const CValue& arguments) {
     return evaluator.EvaluateBody(arguments);
 }
 
-CLispResult Set(const CArguments& arguments) {
+LispResult Set(const CArguments& arguments) {
     arguments.Evaluator().Assign(arguments.Symbol(0), arguments[1]);
     return arguments[1];
 }
 
-CLispResult Eval(const CArguments& arguments) {
+LispResult Eval(const CArguments& arguments) {
     return arguments.Evaluator().Evaluate(arguments[0]);
 }
 
-CLispResult Apply(const CArguments& arguments) {
+LispResult Apply(const CArguments& arguments) {
     return arguments.Evaluator().Apply(arguments[0], arguments.List(1));
 }
 
-// Goes through the lists side by side, up to the end of the shortest.
-CLispResult Mapcar(const CArguments& arguments) {
+// Goes through the lists in parallel, up to the end of the shortest.
+LispResult Mapcar(const CArguments& arguments) {
     std::vector<std::vector<CValue>> lists;
     std::size_t length = SIZE_MAX;
     for (std::size_t i = 1; i < arguments.Count(); ++i) {
@@ -196,16 +197,16 @@ CLispResult Mapcar(const CArguments& arguments) {
     return CValue::List(results);
 }
 
-// A larger status would lose its upper part on the way to the shells of other systems: 256 would be success.
-CLispResult Exit(const CArguments& arguments) {
+// Other systems keep only the lowest byte of a status: 256 would be success.
+LispResult Exit(const CArguments& arguments) {
     const std::int32_t status = arguments.Has(0) ? arguments.Integer(0) : 0;
     if (status < 0 || status > 255) {
         arguments.Refuse(0, L"a status from 0 to 255");
     }
-    throw SLispExit{status};
+    throw LispExit{status};
 }
 
-constexpr SSpecialForm kForms[] = {
+constexpr SpecialForm kForms[] = {
     {L"QUOTE", Quote},   {L"FUNCTION", FunctionForm},
     {L"SETQ", Setq},     {L"DEFUN", Defun},
     {L"LAMBDA", Lambda}, {L"IF", If},
@@ -215,17 +216,19 @@ constexpr SSpecialForm kForms[] = {
     {L"PROGN", Progn},
 };
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"SET", 2, 2, Set},   {L"EVAL", 1, 1, Eval}, {L"APPLY", 2, 2, Apply}, {L"MAPCAR", 2, kAnyCount, Mapcar},
     {L"EXIT", 0, 1, Exit}, {L"QUIT", 0, 1, Exit},
 };
 
 }  // namespace
 
-std::span<const SSpecialForm> ControlForms() {
+std::span<const SpecialForm> ControlForms() {
     return kForms;
 }
 
-std::span<const SBuiltin> ControlFunctions() {
+std::span<const Builtin> ControlFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -1,4 +1,5 @@
-// Between texts and values: numbers as digits, lengths and angles in the units of the drawing, LISP notation.
+// Conversions between texts and values: numbers, lengths and angles in the units of the drawing, LISP
+// notation.
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -10,9 +11,11 @@
 #include "lisp/Reader.h"
 #include "units/LinearUnits.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// The text's characters from the first that is no blank on, as far as they can belong to a number.
+// The text without leading blanks, up to the first character that cannot belong to a number.
 std::string NumberStart(const std::wstring& text) {
     std::string start;
     for (const wchar_t c : text) {
@@ -31,8 +34,8 @@ std::string NumberStart(const std::wstring& text) {
     return start;
 }
 
-// What the text begins with; 0 when that is no number.
-CLispResult TextToInteger(const CArguments& arguments) {
+// The leading number of the text; 0 without one.
+LispResult TextToInteger(const CArguments& arguments) {
     const std::string digits = NumberStart(arguments.Text(0));
     std::int32_t number = 0;
     if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec ==
@@ -42,22 +45,22 @@ CLispResult TextToInteger(const CArguments& arguments) {
     return CValue::Integer(number);
 }
 
-CLispResult TextToReal(const CArguments& arguments) {
+LispResult TextToReal(const CArguments& arguments) {
     const std::string digits = NumberStart(arguments.Text(0));
     double number = 0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (read.ec == std::errc::result_out_of_range) {
         arguments.Fail(L"the number in " + Excerpt(arguments[0]) + L" is too large or too small for a real");
     }
-    // Names such as "inf" are numbers to from_chars, but not to LISP.
+    // from_chars accepts names such as "inf", LISP does not.
     return CValue::Real(std::isfinite(number) ? number : 0);
 }
 
-CLispResult IntegerToText(const CArguments& arguments) {
+LispResult IntegerToText(const CArguments& arguments) {
     return CValue::String(std::to_wstring(arguments.Integer(0)));
 }
 
-// An optional whole number from 0 on, otherwise the system variable's value.
+// An optional argument, a whole number from 0 on, with the system variable's value as its default.
 int Setting(const CArguments& arguments, std::size_t index, const wchar_t* variable, int otherwise) {
     if (arguments.Has(index)) {
         if (arguments.Integer(index) < 0) {
@@ -70,25 +73,25 @@ int Setting(const CArguments& arguments, std::size_t index, const wchar_t* varia
 }
 
 // (rtos LENGTH [UNITS [PRECISION]]), by default as LUNITS and LUPREC say.
-CLispResult LengthToText(const CArguments& arguments) {
+LispResult LengthToText(const CArguments& arguments) {
     const double length = arguments.Number(0);
-    const int units = Setting(arguments, 1, L"LUNITS", LU_DECIMAL);
-    if (units < LU_SCIENTIFIC || units > LU_FRACTIONAL) {
+    const int units = Setting(arguments, 1, L"LUNITS", units::LU_DECIMAL);
+    if (units < units::LU_SCIENTIFIC || units > units::LU_FRACTIONAL) {
         arguments.Refuse(1, L"units from 1 to 5");
     }
-    const auto text = FormatLinear(length, units, Setting(arguments, 2, L"LUPREC", 4));
+    const auto text = units::FormatLinear(length, units, Setting(arguments, 2, L"LUPREC", 4));
     if (!text) {
         arguments.Refuse(0, L"a finite number");
     }
     return CValue::String(*text);
 }
 
-// A text is read in every format, whatever units are given. nil when it is no length.
-CLispResult TextToLength(const CArguments& arguments) {
+// Reads every format, whatever units are given. nil when the text is not a length.
+LispResult TextToLength(const CArguments& arguments) {
     if (arguments.Has(1)) {
         arguments.Integer(1);
     }
-    const auto length = ParseLinear(arguments.Text(0));
+    const auto length = units::ParseLinear(arguments.Text(0));
     return length ? CValue::Real(*length) : CValue();
 }
 
@@ -99,12 +102,12 @@ std::wstring DegreesMinutesSeconds(double degrees, int precision) {
     const double minutes = std::floor(seconds / 60);
     const auto whole = [](double number) { return std::to_wstring(std::int64_t(number)); };
     return whole(std::fmod(std::floor(minutes / 60), 360)) + L'd' + whole(std::fmod(minutes, 60)) + L'\'' +
-           FormatLinear(seconds - minutes * 60, LU_DECIMAL, precision).value() + L'"';
+           units::FormatLinear(seconds - minutes * 60, units::LU_DECIMAL, precision).value() + L'"';
 }
 
 // (angtos ANGLE [UNITS [PRECISION]]): an angle in radians as degrees (0), degrees, minutes and seconds (1),
 // grads (2) or radians (3), in the full circle from 0 on.
-CLispResult AngleToText(const CArguments& arguments) {
+LispResult AngleToText(const CArguments& arguments) {
     constexpr double kCircle = 2 * std::numbers::pi;
     double turn = std::fmod(arguments.Number(0), kCircle) / kCircle;
     if (!std::isfinite(turn)) {
@@ -114,23 +117,25 @@ CLispResult AngleToText(const CArguments& arguments) {
         turn += 1;
     }
     const int units = Setting(arguments, 1, L"AUNITS", 0);
-    const int precision = std::min(Setting(arguments, 2, L"AUPREC", 0), kMaxLinearPrecision);
+    const int precision = std::min(Setting(arguments, 2, L"AUPREC", 0), units::kMaxLinearPrecision);
     switch (units) {
         case 0:
-            return CValue::String(FormatLinear(turn * 360, LU_DECIMAL, precision).value());
+            return CValue::String(units::FormatLinear(turn * 360, units::LU_DECIMAL, precision).value());
         case 1:
             return CValue::String(DegreesMinutesSeconds(turn * 360, precision));
         case 2:
-            return CValue::String(FormatLinear(turn * 400, LU_DECIMAL, precision).value() + L'g');
+            return CValue::String(units::FormatLinear(turn * 400, units::LU_DECIMAL, precision).value() +
+                                  L'g');
         case 3:
-            return CValue::String(FormatLinear(turn * kCircle, LU_DECIMAL, precision).value() + L'r');
+            return CValue::String(units::FormatLinear(turn * kCircle, units::LU_DECIMAL, precision).value() +
+                                  L'r');
         default:
             arguments.Refuse(1, L"units from 0 to 3");
     }
 }
 
 // The first expression of the text; nil when there is none.
-CLispResult Read(const CArguments& arguments) {
+LispResult Read(const CArguments& arguments) {
     try {
         CReader reader(arguments.Text(0));
         return reader.Read().value_or(CValue());
@@ -139,7 +144,7 @@ CLispResult Read(const CArguments& arguments) {
     }
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"ATOI", 1, 1, TextToInteger}, {L"ATOF", 1, 1, TextToReal},     {L"ITOA", 1, 1, IntegerToText},
     {L"RTOS", 1, 3, LengthToText},  {L"DISTOF", 1, 2, TextToLength}, {L"ANGTOS", 1, 3, AngleToText},
     {L"READ", 1, 1, Read},
@@ -147,6 +152,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> ConversionFunctions() {
+std::span<const Builtin> ConversionFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -6,6 +6,8 @@
 
 #include "lisp/Arguments.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 bool AreEqualAtoms(const CValue& a, const CValue& b, double tolerance) {
@@ -39,3 +41,5 @@ bool IsEqual(CEvaluator& evaluator, const CValue& a, const CValue& b, double tol
     }
     return true;
 }
+
+}  // namespace tavrin::lisp

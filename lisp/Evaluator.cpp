@@ -7,19 +7,21 @@
 #include "lisp/Printer.h"
 #include "lisp/Reader.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 constexpr std::uint64_t kStepsBetweenPolls = 4096;
-// What an *error* function may use beyond the limit, since it runs where the error happened.
+// An *error* function may exceed the limit by this, since it runs where the error happened.
 constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
 
-// The part of the memory that is given beyond the limit, to an *error* function and to tidying up.
+// An *error* function, and an evaluation that begins above the limit, may exceed it by one part in so many.
 constexpr std::size_t kReserve = 8;
 constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
 
 constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion come to an end?";
 
-// Where the stack stands. Not the address of a local, which the address sanitizer may keep elsewhere.
+// Not the address of a local, which the address sanitizer may keep elsewhere.
 std::uintptr_t StackPointer() {
 #ifdef _MSC_VER
     return reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress());
@@ -32,9 +34,9 @@ std::wstring ArgumentCount(std::size_t count) {
     return std::to_wstring(count) + (count == 1 ? L" argument" : L" arguments");
 }
 
-// The names of a parameter list, up to a slash and behind it.
-SDefinition ReadParameters(const std::wstring& name, const CValue& list) {
-    SDefinition definition;
+// The parameters and, after the slash, the locals of a parameter list.
+Definition ReadParameters(const std::wstring& name, const CValue& list) {
+    Definition definition;
     std::vector<std::wstring>* names = &definition.parameters;
     const CValue* rest = &list;
     for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
@@ -49,17 +51,17 @@ SDefinition ReadParameters(const std::wstring& name, const CValue& list) {
         }
     }
     if (!rest->IsNil()) {
-        throw CLispError(name + L" has " + Excerpt(list) + L" in place of a list of parameters");
+        throw CLispError(name + L" has " + Excerpt(list) + L" instead of a list of parameters");
     }
     return definition;
 }
 
 }  // namespace
 
-// Makes a function, or the source around all, the place of errors.
+// Enters a function, or the outermost source, for the location of errors.
 class CEvaluator::CFrameScope {
 public:
-    CFrameScope(CEvaluator& evaluator, SFrame frame)
+    CFrameScope(CEvaluator& evaluator, Frame frame)
         : m_evaluator(evaluator), m_before(evaluator.m_frame), m_frame(frame) {
         evaluator.m_frame = &m_frame;
     }
@@ -69,11 +71,11 @@ public:
 
 private:
     CEvaluator& m_evaluator;
-    SFrame* m_before;
-    SFrame m_frame;
+    Frame* m_before;
+    Frame m_frame;
 };
 
-// Gives names a value for as long as it lives.
+// Binds names to values during its lifetime.
 class CEvaluator::CBindings {
 public:
     explicit CBindings(CEvaluator& evaluator) : m_evaluator(evaluator) {}
@@ -87,11 +89,11 @@ public:
     CBindings(const CBindings&) = delete;
     CBindings& operator=(const CBindings&) = delete;
 
-    // `name` must live as long.
+    // `name` must outlive the bindings.
     void Bind(const std::wstring& name, CValue value) {
-        CValue& place = m_evaluator.m_variables[name];
-        m_hidden.emplace_back(&name, place);
-        place = std::move(value);
+        CValue& slot = m_evaluator.m_variables[name];
+        m_hidden.emplace_back(&name, slot);
+        slot = std::move(value);
     }
 
 private:
@@ -102,43 +104,43 @@ private:
 CEvaluator::CEvaluator(ILispHost& host, std::size_t stackBytes) : m_host(host), m_stackBytes(stackBytes) {
     m_variables[L"T"] = CValue::True();
     DefineBuiltins(*this, [this](const wchar_t* name, auto code) {
-        m_variables[name] = CValue::Function(std::make_shared<SFunction>(name, std::move(code)));
+        m_variables[name] = CValue::Function(std::make_shared<FunctionObject>(name, std::move(code)));
     });
 }
 
-bool CEvaluator::Define(std::wstring_view name, CLispFunction function) {
+bool CEvaluator::Define(std::wstring_view name, NativeFunction function) {
     const std::wstring upperCase = UpperCase(name);
-    if (!IsSymbolName(name) || IsOfTheProgram(upperCase)) {
+    if (!IsSymbolName(name) || IsNative(upperCase)) {
         return false;
     }
-    m_variables[upperCase] = CValue::Function(std::make_shared<SFunction>(upperCase, std::move(function)));
+    m_variables[upperCase] =
+        CValue::Function(std::make_shared<FunctionObject>(upperCase, std::move(function)));
     return true;
 }
 
 bool CEvaluator::Undefine(std::wstring_view name) {
     const std::wstring upperCase = UpperCase(name);
-    return IsOfTheProgram(upperCase) && m_variables.erase(upperCase) != 0;
+    return IsNative(upperCase) && m_variables.erase(upperCase) != 0;
 }
 
-// Whether the name stands for the program's function of that name. LISP may have given it another value,
-// another function of the program too.
-bool CEvaluator::IsOfTheProgram(const std::wstring& name) const {
+// Whether the value of the name is the native function of that name. LISP may have assigned another value,
+// such as another native function.
+bool CEvaluator::IsNative(const std::wstring& name) const {
     const CValue value = Variable(name);
     return value.Type() == VT_FUNCTION && value.AsFunction()->name == name &&
-           !std::holds_alternative<SDefinition>(value.AsFunction()->code);
+           !std::holds_alternative<Definition>(value.AsFunction()->code);
 }
 
-CLispResult CEvaluator::Run(const SSource& source) {
+LispResult CEvaluator::Run(const Source& source) {
     const bool outermost = m_frame == nullptr;
     const CFrameScope frame(*this, {nullptr, &source.file, 0});
     if (outermost) {
         m_stackStart = StackPointer();
-        m_mostHeld = std::max(m_memoryLimit, CValue::HeldBytes() + m_memoryLimit / kReserve);
+        m_maxHeld = std::max(m_memoryLimit, CValue::HeldBytes() + m_memoryLimit / kReserve);
         m_steps = 0;
-        m_nextPoll = kStepsBetweenPolls;
     }
     try {
-        CLispResult result = CValue();
+        LispResult result = CValue();
         for (const CValue& expression : source.expressions) {
             result = Evaluate(expression);
         }
@@ -147,7 +149,7 @@ CLispResult CEvaluator::Run(const SSource& source) {
         Settle(error);
         throw;
     } catch (const std::bad_alloc&) {
-        CLispError error(L"there is not enough memory");
+        CLispError error(L"out of memory");
         Settle(error);
         throw CLispError(error);
     }
@@ -157,11 +159,7 @@ void CEvaluator::SetMemoryLimit(std::size_t bytes) {
     m_memoryLimit = bytes;
 }
 
-void CEvaluator::SetStepLimit(std::uint64_t steps) {
-    m_stepLimit = steps;
-}
-
-CLispResult CEvaluator::Evaluate(const CValue& expression) {
+LispResult CEvaluator::Evaluate(const CValue& expression) {
     Step();
     switch (expression.Type()) {
         case VT_SYMBOL:
@@ -174,7 +172,7 @@ CLispResult CEvaluator::Evaluate(const CValue& expression) {
 }
 
 CValue CEvaluator::EvaluateValue(const CValue& expression, std::wstring_view user) {
-    CLispResult result = Evaluate(expression);
+    LispResult result = Evaluate(expression);
     if (!result) {
         throw CLispError(Excerpt(expression) + L", an argument of " + std::wstring(user) +
                          L", has no result");
@@ -182,21 +180,21 @@ CValue CEvaluator::EvaluateValue(const CValue& expression, std::wstring_view use
     return *std::move(result);
 }
 
-CLispResult CEvaluator::EvaluateBody(const CValue& body) {
-    CLispResult result = CValue();
+LispResult CEvaluator::EvaluateBody(const CValue& body) {
+    LispResult result = CValue();
     for (const CValue* rest = &body; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         result = Evaluate(rest->Car());
     }
     return result;
 }
 
-CLispResult CEvaluator::Call(const CValue& call) {
-    SFrame& frame = *m_frame;
+LispResult CEvaluator::Call(const CValue& call) {
+    Frame& frame = *m_frame;
     const int line = call.Line() != 0 ? call.Line() : frame.line;
     frame.line = line;
     CheckStack();
     const auto function = FunctionOf(call.Car());
-    if (const auto* special = std::get_if<CSpecialForm>(&function->code)) {
+    if (const auto* special = std::get_if<SpecialFormCode>(&function->code)) {
         return (*special)(*this, call.Cdr());
     }
 
@@ -212,7 +210,7 @@ CLispResult CEvaluator::Call(const CValue& call) {
     return Invoke(*function, arguments);
 }
 
-std::shared_ptr<const SFunction> CEvaluator::FunctionOf(const CValue& head) {
+std::shared_ptr<const FunctionObject> CEvaluator::FunctionOf(const CValue& head) {
     const CValue function = head.Type() == VT_SYMBOL ? Variable(head.AsSymbol()) : head;
     if (function.Type() == VT_FUNCTION) {
         return function.AsFunction();
@@ -225,42 +223,42 @@ std::shared_ptr<const SFunction> CEvaluator::FunctionOf(const CValue& head) {
     }
     if (function.IsNil()) {
         throw CLispError(L"the function " + head.AsSymbol() +
-                         L" is not known: check its name and whether the plug-in defines it");
+                         L" is not defined: check its name and whether the plug-in defines it");
     }
-    throw CLispError(head.AsSymbol() + L" is no function: its value is " + Excerpt(function));
+    throw CLispError(head.AsSymbol() + L" is not a function: its value is " + Excerpt(function));
 }
 
 CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition) {
     if (definition.Type() != VT_PAIR) {
-        throw CLispError(name + L" lacks its list of parameters");
+        throw CLispError(name + L" has no list of parameters");
     }
-    SDefinition code = ReadParameters(name, definition.Car());
+    Definition code = ReadParameters(name, definition.Car());
     code.body = definition.Cdr();
     code.file = *m_frame->file;
     code.line = m_frame->line;
-    return CValue::Function(std::make_shared<SFunction>(name, std::move(code)));
+    return CValue::Function(std::make_shared<FunctionObject>(name, std::move(code)));
 }
 
-CLispResult CEvaluator::Apply(const CValue& function, std::span<const CValue> arguments) {
+LispResult CEvaluator::Apply(const CValue& function, std::span<const CValue> arguments) {
     CheckStack();
     return Invoke(*FunctionOf(function), arguments);
 }
 
 CValue CEvaluator::ApplyForValue(const CValue& function, std::span<const CValue> arguments) {
     const auto code = FunctionOf(function);
-    CLispResult result = Invoke(*code, arguments);
+    LispResult result = Invoke(*code, arguments);
     if (!result) {
         throw CLispError(L"a call of " + code->name + L" has no result");
     }
     return *std::move(result);
 }
 
-// `function` is held by the caller: it may lose its name while it runs.
-CLispResult CEvaluator::Invoke(const SFunction& function, std::span<const CValue> arguments) {
-    if (const auto* definition = std::get_if<SDefinition>(&function.code)) {
+// The caller keeps `function` alive: its name may be reassigned while it runs.
+LispResult CEvaluator::Invoke(const FunctionObject& function, std::span<const CValue> arguments) {
+    if (const auto* definition = std::get_if<Definition>(&function.code)) {
         return CallDefined(function, *definition, arguments);
     }
-    if (const auto* native = std::get_if<CLispFunction>(&function.code)) {
+    if (const auto* native = std::get_if<NativeFunction>(&function.code)) {
         return (*native)(arguments);
     }
     std::vector<CValue> quoted;
@@ -268,11 +266,11 @@ CLispResult CEvaluator::Invoke(const SFunction& function, std::span<const CValue
         const CValue quote[] = {CValue::Symbol(L"QUOTE"), argument};
         quoted.push_back(CValue::List(quote));
     }
-    return std::get<CSpecialForm>(function.code)(*this, CValue::List(quoted));
+    return std::get<SpecialFormCode>(function.code)(*this, CValue::List(quoted));
 }
 
-CLispResult CEvaluator::CallDefined(const SFunction& function, const SDefinition& definition,
-                                    std::span<const CValue> arguments) {
+LispResult CEvaluator::CallDefined(const FunctionObject& function, const Definition& definition,
+                                   std::span<const CValue> arguments) {
     if (arguments.size() != definition.parameters.size()) {
         throw CLispError(function.name + L" takes " + ArgumentCount(definition.parameters.size()) +
                          L", not " + std::to_wstring(arguments.size()));
@@ -293,21 +291,21 @@ CLispResult CEvaluator::CallDefined(const SFunction& function, const SDefinition
     }
 }
 
-// Where an error is caught first, the variables still have the values that they had when it happened: an
-// *error* function finds the locals of the function that failed, and may be one of them.
+// Called where an error is caught first. The variables still have the values that they had when it happened,
+// so an *error* function sees the locals of the function that failed, and may itself be one of them.
 void CEvaluator::Settle(CLispError& error) {
     if (error.IsSettled()) {
         return;
     }
-    error.SetLocation(Place());
+    error.SetLocation(Location());
     error.SetSettled();
     const CValue handler = Variable(L"*ERROR*");
     if (m_inErrorHandler || handler.IsNil()) {
         return;
     }
-    struct SHandling {
-        explicit SHandling(bool& flag) : inHandler(flag) { inHandler = true; }
-        ~SHandling() { inHandler = false; }
+    struct Handling {
+        explicit Handling(bool& flag) : inHandler(flag) { inHandler = true; }
+        ~Handling() { inHandler = false; }
         bool& inHandler;
     } const handling(m_inErrorHandler);
     const CValue text = CValue::String(error.Text());
@@ -320,13 +318,13 @@ void CEvaluator::Settle(CLispError& error) {
     error.SetHandled();
 }
 
-std::wstring CEvaluator::Place() const {
+std::wstring CEvaluator::Location() const {
     if (m_frame->line == 0) {
         return {};
     }
     const std::wstring line = std::to_wstring(m_frame->line);
-    const std::wstring place = m_frame->file->empty() ? L"line " + line : *m_frame->file + L':' + line;
-    return m_frame->function != nullptr ? place + L": in " + *m_frame->function : place;
+    const std::wstring location = m_frame->file->empty() ? L"line " + line : *m_frame->file + L':' + line;
+    return m_frame->function != nullptr ? location + L": in " + *m_frame->function : location;
 }
 
 CValue CEvaluator::Variable(const std::wstring& name) const {
@@ -342,23 +340,20 @@ void CEvaluator::Assign(const std::wstring& name, CValue value) {
 }
 
 void CEvaluator::Step(std::uint64_t steps) {
-    m_steps += steps;
-    if (m_stepLimit != 0 && m_steps > m_stepLimit) {
-        throw CLispError(L"the evaluation takes more than " + std::to_wstring(m_stepLimit) + L" steps");
-    }
     CheckMemory();
-    if (m_steps < m_nextPoll) {
+    m_steps += steps;
+    if (m_steps < kStepsBetweenPolls) {
         return;
     }
-    m_nextPoll = m_steps + kStepsBetweenPolls;
+    m_steps = 0;
     if (m_host.IsEscapePressed()) {
         throw CLispCancelled();
     }
 }
 
 void CEvaluator::CheckMemory() const {
-    if (CValue::HeldBytes() > m_mostHeld + (m_inErrorHandler ? m_memoryLimit / kReserve : 0)) {
-        throw CLispError(L"the values take more than " + std::to_wstring(m_mostHeld / kMegabyte) +
+    if (CValue::HeldBytes() > m_maxHeld + (m_inErrorHandler ? m_memoryLimit / kReserve : 0)) {
+        throw CLispError(L"the values take more than " + std::to_wstring(m_maxHeld / kMegabyte) +
                          L" MB of memory: does a loop collect them without end?");
     }
 }
@@ -370,3 +365,5 @@ void CEvaluator::CheckStack() const {
         throw CLispError(kTooDeep);
     }
 }
+
+}  // namespace tavrin::lisp

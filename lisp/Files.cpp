@@ -1,13 +1,15 @@
-// Files: opening, reading and closing them, finding them and running what LISP is in them.
+// Functions on files: opening, reading and closing, finding, and loading LISP.
 #include "lisp/Builtins.h"
 #include "lisp/Evaluator.h"
 #include "lisp/LispFile.h"
 #include "lisp/Source.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 // nil when the file cannot be opened.
-CLispResult Open(const CArguments& arguments) {
+LispResult Open(const CArguments& arguments) {
     const std::wstring& mode = arguments.Text(1);
     if (mode != L"r" && mode != L"w" && mode != L"a") {
         arguments.Refuse(1, L"\"r\", \"w\" or \"a\"");
@@ -18,34 +20,34 @@ CLispResult Open(const CArguments& arguments) {
     return file ? CValue::File(std::move(file)) : CValue();
 }
 
-CLispResult Close(const CArguments& arguments) {
+LispResult Close(const CArguments& arguments) {
     arguments.WithFile(0, [](CLispFile& file) { file.Close(); });
     return CValue();
 }
 
-// From a file, nil at its end; without one from the user. nil is no file: a script whose file could not be
-// opened would otherwise wait for somebody to type its lines.
-CLispResult ReadLine(const CArguments& arguments) {
+// From a file, nil at its end; without an argument from the user. nil is not accepted as a file: a script
+// whose file could not be opened would otherwise wait for input.
+LispResult ReadLine(const CArguments& arguments) {
     if (arguments.Has(0)) {
         std::optional<std::wstring> line;
         arguments.WithFile(0, [&](CLispFile& file) { line = file.ReadLine(); });
         return line ? CValue::String(*std::move(line)) : CValue();
     }
-    const SLispAnswer answer = arguments.Evaluator().Host().Ask(L"", std::nullopt, Q_TEXT);
+    const LispAnswer answer = arguments.Evaluator().Host().Ask(L"", std::nullopt, Q_TEXT);
     if (answer.kind == ANSWER_CANCELLED) {
         throw CLispCancelled();
     }
     return CValue::String(answer.text);
 }
 
-// The code of the next character, nil at the end. The two characters of a line's end count as one, 10.
-CLispResult ReadCharacter(const CArguments& arguments) {
+// The code of the next character, nil at the end. CR LF counts as one character, 10.
+LispResult ReadCharacter(const CArguments& arguments) {
     std::optional<wchar_t> character;
     arguments.WithFile(0, [&](CLispFile& file) { character = file.ReadCharacter(); });
     return character ? CValue::Integer(std::int32_t(*character)) : CValue();
 }
 
-CLispResult FindFile(const CArguments& arguments) {
+LispResult FindFile(const CArguments& arguments) {
     const auto path = arguments.Evaluator().Host().FindFile(arguments.Text(0));
     return path ? CValue::String(*path) : CValue();
 }
@@ -57,7 +59,7 @@ bool HasExtension(const std::wstring& name) {
 
 // (load NAME [OTHERWISE]): the value of the last expression in the file; OTHERWISE when there is no such
 // file. Nothing is evaluated before the whole file has been read.
-CLispResult Load(const CArguments& arguments) {
+LispResult Load(const CArguments& arguments) {
     CEvaluator& evaluator = arguments.Evaluator();
     const std::wstring& given = arguments.Text(0);
     const std::wstring name = HasExtension(given) ? given : given + L".lsp";
@@ -72,7 +74,7 @@ CLispResult Load(const CArguments& arguments) {
     return evaluator.Run(ReadSourceFile(*path, name));
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"OPEN", 2, 2, Open},          {L"CLOSE", 1, 1, Close},
     {L"READ-LINE", 0, 1, ReadLine}, {L"READ-CHAR", 1, 1, ReadCharacter},
     {L"FINDFILE", 1, 1, FindFile},  {L"LOAD", 1, 2, Load},
@@ -80,6 +82,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> FileFunctions() {
+std::span<const Builtin> FileFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -1,4 +1,4 @@
-// What stands behind a function value.
+// The code of a function value.
 #pragma once
 
 #include <functional>
@@ -9,30 +9,35 @@
 
 #include "lisp/Value.h"
 
+namespace tavrin::lisp {
+
 class CEvaluator;
 
-// A function of the program: gets its arguments evaluated. May throw CLispError.
-using CLispFunction = std::function<CLispResult(std::span<const CValue> arguments)>;
+// A native function, called with evaluated arguments. May throw CLispError.
+using NativeFunction = std::function<LispResult(std::span<const CValue> arguments)>;
 
-// A form that decides itself what it evaluates: gets the list behind its name as it stands in the call.
-using CSpecialForm = CLispResult (*)(CEvaluator& evaluator, const CValue& arguments);
+// A special form, called with its unevaluated arguments.
+using SpecialFormCode = LispResult (*)(CEvaluator& evaluator, const CValue& arguments);
 
 // A function written in LISP. Parameters and locals are bound while it runs, the locals to nil.
-struct SDefinition {
+struct Definition {
     std::vector<std::wstring> parameters;
     std::vector<std::wstring> locals;
     CValue body;        // a list
-    std::wstring file;  // where it stands; empty: typed
+    std::wstring file;  // of the source; empty: typed
     int line;
 };
 
-struct SFunction {
+struct FunctionObject {
     std::wstring name;
-    std::variant<CLispFunction, CSpecialForm, SDefinition> code;
+    std::variant<NativeFunction, SpecialFormCode, Definition> code;
 
-    SFunction(std::wstring functionName, std::variant<CLispFunction, CSpecialForm, SDefinition> functionCode)
+    FunctionObject(std::wstring functionName,
+                   std::variant<NativeFunction, SpecialFormCode, Definition> functionCode)
         : name(std::move(functionName)), code(std::move(functionCode)) {}
-    ~SFunction();
-    SFunction(const SFunction&) = delete;
-    SFunction& operator=(const SFunction&) = delete;
+    ~FunctionObject();
+    FunctionObject(const FunctionObject&) = delete;
+    FunctionObject& operator=(const FunctionObject&) = delete;
 };
+
+}  // namespace tavrin::lisp

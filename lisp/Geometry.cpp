@@ -1,15 +1,17 @@
-// Points: lists of two or three numbers in drawing units; angles in radians from the x axis,
-// counter-clockwise.
+// Functions on points: lists of two or three numbers in drawing units. Angles are in radians,
+// counter-clockwise from the x axis.
 #include <cmath>
 #include <numbers>
 
 #include "lisp/Builtins.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 // The point at an angle and a distance from another, in the plane of the drawing; a third coordinate stays.
-CLispResult Polar(const CArguments& arguments) {
-    const SLispPoint from = arguments.Point(0);
+LispResult Polar(const CArguments& arguments) {
+    const LispPoint from = arguments.Point(0);
     const double angle = arguments.Number(1);
     const double distance = arguments.Number(2);
     const CValue coordinates[] = {CValue::Real(from.x + distance * std::cos(angle)),
@@ -19,20 +21,20 @@ CLispResult Polar(const CArguments& arguments) {
 }
 
 // Of the line from the first point to the second, from 0 up to a full turn.
-CLispResult Angle(const CArguments& arguments) {
-    const SLispPoint from = arguments.Point(0);
-    const SLispPoint to = arguments.Point(1);
+LispResult Angle(const CArguments& arguments) {
+    const LispPoint from = arguments.Point(0);
+    const LispPoint to = arguments.Point(1);
     const double angle = std::atan2(to.y - from.y, to.x - from.x);
     return CValue::Real(angle < 0 ? angle + 2 * std::numbers::pi : angle + 0.0);
 }
 
-CLispResult Distance(const CArguments& arguments) {
-    const SLispPoint from = arguments.Point(0);
-    const SLispPoint to = arguments.Point(1);
+LispResult Distance(const CArguments& arguments) {
+    const LispPoint from = arguments.Point(0);
+    const LispPoint to = arguments.Point(1);
     return CValue::Real(std::hypot(to.x - from.x, to.y - from.y, to.z - from.z));
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"POLAR", 3, 3, Polar},
     {L"ANGLE", 2, 2, Angle},
     {L"DISTANCE", 2, 2, Distance},
@@ -40,6 +42,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> GeometryFunctions() {
+std::span<const Builtin> GeometryFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -5,6 +5,8 @@
 #include <string>
 #include <utility>
 
+namespace tavrin::lisp {
+
 // An error in a LISP text or in its evaluation: one line without a full stop.
 class CLispError : public std::exception {
 public:
@@ -71,6 +73,8 @@ public:
 };
 
 // (exit): ends everything that runs. Not an error, so no *error* function is called.
-struct SLispExit {
+struct LispExit {
     int status;
 };
+
+}  // namespace tavrin::lisp

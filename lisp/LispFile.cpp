@@ -5,8 +5,10 @@
 #include "encoding/Encoding.h"
 #include "lisp/LispError.h"
 
-using tavrin::encoding::DecodeWindows1252;
-using tavrin::encoding::EncodeWindows1252;
+namespace tavrin::lisp {
+
+using encoding::DecodeWindows1252;
+using encoding::EncodeWindows1252;
 
 namespace {
 
@@ -113,3 +115,5 @@ void CLispFile::CheckWritten() const {
         throw CLispError(Named(m_name) + L" cannot be written");
     }
 }
+
+}  // namespace tavrin::lisp

@@ -1,4 +1,4 @@
-// Making lists, taking them apart and searching them.
+// Functions on lists.
 #include <algorithm>
 
 #include "lisp/Builtins.h"
@@ -6,11 +6,13 @@
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 // CAR, CDR, CADR and so on: the letters between C and R are the steps, the last one first. nil has nil as
 // both.
-CLispResult Walk(const CArguments& arguments) {
+LispResult Walk(const CArguments& arguments) {
     const std::wstring name = arguments.Function();
     const CValue* value = &arguments[0];
     for (std::size_t i = name.size() - 2; i > 0; --i) {
@@ -25,17 +27,17 @@ CLispResult Walk(const CArguments& arguments) {
     return *value;
 }
 
-CLispResult Cons(const CArguments& arguments) {
+LispResult Cons(const CArguments& arguments) {
     arguments.Evaluator().Step();
     return CValue::Pair(arguments[0], arguments[1]);
 }
 
-CLispResult List(const CArguments& arguments) {
+LispResult List(const CArguments& arguments) {
     arguments.Evaluator().Step(arguments.Count());
     return CValue::List(arguments.Values());
 }
 
-CLispResult Append(const CArguments& arguments) {
+LispResult Append(const CArguments& arguments) {
     CValue result;
     for (std::size_t i = arguments.Count(); i-- > 0;) {
         const std::vector<CValue> elements = arguments.List(i);
@@ -44,7 +46,7 @@ CLispResult Append(const CArguments& arguments) {
     return result;
 }
 
-CLispResult Nth(const CArguments& arguments) {
+LispResult Nth(const CArguments& arguments) {
     std::int32_t index = arguments.Integer(0);
     if (index < 0) {
         arguments.Refuse(0, L"a whole number from 0 on");
@@ -62,28 +64,28 @@ CLispResult Nth(const CArguments& arguments) {
     return CValue();
 }
 
-CLispResult Length(const CArguments& arguments) {
+LispResult Length(const CArguments& arguments) {
     return CValue::Integer(std::int32_t(arguments.List(0).size()));
 }
 
-CLispResult Reverse(const CArguments& arguments) {
+LispResult Reverse(const CArguments& arguments) {
     std::vector<CValue> elements = arguments.List(0);
     std::reverse(elements.begin(), elements.end());
     return CValue::List(elements);
 }
 
-CLispResult Last(const CArguments& arguments) {
+LispResult Last(const CArguments& arguments) {
     const std::vector<CValue> elements = arguments.List(0);
     return elements.empty() ? CValue() : elements.back();
 }
 
-CLispResult Assoc(const CArguments& arguments) {
+LispResult Assoc(const CArguments& arguments) {
     for (const CValue& element : arguments.List(1)) {
         if (element.IsNil()) {
             continue;
         }
         if (element.Type() != VT_PAIR) {
-            arguments.Fail(Excerpt(element) + L" in the list is no pair");
+            arguments.Fail(Excerpt(element) + L" in the list is not a pair");
         }
         if (IsEqual(arguments.Evaluator(), element.Car(), arguments[0])) {
             return element;
@@ -93,7 +95,7 @@ CLispResult Assoc(const CArguments& arguments) {
 }
 
 // The list from the element on.
-CLispResult Member(const CArguments& arguments) {
+LispResult Member(const CArguments& arguments) {
     const CValue* rest = &arguments[1];
     for (; rest->Type() == VT_PAIR; rest = &rest->Cdr()) {
         if (IsEqual(arguments.Evaluator(), rest->Car(), arguments[0])) {
@@ -113,7 +115,7 @@ CValue Substitute(CEvaluator& evaluator, const CValue& wanted, const CValue& old
     }
     std::vector<CValue> elements;
     const CValue* rest = &tree;
-    // A tail can be what is replaced, like everything else in the tree; but not the nil that ends a list.
+    // Tails are replaced too, except the nil that ends a list.
     const auto isReplaced = [&] { return !rest->IsNil() && IsEqual(evaluator, *rest, old); };
     for (; rest->Type() == VT_PAIR && !isReplaced(); rest = &rest->Cdr()) {
         evaluator.Step();
@@ -122,11 +124,11 @@ CValue Substitute(CEvaluator& evaluator, const CValue& wanted, const CValue& old
     return CValue::List(elements, isReplaced() ? wanted : *rest);
 }
 
-CLispResult Subst(const CArguments& arguments) {
+LispResult Subst(const CArguments& arguments) {
     return Substitute(arguments.Evaluator(), arguments[0], arguments[1], arguments[2]);
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"CAR", 1, 1, Walk},    {L"CDR", 1, 1, Walk},          {L"CAAR", 1, 1, Walk},
     {L"CADR", 1, 1, Walk},   {L"CDAR", 1, 1, Walk},         {L"CDDR", 1, 1, Walk},
     {L"CAAAR", 1, 1, Walk},  {L"CAADR", 1, 1, Walk},        {L"CADAR", 1, 1, Walk},
@@ -145,6 +147,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> ListFunctions() {
+std::span<const Builtin> ListFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

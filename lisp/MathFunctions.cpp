@@ -1,20 +1,22 @@
-// Roots, powers, logarithms and angles (in radians), and the way between whole numbers and reals.
+// Roots, powers, logarithms, trigonometry (in radians), and conversions between whole numbers and reals.
 #include <cmath>
 #include <limits>
 
 #include "lisp/Builtins.h"
 #include "lisp/LispError.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 CValue Real(const CArguments& arguments, double result) {
     if (!std::isfinite(result)) {
-        arguments.Fail(L"the result is no number that a real can hold");
+        arguments.Fail(L"the result is not a finite number");
     }
     return CValue::Real(result);
 }
 
-CLispResult Fix(const CArguments& arguments) {
+LispResult Fix(const CArguments& arguments) {
     if (arguments[0].Type() == VT_INTEGER) {
         return arguments[0];
     }
@@ -26,36 +28,36 @@ CLispResult Fix(const CArguments& arguments) {
     return CValue::Integer(std::int32_t(whole));
 }
 
-CLispResult Float(const CArguments& arguments) {
+LispResult Float(const CArguments& arguments) {
     return CValue::Real(arguments.Number(0));
 }
 
-CLispResult Sine(const CArguments& arguments) {
+LispResult Sine(const CArguments& arguments) {
     return Real(arguments, std::sin(arguments.Number(0)));
 }
 
-CLispResult Cosine(const CArguments& arguments) {
+LispResult Cosine(const CArguments& arguments) {
     return Real(arguments, std::cos(arguments.Number(0)));
 }
 
 // With one argument in -pi/2 to pi/2; with two the angle of (X, Y), given as Y and X, in -pi to pi.
-CLispResult ArcTangent(const CArguments& arguments) {
+LispResult ArcTangent(const CArguments& arguments) {
     const double y = arguments.Number(0);
     return Real(arguments, arguments.Has(1) ? std::atan2(y, arguments.Number(1)) : std::atan(y));
 }
 
-CLispResult SquareRoot(const CArguments& arguments) {
+LispResult SquareRoot(const CArguments& arguments) {
     if (arguments.Number(0) < 0) {
         arguments.Refuse(0, L"a number that is not negative");
     }
     return CValue::Real(std::sqrt(arguments.Number(0)));
 }
 
-CLispResult Exponential(const CArguments& arguments) {
+LispResult Exponential(const CArguments& arguments) {
     return Real(arguments, std::exp(arguments.Number(0)));
 }
 
-CLispResult Logarithm(const CArguments& arguments) {
+LispResult Logarithm(const CArguments& arguments) {
     if (arguments.Number(0) <= 0) {
         arguments.Refuse(0, L"a number above zero");
     }
@@ -63,7 +65,7 @@ CLispResult Logarithm(const CArguments& arguments) {
 }
 
 // Whole numbers give a whole number, except with a negative exponent.
-CLispResult Power(const CArguments& arguments) {
+LispResult Power(const CArguments& arguments) {
     const double result = std::pow(arguments.Number(0), arguments.Number(1));
     const bool whole = arguments[0].Type() == VT_INTEGER && arguments[1].Type() == VT_INTEGER;
     if (!whole || arguments.Integer(1) < 0) {
@@ -77,7 +79,7 @@ CLispResult Power(const CArguments& arguments) {
     return CValue::Integer(std::int32_t(result));
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"FIX", 1, 1, Fix},         {L"FLOAT", 1, 1, Float},     {L"SIN", 1, 1, Sine},
     {L"COS", 1, 1, Cosine},      {L"ATAN", 1, 2, ArcTangent}, {L"SQRT", 1, 1, SquareRoot},
     {L"EXP", 1, 1, Exponential}, {L"LOG", 1, 1, Logarithm},   {L"EXPT", 2, 2, Power},
@@ -85,6 +87,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> MathFunctions() {
+std::span<const Builtin> MathFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

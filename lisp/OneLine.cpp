@@ -1,5 +1,7 @@
 #include "lisp/OneLine.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 bool IsLineEnd(wchar_t c) {
@@ -64,7 +66,7 @@ private:
         m_rest.remove_prefix(1);
     }
 
-    // Puts a blank in the place of so many characters; none behind another, since lines begin with many.
+    // Replaces so many characters by a blank, but never adds a second one, since lines are indented.
     void Replace(std::size_t count) {
         m_rest.remove_prefix(count);
         if (!m_joined.empty() && m_joined.back() != L' ') {
@@ -81,3 +83,5 @@ private:
 std::wstring OnOneLine(std::wstring_view lisp) {
     return CJoiner(lisp).Join();
 }
+
+}  // namespace tavrin::lisp

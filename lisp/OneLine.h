@@ -1,9 +1,13 @@
-// LISP that spans lines, for a prompt that has one.
+// LISP of several lines as one line, for the prompt.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-// The same LISP on one line: comments are left out, line ends become blanks and inside of texts their
-// escapes. Without line ends and blanks around it. What is no complete LISP is treated alike.
+namespace tavrin::lisp {
+
+// Removes comments, and blanks and line ends around the text; other line ends become blanks, and inside of
+// texts their escapes. Incomplete LISP is accepted too.
 std::wstring OnOneLine(std::wstring_view lisp);
+
+}  // namespace tavrin::lisp

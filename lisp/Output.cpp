@@ -1,11 +1,13 @@
-// Printing, to the host's output or into a file that a routine has opened.
+// Printing to the host's output or to a file.
 #include "lisp/Builtins.h"
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// Into the file that is argument `index`, or to the host when it is missing or nil.
+// To the file in argument `index`, or to the host when it is missing or nil.
 void WriteTo(const CArguments& arguments, std::size_t index, const std::wstring& text) {
     if (arguments.Has(index) && !arguments[index].IsNil()) {
         arguments.WithFile(index, [&](CLispFile& file) { file.Write(text); });
@@ -14,12 +16,12 @@ void WriteTo(const CArguments& arguments, std::size_t index, const std::wstring&
     }
 }
 
-// What a routine ends with in order to show no result: a symbol without a name.
+// A symbol without a name: a routine that ends with it shows no result.
 CValue Silence() {
     return CValue::Symbol(L"");
 }
 
-CLispResult PrintDisplayed(const CArguments& arguments) {
+LispResult PrintDisplayed(const CArguments& arguments) {
     if (arguments.Count() == 0) {
         return Silence();
     }
@@ -27,7 +29,7 @@ CLispResult PrintDisplayed(const CArguments& arguments) {
     return arguments[0];
 }
 
-CLispResult PrintReadable(const CArguments& arguments) {
+LispResult PrintReadable(const CArguments& arguments) {
     if (arguments.Count() == 0) {
         return Silence();
     }
@@ -36,7 +38,7 @@ CLispResult PrintReadable(const CArguments& arguments) {
 }
 
 // On a line of its own.
-CLispResult PrintLine(const CArguments& arguments) {
+LispResult PrintLine(const CArguments& arguments) {
     if (arguments.Count() == 0) {
         return Silence();
     }
@@ -44,22 +46,22 @@ CLispResult PrintLine(const CArguments& arguments) {
     return arguments[0];
 }
 
-CLispResult Prompt(const CArguments& arguments) {
+LispResult Prompt(const CArguments& arguments) {
     arguments.Evaluator().Host().Write(arguments.Text(0));
     return CValue();
 }
 
-CLispResult EndLine(const CArguments& arguments) {
+LispResult EndLine(const CArguments& arguments) {
     arguments.Evaluator().Host().Write(L"\n");
     return CValue();
 }
 
-CLispResult WriteLine(const CArguments& arguments) {
+LispResult WriteLine(const CArguments& arguments) {
     WriteTo(arguments, 1, arguments.Text(0) + L'\n');
     return arguments[0];
 }
 
-CLispResult WriteCharacter(const CArguments& arguments) {
+LispResult WriteCharacter(const CArguments& arguments) {
     const std::int32_t code = arguments.Integer(0);
     if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
@@ -68,7 +70,7 @@ CLispResult WriteCharacter(const CArguments& arguments) {
     return arguments[0];
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"PRINC", 0, 2, PrintDisplayed},
     {L"PRIN1", 0, 2, PrintReadable},
     {L"PRINT", 0, 2, PrintLine},
@@ -80,6 +82,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> OutputFunctions() {
+std::span<const Builtin> OutputFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

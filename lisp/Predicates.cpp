@@ -1,16 +1,18 @@
-// Comparisons and questions about a value. The answer is T or nil.
+// Comparisons and predicates. The result is T or nil.
 #include "lisp/Builtins.h"
 #include "lisp/Equality.h"
 #include "lisp/Evaluator.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// Numbers and texts by what they are, everything else only when it is the same thing.
+// Numbers and texts by value, everything else by identity.
 bool AreEqual(CEvaluator& evaluator, const CValue& a, const CValue& b) {
     return a.Type() == VT_PAIR ? a.IsSameAs(b) : IsEqual(evaluator, a, b);
 }
 
-CLispResult Equals(const CArguments& arguments) {
+LispResult Equals(const CArguments& arguments) {
     for (std::size_t i = 1; i < arguments.Count(); ++i) {
         if (!AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i])) {
             return CValue();
@@ -19,7 +21,7 @@ CLispResult Equals(const CArguments& arguments) {
     return CValue::True();
 }
 
-CLispResult Differs(const CArguments& arguments) {
+LispResult Differs(const CArguments& arguments) {
     for (std::size_t i = 1; i < arguments.Count(); ++i) {
         if (AreEqual(arguments.Evaluator(), arguments[i - 1], arguments[i])) {
             return CValue();
@@ -28,8 +30,7 @@ CLispResult Differs(const CArguments& arguments) {
     return CValue::True();
 }
 
-// Whether the arguments are in this order, each beside the next: all numbers, or all texts by their
-// characters' codes.
+// Whether adjacent arguments are in this order: numbers by value, texts by their characters' codes.
 template <typename TOrder>
 CValue InOrder(const CArguments& arguments, TOrder order) {
     bool holds = true;
@@ -47,69 +48,69 @@ CValue InOrder(const CArguments& arguments, TOrder order) {
     return CValue::Truth(holds);
 }
 
-CLispResult Less(const CArguments& arguments) {
+LispResult Less(const CArguments& arguments) {
     return InOrder(arguments, [](auto a, auto b) { return a < b; });
 }
 
-CLispResult Greater(const CArguments& arguments) {
+LispResult Greater(const CArguments& arguments) {
     return InOrder(arguments, [](auto a, auto b) { return a > b; });
 }
 
-CLispResult NotGreater(const CArguments& arguments) {
+LispResult NotGreater(const CArguments& arguments) {
     return InOrder(arguments, [](auto a, auto b) { return a <= b; });
 }
 
-CLispResult NotLess(const CArguments& arguments) {
+LispResult NotLess(const CArguments& arguments) {
     return InOrder(arguments, [](auto a, auto b) { return a >= b; });
 }
 
-CLispResult Eq(const CArguments& arguments) {
+LispResult Eq(const CArguments& arguments) {
     return CValue::Truth(arguments[0].IsSameAs(arguments[1]));
 }
 
-CLispResult Equal(const CArguments& arguments) {
+LispResult Equal(const CArguments& arguments) {
     return CValue::Truth(IsEqual(arguments.Evaluator(), arguments[0], arguments[1],
                                  arguments.Has(2) ? arguments.Number(2) : 0));
 }
 
-CLispResult IsNull(const CArguments& arguments) {
+LispResult IsNull(const CArguments& arguments) {
     return CValue::Truth(arguments[0].IsNil());
 }
 
-CLispResult IsNumberValue(const CArguments& arguments) {
+LispResult IsNumberValue(const CArguments& arguments) {
     return CValue::Truth(IsNumber(arguments[0]));
 }
 
-CLispResult IsZero(const CArguments& arguments) {
+LispResult IsZero(const CArguments& arguments) {
     return CValue::Truth(arguments.Number(0) == 0);
 }
 
-CLispResult IsMinus(const CArguments& arguments) {
+LispResult IsMinus(const CArguments& arguments) {
     return CValue::Truth(arguments.Number(0) < 0);
 }
 
-CLispResult IsAtom(const CArguments& arguments) {
+LispResult IsAtom(const CArguments& arguments) {
     return CValue::Truth(arguments[0].Type() != VT_PAIR);
 }
 
-CLispResult IsList(const CArguments& arguments) {
+LispResult IsList(const CArguments& arguments) {
     return CValue::Truth(arguments[0].Type() == VT_PAIR || arguments[0].IsNil());
 }
 
-CLispResult IsBound(const CArguments& arguments) {
+LispResult IsBound(const CArguments& arguments) {
     return CValue::Truth(!arguments.Evaluator().Variable(arguments.Symbol(0)).IsNil());
 }
 
-CLispResult TypeOf(const CArguments& arguments) {
+LispResult TypeOf(const CArguments& arguments) {
     constexpr const wchar_t* kNames[] = {L"NIL", L"INT", L"REAL", L"STR", L"SYM", L"LIST", L"SUBR", L"FILE"};
     const CValue& value = arguments[0];
-    if (value.Type() == VT_FUNCTION && std::holds_alternative<SDefinition>(value.AsFunction()->code)) {
+    if (value.Type() == VT_FUNCTION && std::holds_alternative<Definition>(value.AsFunction()->code)) {
         return CValue::Symbol(L"USUBR");
     }
     return CValue::Symbol(kNames[value.Type()]);
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"=", 1, kAnyCount, Equals},
     {L"/=", 1, kAnyCount, Differs},
     {L"<", 1, kAnyCount, Less},
@@ -131,6 +132,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> PredicateFunctions() {
+std::span<const Builtin> PredicateFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -8,10 +8,12 @@
 #include "lisp/LispError.h"
 #include "lisp/LispFile.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
 constexpr std::size_t kExcerptLength = 60;
-// Lists that share their parts can be longer as text than any memory.
+// Lists that share their parts can be too long as text for any memory.
 constexpr std::size_t kMaxLength = 4'000'000;
 
 std::wstring RealText(double number) {
@@ -75,7 +77,7 @@ std::wstring AtomText(const CValue& atom, bool quoted) {
 // Without recursion, since lists nest as deep as memory allows. May stop beyond `enough` characters.
 std::wstring Text(const CValue& value, bool quoted, std::size_t enough) {
     std::wstring text;
-    std::vector<const CValue*> rests;  // of the lists that are open, what comes next
+    std::vector<const CValue*> rests;  // of the open lists: their remaining elements
     const CValue* next = &value;
     while (next != nullptr && text.size() <= enough) {
         if (next->Type() == VT_PAIR) {
@@ -132,3 +134,5 @@ std::wstring Excerpt(const CValue& value) {
     }
     return text;
 }
+
+}  // namespace tavrin::lisp

@@ -1,6 +1,5 @@
-// What LISP asks of the user and of the program: points, numbers and texts, messages, system variables. An
-// answer that does not fit is said to be so, and the question asked again; a plain Enter answers nil, Escape
-// ends the evaluation.
+// Questions to the user, messages and system variables. After an invalid answer the question is asked again.
+// Enter without a text answers nil, Escape ends the evaluation.
 #include <charconv>
 #include <cmath>
 
@@ -8,16 +7,18 @@
 #include "lisp/Evaluator.h"
 #include "units/LinearUnits.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// The prompt and the base point of a question, in either order as far as they are given.
-struct SQuestion {
+// The prompt and the base point of a question. Both are optional and may be given in either order.
+struct Question {
     std::wstring prompt;
-    std::optional<SLispPoint> base;
+    std::optional<LispPoint> base;
 };
 
-SQuestion QuestionOf(const CArguments& arguments) {
-    SQuestion question;
+Question QuestionOf(const CArguments& arguments) {
+    Question question;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         if (arguments[i].Type() == VT_STRING) {
             question.prompt = arguments.Text(i);
@@ -28,12 +29,12 @@ SQuestion QuestionOf(const CArguments& arguments) {
     return question;
 }
 
-// The question of a function that takes the prompt alone.
-SQuestion PromptOf(const CArguments& arguments) {
+// The question of a function whose only argument is the prompt.
+Question PromptOf(const CArguments& arguments) {
     return {arguments.Has(0) ? arguments.Text(0) : std::wstring(), std::nullopt};
 }
 
-CValue PointValue(const SLispPoint& point) {
+CValue PointValue(const LispPoint& point) {
     const CValue coordinates[] = {CValue::Real(point.x), CValue::Real(point.y), CValue::Real(point.z)};
     return CValue::List(coordinates);
 }
@@ -43,13 +44,13 @@ std::wstring Trimmed(const std::wstring& text) {
     return start == std::wstring::npos ? L"" : text.substr(start, text.find_last_not_of(L" \t") - start + 1);
 }
 
-// Asks until `convert` makes a value of the answer. `needed` says what to type.
+// Asks until `convert` returns a value for the answer. `needed` says what to type.
 template <typename TConvert>
-CValue AskUntil(const CArguments& arguments, const SQuestion& question, EQuestion kind, const wchar_t* needed,
+CValue AskUntil(const CArguments& arguments, const Question& question, EQuestion kind, const wchar_t* needed,
                 TConvert convert) {
     ILispHost& host = arguments.Evaluator().Host();
     for (;;) {
-        const SLispAnswer answer = host.Ask(question.prompt, question.base, kind);
+        const LispAnswer answer = host.Ask(question.prompt, question.base, kind);
         if (answer.kind == ANSWER_CANCELLED) {
             throw CLispCancelled();
         }
@@ -64,28 +65,28 @@ CValue AskUntil(const CArguments& arguments, const SQuestion& question, EQuestio
 }
 
 // (getpoint [BASE] [PROMPT])
-CLispResult GetPoint(const CArguments& arguments) {
-    const SQuestion question = QuestionOf(arguments);
+LispResult GetPoint(const CArguments& arguments) {
+    const Question question = QuestionOf(arguments);
     return AskUntil(arguments, question, Q_POINT, L"a point: click into the drawing or type X,Y",
-                    [](const SLispAnswer& answer) -> std::optional<CValue> {
+                    [](const LispAnswer& answer) -> std::optional<CValue> {
                         return answer.kind == ANSWER_POINT ? std::optional(PointValue(answer.point))
                                                            : std::nullopt;
                     });
 }
 
 // (getdist [BASE] [PROMPT]): typed, or the distance to a point from BASE or from another point, asked next.
-CLispResult GetDistance(const CArguments& arguments) {
-    SQuestion question = QuestionOf(arguments);
+LispResult GetDistance(const CArguments& arguments) {
+    Question question = QuestionOf(arguments);
     constexpr wchar_t kNeeded[] = L"a distance: click into the drawing or type a length";
-    const auto convert = [&](const SLispAnswer& answer) -> std::optional<CValue> {
+    const auto convert = [&](const LispAnswer& answer) -> std::optional<CValue> {
         if (answer.kind == ANSWER_TEXT) {
-            const auto length = ParseLinear(answer.text);
+            const auto length = units::ParseLinear(answer.text);
             return length ? std::optional(CValue::Real(*length)) : std::nullopt;
         }
         if (!question.base) {
             return PointValue(answer.point);
         }
-        const SLispPoint& base = *question.base;
+        const LispPoint& base = *question.base;
         return CValue::Real(
             std::hypot(answer.point.x - base.x, answer.point.y - base.y, answer.point.z - base.z));
     };
@@ -98,18 +99,18 @@ CLispResult GetDistance(const CArguments& arguments) {
 }
 
 // (getreal [PROMPT])
-CLispResult GetReal(const CArguments& arguments) {
+LispResult GetReal(const CArguments& arguments) {
     return AskUntil(arguments, PromptOf(arguments), Q_TEXT, L"a number: type one such as 12.5",
-                    [](const SLispAnswer& answer) -> std::optional<CValue> {
-                        const auto number = ParseLinear(answer.text);
+                    [](const LispAnswer& answer) -> std::optional<CValue> {
+                        const auto number = units::ParseLinear(answer.text);
                         return number ? std::optional(CValue::Real(*number)) : std::nullopt;
                     });
 }
 
 // (getint [PROMPT])
-CLispResult GetInteger(const CArguments& arguments) {
+LispResult GetInteger(const CArguments& arguments) {
     return AskUntil(arguments, PromptOf(arguments), Q_TEXT, L"a whole number of 32 bits: type one such as 12",
-                    [](const SLispAnswer& answer) -> std::optional<CValue> {
+                    [](const LispAnswer& answer) -> std::optional<CValue> {
                         std::wstring text = Trimmed(answer.text);
                         if (text.starts_with(L'+') && !text.starts_with(L"+-")) {
                             text.erase(0, 1);
@@ -130,34 +131,34 @@ CLispResult GetInteger(const CArguments& arguments) {
 
 // (getstring [SPACES] [PROMPT]): the line as it was typed, whether spaces are wanted or not; "" for a plain
 // Enter.
-CLispResult GetText(const CArguments& arguments) {
-    SQuestion question;
+LispResult GetText(const CArguments& arguments) {
+    Question question;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         if (arguments[i].Type() == VT_STRING || i == 1) {
             question.prompt = arguments.Text(i);
         }
     }
-    const CValue text = AskUntil(arguments, question, Q_TEXT, L"a text", [](const SLispAnswer& answer) {
+    const CValue text = AskUntil(arguments, question, Q_TEXT, L"a text", [](const LispAnswer& answer) {
         return std::optional(CValue::String(answer.text));
     });
     return text.IsNil() ? CValue::String(L"") : text;
 }
 
-CLispResult Alert(const CArguments& arguments) {
+LispResult Alert(const CArguments& arguments) {
     arguments.Evaluator().Host().Alert(arguments.Text(0));
     return CValue();
 }
 
-CLispResult GetVariable(const CArguments& arguments) {
+LispResult GetVariable(const CArguments& arguments) {
     return arguments.Evaluator().Host().GetVariable(UpperCase(arguments.Text(0)));
 }
 
-CLispResult SetVariable(const CArguments& arguments) {
+LispResult SetVariable(const CArguments& arguments) {
     arguments.Evaluator().Host().SetVariable(UpperCase(arguments.Text(0)), arguments[1]);
     return arguments[1];
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"GETPOINT", 0, 2, GetPoint},  {L"GETDIST", 0, 2, GetDistance}, {L"GETREAL", 0, 1, GetReal},
     {L"GETINT", 0, 1, GetInteger},  {L"GETSTRING", 0, 2, GetText},   {L"ALERT", 1, 1, Alert},
     {L"GETVAR", 1, 1, GetVariable}, {L"SETVAR", 2, 2, SetVariable},
@@ -165,6 +166,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> HostFunctions() {
+std::span<const Builtin> HostFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

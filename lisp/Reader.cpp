@@ -5,9 +5,11 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::lisp {
+
 namespace {
 
-// Deeper texts are nobody's work, and what walks over values recurses once per level.
+// Code that walks over values recurses once per level.
 constexpr int kMaxDepth = 1000;
 
 bool IsBlank(wchar_t c) {
@@ -18,7 +20,7 @@ bool EndsWord(wchar_t c) {
     return IsBlank(c) || c == L'(' || c == L')' || c == L'\'' || c == L'"' || c == L';';
 }
 
-// Whether a word is meant as a number: digits with an optional sign, point and exponent.
+// Whether a word has the form of a number: digits with an optional sign, point and exponent.
 bool LooksLikeNumber(std::wstring_view word) {
     std::size_t i = 0;
     const auto skipSign = [&] { i += i < word.size() && (word[i] == L'+' || word[i] == L'-'); };
@@ -90,7 +92,7 @@ void CReader::SkipBlanks() {
 }
 
 void CReader::SkipComment() {
-    const SPosition start = m_position;
+    const Position start = m_position;
     if (m_text.substr(m_next, 2) != L";|") {
         while (!AtEnd() && Peek() != L'\n') {
             Take();
@@ -108,7 +110,7 @@ void CReader::SkipComment() {
 
 // At the first character of an expression.
 CValue CReader::ReadExpression(int depth) {
-    const SPosition start = m_position;
+    const Position start = m_position;
     if (depth > kMaxDepth) {
         Fail(start, L"expressions are nested more than " + std::to_wstring(kMaxDepth) + L" deep");
     }
@@ -135,7 +137,7 @@ CValue CReader::ReadExpression(int depth) {
     }
 }
 
-CValue CReader::ReadList(SPosition start, int depth) {
+CValue CReader::ReadList(Position start, int depth) {
     std::vector<CValue> elements;
     for (;;) {
         SkipBlanks();
@@ -146,7 +148,7 @@ CValue CReader::ReadList(SPosition start, int depth) {
             Take();
             return CValue::List(elements, {}, start.line);
         }
-        const SPosition position = m_position;
+        const Position position = m_position;
         const bool dot = Peek() == L'.' && (m_next + 1 == m_text.size() || EndsWord(m_text[m_next + 1]));
         if (!dot) {
             elements.push_back(ReadExpression(depth + 1));
@@ -154,15 +156,15 @@ CValue CReader::ReadList(SPosition start, int depth) {
         }
         Take();
         if (elements.empty()) {
-            Fail(position, L"nothing stands in front of the dot");
+            Fail(position, L"the dot has no element before it");
         }
         CValue tail = ReadTail(position, depth);
         return CValue::List(elements, std::move(tail), start.line);
     }
 }
 
-// What stands between the dot of a dotted pair and the closing parenthesis.
-CValue CReader::ReadTail(SPosition dot, int depth) {
+// The part of a dotted pair between the dot and the closing parenthesis.
+CValue CReader::ReadTail(Position dot, int depth) {
     SkipBlanks();
     if (AtEnd() || Peek() == L')') {
         Fail(dot, L"nothing follows the dot");
@@ -176,17 +178,17 @@ CValue CReader::ReadTail(SPosition dot, int depth) {
     return tail;
 }
 
-CValue CReader::ReadString(SPosition start) {
+CValue CReader::ReadString(Position start) {
     const std::size_t quote = m_next - 1;
     std::wstring text;
     for (;;) {
         if (AtEnd()) {
             Fail(start, L"a text is not closed");
         }
-        const SPosition position = m_position;
+        const Position position = m_position;
         wchar_t c = Take();
         if (c == L'"') {
-            m_textPlaces.push_back({quote, m_next - quote});
+            m_textRanges.push_back({quote, m_next - quote});
             return CValue::String(std::move(text));
         }
         if (c == L'\\') {
@@ -217,10 +219,10 @@ std::wstring_view CReader::TakeWord() {
     return m_text.substr(start, m_next - start);
 }
 
-CValue CReader::ReadWord(SPosition start) {
+CValue CReader::ReadWord(Position start) {
     const std::wstring_view word = TakeWord();
     if (word == L".") {
-        Fail(start, L"a dot stands outside a list");
+        Fail(start, L"a dot outside a list");
     }
     if (!LooksLikeNumber(word)) {
         return CValue::Symbol(word);
@@ -244,7 +246,7 @@ CValue CReader::ReadWord(SPosition start) {
     return CValue::Real(*number);
 }
 
-void CReader::Fail(SPosition position, const std::wstring& what) {
+void CReader::Fail(Position position, const std::wstring& what) {
     throw CReadError(position.line, position.column, what);
 }
 
@@ -252,3 +254,5 @@ bool IsSymbolName(std::wstring_view name) {
     return !name.empty() && std::none_of(name.begin(), name.end(), EndsWord) && name != L"." &&
            !LooksLikeNumber(name) && UpperCase(name) != L"NIL" && UpperCase(name) != L"T";
 }
+
+}  // namespace tavrin::lisp

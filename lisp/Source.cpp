@@ -8,8 +8,10 @@
 #include "lisp/LispError.h"
 #include "lisp/Reader.h"
 
-SSource ReadText(std::wstring_view text) {
-    SSource source;
+namespace tavrin::lisp {
+
+Source ReadText(std::wstring_view text) {
+    Source source;
     CReader reader(text);
     while (auto expression = reader.Read()) {
         source.expressions.push_back(std::move(*expression));
@@ -17,12 +19,12 @@ SSource ReadText(std::wstring_view text) {
     return source;
 }
 
-SSource ReadSourceFile(const std::wstring& path, const std::wstring& name) {
-    const std::filesystem::path place(path);
-    std::error_code error;
+Source ReadSourceFile(const std::wstring& path, const std::wstring& name) {
+    const std::filesystem::path file(path);
+    std::error_code ignored;
     std::ifstream stream;
-    if (!std::filesystem::is_directory(place, error)) {
-        stream.open(place, std::ios::binary);
+    if (!std::filesystem::is_directory(file, ignored)) {
+        stream.open(file, std::ios::binary);
     }
     if (!stream.is_open()) {
         throw CLispError(L"the file '" + name + L"' cannot be opened: give an existing file");
@@ -32,10 +34,12 @@ SSource ReadSourceFile(const std::wstring& path, const std::wstring& name) {
         throw CLispError(L"the file '" + name + L"' is UTF-16: save it as UTF-8");
     }
     try {
-        SSource source = ReadText(tavrin::encoding::DecodeUtf8OrWindows1252(bytes));
+        Source source = ReadText(encoding::DecodeUtf8OrWindows1252(bytes));
         source.file = name;
         return source;
-    } catch (const CReadError& mistake) {
-        throw mistake.InFile(name);
+    } catch (const CReadError& error) {
+        throw error.InFile(name);
     }
 }
+
+}  // namespace tavrin::lisp

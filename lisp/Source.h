@@ -1,4 +1,4 @@
-// LISP text as expressions, read as a whole before any of it is evaluated.
+// LISP text as expressions. All of it is read before any of it is evaluated.
 #pragma once
 
 #include <string>
@@ -7,14 +7,17 @@
 
 #include "lisp/Value.h"
 
-struct SSource {
+namespace tavrin::lisp {
+
+struct Source {
     std::wstring file;  // as errors name it; empty for typed text
     std::vector<CValue> expressions;
 };
 
 // Throws CReadError.
-SSource ReadText(std::wstring_view text);
+Source ReadText(std::wstring_view text);
 
-// The file at `path`, which errors call `name`. Throws CLispError, which names the file, when it cannot be
-// opened or read.
-SSource ReadSourceFile(const std::wstring& path, const std::wstring& name);
+// The file at `path`; errors call it `name`. Throws CLispError when it cannot be opened or read.
+Source ReadSourceFile(const std::wstring& path, const std::wstring& name);
+
+}  // namespace tavrin::lisp

@@ -1,17 +1,18 @@
-// Joining, cutting and turning texts. Places in a text count from 1; a place is one UTF-16 unit under
-// Windows.
+// Functions on texts. Positions count from 1, in UTF-16 units.
 #include <algorithm>
 
 #include "lisp/Builtins.h"
 #include "lisp/Evaluator.h"
 #include "lisp/LispError.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// Joining a text to itself again and again would otherwise fill the memory in no time.
+// Joining a text to itself in a loop would otherwise exhaust the memory quickly.
 constexpr std::size_t kMaxLength = 4'000'000;
 
-CLispResult Join(const CArguments& arguments) {
+LispResult Join(const CArguments& arguments) {
     std::wstring text;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         text += arguments.Text(i);
@@ -23,8 +24,8 @@ CLispResult Join(const CArguments& arguments) {
     return CValue::String(std::move(text));
 }
 
-// Of all texts together.
-CLispResult Length(const CArguments& arguments) {
+// The total length of all texts.
+LispResult Length(const CArguments& arguments) {
     std::int64_t length = 0;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         length += std::int64_t(arguments.Text(i).size());
@@ -35,10 +36,10 @@ CLispResult Length(const CArguments& arguments) {
     return CValue::Integer(std::int32_t(length));
 }
 
-CLispResult Part(const CArguments& arguments) {
+LispResult Part(const CArguments& arguments) {
     const std::wstring& text = arguments.Text(0);
     if (arguments.Integer(1) < 1) {
-        arguments.Refuse(1, L"a place from 1 on");
+        arguments.Refuse(1, L"a position from 1 on");
     }
     if (arguments.Has(2) && arguments.Integer(2) < 0) {
         arguments.Refuse(2, L"a length from 0 on");
@@ -48,7 +49,7 @@ CLispResult Part(const CArguments& arguments) {
     return CValue::String(start < text.size() ? text.substr(start, length) : L"");
 }
 
-// The letters of ASCII and Latin-1, so that no locale decides what a capital is.
+// Only the letters of ASCII and Latin-1, so that the result does not depend on the locale.
 wchar_t OtherCase(wchar_t c, bool toCapital) {
     constexpr wchar_t kDistance = 0x20;
     const wchar_t capital = toCapital ? wchar_t(c - kDistance) : c;
@@ -58,7 +59,7 @@ wchar_t OtherCase(wchar_t c, bool toCapital) {
 }
 
 // In capitals, or in small letters when the second argument is not nil.
-CLispResult Case(const CArguments& arguments) {
+LispResult Case(const CArguments& arguments) {
     std::wstring text = arguments.Text(0);
     const bool toCapital = !arguments.Has(1) || arguments[1].IsNil();
     for (wchar_t& c : text) {
@@ -67,14 +68,14 @@ CLispResult Case(const CArguments& arguments) {
     return CValue::String(std::move(text));
 }
 
-CLispResult Code(const CArguments& arguments) {
+LispResult Code(const CArguments& arguments) {
     if (arguments.Text(0).empty()) {
         arguments.Refuse(0, L"a text of at least one character");
     }
     return CValue::Integer(std::int32_t(arguments.Text(0)[0]));
 }
 
-CLispResult Character(const CArguments& arguments) {
+LispResult Character(const CArguments& arguments) {
     const std::int32_t code = arguments.Integer(0);
     if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
@@ -82,7 +83,7 @@ CLispResult Character(const CArguments& arguments) {
     return CValue::String(std::wstring(1, wchar_t(code)));
 }
 
-constexpr SBuiltin kFunctions[] = {
+constexpr Builtin kFunctions[] = {
     {L"STRCAT", 0, kAnyCount, Join}, {L"STRLEN", 0, kAnyCount, Length},
     {L"SUBSTR", 2, 3, Part},         {L"STRCASE", 1, 2, Case},
     {L"ASCII", 1, 1, Code},          {L"CHR", 1, 1, Character},
@@ -90,6 +91,8 @@ constexpr SBuiltin kFunctions[] = {
 
 }  // namespace
 
-std::span<const SBuiltin> TextFunctions() {
+std::span<const Builtin> TextFunctions() {
     return kFunctions;
 }
+
+}  // namespace tavrin::lisp

@@ -4,16 +4,18 @@
 
 #include "lisp/Function.h"
 
+namespace tavrin::lisp {
+
 namespace {
 
-// Evaluation knows one thread alone.
+// Evaluation is single-threaded.
 std::size_t heldBytes = 0;
 
-constexpr std::size_t kOfTheHeap = 4 * sizeof(void*);  // what the heap and the count of owners add
+constexpr std::size_t kHeapOverhead = 4 * sizeof(void*);  // bookkeeping of the heap and of std::shared_ptr
 
 }  // namespace
 
-// A text of a value, counted for as long as it lives.
+// A text of a value; its memory is counted.
 class CHeldText {
 public:
     explicit CHeldText(std::wstring text) : m_text(std::move(text)) { heldBytes += Size(); }
@@ -24,7 +26,9 @@ public:
     const std::wstring& Text() const { return m_text; }
 
 private:
-    std::size_t Size() const { return sizeof(CHeldText) + kOfTheHeap + m_text.capacity() * sizeof(wchar_t); }
+    std::size_t Size() const {
+        return sizeof(CHeldText) + kHeapOverhead + m_text.capacity() * sizeof(wchar_t);
+    }
 
     const std::wstring m_text;
 };
@@ -52,7 +56,7 @@ private:
     int m_line;
 };
 
-const std::size_t CPair::kSize = sizeof(CPair) + kOfTheHeap;
+const std::size_t CPair::kSize = sizeof(CPair) + kHeapOverhead;
 
 CPair::~CPair() {
     heldBytes -= kSize;
@@ -62,20 +66,20 @@ CPair::~CPair() {
             parts.push_back(std::move(*part));
         }
     }
-    CValue::LetGo(parts);
+    CValue::Release(parts);
 }
 
-SFunction::~SFunction() {
-    if (auto* definition = std::get_if<SDefinition>(&code)) {
+FunctionObject::~FunctionObject() {
+    if (auto* definition = std::get_if<Definition>(&code)) {
         std::vector<CValue> parts;
         parts.push_back(std::move(definition->body));
-        CValue::LetGo(parts);
+        CValue::Release(parts);
     }
 }
 
-// Parts that nothing else holds are let go in a loop: the members' own destructors would recurse once per
-// element of a list and run out of stack on a long one.
-void CValue::LetGo(std::vector<CValue>& parts) {
+// Destroys parts that are not shared in a loop: the members' own destructors would recurse once per list
+// element and overflow the stack on a long list.
+void CValue::Release(std::vector<CValue>& parts) {
     while (!parts.empty()) {
         CValue part = std::move(parts.back());
         parts.pop_back();
@@ -92,14 +96,14 @@ void CValue::MovePartsTo(std::vector<CValue>& parts) {
         }
     } else if (Type() == VT_FUNCTION) {
         const auto& function = std::get<VT_FUNCTION>(m_data);
-        auto* definition = std::get_if<SDefinition>(&function->code);
+        auto* definition = std::get_if<Definition>(&function->code);
         if (definition != nullptr && function.use_count() == 1) {
             parts.push_back(std::move(definition->body));
         }
     }
 }
 
-// Out of line, since they are long and stand everywhere.
+// Out of line, since they are long and used everywhere.
 CValue::CValue() noexcept = default;
 CValue::CValue(const CValue& other) = default;
 CValue::CValue(CValue&& other) noexcept : m_data(std::exchange(other.m_data, {})) {}
@@ -124,7 +128,7 @@ CValue CValue::Real(double number) {
 
 CValue CValue::String(std::wstring text) {
     CValue value;
-    value.m_data = SString{std::make_shared<const CHeldText>(std::move(text))};
+    value.m_data = StringData{std::make_shared<const CHeldText>(std::move(text))};
     return value;
 }
 
@@ -132,7 +136,7 @@ CValue CValue::Symbol(std::wstring_view name) {
     CValue value;
     std::wstring upperCase = UpperCase(name);
     if (upperCase != L"NIL") {
-        value.m_data = SSymbol{std::make_shared<const CHeldText>(std::move(upperCase))};
+        value.m_data = SymbolData{std::make_shared<const CHeldText>(std::move(upperCase))};
     }
     return value;
 }
@@ -150,7 +154,7 @@ CValue CValue::List(std::span<const CValue> elements, CValue tail, int line) {
     return tail;
 }
 
-CValue CValue::Function(std::shared_ptr<SFunction> function) {
+CValue CValue::Function(std::shared_ptr<FunctionObject> function) {
     CValue value;
     value.m_data = std::move(function);
     return value;
@@ -232,3 +236,5 @@ std::wstring UpperCase(std::wstring_view name) {
     }
     return result;
 }
+
+}  // namespace tavrin::lisp

@@ -1,6 +1,6 @@
 // A LISP value: nil, a 32-bit whole number, a real, a text, a symbol, a pair (lists are chains of pairs that
-// end in nil), a function or an open file. Values are cheap to copy; they share what they consist of, never
-// in cycles, and all but files are immutable.
+// end in nil), a function or an open file. Values are cheap to copy: copies share their contents. There are
+// no cycles, and all values but files are immutable.
 #pragma once
 
 #include <cstddef>
@@ -13,12 +13,14 @@
 #include <variant>
 #include <vector>
 
+namespace tavrin::lisp {
+
 enum EValueType { VT_NIL, VT_INTEGER, VT_REAL, VT_STRING, VT_SYMBOL, VT_PAIR, VT_FUNCTION, VT_FILE };
 
 class CHeldText;
 class CPair;
 class CLispFile;
-struct SFunction;
+struct FunctionObject;
 
 class CValue {
 public:
@@ -36,7 +38,7 @@ public:
     // `line` is where the pair's list begins in a source; 0 for a pair that was not read.
     static CValue Pair(CValue car, CValue cdr, int line = 0);
     static CValue List(std::span<const CValue> elements, CValue tail = {}, int line = 0);
-    static CValue Function(std::shared_ptr<SFunction> function);
+    static CValue Function(std::shared_ptr<FunctionObject> function);
     static CValue File(std::shared_ptr<CLispFile> file);
     static CValue True();
     // T or nil.
@@ -46,7 +48,7 @@ public:
     bool IsNil() const { return Type() == VT_NIL; }
     bool IsSymbol(std::wstring_view upperCaseName) const;
 
-    // Each of these only for a value of that type.
+    // Each requires a value of its type.
     std::int32_t AsInteger() const { return std::get<VT_INTEGER>(m_data); }
     double AsReal() const { return std::get<VT_REAL>(m_data); }
     const std::wstring& AsString() const;
@@ -54,38 +56,39 @@ public:
     const CValue& Car() const;
     const CValue& Cdr() const;
     int Line() const;
-    std::shared_ptr<const SFunction> AsFunction() const { return std::get<VT_FUNCTION>(m_data); }
+    std::shared_ptr<const FunctionObject> AsFunction() const { return std::get<VT_FUNCTION>(m_data); }
     CLispFile& AsFile() const { return *std::get<VT_FILE>(m_data); }
 
-    // What the pairs and texts of all values together take of the memory, in bytes, about.
+    // The approximate memory that the pairs and texts of all values use, in bytes.
     static std::size_t HeldBytes();
 
-    // The same thing, not only one that looks alike: equal numbers, one symbol, the same text, pair,
-    // function or file.
+    // Identity: equal numbers of one type, the same symbol, text, pair, function or file.
     bool IsSameAs(const CValue& other) const;
 
 private:
     friend class CPair;
-    friend struct SFunction;
+    friend struct FunctionObject;
 
-    struct SString {
+    struct StringData {
         std::shared_ptr<const CHeldText> text;
     };
-    struct SSymbol {
+    struct SymbolData {
         std::shared_ptr<const CHeldText> name;
     };
 
     void MovePartsTo(std::vector<CValue>& parts);
-    static void LetGo(std::vector<CValue>& parts);
+    static void Release(std::vector<CValue>& parts);
 
     // In the order of EValueType.
-    std::variant<std::monostate, std::int32_t, double, SString, SSymbol, std::shared_ptr<CPair>,
-                 std::shared_ptr<SFunction>, std::shared_ptr<CLispFile>>
+    std::variant<std::monostate, std::int32_t, double, StringData, SymbolData, std::shared_ptr<CPair>,
+                 std::shared_ptr<FunctionObject>, std::shared_ptr<CLispFile>>
         m_data;
 };
 
-// What an evaluation gave; nothing when a function set no result.
-using CLispResult = std::optional<CValue>;
+// The result of an evaluation; nothing when a function set no result.
+using LispResult = std::optional<CValue>;
 
-// The name in capitals: ASCII letters alone, so that no locale decides which names are the same.
+// The name in capitals. Only ASCII letters change, so that names do not depend on the locale.
 std::wstring UpperCase(std::wstring_view name);
+
+}  // namespace tavrin::lisp

@@ -1,5 +1,5 @@
-// Lengths to text. Rounding happens once, on the whole length; feet and inches are then split off the
-// rounded number in whole arithmetic, so that a carry into the next inch or foot needs no case of its own.
+// Lengths to text. The whole length is rounded once; feet and inches are then split off in integer
+// arithmetic, so that a carry into the next inch or foot needs no special case.
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -9,10 +9,12 @@
 
 #include "units/LinearUnits.h"
 
+namespace tavrin::units {
+
 namespace {
 
 constexpr std::int64_t kInchesPerFoot = 12;
-// Below this, a length in 256ths and its digits in front of the point fit 64 bits.
+// Below this, a length in 256ths and its integer digits fit 64 bits.
 constexpr double kFeetAndFractionsLimit = 1e16;
 constexpr double kDecimalLimit = 1e100;
 constexpr double kSmallestLength = 1e-300;
@@ -27,7 +29,7 @@ std::string Scientific(double magnitude, int precision) {
     std::string text = NumberText(magnitude, std::chars_format::scientific, precision);
     double readBack = 0.0;
     if (std::from_chars(text.data(), text.data() + text.size(), readBack).ec != std::errc()) {
-        // Rounded up past the largest double, which nothing could read: cut instead of rounding.
+        // Rounded up past the largest double, which cannot be read back: truncate instead.
         const std::string exact = NumberText(magnitude, std::chars_format::scientific,
                                              std::numeric_limits<double>::max_digits10 - 1);
         const std::size_t mantissa = precision > 0 ? std::size_t(2 + precision) : 1;
@@ -55,13 +57,13 @@ std::string Engineering(double magnitude, int precision) {
 }
 
 // A length rounded to a fraction: whole + numerator / denominator, reduced.
-struct SFraction {
+struct Fraction {
     std::int64_t whole;
     std::int64_t numerator;
     std::int64_t denominator;
 };
 
-SFraction RoundToFraction(double magnitude, int precision) {
+Fraction RoundToFraction(double magnitude, int precision) {
     const std::int64_t denominator = std::int64_t(1) << precision;
     // Scaling by a power of two is exact, so that this rounds once, halves to even.
     const auto parts = std::int64_t(std::nearbyint(std::ldexp(magnitude, precision)));
@@ -70,12 +72,12 @@ SFraction RoundToFraction(double magnitude, int precision) {
     return {parts / denominator, rest / common, denominator / common};
 }
 
-std::string FractionText(const SFraction& fraction) {
+std::string FractionText(const Fraction& fraction) {
     return std::to_string(fraction.numerator) + '/' + std::to_string(fraction.denominator);
 }
 
 std::string Architectural(double magnitude, int precision) {
-    const SFraction inches = RoundToFraction(magnitude, precision);
+    const Fraction inches = RoundToFraction(magnitude, precision);
     std::string text =
         FeetPrefix(inches.whole / kInchesPerFoot) + std::to_string(inches.whole % kInchesPerFoot);
     if (inches.numerator != 0) {
@@ -85,7 +87,7 @@ std::string Architectural(double magnitude, int precision) {
 }
 
 std::string Fractional(double magnitude, int precision) {
-    const SFraction length = RoundToFraction(magnitude, precision);
+    const Fraction length = RoundToFraction(magnitude, precision);
     if (length.numerator == 0) {
         return std::to_string(length.whole);
     }
@@ -132,3 +134,5 @@ std::optional<std::wstring> FormatLinear(double value, int units, int precision)
     }
     return result;
 }
+
+}  // namespace tavrin::units

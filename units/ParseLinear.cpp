@@ -1,10 +1,12 @@
-// Text to lengths. Decimal digits are added up as digits and converted once, so that 1'-3.1" is the
+// Text to lengths. Feet and inches are added as decimal digits and converted once, so that 1'-3.1" is the
 // double nearest to 15.1 and not a sum of two rounded numbers.
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
 #include "units/LinearUnits.h"
+
+namespace tavrin::units {
 
 namespace {
 
@@ -51,8 +53,8 @@ private:
     std::wstring_view m_text;
 };
 
-// A number without a sign, as its digits in front of and behind the point.
-struct SDecimal {
+// An unsigned number, as its digits before and after the point.
+struct Decimal {
     std::string whole;
     std::string fraction;
     bool hasPoint = false;
@@ -60,8 +62,8 @@ struct SDecimal {
     bool IsNumber() const { return !whole.empty() || !fraction.empty(); }
 };
 
-SDecimal TakeDecimal(CCursor& cursor) {
-    SDecimal number;
+Decimal TakeDecimal(CCursor& cursor) {
+    Decimal number;
     number.whole = cursor.TakeDigits();
     number.hasPoint = cursor.Take(L'.');
     if (number.hasPoint) {
@@ -79,15 +81,15 @@ std::optional<double> ToDouble(const std::string& digits) {
     return value;
 }
 
-std::optional<double> ToDouble(const SDecimal& number) {
+std::optional<double> ToDouble(const Decimal& number) {
     return ToDouble('0' + number.whole + '.' + number.fraction);
 }
 
-// 12 * feet + inches, digit by digit as on paper.
-SDecimal AddFeet(const SDecimal& feet, const SDecimal& inches) {
+// 12 * feet + inches, digit by digit.
+Decimal AddFeet(const Decimal& feet, const Decimal& inches) {
     const std::size_t fraction = std::max(feet.fraction.size(), inches.fraction.size());
     const std::size_t whole = std::max(feet.whole.size(), inches.whole.size());
-    const auto aligned = [&](const SDecimal& number) {
+    const auto aligned = [&](const Decimal& number) {
         return std::string(whole - number.whole.size(), '0') + number.whole + number.fraction +
                std::string(fraction - number.fraction.size(), '0');
     };
@@ -104,15 +106,15 @@ SDecimal AddFeet(const SDecimal& feet, const SDecimal& inches) {
             feet.hasPoint || inches.hasPoint};
 }
 
-// What the fraction `numerator`/… behind `whole` comes to, the cursor being at the slash. The sum is exact
-// for every fraction that FormatLinear writes.
-std::optional<double> TakeFraction(CCursor& cursor, const SDecimal& whole, const SDecimal& numerator) {
+// The value of whole + numerator/…, with the cursor at the slash. The sum is exact for every fraction that
+// FormatLinear writes.
+std::optional<double> TakeFraction(CCursor& cursor, const Decimal& whole, const Decimal& numerator) {
     if (whole.hasPoint || numerator.hasPoint || !cursor.Take(L'/') || !cursor.AtDigit()) {
         return std::nullopt;
     }
     const auto w = ToDouble(whole);
     const auto n = ToDouble(numerator);
-    const auto d = ToDouble(SDecimal{cursor.TakeDigits(), ""});
+    const auto d = ToDouble(Decimal{cursor.TakeDigits(), ""});
     if (!w || !n || !d || *d == 0) {
         return std::nullopt;
     }
@@ -120,8 +122,8 @@ std::optional<double> TakeFraction(CCursor& cursor, const SDecimal& whole, const
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-// Everything from the inches on: `first` is the number that was read last, `feet` what came before it.
-std::optional<double> TakeInches(CCursor& cursor, const SDecimal& feet, const SDecimal& first) {
+// Everything from the inches on: `first` is the number that was read last, `feet` the one before it.
+std::optional<double> TakeInches(CCursor& cursor, const Decimal& feet, const Decimal& first) {
     if (!first.IsNumber()) {
         return std::nullopt;
     }
@@ -138,7 +140,7 @@ std::optional<double> TakeInches(CCursor& cursor, const SDecimal& feet, const SD
     return value;
 }
 
-std::optional<double> TakeExponent(CCursor& cursor, const SDecimal& mantissa) {
+std::optional<double> TakeExponent(CCursor& cursor, const Decimal& mantissa) {
     const bool negative = cursor.Take(L'-');
     if (!negative) {
         cursor.Take(L'+');
@@ -151,7 +153,7 @@ std::optional<double> TakeExponent(CCursor& cursor, const SDecimal& mantissa) {
 }
 
 std::optional<double> TakeMagnitude(CCursor& cursor) {
-    const SDecimal first = TakeDecimal(cursor);
+    const Decimal first = TakeDecimal(cursor);
     if (!first.IsNumber()) {
         return std::nullopt;
     }
@@ -170,7 +172,7 @@ std::optional<double> TakeMagnitude(CCursor& cursor) {
     if (!cursor.Take(L'-')) {
         cursor.TakeBlanks();
     }
-    const SDecimal inches = TakeDecimal(cursor);
+    const Decimal inches = TakeDecimal(cursor);
     return TakeInches(cursor, first, inches);
 }
 
@@ -199,3 +201,5 @@ std::optional<double> ParseLinear(std::wstring_view text) {
     // Adding zero turns a negative zero into a plain one.
     return (negative ? -*magnitude : *magnitude) + 0.0;
 }
+
+}  // namespace tavrin::units

@@ -5,24 +5,27 @@
 #include <string>
 #include <vector>
 
+#include "devhost/Libraries.h"
 #include "devhost/UserError.h"
 #include "units/LinearUnits.h"
 
-// Something to evaluate before the window is the user's.
-struct STask {
+namespace devhost {
+
+// Something to evaluate at the start.
+struct Task {
     bool isScript;      // a file; otherwise expressions, whose values are printed
     std::wstring text;  // the file's name, or the expressions
 
-    bool operator==(const STask&) const = default;
+    bool operator==(const Task&) const = default;
 };
 
-struct SOptions {
+struct Options {
     std::wstring plugIn;  // empty: TavrinWnd.dll beside the executable
     std::vector<std::wstring> searchFolders;
     std::vector<std::wstring> itemFolders;  // empty: samples beside the executable, if there is such a folder
-    std::vector<STask> tasks;               // in the order given
+    std::vector<Task> tasks;                // in the order given
     std::wstring drawingFile;               // empty: the drawing is not kept
-    int lunits = LU_DECIMAL;
+    int lunits = units::LU_DECIMAL;
     int luprec = 4;
     bool checkHeap = false;
     bool stay = false;
@@ -32,7 +35,9 @@ struct SOptions {
 
 // Parses the arguments after the program's name. Throws CUserError for unknown options and arguments, and for
 // missing and invalid values. --help and --version win over everything else.
-SOptions ParseOptions(std::span<const std::wstring> arguments);
+Options ParseOptions(std::span<const std::wstring> arguments);
 
 // What --help prints, in lines.
 const wchar_t* HelpText();
+
+}  // namespace devhost

@@ -170,7 +170,8 @@ TEST(AnyHost, IsToldThatALibraryIsMissing) {
     host.Start({"--eval", R"((tavrinwnd "door"))"});
     EXPECT_EQ(host.Wait(), 1);
     setenv("WINEDLLOVERRIDES", overrides.c_str(), 1);
-    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it needs is missing"), std::string::npos)
+    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it depends on is missing"),
+              std::string::npos)
         << host.Errors();
 }
 

@@ -7,6 +7,8 @@
 #include "lisp/Reader.h"
 #include "tests/fuzz/Fuzz.h"
 
+using namespace tavrin::lisp;
+
 namespace {
 
 void PrintAndRead(const CValue& value) {

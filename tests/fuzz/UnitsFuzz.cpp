@@ -6,6 +6,8 @@
 #include "tests/fuzz/Fuzz.h"
 #include "units/LinearUnits.h"
 
+using namespace tavrin::units;
+
 namespace {
 
 void WriteAndRead(double value, int units, int precision) {

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
-SLineBytes TakeLine(std::string_view& bytes) {
+namespace tavrin::tools {
+
+LineBytes TakeLine(std::string_view& bytes) {
     const std::size_t lineFeed = bytes.find('\n');
-    SLineBytes line{bytes.substr(0, lineFeed), {}};
+    LineBytes line{bytes.substr(0, lineFeed), {}};
     if (lineFeed != std::string_view::npos) {
         const bool hasReturn = line.text.ends_with('\r');
         line.text.remove_suffix(hasReturn ? 1 : 0);
@@ -20,19 +22,19 @@ std::wstring CharactersOf(std::string_view bytes) {
     return text;
 }
 
-std::vector<SFileLine> SplitLines(std::string_view bytes) {
-    std::vector<SFileLine> lines;
+std::vector<FileLine> SplitLines(std::string_view bytes) {
+    std::vector<FileLine> lines;
     while (!bytes.empty()) {
-        const SLineBytes line = TakeLine(bytes);
+        const LineBytes line = TakeLine(bytes);
         lines.push_back({CharactersOf(line.text), std::string(line.ending)});
     }
     return lines;
 }
 
-TextLines TextsOf(const std::vector<SFileLine>& lines) {
+TextLines TextsOf(const std::vector<FileLine>& lines) {
     TextLines texts;
     texts.reserve(lines.size());
-    for (const SFileLine& line : lines) {
+    for (const FileLine& line : lines) {
         texts.push_back(line.text);
     }
     return texts;
@@ -54,3 +56,5 @@ std::string WrittenFile(const TextLines& lines) {
     }
     return bytes;
 }
+
+}  // namespace tavrin::tools

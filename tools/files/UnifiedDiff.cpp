@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tavrin::tools {
+
 namespace {
 
 constexpr std::size_t kContext = 3;
@@ -14,15 +16,15 @@ void AppendLine(std::string& text, char sign, const std::string& line) {
     }
 }
 
-// "7,3": a hunk without lines names the line in front of it.
+// "7,3". An empty range names the line before it.
 std::string Range(std::size_t first, std::size_t count) {
     const std::string start = std::to_string(count == 0 ? first : first + 1);
     return count == 1 ? start : start + "," + std::to_string(count);
 }
 
-using Edits = std::vector<SLineEdit>;
+using Edits = std::vector<LineEdit>;
 
-// The first edit that is too far from the one before it to stand in one hunk with the edits from `first` on.
+// The end of the hunk that begins with `first`: the next edit that is too far from its predecessor.
 Edits::const_iterator EndOfHunk(Edits::const_iterator first, Edits::const_iterator end) {
     for (auto next = first + 1; next != end; first = next++) {
         if (next->line - (first->line + first->removed) > 2 * kContext) {
@@ -34,9 +36,9 @@ Edits::const_iterator EndOfHunk(Edits::const_iterator first, Edits::const_iterat
 
 }  // namespace
 
-std::vector<SLineEdit> EditsBetween(const std::vector<std::string>& before,
-                                    const std::vector<std::string>& after) {
-    std::vector<SLineEdit> edits;
+std::vector<LineEdit> EditsBetween(const std::vector<std::string>& before,
+                                   const std::vector<std::string>& after) {
+    std::vector<LineEdit> edits;
     for (std::size_t line = 0; line < before.size(); ++line) {
         if (before[line] == after[line]) {
             continue;
@@ -51,12 +53,12 @@ std::vector<SLineEdit> EditsBetween(const std::vector<std::string>& before,
 }
 
 std::string UnifiedDiff(const std::string& oldName, const std::string& newName,
-                        const std::vector<std::string>& lines, const std::vector<SLineEdit>& edits) {
+                        const std::vector<std::string>& lines, const std::vector<LineEdit>& edits) {
     if (edits.empty()) {
         return {};
     }
     std::string diff = "--- " + oldName + "\n+++ " + newName + "\n";
-    std::size_t offset = 0;  // of the new lines against the old ones, modulo its range
+    std::size_t offset = 0;  // new minus old line numbers, modulo 2^n
     for (auto first = edits.begin(); first != edits.end();) {
         const auto end = EndOfHunk(first, edits.end());
         const std::size_t start = first->line - std::min(first->line, kContext);
@@ -85,3 +87,5 @@ std::string UnifiedDiff(const std::string& oldName, const std::string& newName,
     }
     return diff;
 }
+
+}  // namespace tavrin::tools

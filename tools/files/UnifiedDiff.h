@@ -1,24 +1,27 @@
-// Changes of a file in the form that patch takes. Whoever changes a file knows what is changed, so nothing is
-// searched for here.
+// Known changes of a file in the format of patch. Differences are not searched for.
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
-// Lines that take the place of others: `removed` lines from `line` on, counted from 0; perhaps none, then the
-// added ones stand in front of it.
-struct SLineEdit {
+namespace tavrin::tools {
+
+// Replaces `removed` lines, from line `line` on (counted from 0), by the added lines. If `removed` is 0, the
+// added lines are inserted before that line.
+struct LineEdit {
     std::size_t line = 0;
     std::size_t removed = 0;
     std::vector<std::string> added;
 };
 
-// The edits that make `after` out of `before`, which has the same number of lines.
-std::vector<SLineEdit> EditsBetween(const std::vector<std::string>& before,
-                                    const std::vector<std::string>& after);
+// The edits that turn `before` into `after`, which must have the same number of lines.
+std::vector<LineEdit> EditsBetween(const std::vector<std::string>& before,
+                                   const std::vector<std::string>& after);
 
 // The edits, in ascending order and not overlapping, as a unified diff with three lines of context; empty
-// when there are none. The lines, those added too, are bytes with their line ends; the last may lack one.
+// when there are none. All lines include their line ends; the last one may have none.
 std::string UnifiedDiff(const std::string& oldName, const std::string& newName,
-                        const std::vector<std::string>& lines, const std::vector<SLineEdit>& edits);
+                        const std::vector<std::string>& lines, const std::vector<LineEdit>& edits);
+
+}  // namespace tavrin::tools

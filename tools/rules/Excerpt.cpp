@@ -4,14 +4,15 @@
 
 #include "encoding/Encoding.h"
 
+namespace tavrin::tools {
+
 namespace {
 
 constexpr std::size_t kLongestExcerpt = 160;
-constexpr std::size_t kContext = 60;  // in front of the offending text, when the line is cut
+constexpr std::size_t kContext = 60;  // before the offending text, when the line is truncated
 constexpr std::size_t kLongestQuote = 60;
 
-// What a character of a file is shown as. The files' characters are bytes, which their authors' programs
-// show in code page 1252.
+// The files' characters are bytes, which editors show in code page 1252.
 wchar_t Shown(wchar_t character) {
     if (character < 0x20) {
         return static_cast<wchar_t>(0x2400 + character);
@@ -23,24 +24,24 @@ wchar_t Shown(wchar_t character) {
         return character;
     }
     const auto byte = static_cast<char>(character);
-    const wchar_t decoded = tavrin::encoding::DecodeWindows1252({&byte, 1}).front();
+    const wchar_t decoded = encoding::DecodeWindows1252({&byte, 1}).front();
     return decoded != character ? decoded : 0xFFFD;
 }
 
 std::string ShownText(std::wstring_view text) {
     std::wstring shown;
     std::transform(text.begin(), text.end(), std::back_inserter(shown), Shown);
-    return tavrin::encoding::EncodeUtf8(shown);
+    return encoding::EncodeUtf8(shown);
 }
 
 }  // namespace
 
-SExcerpt MakeExcerpt(std::wstring_view line, std::size_t start, std::size_t length) {
+Excerpt MakeExcerpt(std::wstring_view line, std::size_t start, std::size_t length) {
     start = std::min(start, line.size());
     length = std::min(length, line.size() - start);
     const bool isCut = line.size() > kLongestExcerpt;
     const std::size_t first = isCut ? start - std::min(start, kContext) : 0;
-    SExcerpt excerpt;
+    Excerpt excerpt;
     excerpt.text = ShownText(line.substr(first, kLongestExcerpt));
     excerpt.start = start - first;
     excerpt.length = std::min(length, kLongestExcerpt - std::min(kLongestExcerpt, excerpt.start));
@@ -51,3 +52,5 @@ std::string Quoted(std::wstring_view text) {
     const bool isCut = text.size() > kLongestQuote;
     return "'" + ShownText(text.substr(0, kLongestQuote)) + (isCut ? "\xE2\x80\xA6'" : "'");
 }
+
+}  // namespace tavrin::tools

@@ -1,5 +1,7 @@
 #include "tools/rules/Finding.h"
 
+namespace tavrin::tools {
+
 std::string_view SeverityName(ESeverity severity) {
     switch (severity) {
         case SV_ERROR:
@@ -10,3 +12,5 @@ std::string_view SeverityName(ESeverity severity) {
             return "note";
     }
 }
+
+}  // namespace tavrin::tools

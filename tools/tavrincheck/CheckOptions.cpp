@@ -6,7 +6,9 @@
 #include "cmdline/CommandLine.h"
 #include "tools/files/Files.h"
 
-using tavrin::cmdline::CCommandLine;
+namespace tavrin::tools {
+
+using cmdline::CCommandLine;
 
 namespace {
 
@@ -15,7 +17,7 @@ EReportFormat FormatOf(const std::string& name) {
         {"text", RF_TEXT}, {"json", RF_JSON}, {"sarif", RF_SARIF}};
     const auto format = kFormats.find(name);
     if (format == kFormats.end()) {
-        throw tavrin::cmdline::InvalidValue("--format", name, "text, json or sarif");
+        throw cmdline::InvalidValue("--format", name, "text, json or sarif");
     }
     return format->second;
 }
@@ -29,8 +31,8 @@ void AppendList(std::vector<std::string>& list, const std::string& value) {
 
 }  // namespace
 
-SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
-    SCheckOptions options;
+CheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
+    CheckOptions options;
     CCommandLine commandLine;
     commandLine.AddOption("--format", "json",
                           [&](const std::string& value) { options.format = FormatOf(value); });
@@ -54,21 +56,24 @@ const char* CheckHelp() {
     return R"(tavrincheck: checks item files as the module reads them
 
   tavrincheck [OPTIONS] FILE|FOLDER...
+  tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
+  tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
 
-NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared when both are
-there. In folders all *.TXT are checked. Beside NAME.TXT the picture NAME.png and the slides that NAME.lsp
-offers are looked for.
+NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared if both exist. In
+folders all *.TXT are checked. The picture NAME.png and the slides that NAME.lsp offers must exist beside NAME.TXT.
 
-  --texts FILE       the texts that placeholders stand for: a string table script or a TavrinRes.dll;
-                     repeatable, one per language
-  --format FORMAT    text (the default), json or sarif
-  --disable RULES    leave out a rule, or several with commas between them; repeatable
-  --strict           let notes count for the exit status
+  --texts FILE       the texts of placeholders: a string table script or a TavrinRes.dll; repeatable, one per
+                     language
+  --format FORMAT    text (default), json or sarif
+  --disable RULES    disable a rule, or several separated by commas; repeatable
+  --strict           notes count for the exit status too
   --rules            print all rules, each with an explanation and an example
   --version          print the version
-  --help             print this text
+  -h, --help         print this help
 
-Exit status: 0 nothing was found, or nothing but notes without --strict; 1 something was found; 2 a file
-could not be read, the findings could not be printed, or the command line makes no sense.
+Exit status: 0 no findings, or only notes without --strict; 1 findings; 2 a file could not be read, the findings
+could not be printed, or the command line is invalid.
 )";
 }
+
+}  // namespace tavrin::tools

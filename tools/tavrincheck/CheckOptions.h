@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::tools {
+
 enum EReportFormat { RF_TEXT, RF_JSON, RF_SARIF };
 
-struct SCheckOptions {
+struct CheckOptions {
     std::vector<std::string> names;  // files and folders
     std::vector<std::string> texts;
     std::vector<std::string> disabledRules;
@@ -19,7 +21,9 @@ struct SCheckOptions {
 
 // Throws CUsageError (cmdline/CommandLine.h) for options that are wrong, and CToolError when there is nothing
 // to do.
-SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments);
+CheckOptions ParseCheckOptions(const std::vector<std::string>& arguments);
 
 // What --help prints.
 const char* CheckHelp();
+
+}  // namespace tavrin::tools

@@ -11,7 +11,9 @@
 #include "tools/texts/ScriptEdit.h"
 #include "tools/texts/StringModule.h"
 
-using tavrin::cmdline::CCommandLine;
+namespace tavrin::tools {
+
+using cmdline::CCommandLine;
 
 namespace {
 
@@ -19,18 +21,18 @@ constexpr const char* kHelp = R"(tavrincheck extract: moves literal labels into 
 
   tavrincheck extract FILE --from N [--rc SCRIPT] [--write]
 
-Each label of FILE without a placeholder, and its title, becomes a text of the script, and a placeholder takes
-its place; a mark % stays in the file. All else keeps every byte. Without --write nothing is written: what
-would change is printed as a diff.
+Each label of FILE without a placeholder, and its title, becomes a text of the script and is replaced by a
+placeholder; a mark % stays in the file. All other bytes stay the same. Without --write nothing is written: the
+changes are printed as a diff.
 
-  --from N       the first number for a new text, 1 to 65535; numbers that are taken are left out
-  --rc SCRIPT    the script that the texts are added to, to its last table in the language of its first; one
-                 that is not there is made (FILE with the ending .rc). A text that it has already is used again
+  --from N       the first number for a new text, 1 to 65535; numbers in use are skipped
+  --rc SCRIPT    the script for the texts (default: FILE with the ending .rc). They are added to its last table in
+                 the language of its first; existing texts are reused. A missing script is created
   --write        write both files
-  --help         print this text
+  -h, --help     print this help
 )";
 
-struct SOptions {
+struct Options {
     std::vector<std::string> files;
     std::optional<std::string> script;
     int firstNumber = 0;  // 0: not given
@@ -38,8 +40,8 @@ struct SOptions {
     bool help = false;
 };
 
-SOptions ParseOptions(const std::vector<std::string>& arguments) {
-    SOptions options;
+Options ParseOptions(const std::vector<std::string>& arguments) {
+    Options options;
     CCommandLine commandLine;
     commandLine.AddNumber("--from", 1501, {1, kHighestTextNumber}, options.firstNumber);
     commandLine.AddOption("--rc", "TavrinRes.rc", [&](const std::string& value) { options.script = value; });
@@ -62,42 +64,42 @@ SOptions ParseOptions(const std::vector<std::string>& arguments) {
 }
 
 // A file before and after.
-struct SChange {
+struct Change {
     std::string name;
     bool isNew = false;
     std::vector<std::string> lines;
-    std::vector<SLineEdit> edits;
+    std::vector<LineEdit> edits;
 
     std::string Diff() const { return UnifiedDiff(isNew ? "/dev/null" : name, name, lines, edits); }
     std::string After() const { return Edited(lines, edits); }
 };
 
-std::vector<std::string> Bytes(const std::vector<SFileLine>& lines) {
+std::vector<std::string> Bytes(const std::vector<FileLine>& lines) {
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
-    for (const SFileLine& line : lines) {
+    for (const FileLine& line : lines) {
         bytes.push_back(BytesOf(line.text) + line.ending);
     }
     return bytes;
 }
 
-// The script's bytes; nothing when it has to be made.
+// The script's bytes; nothing when it does not exist.
 std::optional<std::string> ReadScript(const std::string& name, const std::string& templateName) {
     if (!std::filesystem::exists(PathOf(name))) {
         return std::nullopt;
     }
     if (std::filesystem::equivalent(PathOf(name), PathOf(templateName))) {
-        throw CToolError(name + ": this is the template itself: name a string table script with --rc");
+        throw CToolError(name + ": this is the template itself: give a string table script with --rc");
     }
     std::string bytes = ReadBytes(name);
     if (LooksLikeModule(bytes)) {
-        throw CToolError(name + ": texts are not added to a module: name the script that it is made from");
+        throw CToolError(name + ": texts cannot be added to a module: give its script");
     }
     return bytes;
 }
 
-SChange ScriptChange(const std::string& name, const std::optional<std::string>& script,
-                     const std::string& templateName, const std::vector<SNewText>& texts) {
+Change ScriptChange(const std::string& name, const std::optional<std::string>& script,
+                    const std::string& templateName, const std::vector<NewText>& texts) {
     if (script) {
         return {name, false, LinesWithEnds(*script), EditsOfScript(name, *script, texts)};
     }
@@ -107,38 +109,38 @@ SChange ScriptChange(const std::string& name, const std::optional<std::string>& 
 }  // namespace
 
 int RunExtract(const std::vector<std::string>& arguments) {
-    const SOptions options = ParseOptions(arguments);
+    const Options options = ParseOptions(arguments);
     if (options.help) {
         Print(kHelp);
         return 0;
     }
     const std::string& file = options.files.front();
     const std::string scriptName = options.script.value_or(NameOf(PathOf(file).replace_extension(".rc")));
-    const std::vector<SFileLine> lines = SplitLines(ReadBytes(file));
+    const std::vector<FileLine> lines = SplitLines(ReadBytes(file));
     CTextTable table;
     const std::optional<std::string> script = ReadScript(scriptName, file);
     if (script) {
         table.ReadBytes(scriptName, *script);
     }
-    const SExtraction extraction =
+    const Extraction extraction =
         ExtractLabels(lines, static_cast<unsigned>(options.firstNumber), KnownTexts(table));
     for (const std::string& note : extraction.notes) {
         Print(file + ": " + note + "\n");
     }
     const std::vector<std::string> before = Bytes(lines);
-    const SChange templateChange = {file, false, before, EditsBetween(before, Bytes(extraction.lines))};
+    const Change templateChange = {file, false, before, EditsBetween(before, Bytes(extraction.lines))};
     if (templateChange.edits.empty()) {
         Print(file + ": there is no literal label to move\n");
         return 0;
     }
-    std::vector<SChange> changes;
+    std::vector<Change> changes;
     if (!extraction.newTexts.empty()) {
-        // First, so that no placeholder stands in the template without its text.
+        // First, so that the template never has a placeholder without a text.
         changes.push_back(
             ScriptChange(scriptName, script, NameOf(PathOf(file).filename()), extraction.newTexts));
     }
     changes.push_back(templateChange);
-    for (const SChange& change : changes) {
+    for (const Change& change : changes) {
         if (options.write) {
             WriteBytes(change.name, change.After());
             Print(change.name + ": written\n");
@@ -152,3 +154,5 @@ int RunExtract(const std::vector<std::string>& arguments) {
     }
     return 0;
 }
+
+}  // namespace tavrin::tools

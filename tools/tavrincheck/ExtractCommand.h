@@ -1,10 +1,14 @@
-// tavrincheck extract: literal labels become texts.
+// tavrincheck extract: moves literal labels into a string table script.
 #pragma once
 
 #include <string>
 #include <vector>
 
-// Shows, or with --write makes, the changes of the template and the script that the arguments name, and gives
-// the exit status 0. Throws CToolError or CUsageError when the arguments make no sense or a file cannot be
-// read or written.
+namespace tavrin::tools {
+
+// Prints the changes of the template and the script that the arguments name, or with --write makes them.
+// Returns the exit status 0. Throws CToolError or CUsageError for invalid arguments and for files that cannot
+// be read or written.
 int RunExtract(const std::vector<std::string>& arguments);
+
+}  // namespace tavrin::tools

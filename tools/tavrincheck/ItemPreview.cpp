@@ -9,15 +9,17 @@
 #include "itemdlg/NumberText.h"
 #include "units/LinearUnits.h"
 
+namespace tavrin::tools {
+
 namespace {
 
 std::string Quoted(const std::wstring& text) {
-    return "'" + tavrin::encoding::EncodeUtf8(text) + "'";
+    return "'" + encoding::EncodeUtf8(text) + "'";
 }
 
 }  // namespace
 
-CItemPreview::CItemPreview(const TextLines& workingFile, SPreviewSettings settings)
+CItemPreview::CItemPreview(const TextLines& workingFile, PreviewSettings settings)
     : m_settings(std::move(settings)),
       m_contents(ReadItem(workingFile, m_settings.scale, m_settings.mode, m_settings.texts)) {}
 
@@ -67,17 +69,16 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
     }
     ParamRecord& record = parameter.record;
     if (record.type == 'I') {
-        const std::optional<int> whole =
-            tavrin::cmdline::ParseNumber<int>(tavrin::encoding::EncodeUtf8(value));
+        const std::optional<int> whole = cmdline::ParseNumber<int>(encoding::EncodeUtf8(value));
         if (!whole) {
             throw CToolError("parameter " + Quoted(number) + " takes a whole number, not " + Quoted(value));
         }
         record.intValue = *whole;
         return;
     }
-    const std::optional<double> real =
-        record.type == 'D' ? ParseLinear(value)
-                           : tavrin::cmdline::ParseNumber<double>(tavrin::encoding::EncodeUtf8(value));
+    const std::optional<double> real = record.type == 'D'
+                                           ? units::ParseLinear(value)
+                                           : cmdline::ParseNumber<double>(encoding::EncodeUtf8(value));
     if (!real || !std::isfinite(*real)) {
         throw CToolError("parameter " + Quoted(number) +
                          (record.type == 'D' ? " takes a distance, not " : " takes a real number, not ") +
@@ -94,7 +95,7 @@ TextLines CItemPreview::TemplateFileAfter(TextLines lines) const {
     return Rewritten(std::move(lines), RewriteTemplateFile);
 }
 
-// The dialog asks rows for their values. A record that has none keeps the value that it was read with.
+// Parameters without a row keep the value that was read.
 TextLines CItemPreview::Rewritten(TextLines lines, Rewriter rewrite) const {
     ParamRecordMap records;
     for (const ItemParameter& parameter : m_contents.parameters) {
@@ -104,3 +105,5 @@ TextLines CItemPreview::Rewritten(TextLines lines, Rewriter rewrite) const {
             [this](const ParamRecord& record) { return ValueText(record, m_settings.scale); });
     return lines;
 }
+
+}  // namespace tavrin::tools

@@ -1,6 +1,5 @@
-// The item dialog without windows: the rows that it would show of a working file, the values that a user
-// could give them, and the two files as OK would write them. All of it is the module's own code; only the
-// host's distance format is asked for.
+// The item dialog without windows: the rows for a working file, their values, and the two files as OK would
+// write them. Uses the module's own code; the host's distance format is a parameter.
 #pragma once
 
 #include <functional>
@@ -9,28 +8,30 @@
 #include "itemdlg/ItemContents.h"
 #include "tools/files/Files.h"
 
-struct SPreviewSettings {
+namespace tavrin::tools {
+
+struct PreviewSettings {
     double scale = 1.0;                                // between the values in the files and those shown
     int mode = 0;                                      // 1 makes marked rows read-only
-    TextLookup texts;                                  // of the resource module
+    TextLookup texts;                                  // the texts of placeholders
     std::function<std::wstring(double)> distanceText;  // as the host shows a distance
 };
 
 class CItemPreview {
 public:
-    CItemPreview(const TextLines& workingFile, SPreviewSettings settings);
+    CItemPreview(const TextLines& workingFile, PreviewSettings settings);
 
     const ItemContents& Contents() const { return m_contents; }
 
-    // What the value column of a parameter's row shows; empty for an invalid type.
+    // The text of a parameter's value in the grid; empty for an invalid type.
     std::wstring ValueTextOf(const ItemParameter& parameter) const;
 
-    // Types a value, as shown, into the row of the parameter with that number: a whole number, a real number,
-    // or a distance in any of the host's forms. Throws CToolError when no one row has the number, when the
-    // row is read-only, or when the value is none of its kind.
+    // Types a value into the row of the parameter with that number: a whole number, a real number, or a
+    // distance in any of the host's formats. Throws CToolError when there is no such row or more than one,
+    // when it is read-only, and for an invalid value.
     void SetValue(const std::wstring& number, const std::wstring& value);
 
-    // The lines of the two files as OK would leave them. The working file is the one that was read.
+    // The lines of the two files as OK would write them. The working file is the one that was read.
     TextLines WorkingFileAfter(TextLines lines) const;
     TextLines TemplateFileAfter(TextLines lines) const;
 
@@ -40,6 +41,8 @@ private:
     ItemParameter& FindRow(const std::wstring& number);
     TextLines Rewritten(TextLines lines, Rewriter rewrite) const;
 
-    SPreviewSettings m_settings;
+    PreviewSettings m_settings;
     ItemContents m_contents;
 };
+
+}  // namespace tavrin::tools

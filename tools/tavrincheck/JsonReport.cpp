@@ -2,11 +2,13 @@
 
 #include "tools/tavrincheck/Report.h"
 
-std::string JsonReport(std::span<const SFinding> findings) {
+namespace tavrin::tools {
+
+std::string JsonReport(std::span<const Finding> findings) {
     using Json = nlohmann::ordered_json;
     Json list = Json::array();
     std::size_t counts[] = {0, 0, 0};
-    for (const SFinding& finding : findings) {
+    for (const Finding& finding : findings) {
         list.push_back(Json{{"file", finding.file},
                             {"line", finding.line},
                             {"column", finding.column},
@@ -20,6 +22,8 @@ std::string JsonReport(std::span<const SFinding> findings) {
                          {"errors", counts[SV_ERROR]},
                          {"warnings", counts[SV_WARNING]},
                          {"notes", counts[SV_NOTE]}};
-    // A file's name may be no UTF-8.
+    // A file name may be invalid UTF-8.
     return report.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
+
+}  // namespace tavrin::tools

@@ -10,28 +10,30 @@
 #include "itemdlg/TemplateText.h"
 #include "tools/files/Files.h"
 
+namespace tavrin::tools {
+
 namespace {
 
 constexpr std::size_t kTitleIndex = kTitleLine;
 
-// A refusal to move a literal, in words for a note.
-struct SRefusal {
+// The reason why a literal cannot be moved.
+struct Refusal {
     std::string reason;
 };
 
 class CExtractor {
 public:
-    CExtractor(const std::vector<SFileLine>& lines, unsigned firstNumber, SKnownTexts known)
+    CExtractor(const std::vector<FileLine>& lines, unsigned firstNumber, KnownTextNumbers known)
         : m_known(std::move(known)), m_next(firstNumber) {
         m_extraction.lines = lines;
-        for (const SFileLine& line : lines) {
+        for (const FileLine& line : lines) {
             TakePlaceholders(line.text);
         }
     }
 
-    SExtraction Run() {
+    Extraction Run() {
         CBlockTracker block;
-        const std::vector<SFileLine>& lines = m_extraction.lines;
+        const std::vector<FileLine>& lines = m_extraction.lines;
         for (std::size_t index = 0; index < lines.size(); ++index) {
             const bool isInBlock = block.TakeLine(lines[index].text);
             const bool isParameter = isInBlock && ParseParameterLine(lines[index].text);
@@ -40,7 +42,7 @@ public:
             }
             try {
                 MoveLine(index, isParameter);
-            } catch (const SRefusal& refusal) {
+            } catch (const Refusal& refusal) {
                 m_extraction.notes.push_back("line " + std::to_string(index + 1) +
                                              " stays: " + refusal.reason);
             }
@@ -49,7 +51,7 @@ public:
     }
 
 private:
-    // All numbers in double angle brackets, whether they count or not.
+    // All numbers in double angle brackets, whether the reader uses them or not.
     void TakePlaceholders(const std::wstring& line) {
         for (std::size_t at = line.find(L"<<"); at != std::wstring::npos; at = line.find(L"<<", at + 1)) {
             const std::size_t end = line.find_first_not_of(L"0123456789", at + 2);
@@ -66,7 +68,7 @@ private:
     void MoveLine(std::size_t index, bool isParameter) {
         std::wstring& line = m_extraction.lines[index].text;
         if (index == kTitleIndex && isParameter) {
-            throw SRefusal{"it is title and parameter at once, give the file a title line"};
+            throw Refusal{"it is title and parameter at once, give the file a title line"};
         }
         line = index == kTitleIndex ? MovedTitle(line) : MovedLabel(line);
     }
@@ -76,10 +78,10 @@ private:
             return line;
         }
         if (line == CBlockTracker::kOpeningLine || line == CBlockTracker::kClosingLine) {
-            throw SRefusal{"it is the title and bounds a block, give the file a title line"};
+            throw Refusal{"it is the title and bounds a block, give the file a title line"};
         }
         if (line.find(L'\0') != std::wstring::npos) {
-            throw SRefusal{"its title holds a null character"};
+            throw Refusal{"its title contains a null character"};
         }
         return L"<<" + std::to_wstring(NumberOf(line)) + L">>";
     }
@@ -92,27 +94,27 @@ private:
         std::wstring text = parameter.label;
         const bool isMarked = TakeReadOnlyMark(text);
         if (text.empty()) {
-            throw SRefusal{"its label is empty, write one"};
+            throw Refusal{"its label is empty, write one"};
         }
-        // Where the value holds angle brackets of its own, those would count in place of the label's.
+        // Placeholders in the value would be used instead of the label's.
         if (PlaceholderNumber(WithLabel(line, parameter, L"<<1>>")) != 1) {
-            throw SRefusal{"its value holds a placeholder, which OK would write into the label"};
+            throw Refusal{"its value contains a placeholder, which OK would write into the label"};
         }
         const std::wstring number = std::to_wstring(NumberOf(text));
         return WithLabel(line, parameter, L"<<" + number + (isMarked ? L">>%" : L">>"));
     }
 
-    // Neither the number nor the blanks before the label hold a quote.
+    // There is no quote before the label's.
     static std::wstring WithLabel(std::wstring line, const ParameterLine& parameter,
                                   const std::wstring& label) {
         return line.replace(line.find(L'"') + 1, parameter.label.size(), label);
     }
 
-    // The number of a text, a new one if no text is the same.
+    // The number of a text; a new one if the script does not have the text.
     unsigned NumberOf(const std::wstring& text) {
         if (text.size() > CTextTable::kLongestText) {
-            throw SRefusal{"its text is longer than the " + std::to_string(CTextTable::kLongestText) +
-                           " characters that the module takes"};
+            throw Refusal{"its text is longer than the " + std::to_string(CTextTable::kLongestText) +
+                          " characters that the module takes"};
         }
         const auto found = m_known.texts.find(text);
         if (found != m_known.texts.end()) {
@@ -122,8 +124,8 @@ private:
             ++m_next;
         }
         if (m_next > kHighestTextNumber) {
-            throw CToolError("there is no free number left for a text: the highest is " +
-                             std::to_string(kHighestTextNumber) + ", begin lower with --from");
+            throw CToolError("there is no unused number left for a text: the highest is " +
+                             std::to_string(kHighestTextNumber) + ", give a lower one with --from");
         }
         m_known.taken.insert(m_next);
         m_known.texts[text] = m_next;
@@ -131,18 +133,18 @@ private:
         return m_next;
     }
 
-    SKnownTexts m_known;
+    KnownTextNumbers m_known;
     unsigned m_next;
-    SExtraction m_extraction;
+    Extraction m_extraction;
 };
 
 }  // namespace
 
-SKnownTexts KnownTexts(const CTextTable& script) {
-    SKnownTexts known;
-    for (const SText& text : script.Texts()) {
+KnownTextNumbers KnownTexts(const CTextTable& script) {
+    KnownTextNumbers known;
+    for (const TextEntry& text : script.Texts()) {
         known.taken.insert(text.number);
-        // Number 0 is no placeholder; a text that is cut or stands there twice shows as its first.
+        // Number 0 is not a placeholder. Of equal texts the first is used.
         if (text.language == 0 && text.number != 0) {
             known.texts.try_emplace(text.text, text.number);
         }
@@ -150,7 +152,9 @@ SKnownTexts KnownTexts(const CTextTable& script) {
     return known;
 }
 
-SExtraction ExtractLabels(const std::vector<SFileLine>& lines, unsigned firstNumber,
-                          const SKnownTexts& known) {
+Extraction ExtractLabels(const std::vector<FileLine>& lines, unsigned firstNumber,
+                         const KnownTextNumbers& known) {
     return CExtractor(lines, firstNumber, known).Run();
 }
+
+}  // namespace tavrin::tools

@@ -1,5 +1,5 @@
-// Takes the literal labels and the literal title out of a template and puts placeholders there, so that the
-// dialog shows the same once their texts are in the resource module.
+// Replaces literal labels and a literal title of a template by placeholders, so that the dialog shows the
+// same once the texts are in the resource module.
 #pragma once
 
 #include <map>
@@ -11,24 +11,27 @@
 #include "tools/texts/ScriptEdit.h"
 #include "tools/texts/TextTable.h"
 
-// Numbers and texts that are known already.
-struct SKnownTexts {
+namespace tavrin::tools {
+
+// The numbers and texts of a script.
+struct KnownTextNumbers {
     std::set<unsigned> taken;                // in any language
     std::map<std::wstring, unsigned> texts;  // of the language that new texts are written in
 };
 
-// What a script knows; the language is that of its first table.
-SKnownTexts KnownTexts(const CTextTable& script);
+// The language is that of the script's first table.
+KnownTextNumbers KnownTexts(const CTextTable& script);
 
-struct SExtraction {
-    std::vector<SFileLine> lines;    // the template as it becomes
-    std::vector<SNewText> newTexts;  // in the order of their lines; equal texts share a number
-    std::vector<std::string> notes;  // what stays as it is although it is literal, and why: UTF-8
+struct Extraction {
+    std::vector<FileLine> lines;     // of the new template
+    std::vector<NewText> newTexts;   // in the order of their lines; equal texts share a number
+    std::vector<std::string> notes;  // why literals stay: UTF-8
 };
 
-// Numbers are given from `firstNumber` on; those that are taken, and those that the template's placeholders
-// name, are skipped. The read-only mark stays in the template behind its placeholder. A literal stays where
-// the dialog would show, or OK would write, anything else than before. Throws CToolError when the numbers,
-// which end at 65535, run out.
-SExtraction ExtractLabels(const std::vector<SFileLine>& lines, unsigned firstNumber,
-                          const SKnownTexts& known);
+// New numbers begin with `firstNumber`; those in `known` and in the template's placeholders are skipped. The
+// read-only mark stays in the template after the placeholder. A literal stays if the dialog would show, or OK
+// would write, anything else than before. Throws CToolError when there are no numbers left up to 65535.
+Extraction ExtractLabels(const std::vector<FileLine>& lines, unsigned firstNumber,
+                         const KnownTextNumbers& known);
+
+}  // namespace tavrin::tools

@@ -3,6 +3,10 @@
 
 #include <string_view>
 
-// Prints text, which has left the program when this comes back. Throws CToolError when it cannot be written:
-// who reads a report must not take half of it for the whole.
+namespace tavrin::tools {
+
+// Prints text and flushes. Throws CToolError when it cannot be written, so that a truncated report does not
+// look complete.
 void Print(std::string_view text);
+
+}  // namespace tavrin::tools

@@ -21,8 +21,10 @@
 #include "tools/texts/TextTable.h"
 #include "units/LinearUnits.h"
 
-using tavrin::cmdline::CCommandLine;
-using tavrin::cmdline::InvalidValue;
+namespace tavrin::tools {
+
+using cmdline::CCommandLine;
+using cmdline::InvalidValue;
 
 namespace {
 
@@ -30,33 +32,32 @@ constexpr const char* kHelp = R"(tavrincheck preview: shows the item dialog as t
 
   tavrincheck preview [OPTIONS] FILE
 
-The dialog is filled from FILE. With NAME_TMP.TXT that is the working file, and OK writes NAME.TXT beside it
-too. With any other file, a template, the working file is taken to be a copy of it, as item routines write it.
+If FILE is NAME_TMP.TXT, the dialog shows that working file, and OK writes NAME.TXT beside it too. Any other file is
+a template; the working file is assumed to be a copy of it, as item routines write it.
 
-  --texts FILE         the texts that placeholders stand for: a string table script or a TavrinRes.dll;
-                       repeatable; with several languages the first is shown. Without this option placeholders
-                       are shown as they stand
-  --scale X            the factor between the values in the files and those shown (1)
-  --mode N             the mode; 1 makes labels with the mark % read-only (0)
-  --lunits N           the drawing's LUNITS, 1 to 5: how distances are shown (2)
-  --luprec N           the drawing's LUPREC, 0 to 8 (4)
-  --set NUMBER=VALUE   types a value into the row of the parameter with that number, as it is shown; repeatable
-  --help               print this text
+  --texts FILE         the texts of placeholders: a string table script or a TavrinRes.dll; repeatable, the
+                       first language is shown. Without this option placeholders are shown as they are
+  --scale X            the factor between the values in the files and in the dialog (default: 1)
+  --mode N             the mode; 1 makes labels with the mark % read-only (default: 0)
+  --lunits N           the drawing's LUNITS for distances, 1 to 5 (default: 2)
+  --luprec N           the drawing's LUPREC for distances, 0 to 8 (default: 4)
+  --set NUMBER=VALUE   type a value into the row of the parameter with that number; repeatable
+  -h, --help           print this help
 )";
 
-struct SOptions {
+struct Options {
     std::vector<std::string> files;
     std::vector<std::string> texts;
     std::vector<std::pair<std::string, std::string>> values;
     double scale = 1.0;
     int mode = 0;
-    int units = LU_DECIMAL;
+    int units = units::LU_DECIMAL;
     int precision = 4;
     bool help = false;
 };
 
 double ScaleOf(const std::string& text) {
-    const std::optional<double> number = tavrin::cmdline::ParseNumber<double>(text);
+    const std::optional<double> number = cmdline::ParseNumber<double>(text);
     if (!number || !std::isfinite(*number)) {
         throw InvalidValue("--scale", text, "a number, for example 0.001");
     }
@@ -71,16 +72,16 @@ std::pair<std::string, std::string> Assignment(const std::string& text) {
     return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
-SOptions ParseOptions(const std::vector<std::string>& arguments) {
+Options ParseOptions(const std::vector<std::string>& arguments) {
     using Limits = std::numeric_limits<short>;
-    SOptions options;
+    Options options;
     CCommandLine commandLine;
     commandLine.AddTexts("--texts", "TavrinRes.rc", options.texts);
     commandLine.AddOption("--scale", "0.001",
                           [&](const std::string& value) { options.scale = ScaleOf(value); });
     commandLine.AddNumber("--mode", 1, {Limits::min(), Limits::max()}, options.mode);
-    commandLine.AddNumber("--lunits", 4, {LU_SCIENTIFIC, LU_FRACTIONAL}, options.units);
-    commandLine.AddNumber("--luprec", 2, {0, kMaxLinearPrecision}, options.precision);
+    commandLine.AddNumber("--lunits", 4, {units::LU_SCIENTIFIC, units::LU_FRACTIONAL}, options.units);
+    commandLine.AddNumber("--luprec", 2, {0, units::kMaxLinearPrecision}, options.precision);
     commandLine.AddOption("--set", "1=900",
                           [&](const std::string& value) { options.values.push_back(Assignment(value)); });
     commandLine.AddExitFlag("--help", options.help);
@@ -94,17 +95,17 @@ SOptions ParseOptions(const std::vector<std::string>& arguments) {
     return options;
 }
 
-SPreviewFile ReadLines(const std::string& name) {
+PreviewFile ReadLines(const std::string& name) {
     return {name, SplitLines(ReadBytes(name))};
 }
 
-SPreviewInput ReadInput(const std::string& file) {
-    SPreviewInput input;
+PreviewInput ReadInput(const std::string& file) {
+    PreviewInput input;
     std::string base;
     if (const std::optional<std::string> item = WithoutEnding(file, kWorkingFileEnding)) {
         base = *item;
         input.workingFile = ReadLines(file);
-        input.templateName = base + tavrin::encoding::EncodeUtf8(kTemplateFileEnding);
+        input.templateName = base + encoding::EncodeUtf8(kTemplateFileEnding);
         if (std::filesystem::is_regular_file(PathOf(input.templateName))) {
             input.templateFile = ReadLines(input.templateName);
         }
@@ -112,17 +113,16 @@ SPreviewInput ReadInput(const std::string& file) {
         base = WithoutEnding(file, kTemplateFileEnding).value_or(file);
         input.templateName = file;
         input.templateFile = ReadLines(file);
-        input.workingFile = {base + tavrin::encoding::EncodeUtf8(kWorkingFileEnding),
-                             input.templateFile->lines};
+        input.workingFile = {base + encoding::EncodeUtf8(kWorkingFileEnding), input.templateFile->lines};
     }
-    const std::string picture = base + tavrin::encoding::EncodeUtf8(kPictureEnding);
+    const std::string picture = base + encoding::EncodeUtf8(kPictureEnding);
     if (std::filesystem::is_regular_file(PathOf(picture))) {
         input.picture = picture;
     }
     return input;
 }
 
-// What placeholders stand for; takes down the numbers that no file has.
+// The texts of placeholders; collects the numbers that no file has.
 TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
     if (texts.Files().empty()) {
         return [](unsigned number) {
@@ -140,20 +140,20 @@ TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
 std::string MissingTexts(const std::set<unsigned>& missing) {
     std::string text;
     for (const unsigned number : missing) {
-        text += "text " + std::to_string(number) + " is not there: it shows as nothing\n";
+        text += "text " + std::to_string(number) + " is missing and shown as an empty text\n";
     }
     return text.empty() ? text : "\n" + text;
 }
 
-// The numbers of parameters are digits; what else is typed names none.
+// Invalid UTF-8 becomes a text that is no number.
 std::wstring Wide(const std::string& text) {
-    return tavrin::encoding::DecodeUtf8(text).value_or(std::wstring(1, L'\xFFFD'));
+    return encoding::DecodeUtf8(text).value_or(std::wstring(1, L'\xFFFD'));
 }
 
 }  // namespace
 
 int RunPreview(const std::vector<std::string>& arguments) {
-    const SOptions options = ParseOptions(arguments);
+    const Options options = ParseOptions(arguments);
     if (options.help) {
         Print(kHelp);
         return 0;
@@ -162,14 +162,14 @@ int RunPreview(const std::vector<std::string>& arguments) {
     for (const std::string& file : options.texts) {
         texts.ReadFile(file);
     }
-    const SPreviewInput input = ReadInput(options.files.front());
+    const PreviewInput input = ReadInput(options.files.front());
     std::set<unsigned> missing;
-    SPreviewSettings settings;
+    PreviewSettings settings;
     settings.scale = options.scale;
     settings.mode = options.mode;
     settings.texts = Lookup(texts, missing);
     settings.distanceText = [&options](double value) {
-        return FormatLinear(value, options.units, options.precision).value_or(std::wstring());
+        return units::FormatLinear(value, options.units, options.precision).value_or(std::wstring());
     };
     CItemPreview preview(TextsOf(input.workingFile.lines), settings);
     for (const auto& [number, value] : options.values) {
@@ -178,3 +178,5 @@ int RunPreview(const std::vector<std::string>& arguments) {
     Print(PreviewReport(input, preview) + MissingTexts(missing));
     return 0;
 }
+
+}  // namespace tavrin::tools

@@ -4,6 +4,10 @@
 #include <string>
 #include <vector>
 
-// Prints the preview of the file that the arguments name, and gives the exit status 0. Throws CToolError or
-// CUsageError when the arguments make no sense or a file cannot be read.
+namespace tavrin::tools {
+
+// Prints the preview of the file that the arguments name. Returns the exit status 0. Throws CToolError or
+// CUsageError for invalid arguments and for files that cannot be read.
 int RunPreview(const std::vector<std::string>& arguments);
+
+}  // namespace tavrin::tools

@@ -9,13 +9,15 @@
 #include "itemdlg/ItemMessages.h"
 #include "tools/files/UnifiedDiff.h"
 
+namespace tavrin::tools {
+
 namespace {
 
 enum EColumn { CL_LINE, CL_NUMBER, CL_KIND, CL_LABEL, CL_VALUE, CL_REMARK, CL_COUNT };
 
 using Cells = std::array<std::wstring, CL_COUNT>;
 
-// What does not show, or would move what follows, is replaced by something that takes one place.
+// Replaces control characters by symbols of one column.
 std::wstring Printable(std::wstring text) {
     for (wchar_t& character : text) {
         if (character < 0x20) {
@@ -70,7 +72,7 @@ std::string TableText(const std::vector<Cells>& rows) {
             line += L"  ";
         }
         line.erase(line.find_last_not_of(L' ') + 1);
-        text += tavrin::encoding::EncodeUtf8(line) + "\n";
+        text += encoding::EncodeUtf8(line) + "\n";
     }
     return text;
 }
@@ -86,9 +88,9 @@ std::string RowsText(const CItemPreview& preview) {
     return rows.size() > 1 ? TableText(rows) : "There are no rows.\n";
 }
 
-// What the user is told, and what he is not told but should know.
-std::string MessagesText(const SPreviewInput& input, const CItemPreview& preview) {
-    const std::string box = tavrin::encoding::EncodeUtf8(kInvalidTypeMessage);
+// The dialog's messages, and remarks on rows that are missing.
+std::string MessagesText(const PreviewInput& input, const CItemPreview& preview) {
+    const std::string box = encoding::EncodeUtf8(kInvalidTypeMessage);
     std::string text;
     std::map<std::wstring, const ParamRecord*> shown;
     for (const ItemParameter& parameter : preview.Contents().parameters) {
@@ -105,8 +107,8 @@ std::string MessagesText(const SPreviewInput& input, const CItemPreview& preview
         }
     }
     if (!input.templateFile) {
-        text += "after OK a box says \"" + tavrin::encoding::EncodeUtf8(kFileNotFoundMessage) +
-                "\": there is no " + input.templateName + "\n";
+        text += "after OK a box says \"" + encoding::EncodeUtf8(kFileNotFoundMessage) + "\": there is no " +
+                input.templateName + "\n";
     }
     return text;
 }
@@ -115,14 +117,14 @@ std::vector<std::string> DiffLines(const TextLines& lines) {
     std::vector<std::string> result;
     result.reserve(lines.size());
     for (const std::wstring& line : lines) {
-        result.push_back(tavrin::encoding::EncodeUtf8(Printable(line)) + "\n");
+        result.push_back(encoding::EncodeUtf8(Printable(line)) + "\n");
     }
     return result;
 }
 
-std::string LineEndsText(const SPreviewFile& file) {
+std::string LineEndsText(const PreviewFile& file) {
     const auto others = std::count_if(file.lines.begin(), file.lines.end(),
-                                      [](const SFileLine& line) { return line.ending != "\r\n"; });
+                                      [](const FileLine& line) { return line.ending != "\r\n"; });
     if (others == 0) {
         return {};
     }
@@ -130,7 +132,7 @@ std::string LineEndsText(const SPreviewFile& file) {
            std::to_string(file.lines.size()) + " do not\n";
 }
 
-std::string ChangesText(const SPreviewFile& file, const TextLines& after) {
+std::string ChangesText(const PreviewFile& file, const TextLines& after) {
     const std::vector<std::string> before = DiffLines(TextsOf(file.lines));
     const std::string diff =
         UnifiedDiff(file.name, file.name + " after OK", before, EditsBetween(before, DiffLines(after)));
@@ -139,9 +141,9 @@ std::string ChangesText(const SPreviewFile& file, const TextLines& after) {
 
 }  // namespace
 
-std::string PreviewReport(const SPreviewInput& input, const CItemPreview& preview) {
+std::string PreviewReport(const PreviewInput& input, const CItemPreview& preview) {
     const ItemContents& contents = preview.Contents();
-    const auto shown = [](const std::wstring& text) { return tavrin::encoding::EncodeUtf8(Printable(text)); };
+    const auto shown = [](const std::wstring& text) { return encoding::EncodeUtf8(Printable(text)); };
     std::string text = "Title:    " + shown(contents.title.value_or(L"(the item's base name)")) + "\n";
     text += "Header:   " + shown(contents.title ? contents.header : L"  Parametri") + "\n";
     text += "Picture:  " + input.picture.value_or("(none)") + "\n\n";
@@ -150,8 +152,10 @@ std::string PreviewReport(const SPreviewInput& input, const CItemPreview& previe
     text += messages.empty() ? messages : messages + "\n";
     text += ChangesText(input.workingFile, preview.WorkingFileAfter(TextsOf(input.workingFile.lines)));
     if (input.templateFile) {
-        const SPreviewFile& file = *input.templateFile;
+        const PreviewFile& file = *input.templateFile;
         text += "\n" + ChangesText(file, preview.TemplateFileAfter(TextsOf(file.lines)));
     }
     return text;
 }
+
+}  // namespace tavrin::tools

@@ -1,4 +1,4 @@
-// The item dialog foretold, as text for a terminal.
+// The preview of the item dialog as text.
 #pragma once
 
 #include <optional>
@@ -8,19 +8,22 @@
 #include "tools/files/FileLines.h"
 #include "tools/tavrincheck/ItemPreview.h"
 
-struct SPreviewFile {
+namespace tavrin::tools {
+
+struct PreviewFile {
     std::string name;
-    std::vector<SFileLine> lines;
+    std::vector<FileLine> lines;
 };
 
-struct SPreviewInput {
-    SPreviewFile workingFile;
-    std::optional<SPreviewFile> templateFile;  // nothing when the dialog would not find it
+struct PreviewInput {
+    PreviewFile workingFile;
+    std::optional<PreviewFile> templateFile;  // nothing when it does not exist
     std::string templateName;
-    std::optional<std::string> picture;  // its name; nothing when there is none
+    std::optional<std::string> picture;  // its name; nothing when it does not exist
 };
 
-// Title, rows with their values, what the dialog would say, and as diffs what OK would write. UTF-8, with
-// control characters as their pictures. The diffs show lines without their ends, since OK gives every line
-// the same one; where that changes the file, it says so.
-std::string PreviewReport(const SPreviewInput& input, const CItemPreview& preview);
+// Title, rows with their values, messages, and what OK would write as diffs. UTF-8, with symbols for control
+// characters. The diffs ignore line ends; a line says how many of them OK changes.
+std::string PreviewReport(const PreviewInput& input, const CItemPreview& preview);
+
+}  // namespace tavrin::tools

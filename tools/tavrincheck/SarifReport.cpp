@@ -3,12 +3,13 @@
 
 #include "tools/tavrincheck/Report.h"
 
+namespace tavrin::tools {
+
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-// A file's name as a reference: slashes, and bytes that a reference may not hold as %XX. What begins with a
-// slash or a drive is given as a file: reference.
+// A file name as a URI reference, with slashes and percent-encoding. Absolute names become file: URIs.
 std::string Reference(const std::string& file) {
     constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
     constexpr char kDigits[] = "0123456789ABCDEF";
@@ -34,7 +35,7 @@ std::string Reference(const std::string& file) {
     return reference;
 }
 
-Json RuleObject(const SRule& rule) {
+Json RuleObject(const Rule& rule) {
     return {{"id", rule.id},
             {"shortDescription", {{"text", rule.title}}},
             {"fullDescription", {{"text", rule.explanation}}},
@@ -43,7 +44,7 @@ Json RuleObject(const SRule& rule) {
             {"defaultConfiguration", {{"level", SeverityName(rule.severity)}}}};
 }
 
-Json ResultObject(const SFinding& finding, std::span<const SRule* const> rules) {
+Json ResultObject(const Finding& finding, std::span<const Rule* const> rules) {
     Json location = {{"artifactLocation", {{"uri", Reference(finding.file)}}}};
     if (finding.line != 0) {
         location["region"] = {{"startLine", finding.line},
@@ -59,18 +60,18 @@ Json ResultObject(const SFinding& finding, std::span<const SRule* const> rules) 
 
 }  // namespace
 
-std::string SarifReport(std::span<const SFinding> findings, std::span<const SRule* const> rules,
+std::string SarifReport(std::span<const Finding> findings, std::span<const Rule* const> rules,
                         std::string_view version) {
     Json ruleList = Json::array();
-    for (const SRule* rule : rules) {
+    for (const Rule* rule : rules) {
         ruleList.push_back(RuleObject(*rule));
     }
     Json results = Json::array();
-    for (const SFinding& finding : findings) {
+    for (const Finding& finding : findings) {
         results.push_back(ResultObject(finding, rules));
     }
     const Json driver = {{"name", "tavrincheck"}, {"version", version}, {"rules", std::move(ruleList)}};
-    // The files are single-byte text, so that a column in bytes is one in units as well.
+    // The files are single-byte text, so columns in bytes are columns in UTF-16 units.
     const Json run = {{"tool", {{"driver", driver}}},
                       {"columnKind", "utf16CodeUnits"},
                       {"defaultEncoding", "windows-1252"},
@@ -82,3 +83,5 @@ std::string SarifReport(std::span<const SFinding> findings, std::span<const SRul
         {"runs", Json::array({run})}};
     return log.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
+
+}  // namespace tavrin::tools

@@ -2,10 +2,12 @@
 
 #include "tools/tavrincheck/Report.h"
 
-std::string TextReport(std::span<const SFinding> findings) {
+namespace tavrin::tools {
+
+std::string TextReport(std::span<const Finding> findings) {
     constexpr std::size_t kIndent = 4;
     std::string report;
-    for (const SFinding& finding : findings) {
+    for (const Finding& finding : findings) {
         report += finding.file;
         if (finding.line != 0) {
             report += ':' + std::to_string(finding.line) + ':' + std::to_string(finding.column);
@@ -15,7 +17,7 @@ std::string TextReport(std::span<const SFinding> findings) {
         report += ": " + finding.message + " [";
         report += finding.rule->id;
         report += "]\n";
-        const SExcerpt& excerpt = finding.excerpt;
+        const Excerpt& excerpt = finding.excerpt;
         if (!excerpt.text.empty()) {
             report.append(kIndent, ' ').append(excerpt.text).append("\n");
             report.append(kIndent + excerpt.start, ' ').append("^");
@@ -24,3 +26,5 @@ std::string TextReport(std::span<const SFinding> findings) {
     }
     return report;
 }
+
+}  // namespace tavrin::tools

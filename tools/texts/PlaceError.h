@@ -1,4 +1,4 @@
-// An error at a line of a file of texts.
+// Errors with a line number.
 #pragma once
 
 #include <cstddef>
@@ -6,7 +6,11 @@
 
 #include "tools/files/Files.h"
 
+namespace tavrin::tools {
+
 // "TavrinRes.it.rc:12: message".
-inline CToolError PlaceError(const std::string& file, std::size_t line, const std::string& message) {
+inline CToolError LineError(const std::string& file, std::size_t line, const std::string& message) {
     return CToolError(file + ":" + std::to_string(line) + ": " + message);
 }
+
+}  // namespace tavrin::tools

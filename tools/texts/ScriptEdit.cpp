@@ -10,10 +10,12 @@
 #include "tools/texts/CodePage.h"
 #include "tools/texts/StringScript.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-// Behind the L prefix all but plain ASCII is written as an escape: the resource compilers do not agree on
-// other bytes there.
+// After the L prefix all characters beyond ASCII are written as escapes: the resource compilers treat other
+// bytes differently.
 std::string EscapedLiteral(const std::wstring& text) {
     std::string literal = "L\"";
     for (const wchar_t character : text) {
@@ -48,18 +50,18 @@ std::string LineEndOf(std::string_view bytes) {
     return end != std::string_view::npos && end > 0 && bytes[end - 1] == '\r' ? "\r\n" : "\n";
 }
 
-std::vector<std::string> Entries(const std::vector<SNewText>& texts, unsigned codePage,
+std::vector<std::string> Entries(const std::vector<NewText>& texts, unsigned codePage,
                                  const std::string& lineEnd) {
     std::vector<std::string> entries;
     entries.reserve(texts.size());
-    for (const SNewText& text : texts) {
+    for (const NewText& text : texts) {
         entries.push_back("    " + std::to_string(text.number) + " " + Literal(text.text, codePage) +
                           lineEnd);
     }
     return entries;
 }
 
-std::vector<std::string> NewTable(const std::vector<SNewText>& texts, unsigned codePage,
+std::vector<std::string> NewTable(const std::vector<NewText>& texts, unsigned codePage,
                                   const std::string& lineEnd) {
     std::vector<std::string> lines = {"STRINGTABLE" + lineEnd, "BEGIN" + lineEnd};
     const std::vector<std::string> entries = Entries(texts, codePage, lineEnd);
@@ -68,10 +70,10 @@ std::vector<std::string> NewTable(const std::vector<SNewText>& texts, unsigned c
     return lines;
 }
 
-// The edit that adds a table behind the last line. The empty line between also ends a directive that its last
-// line would continue.
-SLineEdit AppendTable(std::vector<std::string> table, const std::vector<std::string>& lines,
-                      const std::string& lineEnd) {
+// The edit that adds a table after the last line. The empty line before it also ends a directive that the
+// last line would continue.
+LineEdit AppendTable(std::vector<std::string> table, const std::vector<std::string>& lines,
+                     const std::string& lineEnd) {
     if (!lines.empty()) {
         table.insert(table.begin(), lineEnd);
     }
@@ -82,9 +84,9 @@ SLineEdit AppendTable(std::vector<std::string> table, const std::vector<std::str
     return {lines.size(), 0, std::move(table)};
 }
 
-// The edit that adds entries in front of the table's END, which mostly begins its line.
-SLineEdit ExtendTable(std::size_t end, std::vector<std::string> entries,
-                      const std::vector<std::string>& lines, const std::string& lineEnd) {
+// The edit that adds entries before the table's END, which usually begins its line.
+LineEdit ExtendTable(std::size_t end, std::vector<std::string> entries, const std::vector<std::string>& lines,
+                     const std::string& lineEnd) {
     std::size_t line = 0;
     for (; end >= lines[line].size(); ++line) {
         end -= lines[line].size();
@@ -110,9 +112,9 @@ std::vector<std::string> LinesWithEnds(std::string_view bytes) {
     return lines;
 }
 
-std::vector<SLineEdit> EditsOfScript(const std::string& name, std::string_view bytes,
-                                     const std::vector<SNewText>& texts) {
-    const SStringScript script = ReadStringScript(name, bytes);
+std::vector<LineEdit> EditsOfScript(const std::string& name, std::string_view bytes,
+                                    const std::vector<NewText>& texts) {
+    const StringScript script = ReadStringScript(name, bytes);
     if (script.isUtf16) {
         throw CToolError(name +
                          ": texts are not added to a script in UTF-16: save it as UTF-8, with #pragma "
@@ -123,8 +125,8 @@ std::vector<SLineEdit> EditsOfScript(const std::string& name, std::string_view b
     }
     const std::vector<std::string> lines = LinesWithEnds(bytes);
     const std::string lineEnd = LineEndOf(bytes);
-    const SScriptTable* table = nullptr;
-    for (const SScriptTable& candidate : script.tables) {
+    const ScriptTable* table = nullptr;
+    for (const ScriptTable& candidate : script.tables) {
         if (candidate.language == script.tables.front().language) {
             table = &candidate;
         }
@@ -135,7 +137,7 @@ std::vector<SLineEdit> EditsOfScript(const std::string& name, std::string_view b
     return {ExtendTable(table->end, Entries(texts, table->codePage, lineEnd), lines, lineEnd)};
 }
 
-std::string NewScript(const std::string& templateName, const std::vector<SNewText>& texts) {
+std::string NewScript(const std::string& templateName, const std::vector<NewText>& texts) {
     std::string script = "// Texts of " + templateName +
                          ": string table of the companion module TavrinRes.dll.\n"
                          "#include <windows.h>\n\n"
@@ -147,10 +149,10 @@ std::string NewScript(const std::string& templateName, const std::vector<SNewTex
     return script;
 }
 
-std::string Edited(const std::vector<std::string>& lines, const std::vector<SLineEdit>& edits) {
+std::string Edited(const std::vector<std::string>& lines, const std::vector<LineEdit>& edits) {
     std::string bytes;
     std::size_t line = 0;
-    for (const SLineEdit& edit : edits) {
+    for (const LineEdit& edit : edits) {
         for (; line < edit.line; ++line) {
             bytes += lines[line];
         }
@@ -164,3 +166,5 @@ std::string Edited(const std::vector<std::string>& lines, const std::vector<SLin
     }
     return bytes;
 }
+
+}  // namespace tavrin::tools

@@ -1,4 +1,4 @@
-// Adds texts to a resource script, which otherwise stays byte for byte as it is.
+// Adds texts to a resource script. All other bytes of the script stay the same.
 #pragma once
 
 #include <string>
@@ -7,7 +7,9 @@
 
 #include "tools/files/UnifiedDiff.h"
 
-struct SNewText {
+namespace tavrin::tools {
+
+struct NewText {
     unsigned number = 0;
     std::wstring text;
 };
@@ -15,14 +17,16 @@ struct SNewText {
 // A file's bytes as lines with their line ends.
 std::vector<std::string> LinesWithEnds(std::string_view bytes);
 
-// The edits that add the texts at the end of the last table in the language of the script's first table; a
-// script without tables gets one. The script's code page and line ends are kept; what the code page does not
-// have is written as escapes. Throws CToolError when the script cannot be read or is in UTF-16.
-std::vector<SLineEdit> EditsOfScript(const std::string& name, std::string_view bytes,
-                                     const std::vector<SNewText>& texts);
+// The edits that add the texts to the end of the last table in the language of the script's first table, or
+// add a table if there is none. Uses the script's code page and line ends; other characters are written as
+// escapes. Throws CToolError when the script cannot be read or is in UTF-16.
+std::vector<LineEdit> EditsOfScript(const std::string& name, std::string_view bytes,
+                                    const std::vector<NewText>& texts);
 
-// A script that holds nothing but the texts, for those of the template with that name.
-std::string NewScript(const std::string& templateName, const std::vector<SNewText>& texts);
+// A new script with the texts of the template.
+std::string NewScript(const std::string& templateName, const std::vector<NewText>& texts);
 
-// The lines with the edits made.
-std::string Edited(const std::vector<std::string>& lines, const std::vector<SLineEdit>& edits);
+// The lines after the edits.
+std::string Edited(const std::vector<std::string>& lines, const std::vector<LineEdit>& edits);
+
+}  // namespace tavrin::tools

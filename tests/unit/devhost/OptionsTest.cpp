@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+using namespace tavrin::units;
+using namespace devhost;
+
 namespace {
 
-SOptions Parse(std::initializer_list<std::wstring> arguments) {
+Options Parse(std::initializer_list<std::wstring> arguments) {
     return ParseOptions(std::vector<std::wstring>(arguments));
 }
 
@@ -19,7 +22,7 @@ std::wstring Mistake(std::initializer_list<std::wstring> arguments) {
 }
 
 TEST(Options, WithoutArgumentsTheDefaultsHold) {
-    const SOptions options = Parse({});
+    const Options options = Parse({});
     EXPECT_EQ(options.plugIn, L"");
     EXPECT_TRUE(options.searchFolders.empty());
     EXPECT_TRUE(options.itemFolders.empty());
@@ -34,14 +37,14 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
 }
 
 TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
-    const SOptions options = Parse(
+    const Options options = Parse(
         {L"--search", L"a",     L"--plugin", L"p.dll", L"--search",  L"b c",   L"--eval",   L"(f 1)",
          L"--script", L"s.lsp", L"--eval",   L"-1",    L"--lunits",  L"5",     L"--luprec", L"0",
          L"--items",  L"i",     L"--items",  L"j",     L"--drawing", L"d.svg", L"--stay",   L"--check-heap"});
     EXPECT_EQ(options.plugIn, L"p.dll");
     EXPECT_EQ(options.searchFolders, (std::vector<std::wstring>{L"a", L"b c"}));
     EXPECT_EQ(options.itemFolders, (std::vector<std::wstring>{L"i", L"j"}));
-    EXPECT_EQ(options.tasks, (std::vector<STask>{{false, L"(f 1)"}, {true, L"s.lsp"}, {false, L"-1"}}));
+    EXPECT_EQ(options.tasks, (std::vector<Task>{{false, L"(f 1)"}, {true, L"s.lsp"}, {false, L"-1"}}));
     EXPECT_EQ(options.drawingFile, L"d.svg");
     EXPECT_TRUE(options.stay);
     EXPECT_EQ(options.lunits, LU_FRACTIONAL);
@@ -51,7 +54,7 @@ TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
 
 TEST(Options, AValueFollowsItsOptionOrItsEqualsSign) {
     EXPECT_EQ(Parse({L"--lunits=4"}).lunits, LU_ARCHITECTURAL);
-    EXPECT_EQ(Parse({L"--eval=(= 1 2)"}).tasks, (std::vector<STask>{{false, L"(= 1 2)"}}));
+    EXPECT_EQ(Parse({L"--eval=(= 1 2)"}).tasks, (std::vector<Task>{{false, L"(= 1 2)"}}));
 }
 
 TEST(Options, NamesAreNotLimitedToOneCodePage) {

@@ -15,6 +15,10 @@
 #include "tests/unit/docs/Pages.h"
 #include "tests/unit/docs/TestLispHost.h"
 
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
+
 namespace {
 
 namespace fs = std::filesystem;

@@ -9,6 +9,8 @@
 
 #include "encoding/Encoding.h"
 
+namespace tests {
+
 namespace fs = std::filesystem;
 
 using tavrin::encoding::DecodeWindows1252;
@@ -130,3 +132,5 @@ std::string TextOf(const fs::path& path) {
     const bool isItemFile = path.extension() == ".TXT";
     return isItemFile ? EncodeUtf8(DecodeWindows1252(bytes)) : bytes;
 }
+
+}  // namespace tests

@@ -9,6 +9,8 @@
 #include "imagedlg/ChoiceLayout.h"
 #include "tests/unit/docs/Pages.h"
 
+using namespace tests;
+
 namespace {
 
 // What the page on pictures calls the content of a cell: a choice by its number, counted from 1.
@@ -72,7 +74,7 @@ TEST(Documentation, QuotesTheModulesMessages) {
 
 // Every option behind a call of DevHost.exe, and those that the page on DevHost speaks of.
 TEST(Documentation, UsesOptionsThatDevHostHas) {
-    const std::wstring help = HelpText();
+    const std::wstring help = devhost::HelpText();
     const std::regex option("--[a-z]+(-[a-z]+)*");
     int optionsSeen = 0;
     for (const Page& page : AllPages()) {

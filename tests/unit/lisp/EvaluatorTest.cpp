@@ -3,19 +3,22 @@
 
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 class Evaluator : public CLispTest {
 protected:
     Evaluator() {
-        m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> CLispResult { return {}; });
+        m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> LispResult { return {}; });
         m_evaluator.Define(L"fail",
-                           [](std::span<const CValue>) -> CLispResult { throw CLispError(L"as asked"); });
+                           [](std::span<const CValue>) -> LispResult { throw CLispError(L"as asked"); });
     }
 
     static std::wstring Unknown(const std::wstring& name) {
         return L"line 1: the function " + name +
-               L" is not known: check its name and whether the plug-in defines it";
+               L" is not defined: check its name and whether the plug-in defines it";
     }
 };
 
@@ -54,7 +57,7 @@ TEST_F(Evaluator, MistakesNameWhatTheyAreAbout) {
 }
 
 TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
-    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    const auto one = [](std::span<const CValue>) -> LispResult { return CValue::Integer(1); };
     EXPECT_TRUE(m_evaluator.Define(L"one", one));
     EXPECT_FALSE(m_evaluator.Define(L"ONE", one));
     EXPECT_EQ(Evaluate(L"(one)"), L"1");
@@ -64,7 +67,7 @@ TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
 }
 
 TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenAway) {
-    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    const auto one = [](std::span<const CValue>) -> LispResult { return CValue::Integer(1); };
     EXPECT_TRUE(m_evaluator.Define(L"one", one));
     EXPECT_EQ(Evaluate(L"(defun one () 2) (one)"), L"2");
     EXPECT_FALSE(m_evaluator.Undefine(L"one"));
@@ -78,18 +81,17 @@ TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenA
 }
 
 TEST_F(Evaluator, WhatIsNoNameIsNotDefined) {
-    const auto one = [](std::span<const CValue>) -> CLispResult { return CValue::Integer(1); };
+    const auto one = [](std::span<const CValue>) -> LispResult { return CValue::Integer(1); };
     for (const wchar_t* name : {L"", L"5", L"nil", L"t", L"quote", L"a b", L"(a"}) {
         EXPECT_FALSE(m_evaluator.Define(name, one)) << testing::PrintToString(name);
     }
 }
 
 TEST_F(Evaluator, AFunctionMayTakeItselfAway) {
-    m_evaluator.Define(L"once",
-                       [this, big = std::wstring(100, L'x')](std::span<const CValue>) -> CLispResult {
-                           m_evaluator.Undefine(L"once");
-                           return CValue::String(big);
-                       });
+    m_evaluator.Define(L"once", [this, big = std::wstring(100, L'x')](std::span<const CValue>) -> LispResult {
+        m_evaluator.Undefine(L"once");
+        return CValue::String(big);
+    });
     EXPECT_EQ(Evaluate(L"(once)"), L'"' + std::wstring(100, L'x') + L'"');
     EXPECT_EQ(Mistake(L"(once)"), Unknown(L"ONCE"));
 }

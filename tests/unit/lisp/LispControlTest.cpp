@@ -1,6 +1,9 @@
 // LISP's assignments, definitions, branches and loops, and the functions that evaluate and call.
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 using LispControl = CLispTest;
@@ -17,9 +20,9 @@ TEST_F(LispControl, SetqAssignsInOrderAndGivesTheLastValue) {
                   {L"(set (read \"d\") 6) d", L"6"},
                   {L"(boundp 'c)", L"T"}});
     ExpectMistakes({{L"(setq a)", L"write (setq NAME VALUE ...)"},
-                    {L"(setq 5 1)", L"SETQ cannot assign to 5: it is no symbol"},
+                    {L"(setq 5 1)", L"SETQ cannot assign to 5: it is not a symbol"},
                     {L"(setq t 1)", L"T cannot be assigned to"},
-                    {L"(setq nil 1)", L"SETQ cannot assign to nil: it is no symbol"},
+                    {L"(setq nil 1)", L"SETQ cannot assign to nil: it is not a symbol"},
                     {L"(set 5 1)", L"SET needs a symbol as argument 1, not 5"}});
 }
 
@@ -40,8 +43,8 @@ TEST_F(LispControl, AFunctionHasParametersAndLocals) {
                     {L"(area 1 2 3)", L"AREA takes 2 arguments, not 3"},
                     {L"(defun f (5))", L"F cannot have 5 as a parameter"},
                     {L"(defun f (t))", L"F cannot have T as a parameter"},
-                    {L"(defun f x)", L"F has X in place of a list of parameters"},
-                    {L"(defun f (a . b))", L"F has (A . B) in place of a list of parameters"},
+                    {L"(defun f x)", L"F has X instead of a list of parameters"},
+                    {L"(defun f (a . b))", L"F has (A . B) instead of a list of parameters"},
                     {L"(defun f)", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
                     {L"(defun 5 ())", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
                     {L"(defun t ())", L"T cannot be assigned to"}});
@@ -75,8 +78,8 @@ TEST_F(LispControl, FunctionsAreValues) {
 
 TEST_F(LispControl, WhatIsNoFunctionIsNamed) {
     ExpectMistakes(
-        {{L"(setq five 5) (five)", L"FIVE is no function: its value is 5"},
-         {L"(defun f (list) (list 1)) (mapcar 'f '(1))", L"in F: LIST is no function: its value is 1"},
+        {{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
+         {L"(defun f (list) (list 1)) (mapcar 'f '(1))", L"in F: LIST is not a function: its value is 1"},
          {L"(apply nil nil)", L"nil is not the name of a function"},
          {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
          {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
@@ -148,7 +151,7 @@ TEST_F(LispControl, EvalApplyAndMapcarCallFunctions) {
 }
 
 TEST_F(LispControl, WithoutAResultThereIsNoValue) {
-    m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> CLispResult { return {}; });
+    m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> LispResult { return {}; });
     ExpectValues({{L"(progn (nothing))", L"; no result"}});
     EXPECT_EQ(Evaluate(L"(if T (nothing))"), L"; no result");
     ExpectMistakes({{L"(setq a (nothing))", L"(NOTHING), an argument of SETQ, has no result"},
@@ -160,7 +163,7 @@ TEST_F(LispControl, ExitEndsEverythingWithAStatus) {
     const auto status = [&](const wchar_t* text) {
         try {
             Evaluate(text);
-        } catch (const SLispExit& exit) {
+        } catch (const LispExit& exit) {
             return exit.status;
         }
         return -1;

@@ -1,4 +1,4 @@
-// LISP evaluated in a test: with a host that keeps what is written and answers questions as the test says.
+// A test fixture with an evaluator. Its host records output and answers questions as the test says.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,11 +11,15 @@
 #include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
 
+namespace tests {
+
+using namespace tavrin::lisp;
+
 class CFakeLispHost : public ILispHost {
 public:
-    struct SAsked {
+    struct Asked {
         std::wstring prompt;
-        std::optional<SLispPoint> base;
+        std::optional<LispPoint> base;
         EQuestion question;
     };
 
@@ -30,12 +34,12 @@ public:
     }
     CValue GetVariable(const std::wstring& name) override { return variables[name]; }
     void SetVariable(const std::wstring& name, const CValue& value) override { variables[name] = value; }
-    SLispAnswer Ask(const std::wstring& prompt, std::optional<SLispPoint> base, EQuestion question) override {
+    LispAnswer Ask(const std::wstring& prompt, std::optional<LispPoint> base, EQuestion question) override {
         asked.push_back({prompt, base, question});
         if (answers.empty()) {
             return {};
         }
-        const SLispAnswer answer = answers.front();
+        const LispAnswer answer = answers.front();
         answers.pop_front();
         return answer;
     }
@@ -48,17 +52,17 @@ public:
     std::vector<std::wstring> alerts;
     std::map<std::wstring, std::wstring> files;  // name to path
     std::map<std::wstring, CValue> variables;
-    std::deque<SLispAnswer> answers;  // when they run out: cancelled
-    std::vector<SAsked> asked;
+    std::deque<LispAnswer> answers;  // cancelled when there are none left
+    std::vector<Asked> asked;
     int polls = 0;
     int escapeAt = -1;  // the poll that finds Escape pressed
 };
 
 class CLispTest : public testing::Test {
 protected:
-    // What the last expression gives, printed.
+    // The value of the last expression, printed.
     std::wstring Evaluate(std::wstring_view text) {
-        const CLispResult result = m_evaluator.Run(ReadText(text));
+        const LispResult result = m_evaluator.Run(ReadText(text));
         return result ? Print(*result) : L"; no result";
     }
 
@@ -71,20 +75,20 @@ protected:
         }
     }
 
-    struct SCase {
+    struct Case {
         const wchar_t* text;
         const wchar_t* expected;
     };
 
-    void ExpectValues(std::initializer_list<SCase> cases) {
-        for (const SCase& c : cases) {
+    void ExpectValues(std::initializer_list<Case> cases) {
+        for (const Case& c : cases) {
             EXPECT_EQ(Mistake(c.text), std::wstring(L"gave ") + c.expected) << testing::PrintToString(c.text);
         }
     }
 
-    // Without the place, which is line 1 of typed text.
-    void ExpectMistakes(std::initializer_list<SCase> cases) {
-        for (const SCase& c : cases) {
+    // Without the location, which is line 1 of typed text.
+    void ExpectMistakes(std::initializer_list<Case> cases) {
+        for (const Case& c : cases) {
             EXPECT_EQ(Mistake(c.text), std::wstring(L"line 1: ") + c.expected)
                 << testing::PrintToString(c.text);
         }
@@ -93,3 +97,5 @@ protected:
     CFakeLispHost m_host;
     CEvaluator m_evaluator{m_host};
 };
+
+}  // namespace tests

@@ -1,6 +1,9 @@
 // LISP's lists: made, taken apart, searched.
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 using LispLists = CLispTest;
@@ -71,7 +74,7 @@ TEST_F(LispLists, ElementsAreCountedAndFound) {
                     {L"(nth -1 '(1))", L"NTH needs a whole number from 0 on as argument 1, not -1"},
                     {L"(nth 3 '(1 . 2))", L"NTH needs a list as argument 2, not (1 . 2)"},
                     {L"(member 1 5)", L"MEMBER needs a list as argument 2, not 5"},
-                    {L"(assoc 1 '(5))", L"ASSOC: 5 in the list is no pair"}});
+                    {L"(assoc 1 '(5))", L"ASSOC: 5 in the list is not a pair"}});
 }
 
 TEST_F(LispLists, SubstReplacesEverywhere) {

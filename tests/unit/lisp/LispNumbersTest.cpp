@@ -1,6 +1,9 @@
 // Arithmetic, mathematics, comparisons and predicates of LISP.
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 using LispNumbers = CLispTest;
@@ -46,7 +49,7 @@ TEST_F(LispNumbers, WhatIsNoNumberIsNamed) {
                     {L"(/ 1.0 2 0.0)", L"/: division by zero"},
                     {L"(rem 1 0)", L"REM: division by zero"},
                     {L"(gcd 1.0 2)", L"GCD needs a whole number as argument 1, not 1.0"},
-                    {L"(* 1e200 1e200)", L"*: the result is no number that a real can hold"}});
+                    {L"(* 1e200 1e200)", L"*: the result is not a finite number"}});
 }
 
 TEST_F(LispNumbers, BitsAreCombined) {
@@ -80,10 +83,10 @@ TEST_F(LispNumbers, MathematicsWorksOnReals) {
     ExpectMistakes(
         {{L"(sqrt -1)", L"SQRT needs a number that is not negative as argument 1, not -1"},
          {L"(log 0)", L"LOG needs a number above zero as argument 1, not 0"},
-         {L"(exp 1000)", L"EXP: the result is no number that a real can hold"},
-         {L"(expt 0 -1)", L"EXPT: the result is no number that a real can hold"},
+         {L"(exp 1000)", L"EXP: the result is not a finite number"},
+         {L"(expt 0 -1)", L"EXPT: the result is not a finite number"},
          {L"(expt 2 31)", L"EXPT: the result does not fit 32 bits: calculate with reals, 2.0 instead of 2"},
-         {L"(expt -1.0 0.5)", L"EXPT: the result is no number that a real can hold"},
+         {L"(expt -1.0 0.5)", L"EXPT: the result is not a finite number"},
          {L"(fix 3e9)", L"FIX needs a number that fits 32 bits as argument 1, not 3e+09"},
          {L"(sin \"a\")", L"SIN needs a number as argument 1, not \"a\""},
          {L"(atan 1 2 3)", L"ATAN takes 1 to 2 arguments, not 3"}});

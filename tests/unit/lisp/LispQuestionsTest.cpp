@@ -1,6 +1,9 @@
 // What LISP asks of the user and of the program.
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 class LispQuestions : public CLispTest {

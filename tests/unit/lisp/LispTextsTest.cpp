@@ -1,6 +1,9 @@
 // LISP's texts: joined, cut, converted, printed.
 #include "tests/unit/lisp/LispFixture.h"
 
+using namespace tests;
+using namespace tavrin::lisp;
+
 namespace {
 
 using LispTexts = CLispTest;
@@ -22,7 +25,7 @@ TEST_F(LispTexts, AreJoinedMeasuredAndCut) {
     ExpectMistakes(
         {{L"(strcat \"a\" 5)", L"STRCAT needs a text as argument 2, not 5"},
          {L"(strlen nil)", L"STRLEN needs a text as argument 1, not nil"},
-         {L"(substr \"abc\" 0)", L"SUBSTR needs a place from 1 on as argument 2, not 0"},
+         {L"(substr \"abc\" 0)", L"SUBSTR needs a position from 1 on as argument 2, not 0"},
          {L"(substr \"abc\" 1 -1)", L"SUBSTR needs a length from 0 on as argument 3, not -1"},
          {L"(substr \"abc\")", L"SUBSTR takes 2 to 3 arguments, not 1"},
          {L"(ascii \"\")", L"ASCII needs a text of at least one character as argument 1, not \"\""},
@@ -102,7 +105,7 @@ TEST_F(LispTexts, WhatIsPrintedGoesOutAsItIs) {
 
 TEST_F(LispTexts, APrincWithoutArgumentsGivesSilence) {
     for (const wchar_t* text : {L"(princ)", L"(prin1)", L"(print)"}) {
-        const CLispResult result = m_evaluator.Run(ReadText(text));
+        const LispResult result = m_evaluator.Run(ReadText(text));
         EXPECT_TRUE(result->IsSymbol(L""));
     }
     EXPECT_EQ(m_host.output, L"");

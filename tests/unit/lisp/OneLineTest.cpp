@@ -6,6 +6,8 @@
 #include "lisp/Printer.h"
 #include "lisp/Source.h"
 
+using namespace tavrin::lisp;
+
 namespace {
 
 TEST(OneLine, LineEndsAndIndentsBecomeOneBlank) {

@@ -8,6 +8,8 @@
 
 #include "lisp/Reader.h"
 
+using namespace tavrin::lisp;
+
 namespace {
 
 TEST(Printer, RealsAlwaysLookLikeReals) {

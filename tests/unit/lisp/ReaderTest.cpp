@@ -9,6 +9,8 @@
 
 #include "lisp/Printer.h"
 
+using namespace tavrin::lisp;
+
 namespace {
 
 // The first expression of `text`, printed.
@@ -91,12 +93,12 @@ TEST(Reader, ADotMakesAPair) {
     EXPECT_EQ(Echo(L"(a b . (c))"), L"(A B C)");
     EXPECT_EQ(Echo(L"(a . nil)"), L"(A)");
     EXPECT_EQ(Echo(L"(a .5)"), L"(A 0.5)");
-    ExpectMistake(L"(. b)", L"line 1, column 2: nothing stands in front of the dot");
+    ExpectMistake(L"(. b)", L"line 1, column 2: the dot has no element before it");
     ExpectMistake(L"(a . )", L"line 1, column 4: nothing follows the dot");
     ExpectMistake(L"(a .", L"line 1, column 4: nothing follows the dot");
     ExpectMistake(L"(a . b c)", L"line 1, column 4: more than one expression follows the dot");
     ExpectMistake(L"(a . b", L"line 1, column 4: more than one expression follows the dot");
-    ExpectMistake(L" . ", L"line 1, column 2: a dot stands outside a list");
+    ExpectMistake(L" . ", L"line 1, column 2: a dot outside a list");
 }
 
 TEST(Reader, AnApostropheQuotesWhatFollows) {
@@ -180,11 +182,11 @@ TEST(Reader, KnowsWhereTheTextsStood) {
     CReader reader(L"(a \"b\" ; \"no text\"\n . \"\\\"c\")'\"\"");
     while (reader.Read()) {
     }
-    std::vector<std::size_t> places;
-    for (const CReader::SPlace& place : reader.TextPlaces()) {
-        places.insert(places.end(), {place.start, place.length});
+    std::vector<std::size_t> ranges;
+    for (const CReader::TextRange& range : reader.TextRanges()) {
+        ranges.insert(ranges.end(), {range.start, range.length});
     }
-    EXPECT_EQ(places, (std::vector<std::size_t>{3, 3, 22, 5, 29, 2}));
+    EXPECT_EQ(ranges, (std::vector<std::size_t>{3, 3, 22, 5, 29, 2}));
 }
 
 }  // namespace

@@ -4,6 +4,10 @@
 
 #include "tests/unit/samples/ItemRoutine.h"
 
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
+
 namespace {
 
 TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
@@ -11,8 +15,8 @@ TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
     ASSERT_TRUE(Make("door", "single"));
     EXPECT_EQ(Boxes(812.5, 2012), 1);
     ASSERT_EQ(Arcs(812.5), 1);
-    for (const CEntity& entity : drawing.Entities()) {
-        if (const auto* arc = std::get_if<SArc>(&entity)) {
+    for (const Entity& entity : drawing.Entities()) {
+        if (const auto* arc = std::get_if<ArcEntity>(&entity)) {
             EXPECT_NEAR(SweepOf(*arc), std::numbers::pi / 3, 1e-9);
         }
     }
@@ -79,8 +83,8 @@ TEST_F(ItemRoutine, AStaircaseEndsAtTheUpperFloor) {
     // The slab of the upper floor begins at the last riser, 16 goings from the first.
     bool found = false;
     double plan = 0;
-    for (const CEntity& entity : drawing.Entities()) {
-        const auto* line = std::get_if<SPolyline>(&entity);
+    for (const Entity& entity : drawing.Entities()) {
+        const auto* line = std::get_if<PolylineEntity>(&entity);
         if (line == nullptr || line->points.size() != 4) {
             continue;
         }

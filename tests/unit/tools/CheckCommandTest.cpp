@@ -3,26 +3,29 @@
 #include "tools/files/Files.h"
 #include "tools/rules/RuleTable.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 class CheckCommand : public CBadFiles {};
 
 TEST_F(CheckCommand, FindsNothingInTheSamples) {
-    const SCheckRun run = Check({TAVRIN_SAMPLES, "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.it.rc",
-                                 "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.en.rc"});
+    const CheckRun run = Check({TAVRIN_SAMPLES, "--texts", TAVRIN_SAMPLES "/texts/TavrinRes.it.rc", "--texts",
+                                TAVRIN_SAMPLES "/texts/TavrinRes.en.rc"});
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(run.status, 0);
 }
 
 TEST_F(CheckCommand, FindsJustWhatIsBad) {
-    const SCheckRun run = CheckBadFiles({});
+    const CheckRun run = CheckBadFiles({});
     EXPECT_EQ(run.output, ReadBytes("bad.expected"));
     EXPECT_EQ(run.status, 1);
 }
 
 TEST_F(CheckCommand, HasAnExpectedFindingForEveryRule) {
     const std::string expected = ReadBytes("bad.expected");
-    for (const SRule* rule : AllRules()) {
+    for (const Rule* rule : AllRules()) {
         EXPECT_NE(expected.find("[" + std::string(rule->id) + "]\n"), std::string::npos) << rule->id;
     }
 }
@@ -39,7 +42,7 @@ TEST_F(CheckCommand, UnderlinesWhatTheColumnNames) {
 }
 
 TEST_F(CheckCommand, LeavesOutADisabledRule) {
-    const SCheckRun run = CheckBadFiles({"--disable", "line-tab,line-quote"});
+    const CheckRun run = CheckBadFiles({"--disable", "line-tab,line-quote"});
     EXPECT_EQ(run.output.find("[line-tab]"), std::string::npos);
     EXPECT_EQ(run.output.find("[line-quote]"), std::string::npos);
     EXPECT_NE(run.output.find("[line-equals]"), std::string::npos);

@@ -4,6 +4,9 @@
 #include "tools/files/Files.h"
 #include "tools/rules/RuleTable.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 constexpr char kClean[] = "Shelf\n<<2001>>\nVAR\n$1 = \"<<1501>>\"D 900\nEND_VAR\n";
@@ -14,7 +17,7 @@ constexpr char kBroken[] = "Shelf\n<<2001>>\nVAR\n$1 = \"<<1501>>\"d 900\nEND_VA
 // Bytes that stand for a picture: the check looks whether it is there.
 constexpr char kPicture[] = "png";
 
-class CheckOptions : public testing::Test {
+class CheckCommandLine : public testing::Test {
 protected:
     std::string Item(const std::string& name, const std::string& bytes) const {
         m_folder.Write(name + ".png", kPicture);
@@ -34,14 +37,14 @@ protected:
     const CToolFolder m_folder;
 };
 
-TEST_F(CheckOptions, AFileWithoutMistakesGivesStatus0AndNoLine) {
-    const SCheckRun run = Check({Item("a", kClean)});
+TEST_F(CheckCommandLine, AFileWithoutMistakesGivesStatus0AndNoLine) {
+    const CheckRun run = Check({Item("a", kClean)});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.output + run.errors, "");
 }
 
-TEST_F(CheckOptions, AMistakeGivesStatus1) {
-    const SCheckRun run = Check({Item("a", kBroken)});
+TEST_F(CheckCommandLine, AMistakeGivesStatus1) {
+    const CheckRun run = Check({Item("a", kBroken)});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(
         m_folder.Short(run.output),
@@ -51,41 +54,41 @@ TEST_F(CheckOptions, AMistakeGivesStatus1) {
         "                   ^\n");
 }
 
-TEST_F(CheckOptions, ANoteCountsForTheStatusOnlyWhenStrict) {
+TEST_F(CheckCommandLine, ANoteCountsForTheStatusOnlyWhenStrict) {
     const std::string file = Item("a", kNote);
-    const SCheckRun run = Check({file});
+    const CheckRun run = Check({file});
     EXPECT_EQ(run.status, 0);
     EXPECT_NE(run.output.find("[block-close-stray]"), std::string::npos);
     EXPECT_EQ(Check({"--strict", file}).status, 1);
     EXPECT_EQ(Check({"--strict", "--disable=block-close-stray", file}).status, 0);
 }
 
-TEST_F(CheckOptions, ADisabledMistakeDoesNotCountForTheStatus) {
+TEST_F(CheckCommandLine, ADisabledMistakeDoesNotCountForTheStatus) {
     EXPECT_EQ(Check({Item("a", kBroken), "--disable", "type-small-letter"}).status, 0);
 }
 
-TEST_F(CheckOptions, AFileThatIsNotThereGivesStatus2AndTheOthersAreChecked) {
-    const SCheckRun run = Check({m_folder.Path("none.TXT"), Item("a", kBroken)});
+TEST_F(CheckCommandLine, AFileThatIsNotThereGivesStatus2AndTheOthersAreChecked) {
+    const CheckRun run = Check({m_folder.Path("none.TXT"), Item("a", kBroken)});
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(m_folder.Short(run.errors), "tavrincheck: none.TXT: there is no such file or folder\n");
     EXPECT_NE(run.output.find("[type-small-letter]"), std::string::npos);
 }
 
 // The memory of a process is a file that is there and cannot be read from its beginning.
-TEST_F(CheckOptions, AFileThatCannotBeReadGivesStatus2) {
-    const SCheckRun run = Check({"/proc/self/mem"});
+TEST_F(CheckCommandLine, AFileThatCannotBeReadGivesStatus2) {
+    const CheckRun run = Check({"/proc/self/mem"});
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.errors.find("/proc/self/mem"), std::string::npos);
 }
 
-TEST_F(CheckOptions, AFolderStandsForTheFilesInItAndBelow) {
+TEST_F(CheckCommandLine, AFolderStandsForTheFilesInItAndBelow) {
     std::filesystem::create_directories(m_folder.Path("below"));
     Item("b", kBroken);
     Item("below/a", kBroken);
     Item("c", kClean);
     m_folder.Write("d.txt", kBroken);
     m_folder.Write("e.lsp", kBroken);
-    const SCheckRun run = Check({m_folder.Path("")});
+    const CheckRun run = Check({m_folder.Path("")});
     EXPECT_EQ(run.status, 1);
     const std::string output = m_folder.Short(run.output);
     const std::size_t first = output.find("b.TXT:4:16: ");
@@ -96,40 +99,40 @@ TEST_F(CheckOptions, AFolderStandsForTheFilesInItAndBelow) {
     EXPECT_EQ(output.find("e.lsp"), std::string::npos);
 }
 
-TEST_F(CheckOptions, ALinkInAFolderThatLeadsNowhereIsAFileThatCannotBeRead) {
+TEST_F(CheckCommandLine, ALinkInAFolderThatLeadsNowhereIsAFileThatCannotBeRead) {
     std::filesystem::create_symlink("nowhere", m_folder.Path("a.TXT"));
-    const SCheckRun run = Check({m_folder.Path("")});
+    const CheckRun run = Check({m_folder.Path("")});
     EXPECT_EQ(run.status, 2);
     EXPECT_EQ(m_folder.Short(run.errors), "tavrincheck: a.TXT: the file cannot be opened\n");
 }
 
-TEST_F(CheckOptions, AFolderWithoutItemFilesIsCleanButMentioned) {
+TEST_F(CheckCommandLine, AFolderWithoutItemFilesIsCleanButMentioned) {
     m_folder.Write("a.txt", kBroken);
-    const SCheckRun run = Check({m_folder.Path("")});
+    const CheckRun run = Check({m_folder.Path("")});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.output, "");
     EXPECT_EQ(m_folder.Short(run.errors), "tavrincheck: : there is no *.TXT in this folder\n");
 }
 
 // Windows does not distinguish them either.
-TEST_F(CheckOptions, ANameInSmallLettersIsThatOfAnItemToo) {
+TEST_F(CheckCommandLine, ANameInSmallLettersIsThatOfAnItemToo) {
     const std::string file = m_folder.Write("a_tmp.txt", "Shelf\n<<2001>>\nVAR\n#1 = 900\nEND_VAR\n");
     EXPECT_EQ(Check({file}).output, "");
     EXPECT_NE(Check({m_folder.Write("a.txt", kClean)}).output.find("[picture-missing]"), std::string::npos);
 }
 
-TEST_F(CheckOptions, AFileThatIsNamedTwiceIsCheckedOnce) {
+TEST_F(CheckCommandLine, AFileThatIsNamedTwiceIsCheckedOnce) {
     const std::string file = Item("a", kBroken);
     EXPECT_EQ(Check({file, file, m_folder.Path("./a.TXT")}).output, Check({file}).output);
 }
 
-TEST_F(CheckOptions, BehindTwoHyphensNothingIsAnOption) {
-    const SCheckRun run = Check({"--", "--strict"});
+TEST_F(CheckCommandLine, BehindTwoHyphensNothingIsAnOption) {
+    const CheckRun run = Check({"--", "--strict"});
     EXPECT_EQ(run.status, 2);
     EXPECT_NE(run.errors.find("--strict: there is no such file"), std::string::npos);
 }
 
-TEST_F(CheckOptions, ACommandLineThatMakesNoSenseSaysWhatToDo) {
+TEST_F(CheckCommandLine, ACommandLineThatMakesNoSenseSaysWhatToDo) {
     EXPECT_EQ(Error({}), "nothing to check: give a file or a folder, or see --help");
     EXPECT_EQ(Error({"--colour", "a.TXT"}), "unknown option '--colour', see --help");
     EXPECT_EQ(Error({"--format", "xml", "a.TXT"}),
@@ -141,10 +144,10 @@ TEST_F(CheckOptions, ACommandLineThatMakesNoSenseSaysWhatToDo) {
     EXPECT_NE(Error({"--texts", "none.rc", "a.TXT"}).find("none.rc"), std::string::npos);
 }
 
-TEST_F(CheckOptions, AllRulesAreListedWithWhatTheyMeanAndAnExample) {
-    const SCheckRun run = Check({"--rules"});
+TEST_F(CheckCommandLine, AllRulesAreListedWithWhatTheyMeanAndAnExample) {
+    const CheckRun run = Check({"--rules"});
     EXPECT_EQ(run.status, 0);
-    for (const SRule* rule : AllRules()) {
+    for (const Rule* rule : AllRules()) {
         const std::string heading = "\n### " + std::string(rule->id) + "\n\n";
         const std::size_t place = run.output.find(heading);
         ASSERT_NE(place, std::string::npos) << rule->id;
@@ -154,12 +157,12 @@ TEST_F(CheckOptions, AllRulesAreListedWithWhatTheyMeanAndAnExample) {
     }
 }
 
-TEST_F(CheckOptions, HelpAndVersionNeedNoFile) {
+TEST_F(CheckCommandLine, HelpAndVersionNeedNoFile) {
     EXPECT_NE(Check({"--help"}).output.find("--disable RULES"), std::string::npos);
     EXPECT_TRUE(Check({"--version"}).output.starts_with("tavrincheck "));
 }
 
-TEST_F(CheckOptions, TheFormForPeopleCanBeAskedFor) {
+TEST_F(CheckCommandLine, TheFormForPeopleCanBeAskedFor) {
     const std::string file = Item("a", kBroken);
     EXPECT_EQ(Check({file, "--format=text"}).output, Check({file}).output);
 }

@@ -2,6 +2,9 @@
 #include "tests/unit/tools/CheckRun.h"
 #include "tools/files/Files.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 class CheckPage : public testing::Test {

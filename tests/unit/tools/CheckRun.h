@@ -1,4 +1,4 @@
-// A run of the check as its user sees it, and the files on which every rule is broken.
+// Runs of the checker with their output, and the files that break every rule.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,16 +10,20 @@
 
 #include "tools/tavrincheck/CheckCommand.h"
 
-struct SCheckRun {
+namespace tests {
+
+using namespace tavrin::tools;
+
+struct CheckRun {
     int status = 0;
     std::string output;
     std::string errors;
 };
 
-inline SCheckRun Check(const std::vector<std::string>& arguments) {
+inline CheckRun Check(const std::vector<std::string>& arguments) {
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    SCheckRun run;
+    CheckRun run;
     run.status = RunCheck(arguments);
     std::fflush(stdout);
     run.output = testing::internal::GetCapturedStdout();
@@ -33,7 +37,7 @@ protected:
     void SetUp() override { std::filesystem::current_path(BAD_FILES_PARENT); }
     void TearDown() override { std::filesystem::current_path(m_before); }
 
-    static SCheckRun CheckBadFiles(const std::vector<std::string>& options) {
+    static CheckRun CheckBadFiles(const std::vector<std::string>& options) {
         std::vector<std::string> arguments = {"bad", "--texts", "bad/texts/gate.it.rc", "--texts",
                                               "bad/texts/gate.en.rc"};
         arguments.insert(arguments.end(), options.begin(), options.end());
@@ -43,3 +47,5 @@ protected:
 private:
     std::filesystem::path m_before = std::filesystem::current_path();
 };
+
+}  // namespace tests

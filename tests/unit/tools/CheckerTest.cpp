@@ -7,6 +7,8 @@
 
 #include "tools/rules/PictureRules.h"
 
+using namespace tavrin::tools;
+
 namespace {
 
 std::string File(const std::string& parameters) {
@@ -14,9 +16,9 @@ std::string File(const std::string& parameters) {
 }
 
 // The findings as "line:column rule".
-std::vector<std::string> Places(const std::vector<SFinding>& findings) {
+std::vector<std::string> Places(const std::vector<Finding>& findings) {
     std::vector<std::string> places;
-    for (const SFinding& finding : findings) {
+    for (const Finding& finding : findings) {
         places.push_back(std::to_string(finding.line) + ":" + std::to_string(finding.column) + " " +
                          std::string(finding.rule->id));
     }
@@ -30,7 +32,7 @@ std::vector<std::string> Compared(const std::string& templateFile, const std::st
 using PlaceList = std::vector<std::string>;
 
 std::vector<std::string> Checked(const std::string& parameters) {
-    return Places(CheckText(File(parameters), SCheckContext()));
+    return Places(CheckText(File(parameters), CheckContext()));
 }
 
 TEST(Checker, ASmallTypeLetterDoesNotHideWhatIsWrongWithTheValue) {
@@ -54,18 +56,18 @@ TEST(Checker, ALineThatWouldBeAParameterButForItsDollarIsMentioned) {
 
 TEST(Checker, ANullCharacterInAShortFirstLineMakesNoUtf16) {
     const std::string file = std::string("a\0\n", 3) + "<<2001>>\nVAR\nEND_VAR\n";
-    EXPECT_EQ(Places(CheckText(file, SCheckContext())), (PlaceList{"1:2 null-character", "3:1 block-empty"}));
+    EXPECT_EQ(Places(CheckText(file, CheckContext())), (PlaceList{"1:2 null-character", "3:1 block-empty"}));
 }
 
 // The bytes of UTF-8 before the call count as the characters that they are.
 TEST(Checker, ANameIsShownWhereItsCallHoldsItAndNotInARemarkBefore) {
-    SPictureContext context;
-    context.isThere = [](const std::string& name) { return name.ends_with(".TXT.png"); };
+    PictureContext context;
+    context.exists = [](const std::string& name) { return name.ends_with(".TXT.png"); };
     context.baseName = "a.TXT";
     context.routine =
         "; \"b\"\r\n(princ \"\xC3\xA0\") (tavrinselmask \"x\" 0 \"b\" \"c\"\r\n \"b\")\r\n"
         "(foo (tavrinprevmask \"c\") (tavrinselmask \"x\" 1 \"\\\\d\"))";
-    const std::vector<SFinding> findings = CheckPictures(context);
+    const std::vector<Finding> findings = CheckPictures(context);
     EXPECT_EQ(Places(findings), (PlaceList{"2:34 slide-missing", "2:38 slide-missing", "3:2 slide-missing",
                                            "4:22 picture-missing", "4:48 slide-missing"}));
     EXPECT_EQ(findings[0].excerpt.text, "(princ \"\xC3\xA0\") (tavrinselmask \"x\" 0 \"b\" \"c\"");
@@ -87,7 +89,7 @@ TEST(Checker, ALineWithASmallTypeLetterIsNotWrittenIntoTheTemplate) {
 }
 
 TEST(Checker, NumbersThatDifferInZerosLookAlikeWhicheverComesFirst) {
-    SCheckContext context;
+    CheckContext context;
     const std::string file = File(
         "$7 = \"<<1501>> a\"D 9\n$1 = \"<<1501>> b\"D 9\n$001 = \"<<1501>> c\"D 9\n$01 = \"<<1501>> d\"D 9\n"
         "$02 = \"<<1501>> e\"D 9\n$2 = \"<<1501>> f\"D 9\n");
@@ -101,7 +103,7 @@ TEST(Checker, FindsTheOneRepetitionAmongThousands) {
     for (int number = 1; number <= 5000; ++number) {
         parameters += "$" + std::to_string(number) + " = \"<<1501>> " + std::to_string(number) + "\"D 9\n";
     }
-    SCheckContext context;
+    CheckContext context;
     EXPECT_EQ(Places(CheckText(File(parameters + "$77 = \"<<1501>> 4999\"D 9\n"), context)),
               (PlaceList{"5004:1 number-duplicate", "5004:8 label-duplicate"}));
 }
@@ -117,7 +119,7 @@ TEST(Checker, NothingCanBeRepairedBeforeANullCharacter) {
 }
 
 TEST(Checker, AnOpenBlockWithoutParametersIsBothOpenAndEmpty) {
-    EXPECT_EQ(Places(CheckText("Shelf\n<<2001>>\nVAR\nremark\n", SCheckContext())),
+    EXPECT_EQ(Places(CheckText("Shelf\n<<2001>>\nVAR\nremark\n", CheckContext())),
               (PlaceList{"3:1 block-unclosed", "3:1 block-empty"}));
 }
 
@@ -138,11 +140,11 @@ TEST(Checker, AWorkingFileThatEndsBeforeItsTemplateIsLaidOutOtherwise) {
 }
 
 TEST(Checker, ARoutineThatIsNoUtf8IsReadInASingleByteCodePage) {
-    SPictureContext context;
-    context.isThere = [](const std::string& name) { return name == "a.png"; };
+    PictureContext context;
+    context.exists = [](const std::string& name) { return name == "a.png"; };
     context.baseName = "a";
     context.routine = "(tavrinprevmask \"\xE0\")";
-    const std::vector<SFinding> findings = CheckPictures(context);
+    const std::vector<Finding> findings = CheckPictures(context);
     EXPECT_EQ(Places(findings), PlaceList{"1:17 picture-missing"});
     EXPECT_EQ(findings[0].length, 3U);
     EXPECT_EQ(findings[0].excerpt.text, "(tavrinprevmask \"\xC3\xA0\")");

@@ -5,6 +5,9 @@
 #include "tools/tavrincheck/ExtractCommand.h"
 #include "tools/tavrincheck/PreviewCommand.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 class Examples : public testing::Test {

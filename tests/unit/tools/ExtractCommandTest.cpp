@@ -3,6 +3,9 @@
 
 #include "tests/unit/tools/ToolFolder.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 class ExtractCommand : public testing::Test {
@@ -75,11 +78,11 @@ TEST_F(ExtractCommand, ErrorsSayWhatToDo) {
     EXPECT_EQ(ErrorOf({folder.Path("no.TXT"), "--from", "1"}), "no.TXT: the file cannot be opened");
     const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n  9 Width\n}\n");
     EXPECT_EQ(ErrorOf({folder.Write("a.TXT", "x\n"), "--from", "1", "--rc", script}),
-              "t.rc:3: text 9 has no text in quotes behind its number");
+              "t.rc:3: text 9 has no text in quotes after its number");
     EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Path("./a.TXT")}),
-              "./a.TXT: this is the template itself: name a string table script with --rc");
+              "./a.TXT: this is the template itself: give a string table script with --rc");
     EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Write("t.dll", "MZ")}),
-              "t.dll: texts are not added to a module: name the script that it is made from");
+              "t.dll: texts cannot be added to a module: give its script");
 }
 
 TEST_F(ExtractCommand, HelpNeedsNoFile) {

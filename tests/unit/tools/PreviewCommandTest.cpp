@@ -3,6 +3,9 @@
 
 #include "tests/unit/tools/ToolFolder.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 class PreviewCommand : public testing::Test {
@@ -53,7 +56,7 @@ TEST_F(PreviewCommand, OptionsReachTheDialog) {
     EXPECT_TRUE(Has(output, "   4  $1      distance     Größe  1'-3\"  read-only\n")) << output;
     EXPECT_TRUE(Has(output, "   5  $2      real number         35\n")) << output;
     EXPECT_TRUE(Has(output, "+#2 = 3.5\n")) << output;
-    EXPECT_TRUE(Has(output, "text 8 is not there: it shows as nothing\n")) << output;
+    EXPECT_TRUE(Has(output, "text 8 is missing and shown as an empty text\n")) << output;
 }
 
 TEST_F(PreviewCommand, ErrorsSayWhatToDo) {

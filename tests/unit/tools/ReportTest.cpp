@@ -9,6 +9,9 @@
 #include "tools/files/Files.h"
 #include "tools/rules/RuleTable.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 using Json = nlohmann::json;
@@ -16,7 +19,7 @@ using Json = nlohmann::json;
 class Reports : public CBadFiles {
 protected:
     static Json Parsed(const std::string& format) {
-        const SCheckRun run = CheckBadFiles({"--format", format});
+        const CheckRun run = CheckBadFiles({"--format", format});
         EXPECT_EQ(run.status, 1);
         return Json::parse(run.output);
     }
@@ -105,8 +108,8 @@ TEST_F(Reports, ACleanRunIsAReportWithoutFindings) {
     EXPECT_EQ(log.at("runs")[0].at("results"), Json::array());
 }
 
-SFinding FindingIn(const std::string& file) {
-    SFinding finding;
+Finding FindingIn(const std::string& file) {
+    Finding finding;
     finding.rule = AllRules().front();
     finding.file = file;
     return finding;
@@ -120,7 +123,7 @@ TEST(Report, ANameOfAFileIsAReferenceInSarif) {
         {"..\\a.TXT", "../a.TXT"},
     };
     for (const auto& [file, reference] : references) {
-        const SFinding finding = FindingIn(file);
+        const Finding finding = FindingIn(file);
         const Json log = Json::parse(SarifReport({&finding, 1}, AllRules(), "1"));
         const Json& location = log.at("runs")[0].at("results")[0].at("locations")[0].at("physicalLocation");
         EXPECT_EQ(location.at("artifactLocation").at("uri"), reference);
@@ -129,13 +132,13 @@ TEST(Report, ANameOfAFileIsAReferenceInSarif) {
 }
 
 TEST(Report, ANameThatIsNoUtf8DoesNotBreakJson) {
-    const SFinding finding = FindingIn("\xFF.TXT");
+    const Finding finding = FindingIn("\xFF.TXT");
     EXPECT_EQ(Json::parse(JsonReport({&finding, 1})).at("findings")[0].at("file"), "\xEF\xBF\xBD.TXT");
 }
 
 TEST(Report, AnExcerptShowsEveryCharacterInOnePlace) {
     const std::wstring line = L"a\x7F\t\x00E0\x0093\x0081z";
-    const SExcerpt excerpt = MakeExcerpt(line, 6, 1);
+    const Excerpt excerpt = MakeExcerpt(line, 6, 1);
     EXPECT_EQ(excerpt.text, "a\xE2\x90\xA1\xE2\x90\x89\xC3\xA0\xE2\x80\x9C\xEF\xBF\xBDz");
     EXPECT_EQ(excerpt.start, 6U);
     EXPECT_EQ(excerpt.length, 1U);
@@ -143,7 +146,7 @@ TEST(Report, AnExcerptShowsEveryCharacterInOnePlace) {
 
 TEST(Report, AnExcerptOfALongLineHoldsWhatStandsAroundTheOffendingText) {
     const std::wstring line = std::wstring(1000, L'a') + L"b" + std::wstring(1000, L'c');
-    const SExcerpt excerpt = MakeExcerpt(line, 1000, 500);
+    const Excerpt excerpt = MakeExcerpt(line, 1000, 500);
     EXPECT_EQ(excerpt.text, std::string(60, 'a') + "b" + std::string(99, 'c'));
     EXPECT_EQ(excerpt.start, 60U);
     EXPECT_EQ(excerpt.length, 100U);

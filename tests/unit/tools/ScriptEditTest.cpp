@@ -6,11 +6,13 @@
 
 #include "tools/files/Files.h"
 
+using namespace tavrin::tools;
+
 namespace {
 
-const std::vector<SNewText> kTexts = {{7, L"a \"b\" \\c"}, {8, L"\u00E0"}};
+const std::vector<NewText> kTexts = {{7, L"a \"b\" \\c"}, {8, L"\u00E0"}};
 
-std::string With(const std::string& script, const std::vector<SNewText>& texts = kTexts) {
+std::string With(const std::string& script, const std::vector<NewText>& texts = kTexts) {
     return Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, texts));
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace tavrin::tools;
+
 namespace {
 
 using Lines = std::vector<std::string>;
@@ -48,7 +50,7 @@ TEST(UnifiedDiff, OfANewFileHasAnEmptyOldRange) {
 }
 
 TEST(UnifiedDiff, NeighbouringChangesAreOneEdit) {
-    const std::vector<SLineEdit> edits = EditsBetween({"a", "b", "c", "d"}, {"a", "x", "y", "d"});
+    const std::vector<LineEdit> edits = EditsBetween({"a", "b", "c", "d"}, {"a", "x", "y", "d"});
     ASSERT_EQ(edits.size(), 1U);
     EXPECT_EQ(edits[0].line, 1U);
     EXPECT_EQ(edits[0].removed, 2U);

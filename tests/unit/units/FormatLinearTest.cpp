@@ -10,17 +10,19 @@
 
 #include "units/LinearUnits.h"
 
+using namespace tavrin::units;
+
 namespace {
 
-struct SCase {
+struct Case {
     double value;
     int units;
     int precision;
     const wchar_t* text;
 };
 
-void ExpectTexts(std::initializer_list<SCase> cases) {
-    for (const SCase& c : cases) {
+void ExpectTexts(std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
         const auto text = FormatLinear(c.value, c.units, c.precision);
         ASSERT_TRUE(text) << c.value;
         EXPECT_EQ(*text, c.text) << c.value << " in units " << c.units << ", precision " << c.precision;
@@ -182,14 +184,14 @@ TEST(FormatLinear, InfinitiesAndNaNHaveNoText) {
     }
 }
 
-struct SCommaPunctuation : std::numpunct<char> {
+struct CommaPunctuation : std::numpunct<char> {
     char do_decimal_point() const override { return ','; }
     char do_thousands_sep() const override { return '.'; }
     std::string do_grouping() const override { return "\3"; }
 };
 
 TEST(FormatLinear, ACommaLocaleChangesNothing) {
-    const std::locale before = std::locale::global(std::locale(std::locale(), new SCommaPunctuation));
+    const std::locale before = std::locale::global(std::locale(std::locale(), new CommaPunctuation));
     const std::string beforeInC = std::setlocale(LC_ALL, nullptr);
     // Installed or not: the runtime of Windows programs knows these anyway.
     if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {

@@ -16,6 +16,8 @@
 
 #include "units/LinearUnits.h"
 
+using namespace tavrin::units;
+
 namespace {
 
 __extension__ using WideInteger = unsigned __int128;

@@ -6,15 +6,17 @@
 
 #include "units/LinearUnits.h"
 
+using namespace tavrin::units;
+
 namespace {
 
-struct SCase {
+struct Case {
     const wchar_t* text;
     double value;
 };
 
-void ExpectLengths(std::initializer_list<SCase> cases) {
-    for (const SCase& c : cases) {
+void ExpectLengths(std::initializer_list<Case> cases) {
+    for (const Case& c : cases) {
         EXPECT_EQ(ParseLinear(c.text), c.value) << testing::PrintToString(c.text);
     }
 }

@@ -13,6 +13,9 @@
 #include "tools/texts/TextTable.h"
 #include "units/LinearUnits.h"
 
+using namespace tavrin::units;
+using namespace tavrin::tools;
+
 namespace {
 
 constexpr int kPrecision = 4;
@@ -74,7 +77,7 @@ protected:
     }
 
     static CItemPreview PreviewOf(const SGeneratedItem& item) {
-        SPreviewSettings settings;
+        PreviewSettings settings;
         settings.scale = item.scale;
         settings.mode = item.mode;
         settings.texts = [](unsigned number) { return texts.Load(number); };

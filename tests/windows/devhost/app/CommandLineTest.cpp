@@ -7,21 +7,23 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
-SOutcome RunBare(const std::vector<std::wstring>& arguments) {
+Outcome RunBare(const std::vector<std::wstring>& arguments) {
     return CHostProcess(arguments, EStart::Bare).Wait();
 }
 
 // DevHost ended before anything was loaded or printed, with this one line.
-void ExpectMistake(const SOutcome& outcome, const std::string& line) {
+void ExpectMistake(const Outcome& outcome, const std::string& line) {
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.errors, "DevHost: " + line + "\n");
     EXPECT_EQ(outcome.output, "");
 }
 
 TEST(CommandLine, HelpIsPrinted) {
-    const SOutcome outcome = RunBare({L"--help"});
+    const Outcome outcome = RunBare({L"--help"});
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_NE(outcome.output.find("--plugin FILE"), std::string::npos);
     EXPECT_EQ(outcome.errors, "");
@@ -65,18 +67,18 @@ TEST(CommandLine, ThePlugInStandsBesideTheProgramUnlessItIsNamed) {
 }
 
 TEST(CommandLine, EachExpressionOfEachTextIsEvaluatedInOrder) {
-    const SOutcome outcome = RunHost({L"--eval", L"(give-int 1) (echo 2)", L"--eval", L"'(a . b)", L"--eval",
-                                      L"(echo (quote \"c\") -3 .5)"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-int 1) (echo 2)", L"--eval", L"'(a . b)", L"--eval",
+                                     L"(echo (quote \"c\") -3 .5)"});
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output, "2147483647\n(2)\n(A . B)\n(\"c\" -3 0.5)\n; heap: 0 blocks held\n");
 }
 
 TEST(CommandLine, TheFirstFailureEndsTheEvaluations) {
-    const SOutcome outcome = RunHost({L"--eval", L"(give-nil) (unknown) (give-int 1)", L"--eval", L"5"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-nil) (unknown) (give-int 1)", L"--eval", L"5"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\n; heap: 0 blocks held\n");
     EXPECT_EQ(outcome.errors,
-              "DevHost: line 1: the function UNKNOWN is not known: check its name and whether the plug-in "
+              "DevHost: line 1: the function UNKNOWN is not defined: check its name and whether the plug-in "
               "defines it\n");
 }
 

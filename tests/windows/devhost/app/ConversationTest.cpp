@@ -6,6 +6,8 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 // Identifiers of the main window's parts and commands.
@@ -41,7 +43,7 @@ protected:
         return came;
     }
 
-    SOutcome Close() const {
+    Outcome Close() const {
         EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(m_prompt) != FALSE; }));
         PostMessageW(m_host->MainWindow(), WM_CLOSE, 0, 0);
         return m_host->Wait();
@@ -74,7 +76,7 @@ TEST_F(Conversation, MuchOutputDoesNotHoldUpWhatRuns) {
     WaitForOutput(L"\r\n20000\r\n" + std::wstring(10'000, L'x') + L"...");
     Type(L"s");
     WaitForOutput(L"\r\ns\r\n\"" + std::wstring(9'999, L'x') + L"...");
-    const SOutcome outcome = Close();
+    const Outcome outcome = Close();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_TRUE(outcome.output.starts_with("1\n2\n3\n"));
     EXPECT_GT(outcome.output.size(), 2u << 20) << "all of it stands on the standard output";
@@ -97,7 +99,7 @@ TEST_F(Conversation, QuestionsAreAnsweredByTyping) {
     answer(L"n?", L"12");
     answer(L"r?", L"3/4");
     answer(L"s?", L"two words");
-    const SOutcome outcome = m_host->Wait();
+    const Outcome outcome = m_host->Wait();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output,
               "'nonsense' is not a point: click into the drawing or type X,Y\n"
@@ -125,7 +127,7 @@ TEST_F(Conversation, EscapeEndsAQuestionAndWhatAsked) {
     Start({L"--eval", L"(progn (getpoint \"Where? \") (princ \"never\"))"});
     ASSERT_TRUE(WaitUntil([&] { return IsWindowEnabled(m_prompt) != FALSE; }));
     PostMessageW(m_prompt, WM_KEYDOWN, VK_ESCAPE, 0);
-    const SOutcome outcome = m_host->Wait();
+    const Outcome outcome = m_host->Wait();
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.errors, "DevHost: cancelled\n");
     EXPECT_EQ(outcome.output, "; heap: 0 blocks held\n");
@@ -178,7 +180,7 @@ TEST_F(Conversation, ItemsAreLoadedAndCalledFromTheMenu) {
 }
 
 TEST_F(Conversation, AFolderOfItemsMustExist) {
-    const SOutcome outcome = RunHost({L"--items", L"nowhere", L"--eval", L"1"});
+    const Outcome outcome = RunHost({L"--items", L"nowhere", L"--eval", L"1"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.errors,
               "DevHost: the folder of items 'nowhere' does not exist: give --items an existing folder\n");
@@ -213,9 +215,9 @@ TEST_F(Conversation, APlugInThatHasGoneIsNamedAndItsFunctionsAreNotKnown) {
     Choose(kReload);
     WaitForOutput(L"; error: the plug-in 'plug.dll' does not exist: give --plugin an existing file");
     Type(L"(echo 1)");
-    WaitForOutput(L"the function ECHO is not known: check its name and whether the plug-in defines it");
+    WaitForOutput(L"the function ECHO is not defined: check its name and whether the plug-in defines it");
     Type(L"(keep 1)");
-    WaitForOutput(L"; error: line 1: ECHO belongs to a plug-in that is not loaded any more");
+    WaitForOutput(L"; error: line 1: ECHO belongs to a plug-in that is no longer loaded");
     std::filesystem::rename(folder.Path() + L"\\gone.dll", folder.Path() + L"\\plug.dll");
     Choose(kReload);
     Type(L"(keep 1)");

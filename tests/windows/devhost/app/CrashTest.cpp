@@ -3,11 +3,13 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 void ExpectCrash(const std::vector<std::wstring>& arguments, const std::string& report,
                  const std::string& also = "") {
-    const SOutcome outcome = RunHost(arguments);
+    const Outcome outcome = RunHost(arguments);
     EXPECT_EQ(outcome.status, 3u);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors.substr(0, report.size()), report) << outcome.errors;

@@ -4,10 +4,12 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 void ExpectMisuse(const std::wstring& call, const std::string& message) {
-    const SOutcome outcome = RunHost({L"--check-heap", L"--eval", call});
+    const Outcome outcome = RunHost({L"--check-heap", L"--eval", call});
     EXPECT_EQ(outcome.status, 4u);
     EXPECT_EQ(outcome.output, "");
     EXPECT_NE(outcome.errors.find("heap check: "), std::string::npos);
@@ -15,7 +17,7 @@ void ExpectMisuse(const std::wstring& call, const std::string& message) {
 }
 
 TEST(Heap, BlocksThatAreKeptAreCountedAndFail) {
-    const SOutcome outcome = RunHost({L"--eval", L"(leak 3 100) (leak 1 0)"});
+    const Outcome outcome = RunHost({L"--eval", L"(leak 3 100) (leak 1 0)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\nnil\n; heap: 4 blocks held, 300 bytes\n");
     EXPECT_EQ(outcome.errors, "");
@@ -26,7 +28,7 @@ TEST(Heap, ManyBlocksOfEverySizeKeepTheirBytes) {
 }
 
 TEST(HeapCheck, BlocksThatAreKeptAreListed) {
-    const SOutcome outcome = RunHost({L"--check-heap", L"--eval", L"(leak 2 3)"});
+    const Outcome outcome = RunHost({L"--check-heap", L"--eval", L"(leak 2 3)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\n; heap: 2 blocks held, 6 bytes\n");
     EXPECT_EQ(outcome.errors,
@@ -39,16 +41,16 @@ TEST(HeapCheck, ManyBlocksOfEverySizeKeepTheirBytes) {
 }
 
 TEST(HeapCheck, AnAccessBehindABlockFaultsWhereItIsMade) {
-    ExpectMisuse(L"(write-far-behind)", " writes behind the end of block 1 (32 bytes, new), 0 bytes from it");
+    ExpectMisuse(L"(write-far-behind)", " writes 0 bytes past the end of block 1 (32 bytes, new)");
     ExpectMisuse(L"(write-far-behind)", "heap check: TestPlugin.dll+0x");
-    ExpectMisuse(L"(read-behind)", " reads behind the end of block 1 (4096 bytes, new), 0 bytes from it");
+    ExpectMisuse(L"(read-behind)", " reads 0 bytes past the end of block 1 (4096 bytes, new)");
 }
 
 TEST(HeapCheck, AWriteAroundABlockIsFoundWhenItIsDeleted) {
-    ExpectMisuse(L"(write-behind)", "block 1 (5 bytes, new) was written behind its end");
-    ExpectMisuse(L"(write-behind 1)", "block 20001 (5 bytes, new) was written behind its end");
-    ExpectMisuse(L"(write-in-front)", "block 1 (5 bytes, new) was written in front of its start");
-    ExpectMisuse(L"(write-in-front 1)", "block 20001 (5 bytes, new) was written in front of its start");
+    ExpectMisuse(L"(write-behind)", "block 1 (5 bytes, new) was written past its end");
+    ExpectMisuse(L"(write-behind 1)", "block 20001 (5 bytes, new) was written past its end");
+    ExpectMisuse(L"(write-in-front)", "block 1 (5 bytes, new) was written before its start");
+    ExpectMisuse(L"(write-in-front 1)", "block 20001 (5 bytes, new) was written before its start");
 }
 
 TEST(HeapCheck, AWriteToADeletedBlockIsFound) {

@@ -5,6 +5,8 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 TEST(HostInterface, ArgumentsArriveWithTheirTypes) {
@@ -23,7 +25,7 @@ TEST(HostInterface, WhatCannotBeAnArgumentIsNamed) {
         {L"'a", "A: only numbers and texts are passed"},
     };
     for (const auto& [argument, message] : cases) {
-        const SOutcome outcome = RunHost({L"--eval", std::wstring(L"(echo 1 ") + argument + L")"});
+        const Outcome outcome = RunHost({L"--eval", std::wstring(L"(echo 1 ") + argument + L")"});
         EXPECT_EQ(outcome.status, 1u);
         EXPECT_EQ(outcome.errors, std::string("DevHost: line 1: ECHO cannot take ") + message + "\n");
         EXPECT_EQ(outcome.output, "; heap: 0 blocks held\n");
@@ -43,16 +45,16 @@ TEST(HostInterface, ListsThatAreNoneAreRefusedAndTheEmptyOneIsNil) {
 }
 
 TEST(HostInterface, AReportedFailureIsPrintedOnceAndDiscardsTheResult) {
-    const SOutcome outcome = RunHost({L"--eval", L"(fail-with \"no\\nway\")", L"--eval", L"(give-nil)"});
+    const Outcome outcome = RunHost({L"--eval", L"(fail-with \"no\\nway\")", L"--eval", L"(give-nil)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "; error: no way\n; heap: 0 blocks held\n");
     EXPECT_EQ(outcome.errors, "");
 }
 
 TEST(HostInterface, AnAnswerOtherThanZeroIsAFailure) {
-    const SOutcome outcome = RunHost({L"--eval", L"(answer-seven)"});
+    const Outcome outcome = RunHost({L"--eval", L"(answer-seven)"});
     EXPECT_EQ(outcome.status, 1u);
-    EXPECT_EQ(outcome.errors, "DevHost: line 1: the plug-in answered 7 to the call of ANSWER-SEVEN\n");
+    EXPECT_EQ(outcome.errors, "DevHost: line 1: the plug-in returned 7 for the call of ANSWER-SEVEN\n");
 }
 
 TEST(HostInterface, AnAlertIsABoxOverTheMainWindow) {
@@ -63,7 +65,7 @@ TEST(HostInterface, AnAlertIsABoxOverTheMainWindow) {
     EXPECT_FALSE(IsWindowEnabled(host.MainWindow()));
     EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)), L"Mind the gap");
     PostMessageW(box, WM_COMMAND, IDOK, 0);
-    const SOutcome outcome = host.Wait();
+    const Outcome outcome = host.Wait();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output, "; alert: Mind the gap\n5100\n; heap: 0 blocks held\n");
 }

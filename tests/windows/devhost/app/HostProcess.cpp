@@ -6,6 +6,8 @@
 #include <fstream>
 #include <iterator>
 
+namespace tests {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -84,7 +86,7 @@ CHostProcess::~CHostProcess() {
     DeleteFileW(m_errorsFile.c_str());
 }
 
-SOutcome CHostProcess::Wait() {
+Outcome CHostProcess::Wait() {
     EXPECT_EQ(WaitForSingleObject(m_process.hProcess, kPatience), WAIT_OBJECT_0) << "DevHost hangs";
     DWORD status = 0;
     GetExitCodeProcess(m_process.hProcess, &status);
@@ -119,14 +121,14 @@ HWND CHostProcess::WindowWithTitle(const wchar_t* className, const wchar_t* titl
     return found;
 }
 
-SOutcome RunHost(const std::vector<std::wstring>& arguments) {
+Outcome RunHost(const std::vector<std::wstring>& arguments) {
     return CHostProcess(arguments).Wait();
 }
 
 std::string Evaluate(const std::wstring& text, const std::vector<std::wstring>& options) {
     std::vector<std::wstring> arguments = options;
     arguments.insert(arguments.end(), {L"--eval", text});
-    const SOutcome outcome = RunHost(arguments);
+    const Outcome outcome = RunHost(arguments);
     EXPECT_EQ(outcome.status, 0u) << outcome.errors;
     EXPECT_EQ(outcome.errors, "");
     const std::size_t heap = outcome.output.find("; heap: 0 blocks held\n");
@@ -178,3 +180,5 @@ std::wstring HostProgram() {
 std::wstring TestPlugIn() {
     return (TestsFolder() / L"TestPlugin.dll").wstring();
 }
+
+}  // namespace tests

@@ -1,4 +1,4 @@
-// One run of DevHost.exe: started with arguments, watched through its outputs and its window.
+// A run of DevHost.exe with arguments. Gives access to its output and its window.
 #pragma once
 
 #include <windows.h>
@@ -7,16 +7,18 @@
 #include <string>
 #include <vector>
 
-struct SOutcome {
+namespace tests {
+
+struct Outcome {
     DWORD status;
     std::string output;
     std::string errors;
 };
 
 enum class EStart {
-    Usual,       // with the test plug-in, outputs captured
+    Usual,       // with the test plug-in, output captured
     Bare,        // with the given arguments alone
-    OwnConsole,  // with the test plug-in, as a click on its icon does it: the outputs go into a new console
+    OwnConsole,  // with the test plug-in, as if double-clicked: the output goes to a new console
 };
 
 class CHostProcess {
@@ -26,10 +28,10 @@ public:
     CHostProcess(const CHostProcess&) = delete;
     CHostProcess& operator=(const CHostProcess&) = delete;
 
-    // Waits for its end.
-    SOutcome Wait();
+    // Waits until it exits.
+    Outcome Wait();
 
-    // The windows of the program, once they are visible; null when that takes too long.
+    // Windows of the program; waits until they are visible, null after a timeout.
     HWND MainWindow() const;
     HWND Control(const wchar_t* className, int id) const;
     HWND WindowWithTitle(const wchar_t* className, const wchar_t* title) const;
@@ -43,17 +45,17 @@ private:
 };
 
 // Runs DevHost with the test plug-in to its end.
-SOutcome RunHost(const std::vector<std::wstring>& arguments);
-// Evaluates one text with the test plug-in and gives what was printed, without the line about the heap.
+Outcome RunHost(const std::vector<std::wstring>& arguments);
+// Evaluates one text with the test plug-in and returns the output, without the line about the heap.
 std::string Evaluate(const std::wstring& text, const std::vector<std::wstring>& options = {});
 
-// Asks until `condition` holds; false when it does not within 20 seconds.
+// Waits until `condition` holds; false after 20 seconds.
 bool WaitUntil(const std::function<bool()>& condition);
 
 // The text of a control, of another process too.
 std::wstring TextOf(HWND window);
 
-// A folder for the files of one test, emptied and made the current one; its files are named relative to it.
+// A temporary folder for the files of one test, which is the current folder during its lifetime.
 class CTestFolder {
 public:
     CTestFolder();
@@ -70,7 +72,7 @@ private:
     std::wstring m_before;
 };
 
-// Sets an environment variable for the processes started while it lives.
+// Sets an environment variable during its lifetime.
 class CEnvironment {
 public:
     CEnvironment(const wchar_t* name, const wchar_t* value) : m_name(name) {
@@ -87,3 +89,5 @@ private:
 // DevHost.exe, the test plug-in and the folder of both allocators, as full paths.
 std::wstring HostProgram();
 std::wstring TestPlugIn();
+
+}  // namespace tests

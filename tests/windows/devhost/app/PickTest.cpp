@@ -9,6 +9,8 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 // Identifiers of the main window's parts.
@@ -44,7 +46,7 @@ protected:
 
     // What the call gave, after DevHost has ended well.
     std::string Result() const {
-        const SOutcome outcome = m_host->Wait();
+        const Outcome outcome = m_host->Wait();
         EXPECT_EQ(outcome.status, 0u);
         EXPECT_EQ(outcome.errors, "");
         return outcome.output.substr(0, outcome.output.find('\n'));
@@ -118,7 +120,7 @@ TEST_F(Pick, ClosingTheWindowCancelsThePickAndNotTheHost) {
 TEST_F(Pick, TheEndOfTheApplicationCancelsThePickAndEveryLaterOne) {
     Start(L"(pick-point \"p\") (pick-point \"q\")", L"p");
     PostThreadMessageW(m_host->ThreadId(), WM_QUIT, 0, 0);
-    const SOutcome outcome = m_host->Wait();
+    const Outcome outcome = m_host->Wait();
     EXPECT_EQ(outcome.output, "(-5002 -1.0 -1.0 -1.0)\n(-5002 -1.0 -1.0 -1.0)\n; heap: 0 blocks held\n");
 }
 

@@ -5,6 +5,8 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 std::string Narrow(const std::wstring& text) {
@@ -13,7 +15,7 @@ std::string Narrow(const std::wstring& text) {
 
 // Loading this file fails with one line that names it and says why.
 void ExpectNotLoaded(const std::wstring& file, const std::string& why) {
-    const SOutcome outcome = CHostProcess({L"--plugin", file, L"--eval", L"(give-nil)"}, EStart::Bare).Wait();
+    const Outcome outcome = CHostProcess({L"--plugin", file, L"--eval", L"(give-nil)"}, EStart::Bare).Wait();
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors, "DevHost: the plug-in '" + Narrow(file) + "' " + why + "\n");
@@ -33,44 +35,44 @@ TEST(PlugIn, AFileThatIsNoLibraryIsNamed) {
     folder.Write(L"empty.dll", "");
     folder.Write(L"noextension", "This is not a library.");
     for (const wchar_t* file : {L"text.dll", L"empty.dll", L"noextension"}) {
-        ExpectNotLoaded(file, "is no library for this DevHost: it takes a 64-bit DLL");
+        ExpectNotLoaded(file, "is not a library for this DevHost, which needs a 64-bit DLL");
     }
 }
 
 TEST(PlugIn, ALibraryWithoutEntryPointIsNamed) {
     const std::wstring library = std::filesystem::path(HostProgram()).parent_path() / L"TD_Alloc.dll";
-    ExpectNotLoaded(library, "lacks the entry point icrxEntryPoint: give --plugin a plug-in");
+    ExpectNotLoaded(library, "has no entry point icrxEntryPoint: give --plugin a plug-in");
 }
 
 TEST(PlugIn, APlugInThatRefusesIsNamed) {
     const CEnvironment refuse(L"TESTPLUGIN_LOAD", L"refuse");
-    const SOutcome outcome = RunHost({L"--eval", L"(give-nil)"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-nil)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "");
     EXPECT_EQ(outcome.errors,
-              "DevHost: the plug-in '" + Narrow(TestPlugIn()) + "' refused to be loaded: it answered 1\n");
+              "DevHost: the plug-in '" + Narrow(TestPlugIn()) + "' refused to be loaded: it returned 1\n");
 }
 
 TEST(PlugIn, APlugInThatReportsAFailureIsNotLoaded) {
     const CEnvironment fail(L"TESTPLUGIN_LOAD", L"fail");
-    const SOutcome outcome = RunHost({L"--eval", L"(give-nil)"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-nil)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "; error: not today\n");
     EXPECT_EQ(outcome.errors, "DevHost: the plug-in '" + Narrow(TestPlugIn()) +
-                                  "' refused to be loaded: it said 'not today'\n");
+                                  "' refused to be loaded: it reported 'not today'\n");
 }
 
 TEST(PlugIn, UnloadingFailsVisibly) {
     const CEnvironment refuse(L"TESTPLUGIN_UNLOAD", L"refuse");
-    const SOutcome outcome = RunHost({L"--eval", L"(give-nil)"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-nil)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\n; heap: 0 blocks held\n");
-    EXPECT_NE(outcome.errors.find("refused to be unloaded: it answered 1\n"), std::string::npos);
+    EXPECT_NE(outcome.errors.find("refused to be unloaded: it returned 1\n"), std::string::npos);
 }
 
 TEST(PlugIn, FunctionsThatStayDefinedAreNamed) {
     const CEnvironment keep(L"TESTPLUGIN_UNLOAD", L"keep");
-    const SOutcome outcome = RunHost({L"--eval", L"(give-nil)"});
+    const Outcome outcome = RunHost({L"--eval", L"(give-nil)"});
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "nil\n; heap: 0 blocks held\n");
     EXPECT_NE(outcome.errors.find("left functions defined when it was unloaded: ECHO GIVE-INT\n"),

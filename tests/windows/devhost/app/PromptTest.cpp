@@ -5,6 +5,8 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 constexpr int kOutput = 101;
@@ -26,7 +28,7 @@ protected:
         return WaitUntil([&] { return TextOf(m_output) == text; });
     }
 
-    SOutcome Close() {
+    Outcome Close() {
         PostMessageW(m_host.MainWindow(), WM_CLOSE, 0, 0);
         return m_host.Wait();
     }
@@ -42,7 +44,7 @@ TEST_F(Prompt, EnterEvaluatesAndClosingEnds) {
     EXPECT_EQ(TextOf(m_prompt), L"");
     Type(L"(give-nothing)");
     EXPECT_TRUE(WaitForOutput(L"(echo 1 \"two\")\r\n(1 \"two\")\r\n(give-nothing)\r\n; no result"));
-    const SOutcome outcome = Close();
+    const Outcome outcome = Close();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output,
               "(echo 1 \"two\")\n(1 \"two\")\n(give-nothing)\n; no result\n; heap: 0 blocks held\n");
@@ -83,7 +85,7 @@ TEST_F(Prompt, AnEmptyLineDoesNothing) {
 TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
     Type(L"(leak 1 8)");
     EXPECT_TRUE(WaitForOutput(L"(leak 1 8)\r\nnil"));
-    const SOutcome outcome = Close();
+    const Outcome outcome = Close();
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 blocks held, 8 bytes\n");
 }

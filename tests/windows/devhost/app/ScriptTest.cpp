@@ -7,20 +7,22 @@
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
+using namespace tests;
+
 namespace {
 
 // A run of scripts that lie in a folder of their own.
 class Script : public testing::Test {
 protected:
     // Writes the script and runs it, with further arguments behind it.
-    SOutcome Run(const std::string& text, const std::vector<std::wstring>& more = {}) {
+    Outcome Run(const std::string& text, const std::vector<std::wstring>& more = {}) {
         m_folder.Write(L"test.lsp", text);
         std::vector<std::wstring> arguments = {L"--script", L"test.lsp"};
         arguments.insert(arguments.end(), more.begin(), more.end());
         return RunHost(arguments);
     }
 
-    static void ExpectFailure(const SOutcome& outcome, const std::string& line,
+    static void ExpectFailure(const Outcome& outcome, const std::string& line,
                               const std::string& output = "") {
         EXPECT_EQ(outcome.status, 1u);
         EXPECT_EQ(outcome.errors, "DevHost: " + line + "\n");
@@ -36,7 +38,7 @@ protected:
 };
 
 TEST_F(Script, PrintsWhatItPrintsAlone) {
-    const SOutcome outcome =
+    const Outcome outcome =
         Run("(setq a 1)\n(princ \"per\xC3\xB2\\n\") (prin1 \"a\") (princ (echo a \"b\"))");
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output, "per\xC3\xB2\n\"a\"(1 b)\n");
@@ -50,8 +52,8 @@ TEST_F(Script, TextsAreUtf16) {
 
 TEST_F(Script, ScriptsAndExpressionsAreDoneInTheOrderGiven) {
     m_folder.Write(L"second.lsp", "(princ (twice a))");
-    const SOutcome outcome = Run("(defun twice (x) (* 2 x))", {L"--eval", L"(setq a 4) (princ)", L"--script",
-                                                               L"second.lsp", L"--eval", L"a"});
+    const Outcome outcome = Run("(defun twice (x) (* 2 x))", {L"--eval", L"(setq a 4) (princ)", L"--script",
+                                                              L"second.lsp", L"--eval", L"a"});
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output, "4\n8\n4\n; heap: 0 blocks held\n");
 }
@@ -62,7 +64,7 @@ TEST_F(Script, AMistakeEndsTheRunWithFileLineAndFunction) {
                   "test.lsp:3: in F: STRCAT needs a text as argument 2, not 5",
                   "first\n; heap: 0 blocks held\n");
     ExpectFailure(Run("\n(unknown-function 1)"),
-                  "test.lsp:2: the function UNKNOWN-FUNCTION is not known: check its name and whether the "
+                  "test.lsp:2: the function UNKNOWN-FUNCTION is not defined: check its name and whether the "
                   "plug-in defines it");
     ExpectFailure(Run("(car 1 2)"), "test.lsp:1: CAR takes 1 argument, not 2");
     ExpectFailure(Run("(echo '(1))"), "test.lsp:1: ECHO cannot take (1): only numbers and texts are passed");
@@ -80,7 +82,7 @@ TEST_F(Script, WhatCannotBeReadIsFoundBeforeAnythingIsLoadedOrRun) {
 }
 
 TEST_F(Script, ExitEndsTheRunWithItsStatus) {
-    const SOutcome outcome = Run("(princ 1) (defun f () (exit 7)) (f) (princ 2)", {L"--eval", L"(princ 3)"});
+    const Outcome outcome = Run("(princ 1) (defun f () (exit 7)) (f) (princ 2)", {L"--eval", L"(princ 3)"});
     EXPECT_EQ(outcome.status, 7u);
     EXPECT_EQ(outcome.output, "1\n; heap: 0 blocks held\n");
     EXPECT_EQ(outcome.errors, "");
@@ -88,21 +90,21 @@ TEST_F(Script, ExitEndsTheRunWithItsStatus) {
 }
 
 TEST_F(Script, AMistakeThatTheRoutineDealsWithFailsWithoutALine) {
-    const SOutcome outcome = Run("(defun *error* (text) (princ text))\n(car 5)");
+    const Outcome outcome = Run("(defun *error* (text) (princ text))\n(car 5)");
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "test.lsp:2: CAR needs a list as argument 1, not 5\n");
     EXPECT_EQ(outcome.errors, "");
 }
 
 TEST_F(Script, AFailureOfThePlugInIsPrintedOnce) {
-    const SOutcome outcome = Run("(fail-with \"no way\") (princ \"never\")");
+    const Outcome outcome = Run("(fail-with \"no way\") (princ \"never\")");
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "; error: no way\n");
     EXPECT_EQ(outcome.errors, "");
 }
 
 TEST_F(Script, BlocksThatThePlugInKeepsAreReported) {
-    const SOutcome outcome = Run("(princ \"a\") (leak 1 8)");
+    const Outcome outcome = Run("(princ \"a\") (leak 1 8)");
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_EQ(outcome.output, "a\n; heap: 1 blocks held, 8 bytes\n");
 }
@@ -121,7 +123,7 @@ TEST_F(Script, EscapeEndsAnEndlessLoop) {
 }
 
 TEST_F(Script, TheDrawingIsWrittenAtTheEnd) {
-    const SOutcome outcome =
+    const Outcome outcome =
         Run("(draw-line '(0 0) '(100 50)) (draw-circle '(50 25) 10) (draw-fit)", {L"--drawing", L"out.svg"});
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output, "");
@@ -142,7 +144,7 @@ TEST_F(Script, ADrawingThatCannotBeWrittenIsNamedBeforeAnythingRuns) {
 TEST_F(Script, ADrawingThatMayNotBeOverwrittenIsNamedAndStays) {
     m_folder.Write(L"old.svg", "old");
     SetFileAttributesW(L"old.svg", FILE_ATTRIBUTE_READONLY);
-    const SOutcome outcome = Run("(draw-line '(0 0) '(1 1))", {L"--drawing", L"old.svg"});
+    const Outcome outcome = Run("(draw-line '(0 0) '(1 1))", {L"--drawing", L"old.svg"});
     SetFileAttributesW(L"old.svg", FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(outcome.status, 1u);
     EXPECT_TRUE(outcome.errors.ends_with("old.svg': give --drawing a writable file in an existing folder\n"))
@@ -151,7 +153,7 @@ TEST_F(Script, ADrawingThatMayNotBeOverwrittenIsNamedAndStays) {
 }
 
 TEST_F(Script, SystemVariablesAreSharedWithThePlugIn) {
-    const SOutcome outcome =
+    const Outcome outcome =
         Run("(princ (getvar \"LUNITS\")) (setvar \"LUNITS\" 4) (setvar \"luprec\" 1)"
             "(princ (read-variable \"LUNITS\")) (princ (format-length 15.5 4 -1)) (princ (rtos 15.5))",
             {L"--lunits", L"2"});
@@ -161,11 +163,11 @@ TEST_F(Script, SystemVariablesAreSharedWithThePlugIn) {
     ExpectFailure(Run("(setvar \"LUPREC\" 2.0)"),
                   "test.lsp:1: SETVAR: LUPREC takes a whole number from 0 to 8, not 2.0");
     ExpectFailure(Run("(setvar \"CMD\" 1)"),
-                  "test.lsp:1: SETVAR: there is no system variable CMD: LUNITS and LUPREC are known");
+                  "test.lsp:1: SETVAR: there is no system variable CMD: use LUNITS or LUPREC");
 }
 
 TEST_F(Script, FilesAreReadAndWrittenWhereTheFolderIsCurrent) {
-    const SOutcome outcome =
+    const Outcome outcome =
         Run("(setq name \"citt\xC3\xA0 \xE9\x96\x80.txt\" f (open name \"w\")) (write-line \"per\xC3\xB2\" "
             "f) (close f)"
             "(setq f (open (findfile name) \"r\")) (princ (strlen (read-line f))) (close f)");
@@ -174,7 +176,7 @@ TEST_F(Script, FilesAreReadAndWrittenWhereTheFolderIsCurrent) {
 }
 
 TEST_F(Script, TheVersionIsPrinted) {
-    const SOutcome outcome = CHostProcess({L"--version"}, EStart::Bare).Wait();
+    const Outcome outcome = CHostProcess({L"--version"}, EStart::Bare).Wait();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_TRUE(outcome.output.starts_with("DevHost ")) << outcome.output;
     EXPECT_NE(outcome.output.find('.'), std::string::npos) << outcome.output;

@@ -1,16 +1,19 @@
 // Questions: answered by a click or a typed line, or not at all.
 #include "tests/windows/devhost/window/WindowFixture.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 class Ask : public CWindowFixture {
 protected:
-    CAnswer AskPoint() { return m_window.Ask(L"Where? ", std::nullopt, ASK_POINT); }
+    Answer AskPoint() { return m_window.Ask(L"Where? ", std::nullopt, ASK_POINT); }
 };
 
 TEST_F(Ask, ATypedLineIsAnsweredAsItWasTyped) {
     PostLine(L" 12, x ");
-    const CAnswer answer = AskPoint();
+    const Answer answer = AskPoint();
     ASSERT_TRUE(std::holds_alternative<std::wstring>(answer));
     EXPECT_EQ(std::get<std::wstring>(answer), L" 12, x ");
     EXPECT_EQ(TextOf(Part(IDC_PROMPT)), L"");
@@ -18,22 +21,22 @@ TEST_F(Ask, ATypedLineIsAnsweredAsItWasTyped) {
 
 TEST_F(Ask, APlainEnterIsAnAnswerOfItsOwn) {
     PostKey(VK_RETURN);
-    EXPECT_TRUE(std::holds_alternative<SPlainEnter>(AskPoint()));
+    EXPECT_TRUE(std::holds_alternative<PlainEnter>(AskPoint()));
     PostKey(VK_RETURN, IDC_DRAWING);
-    EXPECT_TRUE(std::holds_alternative<SPlainEnter>(AskPoint()));
+    EXPECT_TRUE(std::holds_alternative<PlainEnter>(AskPoint()));
 }
 
 TEST_F(Ask, EscapeAndClosingCancel) {
     PostKey(VK_ESCAPE);
-    EXPECT_TRUE(std::holds_alternative<SCancelled>(AskPoint()));
+    EXPECT_TRUE(std::holds_alternative<Cancelled>(AskPoint()));
     PostMessageW(m_window.Handle(), WM_CLOSE, 0, 0);
-    EXPECT_TRUE(std::holds_alternative<SCancelled>(AskPoint()));
+    EXPECT_TRUE(std::holds_alternative<Cancelled>(AskPoint()));
     EXPECT_TRUE(IsWindow(m_window.Handle()));
 }
 
 TEST_F(Ask, TheEndOfTheApplicationCancelsAndGoesOn) {
     PostQuitMessage(7);
-    EXPECT_TRUE(std::holds_alternative<SCancelled>(AskPoint()));
+    EXPECT_TRUE(std::holds_alternative<Cancelled>(AskPoint()));
     MSG message;
     ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(message.wParam, 7u);
@@ -42,7 +45,7 @@ TEST_F(Ask, TheEndOfTheApplicationCancelsAndGoesOn) {
 TEST_F(Ask, AClickDoesNotAnswerAQuestionForText) {
     PostClick(50, 50);
     PostLine(L"900");
-    const CAnswer answer = m_window.Ask(L"Width: ", std::nullopt, ASK_TEXT);
+    const Answer answer = m_window.Ask(L"Width: ", std::nullopt, ASK_TEXT);
     EXPECT_TRUE(std::holds_alternative<std::wstring>(answer));
 }
 
@@ -88,13 +91,13 @@ TEST_F(Ask, APointCanBeTypedInstead) {
     PostLine(L"120,3'");
     const auto point = m_window.PickPoint(L"p: ", std::nullopt);
     ASSERT_TRUE(point);
-    EXPECT_EQ(*point, (SPoint{120, 36}));
+    EXPECT_EQ(*point, (Point{120, 36}));
 }
 
 TEST_F(Ask, ALengthGoesAlongTheLineThatFollowsTheMouse) {
     MoveMouse(10, AreaHeight() - 1 - 220);
     PostLine(L"50");
-    const auto point = m_window.PickPoint(L"p: ", SPoint{10, 20});
+    const auto point = m_window.PickPoint(L"p: ", Point{10, 20});
     ASSERT_TRUE(point);
     ExpectNear(*point, 10, 70);
 }
@@ -105,7 +108,7 @@ TEST_F(Ask, WhatIsNoPointIsRefusedAndAskedForAgain) {
     PostLine(L"1,2");
     const auto point = m_window.PickPoint(L"p: ", std::nullopt);
     ASSERT_TRUE(point);
-    EXPECT_EQ(*point, (SPoint{1, 2}));
+    EXPECT_EQ(*point, (Point{1, 2}));
     EXPECT_EQ(Output(), L"p: there\r\n'there' is no point: click one, or type it as X,Y\r\np: \r\np: 1,2");
 }
 

@@ -1,6 +1,9 @@
 // The window while something runs.
 #include "tests/windows/devhost/window/WindowFixture.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 class Busy : public CWindowFixture {
@@ -46,7 +49,7 @@ TEST_F(Busy, NothingNewBegins) {
     Handle();
     EXPECT_EQ(m_commands, 0);
     EXPECT_EQ(TextOf(Part(IDC_PROMPT)), L"(door)");
-    m_drawing.Add(SCircle{{0, 0}, 1});
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
     PostCommand(IDM_CLEAR);
     Handle();
     EXPECT_FALSE(m_drawing.Entities().empty());

@@ -1,6 +1,9 @@
 // The menu, its keys, and the unit format of the status line.
 #include "tests/windows/devhost/window/WindowFixture.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 class Menu : public CWindowFixture {
@@ -63,7 +66,7 @@ TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
 TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
     m_window.SetItems({L"Door"}, [](std::size_t) {});
     m_window.SetReloadHandler([] {});
-    m_drawing.Add(SCircle{{0, 0}, 1});
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
     for (const UINT command : {UINT(IDM_ITEM), UINT(IDM_RELOAD), UINT(IDM_CLEAR)}) {
         EXPECT_FALSE(IsGrey(command)) << command;
         m_window.SetBusy(true);
@@ -75,7 +78,7 @@ TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
 
 TEST_F(Menu, ClearEmptiesTheDrawing) {
     EXPECT_TRUE(IsGrey(IDM_CLEAR));
-    m_drawing.Add(SCircle{{0, 0}, 1});
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
     EXPECT_FALSE(IsGrey(IDM_CLEAR));
     PostCommand(IDM_CLEAR);
     Handle();

@@ -2,6 +2,9 @@
 #include "tests/windows/devhost/window/WindowFixture.h"
 #include "tests/windows/support/Pixels.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 constexpr COLORREF kSheet = RGB(250, 250, 245);
@@ -20,7 +23,7 @@ protected:
 };
 
 TEST_F(Paint, LinesAreOnePixelOfInkWhereTheirUnitsSay) {
-    m_drawing.Add(SLine{{50, 110}, {250, 110}});
+    m_drawing.Add(LineEntity{{50, 110}, {250, 110}});
     const CClientPixels pixels = Look();
     for (const int x : {50, 51, 150, 249, 250}) {
         EXPECT_EQ(pixels.At(x, Y(110)), kInk) << x;
@@ -33,10 +36,10 @@ TEST_F(Paint, LinesAreOnePixelOfInkWhereTheirUnitsSay) {
 }
 
 TEST_F(Paint, EveryKindOfEntityShows) {
-    m_drawing.Add(SPolyline{{{30, 30}, {70, 30}, {70, 70}}, true});
-    m_drawing.Add(SCircle{{150, 150}, 35});
-    m_drawing.Add(SArc{{250, 150}, 35, 0, 3.14159265358979});
-    m_drawing.Add(SText{{310, 110}, 30, 0, L"HHH"});
+    m_drawing.Add(PolylineEntity{{{30, 30}, {70, 30}, {70, 70}}, true});
+    m_drawing.Add(CircleEntity{{150, 150}, 35});
+    m_drawing.Add(ArcEntity{{250, 150}, 35, 0, 3.14159265358979});
+    m_drawing.Add(TextEntity{{310, 110}, 30, 0, L"HHH"});
     const CClientPixels pixels = Look();
     EXPECT_EQ(pixels.At(45, Y(30)), kInk);
     EXPECT_EQ(pixels.At(50, Y(50)), kInk) << "the line that closes";
@@ -50,7 +53,7 @@ TEST_F(Paint, EveryKindOfEntityShows) {
 }
 
 TEST_F(Paint, ATextTurnsCounterClockwise) {
-    m_drawing.Add(SText{{210, 110}, 20, 1.5707963267949, L"HHHH"});
+    m_drawing.Add(TextEntity{{210, 110}, 20, 1.5707963267949, L"HHHH"});
     const CClientPixels pixels = Look();
     EXPECT_GT(pixels.Count({188, Y(180), 211, Y(110)}, kInk), 100);
     EXPECT_EQ(pixels.Count({213, Y(180), 300, Y(90)}, kInk), 0);
@@ -58,7 +61,7 @@ TEST_F(Paint, ATextTurnsCounterClockwise) {
 
 TEST_F(Paint, FollowsTheDrawing) {
     EXPECT_NE(Look().At(75, Y(75)), kInk);
-    m_drawing.Add(SLine{{10, 10}, {100, 100}});
+    m_drawing.Add(LineEntity{{10, 10}, {100, 100}});
     EXPECT_EQ(Look().At(75, Y(75)), kInk);
     m_drawing.Clear();
     EXPECT_NE(Look().At(75, Y(75)), kInk);
@@ -66,7 +69,7 @@ TEST_F(Paint, FollowsTheDrawing) {
 
 TEST_F(Paint, ALineKeepsItsPlaceHoweverFarItIsZoomed) {
     // Through the middle of a pixel that stays where it is.
-    m_drawing.Add(SLine{{50, 60}, {250, 160}});
+    m_drawing.Add(LineEntity{{50, 60}, {250, 160}});
     Wheel(150, Y(110), 80);
     const CClientPixels pixels = Look();
     EXPECT_EQ(pixels.At(150, Y(110)), kInk);
@@ -75,7 +78,7 @@ TEST_F(Paint, ALineKeepsItsPlaceHoweverFarItIsZoomed) {
 }
 
 TEST_F(Paint, PannedOutOfSightNothingIsLeft) {
-    m_drawing.Add(SCircle{{150, 150}, 35});
+    m_drawing.Add(CircleEntity{{150, 150}, 35});
     Pan(0, 0, 5000, 0);
     RECT area;
     GetClientRect(Area(), &area);
@@ -83,7 +86,7 @@ TEST_F(Paint, PannedOutOfSightNothingIsLeft) {
 }
 
 TEST_F(Paint, TheSnapShowsAMarkWhilePicking) {
-    m_drawing.Add(SLine{{110, 110}, {250, 110}});
+    m_drawing.Add(LineEntity{{110, 110}, {250, 110}});
     RECT area;
     GetClientRect(Area(), &area);
     MoveMouse(112, Y(112));
@@ -109,7 +112,7 @@ TEST_F(Paint, ALineFollowsTheMouseFromABaseHoweverFarAway) {
     });
     PostCommand(IDM_UNITS + 2);
     PostKey(VK_ESCAPE);
-    m_window.Ask(L"p", SPoint{-1e9, 150}, ASK_POINT);
+    m_window.Ask(L"p", Point{-1e9, 150}, ASK_POINT);
     EXPECT_GT(atMouse, 20);
     EXPECT_EQ(beside, 0);
     RECT area;
@@ -130,7 +133,7 @@ TEST_F(Paint, CrossesStayAtTheirPlaceInTheDrawingUntilItIsCleared) {
 }
 
 TEST_F(Paint, AVerySmallAndAVeryLargeWindowWork) {
-    m_drawing.Add(SCircle{{150, 150}, 35});
+    m_drawing.Add(CircleEntity{{150, 150}, 35});
     for (const int size : {0, 1, 40, 3000}) {
         MoveWindow(m_window.Handle(), 0, 0, size, size, TRUE);
         Look();

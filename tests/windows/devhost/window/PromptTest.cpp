@@ -2,6 +2,9 @@
 #include "devhost/window/PromptHistory.h"
 #include "tests/windows/devhost/window/WindowFixture.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 class PromptRow : public CWindowFixture {

@@ -6,6 +6,9 @@
 #include "tests/windows/devhost/window/WindowFixture.h"
 #include "tests/windows/support/HandleCount.h"
 
+using namespace tests;
+using namespace devhost;
+
 namespace {
 
 class View : public CWindowFixture {
@@ -18,7 +21,7 @@ TEST_F(View, BeginsWithOneUnitPerPixelAndTheOriginAtTheLowerLeft) {
 }
 
 TEST_F(View, TheWheelZoomsAboutTheMouse) {
-    const SPoint before = PickAt(300, 200);
+    const Point before = PickAt(300, 200);
     Wheel(300, 200, 2);
     ExpectNear(PickAt(300, 200), before.x, before.y);
     EXPECT_NEAR(UnitsPerPixel(), 1 / 1.44, 1e-9);
@@ -35,7 +38,7 @@ TEST_F(View, TheWheelZoomsWhatIsUnderTheMouseWhereverTheFocusIs) {
 }
 
 TEST_F(View, TheMiddleButtonDragsTheDrawing) {
-    const SPoint grabbed = PickAt(200, 150);
+    const Point grabbed = PickAt(200, 150);
     Pan(200, 150, 260, 120);
     ExpectNear(PickAt(260, 120), grabbed.x, grabbed.y);
     MoveMouse(300, 300);
@@ -43,7 +46,7 @@ TEST_F(View, TheMiddleButtonDragsTheDrawing) {
 }
 
 TEST_F(View, FittingShowsTheWholeDrawing) {
-    m_drawing.Add(SLine{{5000, 7000}, {9000, 8000}});
+    m_drawing.Add(LineEntity{{5000, 7000}, {9000, 8000}});
     RECT area;
     GetClientRect(Area(), &area);
     const std::function<void()> waysToFit[] = {
@@ -54,7 +57,7 @@ TEST_F(View, FittingShowsTheWholeDrawing) {
     for (const auto& fit : waysToFit) {
         Pan(0, 0, 500, 500);
         fit();
-        const SPoint left = PickAt(30, area.bottom / 2);
+        const Point left = PickAt(30, area.bottom / 2);
         EXPECT_NEAR(left.x, 5000, 10);
         EXPECT_NEAR(left.y, 7500, 10);
         EXPECT_NEAR(PickAt(area.right - 31, area.bottom / 2).x, 9000, 10);
@@ -70,30 +73,30 @@ TEST_F(View, FittingAnEmptyDrawingGoesBackToTheBeginning) {
 
 TEST_F(View, APickJumpsToAnEndPointNearTheMouse) {
     const int bottom = AreaHeight() - 1;
-    m_drawing.Add(SLine{{100.25, 100.5}, {300, 100}});
-    EXPECT_EQ(PickAt(106, bottom - 104), (SPoint{100.25, 100.5}));
+    m_drawing.Add(LineEntity{{100.25, 100.5}, {300, 100}});
+    EXPECT_EQ(PickAt(106, bottom - 104), (Point{100.25, 100.5}));
     ExpectNear(PickAt(115, bottom - 104), 115, 104);
     // The reach is in pixels, however the view is zoomed.
     Wheel(0, bottom, 6);
-    EXPECT_EQ(PickAt(306, bottom - 301), (SPoint{100.25, 100.5}));
+    EXPECT_EQ(PickAt(306, bottom - 301), (Point{100.25, 100.5}));
     EXPECT_GT(PickAt(312, bottom - 301).x, 101);
 }
 
 TEST_F(View, SnappingIsTurnedOffByItsKey) {
     const int bottom = AreaHeight() - 1;
-    m_drawing.Add(SLine{{100.25, 100.5}, {300, 100}});
+    m_drawing.Add(LineEntity{{100.25, 100.5}, {300, 100}});
     PostKey(VK_F3);
     Handle();
     ExpectNear(PickAt(104, bottom - 104), 104, 104);
     PostKey(VK_F3);
     Handle();
-    EXPECT_EQ(PickAt(104, bottom - 104), (SPoint{100.25, 100.5}));
+    EXPECT_EQ(PickAt(104, bottom - 104), (Point{100.25, 100.5}));
 }
 
 TEST_F(View, TwoQuickClicksAreTwoPoints) {
     const LPARAM place = MAKELPARAM(50, 60);
     PostMessageW(Area(), WM_LBUTTONDBLCLK, MK_LBUTTON, place);
-    EXPECT_TRUE(std::holds_alternative<SPoint>(m_window.Ask(L"p", std::nullopt, ASK_POINT)));
+    EXPECT_TRUE(std::holds_alternative<Point>(m_window.Ask(L"p", std::nullopt, ASK_POINT)));
 }
 
 TEST_F(View, TheStatusLineShowsWhereTheMouseIs) {
@@ -114,7 +117,7 @@ TEST_F(View, TheStatusLineShowsWhereTheMouseIs) {
 
 TEST_F(View, TheStripBelowTheDrawingSharesTheHeight) {
     const int before = AreaHeight();
-    const SPoint grabbed = PickAt(50, before - 20);
+    const Point grabbed = PickAt(50, before - 20);
     POINT strip = {200, before + 3};
     MapWindowPoints(Area(), m_window.Handle(), &strip, 1);
     POINT onScreen = strip;
@@ -132,9 +135,9 @@ TEST_F(View, TheStripBelowTheDrawingSharesTheHeight) {
 
 TEST(ViewLife, OpeningDrawingAndClosingLeavesNoObjectsBehind) {
     CDrawing drawing;
-    drawing.Add(SCircle{{200, 200}, 100});
-    drawing.Add(SText{{100, 100}, 20, 0.5, L"Door"});
-    drawing.Add(SPolyline{{{0, 0}, {100, 50}, {200, 0}}, true});
+    drawing.Add(CircleEntity{{200, 200}, 100});
+    drawing.Add(TextEntity{{100, 100}, 20, 0.5, L"Door"});
+    drawing.Add(PolylineEntity{{{0, 0}, {100, 50}, {200, 0}}, true});
     const auto useWindow = [&] {
         ForgetQuit();
         CMainWindow window(drawing);
@@ -145,7 +148,7 @@ TEST(ViewLife, OpeningDrawingAndClosingLeavesNoObjectsBehind) {
             SendMessageW(area, WM_MOUSEMOVE, MK_MBUTTON, MAKELPARAM(20 + step, 10));
             SendMessageW(area, WM_MBUTTONUP, 0, 0);
             PostMessageW(area, WM_LBUTTONDOWN, 0, MAKELPARAM(200, 200));
-            window.Ask(L"p", SPoint{0, 0}, ASK_POINT);
+            window.Ask(L"p", Point{0, 0}, ASK_POINT);
             window.SetItems({L"a", L"b"}, nullptr);
             UpdateWindow(area);
         }
@@ -164,7 +167,7 @@ TEST(ViewLife, OpeningDrawingAndClosingLeavesNoObjectsBehind) {
 TEST(ViewLife, ADrawingOutlivesItsWindow) {
     CDrawing drawing;
     { CMainWindow window(drawing); }
-    EXPECT_TRUE(drawing.Add(SCircle{{0, 0}, 1}));
+    EXPECT_TRUE(drawing.Add(CircleEntity{{0, 0}, 1}));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "tests/windows/devhost/window/WindowFixture.h"
 
+namespace tests {
+
 CWindowFixture::CWindowFixture() : m_window(m_drawing) {
     ForgetQuit();
     m_window.Show();
@@ -46,12 +48,12 @@ void CWindowFixture::Pan(int fromX, int fromY, int toX, int toY) const {
     SendMessageW(Area(), WM_MBUTTONUP, 0, MAKELPARAM(toX, toY));
 }
 
-SPoint CWindowFixture::PickAt(int x, int y) {
+Point CWindowFixture::PickAt(int x, int y) {
     PostClick(x, y);
-    const CAnswer answer = m_window.Ask(L"Where? ", std::nullopt, ASK_POINT);
-    EXPECT_TRUE(std::holds_alternative<SPoint>(answer));
-    const auto* point = std::get_if<SPoint>(&answer);
-    return point != nullptr ? *point : SPoint();
+    const Answer answer = m_window.Ask(L"Where? ", std::nullopt, ASK_POINT);
+    EXPECT_TRUE(std::holds_alternative<Point>(answer));
+    const auto* point = std::get_if<Point>(&answer);
+    return point != nullptr ? *point : Point();
 }
 
 void ForgetQuit() {
@@ -59,7 +61,9 @@ void ForgetQuit() {
     PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
-void ExpectNear(SPoint point, double x, double y) {
+void ExpectNear(Point point, double x, double y) {
     EXPECT_NEAR(point.x, x, 1e-9);
     EXPECT_NEAR(point.y, y, 1e-9);
 }
+
+}  // namespace tests

@@ -1,4 +1,4 @@
-// Commands that use the functions of the interface that need no hands.
+// Commands for the functions of the interface that need no user input.
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -6,14 +6,16 @@
 
 #include "tests/windows/programs/testplugin/TestPlugin.h"
 
+namespace tests {
+
 namespace {
 
 constexpr std::size_t kRoom = 300;
 constexpr wchar_t kUntouched = L'#';
 
 // A buffer that shows how far it was written.
-struct SBuffer {
-    SBuffer() { std::fill_n(text, kRoom, kUntouched); }
+struct Buffer {
+    Buffer() { std::fill_n(text, kRoom, kUntouched); }
     // The index behind the last character that was written.
     int Written() const {
         std::size_t end = kRoom;
@@ -78,7 +80,7 @@ void AlertWith() {
 
 // (find-file NAME CAPACITY): the status, how much of the buffer was written, the text if it was.
 void FindFile() {
-    SBuffer buffer;
+    Buffer buffer;
     const int status = HOST(sds_findfile)(TextArgument(0), buffer.text, std::size_t(ShortArgument(1, 254)));
     HOST(sds_retlist)
     (HOST(sds_buildlist)(RTSHORT, status, RTSHORT, buffer.Written(), RTSTR,
@@ -95,7 +97,7 @@ void ReadVariable() {
 
 // (format-length VALUE UNITS PRECISION)
 void FormatLength() {
-    SBuffer buffer;
+    Buffer buffer;
     const int status = HOST(sds_rtos)(RealArgument(0), ShortArgument(1), ShortArgument(2), buffer.text);
     HOST(sds_retlist)(HOST(sds_buildlist)(RTSHORT, status, RTSTR, buffer.text, RTNONE));
 }
@@ -152,3 +154,5 @@ void DefineOddNames() {
     refused += HOST(sds_undef)(L"unknown", 0) == 0;  // no function
     HOST(sds_retint)(refused);
 }
+
+}  // namespace tests

@@ -1,9 +1,11 @@
-// Commands that do not come back.
+// Commands that do not return.
 #include <cstdlib>
 #include <cstring>
 #include <stdexcept>
 
 #include "tests/windows/programs/testplugin/TestPlugin.h"
+
+namespace tests {
 
 namespace {
 
@@ -45,3 +47,5 @@ void ThrowOut() {
 void Abort() {
     std::abort();
 }
+
+}  // namespace tests

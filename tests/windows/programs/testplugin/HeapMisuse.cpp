@@ -6,6 +6,8 @@
 
 #include "tests/windows/programs/testplugin/TestPlugin.h"
 
+namespace tests {
+
 extern "C" {
 __declspec(dllimport) void* td_new(std::size_t size);
 __declspec(dllimport) void* td_new_array(std::size_t size);
@@ -159,3 +161,5 @@ void FailOneAllocation() {
     HOST(sds_retlist)
     (HOST(sds_buildlist)(RTSHORT, failed, RTSHORT, int(allocations() - before), RTNONE));
 }
+
+}  // namespace tests

@@ -1,6 +1,8 @@
 // Commands that ask the user for points.
 #include "tests/windows/programs/testplugin/TestPlugin.h"
 
+namespace tests {
+
 namespace {
 
 int secondStatus;
@@ -67,3 +69,5 @@ void PickBehindDialog() {
     DestroyWindow(dialog);
     AnswerPoint(status, point);
 }
+
+}  // namespace tests

@@ -1,14 +1,16 @@
-// The entry point and the table of commands. Environment variables make the plug-in misbehave where no LISP
-// call can reach: TESTPLUGIN_LOAD is "refuse", "fail", "crash" or "throw", TESTPLUGIN_UNLOAD "refuse" or
+// The entry point and the table of commands. Environment variables make the plug-in misbehave in requests
+// other than calls: TESTPLUGIN_LOAD is "refuse", "fail", "crash" or "throw", TESTPLUGIN_UNLOAD "refuse" or
 // "keep" (the functions stay defined).
 #include "tests/windows/programs/testplugin/TestPlugin.h"
 
 #include <iterator>
 #include <string>
 
+namespace tests {
+
 namespace {
 
-const SCommand kCommands[] = {
+const Command kCommands[] = {
     {L"echo", Echo},
     {L"give-int", GiveInt},
     {L"give-nil", GiveNil},
@@ -57,7 +59,7 @@ std::wstring Wish(const wchar_t* variable) {
 int Load() {
     const std::wstring wish = Wish(L"TESTPLUGIN_LOAD");
     short code = 0;
-    for (const SCommand& command : kCommands) {
+    for (const Command& command : kCommands) {
         HOST(sds_defun)(command.name, code++);
     }
     if (wish == L"fail") {
@@ -75,7 +77,7 @@ int Load() {
 int Unload() {
     const std::wstring wish = Wish(L"TESTPLUGIN_UNLOAD");
     short code = 0;
-    for (const SCommand& command : kCommands) {
+    for (const Command& command : kCommands) {
         if (wish != L"keep" || code > 1) {
             HOST(sds_undef)(command.name, code);
         }
@@ -138,3 +140,5 @@ extern "C" int icrxEntryPoint(unsigned request, void*) {
             return request > SDS_LAST_REQUEST ? 3 : 0;
     }
 }
+
+}  // namespace tests

@@ -1,26 +1,28 @@
-// What the files of the test plug-in share. Each of its LISP functions is a plain function that fetches its
-// arguments from the host and sets a result there.
+// Shared declarations of the test plug-in. Each of its LISP functions is a function that gets its arguments
+// from the host and sets a result there.
 #pragma once
 
 #include <windows.h>
 
 #include "sds/sds.h"
 
+namespace tests {
+
 // A function of the host, from whatever executable runs this: HOST(sds_retint)(5).
 #define HOST(function) reinterpret_cast<decltype(&function)>(reinterpret_cast<void*>(FindInHost(#function)))
 FARPROC FindInHost(const char* function);
 
-struct SCommand {
+struct Command {
     const wchar_t* name;
     void (*run)();
 };
 
-// The `index`-th argument of the running call, or a default when there is none of that type.
+// The argument `index` of the running call, or a default when it does not exist or has another type.
 int ShortArgument(int index, int otherwise = 0);
 double RealArgument(int index, double otherwise = 0);
 const wchar_t* TextArgument(int index);  // null when it is no text
 
-// Calls.cpp: each uses one function of the interface; most give back the status and what they got.
+// Calls.cpp: each uses one function of the interface; most return the status and the results.
 void Echo();
 void GiveInt();
 void GiveNil();
@@ -63,3 +65,5 @@ void CrashInWindow();
 void CrashInRuntime();
 void ThrowOut();
 void Abort();
+
+}  // namespace tests
