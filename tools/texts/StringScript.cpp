@@ -10,7 +10,7 @@
 #include "encoding/Encoding.h"
 #include "tools/texts/CodePage.h"
 #include "tools/texts/LanguageName.h"
-#include "tools/texts/PlaceError.h"
+#include "tools/texts/LineError.h"
 
 namespace tavrin::tools {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "tools/texts/PlaceError.h"
+#include "tools/texts/LineError.h"
 #include "tools/texts/StringModule.h"
 #include "tools/texts/StringScript.h"
 
