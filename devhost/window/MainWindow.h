@@ -107,7 +107,8 @@ private:
     void Focus();
     // Shows the label of the prompt, the hint in the status line, and the example in the empty prompt.
     void ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example);
-    void ShowIdlePrompt();
+    // The prompt without a question.
+    void ShowOwnPrompt();
 
     // MainWindowLayout.cpp
     void CreateControls();

@@ -70,7 +70,7 @@ Answer CMainWindow::Ask(std::wstring_view prompt, std::optional<Point> base, EAs
     AddOutput(std::wstring(prompt) + ShownAnswer());
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, m_busy == 0);
-    ShowIdlePrompt();
+    ShowOwnPrompt();
     Focus();
     return m_answer;
 }
