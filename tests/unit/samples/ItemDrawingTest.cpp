@@ -12,17 +12,17 @@ using namespace tests;
 namespace {
 
 // A point as it is seen from a text: along its base line and up from there.
-SPoint SeenFrom(const SText& text, SPoint point) {
-    const double x = point.x - text.place.x, y = point.y - text.place.y;
+Point SeenFrom(const TextEntity& text, Point point) {
+    const double x = point.x - text.position.x, y = point.y - text.position.y;
     const double cosine = std::cos(text.angle), sine = std::sin(text.angle);
     return {x * cosine + y * sine, y * cosine - x * sine};
 }
 
 // Whether a line of the entity crosses or touches the letters, whose width is an estimate.
-bool Touches(const CEntity& entity, const SText& text) {
+bool Touches(const Entity& entity, const TextEntity& text) {
     constexpr double kLetterWidth = 0.8;  // of the height of a capital
-    const SBox letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
-    const std::vector<SPoint> points = OutlineOf(entity, 1);
+    const Box letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
+    const std::vector<Point> points = OutlineOf(entity, 1);
     for (std::size_t i = 1; i < points.size(); ++i) {
         if (Clip({SeenFrom(text, points[i - 1]), SeenFrom(text, points[i])}, letters)) {
             return true;
@@ -45,12 +45,12 @@ TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
 }
 
 TEST_F(ItemRoutine, NoLineOfADrawingTouchesAText) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         for (const std::string& variant : item.variants) {
             ASSERT_TRUE(Make(item.name, variant));
-            for (const CEntity& entity : drawing.Entities()) {
-                for (const CEntity& other : drawing.Entities()) {
-                    const auto* text = std::get_if<SText>(&other);
+            for (const Entity& entity : drawing.Entities()) {
+                for (const Entity& other : drawing.Entities()) {
+                    const auto* text = std::get_if<TextEntity>(&other);
                     EXPECT_FALSE(text != nullptr && Touches(entity, *text))
                         << item.name << ' ' << variant << ": "
                         << std::string(text->text.begin(), text->text.end());
