@@ -48,7 +48,7 @@ TEST_F(CheckCommandLine, AMistakeGivesStatus1) {
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(
         m_folder.Short(run.output),
-        "a.TXT:4:16: error: the type letter 'd' must be a capital: the parameter gets a warning instead of "
+        "a.TXT:4:16: error: the type letter 'd' must be upper case: the parameter gets a warning instead of "
         "a row [type-small-letter]\n"
         "    $1 = \"<<1501>>\"d 900\n"
         "                   ^\n");
