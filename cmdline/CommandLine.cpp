@@ -27,6 +27,8 @@ CUsageError InvalidValue(const std::string& option, const std::string& value, co
 
 CCommandLine::CCommandLine() : m_app(std::make_unique<CLI::App>()) {
     m_app->set_help_flag();
+    // On Windows the parser would take a path such as /items for an option.
+    m_app->allow_windows_style_options(false);
     // Reported by Parse, in the form of the other messages.
     m_app->allow_extras();
 }
