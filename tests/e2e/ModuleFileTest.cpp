@@ -151,7 +151,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
 
 TEST(AnyHost, IsToldWhichFunctionItLacks) {
     HostRun host;
-    host.UseProgram(fs::path(TESTS_DIR) / "PoorHost.exe");
+    host.UseProgram(fs::path(TESTS_DIR) / "IncompleteHost.exe");
     host.Start({});
     const Window box = Window::WithTitle("Error!");
     ASSERT_TRUE(box.IsValid()) << host.Errors();
@@ -170,7 +170,8 @@ TEST(AnyHost, IsToldThatALibraryIsMissing) {
     host.Start({"--eval", R"((tavrinwnd "door"))"});
     EXPECT_EQ(host.Wait(), 1);
     setenv("WINEDLLOVERRIDES", overrides.c_str(), 1);
-    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it needs is missing"), std::string::npos)
+    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it depends on is missing"),
+              std::string::npos)
         << host.Errors();
 }
 
