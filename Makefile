@@ -6,7 +6,7 @@ WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool i
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 X86_PACKAGES = debootstrap
-LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck
+LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 
 .PHONY: help build test test-x86 run screenshots gallery lint coverage bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help

@@ -20,7 +20,6 @@ class CFile : public CObject {
         shareDenyWrite = 0x0020,
         shareDenyRead = 0x0030,
         shareDenyNone = 0x0040,
-        modeNoInherit = 0x0080,
         modeCreate = 0x1000,
         modeNoTruncate = 0x2000,
         typeText = 0x4000,
@@ -31,7 +30,8 @@ class CFile : public CObject {
     CFile(LPCTSTR fileName, UINT openFlags);  // throws when the file cannot be opened
     ~CFile() override;                        // closes an open file
 
-    // FALSE when the file cannot be opened; error, when given, then tells why.
+    // FALSE when the file cannot be opened; error, when given, then tells why: badPath for a name of MAX_PATH
+    // characters or more.
     virtual BOOL Open(LPCTSTR fileName, UINT openFlags, CFileException* error = nullptr);
     // Up to count bytes; fewer only at the end of the file, where the result is 0.
     virtual UINT Read(void* buffer, UINT count);

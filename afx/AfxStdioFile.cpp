@@ -81,7 +81,7 @@ BOOL CStdioFile::ReadString(CString& line) {
         }
     }
     const std::wstring text = m_codec->Decode(bytes);
-    line.SetString(text.data(), static_cast<int>(text.size()));
+    line = CString(text.data(), static_cast<int>(text.size()));
     return TRUE;
 }
 

@@ -1,5 +1,12 @@
 #include "imagedlg/PictureCtrl.h"
 
+#include <algorithm>
+
+// The header takes min and max for macros of the system's, which are turned off.
+namespace Gdiplus {
+using std::max;
+using std::min;
+}  // namespace Gdiplus
 #include <gdiplus.h>
 
 using namespace Gdiplus::DllExports;

@@ -175,7 +175,7 @@ void CPropertyGrid::OpenList(const CGridItem& item, const CRect& under) {
 void CPropertyGrid::OpenCalendar(const CGridItem& item, CRect under) {
     auto calendar = std::make_unique<CPropertyGridMonthCalCtrl>();
     ClientToScreen(&under);
-    if (!calendar->CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, under, GetParent(), 0)) {
+    if (!calendar->CWnd::CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, under, GetParent(), 0)) {
         return;
     }
     // A date that is none leaves today selected.

@@ -1,6 +1,7 @@
 // The painting of the property grid. Everything is drawn into an off-screen picture that is then shown
 // at once, so that nothing flickers. Painting reads the state and changes nothing but what it records of
 // where it drew, for hit tests. Its time goes by the rows in sight, not by those there are.
+#include <afxwin.h>
 #include <shlwapi.h>
 
 #include <algorithm>
@@ -70,7 +71,7 @@ void CPropertyGrid::PaintWindow(CDC& target) {
     CRect client;
     GetClientRect(&client);
     std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
-    if (canvas == nullptr || canvas->Size() != client.Size()) {
+    if (canvas == nullptr || canvas->Size().cx != client.Width() || canvas->Size().cy != client.Height()) {
         canvas = std::make_unique<CMemoryCanvas>(target, client.Size());
     }
     Paint(target, *canvas);

@@ -149,4 +149,12 @@ TEST(MessageBoxes, CarryTheFilesNameWithoutAnApplicationObject) {
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
 }
 
+TEST(MainWindow, IsTheActiveOneWhenTheApplicationNamesNone) {
+    const CWinApp application;
+    CWnd window;
+    window.CreateEx(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr);
+    window.SetActiveWindow();
+    EXPECT_EQ(AfxGetMainWnd(), &window);
+}
+
 }  // namespace

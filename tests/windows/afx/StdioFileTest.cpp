@@ -225,6 +225,14 @@ TEST_F(StdioFile, WritesWhatIsBufferedWhenItIsDestroyed) {
     EXPECT_EQ(m_folder.Read(L"out.txt"), "a\r\n");
 }
 
+TEST(File, ReportsABadPathForANameThatIsTooLong) {
+    CFile file;
+    CFileException error;
+    EXPECT_FALSE(file.Open(CString(L'x', MAX_PATH), CFile::modeRead, &error));
+    EXPECT_EQ(error.m_cause, CFileException::badPath);
+    EXPECT_FALSE(file.Open(CString(L'x', MAX_PATH - 1), CFile::modeRead, &error));
+}
+
 TEST(File, ReadsAndWritesBytesAsTheyAre) {
     const CTempFolder folder;
     const std::wstring path = folder.Path(L"f.bin");

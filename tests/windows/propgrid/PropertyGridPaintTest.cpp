@@ -505,7 +505,7 @@ TEST_F(PropertyGridPaint, SaysThatTheBackgroundIsErasedWithoutTouchingIt) {
     dc.CreateCompatibleDC(nullptr);
     bitmap.Attach(::CreateBitmap(10, 10, 1, 32, nullptr));
     const HGDIOBJ previous = ::SelectObject(dc, bitmap.GetSafeHandle());
-    dc.SetPixel(5, 5, RGB(1, 2, 3));
+    ::SetPixel(dc, 5, 5, RGB(1, 2, 3));
     EXPECT_TRUE(grid.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0));
     EXPECT_EQ(dc.GetPixel(5, 5), RGB(1, 2, 3));
     ::SelectObject(dc, previous);
