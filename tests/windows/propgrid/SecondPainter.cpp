@@ -269,7 +269,7 @@ std::wstring CSecondPainter::ShortenPath(const std::wstring& path, int width, CF
 
 void CSecondPainter::Fill(const CRect& rect, COLORREF color) {
     CBrush brush(color);
-    m_dc.FillRect(rect, &brush);
+    ::FillRect(m_dc, rect, brush);
 }
 
 void CSecondPainter::Text(const std::wstring& text, CRect rect, CFont& font, COLORREF color, UINT flags) {
