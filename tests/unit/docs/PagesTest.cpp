@@ -88,7 +88,7 @@ TEST(Documentation, NamesTargetsOfMakeThatExist) {
 TEST(Documentation, NamesFilesOfTheSourcesThatExist) {
     const std::regex path(
         "(?:^|[ "
-        "\n(])((?:afx|cmake|devhost|docs|dyndlg|gallery|host|imagedlg|itemdlg|propgrid|res|samples|scripts|"
+        "\n(])((?:afx|cmake|devhost|docs|dyndlg|gallery|host|imagedlg|itemdlg|memory|propgrid|res|samples|scripts|"
         "sds|tests|tools)/[A-Za-z0-9_./-]*[A-Za-z0-9_/])");
     for (const Page& page : AllPages()) {
         if (page.path == "CHANGELOG.md") {

@@ -12,9 +12,8 @@ protected:
     void SetUp() override {
         TCHAR path[MAX_PATH];
         ::GetModuleFileName(nullptr, path, MAX_PATH);
-        CString file = path;
-        file = file.Left(file.ReverseFind(L'\\') + 1) + L"afx_other_module.dll";
-        m_module = ::LoadLibrary(file);
+        const std::wstring file = path;
+        m_module = ::LoadLibrary((file.substr(0, file.rfind(L'\\') + 1) + L"afx_other_module.dll").c_str());
         ASSERT_NE(m_module, nullptr) << ::GetLastError();
     }
     void TearDown() override {
