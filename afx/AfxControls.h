@@ -30,6 +30,8 @@ class CEdit : public CWnd {
     CEdit() = default;
     virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
     void SetSel(int start, int end, BOOL noScroll = FALSE);
+    // Whether the user changed the text since it was set.
+    BOOL GetModify() const { return ::SendMessage(m_hWnd, EM_GETMODIFY, 0, 0) != 0; }
     void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
 };
 

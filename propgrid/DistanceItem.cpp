@@ -1,7 +1,5 @@
 #include "propgrid/DistanceItem.h"
 
-#include <utility>
-
 #include "propgrid/PropertyGrid.h"
 #include "sds/sds.h"
 
@@ -84,16 +82,22 @@ std::wstring CDistanceItem::GetStringValue() {
 }
 
 bool CDistanceItem::SetStringValue(std::wstring text) {
+    // A length that was left as it stood, by Escape too, keeps the digits that its text does not show.
+    if (m_pGrid != nullptr && m_pGrid->IsEditUntouched()) {
+        return false;
+    }
     double distance = m_value;
     if (sds_distof(text.c_str(), LinearUnits(), &distance) != RTNORM) {
         ::MessageBox(nullptr, L"The value you have input is invalid, please specify another one.",
                      L"Invalid value", MB_OK);
-        distance = m_value;
-    } else if (text == GetStringValue()) {
-        // A length that was left as it stood, by Escape too, keeps the digits that its text does not show.
-        distance = m_value;
+        return false;
     }
-    return std::exchange(m_value, distance) != distance;
+    // A zero of the other sign is the same length: it is not stored.
+    if (distance == m_value) {
+        return false;
+    }
+    m_value = distance;
+    return true;
 }
 
 void CDistanceItem::ShowDropDown(CRect /*rect*/) {}

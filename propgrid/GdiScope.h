@@ -55,9 +55,14 @@ public:
         // A window may have no area at all; a bitmap may not.
         m_bitmap.CreateCompatibleBitmap(&target, std::max<int>(size.cx, 1), std::max<int>(size.cy, 1));
         ::SelectObject(m_dc.GetSafeHdc(), m_bitmap.GetSafeHandle());
+        TakeLayout(target);
     }
     CMemoryCanvas(const CMemoryCanvas&) = delete;
     CMemoryCanvas& operator=(const CMemoryCanvas&) = delete;
+
+    // Runs from right to left where the target does. Copied between the two directions the picture, letters
+    // included, would be mirrored.
+    void TakeLayout(CDC& target) { ::SetLayout(m_dc.GetSafeHdc(), ::GetLayout(target.GetSafeHdc())); }
 
     CDC& Dc() { return m_dc; }
     CSize Size() const { return m_size; }

@@ -29,8 +29,9 @@ public:
     virtual int GetEditMode() = 0;
 
     // Draws the value into `rect`, the value cell. `focused` says whether this is the focused row. Text
-    // colour and font are set as for a built-in kind, the background mode is transparent; whatever the
-    // item changes in `dc` the grid restores.
+    // colour and font are set as for a built-in kind, the pen has the grid's shade colour, the brush is a
+    // solid one of its text colour, the background mode is transparent; whatever the item changes in `dc` the
+    // grid restores.
     virtual void DrawItem(CDC& dc, CRect rect, bool focused) = 0;
 
     // The grid takes the copy of the value that later changes are compared with: when the item is added
@@ -38,21 +39,21 @@ public:
     virtual void AcceptValue() = 0;
 
     // The left button went down in the grid while this item had the focus (EM_CUSTOM only). True
-    // captures the mouse for the item.
+    // captures the mouse for the item; the press that focuses the item does not come here.
     virtual bool OnLButtonDown(CRect rect, CPoint point) = 0;
 
     // The mouse moved while the item held the capture.
     virtual void OnMouseMove(CRect rect, CPoint point) = 0;
 
-    // The left button was released: the end of a capture (already released), or of a click on the value
-    // of an EM_CUSTOM item.
+    // The left button was released at the end of a capture, which is over by then. A click that the item did
+    // not capture does not come here.
     virtual void OnLButtonUp(CRect rect, CPoint point) = 0;
 
     // The text that the in-place edit opens with.
     virtual std::wstring GetStringValue() = 0;
 
-    // Takes the text that the in-place edit ended with. True when the value changed; the grid then
-    // notifies its owner and repaints.
+    // Takes the text that the in-place edit ended with, touched or not (CPropertyGrid::IsEditUntouched). True
+    // when the value changed; the grid then notifies its owner and repaints.
     virtual bool SetStringValue(std::wstring text) = 0;
 
     // A click on the value of an EM_DROPDOWN item: the item shows its own drop-down under `rect`.

@@ -10,6 +10,7 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
+    ON_MESSAGE(WM_MOVE, &CPropertyGrid::OnMove)
     ON_MESSAGE(WM_PRINTCLIENT, &CPropertyGrid::OnPrintClient)
     ON_WM_DESTROY()
     ON_WM_LBUTTONDOWN()
@@ -51,6 +52,12 @@ void CPropertyGrid::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
 }
 
+// Comes for a window that could not be created, too.
+void CPropertyGrid::PostNcDestroy() {
+    m_creating = false;
+    CWnd::PostNcDestroy();
+}
+
 LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DESTROY) {
         m_rowsPending = false;  // a window that goes needs no layout
@@ -84,7 +91,13 @@ BOOL CPropertyGrid::OnEraseBkgnd(CDC* /*dc*/) {
 
 void CPropertyGrid::OnSize(UINT type, int width, int height) {
     CWnd::OnSize(type, width, height);
+    LeaveEditor();
     PlaceScrollBar();
+}
+
+LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*place*/) {
+    LeaveEditor();
+    return Default();
 }
 
 LRESULT CPropertyGrid::OnPrintClient(WPARAM dc, LPARAM /*flags*/) {

@@ -66,7 +66,8 @@ public:
     // unknown or when `value` is null.
     //
     // An item that is not editable shows in a colour of its own and opens no editor. An undefined one
-    // shows the grid's undefined text in place of its value, and GetItemValue fails for it.
+    // shows the grid's undefined text in place of its value, and GetItemValue fails for it; a custom item
+    // never is undefined.
     UINT AddItem(UINT section, EItemType kind, const std::wstring& name, const void* value,
                  bool editable = true, bool undefined = false);
 
@@ -106,8 +107,8 @@ public:
     // grid. Null is refused (NO_ID).
     UINT AddCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable = true);
 
-    // Removes all sections and items; ids start at 0 again. Deliberately leaves the focused ids and an
-    // open editor alone: a new row that gets the id of the focused one shows as focused.
+    // Removes all sections and items; ids start at 0 again. Deliberately leaves the focused ids alone: a
+    // new row that gets the id of the focused one shows as focused.
     void ResetContents();
 
     // ---- Values
@@ -186,8 +187,8 @@ public:
     // section keep what an earlier paint gave them. False when no item, or section, has that id.
     bool GetItemRects(UINT item, CRect& name, CRect& value) const;
     bool GetSectionRects(UINT section, CRect& glyph, CRect& header) const;
-    // Where a press counts as one on the focused item's edit button. Kept from the last paint that drew
-    // an editable focused item with an editor.
+    // Where a press counts as one on the focused item's edit button, as the last paint recorded it that drew
+    // an editable focused item with an editor. Empty from a move of the focus to that paint.
     CRect GetEditButtonRect() const { return m_editButtonRect; }
     int GetRowHeight() const { return m_rowHeight; }
     // From the left edge of the value rectangle to the value's text; custom items place theirs alike.
@@ -195,11 +196,34 @@ public:
 
     // ---- Editing
 
+    // An open editor belongs to one row and stands on its cell. What moves, hides or changes that cell or its
+    // item first ends the editor as EndEditing does: the typed text is stored in its own row and notified,
+    // then the operation goes on. The owner may do anything when it is notified, also remove the row that the
+    // operation is about: the operation is then refused.
+    //
+    // These end the editor:
+    //   SetFocusedItem, SetFocusedSection   for another row than the focused one, or none
+    //   SetItemValue                        of its item; the new value is the one that stays
+    //   SetItemEditable, SetItemUndefined   of its item, for the other state
+    //   AddSection, AddItem, typed adds     in any section; the new row is complete before
+    //   ResetContents, SetDisplayMode       always
+    //   SetSectionCollapsed                 of any section
+    //   SetGutterWidth                      for another position
+    //   another size or place of the grid's window, and its end
+    //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
+    //
+    // All else leaves it open on its cell: whatever is refused or sets what is set already, the values and
+    // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
+
     // Whether an in-place edit, a list or a calendar is open.
     bool IsEditing() const { return m_editor != nullptr && m_editor->GetSafeHwnd() != nullptr; }
     // Ends it: the typed text becomes the value, a list or a calendar closes without a choice. For a client
     // that is about to read the values without the user having left the grid.
     void EndEditing();
+    // For ICustomItem::SetStringValue: whether it is given the text that the edit was opened with, which the
+    // user never touched or put back by Escape. An item whose text does not show all of its value then keeps
+    // the value. False for the same text typed anew, and outside of that call.
+    bool IsEditUntouched() const { return m_editUntouched; }
 
     // ---- Appearance
 
@@ -208,7 +232,7 @@ public:
     UINT GetDisplayMode() const { return m_displayMode; }
 
     // The x position of the divider between the columns; half the client width at the start.
-    void SetGutterWidth(int x) { Change(m_gutter, x); }
+    void SetGutterWidth(int x);
     int GetGutterWidth() const { return m_gutter; }
 
     // Display flags, all true at the start: shade the header rows and the band at the left; lines
@@ -270,12 +294,14 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
     void PreSubclassWindow() override;
+    void PostNcDestroy() override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnMove(WPARAM zero, LPARAM place);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -349,12 +375,18 @@ private:
     void ReportChange(UINT item);
 
     // Values: PropertyGridValues.cpp.
+    UINT AddItemWithOptions(UINT section, EItemType kind, const std::wstring& name, const void* value,
+                            std::vector<std::wstring> options, bool editable, bool undefined);
+    UINT InsertCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable);
+    void LayOutNewRow();
     UINT AddItemWithOption(UINT section, EItemType kind, const std::wstring& name, const void* value,
                            const std::wstring& option, bool editable, bool undefined);
     template <class T>
     bool ReadValue(UINT item, T& value) const;
     template <class T>
     bool WriteValue(UINT item, T value);
+    CGridItem* LeaveEditorOf(UINT item);
+    bool SetFocusedRow(const CRow& row);
 
     // Layout: PropertyGridLayout.cpp.
     void Relayout();
@@ -396,7 +428,6 @@ private:
     void DoubleClick();
     void HoldMouse(EMouseUse use);
     EMouseUse LetMouseGo();
-    bool TakeFocus();
     bool IsOnDivider(CPoint point) const;
     bool IsOnEditButton(CPoint point) const;
     bool CanFocus(const CGridItem& item) const { return item.editable || m_focusNonEditable; }
@@ -413,6 +444,7 @@ private:
     void FocusNextRow();
     void FocusPreviousRow();
     void FocusRow(const CRow& row);
+    void MoveFocus(const CRow& row);
     void RevealFocusedRow();
 
     // Scrolling: PropertyGridScroll.cpp.
@@ -430,8 +462,11 @@ private:
     void OpenCalendar(const CGridItem& item, CRect under);
     void TakeChoice(int index);
     void TakeText(const std::wstring& text);
+    bool GiveText(const CGridItem& item, const std::wstring& text, bool isUntouched);
     void TakeDate();
     void CloseEditor();
+    bool LeaveEditor();
+    bool TakeFocus();
 
     // Dialogs: PropertyGridModalEdit.cpp.
     void EditInDialog(UINT id);
@@ -463,7 +498,7 @@ private:
     bool m_rowsPending = false;  // rows were added since then
     CRect m_editButtonRect;
     bool m_buttonPressed = false;  // paints the edit button pushed
-    bool m_creating = false;       // between PreCreateWindow and PreSubclassWindow
+    bool m_creating = false;       // from PreCreateWindow to PreSubclassWindow, or to a failed creation
     EMouseUse m_mouseUse = MU_NONE;
     int m_lastDividerX = 0;        // of the mouse, while it moves the divider
     bool m_editOnRelease = false;  // the left button went down on a value whose editor opens on release
@@ -471,4 +506,5 @@ private:
     // button means the button; until then every release opens the text edit.
     bool m_textPartPressed = true;
     std::unique_ptr<CWnd> m_editor;  // the open one; or what is left of one that closed by itself
+    bool m_editUntouched = false;    // the edit that just ended, while its text is taken
 };

@@ -43,18 +43,17 @@ bool IsEditedAsText(EItemType kind) {
     return kind == IT_STRING || kind == IT_INTEGER || kind == IT_DOUBLE || kind == IT_CUSTOM;
 }
 
-// Gives a String, an Integer or a Double what was typed. False when nothing was typed for a number.
-bool StoreText(CGridItem& item, const std::wstring& text) {
+// Gives a String, an Integer or a Double what was typed. False when nothing was typed for a number. A text
+// that was not touched stands for the value itself: a number keeps the digits that its text does not show.
+bool StoreText(CGridItem& item, const std::wstring& text, bool isUntouched) {
     if (item.kind != IT_STRING && text.empty()) {
         return false;
     }
-    // A number that was left as it stood keeps the digits that its text does not show.
-    const bool isNew = item.undefined || text != TextToEdit(item);
-    if (item.kind == IT_STRING) {
+    if (!isUntouched && item.kind == IT_STRING) {
         item.value = text;
-    } else if (isNew && item.kind == IT_INTEGER) {
+    } else if (!isUntouched && item.kind == IT_INTEGER) {
         item.value = ReadTypedInteger(text);
-    } else if (isNew) {
+    } else if (!isUntouched) {
         item.value = ReadTypedReal(text);
     }
     item.undefined = false;
@@ -74,6 +73,22 @@ void CPropertyGrid::EndEditing() {
         SetFocus();
     }
     CloseEditor();
+}
+
+// Ends an open editor before something becomes of its row. Whoever hears of the text may do anything to the
+// grid meanwhile. False when that took the grid's window away.
+bool CPropertyGrid::LeaveEditor() {
+    if (IsEditing()) {
+        EndEditing();
+    }
+    return GetSafeHwnd() != nullptr;
+}
+
+// The same before what the user does with the mouse, for which the grid has to have the focus.
+bool CPropertyGrid::TakeFocus() {
+    SetFocus();
+    CloseEditor();
+    return GetSafeHwnd() != nullptr;
 }
 
 // The grid lets go of the editor before its window is destroyed, which may bring a message about its end.
@@ -208,6 +223,14 @@ void CPropertyGrid::TakeChoice(int index) {
     Repaint();
 }
 
+// A custom item may lead to another edit's end meanwhile.
+bool CPropertyGrid::GiveText(const CGridItem& item, const std::wstring& text, bool isUntouched) {
+    const bool outer = std::exchange(m_editUntouched, isUntouched);
+    const bool changed = std::get<ICustomItem*>(item.value)->SetStringValue(text);
+    m_editUntouched = outer;
+    return changed;
+}
+
 // The in-place edit ended. Another kind of item deliberately leaves the edit alone.
 void CPropertyGrid::TakeText(const std::wstring& text) {
     CGridItem* const item = FindFocusedItem();
@@ -216,8 +239,10 @@ void CPropertyGrid::TakeText(const std::wstring& text) {
     }
     const UINT id = item->id;
     std::unique_ptr<CWnd> edit = std::move(m_editor);
-    const bool changed = item->kind == IT_CUSTOM ? std::get<ICustomItem*>(item->value)->SetStringValue(text)
-                                                 : StoreText(*item, text);
+    const auto* const inPlaceEdit = dynamic_cast<const CPropertyGridInPlaceEdit*>(edit.get());
+    const bool isUntouched = inPlaceEdit != nullptr && inPlaceEdit->IsUntouched();
+    const bool changed =
+        item->kind == IT_CUSTOM ? GiveText(*item, text, isUntouched) : StoreText(*item, text, isUntouched);
     if (changed) {
         NotifyChanged(id);
     }
@@ -234,7 +259,8 @@ void CPropertyGrid::TakeDate() {
         return;
     }
     std::unique_ptr<CWnd> ended = std::move(m_editor);
-    item->value = date;
+    // The selection of today carries the time of day; a Date holds a day.
+    item->value = COleDateTime(date.GetYear(), date.GetMonth(), date.GetDay(), 0, 0, 0);
     item->undefined = false;
     NotifyChanged(item->id);
     DestroyEditor(std::move(ended));

@@ -50,6 +50,7 @@ CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CPropertyGrid* parent, CRect 
     // An edit takes some 30 000 typed characters unless told otherwise; values may be longer.
     LimitText(0);
     SetWindowText(m_initialText.c_str());
+    GetWindowText(m_shownText);
     SetFocus();
     // Scrolls the end of the text into view and leaves the caret there, with nothing selected.
     SetSel(0, -1);
@@ -61,6 +62,16 @@ void CPropertyGridInPlaceEdit::SetColors(COLORREF background, COLORREF text) {
     m_textColor = text;
     m_brush.DeleteObject();
     m_brush.CreateSolidBrush(background);
+}
+
+// The text may have been set from outside too, which does not count as the user's change.
+bool CPropertyGridInPlaceEdit::IsUntouched() const {
+    if (GetSafeHwnd() == nullptr || GetModify()) {
+        return false;
+    }
+    CString text;
+    GetWindowText(text);
+    return text == m_shownText;
 }
 
 // A dialog would look for a mnemonic: Alt with a letter does nothing while the edit is open.

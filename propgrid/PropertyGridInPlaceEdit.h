@@ -42,6 +42,10 @@ public:
     // they do with Ctrl.
     void SetExitOnNavigation(bool exit) { m_exitOnNavigation = exit; }
 
+    // Whether the text is the one that the edit was opened with, and the user never touched it or put it back
+    // by Escape. The same text typed anew does not count. False once the window is gone.
+    bool IsUntouched() const;
+
     // Where the edit was created.
     const CRect& GetPosition() const { return m_position; }
 
@@ -62,6 +66,7 @@ private:
     void End();
 
     std::wstring m_initialText;
+    CString m_shownText;  // what the window makes of it: one line at most
     bool m_exitOnNavigation = false;
     CRect m_position;
     COLORREF m_background = 0;

@@ -3,8 +3,20 @@
 
 #include "propgrid/PropertyGrid.h"
 
-// False for a key that is none of the grid's.
+namespace {
+
+bool IsArrowKey(UINT key) {
+    return key >= VK_LEFT && key <= VK_DOWN;
+}
+
+}  // namespace
+
+// False for a key that is none of the grid's. An editor has the keyboard, but keys may have been on their way
+// to the grid when it opened: it ends before the focus moves.
 bool CPropertyGrid::PressKey(UINT key) {
+    if (IsArrowKey(key) && !LeaveEditor()) {
+        return true;
+    }
     switch (key) {
         case VK_DOWN:
             FocusNextRow();
@@ -36,11 +48,12 @@ bool CPropertyGrid::TypeCharacter(UINT character) {
         case L'/':
             CollapseAllSections(true);
             return true;
+        // Unlike the arrow keys these lay the rows out anew even if the section is so already.
         case L'+':
-            CollapseFocusedSection(false);
+            SetSectionCollapsed(m_focusedSection, false);
             return true;
         case L'-':
-            CollapseFocusedSection(true);
+            SetSectionCollapsed(m_focusedSection, true);
             return true;
         default:
             return false;
@@ -49,16 +62,13 @@ bool CPropertyGrid::TypeCharacter(UINT character) {
 
 // False when no section is focused or it is collapsed, or expanded, already.
 bool CPropertyGrid::CollapseFocusedSection(bool collapse) {
-    CGridSection* const section = m_contents.FindSection(m_focusedSection);
-    if (section == nullptr || section->collapsed == collapse) {
-        return false;
-    }
-    m_contents.SetCollapsed(*section, collapse);
-    Relayout();
-    return true;
+    const CGridSection* const section = m_contents.FindSection(m_focusedSection);
+    return section != nullptr && section->collapsed != collapse &&
+           SetSectionCollapsed(m_focusedSection, collapse);
 }
 
 void CPropertyGrid::CollapseAllSections(bool collapse) {
+    LeaveEditor();
     for (CGridSection* const section : m_contents.GetSections()) {
         m_contents.SetCollapsed(*section, collapse);
     }
@@ -109,16 +119,17 @@ void CPropertyGrid::FocusPreviousRow() {
     }
 }
 
-// An editor has the keyboard, but keys may have been on their way to the grid when it opened. It ends with
-// the row that it belongs to: what it gives back goes to the focused one.
 void CPropertyGrid::FocusRow(const CRow& row) {
-    if (IsEditing() && !TakeFocus()) {
-        return;
-    }
-    m_focusedSection = row.section;
-    m_focusedItem = row.item;
+    MoveFocus(row);
     Repaint();
     RevealFocusedRow();
+}
+
+// The edit button is that of the focused row: until the next paint there is none.
+void CPropertyGrid::MoveFocus(const CRow& row) {
+    m_focusedSection = row.section;
+    m_focusedItem = row.item;
+    m_editButtonRect.SetRectEmpty();
 }
 
 // Scrolls when the row does not show in full. The thumb deliberately goes to the row's place in the window,

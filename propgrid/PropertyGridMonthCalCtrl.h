@@ -11,7 +11,8 @@
 //
 // It ends with a date, by a click on a day or Enter: then it sends WM_GRID_DATE_CHOSEN to the owner window,
 // the parent when there is no owner, and leaves the closing to it. Or it ends without one, by Escape or by
-// losing the focus: then it destroys its own window and sends nothing.
+// losing the focus: then it destroys its own window and sends nothing. While the calendar's own edit of the
+// year has the focus all this holds for the edit.
 //
 // The calendar never deletes itself. Its owner holds the object and may destroy the window and delete the
 // object while it handles the message; nothing of the calendar is touched afterwards.
@@ -28,6 +29,23 @@ class CPropertyGridMonthCalCtrl : public CMonthCalCtrl {
 public:
     CPropertyGridMonthCalCtrl() = default;
 
+private:
+    // The edit that the calendar opens when its year is clicked: a child that has the focus in its place.
+    class CYearEdit : public CWnd {
+    public:
+        explicit CYearEdit(CPropertyGridMonthCalCtrl& calendar) : m_calendar(calendar) {}
+
+    protected:
+        afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+        afx_msg void OnKillFocus(CWnd* newFocus);
+        afx_msg UINT OnGetDlgCode();
+        afx_msg void OnDestroy();
+        DECLARE_MESSAGE_MAP()
+
+    private:
+        CPropertyGridMonthCalCtrl& m_calendar;
+    };
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& create) override;
 
@@ -38,5 +56,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool IsOwnChild(const CWnd* window) const;
+    void LoseFocusTo(CWnd* window);
     void ReportDate();
+
+    CYearEdit m_yearEdit{*this};
 };

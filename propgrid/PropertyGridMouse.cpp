@@ -17,12 +17,49 @@ void ShowCursor(LPCTSTR name) {
     ::SetCursor(::LoadCursor(nullptr, name));
 }
 
+bool IsLeftButtonDown() {
+    return ::GetKeyState(VK_LBUTTON) < 0;
+}
+
+// Posted before a step of a press and taken back after it: a message loop that ran meanwhile has removed it.
+constexpr UINT kPressMark = WM_USER + 490;
+
+// Finds out whether a step of a press outlasted the press: the step may have run a message loop, such as a
+// message box's, in which the release of the button went to another window. Where the messages of a mouse
+// come without a mouse the button is never down, which says nothing.
+class CPressWatch {
+public:
+    explicit CPressWatch(HWND window)
+        : m_window(window),
+          m_wasDown(IsLeftButtonDown()),
+          m_isMarked(::PostMessage(window, kPressMark, 0, 0) != FALSE) {}
+    ~CPressWatch() { RemoveMark(); }
+    CPressWatch(const CPressWatch&) = delete;
+    CPressWatch& operator=(const CPressWatch&) = delete;
+
+    bool HasLoopRun() { return m_isMarked && !RemoveMark(); }
+    bool WasReleased() const { return m_wasDown && !IsLeftButtonDown(); }
+
+private:
+    // False when the mark is gone.
+    bool RemoveMark() {
+        MSG mark;
+        return std::exchange(m_isMarked, false) &&
+               ::PeekMessage(&mark, m_window, kPressMark, kPressMark, PM_REMOVE) != FALSE;
+    }
+
+    HWND m_window;
+    bool m_wasDown;
+    bool m_isMarked;
+};
+
 }  // namespace
 
 // False when nothing is under the point and the default handling is to follow.
 bool CPropertyGrid::Press(CPoint point) {
     m_editOnRelease = false;
-    if (!TakeFocus()) {
+    CPressWatch watch(m_hWnd);
+    if (!TakeFocus() || watch.HasLoopRun() || watch.WasReleased()) {
         return true;
     }
     UpdateWindow();
@@ -32,7 +69,9 @@ bool CPropertyGrid::Press(CPoint point) {
         return true;
     }
     if (PressCustomItem(point)) {
-        HoldMouse(MU_CUSTOM_ITEM);
+        if (!watch.WasReleased()) {
+            HoldMouse(MU_CUSTOM_ITEM);
+        }
         return true;
     }
     if (IsOnDivider(point)) {
@@ -41,19 +80,9 @@ bool CPropertyGrid::Press(CPoint point) {
         HoldMouse(MU_DIVIDER);
         return true;
     }
-    m_focusedSection = NO_ID;
-    m_focusedItem = NO_ID;
-    m_editButtonRect.SetRectEmpty();
+    MoveFocus({});
     Repaint();
     return (IsCategorized() && PressSection(point)) || PressItem(point);
-}
-
-// Gives the grid the focus, which ends an open edit with its text, and does away with the editor. False when
-// whoever heard of the text took the grid's window away.
-bool CPropertyGrid::TakeFocus() {
-    SetFocus();
-    CloseEditor();
-    return GetSafeHwnd() != nullptr;
 }
 
 bool CPropertyGrid::PressCustomItem(CPoint point) {
@@ -115,8 +144,8 @@ bool CPropertyGrid::IsOnDivider(CPoint point) const {
     return std::abs(point.x - m_gutter) < dividerReach;
 }
 
-// The button's rectangle outlives the showing of its row: a row that was scrolled away, or went with its
-// section, has no button.
+// The recorded rectangle may be that of a row which has since been scrolled away, or went with its section:
+// such a row has no button.
 bool CPropertyGrid::IsOnEditButton(CPoint point) const {
     const CGridItem* const item = m_contents.FindItem(m_focusedItem);
     if (item == nullptr || !item->editable || item->GetValueRect().IsRectEmpty() ||

@@ -74,6 +74,7 @@ void CPropertyGrid::PaintWindow(CDC& target) {
     if (canvas == nullptr || canvas->Size().cx != client.Width() || canvas->Size().cy != client.Height()) {
         canvas = std::make_unique<CMemoryCanvas>(target, client.Size());
     }
+    canvas->TakeLayout(target);
     Paint(target, *canvas);
     m_canvas = std::move(canvas);
 }
@@ -96,7 +97,10 @@ void CPropertyGrid::Paint(CDC& target, CMemoryCanvas& canvas) {
         }
         CPen shadePen;
         shadePen.CreatePen(PS_SOLID, 1, m_colors.shade);
+        CBrush textBrush;
+        textBrush.CreateSolidBrush(m_colors.text);
         const CSelectedObject pen(dc, shadePen);
+        const CSelectedObject brush(dc, textBrush);
         const CSelectedObject font(dc, m_font);
         dc.FillSolidRect(&tools.picture, m_colors.back);
         dc.SetBkMode(TRANSPARENT);

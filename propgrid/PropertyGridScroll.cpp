@@ -11,8 +11,7 @@ bool CPropertyGrid::ScrollByBar(UINT code, UINT position, const CScrollBar* bar)
     if (!m_scrollBarShown || !isOwnBar || code == SB_ENDSCROLL) {
         return true;
     }
-    SetFocus();
-    return Scroll(code, FindThumbPosition(position));
+    return TakeFocus() && Scroll(code, FindThumbPosition(position));
 }
 
 // A message holds no more than the lower half of a position; the bar knows the whole of it.
@@ -74,8 +73,8 @@ void CPropertyGrid::ScrollByWheel(int delta) {
     if (lines == 0 || !m_scrollBarShown) {
         return;
     }
-    if (delta < 0 || IsEditing()) {
-        SetFocus();
+    if ((delta < 0 || IsEditing()) && !TakeFocus()) {
+        return;
     }
     for (int line = 0; line < lines; ++line) {
         Scroll(delta > 0 ? SB_LINEUP : SB_LINEDOWN);

@@ -6,34 +6,60 @@
 
 UINT CPropertyGrid::AddSection(const std::wstring& name, bool collapsed, UINT before) {
     const UINT id = m_contents.AddSection(name, collapsed, before);
-    RelayoutForMoreRows();
+    LayOutNewRow();
     return id;
 }
 
 UINT CPropertyGrid::AddItem(UINT section, EItemType kind, const std::wstring& name, const void* value,
                             bool editable, bool undefined) {
+    return AddItemWithOptions(section, kind, name, value, {}, editable, undefined);
+}
+
+UINT CPropertyGrid::AddItemWithOptions(UINT section, EItemType kind, const std::wstring& name,
+                                       const void* value, std::vector<std::wstring> options, bool editable,
+                                       bool undefined) {
     CGridValue read;
     if (!ReadGridValue(kind, value, read)) {
         return NO_ID;
     }
-    const UINT id = m_contents.AddItem(section, kind, name, std::move(read), editable, undefined);
-    if (id != NO_ID) {
-        RelayoutForMoreRows();
+    const UINT id = kind == IT_CUSTOM
+                        ? InsertCustomItem(section, name, std::get<ICustomItem*>(read), editable)
+                        : m_contents.AddItem(section, kind, name, std::move(read), editable, undefined);
+    CGridItem* const item = m_contents.FindItem(id);
+    if (item != nullptr) {
+        item->options = std::move(options);
+        LayOutNewRow();
     }
     return id;
+}
+
+// The item knows the grid before it is asked to accept its value, and forgets it again if there is no row.
+UINT CPropertyGrid::InsertCustomItem(UINT section, const std::wstring& name, ICustomItem* item,
+                                     bool editable) {
+    CPropertyGrid* const previous = std::exchange(item->m_pGrid, this);
+    const UINT id = m_contents.AddItem(section, IT_CUSTOM, name, item, editable, false);
+    if (id == NO_ID) {
+        item->m_pGrid = previous;
+    }
+    return id;
+}
+
+// After a row was added with all that it has: the end of an editor may bring the client to look at it.
+void CPropertyGrid::LayOutNewRow() {
+    LeaveEditor();
+    RelayoutForMoreRows();
 }
 
 UINT CPropertyGrid::AddItemWithOption(UINT section, EItemType kind, const std::wstring& name,
                                       const void* value, const std::wstring& option, bool editable,
                                       bool undefined) {
-    const UINT id = AddItem(section, kind, name, value, editable, undefined);
     // The usual format is what a number without one has: a row costs less so.
     const bool isUsual = (kind == IT_INTEGER && option == L"%d") || (kind == IT_DOUBLE && option == L"%g");
-    CGridItem* const item = m_contents.FindItem(id);
-    if (item != nullptr && !isUsual) {
-        item->options.assign(1, option);
+    std::vector<std::wstring> options;
+    if (!isUsual) {
+        options.push_back(option);
     }
-    return id;
+    return AddItemWithOptions(section, kind, name, value, std::move(options), editable, undefined);
 }
 
 UINT CPropertyGrid::AddStringItem(UINT section, const std::wstring& name, const std::wstring& value,
@@ -59,11 +85,7 @@ UINT CPropertyGrid::AddDoubleItem(UINT section, const std::wstring& name, double
 UINT CPropertyGrid::AddComboItem(UINT section, const std::wstring& name,
                                  const std::vector<std::wstring>& choices, int value, bool editable,
                                  bool undefined) {
-    const UINT id = AddItem(section, IT_COMBO, name, &value, editable, undefined);
-    if (CGridItem* const item = m_contents.FindItem(id)) {
-        item->options = choices;
-    }
-    return id;
+    return AddItemWithOptions(section, IT_COMBO, name, &value, choices, editable, undefined);
 }
 
 UINT CPropertyGrid::AddBooleanItem(UINT section, const std::wstring& name, bool value, bool editable,
@@ -102,19 +124,11 @@ UINT CPropertyGrid::AddFontItem(UINT section, const std::wstring& name, const LO
 }
 
 UINT CPropertyGrid::AddCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable) {
-    if (item == nullptr) {
-        return NO_ID;
-    }
-    // Known to the item before it is asked to accept its value, and forgotten again if there is no row.
-    CPropertyGrid* const previous = std::exchange(item->m_pGrid, this);
-    const UINT id = AddItem(section, IT_CUSTOM, name, item, editable, false);
-    if (id == NO_ID) {
-        item->m_pGrid = previous;
-    }
-    return id;
+    return AddItem(section, IT_CUSTOM, name, item, editable);
 }
 
 void CPropertyGrid::ResetContents() {
+    LeaveEditor();
     // The focused ids deliberately stay.
     m_contents.Clear();
     Relayout();
@@ -167,8 +181,15 @@ bool CPropertyGrid::GetItemValue(UINT item, LOGFONTW& value) const {
 
 template <class T>
 bool CPropertyGrid::WriteValue(UINT id, T value) {
-    CGridItem* const item = m_contents.FindItem(id);
-    if (item == nullptr || !std::holds_alternative<T>(item->value)) {
+    const auto find = [&] {
+        CGridItem* const found = m_contents.FindItem(id);
+        return found != nullptr && std::holds_alternative<T>(found->value) ? found : nullptr;
+    };
+    if (find() != nullptr) {
+        LeaveEditorOf(id);
+    }
+    CGridItem* const item = find();
+    if (item == nullptr) {
         return false;
     }
     item->value = std::move(value);
@@ -220,8 +241,20 @@ bool CPropertyGrid::IsItemModified(UINT id) const {
     return item != nullptr && item->IsModified();
 }
 
+// The value of an open editor goes to the focused row. Looks for the row again afterwards: whoever hears of
+// the value may have removed it.
+CGridItem* CPropertyGrid::LeaveEditorOf(UINT id) {
+    if (id == m_focusedItem) {
+        LeaveEditor();
+    }
+    return m_contents.FindItem(id);
+}
+
 bool CPropertyGrid::SetItemEditable(UINT id, bool editable) {
-    CGridItem* const item = m_contents.FindItem(id);
+    CGridItem* item = m_contents.FindItem(id);
+    if (item != nullptr && item->editable != editable) {
+        item = LeaveEditorOf(id);
+    }
     if (item == nullptr) {
         return false;
     }
@@ -235,7 +268,10 @@ bool CPropertyGrid::IsItemEditable(UINT id) const {
 }
 
 bool CPropertyGrid::SetItemUndefined(UINT id, bool undefined) {
-    CGridItem* const item = m_contents.FindItem(id);
+    CGridItem* item = m_contents.FindItem(id);
+    if (item != nullptr && item->undefined != undefined) {
+        item = LeaveEditorOf(id);
+    }
     if (item == nullptr || item->kind == IT_CUSTOM) {
         return false;
     }
@@ -272,6 +308,9 @@ std::wstring CPropertyGrid::GetItemText(UINT id) const {
 }
 
 bool CPropertyGrid::SetSectionCollapsed(UINT id, bool collapsed) {
+    if (m_contents.FindSection(id) != nullptr) {
+        LeaveEditor();
+    }
     CGridSection* const section = m_contents.FindSection(id);
     if (section == nullptr) {
         return false;
@@ -297,20 +336,30 @@ std::size_t CPropertyGrid::GetSectionItemCount(UINT id) const {
 }
 
 bool CPropertyGrid::SetFocusedItem(UINT id) {
-    if (id != NO_ID && m_contents.FindItem(id) == nullptr) {
-        return false;
-    }
-    m_focusedSection = NO_ID;
-    Change(m_focusedItem, id);
-    return true;
+    return SetFocusedRow({.item = id});
 }
 
 bool CPropertyGrid::SetFocusedSection(UINT id) {
-    if (id != NO_ID && m_contents.FindSection(id) == nullptr) {
+    return SetFocusedRow({.section = id});
+}
+
+bool CPropertyGrid::SetFocusedRow(const CRow& row) {
+    const auto exists = [&] {
+        return row == CRow() || m_contents.FindItem(row.item) != nullptr ||
+               m_contents.FindSection(row.section) != nullptr;
+    };
+    if (!exists()) {
         return false;
     }
-    m_focusedItem = NO_ID;
-    Change(m_focusedSection, id);
+    if (row == CRow{m_focusedSection, m_focusedItem}) {
+        return true;
+    }
+    LeaveEditor();
+    if (!exists()) {
+        return false;
+    }
+    MoveFocus(row);
+    Repaint();
     return true;
 }
 
@@ -335,8 +384,16 @@ bool CPropertyGrid::GetSectionRects(UINT id, CRect& glyph, CRect& header) const 
 }
 
 void CPropertyGrid::SetDisplayMode(UINT mode) {
+    LeaveEditor();
     m_displayMode = mode;
     Relayout();
+}
+
+void CPropertyGrid::SetGutterWidth(int x) {
+    if (x != m_gutter) {
+        LeaveEditor();
+    }
+    Change(m_gutter, x);
 }
 
 void CPropertyGrid::SetBooleanTexts(const std::wstring& trueText, const std::wstring& falseText) {

@@ -146,6 +146,17 @@ void GridInputTest::Enter(const std::wstring& typed) {
     ::SendMessage(edit, WM_CHAR, VK_RETURN, 1);
 }
 
+void GridInputTest::TypeInEdit(const std::wstring& typed) {
+    const HWND edit = Edit();
+    ASSERT_NE(edit, nullptr);
+    if (!typed.empty() && typed.front() >= L' ') {
+        ::SendMessage(edit, EM_SETSEL, 0, -1);
+    }
+    for (const wchar_t character : typed) {
+        ::SendMessage(edit, WM_CHAR, character, 1);
+    }
+}
+
 void GridInputTest::ExpectNoEditorLeft() {
     EXPECT_EQ(EditorCount(), 0);
     EXPECT_FALSE(grid.IsEditing());
