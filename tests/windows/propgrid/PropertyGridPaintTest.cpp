@@ -490,7 +490,9 @@ public:
         CRect area;
         window.GetClientRect(&area);
         window.ClientToScreen(&area);
-        area.NormalizeRect();
+        if (area.left > area.right) {
+            std::swap(area.left, area.right);
+        }
         const HDC screen = ::GetDC(nullptr);
         for (int y = area.top; y < area.bottom; ++y) {
             for (int x = area.left; x < area.right; ++x) {
