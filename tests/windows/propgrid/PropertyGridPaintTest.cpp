@@ -534,7 +534,7 @@ private:
 
 TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
     CGridParent mirrored;
-    mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    ::SetWindowLongPtr(mirrored, GWL_EXSTYLE, mirrored.GetExStyle() | WS_EX_LAYOUTRTL);
     CTestGrid rightToLeft;
     ASSERT_TRUE(rightToLeft.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 40),
                                    &mirrored, 100));
@@ -542,7 +542,7 @@ TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
     CTestGrid leftToRight;
     ASSERT_TRUE(leftToRight.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE,
                                    CRect(0, 200, 300, 240), &mirrored, 101));
-    leftToRight.ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    ::SetWindowLongPtr(leftToRight, GWL_EXSTYLE, leftToRight.GetExStyle() & ~DWORD{WS_EX_LAYOUTRTL});
     for (CTestGrid* const shown : {&rightToLeft, &leftToRight}) {
         shown->SetDisplayMode(CPropertyGrid::DM_FLAT);
         shown->SetTextColor(text);
