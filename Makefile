@@ -8,7 +8,7 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 X86_PACKAGES = debootstrap
 LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 
-.PHONY: help build test test-x86 run screenshots gallery lint coverage bench fuzz soak rules dist packages
+.PHONY: help build check test test-x86 run screenshots gallery lint coverage bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -17,6 +17,7 @@ help:
 	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make screenshots  make the pictures of the documentation from the running programs"
+	@echo "make check    build and run the native tests: the quick loop while writing code without windows"
 	@echo "make test     build and run every test"
 	@echo "make test-x86 build the 32-bit programs and run their tests, SOAK_SECONDS=60 of random calls among them; takes"
 	@echo "              root, and makes a Debian for i386 under build/ once; the figures go to docs/reliability.md"
@@ -38,6 +39,12 @@ build: packages
 	@scripts/build native
 	@scripts/build x64
 	@scripts/build x86 programs
+
+check:
+	@scripts/install-packages $(BUILD_PACKAGES)
+	@scripts/build native
+	@ctest --test-dir build/native --output-on-failure --parallel $$(nproc) --tests-regex '^unit\.' \
+	    --label-exclude exhaustive --progress
 
 test: build
 	@scripts/install-packages $(FUZZ_PACKAGES)

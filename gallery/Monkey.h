@@ -5,12 +5,14 @@
 // confirmed or cancelled; a gallery that was closed is opened again.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <random>
 #include <vector>
 
 #include "gallery/GalleryDialog.h"
+
+namespace tavrin::gallery {
 
 class CMonkey {
 public:
@@ -59,3 +61,5 @@ private:
     bool m_warmingUp = false;
     UINT m_nextItem = 0;  // whose editor the warm-up opens
 };
+
+}  // namespace tavrin::gallery

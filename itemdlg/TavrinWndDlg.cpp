@@ -117,7 +117,7 @@ void CTavrinWndDlg::LoadTemplate() {
     m_params.clear();
     m_grid.ResetContents();
     m_distanceItems.clear();
-    m_grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
+    m_grid.SetDisplayMode(tavrin::propgrid::CPropertyGrid::DM_FLAT);
     m_grid.SetGutterWidth(gutterWidth);
     const UINT section = m_grid.AddSection(L"Item Data");
 
@@ -146,7 +146,8 @@ void CTavrinWndDlg::LoadTemplate() {
 void CTavrinWndDlg::AddParameter(UINT section, const ItemParameter& parameter) {
     ParamRecord& record = m_params[parameter.record.lineIndex] = parameter.record;
     if (record.type == 'D') {
-        m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
+        m_distanceItems.push_back(
+            std::make_unique<tavrin::propgrid::CDistanceItem>(m_hWnd, record.realValue));
         record.customItem = m_distanceItems.back().get();
     }
     if (parameter.row == PR_SHOWN) {
@@ -171,7 +172,8 @@ UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editabl
 std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
     ParamRecord current = record;
     if (record.type == 'D') {
-        current.realValue = static_cast<const CDistanceItem*>(record.customItem)->GetDistance();
+        current.realValue =
+            static_cast<const tavrin::propgrid::CDistanceItem*>(record.customItem)->GetDistance();
     } else if (record.type == 'I') {
         m_grid.GetItemValue(record.itemId, current.intValue);
     } else {

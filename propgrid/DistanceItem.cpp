@@ -3,9 +3,11 @@
 #include "propgrid/PropertyGrid.h"
 #include "sds/sds.h"
 
+namespace tavrin::propgrid {
+
 namespace {
 
-constexpr COLORREF changedColor = RGB(255, 255, 80);
+constexpr COLORREF kChangedColor = RGB(255, 255, 80);
 
 // The drawing's linear unit format. Whether it could be read is deliberately not asked: the host's
 // conversions then run with 0 and decide.
@@ -55,7 +57,7 @@ int CDistanceItem::GetEditMode() {
 void CDistanceItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
     if (m_value != m_reference) {
         dc.SetBkMode(OPAQUE);
-        dc.SetBkColor(changedColor);
+        dc.SetBkColor(kChangedColor);
     }
     const std::wstring text = GetStringValue();
     rect.left += m_pGrid->GetTextMargin();
@@ -82,7 +84,7 @@ std::wstring CDistanceItem::GetStringValue() {
 }
 
 bool CDistanceItem::SetStringValue(std::wstring text) {
-    // A length that was left as it stood, by Escape too, keeps the digits that its text does not show.
+    // A length that was left as it stood, by Escape too, keeps the digits that its text does not have.
     if (m_pGrid != nullptr && m_pGrid->IsEditUntouched()) {
         return false;
     }
@@ -111,3 +113,5 @@ bool CDistanceItem::OnButtonClicked() {
     m_value = distance;
     return true;
 }
+
+}  // namespace tavrin::propgrid

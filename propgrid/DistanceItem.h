@@ -2,7 +2,9 @@
 // measured by picking two points in the drawing.
 #pragma once
 
-#include "propgrid/ICustomItem.h"
+#include "propgrid/PropertyGrid.h"
+
+namespace tavrin::propgrid {
 
 class CDistanceItem final : public ICustomItem {
 public:
@@ -36,3 +38,5 @@ private:
     double m_reference;
     HWND m_dialog;
 };
+
+}  // namespace tavrin::propgrid

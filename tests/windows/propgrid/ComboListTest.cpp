@@ -3,7 +3,7 @@
 #include <climits>
 #include <ostream>
 
-#include "propgrid/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridCombo.h"
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"

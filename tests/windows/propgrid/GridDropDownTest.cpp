@@ -2,8 +2,8 @@
 // the choice.
 #include <cmath>
 
-#include "propgrid/PropertyGridCombo.h"
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"

@@ -1,5 +1,5 @@
-// What the grid's tests share: a parent window that records what the grid tells it, a grid whose inside
-// can be looked at, and a picture of what a grid paints.
+// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a
+// grid paints.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "propgrid/PropertyGrid.h"
+
+using namespace tavrin::propgrid;
 
 // The text that an item shows, a custom item's included.
 std::wstring ShownValue(const CPropertyGrid& grid, UINT item);
@@ -35,10 +37,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-class CTestGrid : public CPropertyGrid {
-public:
-    using CPropertyGrid::GetContents;
-};
+using CTestGrid = CPropertyGrid;
 
 // What a window paints into a device context that it is given: the client area's pixels.
 class CGridPicture {

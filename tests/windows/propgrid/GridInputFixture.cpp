@@ -3,8 +3,8 @@
 #include <sstream>
 #include <utility>
 
-#include "propgrid/PropertyGridCombo.h"
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 
 bool CScriptedItem::OnLButtonDown(CRect place, CPoint point) {
     Note("down", place, point);

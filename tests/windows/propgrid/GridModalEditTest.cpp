@@ -3,7 +3,7 @@
 #include <afxdtctl.h>
 #include <commctrl.h>
 
-#include "propgrid/FolderBrowser.h"
+#include "propgrid/editors/FolderBrowser.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
 #include "tests/windows/support/ModalHands.h"

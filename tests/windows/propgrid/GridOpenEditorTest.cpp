@@ -13,7 +13,7 @@ public:
 protected:
     // Two sections with headers. The edited rows are not the first ones, so that rows may come before them.
     GridOpenEditor() {
-        grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
+        grid.SetDisplayMode(DM_CATEGORIZED);
         before = grid.AddStringItem(section, L"before", L"untouched");
         number = grid.AddIntegerItem(section, L"number", 1);
         combo = grid.AddComboItem(section, L"combo", {L"a", L"b", L"c"}, 1);
@@ -96,8 +96,8 @@ const Operation endings[] = {
     {"AddACustomItem",
      [](auto& test, auto& grid) { grid.AddCustomItem(secondSection, L"new", &test.custom); }},
     {"RemoveAll", [](auto&, auto& grid) { grid.ResetContents(); }},
-    {"Sort", [](auto&, auto& grid) { grid.SetDisplayMode(CPropertyGrid::DM_SORTED); }},
-    {"Flatten", [](auto&, auto& grid) { grid.SetDisplayMode(CPropertyGrid::DM_FLAT); }},
+    {"Sort", [](auto&, auto& grid) { grid.SetDisplayMode(DM_SORTED); }},
+    {"Flatten", [](auto&, auto& grid) { grid.SetDisplayMode(DM_FLAT); }},
     {"MoveTheDivider", [](auto&, auto& grid) { grid.SetGutterWidth(100); }},
     {"CollapseItsSection", [](auto&, auto& grid) { grid.SetSectionCollapsed(firstSection, true); }},
     {"CollapseAnotherSection", [](auto&, auto& grid) { grid.SetSectionCollapsed(secondSection, true); }},
@@ -329,7 +329,7 @@ TEST_F(GridOpenEditorAndItsOwner, MayDestroyTheWindowUnderAnyOperation) {
     const std::vector<std::function<void()>> operations = {
         [&] { grid.SetFocusedItem(after); },
         [&] { grid.SetItemValue(number, 3); },
-        [&] { grid.SetDisplayMode(CPropertyGrid::DM_SORTED); },
+        [&] { grid.SetDisplayMode(DM_SORTED); },
         [&] { grid.SetGutterWidth(80); },
         [&] { grid.SetSectionCollapsed(section, true); },
         [&] { grid.AddSection(L"new"); },
@@ -344,7 +344,7 @@ TEST_F(GridOpenEditorAndItsOwner, MayDestroyTheWindowUnderAnyOperation) {
     };
     for (const auto& operation : operations) {
         AddRows(30);  // so that there is something to scroll
-        grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
+        grid.SetDisplayMode(DM_CATEGORIZED);
         grid.SetSectionCollapsed(section, false);
         grid.SetSectionCollapsed(second, false);
         OpenEdit([&] { grid.DestroyWindow(); });

@@ -2,7 +2,7 @@
 // touched once the grid has been told.
 #include <ostream>
 
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"

@@ -417,27 +417,6 @@ TEST_F(PropertyGridPaint, RecordsWholeRowsAndNoValuesForRowsThatAreScrolledAway)
     EXPECT_TRUE(ValueRect(39).IsRectEmpty());
 }
 
-TEST_F(PropertyGridPaint, VisitsOnlyTheRowsInSight) {
-    const UINT section = grid.AddSection(L"HHH");
-    for (int row = 0; row < 5000; ++row) {
-        grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
-    }
-    ScrollTo(2000 * RowHeight() + 1);
-    const auto visits = [this] {
-        const std::size_t before = grid.GetContents().GetItemsWalked();
-        CGridPicture picture(grid);
-        return grid.GetContents().GetItemsWalked() - before;
-    };
-    const auto inSight = static_cast<std::size_t>((200 + RowHeight() - 1) / RowHeight());
-    for (const UINT mode :
-         {CPropertyGrid::DM_CATEGORIZED, CPropertyGrid::DM_SORTED, CPropertyGrid::DM_FLAT}) {
-        grid.SetDisplayMode(mode);
-        visits();  // sorts
-        EXPECT_LE(visits(), inSight + 1);
-        EXPECT_GE(visits(), inSight);
-    }
-}
-
 TEST_F(PropertyGridPaint, RecordsNothingForARowThatIsAddedSince) {
     const UINT section = grid.AddSection(L"HHH");
     for (const UINT mode : {CPropertyGrid::DM_FLAT, CPropertyGrid::DM_SORTED}) {
