@@ -75,13 +75,8 @@ BOOL CPictureCtrl::LoadFromFile(const CString& path) {
 
 // Copies the file into the stream. False, with the reason as last error, when either fails.
 bool CPictureCtrl::ReadFileIntoStream(const CString& path) {
-    CFile file;
-    CFileException fileException;
-    if (!file.Open(path, CFile::modeRead | CFile::typeBinary, &fileException)) {
-        SetLastError(static_cast<DWORD>(fileException.m_lOsError));
-        return false;
-    }
     try {
+        CFile file(path, CFile::modeRead | CFile::typeBinary);
         BYTE buffer[1024] = {};
         while (const UINT count = file.Read(buffer, sizeof(buffer))) {
             const HRESULT written = m_pStream->Write(buffer, count, nullptr);
