@@ -8,6 +8,7 @@
 
 #include "tests/e2e/Desktop.h"
 #include "tests/e2e/HostRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -15,8 +16,9 @@ namespace fs = std::filesystem;
 
 // What the program prints, run in a folder, with its exit status behind it.
 std::string Checked(const fs::path& folder, const std::string& arguments) {
-    return OutputOf("cd '" + folder.string() + "' && '" SCRIPTS_DIR "/wine' '" BIN_DIR "/tavrincheck.exe' " +
-                    arguments + " 2>/dev/null; echo $?");
+    return OutputOf("cd '" + folder.string() + "' && '" SCRIPTS_DIR "/wine' '" +
+                    (ProgramFolder() / "tavrincheck.exe").string() + "' " + arguments +
+                    " 2>/dev/null; echo $?");
 }
 
 TEST(Checker, FindsOnWindowsWhatItFindsNatively) {
@@ -26,7 +28,8 @@ TEST(Checker, FindsOnWindowsWhatItFindsNatively) {
 }
 
 TEST(Checker, FindsNothingInTheSamplesOnWindows) {
-    EXPECT_EQ(Checked(SAMPLES_DIR, ". --texts texts/TavrinRes.it.rc --texts '" BIN_DIR "/en/TavrinRes.dll'"),
+    EXPECT_EQ(Checked(SAMPLES_DIR, ". --texts texts/TavrinRes.it.rc --texts '" +
+                                       (ProgramFolder() / "en/TavrinRes.dll").string() + "'"),
               "0\n");
 }
 

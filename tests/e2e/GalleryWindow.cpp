@@ -5,13 +5,15 @@
 #include <iterator>
 #include <sstream>
 
+#include "tests/e2e/Programs.h"
+
 namespace fs = std::filesystem;
 
 GalleryWindow::GalleryWindow() {
     const fs::path folder = run.Folder() / "program";
     fs::create_directory(folder);
-    fs::copy_file(fs::path(BIN_DIR) / "GridGallery.exe", folder / "GridGallery.exe");
-    fs::copy_file(fs::path(BIN_DIR) / "checked" / "TD_Alloc.dll", folder / "TD_Alloc.dll");
+    fs::copy_file(ProgramFolder() / "GridGallery.exe", folder / "GridGallery.exe");
+    fs::copy_file(ProgramFolder() / "checked" / "TD_Alloc.dll", folder / "TD_Alloc.dll");
     run.UseProgram(folder / "GridGallery.exe");
 }
 

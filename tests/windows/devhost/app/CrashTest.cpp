@@ -16,11 +16,14 @@ void ExpectCrash(const std::vector<std::wstring>& arguments, const std::string& 
     EXPECT_NE(outcome.errors.find(also), std::string::npos) << outcome.errors;
 }
 
+// The system knows the callers of 64-bit code alone.
+constexpr bool is64 = sizeof(void*) == 8;
+
 TEST(Crash, InACallNamesTheModuleTheOffsetAndTheException) {
     ExpectCrash({L"--eval", L"(crash)"}, "DevHost: crash in TestPlugin.dll+0x",
-                ", exception c0000005 at address 0000000000000000\n");
+                ", exception c0000005 at address " + std::string(2 * sizeof(void*), '0') + "\n");
     ExpectCrash({L"--eval", L"(crash)"}, "DevHost: crash in TestPlugin.dll+0x",
-                "\n  called from DevHost.exe+0x");
+                is64 ? "\n  called from DevHost.exe+0x" : "");
 }
 
 TEST(Crash, InAWindowProcedureIsNotSwallowedByTheSystem) {
@@ -29,7 +32,7 @@ TEST(Crash, InAWindowProcedureIsNotSwallowedByTheSystem) {
 
 TEST(Crash, InTheRuntimeLibraryNamesTheCallerToo) {
     ExpectCrash({L"--eval", L"(crash-in-runtime)"}, "DevHost: crash in msvcrt.dll+0x",
-                "\n  called from TestPlugin.dll+0x");
+                is64 ? "\n  called from TestPlugin.dll+0x" : "");
 }
 
 TEST(Crash, InTheLoadRequestIsReported) {
@@ -37,9 +40,12 @@ TEST(Crash, InTheLoadRequestIsReported) {
     ExpectCrash({L"--eval", L"(give-nil)"}, "DevHost: crash in TestPlugin.dll+0x");
 }
 
+// In 32-bit programs the compiler's exceptions are no exceptions of the system: one that nobody catches in
+// the plug-in's own file ends the program.
 TEST(Crash, AnExceptionThatLeavesThePlugInIsOne) {
     ExpectCrash({L"--eval", L"(throw-out)"},
-                "DevHost: crash: the plug-in let a C++ exception out of request 5\n");
+                is64 ? "DevHost: crash: the plug-in let a C++ exception out of request 5\n" : "",
+                is64 ? "" : "DevHost: the plug-in or DevHost gave up (abort)\n");
 }
 
 TEST(Crash, AnAbortIsOne) {

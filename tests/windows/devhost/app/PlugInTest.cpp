@@ -34,8 +34,9 @@ TEST(PlugIn, AFileThatIsNoLibraryIsNamed) {
     folder.Write(L"text.dll", "This is not a library.");
     folder.Write(L"empty.dll", "");
     folder.Write(L"noextension", "This is not a library.");
+    const std::string bits = std::to_string(8 * sizeof(void*));
     for (const wchar_t* file : {L"text.dll", L"empty.dll", L"noextension"}) {
-        ExpectNotLoaded(file, "is not a library for this DevHost, which needs a 64-bit DLL");
+        ExpectNotLoaded(file, "is not a library for this DevHost, which needs a " + bits + "-bit DLL");
     }
 }
 

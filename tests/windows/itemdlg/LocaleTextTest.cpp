@@ -1,9 +1,9 @@
 // Text files under locales other than "C".
-#include <afx.h>
 #include <gtest/gtest.h>
 
 #include <clocale>
 
+#include "itemdlg/TextFile.h"
 #include "tests/windows/support/TempFolder.h"
 
 namespace {
@@ -35,12 +35,9 @@ TEST_P(TextLocale, EveryByteSurvivesBeingReadAndWritten) {
     const CTempFolder folder;
     const std::string bytes = MakeEveryPair() + "\r\n\xE2\x82\xAC\xF0\x9F\x92\x80\xED\xA0\xBD\xE2\x82\r\n";
     folder.Write(L"in.txt", bytes);
-    CStdioFile input(folder.Path(L"in.txt").c_str(), CFile::modeRead);
-    CStdioFile output(folder.Path(L"out.txt").c_str(), CFile::modeCreate | CFile::modeWrite);
-    for (CString line; input.ReadString(line);) {
-        output.WriteString(line + L"\n");
-    }
-    output.Close();
+    std::vector<std::wstring> lines;
+    ASSERT_TRUE(ReadTextFile(folder.Path(L"in.txt"), lines));
+    ASSERT_TRUE(WriteTextFile(folder.Path(L"out.txt"), lines));
     EXPECT_EQ(folder.Read(L"out.txt"), bytes);
 }
 
@@ -55,11 +52,10 @@ TEST(TextLocaleOfWesternEurope, ReadsAByteAsTheCharacterOfItsCodePage) {
     }
     const CTempFolder folder;
     folder.Write(L"in.txt", "\x80\xE9");
-    CStdioFile input(folder.Path(L"in.txt").c_str(), CFile::modeRead);
-    CString line;
-    input.ReadString(line);
+    std::vector<std::wstring> lines;
+    EXPECT_TRUE(ReadTextFile(folder.Path(L"in.txt"), lines));
     std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(line, L"\u20AC\u00E9");
+    EXPECT_EQ(lines, std::vector<std::wstring>{L"\u20AC\u00E9"});
 }
 
 }  // namespace

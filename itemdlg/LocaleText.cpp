@@ -1,5 +1,4 @@
-// Conversion between the C runtime's locale and UTF-16.
-#include "afx/AfxTextCodec.h"
+#include "itemdlg/LocaleText.h"
 
 #include <climits>
 #include <clocale>
@@ -35,23 +34,23 @@ bool IsLowSurrogate(wchar_t unit) {
 
 }  // namespace
 
-CAfxTextCodec::CAfxTextCodec() {
+CLocaleText::CLocaleText() {
     for (int number = 0; number < 256; ++number) {
         const char byte = static_cast<char>(number);
         m_isSingle[number] = ConvertThereAndBack(&byte, 1, m_units[number]) == 1;
         if (!m_isSingle[number]) {
-            m_units[number] = static_cast<wchar_t>(firstEscape + number);
+            m_units[number] = static_cast<wchar_t>(kFirstEscape + number);
         }
     }
 }
 
-CAfxTextCodec CAfxTextCodec::OfLocale() {
+CLocaleText CLocaleText::OfLocale() {
     // To ask the runtime for every byte takes longer than to read a file.
     static char name[64] = "";
-    static CAfxTextCodec codec;
+    static CLocaleText codec;
     const char* const locale = std::setlocale(LC_CTYPE, nullptr);
     if (locale == nullptr || std::strcmp(locale, name) != 0) {
-        codec = CAfxTextCodec();
+        codec = CLocaleText();
         name[0] = '\0';
         if (locale != nullptr && std::strlen(locale) < sizeof name) {
             std::strcpy(name, locale);
@@ -60,7 +59,7 @@ CAfxTextCodec CAfxTextCodec::OfLocale() {
     return codec;
 }
 
-size_t CAfxTextCodec::DecodeOne(const char* bytes, size_t count, wchar_t& unit) const {
+size_t CLocaleText::DecodeOne(const char* bytes, size_t count, wchar_t& unit) const {
     const auto first = static_cast<unsigned char>(*bytes);
     if (!m_isSingle[first]) {
         if (const size_t used = ConvertThereAndBack(bytes, count, unit)) {
@@ -71,7 +70,7 @@ size_t CAfxTextCodec::DecodeOne(const char* bytes, size_t count, wchar_t& unit) 
     return 1;
 }
 
-std::wstring CAfxTextCodec::Decode(const std::string& bytes) const {
+std::wstring CLocaleText::Decode(const std::string& bytes) const {
     std::wstring text;
     text.reserve(bytes.size());
     for (size_t at = 0; at < bytes.size();) {
@@ -82,7 +81,7 @@ std::wstring CAfxTextCodec::Decode(const std::string& bytes) const {
     return text;
 }
 
-bool CAfxTextCodec::Encode(const std::wstring& text, std::string& bytes) const {
+bool CLocaleText::Encode(const std::wstring& text, std::string& bytes) const {
     bytes.clear();
     bytes.reserve(text.size());
     for (size_t at = 0; at < text.size(); ++at) {
@@ -92,8 +91,8 @@ bool CAfxTextCodec::Encode(const std::wstring& text, std::string& bytes) const {
         std::mbstate_t state{};
         if (unit < 0x80 && m_isSingle[unit] && m_units[unit] == unit) {
             bytes += static_cast<char>(unit);
-        } else if (unit >= firstEscape && unit < firstEscape + 256 && !m_isSingle[unit - firstEscape]) {
-            bytes += static_cast<char>(unit - firstEscape);
+        } else if (unit >= kFirstEscape && unit < kFirstEscape + 256 && !m_isSingle[unit - kFirstEscape]) {
+            bytes += static_cast<char>(unit - kFirstEscape);
         } else if (const size_t count = isPair ? 0 : std::wcrtomb(encoded, unit, &state);
                    count > 0 && count <= MB_LEN_MAX) {
             bytes.append(encoded, count);
