@@ -35,7 +35,7 @@ bool ReadFontOf(const CWnd* window, LOGFONT& font) {
     if (window == nullptr || window->GetSafeHwnd() == nullptr) {
         return false;
     }
-    const auto handle = reinterpret_cast<HGDIOBJ>(window->SendMessage(WM_GETFONT));
+    const auto handle = reinterpret_cast<HGDIOBJ>(::SendMessage(window->GetSafeHwnd(), WM_GETFONT, 0, 0));
     return handle != nullptr && ::GetObject(handle, sizeof(font), &font) != 0;
 }
 

@@ -24,6 +24,7 @@
 #include "dyndlg/DialogLayout.h"
 #include "dyndlg/DialogTemplate.h"
 #include "dyndlg/DynDialogItemEx.h"
+#include "memory/MemoryFence.h"
 
 class CDynDialogEx : public CDialog {
     DECLARE_DYNAMIC(CDynDialogEx)
@@ -77,6 +78,9 @@ public:
     BOOL OnInitDialog() override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
+    }
     void DoDataExchange(CDataExchange* pDX) override;
     // OK and Cancel end the dialog; every other command is the parent's to hear first.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

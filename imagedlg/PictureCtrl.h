@@ -7,6 +7,8 @@
 #include <afxwin.h>
 #include <objidl.h>
 
+#include "memory/MemoryFence.h"
+
 class CPictureCtrl : public CStatic {
 public:
     // Starts GDI+ for this control; the destructor stops it.
@@ -25,6 +27,9 @@ public:
     virtual BOOL OnEraseBkgnd(CDC* pDC);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CStatic::WindowProc(message, wParam, lParam); });
+    }
     void PreSubclassWindow() override;
     void DrawItem(LPDRAWITEMSTRUCT drawItem) override;
 

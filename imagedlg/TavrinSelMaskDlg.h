@@ -21,6 +21,7 @@
 
 #include "imagedlg/ChoiceLayout.h"
 #include "imagedlg/PictureCtrl.h"
+#include "memory/MemoryFence.h"
 #include "res/resource.h"
 
 class CTavrinSelMaskDlg : public CDialog {
@@ -78,6 +79,9 @@ public:
     virtual void PaintFrames();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
+    }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
 

@@ -79,7 +79,8 @@ void CGridEditors::OpenCalendar(const DateValue& date, const Rect& cell) {
     auto calendar = std::make_unique<CPropertyGridMonthCalCtrl>();
     CRect area = AreaUnder(cell);
     m_grid.ClientToScreen(&area);
-    if (!calendar->CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, area, m_grid.GetParent(), 0)) {
+    if (!calendar->CWnd::CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, area, m_grid.GetParent(),
+                                  0)) {
         return;
     }
     // A date that is none leaves today selected.

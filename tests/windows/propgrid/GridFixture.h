@@ -1,4 +1,5 @@
-// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a grid paints.
+// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a
+// grid paints.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -121,7 +122,7 @@ protected:
     SCROLLINFO ScrollInfo() const;
     // The grid shows its bar by the time that it handles a message.
     CWnd* ScrollBar() const {
-        grid.SendMessage(WM_NULL);
+        ::SendMessage(grid.GetSafeHwnd(), WM_NULL, 0, 0);
         return grid.GetDlgItem(1000);
     }
     bool ScrollBarShows() const { return ScrollBar() != nullptr && ScrollBar()->IsWindowVisible(); }
