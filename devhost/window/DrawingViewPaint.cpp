@@ -1,11 +1,12 @@
-// What the drawing area shows: the drawing, painted once for as long as it stays the same, and above it what
-// moves with the mouse.
+// Painting of the drawing area: the cached drawing, and above it what moves with the mouse.
 #include <algorithm>
 #include <cmath>
 
 #include "devhost/drawing/Outline.h"
 #include "devhost/window/DrawingView.h"
 #include "devhost/window/ScenePaint.h"
+
+namespace devhost {
 
 namespace {
 
@@ -20,7 +21,7 @@ constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
 constexpr COLORREF kRubberLine = RGB(120, 120, 120);
 constexpr COLORREF kSnapMark = RGB(214, 112, 0);
 
-POINT Rounded(SPoint pixel) {
+POINT Rounded(Point pixel) {
     return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
 }
 
@@ -52,7 +53,7 @@ void CDrawingView::PaintScene(HDC dc, const RECT& client) {
     }
     const CBitmapDc scene(dc, m_scene.get());
     if (isNew) {
-        ::PaintScene(scene.Get(), client, m_drawing, m_view);
+        devhost::PaintScene(scene.Get(), client, m_drawing, m_view);
     }
     BitBlt(dc, 0, 0, client.right, client.bottom, scene.Get(), 0, 0, SRCCOPY);
 }
@@ -66,7 +67,7 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
     if (!line) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
+    const GdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
     const CSelection selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
     DrawLine(dc, Rounded(line->from), Rounded(line->to));
@@ -76,7 +77,7 @@ void CDrawingView::PaintCrosshair(HDC dc) const {
     if (!m_isMouseInside || m_isPanning) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
+    const GdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
     const CSelection selection(dc, pen);
     DrawCross(dc, m_mouse, m_scale(kCrosshairArm));
 }
@@ -85,7 +86,7 @@ void CDrawingView::PaintSnapMark(HDC dc) const {
     if (!m_snapped) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
+    const GdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
     const CSelection penSelection(dc, pen);
     const CSelection brushSelection(dc, GetStockObject(NULL_BRUSH));
     const POINT middle = ToPixel(*m_snapped);
@@ -94,16 +95,18 @@ void CDrawingView::PaintSnapMark(HDC dc) const {
 }
 
 void CDrawingView::PaintCrosses(HDC dc) const {
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
+    const GdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
     const CSelection selection(dc, pen);
-    for (const SPoint& cross : m_crosses) {
+    for (const Point& cross : m_crosses) {
         DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
     }
 }
 
-POINT CDrawingView::ToPixel(SPoint point) const {
-    // Nothing that far away is seen, and larger numbers do not fit the system's.
+POINT CDrawingView::ToPixel(Point point) const {
+    // Such points are invisible, and larger coordinates overflow in GDI.
     constexpr double kFar = 1e6;
-    const SPoint pixel = m_view.ToPixel(point);
+    const Point pixel = m_view.ToPixel(point);
     return Rounded({std::clamp(pixel.x, -kFar, kFar), std::clamp(pixel.y, -kFar, kFar)});
 }
+
+}  // namespace devhost

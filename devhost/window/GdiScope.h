@@ -1,21 +1,23 @@
-// Owners of what GDI lends: each gives back in its destructor what it took.
+// Owners of GDI objects and scopes of their use.
 #pragma once
 
 #include <windows.h>
 
 #include <memory>
 
-struct SGdiDeleter {
+namespace devhost {
+
+struct GdiDeleter {
     using pointer = HGDIOBJ;
     void operator()(HGDIOBJ object) const { DeleteObject(object); }
 };
-using CGdiObject = std::unique_ptr<HGDIOBJ, SGdiDeleter>;
+using GdiObject = std::unique_ptr<HGDIOBJ, GdiDeleter>;
 
 // An object selected into a device context.
 class CSelection {
 public:
     CSelection(HDC dc, HGDIOBJ object) : m_dc(dc), m_before(SelectObject(dc, object)) {}
-    CSelection(HDC dc, const CGdiObject& object) : CSelection(dc, object.get()) {}
+    CSelection(HDC dc, const GdiObject& object) : CSelection(dc, object.get()) {}
     ~CSelection() { SelectObject(m_dc, m_before); }
     CSelection(const CSelection&) = delete;
     CSelection& operator=(const CSelection&) = delete;
@@ -59,8 +61,7 @@ private:
     HGDIOBJ m_before;
 };
 
-// Answers WM_PAINT through a bitmap, so that the window never shows a picture half drawn: what is drawn on
-// Dc() appears when the scope ends.
+// Handles WM_PAINT with double buffering: what is drawn on Dc() appears when the scope ends.
 class CBufferedPaint {
 public:
     explicit CBufferedPaint(HWND window)
@@ -90,6 +91,8 @@ private:
     PAINTSTRUCT m_paint;
     HDC m_target;
     RECT m_client;
-    CGdiObject m_bitmap;
+    GdiObject m_bitmap;
     CBitmapDc m_dc;
 };
+
+}  // namespace devhost

@@ -40,7 +40,7 @@ TEST(Checker, TakesNamesOfFilesInAnyScript) {
     files.Write("porta-à-дверь.png", "");
     EXPECT_EQ(
         Checked(files.Folder(), "porta-à-дверь.TXT"),
-        "porta-à-дверь.TXT:4:16: error: the type letter 'd' must be a capital: the parameter gets a warning "
+        "porta-à-дверь.TXT:4:16: error: the type letter 'd' must be upper case: the parameter gets a warning "
         "instead of a row [type-small-letter]\n"
         "    $1 = \"<<1501>>\"d 900\n"
         "                   ^\n"

@@ -1,6 +1,6 @@
 // The worked examples of the three LISP functions: each routine of docs/examples/functions runs in a folder
-// with its pictures and the template of the first example, on the texts of the examples, under a person's
-// hands.
+// with its pictures and the template of the first example, on the texts of the examples, with UI
+// automation.
 #include <filesystem>
 
 #include "tests/e2e/ItemDialogWindow.h"

@@ -38,7 +38,7 @@ void GalleryWindow::ReadPlaces() {
     ASSERT_TRUE(WaitUntil([&] {
         PressKeys("F1");
         return WaitUntil([&] { return ends() > before; }, 8);
-    })) << "the gallery did not tell its places";
+    })) << "the gallery did not print its positions";
     places.clear();
     placeOrder.clear();
     const std::vector<std::string> all = Lines();

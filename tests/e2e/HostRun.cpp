@@ -71,7 +71,8 @@ void HostRun::Start(const std::vector<std::string>& arguments) {
 void HostRun::StartProgram(const std::vector<std::string>& arguments) {
     const char* const wine = std::getenv("WINE");
     if (wine == nullptr) {
-        std::cerr << "e2e_tests: there is no stage for Windows programs: run it through scripts/with-wine\n";
+        std::cerr << "e2e_tests: there is no test environment for Windows programs: run it through "
+                     "scripts/with-wine\n";
         std::exit(1);
     }
     std::vector<std::string> words = {wine, m_program};

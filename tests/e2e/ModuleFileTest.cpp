@@ -152,7 +152,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
 
 TEST(AnyHost, IsToldWhichFunctionItLacks) {
     HostRun host;
-    host.UseProgram(ArchitectureFolder() / "tests" / "PoorHost.exe");
+    host.UseProgram(ArchitectureFolder() / "tests" / "IncompleteHost.exe");
     host.Start({});
     const Window box = Window::WithTitle("Error!");
     ASSERT_TRUE(box.IsValid()) << host.Errors();
@@ -171,7 +171,8 @@ TEST(AnyHost, IsToldThatALibraryIsMissing) {
     host.Start({"--eval", R"((tavrinwnd "door"))"});
     EXPECT_EQ(host.Wait(), 1);
     setenv("WINEDLLOVERRIDES", overrides.c_str(), 1);
-    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it needs is missing"), std::string::npos)
+    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it depends on is missing"),
+              std::string::npos)
         << host.Errors();
 }
 

@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "itemdlg/BlockTracker.h"
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 #include "tools/rules/ByteRules.h"
+
+namespace tavrin::tools {
 
 namespace {
 
@@ -18,25 +20,25 @@ ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
     return mayBeParameter ? LK_IGNORED : LK_OUTSIDE;
 }
 
-std::wstring PlaceholderItself(unsigned number) {
+std::wstring PlaceholderAsText(unsigned number) {
     return L"<<" + WideNumber(static_cast<int>(number)) + L">>";
 }
 
-// False when the reader does not take the line for a parameter.
-bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
+// False when the line is not a parameter.
+bool ReadAsParameter(const ItemLine& line, Parameter& parameter) {
     const std::optional<ParameterParts> parts = SplitParameterLine(line.text);
     if (!parts) {
         return false;
     }
-    // Into the texts of the line before, which have the room already.
+    // Reuses the memory of the previous line's texts.
     parameter.parts.number = parts->number;
     parameter.parts.label = parts->label;
     parameter.parts.typeLetter = parts->typeLetter;
     parameter.parts.value = parts->value;
     ParameterRow row;
-    FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself, row);
+    FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderAsText, row);
     parameter.record = std::move(row.record);
-    // The record has the number of the line's last placeholder, be it in the value.
+    // The record has the number of the line's last placeholder, which may be in the value.
     const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
     parameter.placeholder = inValue ? PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
     // The patterns see a line up to its first null character, and the value is its end.
@@ -51,8 +53,8 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
 
 void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
     CBlockTracker block;
-    SItemLine line;
-    SParameter parameter;
+    ItemLine line;
+    Parameter parameter;
     for (; !bytes.empty(); ++line.index) {
         const std::string_view text = TakeLine(bytes).text;
         line.text.resize(text.size());
@@ -74,3 +76,5 @@ void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
         group->Finish();
     }
 }
+
+}  // namespace tavrin::tools

@@ -6,6 +6,8 @@
 
 #include "tests/unit/docs/Pages.h"
 
+using namespace tests;
+
 namespace {
 
 namespace fs = std::filesystem;

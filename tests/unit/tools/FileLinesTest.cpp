@@ -1,14 +1,15 @@
 // An item's files as lines.
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
+using namespace tavrin::tools;
 using namespace std::string_literals;
 
 TEST(FileLines, BothLineEndsEndALineAndAreKept) {
-    const std::vector<SFileLine> lines = SplitLines("a\nb\r\n\r\nc");
+    const std::vector<FileLine> lines = SplitLines("a\nb\r\n\r\nc");
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(TextsOf(lines), (TextLines{L"a", L"b", L"", L"c"}));
     EXPECT_EQ(lines[0].ending, "\n");
