@@ -12,6 +12,7 @@ struct BacktrackEntry {
     enum class EKind : std::uint8_t {
         Choice,   // go on at instruction `index`, from place `first`
         Look,     // the same: the look-ahead failed inside, which is its success
+        Opening,  // group `index` had begun at `first` before it began anew
         Group,    // put the pair (`first`, `second`) back into group `index`
         Run,      // the run at `index` may give back from `second` down to `first`
         LazyRun,  // the run at `index` may take more, from `first` on

@@ -22,7 +22,7 @@ public:
 
     // One pair for each capturing group of the pattern, in the order of their opening braces, from 0.
     std::size_t GroupCount() const { return m_groupCount; }
-    const Pair& Group(std::size_t index) const { return Groups()[index]; }
+    const Pair& Group(std::size_t index) const { return Groups()[index].pair; }
 
     // The text of a group; empty when it took no part in the match.
     std::wstring_view GroupText(std::size_t index) const {
@@ -38,14 +38,20 @@ public:
 
 private:
     friend class CPatternMatcher;
+    friend class CPatternSearch;
+
+    struct Capture {
+        Pair pair;
+        const wchar_t* opening = nullptr;  // where the group began last; it may still be open
+    };
 
     // Patterns have few groups: their pairs need no memory from the heap.
     static constexpr std::size_t kInlineGroups = 4;
 
-    const Pair* Groups() const {
+    const Capture* Groups() const {
         return m_groupCount <= kInlineGroups ? m_inlineGroups : m_manyGroups.data();
     }
-    Pair* Groups() { return m_groupCount <= kInlineGroups ? m_inlineGroups : m_manyGroups.data(); }
+    Capture* Groups() { return m_groupCount <= kInlineGroups ? m_inlineGroups : m_manyGroups.data(); }
 
     // As many pairs as that, all null.
     void ResetGroups(std::size_t count) {
@@ -53,12 +59,12 @@ private:
             m_manyGroups.resize(count);
         }
         m_groupCount = count;
-        std::fill_n(Groups(), count, Pair());
+        std::fill_n(Groups(), count, Capture());
     }
 
     Pair m_match;
     std::size_t m_groupCount = 0;
-    Pair m_inlineGroups[kInlineGroups];
-    std::vector<Pair> m_manyGroups;  // used instead when there are more
+    Capture m_inlineGroups[kInlineGroups];
+    std::vector<Capture> m_manyGroups;  // used instead when there are more
     std::size_t m_steps = 0;
 };

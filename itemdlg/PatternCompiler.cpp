@@ -147,13 +147,7 @@ EPatternError CPatternCompiler::ReadBackReference() {
     if (number >= opened) {
         return PE_BAD_REFERENCE;
     }
-    const auto group = static_cast<std::uint32_t>(number);
-    // Inside the group that it refers to, a reference finds nothing captured yet and matches the empty text:
-    // it needs no instruction. All others are reached only while their group is closed, which spares the
-    // search any notion of a half captured group.
-    if (!m_groupOpen[group]) {
-        Emit(EOp::BackReference, group);
-    }
+    Emit(EOp::BackReference, static_cast<std::uint32_t>(number));
     AtomRead(true);
     return PE_NONE;
 }
@@ -351,7 +345,6 @@ EPatternError CPatternCompiler::CloseFrame(wchar_t closer) {
             if (closer != L'}') {
                 return PE_BRACE_EXPECTED;
             }
-            m_groupOpen[frame.group] = false;
             Emit(EOp::GroupClose, frame.group);
             break;
         case EFrame::PlainGroup:
@@ -391,7 +384,6 @@ void CPatternCompiler::OpenFrame(EFrame kind) {
     frame.kind = kind;
     if (kind == EFrame::CaptureGroup) {
         frame.group = m_program.groupCount++;
-        m_groupOpen.push_back(true);
         Emit(EOp::GroupOpen, frame.group);
     }
     m_frames.push_back(frame);

@@ -76,7 +76,6 @@ private:
     const wchar_t* m_resume = nullptr;  // inside an expansion: where the pattern goes on
     PatternProgram& m_program;
     std::vector<Frame> m_frames;
-    std::vector<bool> m_groupOpen;  // for each capturing group: its closing brace is still to come
-    bool m_atomRead = false;        // an atom is read whose quantifier has not been looked for yet
-    bool m_atomEmpty = false;       // that atom can match the empty text
+    bool m_atomRead = false;   // an atom is read whose quantifier has not been looked for yet
+    bool m_atomEmpty = false;  // that atom can match the empty text
 };

@@ -11,8 +11,8 @@
 //   (...)      a group that captures nothing
 //   \N         a back-reference: the text that group N captured, under the pattern's case rule. N is read
 //              greedily and must be below the number of groups opened so far. A group that captured nothing
-//              matches the empty text, and so does a group referred to from its own inside, where it has
-//              captured nothing yet.
+//              matches the empty text. Inside its own group it matches what the group captured in the round
+//              before, if the group is repeated.
 //   \a \b \c \d \h \n \q \w \z
 //              abbreviations: letter or digit, blank or tab, letter, digit, hexadecimal digit, line break,
 //              text in double quotes, word of letters, run of digits. In a case-insensitive pattern the

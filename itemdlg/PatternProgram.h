@@ -24,9 +24,8 @@ enum class EOp : std::uint8_t {
     LazyRun,         // the same, the fewest times first
     EndOfInput,      // the end of the input, consuming nothing
     GroupOpen,       // capturing group `operand` begins
-    GroupOpenOnce,   // the same for a group that every match passes through exactly once
-    GroupClose,      // capturing group `operand` ends
-    BackReference,   // the text that group `operand` captured
+    GroupClose,      // capturing group `operand` ends and holds what was consumed since it began
+    BackReference,   // the text that group `operand` captured when it ended last
     NextFirst,       // go on with the next instruction; when that fails, with `operand`
     OperandFirst,    // go on with `operand`; when that fails, with the next instruction
     Jump,            // go on with `operand`
@@ -55,14 +54,11 @@ enum class EFollow : std::uint8_t {
 };
 
 struct Instruction {
-    static constexpr std::uint32_t kNoGroup = 0xFFFFFFFF;
-
     EOp op = EOp::Nothing;
     EFollow follow = EFollow::Anything;  // runs
     bool atLeastOne = false;             // runs: "+" rather than "*" or "?"
     bool atMostOne = false;              // runs: "?" rather than "*" or "+"
     std::uint32_t operand = 0;           // an address, a group, a set or a preview; see EOp and EFollow
-    std::uint32_t group = kNoGroup;      // ranges, sets, any and spans: the group that captures just this
     wchar_t first = 0;
     wchar_t second = 0;  // Character: the other case of `first`, or `first` again
 };

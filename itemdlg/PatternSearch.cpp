@@ -88,19 +88,12 @@ const wchar_t* CPatternSearch::MatchAt(const wchar_t* start) {
                 }
                 break;
             case EOp::GroupOpen:
-                m_stack.Push(
-                    {EKind::Group, at->operand, m_groups[at->operand].start, m_groups[at->operand].end});
-                m_groups[at->operand].start = place;
-                ++at;
-                continue;
-            case EOp::GroupOpenOnce:
-                m_groups[at->operand].start = place;
+                m_stack.Push({EKind::Opening, at->operand, m_groups[at->operand].opening, nullptr});
+                m_groups[at->operand].opening = place;
                 ++at;
                 continue;
             case EOp::GroupClose:
-                // Needs no note of its own: whoever backs out from here to before the group's opening puts
-                // the whole pair back, and inside the group nobody reads it.
-                m_groups[at->operand].end = place;
+                CloseGroup(m_groups[at->operand], at->operand, place);
                 ++at;
                 continue;
             case EOp::BackReference:
@@ -132,9 +125,6 @@ const wchar_t* CPatternSearch::MatchAt(const wchar_t* start) {
                 continue;
         }
         if (end != nullptr) {
-            if (at->group != Instruction::kNoGroup) {
-                m_groups[at->group] = {place, end};
-            }
             steps += static_cast<std::size_t>(end - place);
             place = end;
             ++at;
@@ -162,8 +152,9 @@ inline CPatternSearch::State CPatternSearch::BackOut() {
             case EKind::Look:
                 m_stack.Pop();
                 return {m_code + index, place};
+            case EKind::Opening:
             case EKind::Group:
-                m_groups[index] = {place, entry.second};
+                RestoreGroup(entry);
                 m_stack.Pop();
                 break;
             case EKind::Run:
@@ -188,14 +179,28 @@ void CPatternSearch::LeaveLook() {
         if (entry.kind == EKind::Look) {
             return;
         }
-        if (entry.kind == EKind::Group) {
-            m_groups[entry.index] = {entry.first, entry.second};
-        }
+        RestoreGroup(entry);
+    }
+}
+
+// Until here the group has held what it captured the time before, which a reference inside it matches.
+inline void CPatternSearch::CloseGroup(CMatchContext::Capture& group, std::uint32_t index,
+                                       const wchar_t* place) {
+    m_stack.Push({EKind::Group, index, group.pair.start, group.pair.end});
+    group.pair = {group.opening, place};
+}
+
+// Takes back what an entry tells of a group; other entries tell nothing.
+inline void CPatternSearch::RestoreGroup(const BacktrackEntry& entry) {
+    if (entry.kind == EKind::Opening) {
+        m_groups[entry.index].opening = entry.first;
+    } else if (entry.kind == EKind::Group) {
+        m_groups[entry.index].pair = {entry.first, entry.second};
     }
 }
 
 const wchar_t* CPatternSearch::MatchReference(const Instruction& reference, const wchar_t* place) const {
-    const CMatchContext::Pair& group = m_groups[reference.operand];
+    const CMatchContext::Pair& group = m_groups[reference.operand].pair;
     for (const wchar_t* captured = group.start; captured != group.end; ++captured, ++place) {
         const bool same =
             m_program.caseSensitive ? *captured == *place : LowerForm(*captured) == LowerForm(*place);

@@ -13,8 +13,8 @@
 class CPatternSearch {
 public:
     // `inputEnd` is where the input's terminating null stands, or null when that is not known yet. `groups`
-    // has one pair for each capturing group of the program. All must outlive the search.
-    CPatternSearch(const PatternProgram& program, const wchar_t* inputEnd, CMatchContext::Pair* groups)
+    // has one capture for each capturing group of the program. All must outlive the search.
+    CPatternSearch(const PatternProgram& program, const wchar_t* inputEnd, CMatchContext::Capture* groups)
         : m_program(program),
           m_code(program.code.data()),
           m_sets(program.sets.data()),
@@ -38,6 +38,8 @@ private:
 
     State BackOut();
     void LeaveLook();
+    void CloseGroup(CMatchContext::Capture& group, std::uint32_t index, const wchar_t* place);
+    void RestoreGroup(const BacktrackEntry& entry);
     const wchar_t* MatchReference(const Instruction& reference, const wchar_t* place) const;
 
     // Each answers the place where the search goes on behind the run; null when there is none.
@@ -58,7 +60,7 @@ private:
     const Instruction* m_code;
     const CCharacterSet* m_sets;
     const wchar_t* m_inputEnd;
-    CMatchContext::Pair* m_groups;
+    CMatchContext::Capture* m_groups;
     std::size_t m_steps = 0;
     CBacktrackStack m_stack;
 };

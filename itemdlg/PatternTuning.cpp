@@ -114,7 +114,6 @@ private:
                 }
                 return true;
             case EOp::GroupOpen:
-            case EOp::GroupOpenOnce:
             case EOp::GroupClose:
                 m_pending[m_pendingCount++] = address + 1;
                 return true;
@@ -193,38 +192,6 @@ void TuneRun(PatternProgram& program, std::uint32_t address) {
     }
 }
 
-// A group outside of all loops, alternatives and look-aheads is entered anew on every way to a match, so
-// that what its pair held before never shows again. When it holds a single instruction that consumes without
-// a choice, that one does the capturing as well. Literals are spared the question.
-void TuneGroup(std::vector<Instruction>& code, std::uint32_t address) {
-    code[address].op = EOp::GroupOpenOnce;
-    Instruction& inside = code[address + 1];
-    Instruction& close = code[address + 2];
-    const bool canCapture = (ConsumesOne(inside.op) && inside.op != EOp::Character) || IsSpan(inside.op);
-    if (canCapture && close.op == EOp::GroupClose) {
-        inside.group = code[address].operand;
-        code[address] = Instruction();
-        close = Instruction();
-    }
-}
-
-void TuneGroups(std::vector<Instruction>& code) {
-    std::vector<int> change(code.size() + 1, 0);  // of the number of detours around an address
-    for (std::uint32_t address = 0; address < code.size(); ++address) {
-        if (HasAddress(code[address].op)) {
-            ++change[std::min(address, code[address].operand)];
-            --change[std::max(address, code[address].operand)];
-        }
-    }
-    int detours = 0;
-    for (std::uint32_t address = 0; address < code.size(); ++address) {
-        detours += change[address];
-        if (detours == 0 && code[address].op == EOp::GroupOpen) {
-            TuneGroup(code, address);
-        }
-    }
-}
-
 }  // namespace
 
 void TunePattern(PatternProgram& program) {
@@ -233,7 +200,5 @@ void TunePattern(PatternProgram& program) {
             TuneRun(program, address);
         }
     }
-    RemoveNothings(program);
-    TuneGroups(program.code);
     RemoveNothings(program);
 }

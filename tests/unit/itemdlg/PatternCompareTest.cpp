@@ -159,6 +159,19 @@ TEST(PatternCompare, EverySmallRepeatedGroupAgreesWithTheReference) {
     EXPECT_GT(tally.matched, 1000u);
 }
 
+TEST(PatternCompare, EverySmallRepeatedGroupThatRefersToItselfAgreesWithTheReference) {
+    const std::vector<Input> inputs = Inputs(AllTexts(L"ab", 6));
+    Tally tally;
+    for (const wchar_t* ending : {L"}*", L"}+b", L"}*?$", L"}+\\0"}) {
+        ForEachText(L"ab.|?\\0{}", 4, [&](const std::wstring& inside) {
+            if (inside.find(L"\\0") != std::wstring::npos) {
+                Compare(L"^{" + inside + ending, true, inputs, tally);
+            }
+        });
+    }
+    EXPECT_GT(tally.matched, 1000u);
+}
+
 TEST(PatternCompare, EverySmallSetAgreesWithTheReference) {
     CompareAll(L"[]^-\\atc", 5, true, Inputs(AllTexts(L"abt\t\\-]^", 2)));
 }

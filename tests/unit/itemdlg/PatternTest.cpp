@@ -16,6 +16,7 @@ constexpr wchar_t kPlaceholder[] = L"^.*<<{[0-9]*}>>.*";
 
 using Groups = std::vector<std::optional<std::wstring>>;
 const std::optional<std::wstring> kNoMatch;
+const Groups kNoGroups;
 
 unsigned Error(const std::wstring& pattern, bool caseSensitive = true) {
     CPatternMatcher matcher;
@@ -234,9 +235,20 @@ TEST(PatternReference, ToAGroupThatCapturedNothingMatchesNothing) {
     EXPECT_EQ(Find(L"({a}|b)\\0c", L"bc"), L"bc");
 }
 
-TEST(PatternReference, FromInsideItsOwnGroupMatchesNothing) {
+TEST(PatternReference, InsideItsOwnGroupMatchesWhatTheGroupCapturedInTheRoundBefore) {
     EXPECT_EQ(Captures(L"{a\\0b}", L"ab"), (Groups{L"ab"}));
-    EXPECT_EQ(Captures(L"({a\\0|c})+", L"aaac"), (Groups{L"a"}));
+    EXPECT_EQ(Captures(L"{a\\0b}", L"aaab"), (Groups{L"ab"})) << "no round before, at any start position";
+    EXPECT_EQ(Captures(L"{a\\0}*", L"aaa"), (Groups{L"aa"}));
+    EXPECT_EQ(Find(L"{a\\0}*", L"aaaaaaa"), L"aaaaaa") << "one, two and three letters; four are missing";
+    EXPECT_EQ(Captures(L"({a\\0}|b)+", L"abaa"), (Groups{L"aa"}));
+}
+
+TEST(PatternReference, InsideItsOwnGroupSeesTheRoundBeforeAgainWhenTheSearchBacktracks) {
+    // The third round takes "aaa", fails at the missing c and is given up; so is the second.
+    EXPECT_EQ(Captures(L"({a\\0}c?)+$", L"aaaaaac"), (Groups{L"aaa"}));
+    EXPECT_EQ(Captures(L"({a\\0}c)+", L"acaacab"), (Groups{L"aa"}));
+    EXPECT_EQ(Captures(L"^{a\\0}*aab$", L"aaaab"), kNoGroups);
+    EXPECT_EQ(Captures(L"^{a\\0}*aab$", L"aaaaab"), (Groups{L"aa"}));
 }
 
 TEST(PatternReference, FollowsTheCaseRuleOfThePattern) {
