@@ -1,4 +1,4 @@
-#include "tests/unit/itemdlg/PatternReference.h"
+#include "tests/unit/pattern/PatternReference.h"
 
 #include <functional>
 #include <utility>

@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "itemdlg/PatternMatcher.h"
-#include "tests/unit/itemdlg/ExactText.h"
-#include "tests/unit/itemdlg/PatternGenerator.h"
-#include "tests/unit/itemdlg/PatternReference.h"
+#include "pattern/PatternMatcher.h"
+#include "tests/unit/pattern/ExactText.h"
+#include "tests/unit/pattern/PatternGenerator.h"
+#include "tests/unit/pattern/PatternReference.h"
+
+using namespace tavrin::pattern;
 
 namespace {
 

@@ -1,12 +1,11 @@
-// From the text of a pattern to its program.
-#include "itemdlg/PatternCompiler.h"
+#include "pattern/PatternCompiler.h"
 
 #include <array>
-#include <cwchar>
-#include <stdexcept>
 #include <utility>
 
-#include "itemdlg/LetterCase.h"
+#include "pattern/LetterCase.h"
+
+namespace tavrin::pattern {
 
 namespace {
 
@@ -39,6 +38,14 @@ bool IsDigit(wchar_t character) {
     return character >= L'0' && character <= L'9';
 }
 
+bool ConsumesOne(EOp op) {
+    return op >= EOp::Character && op <= EOp::AnyCharacter;
+}
+
+bool HasAddress(EOp op) {
+    return op >= EOp::SplitPreferNext && op <= EOp::NegativeLookahead;
+}
+
 }  // namespace
 
 CPatternCompiler::CPatternCompiler(const wchar_t* pattern, bool caseSensitive, PatternProgram& program)
@@ -48,10 +55,7 @@ CPatternCompiler::CPatternCompiler(const wchar_t* pattern, bool caseSensitive, P
 
 EPatternError CPatternCompiler::Compile() {
     m_frames.emplace_back();
-    if (Peek() == L'^') {
-        m_program.anchored = true;
-        Advance();
-    }
+    m_program.anchored = TakeIf(L'^');
     while (!m_frames.empty()) {
         const EPatternError error = m_atomRead ? CompleteAtom() : ReadAtom();
         if (error != PE_NONE) {
@@ -59,33 +63,39 @@ EPatternError CPatternCompiler::Compile() {
         }
     }
     Emit(EOp::Match);
-    RemoveNothings(m_program);
+    RemoveNops();
+    FindFollowingLiterals();
     return PE_NONE;
 }
 
 // A case-insensitive pattern is read as if it had been lower-cased as a whole, sets and escapes included;
-// the expansions of abbreviations are read as they stand.
+// expansions of abbreviations are read as they are.
 wchar_t CPatternCompiler::Peek() const {
-    const bool asItStands = m_program.caseSensitive || m_resume != nullptr;
-    return asItStands ? *m_position : LowerForm(*m_position);
+    const bool asItIs = m_program.caseSensitive || m_resume != nullptr;
+    return asItIs ? *m_position : LowerForm(*m_position);
+}
+
+bool CPatternCompiler::TakeIf(wchar_t character) {
+    const bool found = Peek() == character;
+    m_position += found ? 1 : 0;
+    return found;
 }
 
 EPatternError CPatternCompiler::ReadAtom() {
     const wchar_t character = Peek();
-    if (character == L'\0' || IsCloser(character)) {
-        if (!m_frames.back().operandDue) {
-            return CloseFrame(character);
-        }
-        // The missing operand of a bar or an exclamation mark is the empty text.
-        KeepPlaces();
-        AtomRead(true);
+    const bool missing = character == L'\0' || IsCloser(character);
+    if (missing && !m_frames.back().operandDue) {
+        return CloseFrame(character);
+    }
+    ReserveSlots();
+    if (missing) {
+        AtomRead(true);  // the operand of the bar or exclamation mark before is the empty text
         return PE_NONE;
     }
-    KeepPlaces();
     Advance();
     switch (character) {
         case L'!':
-            m_frames.back().looks = Emit(EOp::Look, m_frames.back().looks);
+            m_frames.back().lookaheads = Emit(EOp::NegativeLookahead, m_frames.back().lookaheads);
             m_frames.back().operandDue = true;
             return PE_NONE;
         case L'{':
@@ -98,23 +108,23 @@ EPatternError CPatternCompiler::ReadAtom() {
             return ReadSet();
         case L'\\':
             return ReadEscape();
-        case L'.':
-            Emit(EOp::AnyCharacter);
-            AtomRead(false);
-            return PE_NONE;
-        case L'$':
-            if (*m_position == L'\0') {
-                Emit(EOp::EndOfInput);
-                AtomRead(true);
-                return PE_NONE;
-            }
-            break;
         default:
-            break;
+            EmitSimpleAtom(character);
+            return PE_NONE;
     }
-    // Quantifiers and bars come here too: where an element begins they are literals.
-    EmitLiteral(character);
-    return PE_NONE;
+}
+
+// Quantifiers and bars come here too: where an element begins they are literals.
+void CPatternCompiler::EmitSimpleAtom(wchar_t character) {
+    if (character == L'.') {
+        Emit(EOp::AnyCharacter);
+        AtomRead(false);
+    } else if (character == L'$' && *m_position == L'\0') {
+        Emit(EOp::EndOfInput);
+        AtomRead(true);
+    } else {
+        EmitLiteral(character);
+    }
 }
 
 EPatternError CPatternCompiler::ReadEscape() {
@@ -131,9 +141,9 @@ EPatternError CPatternCompiler::ReadEscape() {
         m_resume = m_position;
         m_position = expansion;
         OpenFrame(EFrame::Expansion);
-        return PE_NONE;
+    } else {
+        EmitLiteral(character);
     }
-    EmitLiteral(character);
     return PE_NONE;
 }
 
@@ -154,36 +164,26 @@ EPatternError CPatternCompiler::ReadBackReference() {
 
 EPatternError CPatternCompiler::ReadSet() {
     CCharacterSet set;
-    const bool negated = Peek() == L'^';
-    if (negated) {
-        Advance();
-    }
+    const bool negated = TakeIf(L'^');
     if (Peek() == L']') {
         return PE_EMPTY_SET;
     }
     wchar_t first = 0;
     wchar_t last = 0;
-    std::size_t ranges = 0;
-    for (; Peek() != L']'; ++ranges) {
+    while (!TakeIf(L']')) {
         if (const EPatternError error = ReadRange(first, last); error != PE_NONE) {
             return error;
         }
         set.Add(first, last);
     }
-    Advance();
     if (negated) {
         set.Negate();
     }
-    const bool folded = !m_program.caseSensitive && set.FoldCapitals();
-    if (ranges == 1 && !negated && !folded) {
-        // The sets that people write most: tested without looking into a table.
-        Instruction& range = m_program.code[Emit(EOp::CharacterRange)];
-        range.first = first;
-        range.second = last;
-    } else {
-        Emit(EOp::CharacterSet, static_cast<std::uint32_t>(m_program.sets.size()));
-        m_program.sets.push_back(std::move(set));
+    if (!m_program.caseSensitive) {
+        set.FoldCapitals();
     }
+    Emit(EOp::CharacterSet, static_cast<std::uint32_t>(m_program.sets.size()));
+    m_program.sets.push_back(std::move(set));
     AtomRead(false);
     return PE_NONE;
 }
@@ -194,8 +194,7 @@ EPatternError CPatternCompiler::ReadRange(wchar_t& first, wchar_t& last) {
         return PE_BRACKET_EXPECTED;
     }
     last = first;
-    if (Peek() == L'-') {
-        Advance();
+    if (TakeIf(L'-')) {
         last = Peek();
         if (last == L'\0' || last == L']') {
             return PE_BRACKET_EXPECTED;
@@ -208,102 +207,87 @@ EPatternError CPatternCompiler::ReadRange(wchar_t& first, wchar_t& last) {
 
 // One member, or the lower bound of a range; only these may be written with a backslash.
 bool CPatternCompiler::ReadSetCharacter(wchar_t& character) {
-    character = Peek();
-    if (character == L'\\') {
-        Advance();
-        character = Peek() == L't' ? L'\t' : Peek();
-    }
+    const bool escaped = TakeIf(L'\\');
     if (Peek() == L'\0') {
         return false;
     }
+    character = escaped && Peek() == L't' ? L'\t' : Peek();
     Advance();
     return true;
 }
 
 CPatternCompiler::Quantifier CPatternCompiler::ReadQuantifier() {
-    const wchar_t character = Peek();
     Quantifier quantifier;
-    quantifier.atLeastOne = character == L'+';
-    quantifier.atMostOne = character == L'?';
-    quantifier.present = quantifier.atLeastOne || quantifier.atMostOne || character == L'*';
-    if (quantifier.present) {
+    if (Peek() == L'*' || Peek() == L'+' || Peek() == L'?') {
+        quantifier.sign = *m_position;
         Advance();
-        quantifier.lazy = Peek() == L'?';
-        if (quantifier.lazy) {
-            Advance();
-        }
+        quantifier.lazy = TakeIf(L'?');
     }
     return quantifier;
 }
 
 EPatternError CPatternCompiler::CompleteAtom() {
     m_atomRead = false;
-    Frame& frame = m_frames.back();
-    if (frame.looks != kNone) {
-        CloseLooks(frame);
-        m_atomEmpty = true;
-    }
+    EndLookaheads();
     const Quantifier quantifier = ReadQuantifier();
-    if (quantifier.present && !quantifier.atMostOne && m_atomEmpty) {
+    const bool unbounded = quantifier.sign == L'*' || quantifier.sign == L'+';
+    if (unbounded && m_atomEmpty) {
         return PE_EMPTY_REPETITION;
     }
-    if (!FoldIntoRun(frame, quantifier) && quantifier.present) {
-        Quantify(frame, quantifier);
+    if (!FoldIntoRun(quantifier)) {
+        Quantify(quantifier);
     }
-    CompleteElement(m_atomEmpty || (quantifier.present && !quantifier.atLeastOne));
+    CompleteElement(m_atomEmpty || quantifier.sign == L'*' || quantifier.sign == L'?');
     return PE_NONE;
 }
 
-// Repeats of one character become a run, and no places are kept in front of them. That includes what is one
-// character only once its own groups are seen through ("\d" is a group around a set), and greedy repeats of a
-// greedy "x+", which reach the same ends in the same order as one run does but would try each of them over
-// and over ("\w+" on a long word).
-bool CPatternCompiler::FoldIntoRun(const Frame& frame, const Quantifier& quantifier) {
+// Greedy repetition of one character becomes a run. The slots of an element that is one character or a run
+// are removed at once, so that the group around it is seen to be one too ("\d" is a group around a set).
+// Greedy repetition of a run "x+" is one run again, which ends at the same positions in the same order: as a
+// loop around a run it would try every way to cut a long word in "\w+".
+bool CPatternCompiler::FoldIntoRun(const Quantifier& quantifier) {
     std::vector<Instruction>& code = m_program.code;
-    const std::size_t start = frame.places + kPlaces;
-    const std::size_t length = code.size() - start;
+    const Address slots = m_frames.back().slots;
+    const std::size_t length = code.size() - slots - kSlots;
     if (length != 1 && length != 2) {
         return false;
     }
-    Instruction run = code[start];
+    const Instruction first = code[slots + kSlots];
     const Instruction body = code.back();
-    bool repeated = true;
-    if (length == 1 && ConsumesOne(body.op)) {
-        repeated = quantifier.present;
-        run.op = quantifier.lazy ? EOp::LazyRun : EOp::Run;
-        run.atLeastOne = quantifier.atLeastOne;
-        run.atMostOne = quantifier.atMostOne;
-    } else if (run.op == EOp::Run && run.atLeastOne && quantifier.present && !quantifier.lazy) {
-        run.atLeastOne = quantifier.atLeastOne;
-    } else if (!IsRun(run.op) || quantifier.present) {
+    const bool isRun = first.op == EOp::Run && length == 2;
+    const bool isCharacter = ConsumesOne(first.op) && length == 1;
+    const bool quantified = quantifier.sign != kNoQuantifier;
+    const bool repeatable = !quantifier.lazy && (isRun ? first.atLeastOne : quantifier.sign != L'?');
+    if ((!isCharacter && !isRun) || (quantified && !repeatable)) {
         return false;
     }
-    code.resize(frame.places);
+    code.resize(slots);
     if (Peek() == L'|') {
-        Emit(EOp::Nothing);
+        Emit(EOp::Nop);
     }
-    if (repeated) {
-        code.push_back(run);
+    if (isRun || quantified) {
+        Emit(EOp::Run);
+        code.back().atLeastOne = quantified ? quantifier.sign == L'+' : first.atLeastOne;
     }
     code.push_back(body);
     return true;
 }
 
-// Repeats of anything else: a choice in front of the element or behind it, and a way back.
-void CPatternCompiler::Quantify(const Frame& frame, const Quantifier& quantifier) {
-    const Address front = frame.places + 1;
-    if (quantifier.atLeastOne) {
-        Emit(quantifier.lazy ? EOp::NextFirst : EOp::OperandFirst, front + 1);
-        return;
+// Any other repetition: a choice in front of the element or behind it, and a jump back.
+void CPatternCompiler::Quantify(const Quantifier& quantifier) {
+    const Address front = m_frames.back().slots + 1;
+    if (quantifier.sign == L'+') {
+        Emit(quantifier.lazy ? EOp::SplitPreferNext : EOp::SplitPreferTarget, front + 1);
+    } else if (quantifier.sign != kNoQuantifier) {
+        if (quantifier.sign == L'*') {
+            Emit(EOp::Jump, front);
+        }
+        m_program.code[front].op = quantifier.lazy ? EOp::SplitPreferTarget : EOp::SplitPreferNext;
+        m_program.code[front].operand = Here();
     }
-    if (!quantifier.atMostOne) {
-        Emit(EOp::Jump, front);
-    }
-    m_program.code[front].op = quantifier.lazy ? EOp::OperandFirst : EOp::NextFirst;
-    m_program.code[front].operand = Here();
 }
 
-// An element is an alternative of the chain that a bar behind it goes on with, or else ends.
+// An element is an alternative of the chain, which a bar behind it continues and anything else ends.
 void CPatternCompiler::CompleteElement(bool canBeEmpty) {
     Frame& frame = m_frames.back();
     if (frame.kind == EFrame::Expansion) {
@@ -314,27 +298,24 @@ void CPatternCompiler::CompleteElement(bool canBeEmpty) {
         return;
     }
     frame.chainEmpty = frame.chainEmpty || canBeEmpty;
-    if (Peek() == L'|') {
-        Advance();
+    if (TakeIf(L'|')) {
         frame.chainJumps = Emit(EOp::Jump, frame.chainJumps);
-        m_program.code[frame.places].op = EOp::NextFirst;
-        m_program.code[frame.places].operand = Here();
+        m_program.code[frame.slots].op = EOp::SplitPreferNext;
+        m_program.code[frame.slots].operand = Here();
         frame.operandDue = true;
     } else {
         for (Address jump = frame.chainJumps; jump != kNone;) {
-            Address& operand = m_program.code[jump].operand;
-            jump = operand;
-            operand = Here();
+            jump = std::exchange(m_program.code[jump].operand, Here());
         }
         frame.chainJumps = kNone;
         frame.sequenceEmpty = frame.sequenceEmpty && frame.chainEmpty;
         frame.chainEmpty = false;
     }
-    frame.places = kNone;
+    frame.slots = kNone;
 }
 
-// At the end of the pattern or at a closer: the sequence of the innermost frame ends. A closer that is not
-// the one awaited has no partner: it ends the whole pattern, quietly if nothing is left open.
+// At the end of the pattern or at a closer: the sequence of the innermost frame ends. A closer other than the
+// expected one has no partner: it ends the whole pattern, without an error if nothing is left open.
 EPatternError CPatternCompiler::CloseFrame(wchar_t closer) {
     const Frame frame = m_frames.back();
     switch (frame.kind) {
@@ -361,24 +342,6 @@ EPatternError CPatternCompiler::CloseFrame(wchar_t closer) {
     return PE_NONE;
 }
 
-// The first place is for the choice of an alternation, the second for that of a quantifier. Exclamation marks
-// in front of an atom belong to its element, which then has its places already.
-void CPatternCompiler::KeepPlaces() {
-    Frame& frame = m_frames.back();
-    if (frame.places == kNone) {
-        frame.places = Here();
-        for (Address count = 0; count < kPlaces; ++count) {
-            Emit(EOp::Nothing);
-        }
-    }
-}
-
-void CPatternCompiler::AtomRead(bool canBeEmpty) {
-    m_atomRead = true;
-    m_atomEmpty = canBeEmpty;
-    m_frames.back().operandDue = false;
-}
-
 void CPatternCompiler::OpenFrame(EFrame kind) {
     Frame frame;
     frame.kind = kind;
@@ -389,26 +352,69 @@ void CPatternCompiler::OpenFrame(EFrame kind) {
     m_frames.push_back(frame);
 }
 
+// Exclamation marks in front of an atom belong to its element, which then has its slots already.
+void CPatternCompiler::ReserveSlots() {
+    Frame& frame = m_frames.back();
+    if (frame.slots == kNone) {
+        frame.slots = Here();
+        m_program.code.resize(m_program.code.size() + kSlots);
+    }
+}
+
+void CPatternCompiler::AtomRead(bool canBeEmpty) {
+    m_atomRead = true;
+    m_atomEmpty = canBeEmpty;
+    m_frames.back().operandDue = false;
+}
+
 // All look-aheads in front of one atom end behind it, the innermost first.
-void CPatternCompiler::CloseLooks(Frame& frame) {
-    while (frame.looks != kNone) {
-        Emit(EOp::LookHit);
-        Address& operand = m_program.code[frame.looks].operand;
-        frame.looks = operand;
-        operand = Here();
+void CPatternCompiler::EndLookaheads() {
+    Frame& frame = m_frames.back();
+    while (frame.lookaheads != kNone) {
+        Emit(EOp::LookaheadEnd);
+        frame.lookaheads = std::exchange(m_program.code[frame.lookaheads].operand, Here());
+        m_atomEmpty = true;
+    }
+}
+
+void CPatternCompiler::RemoveNops() {
+    std::vector<Instruction>& code = m_program.code;
+    std::vector<Address> moved;
+    moved.reserve(code.size());
+    Address kept = 0;
+    for (const Instruction& instruction : code) {
+        moved.push_back(kept);
+        kept += instruction.op == EOp::Nop ? 0 : 1;
+    }
+    std::erase_if(code, [](const Instruction& instruction) { return instruction.op == EOp::Nop; });
+    for (Instruction& instruction : code) {
+        if (HasAddress(instruction.op)) {
+            instruction.operand = moved[instruction.operand];
+        }
+    }
+}
+
+// Behind most runs comes a literal, perhaps after the end or beginning of groups: the search then ends the
+// run only in front of that character.
+void CPatternCompiler::FindFollowingLiterals() {
+    std::vector<Instruction>& code = m_program.code;
+    for (Instruction& run : code) {
+        if (run.op == EOp::Run) {
+            const Instruction* next = &run + 2;
+            while (next->op == EOp::GroupOpen || next->op == EOp::GroupClose) {
+                ++next;
+            }
+            run.operand = next->op == EOp::Character ? static_cast<Address>(next - code.data()) : 0;
+        }
     }
 }
 
 CPatternCompiler::Address CPatternCompiler::Emit(EOp op, Address operand) {
-    const std::size_t address = m_program.code.size();
-    if (address >= kNone) {
-        throw std::length_error("pattern program");
-    }
     Instruction instruction;
     instruction.op = op;
     instruction.operand = operand;
     m_program.code.push_back(instruction);
-    return static_cast<Address>(address);
+    return Here() - 1;
 }
 
 void CPatternCompiler::EmitLiteral(wchar_t character) {
@@ -417,3 +423,5 @@ void CPatternCompiler::EmitLiteral(wchar_t character) {
     literal.second = m_program.caseSensitive ? character : CapitalForm(character);
     AtomRead(false);
 }
+
+}  // namespace tavrin::pattern
