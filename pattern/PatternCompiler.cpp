@@ -39,11 +39,11 @@ bool IsDigit(wchar_t character) {
 }
 
 bool ConsumesOne(EOp op) {
-    return op >= EOp::Character && op <= EOp::AnyCharacter;
+    return op >= OP_CHARACTER && op <= OP_ANY_CHARACTER;
 }
 
 bool HasAddress(EOp op) {
-    return op >= EOp::SplitPreferNext && op <= EOp::NegativeLookahead;
+    return op >= OP_SPLIT_PREFER_NEXT && op <= OP_NEGATIVE_LOOKAHEAD;
 }
 
 }  // namespace
@@ -62,7 +62,7 @@ EPatternError CPatternCompiler::Compile() {
             return m_resume != nullptr ? PE_BAD_ABBREVIATION : error;
         }
     }
-    Emit(EOp::Match);
+    Emit(OP_MATCH);
     RemoveNops();
     FindFollowingLiterals();
     return PE_NONE;
@@ -95,14 +95,14 @@ EPatternError CPatternCompiler::ReadAtom() {
     Advance();
     switch (character) {
         case L'!':
-            m_frames.back().lookaheads = Emit(EOp::NegativeLookahead, m_frames.back().lookaheads);
+            m_frames.back().lookaheads = Emit(OP_NEGATIVE_LOOKAHEAD, m_frames.back().lookaheads);
             m_frames.back().operandDue = true;
             return PE_NONE;
         case L'{':
-            OpenFrame(EFrame::CaptureGroup);
+            OpenFrame(FR_CAPTURE_GROUP);
             return PE_NONE;
         case L'(':
-            OpenFrame(EFrame::PlainGroup);
+            OpenFrame(FR_PLAIN_GROUP);
             return PE_NONE;
         case L'[':
             return ReadSet();
@@ -117,10 +117,10 @@ EPatternError CPatternCompiler::ReadAtom() {
 // Quantifiers and bars come here too: where an element begins they are literals.
 void CPatternCompiler::EmitSimpleAtom(wchar_t character) {
     if (character == L'.') {
-        Emit(EOp::AnyCharacter);
+        Emit(OP_ANY_CHARACTER);
         AtomRead(false);
     } else if (character == L'$' && *m_position == L'\0') {
-        Emit(EOp::EndOfInput);
+        Emit(OP_END_OF_INPUT);
         AtomRead(true);
     } else {
         EmitLiteral(character);
@@ -140,7 +140,7 @@ EPatternError CPatternCompiler::ReadEscape() {
     if (const wchar_t* expansion = FindExpansion(character)) {
         m_resume = m_position;
         m_position = expansion;
-        OpenFrame(EFrame::Expansion);
+        OpenFrame(FR_EXPANSION);
     } else {
         EmitLiteral(character);
     }
@@ -157,7 +157,7 @@ EPatternError CPatternCompiler::ReadBackReference() {
     if (number >= opened) {
         return PE_BAD_REFERENCE;
     }
-    Emit(EOp::BackReference, static_cast<std::uint32_t>(number));
+    Emit(OP_BACK_REFERENCE, static_cast<std::uint32_t>(number));
     AtomRead(true);
     return PE_NONE;
 }
@@ -182,7 +182,7 @@ EPatternError CPatternCompiler::ReadSet() {
     if (!m_program.caseSensitive) {
         set.FoldCapitals();
     }
-    Emit(EOp::CharacterSet, static_cast<std::uint32_t>(m_program.sets.size()));
+    Emit(OP_CHARACTER_SET, static_cast<std::uint32_t>(m_program.sets.size()));
     m_program.sets.push_back(std::move(set));
     AtomRead(false);
     return PE_NONE;
@@ -254,7 +254,7 @@ bool CPatternCompiler::FoldIntoRun(const Quantifier& quantifier) {
     }
     const Instruction first = code[slots + kSlots];
     const Instruction body = code.back();
-    const bool isRun = first.op == EOp::Run && length == 2;
+    const bool isRun = first.op == OP_RUN && length == 2;
     const bool isCharacter = ConsumesOne(first.op) && length == 1;
     const bool quantified = quantifier.sign != kNoQuantifier;
     const bool repeatable = !quantifier.lazy && (isRun ? first.atLeastOne : quantifier.sign != L'?');
@@ -263,10 +263,10 @@ bool CPatternCompiler::FoldIntoRun(const Quantifier& quantifier) {
     }
     code.resize(slots);
     if (Peek() == L'|') {
-        Emit(EOp::Nop);
+        Emit(OP_NOP);
     }
     if (isRun || quantified) {
-        Emit(EOp::Run);
+        Emit(OP_RUN);
         code.back().atLeastOne = quantified ? quantifier.sign == L'+' : first.atLeastOne;
     }
     code.push_back(body);
@@ -277,12 +277,12 @@ bool CPatternCompiler::FoldIntoRun(const Quantifier& quantifier) {
 void CPatternCompiler::Quantify(const Quantifier& quantifier) {
     const Address front = m_frames.back().slots + 1;
     if (quantifier.sign == L'+') {
-        Emit(quantifier.lazy ? EOp::SplitPreferNext : EOp::SplitPreferTarget, front + 1);
+        Emit(quantifier.lazy ? OP_SPLIT_PREFER_NEXT : OP_SPLIT_PREFER_TARGET, front + 1);
     } else if (quantifier.sign != kNoQuantifier) {
         if (quantifier.sign == L'*') {
-            Emit(EOp::Jump, front);
+            Emit(OP_JUMP, front);
         }
-        m_program.code[front].op = quantifier.lazy ? EOp::SplitPreferTarget : EOp::SplitPreferNext;
+        m_program.code[front].op = quantifier.lazy ? OP_SPLIT_PREFER_TARGET : OP_SPLIT_PREFER_NEXT;
         m_program.code[front].operand = Here();
     }
 }
@@ -290,7 +290,7 @@ void CPatternCompiler::Quantify(const Quantifier& quantifier) {
 // An element is an alternative of the chain, which a bar behind it continues and anything else ends.
 void CPatternCompiler::CompleteElement(bool canBeEmpty) {
     Frame& frame = m_frames.back();
-    if (frame.kind == EFrame::Expansion) {
+    if (frame.kind == FR_EXPANSION) {
         m_frames.pop_back();
         m_position = m_resume;
         m_resume = nullptr;
@@ -299,8 +299,8 @@ void CPatternCompiler::CompleteElement(bool canBeEmpty) {
     }
     frame.chainEmpty = frame.chainEmpty || canBeEmpty;
     if (TakeIf(L'|')) {
-        frame.chainJumps = Emit(EOp::Jump, frame.chainJumps);
-        m_program.code[frame.slots].op = EOp::SplitPreferNext;
+        frame.chainJumps = Emit(OP_JUMP, frame.chainJumps);
+        m_program.code[frame.slots].op = OP_SPLIT_PREFER_NEXT;
         m_program.code[frame.slots].operand = Here();
         frame.operandDue = true;
     } else {
@@ -319,21 +319,21 @@ void CPatternCompiler::CompleteElement(bool canBeEmpty) {
 EPatternError CPatternCompiler::CloseFrame(wchar_t closer) {
     const Frame frame = m_frames.back();
     switch (frame.kind) {
-        case EFrame::Pattern:
+        case FR_PATTERN:
             m_frames.pop_back();
             return PE_NONE;
-        case EFrame::CaptureGroup:
+        case FR_CAPTURE_GROUP:
             if (closer != L'}') {
                 return PE_BRACE_EXPECTED;
             }
-            Emit(EOp::GroupClose, frame.group);
+            Emit(OP_GROUP_CLOSE, frame.group);
             break;
-        case EFrame::PlainGroup:
+        case FR_PLAIN_GROUP:
             if (closer != L')') {
                 return PE_PARENTHESIS_EXPECTED;
             }
             break;
-        case EFrame::Expansion:
+        case FR_EXPANSION:
             return PE_BAD_ABBREVIATION;
     }
     Advance();
@@ -345,9 +345,9 @@ EPatternError CPatternCompiler::CloseFrame(wchar_t closer) {
 void CPatternCompiler::OpenFrame(EFrame kind) {
     Frame frame;
     frame.kind = kind;
-    if (kind == EFrame::CaptureGroup) {
+    if (kind == FR_CAPTURE_GROUP) {
         frame.group = m_program.groupCount++;
-        Emit(EOp::GroupOpen, frame.group);
+        Emit(OP_GROUP_OPEN, frame.group);
     }
     m_frames.push_back(frame);
 }
@@ -371,7 +371,7 @@ void CPatternCompiler::AtomRead(bool canBeEmpty) {
 void CPatternCompiler::EndLookaheads() {
     Frame& frame = m_frames.back();
     while (frame.lookaheads != kNone) {
-        Emit(EOp::LookaheadEnd);
+        Emit(OP_LOOKAHEAD_END);
         frame.lookaheads = std::exchange(m_program.code[frame.lookaheads].operand, Here());
         m_atomEmpty = true;
     }
@@ -384,9 +384,9 @@ void CPatternCompiler::RemoveNops() {
     Address kept = 0;
     for (const Instruction& instruction : code) {
         moved.push_back(kept);
-        kept += instruction.op == EOp::Nop ? 0 : 1;
+        kept += instruction.op == OP_NOP ? 0 : 1;
     }
-    std::erase_if(code, [](const Instruction& instruction) { return instruction.op == EOp::Nop; });
+    std::erase_if(code, [](const Instruction& instruction) { return instruction.op == OP_NOP; });
     for (Instruction& instruction : code) {
         if (HasAddress(instruction.op)) {
             instruction.operand = moved[instruction.operand];
@@ -399,12 +399,12 @@ void CPatternCompiler::RemoveNops() {
 void CPatternCompiler::FindFollowingLiterals() {
     std::vector<Instruction>& code = m_program.code;
     for (Instruction& run : code) {
-        if (run.op == EOp::Run) {
+        if (run.op == OP_RUN) {
             const Instruction* next = &run + 2;
-            while (next->op == EOp::GroupOpen || next->op == EOp::GroupClose) {
+            while (next->op == OP_GROUP_OPEN || next->op == OP_GROUP_CLOSE) {
                 ++next;
             }
-            run.operand = next->op == EOp::Character ? static_cast<Address>(next - code.data()) : 0;
+            run.operand = next->op == OP_CHARACTER ? static_cast<Address>(next - code.data()) : 0;
         }
     }
 }
@@ -418,7 +418,7 @@ CPatternCompiler::Address CPatternCompiler::Emit(EOp op, Address operand) {
 }
 
 void CPatternCompiler::EmitLiteral(wchar_t character) {
-    Instruction& literal = m_program.code[Emit(EOp::Character)];
+    Instruction& literal = m_program.code[Emit(OP_CHARACTER)];
     literal.first = character;
     literal.second = m_program.caseSensitive ? character : CapitalForm(character);
     AtomRead(false);

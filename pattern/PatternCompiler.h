@@ -27,11 +27,11 @@ private:
     static constexpr Address kNone = 0xFFFFFFFF;
     static constexpr Address kSlots = 2;  // in front of each element: for an alternation, for a quantifier
 
-    enum class EFrame : std::uint8_t { Pattern, CaptureGroup, PlainGroup, Expansion };
+    enum EFrame : std::uint8_t { FR_PATTERN, FR_CAPTURE_GROUP, FR_PLAIN_GROUP, FR_EXPANSION };
 
     // A sequence that is being read, and the state of its current alternation and element.
     struct Frame {
-        EFrame kind = EFrame::Pattern;
+        EFrame kind = FR_PATTERN;
         bool sequenceEmpty = true;   // the sequence so far can match the empty text
         bool chainEmpty = false;     // an earlier alternative of this chain can
         bool operandDue = false;     // a bar or an exclamation mark waits for what it applies to

@@ -33,22 +33,21 @@ private:
         const wchar_t* position;
     };
 
+    enum EKind : std::uint8_t {
+        EK_CHOICE,       // go on at instruction `index` from position `first`
+        EK_LOOKAHEAD,    // the same: the look-ahead failed inside, which is its success
+        EK_GROUP_START,  // group `index` had begun at `first` before
+        EK_GROUP,        // group `index` had captured [`first`, `second`) before
+        EK_RUN           // the run at `index` may still end in [`first`, `second`), the last position first
+    };
+
     // What backtracking returns to.
     struct Entry {
-        enum class EKind : std::uint8_t {
-            Choice,      // go on at instruction `index` from position `first`
-            Lookahead,   // the same: the look-ahead failed inside, which is its success
-            GroupStart,  // group `index` had begun at `first` before
-            Group,       // group `index` had captured [`first`, `second`) before
-            Run          // the run at `index` may still end in [`first`, `second`), the last position first
-        };
-
         EKind kind;
         std::uint32_t index;
         const wchar_t* first;
         const wchar_t* second;
     };
-    using EKind = Entry::EKind;
 
     bool Execute(State& state);
     bool Backtrack(State& state);
@@ -75,7 +74,7 @@ private:
 
 const wchar_t* CPatternSearch::MatchAt(const wchar_t* start) {
     State state{m_code, start};
-    while (state.next->op != EOp::Match) {
+    while (state.next->op != OP_MATCH) {
         if (!Execute(state) && !Backtrack(state)) {
             return nullptr;
         }
@@ -89,43 +88,43 @@ bool CPatternSearch::Execute(State& state) {
     const std::uint32_t operand = instruction.operand;
     const wchar_t*& position = state.position;
     switch (instruction.op) {
-        case EOp::Character:
-        case EOp::CharacterSet:
-        case EOp::AnyCharacter:
+        case OP_CHARACTER:
+        case OP_CHARACTER_SET:
+        case OP_ANY_CHARACTER:
             return Accepts(instruction, *position++);
-        case EOp::Run:
-            Push(EKind::Run, static_cast<std::uint32_t>(&instruction - m_code),
+        case OP_RUN:
+            Push(EK_RUN, static_cast<std::uint32_t>(&instruction - m_code),
                  position + (instruction.atLeastOne ? 1 : 0), RunEnd(*state.next, position) + 1);
             return false;  // backtracking takes the run's first choice as it takes the others
-        case EOp::EndOfInput:
+        case OP_END_OF_INPUT:
             return *position == L'\0';
-        case EOp::GroupOpen:
-            Push(EKind::GroupStart, operand, m_groupStarts[operand]);
+        case OP_GROUP_OPEN:
+            Push(EK_GROUP_START, operand, m_groupStarts[operand]);
             m_groupStarts[operand] = position;
             return true;
-        case EOp::GroupClose:
+        case OP_GROUP_CLOSE:
             CloseGroup(operand, position);
             return true;
-        case EOp::BackReference:
+        case OP_BACK_REFERENCE:
             return MatchReference(operand, position);
-        case EOp::SplitPreferNext:
-            Push(EKind::Choice, operand, position);
+        case OP_SPLIT_PREFER_NEXT:
+            Push(EK_CHOICE, operand, position);
             return true;
-        case EOp::SplitPreferTarget:
-            Push(EKind::Choice, static_cast<std::uint32_t>(state.next - m_code), position);
+        case OP_SPLIT_PREFER_TARGET:
+            Push(EK_CHOICE, static_cast<std::uint32_t>(state.next - m_code), position);
             state.next = m_code + operand;
             return true;
-        case EOp::Jump:
+        case OP_JUMP:
             state.next = m_code + operand;
             return true;
-        case EOp::NegativeLookahead:
-            Push(EKind::Lookahead, operand, position);
+        case OP_NEGATIVE_LOOKAHEAD:
+            Push(EK_LOOKAHEAD, operand, position);
             return true;
-        case EOp::LookaheadEnd:
+        case OP_LOOKAHEAD_END:
             LeaveLookahead();
             return false;
-        case EOp::Nop:
-        case EOp::Match:
+        case OP_NOP:
+        case OP_MATCH:
             break;
     }
     return true;
@@ -136,17 +135,17 @@ bool CPatternSearch::Backtrack(State& state) {
     while (m_stack.Size() > 0) {
         const Entry& entry = m_stack.Back();
         switch (entry.kind) {
-            case EKind::Choice:
-            case EKind::Lookahead:
+            case EK_CHOICE:
+            case EK_LOOKAHEAD:
                 state = {m_code + entry.index, entry.first};
                 m_stack.PopBack();
                 return true;
-            case EKind::GroupStart:
-            case EKind::Group:
+            case EK_GROUP_START:
+            case EK_GROUP:
                 RestoreGroup(entry);
                 m_stack.PopBack();
                 break;
-            case EKind::Run:
+            case EK_RUN:
                 if (ShortenRun(state)) {
                     return true;
                 }
@@ -158,9 +157,9 @@ bool CPatternSearch::Backtrack(State& state) {
 
 bool CPatternSearch::Accepts(const Instruction& consumer, wchar_t character) const {
     switch (consumer.op) {
-        case EOp::Character:
+        case OP_CHARACTER:
             return IsLiteral(consumer, character);
-        case EOp::CharacterSet:
+        case OP_CHARACTER_SET:
             return m_program.sets[consumer.operand].Contains(character);
         default:
             return character != L'\0';
@@ -169,7 +168,7 @@ bool CPatternSearch::Accepts(const Instruction& consumer, wchar_t character) con
 
 // The first position from here on whose character the body of a run does not accept.
 const wchar_t* CPatternSearch::RunEnd(const Instruction& body, const wchar_t* position) const {
-    if (body.op == EOp::AnyCharacter) {
+    if (body.op == OP_ANY_CHARACTER) {
         return m_inputEnd;
     }
     while (Accepts(body, *position)) {
@@ -203,14 +202,14 @@ bool CPatternSearch::ShortenRun(State& state) {
 
 // Until here the group has held its capture of the round before, which a back-reference inside it matches.
 void CPatternSearch::CloseGroup(std::uint32_t index, const wchar_t* position) {
-    Push(EKind::Group, index, m_groups[index].start, m_groups[index].end);
+    Push(EK_GROUP, index, m_groups[index].start, m_groups[index].end);
     m_groups[index] = {m_groupStarts[index], position};
 }
 
 void CPatternSearch::RestoreGroup(const Entry& entry) {
-    if (entry.kind == EKind::GroupStart) {
+    if (entry.kind == EK_GROUP_START) {
         m_groupStarts[entry.index] = entry.first;
-    } else if (entry.kind == EKind::Group) {
+    } else if (entry.kind == EK_GROUP) {
         m_groups[entry.index] = {entry.first, entry.second};
     }
 }
@@ -220,7 +219,7 @@ void CPatternSearch::RestoreGroup(const Entry& entry) {
 void CPatternSearch::LeaveLookahead() {
     for (bool left = false; !left; m_stack.PopBack()) {
         RestoreGroup(m_stack.Back());
-        left = m_stack.Back().kind == EKind::Lookahead;
+        left = m_stack.Back().kind == EK_LOOKAHEAD;
     }
 }
 
