@@ -10,6 +10,8 @@
 #include "benchmarks/MatcherCorpus.h"
 #include "itemdlg/TemplatePatterns.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 const BenchPattern kPatterns[] = {

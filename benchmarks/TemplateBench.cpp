@@ -18,6 +18,8 @@
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TemplateText.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 namespace fs = std::filesystem;

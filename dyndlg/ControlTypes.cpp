@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <iterator>
 
+namespace tavrin::dyndlg {
+
 namespace {
 
 struct ControlClass {
@@ -91,3 +93,5 @@ EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style) {
             return EX_CONTROL;
     }
 }
+
+}  // namespace tavrin::dyndlg

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace tavrin::dyndlg {
+
 // The first six are also the ordinals by which Windows knows the classes in a dialog template.
 enum EControlType : std::uint32_t {
     CT_ACTIVEX = 0,  // no known class: the name is an ActiveX control's ProgID
@@ -54,3 +56,5 @@ enum EExchange {
 // merely contain a pattern count too: an owner-drawn button (0xB) is a radio button, a group box (7) a check
 // box.
 EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style);
+
+}  // namespace tavrin::dyndlg

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tavrin::dyndlg {
+
 namespace {
 
 constexpr std::int32_t leftMargin = 10;
@@ -38,3 +40,5 @@ void CDialogLayout::Include(const DialogRect& rect) {
     m_extent.cx = ExtentUpTo(rect.right, m_extent.x, m_extent.cx);
     m_extent.cy = ExtentUpTo(rect.bottom, m_extent.y, m_extent.cy);
 }
+
+}  // namespace tavrin::dyndlg

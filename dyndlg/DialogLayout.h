@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+namespace tavrin::dyndlg {
+
 struct DialogRect {
     std::int32_t left = 0, top = 0, right = 0, bottom = 0;
     bool operator==(const DialogRect&) const = default;
@@ -52,3 +54,5 @@ public:
 private:
     std::uint32_t m_next = 1024;
 };
+
+}  // namespace tavrin::dyndlg

@@ -1,5 +1,7 @@
 #include "dyndlg/DialogTemplate.h"
 
+namespace tavrin::dyndlg {
+
 namespace {
 
 constexpr std::size_t itemAlignment = 4;
@@ -126,3 +128,5 @@ void WriteTemplate(const DialogTemplate& dialog, std::span<std::byte> memory) {
         WriteItem(item, writer);
     }
 }
+
+}  // namespace tavrin::dyndlg

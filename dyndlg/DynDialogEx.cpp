@@ -7,6 +7,8 @@
 
 #include "dyndlg/LocalMemory.h"
 
+namespace tavrin::dyndlg {
+
 IMPLEMENT_DYNAMIC(CDynDialogEx, CDialog)
 
 BEGIN_MESSAGE_MAP(CDynDialogEx, CDialog)
@@ -283,3 +285,5 @@ BOOL CDynDialogEx::OnHelpInfo(HELPINFO*) {
     CWnd::OnHelp();
     return TRUE;
 }
+
+}  // namespace tavrin::dyndlg

@@ -25,6 +25,8 @@
 #include "dyndlg/DialogTemplate.h"
 #include "dyndlg/DynDialogItemEx.h"
 
+namespace tavrin::dyndlg {
+
 class CDynDialogEx : public CDialog {
     DECLARE_DYNAMIC(CDynDialogEx)
 
@@ -105,3 +107,5 @@ private:
     CDialogLayout m_layout;
     std::vector<std::unique_ptr<CDynDialogItemEx>> m_items;
 };
+
+}  // namespace tavrin::dyndlg

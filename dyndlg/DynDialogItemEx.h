@@ -8,6 +8,8 @@
 #include "dyndlg/ControlTypes.h"
 #include "dyndlg/DialogLayout.h"
 
+namespace tavrin::dyndlg {
+
 // What a control is made from. Coordinates are dialog units.
 struct DynControl {
     CString className = {};  // the window class; for CT_ACTIVEX the control's ProgID
@@ -54,3 +56,5 @@ private:
 
     const DynControl m_control;
 };
+
+}  // namespace tavrin::dyndlg

@@ -3,6 +3,8 @@
 #include "host/Commands.h"
 #include "sds/sds.h"
 
+namespace tavrin::host {
+
 namespace {
 
 constexpr CommandRow commandTable[] = {
@@ -43,3 +45,5 @@ void InvokeCommand() {
     }
     commandTable[code].run();
 }
+
+}  // namespace tavrin::host

@@ -3,6 +3,8 @@
 
 #include <span>
 
+namespace tavrin::host {
+
 struct CommandRow {
     const wchar_t* name;  // of the LISP function
     int (*run)();         // reads the arguments, shows the dialog, sets the result; see Commands.h
@@ -17,3 +19,5 @@ void UnregisterCommands();
 
 // Runs the function that LISP called. A code that no row has is reported through sds_fail.
 void InvokeCommand();
+
+}  // namespace tavrin::host

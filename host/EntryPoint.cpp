@@ -7,6 +7,8 @@
 #include "sds/HostBinding.h"
 #include "sds/sds.h"
 
+namespace tavrin::host {
+
 namespace {
 
 // The framework finds the module's instance, and with it the module's resources, through this object.
@@ -56,3 +58,5 @@ extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*pa
     }
     return requestServed;
 }
+
+}  // namespace tavrin::host

@@ -1,13 +1,15 @@
 #include "imagedlg/ChoiceLayout.h"
 
+namespace tavrin::imagedlg {
+
 namespace {
 
-constexpr int none = CELL_EMPTY;
-constexpr int logo = CELL_LOGO;
+constexpr int none = kCellEmpty;
+constexpr int logo = kCellLogo;
 
 // Four choices form a block of two by two in the left columns. With five the logo fills the middle of the
 // bottom row, so the fifth choice stands at its end.
-constexpr int contents[MAX_CHOICES + 1][CHOICE_CELLS] = {
+constexpr int contents[kMaxChoices + 1][kChoiceCells] = {
     {none, none, none, none, none, none},  //
     {0, none, none, none, none, none},     //
     {0, 1, none, none, none, none},        //
@@ -18,11 +20,11 @@ constexpr int contents[MAX_CHOICES + 1][CHOICE_CELLS] = {
 };
 
 bool IsCell(int cell) {
-    return cell >= 1 && cell <= CHOICE_CELLS;
+    return cell >= 1 && cell <= kChoiceCells;
 }
 
 bool IsInTopRow(int cell) {
-    return cell <= CHOICE_CELLS / 2;
+    return cell <= kChoiceCells / 2;
 }
 
 // Whole pixels, what is left over cut off.
@@ -81,7 +83,7 @@ ChoiceArrangement ArrangeTwoByTwo(const PixelRect& window, const PixelRect& ok, 
 }  // namespace
 
 int GetCellContent(unsigned count, int cell) {
-    return count > MAX_CHOICES || !IsCell(cell) ? CELL_EMPTY : contents[count][cell - 1];
+    return count > kMaxChoices || !IsCell(cell) ? kCellEmpty : contents[count][cell - 1];
 }
 
 bool IsChoiceCellSelectable(unsigned count, int cell) {
@@ -103,7 +105,7 @@ bool IsChoiceCellSelectable(unsigned count, int cell) {
 
 int GetChoiceOfCell(unsigned count, int cell, int previous) {
     // A quirk that is kept: with a count that the dialog does not show, each selection steps back by one.
-    if (count == 0 || count > MAX_CHOICES) {
+    if (count == 0 || count > kMaxChoices) {
         return previous - 1;
     }
     const int content = GetCellContent(count, cell);
@@ -135,3 +137,5 @@ std::optional<ChoiceArrangement> ArrangeChoiceWindow(unsigned count, const Pixel
             return std::nullopt;
     }
 }
+
+}  // namespace tavrin::imagedlg

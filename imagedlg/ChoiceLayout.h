@@ -7,13 +7,15 @@
 
 #include <optional>
 
-inline constexpr int CHOICE_CELLS = 6;
+namespace tavrin::imagedlg {
+
+inline constexpr int kChoiceCells = 6;
 // A dialog with more choices, or with none, closes as soon as it would show.
-inline constexpr unsigned MAX_CHOICES = 6;
+inline constexpr unsigned kMaxChoices = 6;
 
 // What a cell shows is the index of a choice, or one of these.
-inline constexpr int CELL_EMPTY = -1;
-inline constexpr int CELL_LOGO = -2;
+inline constexpr int kCellEmpty = -1;
+inline constexpr int kCellLogo = -2;
 // Empty for every cell when the count is 0 or above MAX_CHOICES.
 int GetCellContent(unsigned count, int cell);
 
@@ -56,3 +58,5 @@ struct ChoiceArrangement {
 std::optional<ChoiceArrangement> ArrangeChoiceWindow(unsigned count, const PixelRect& window,
                                                      const PixelRect& ok, const PixelRect& cancel,
                                                      const PixelRect& replace);
+
+}  // namespace tavrin::imagedlg

@@ -2,6 +2,8 @@
 
 #include <gdiplus.h>
 
+namespace tavrin::imagedlg {
+
 using namespace Gdiplus::DllExports;
 
 namespace {
@@ -126,3 +128,5 @@ void CPictureCtrl::Draw(HDC dc) const {
     GdipDrawImageRectI(graphics.handle, image.handle, area.left, area.top, area.right - area.left,
                        area.bottom - area.top);
 }
+
+}  // namespace tavrin::imagedlg

@@ -7,6 +7,8 @@
 #include <afxwin.h>
 #include <objidl.h>
 
+namespace tavrin::imagedlg {
+
 class CPictureCtrl : public CStatic {
 public:
     // Starts GDI+ for this control; the destructor stops it.
@@ -37,3 +39,5 @@ private:
     BOOL m_bLoaded = FALSE;        // a file was read completely into the stream
     ULONG_PTR m_gdiplusToken = 0;
 };
+
+}  // namespace tavrin::imagedlg

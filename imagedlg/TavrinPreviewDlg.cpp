@@ -2,6 +2,8 @@
 
 #include "sds/FindFile.h"
 
+namespace tavrin::imagedlg {
+
 IMPLEMENT_DYNAMIC(CTavrinPreviewDlg, CDialog)
 
 CTavrinPreviewDlg::CTavrinPreviewDlg(CWnd* parent) : CDialog(IDD, parent) {}
@@ -27,3 +29,5 @@ BOOL CTavrinPreviewDlg::OnInitDialog() {
 void CTavrinPreviewDlg::SetName(CString name) {
     m_strName = name;
 }
+
+}  // namespace tavrin::imagedlg

@@ -7,6 +7,8 @@
 #include "imagedlg/PictureCtrl.h"
 #include "res/resource.h"
 
+namespace tavrin::imagedlg {
+
 class CTavrinPreviewDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinPreviewDlg)
 
@@ -28,3 +30,5 @@ private:
     CPictureCtrl m_picture;
     CString m_strName;
 };
+
+}  // namespace tavrin::imagedlg

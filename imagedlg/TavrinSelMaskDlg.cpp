@@ -3,6 +3,8 @@
 #include "imagedlg/ChoiceSlides.h"
 #include "sds/FindFile.h"
 
+namespace tavrin::imagedlg {
+
 namespace {
 
 constexpr COLORREF white = RGB(255, 255, 255);
@@ -45,7 +47,7 @@ CTavrinSelMaskDlg::CTavrinSelMaskDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
 void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, PictureOf(cell));
     }
     DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
@@ -65,7 +67,7 @@ BOOL CTavrinSelMaskDlg::OnInitDialog() {
     m_brush.CreateSolidBrush(white);
     CDialog::OnInitDialog();
     // There is no paging: what does not fit is not offered at all.
-    if (m_nCount == 0 || m_nCount > MAX_CHOICES) {
+    if (m_nCount == 0 || m_nCount > kMaxChoices) {
         OnCancel();
     }
     ArrangeForCount();
@@ -109,7 +111,7 @@ void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
 }
 
 bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
-    if (!FindSlide(name, FLAT_SLIDE_ENDING) && (!FindSlide(name, SPACE_SLIDE_ENDING) || m_nSkip3D != 0)) {
+    if (!FindSlide(name, kFlatSlideEnding) && (!FindSlide(name, kSpaceSlideEnding) || m_nSkip3D != 0)) {
         return false;
     }
     m_choices[static_cast<int>(m_nCount)] = name;
@@ -128,7 +130,7 @@ void CTavrinSelMaskDlg::RefreshSlides() {
 CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
     if (!name.IsEmpty()) {
         // Whether slides in space count was settled when the name became a choice.
-        for (const wchar_t* ending : {FLAT_SLIDE_ENDING, SPACE_SLIDE_ENDING}) {
+        for (const wchar_t* ending : {kFlatSlideEnding, kSpaceSlideEnding}) {
             if (const auto path = FindSlide(name, ending)) {
                 return path->c_str();
             }
@@ -172,21 +174,21 @@ void CTavrinSelMaskDlg::EnableItem(UINT id, BOOL enable) {
 
 CString CTavrinSelMaskDlg::GetCellPath(int cell) {
     const int content = GetCellContent(m_nCount, cell);
-    if (content == CELL_EMPTY) {
+    if (content == kCellEmpty) {
         return {};
     }
-    return content == CELL_LOGO ? GetLogoPath() : GetSlidePath(m_choices[content]);
+    return content == kCellLogo ? GetLogoPath() : GetSlidePath(m_choices[content]);
 }
 
 CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
-    CPictureCtrl* const pictures[CHOICE_CELLS] = {&m_picture1, &m_picture2, &m_picture3,
+    CPictureCtrl* const pictures[kChoiceCells] = {&m_picture1, &m_picture2, &m_picture3,
                                                   &m_picture4, &m_picture5, &m_picture6};
     return *pictures[cell - 1];
 }
 
 void CTavrinSelMaskDlg::LoadSlides() {
     // An empty path cannot be loaded, and a load that fails leaves the cell empty.
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         PictureOf(cell).LoadFromFile(GetCellPath(cell));
     }
     SelectCell(1);
@@ -206,7 +208,7 @@ void CTavrinSelMaskDlg::ArrangeForCount() {
         }
         // With one row the buttons stand where empty cells of the other row are, which would take their
         // clicks: the buttons must lie above.
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
             PictureOf(cell).SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         }
     }
@@ -230,7 +232,7 @@ void CTavrinSelMaskDlg::PaintFrames() {
             dc.ExcludeClipRect(AreaOf(*button));
         }
     }
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         if (HasChoiceFrame(m_nCount, cell)) {
             PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_nSelCell ? black : white);
         }
@@ -244,3 +246,5 @@ CRect CTavrinSelMaskDlg::AreaOf(const CWnd& control) {
     control.MapWindowPoints(this, &area);
     return area;
 }
+
+}  // namespace tavrin::imagedlg

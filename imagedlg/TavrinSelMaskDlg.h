@@ -23,6 +23,8 @@
 #include "imagedlg/PictureCtrl.h"
 #include "res/resource.h"
 
+namespace tavrin::imagedlg {
+
 class CTavrinSelMaskDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinSelMaskDlg)
 
@@ -112,3 +114,5 @@ private:
     CString m_strReplaceText;
     CButton m_btnReplace;
 };
+
+}  // namespace tavrin::imagedlg

@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+namespace tavrin::itemdlg {
+
 class CBlockTracker {
 public:
     static constexpr std::wstring_view kOpeningLine = L"VAR";
@@ -31,3 +33,5 @@ public:
 private:
     bool m_open = false;
 };
+
+}  // namespace tavrin::itemdlg

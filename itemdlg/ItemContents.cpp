@@ -9,6 +9,8 @@
 #include "itemdlg/BlockTracker.h"
 #include "itemdlg/ItemFiles.h"
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 std::wstring UpToNull(const std::wstring& text) {
@@ -50,3 +52,5 @@ ItemContents ReadItem(const TextLines& lines, double scale, int mode, const Text
     }
     return item;
 }
+
+}  // namespace tavrin::itemdlg

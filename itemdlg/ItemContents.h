@@ -9,6 +9,8 @@
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TemplateText.h"
 
+namespace tavrin::itemdlg {
+
 // What becomes of a parameter in the grid.
 enum EParameterRow {
     PR_SHOWN,         // it gets a row
@@ -30,3 +32,5 @@ struct ItemContents {
 // Reads the lines of a working file. Distances and reals are multiplied by the scale; in read-only mode
 // marked rows are read-only. Title and header end at their first null character, as windows' texts do.
 ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup);
+
+}  // namespace tavrin::itemdlg

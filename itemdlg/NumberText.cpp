@@ -10,6 +10,8 @@
 #include <limits>
 #include <system_error>
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 // Takes a number apart from left to right, beginning behind the white space that stands before it.
@@ -154,3 +156,5 @@ std::wstring IntText(int value) {
     const auto result = std::to_chars(text.data(), text.data() + text.size(), value);
     return {text.data(), result.ptr};
 }
+
+}  // namespace tavrin::itemdlg

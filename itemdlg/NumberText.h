@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace tavrin::itemdlg {
+
 // The number that a text begins with: leading white space (blank, tab, line feed, vertical tab, form feed,
 // carriage return) is skipped and the longest prefix of the form [sign] digits [point digits] [e [sign]
 // digits] is converted; digits may be missing on one side of the point. What follows the number is ignored.
@@ -39,3 +41,5 @@ std::wstring GeneralText(double value);
 
 // The value as printf's "%d".
 std::wstring IntText(int value);
+
+}  // namespace tavrin::itemdlg

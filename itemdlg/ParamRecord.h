@@ -7,6 +7,8 @@
 
 class ICustomItem;
 
+namespace tavrin::itemdlg {
+
 struct ParamRecord {
     static constexpr std::uint32_t kNoItem = 0xFFFFFFFF;
 
@@ -25,3 +27,5 @@ struct ParamRecord {
 
 // All parameters of a file by their line index.
 using ParamRecordMap = std::map<std::int32_t, ParamRecord>;
+
+}  // namespace tavrin::itemdlg

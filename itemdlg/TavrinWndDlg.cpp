@@ -11,6 +11,8 @@
 #include "res/TextLibrary.h"
 #include "sds/FindFile.h"
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 constexpr COLORREF backColor = 0xE1E1E1;
@@ -223,7 +225,7 @@ int CTavrinWndDlg::GetPlaceholderNumber(CString line) {
 }
 
 CString CTavrinWndDlg::LoadResString(CString& out, unsigned id) {
-    static CTextLibrary texts;
+    static res::CTextLibrary texts;
     out = texts.Load(id);
     return out;
 }
@@ -238,3 +240,5 @@ std::function<std::wstring(unsigned)> CTavrinWndDlg::Texts() {
 void CTavrinWndDlg::ShowError(const wchar_t* text, const wchar_t* caption) {
     ::MessageBoxW(m_hWnd, text, caption, MB_OK);
 }
+
+}  // namespace tavrin::itemdlg

@@ -20,6 +20,8 @@
 #include "propgrid/PropertyGrid.h"
 #include "res/resource.h"
 
+namespace tavrin::itemdlg {
+
 class CTavrinWndDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinWndDlg)
 
@@ -66,7 +68,7 @@ private:
     CFont m_headerFont;
 
     CPropertyGrid m_grid;
-    CPictureCtrl m_picture;
+    imagedlg::CPictureCtrl m_picture;
     ParamRecordMap m_params;  // by line index in the working file
     CString m_baseName;
     double m_scale = 1.0;
@@ -89,3 +91,5 @@ private:
     std::function<std::wstring(unsigned)> Texts();
     void ShowError(const wchar_t* text, const wchar_t* caption);
 };
+
+}  // namespace tavrin::itemdlg

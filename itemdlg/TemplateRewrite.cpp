@@ -9,6 +9,8 @@
 #include "itemdlg/NumberText.h"
 #include "itemdlg/TemplateText.h"
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 // The last line in a block for each number.
@@ -67,3 +69,5 @@ void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const 
         }
     }
 }
+
+}  // namespace tavrin::itemdlg

@@ -10,6 +10,8 @@
 
 #include "itemdlg/ParamRecord.h"
 
+namespace tavrin::itemdlg {
+
 using TextLines = std::vector<std::wstring>;
 
 // Gives the text of the value that a parameter has now.
@@ -36,3 +38,5 @@ void RewriteWorkingFile(TextLines& lines, const ParamRecordMap& records, const V
 // number, compared as text ("01" is not "1"). Records whose number does not occur and those of type U are
 // left out. Values are asked for in the order of the records' lines.
 void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf);
+
+}  // namespace tavrin::itemdlg

@@ -8,7 +8,7 @@
 #include "itemdlg/TemplatePatterns.h"
 #include "pattern/PatternMatcher.h"
 
-namespace pattern = tavrin::pattern;
+namespace tavrin::itemdlg {
 
 namespace {
 
@@ -128,3 +128,5 @@ std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t
     FillRow(*parameter, line, lineIndex, scale, mode, lookup, *row);
     return row;
 }
+
+}  // namespace tavrin::itemdlg

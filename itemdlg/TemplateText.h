@@ -25,6 +25,8 @@
 
 #include "itemdlg/ParamRecord.h"
 
+namespace tavrin::itemdlg {
+
 // Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
 // 1 to 65535 only.
 using TextLookup = std::function<std::wstring(unsigned id)>;
@@ -96,3 +98,5 @@ void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int
 // The same from the line alone; nothing when it is no parameter.
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
                                           int mode, const TextLookup& lookup);
+
+}  // namespace tavrin::itemdlg

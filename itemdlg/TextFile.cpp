@@ -2,6 +2,8 @@
 
 #include <afx.h>
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 // Writes a line that may hold NUL characters: the framework's texts end at the first, so a NUL is written
@@ -47,3 +49,5 @@ bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& li
         return false;
     }
 }
+
+}  // namespace tavrin::itemdlg

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::itemdlg {
+
 // Appends the lines of the file `path` to `lines`, without their line ends. False when the file cannot be
 // opened or reading fails; `lines` then holds what was read before.
 bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines);
@@ -16,3 +18,5 @@ bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines);
 // Creates the file anew (or empties it) and writes each line with a line end. False when the file cannot be
 // opened or writing fails; it then holds what was written before.
 bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& lines);
+
+}  // namespace tavrin::itemdlg

@@ -6,6 +6,8 @@
 #include "dyndlg/DynDialogEx.h"
 #include "propgrid/FolderBrowser.h"
 
+using namespace tavrin::dyndlg;
+
 namespace {
 
 constexpr DWORD labelStyle = WS_CHILD | WS_VISIBLE;

@@ -40,8 +40,8 @@ struct SOptions {
 void TakeOption(SOptions& options, CArguments& arguments) {
     const std::string& name = arguments.Current();
     if (name == "--from") {
-        options.firstNumber =
-            static_cast<unsigned>(arguments.IntValue("a number from 1 to 65535", 1, kHighestTextNumber));
+        options.firstNumber = static_cast<unsigned>(
+            arguments.IntValue("a number from 1 to 65535", 1, tavrin::itemdlg::kHighestTextNumber));
     } else if (name == "--rc") {
         options.script = arguments.Value("a string table script");
     } else if (name == "--write") {

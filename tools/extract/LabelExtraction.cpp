@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t kTitleIndex = kTitleLine;
+constexpr std::size_t kTitleIndex = tavrin::itemdlg::kTitleLine;
 
 // A refusal to move a literal, in words for a note.
 struct SRefusal {
@@ -30,11 +30,11 @@ public:
     }
 
     SExtraction Run() {
-        CBlockTracker block;
+        tavrin::itemdlg::CBlockTracker block;
         const std::vector<SFileLine>& lines = m_extraction.lines;
         for (std::size_t index = 0; index < lines.size(); ++index) {
             const bool isInBlock = block.TakeLine(lines[index].text);
-            const bool isParameter = isInBlock && ParseParameterLine(lines[index].text);
+            const bool isParameter = isInBlock && tavrin::itemdlg::ParseParameterLine(lines[index].text);
             if (index != kTitleIndex && !isParameter) {
                 continue;
             }
@@ -56,7 +56,7 @@ private:
             if (end == std::wstring::npos || line.compare(end, 2, L">>") != 0) {
                 continue;
             }
-            const int number = PlaceholderNumber(line.substr(at, end + 2 - at));
+            const int number = tavrin::itemdlg::PlaceholderNumber(line.substr(at, end + 2 - at));
             if (number > 0) {
                 m_known.taken.insert(static_cast<unsigned>(number));
             }
@@ -72,10 +72,11 @@ private:
     }
 
     std::wstring MovedTitle(const std::wstring& line) {
-        if (line.empty() || PlaceholderNumber(line) != 0) {
+        if (line.empty() || tavrin::itemdlg::PlaceholderNumber(line) != 0) {
             return line;
         }
-        if (line == CBlockTracker::kOpeningLine || line == CBlockTracker::kClosingLine) {
+        if (line == tavrin::itemdlg::CBlockTracker::kOpeningLine ||
+            line == tavrin::itemdlg::CBlockTracker::kClosingLine) {
             throw SRefusal{"it is the title and bounds a block, give the file a title line"};
         }
         if (line.find(L'\0') != std::wstring::npos) {
@@ -85,17 +86,17 @@ private:
     }
 
     std::wstring MovedLabel(const std::wstring& line) {
-        const ParameterLine parameter = *ParseParameterLine(line);
-        if (PlaceholderNumber(parameter.label) != 0) {
+        const tavrin::itemdlg::ParameterLine parameter = *tavrin::itemdlg::ParseParameterLine(line);
+        if (tavrin::itemdlg::PlaceholderNumber(parameter.label) != 0) {
             return line;
         }
         std::wstring text = parameter.label;
-        const bool isMarked = TakeReadOnlyMark(text);
+        const bool isMarked = tavrin::itemdlg::TakeReadOnlyMark(text);
         if (text.empty()) {
             throw SRefusal{"its label is empty, write one"};
         }
         // Where the value holds angle brackets of its own, those would count in place of the label's.
-        if (PlaceholderNumber(WithLabel(line, parameter, L"<<1>>")) != 1) {
+        if (tavrin::itemdlg::PlaceholderNumber(WithLabel(line, parameter, L"<<1>>")) != 1) {
             throw SRefusal{"its value holds a placeholder, which OK would write into the label"};
         }
         const std::wstring number = std::to_wstring(NumberOf(text));
@@ -103,7 +104,7 @@ private:
     }
 
     // Neither the number nor the blanks before the label hold a quote.
-    static std::wstring WithLabel(std::wstring line, const ParameterLine& parameter,
+    static std::wstring WithLabel(std::wstring line, const tavrin::itemdlg::ParameterLine& parameter,
                                   const std::wstring& label) {
         return line.replace(line.find(L'"') + 1, parameter.label.size(), label);
     }
@@ -121,9 +122,10 @@ private:
         while (m_known.taken.count(m_next) != 0) {
             ++m_next;
         }
-        if (m_next > kHighestTextNumber) {
+        if (m_next > tavrin::itemdlg::kHighestTextNumber) {
             throw CToolError("there is no free number left for a text: the highest is " +
-                             std::to_string(kHighestTextNumber) + ", begin lower with --from");
+                             std::to_string(tavrin::itemdlg::kHighestTextNumber) +
+                             ", begin lower with --from");
         }
         m_known.taken.insert(m_next);
         m_known.texts[text] = m_next;

@@ -29,8 +29,8 @@ std::vector<SFileLine> SplitLines(std::string_view bytes) {
     return lines;
 }
 
-TextLines TextsOf(const std::vector<SFileLine>& lines) {
-    TextLines texts;
+tavrin::itemdlg::TextLines TextsOf(const std::vector<SFileLine>& lines) {
+    tavrin::itemdlg::TextLines texts;
     texts.reserve(lines.size());
     for (const SFileLine& line : lines) {
         texts.push_back(line.text);
@@ -47,7 +47,7 @@ std::string BytesOf(std::wstring_view text) {
     return bytes;
 }
 
-std::string WrittenFile(const TextLines& lines) {
+std::string WrittenFile(const tavrin::itemdlg::TextLines& lines) {
     std::string bytes;
     for (const std::wstring& line : lines) {
         bytes += BytesOf(line) + "\r\n";

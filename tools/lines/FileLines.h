@@ -32,10 +32,10 @@ struct SFileLine {
 // The lines of a file.
 std::vector<SFileLine> SplitLines(std::string_view bytes);
 
-TextLines TextsOf(const std::vector<SFileLine>& lines);
+tavrin::itemdlg::TextLines TextsOf(const std::vector<SFileLine>& lines);
 
 // The bytes of a text of characters up to 0xFF.
 std::string BytesOf(std::wstring_view text);
 
 // The file that the module writes: CR LF behind every line.
-std::string WrittenFile(const TextLines& lines);
+std::string WrittenFile(const tavrin::itemdlg::TextLines& lines);

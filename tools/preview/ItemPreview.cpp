@@ -17,33 +17,34 @@ std::string Quoted(const std::wstring& text) {
 
 }  // namespace
 
-CItemPreview::CItemPreview(const TextLines& workingFile, SPreviewSettings settings)
+CItemPreview::CItemPreview(const tavrin::itemdlg::TextLines& workingFile, SPreviewSettings settings)
     : m_settings(std::move(settings)),
-      m_contents(ReadItem(workingFile, m_settings.scale, m_settings.mode, m_settings.texts)) {}
+      m_contents(
+          tavrin::itemdlg::ReadItem(workingFile, m_settings.scale, m_settings.mode, m_settings.texts)) {}
 
-std::wstring CItemPreview::ValueTextOf(const ItemParameter& parameter) const {
-    const ParamRecord& record = parameter.record;
+std::wstring CItemPreview::ValueTextOf(const tavrin::itemdlg::ItemParameter& parameter) const {
+    const tavrin::itemdlg::ParamRecord& record = parameter.record;
     switch (record.type) {
         case 'D':
             return m_settings.distanceText(record.realValue);
         case 'I':
-            return IntText(record.intValue);
+            return tavrin::itemdlg::IntText(record.intValue);
         case 'R':
-            return GeneralText(record.realValue);
+            return tavrin::itemdlg::GeneralText(record.realValue);
         default:
             return {};
     }
 }
 
-ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
-    ItemParameter* found = nullptr;
+tavrin::itemdlg::ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
+    tavrin::itemdlg::ItemParameter* found = nullptr;
     bool hasParameter = false;
-    for (ItemParameter& parameter : m_contents.parameters) {
+    for (tavrin::itemdlg::ItemParameter& parameter : m_contents.parameters) {
         if (parameter.record.number != number) {
             continue;
         }
         hasParameter = true;
-        if (parameter.row != PR_SHOWN) {
+        if (parameter.row != tavrin::itemdlg::PR_SHOWN) {
             continue;
         }
         if (found != nullptr) {
@@ -61,11 +62,11 @@ ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
 }
 
 void CItemPreview::SetValue(const std::wstring& number, const std::wstring& value) {
-    ItemParameter& parameter = FindRow(number);
+    tavrin::itemdlg::ItemParameter& parameter = FindRow(number);
     if (!parameter.editable) {
         throw CToolError("parameter " + Quoted(number) + " is read-only in this mode");
     }
-    ParamRecord& record = parameter.record;
+    tavrin::itemdlg::ParamRecord& record = parameter.record;
     if (record.type == 'I') {
         const std::optional<int> whole = WholeNumber<int>(Utf8Text(value));
         if (!whole) {
@@ -84,21 +85,22 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
     record.realValue = *real;
 }
 
-TextLines CItemPreview::WorkingFileAfter(TextLines lines) const {
-    return Rewritten(std::move(lines), RewriteWorkingFile);
+tavrin::itemdlg::TextLines CItemPreview::WorkingFileAfter(tavrin::itemdlg::TextLines lines) const {
+    return Rewritten(std::move(lines), tavrin::itemdlg::RewriteWorkingFile);
 }
 
-TextLines CItemPreview::TemplateFileAfter(TextLines lines) const {
-    return Rewritten(std::move(lines), RewriteTemplateFile);
+tavrin::itemdlg::TextLines CItemPreview::TemplateFileAfter(tavrin::itemdlg::TextLines lines) const {
+    return Rewritten(std::move(lines), tavrin::itemdlg::RewriteTemplateFile);
 }
 
 // The dialog asks rows for their values. A record that has none keeps the value that it was read with.
-TextLines CItemPreview::Rewritten(TextLines lines, Rewriter rewrite) const {
-    ParamRecordMap records;
-    for (const ItemParameter& parameter : m_contents.parameters) {
+tavrin::itemdlg::TextLines CItemPreview::Rewritten(tavrin::itemdlg::TextLines lines, Rewriter rewrite) const {
+    tavrin::itemdlg::ParamRecordMap records;
+    for (const tavrin::itemdlg::ItemParameter& parameter : m_contents.parameters) {
         records[parameter.record.lineIndex] = parameter.record;
     }
-    rewrite(lines, records,
-            [this](const ParamRecord& record) { return ValueText(record, m_settings.scale); });
+    rewrite(lines, records, [this](const tavrin::itemdlg::ParamRecord& record) {
+        return tavrin::itemdlg::ValueText(record, m_settings.scale);
+    });
     return lines;
 }

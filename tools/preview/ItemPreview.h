@@ -12,18 +12,18 @@
 struct SPreviewSettings {
     double scale = 1.0;                                // between the values in the files and those shown
     int mode = 0;                                      // 1 makes marked rows read-only
-    TextLookup texts;                                  // of the resource module
+    tavrin::itemdlg::TextLookup texts;                 // of the resource module
     std::function<std::wstring(double)> distanceText;  // as the host shows a distance
 };
 
 class CItemPreview {
 public:
-    CItemPreview(const TextLines& workingFile, SPreviewSettings settings);
+    CItemPreview(const tavrin::itemdlg::TextLines& workingFile, SPreviewSettings settings);
 
-    const ItemContents& Contents() const { return m_contents; }
+    const tavrin::itemdlg::ItemContents& Contents() const { return m_contents; }
 
     // What the value column of a parameter's row shows; empty for an invalid type.
-    std::wstring ValueTextOf(const ItemParameter& parameter) const;
+    std::wstring ValueTextOf(const tavrin::itemdlg::ItemParameter& parameter) const;
 
     // Types a value, as shown, into the row of the parameter with that number: a whole number, a real number,
     // or a distance in any of the host's forms. Throws CToolError when no one row has the number, when the
@@ -31,15 +31,16 @@ public:
     void SetValue(const std::wstring& number, const std::wstring& value);
 
     // The lines of the two files as OK would leave them. The working file is the one that was read.
-    TextLines WorkingFileAfter(TextLines lines) const;
-    TextLines TemplateFileAfter(TextLines lines) const;
+    tavrin::itemdlg::TextLines WorkingFileAfter(tavrin::itemdlg::TextLines lines) const;
+    tavrin::itemdlg::TextLines TemplateFileAfter(tavrin::itemdlg::TextLines lines) const;
 
 private:
-    using Rewriter = void (*)(TextLines&, const ParamRecordMap&, const ::ValueTextOf&);
+    using Rewriter = void (*)(tavrin::itemdlg::TextLines&, const tavrin::itemdlg::ParamRecordMap&,
+                              const tavrin::itemdlg::ValueTextOf&);
 
-    ItemParameter& FindRow(const std::wstring& number);
-    TextLines Rewritten(TextLines lines, Rewriter rewrite) const;
+    tavrin::itemdlg::ItemParameter& FindRow(const std::wstring& number);
+    tavrin::itemdlg::TextLines Rewritten(tavrin::itemdlg::TextLines lines, Rewriter rewrite) const;
 
     SPreviewSettings m_settings;
-    ItemContents m_contents;
+    tavrin::itemdlg::ItemContents m_contents;
 };

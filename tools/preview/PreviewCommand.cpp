@@ -107,20 +107,20 @@ SPreviewFile ReadLines(const std::string& name) {
 SPreviewInput ReadInput(const std::string& file) {
     SPreviewInput input;
     std::string base;
-    if (const std::optional<std::string> item = WithoutEnding(file, kWorkingFileEnding)) {
+    if (const std::optional<std::string> item = WithoutEnding(file, tavrin::itemdlg::kWorkingFileEnding)) {
         base = *item;
         input.workingFile = ReadLines(file);
-        input.templateName = base + Utf8Text(kTemplateFileEnding);
+        input.templateName = base + Utf8Text(tavrin::itemdlg::kTemplateFileEnding);
         if (std::filesystem::is_regular_file(PathOf(input.templateName))) {
             input.templateFile = ReadLines(input.templateName);
         }
     } else {
-        base = WithoutEnding(file, kTemplateFileEnding).value_or(file);
+        base = WithoutEnding(file, tavrin::itemdlg::kTemplateFileEnding).value_or(file);
         input.templateName = file;
         input.templateFile = ReadLines(file);
-        input.workingFile = {base + Utf8Text(kWorkingFileEnding), input.templateFile->lines};
+        input.workingFile = {base + Utf8Text(tavrin::itemdlg::kWorkingFileEnding), input.templateFile->lines};
     }
-    const std::string picture = base + Utf8Text(kPictureEnding);
+    const std::string picture = base + Utf8Text(tavrin::itemdlg::kPictureEnding);
     if (std::filesystem::is_regular_file(PathOf(picture))) {
         input.picture = picture;
     }
@@ -128,10 +128,11 @@ SPreviewInput ReadInput(const std::string& file) {
 }
 
 // What placeholders stand for; takes down the numbers that no file has.
-TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
+tavrin::itemdlg::TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
     if (texts.Files().empty()) {
         return [](unsigned number) {
-            return number == kHeaderPrefixText ? std::wstring() : L"<<" + std::to_wstring(number) + L">>";
+            return number == tavrin::itemdlg::kHeaderPrefixText ? std::wstring()
+                                                                : L"<<" + std::to_wstring(number) + L">>";
         };
     }
     return [&texts, &missing](unsigned number) {

@@ -21,14 +21,14 @@ public:
     void TakeLine(const SItemLine& line) override {
         if (line.parameter != nullptr) {
             Add(line.parameter->placeholder);
-        } else if (line.index == kTitleLine) {
-            Add(PlaceholderNumber(line.text));
+        } else if (line.index == tavrin::itemdlg::kTitleLine) {
+            Add(tavrin::itemdlg::PlaceholderNumber(line.text));
         }
     }
 
 private:
     void Add(int number) {
-        if (number <= kHighestTextNumber) {
+        if (number <= tavrin::itemdlg::kHighestTextNumber) {
             m_numbers.set(static_cast<std::size_t>(number));
         }
     }

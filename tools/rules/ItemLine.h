@@ -10,9 +10,9 @@
 
 // A line that the reader takes for a parameter.
 struct SParameter {
-    ParameterLine parts;
-    ParamRecord record;   // at scale 1, with "<<N>>" as the text of placeholder N
-    int placeholder = 0;  // the number of the label's placeholder; 0 when it has none
+    tavrin::itemdlg::ParameterLine parts;
+    tavrin::itemdlg::ParamRecord record;  // at scale 1, with "<<N>>" as the text of placeholder N
+    int placeholder = 0;                  // the number of the label's placeholder; 0 when it has none
     std::size_t labelStart = 0;
     std::size_t letterStart = 0;
     std::size_t valueStart = 0;

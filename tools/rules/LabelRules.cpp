@@ -79,14 +79,14 @@ const std::wstring& LabelOf(const SItemLine& line) {
 }
 
 // The label that OK writes.
-std::wstring RewrittenLabel(const ParamRecord& record) {
+std::wstring RewrittenLabel(const tavrin::itemdlg::ParamRecord& record) {
     return record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" + record.labelSuffix;
 }
 
 // The line that OK writes into the template when the value stays as it is.
 std::wstring RewrittenLine(const SItemLine& line) {
-    const ParamRecord& record = line.parameter->record;
-    return TemplateFileLine(record, ValueText(record, 1.0));
+    const tavrin::itemdlg::ParamRecord& record = line.parameter->record;
+    return tavrin::itemdlg::TemplateFileLine(record, tavrin::itemdlg::ValueText(record, 1.0));
 }
 
 }  // namespace
@@ -135,7 +135,7 @@ void CLabelRules::CheckForm(const SItemLine& line) {
 }
 
 void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
-    const ParamRecord& record = line.parameter->record;
+    const tavrin::itemdlg::ParamRecord& record = line.parameter->record;
     CheckPlaceholderNumber(Findings(), line, line.parameter->labelStart + record.labelPrefix.size(), number);
     if (record.labelSuffix.find(L"<<") != std::wstring::npos &&
         record.labelPrefix.find(L">>") == std::wstring::npos) {
@@ -154,14 +154,14 @@ void CLabelRules::CheckPlaceholder(const SItemLine& line, int number) {
     } else {
         CheckRewritten(line);
     }
-    if (m_texts != nullptr && number <= kHighestTextNumber &&
+    if (m_texts != nullptr && number <= tavrin::itemdlg::kHighestTextNumber &&
         m_texts->Find(static_cast<unsigned>(number)) == nullptr) {
         ReportAtLabel(kTextUnknown, line, "there is no text " + std::to_string(number));
     }
 }
 
 void CLabelRules::CheckRewritten(const SItemLine& line) {
-    const ParamRecord& record = line.parameter->record;
+    const tavrin::itemdlg::ParamRecord& record = line.parameter->record;
     const std::wstring label = RewrittenLabel(record);
     if (label != LabelOf(line)) {
         ReportAtLabel(kLabelRewritten, line, "after the first OK the label is " + Quoted(label));
@@ -190,13 +190,14 @@ void CLabelRules::CheckMark(const SItemLine& line) {
 
 // The row with the texts of a language, as mode 1 shows it. A text that is missing, which is reported
 // elsewhere, stands as its placeholder.
-ParameterRow CLabelRules::ShownRow(const SItemLine& line, std::size_t language) const {
+tavrin::itemdlg::ParameterRow CLabelRules::ShownRow(const SItemLine& line, std::size_t language) const {
     const auto lookup = [&](unsigned number) {
         const SText* const text = m_texts->Find(number, language);
         return text != nullptr ? text->text.substr(0, CTextTable::kLongestText)
                                : L"<<" + WideNumber(static_cast<int>(number)) + L">>";
     };
-    return *ReadParameter(line.text, line.parameter->record.lineIndex, 1.0, kReadOnlyMode, lookup);
+    return *tavrin::itemdlg::ReadParameter(line.text, line.parameter->record.lineIndex, 1.0,
+                                           tavrin::itemdlg::kReadOnlyMode, lookup);
 }
 
 void CLabelRules::CheckShown(const SItemLine& line) {
@@ -204,12 +205,12 @@ void CLabelRules::CheckShown(const SItemLine& line) {
     const bool hasPlaceholder = line.parameter->placeholder != 0;
     const bool hasTexts = m_texts != nullptr && hasPlaceholder;
     // Of a text that is not known only what stands around it.
-    const ParamRecord& record = line.parameter->record;
+    const tavrin::itemdlg::ParamRecord& record = line.parameter->record;
     const std::size_t literal =
         record.labelPrefix.size() + record.labelSuffix.size() - (record.labelSuffix.ends_with(L'%') ? 1 : 0);
     SShownLabel shown;
     for (CTextIndex& labels : m_shown) {
-        ParameterRow row;
+        tavrin::itemdlg::ParameterRow row;
         if (hasTexts) {
             row = ShownRow(line, static_cast<std::size_t>(&labels - m_shown.data()));
         }

@@ -31,7 +31,7 @@ private:
     void CheckRewritten(const SItemLine& line);
     void CheckShown(const SItemLine& line);
     void ReportShown(const SItemLine& line, const SShownLabel& shown);
-    ParameterRow ShownRow(const SItemLine& line, std::size_t language) const;
+    tavrin::itemdlg::ParameterRow ShownRow(const SItemLine& line, std::size_t language) const;
     void ReportAtLabel(const SRule& rule, const SItemLine& line, std::string message);
 
     const CTextTable* m_texts;

@@ -72,7 +72,7 @@ constexpr SRepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNu
 // Whether the reader would take the line if it began with "$" where it has `signs` characters now.
 bool LacksDollar(const std::wstring& line, std::size_t signs) {
     return line.size() > signs && IsDigit(line[signs]) &&
-           ParseParameterLine(L'$' + line.substr(signs)).has_value();
+           tavrin::itemdlg::ParseParameterLine(L'$' + line.substr(signs)).has_value();
 }
 
 // Only lines that begin so were meant as parameters; all others are remarks.
@@ -97,7 +97,7 @@ bool IsAssignment(const std::wstring& line) {
         return false;
     }
     const std::wstring_view value = std::wstring_view(line).substr(end + kSign.size());
-    return value.empty() || ReadLeadingNumber(value).end == value.size();
+    return value.empty() || tavrin::itemdlg::ReadLeadingNumber(value).end == value.size();
 }
 
 void CLineRules::TakeLine(const SItemLine& line) {

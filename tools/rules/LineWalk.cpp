@@ -9,7 +9,7 @@
 
 namespace {
 
-ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
+ELineKind KindOf(const std::wstring& line, tavrin::itemdlg::CBlockTracker& block) {
     const bool wasOpen = block.IsOpen();
     const bool mayBeParameter = block.TakeLine(line);
     if (wasOpen != block.IsOpen()) {
@@ -24,7 +24,8 @@ std::wstring PlaceholderItself(unsigned number) {
 
 // False when the reader does not take the line for a parameter.
 bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
-    const std::optional<ParameterParts> parts = SplitParameterLine(line.text);
+    const std::optional<tavrin::itemdlg::ParameterParts> parts =
+        tavrin::itemdlg::SplitParameterLine(line.text);
     if (!parts) {
         return false;
     }
@@ -33,12 +34,14 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
     parameter.parts.label = parts->label;
     parameter.parts.typeLetter = parts->typeLetter;
     parameter.parts.value = parts->value;
-    ParameterRow row;
-    FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderItself, row);
+    tavrin::itemdlg::ParameterRow row;
+    tavrin::itemdlg::FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0,
+                             PlaceholderItself, row);
     parameter.record = std::move(row.record);
     // The record has the number of the line's last placeholder, be it in the value.
     const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
-    parameter.placeholder = inValue ? PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
+    parameter.placeholder =
+        inValue ? tavrin::itemdlg::PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
     // The patterns see a line up to its first null character, and the value is its end.
     const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
     parameter.valueStart = end - parameter.parts.value.size();
@@ -50,7 +53,7 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
 }  // namespace
 
 void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
-    CBlockTracker block;
+    tavrin::itemdlg::CBlockTracker block;
     SItemLine line;
     SParameter parameter;
     for (; !bytes.empty(); ++line.index) {

@@ -52,7 +52,7 @@ public:
         : m_context(context), m_item(context.templateFile), m_routine(context.routineFile) {}
 
     std::vector<SFinding> Run() {
-        const std::string picture = m_context.baseName + Utf8Text(kPictureEnding);
+        const std::string picture = m_context.baseName + Utf8Text(tavrin::itemdlg::kPictureEnding);
         if (!m_context.isThere(picture)) {
             m_item.Add(kPictureMissing, "the item's picture " + picture + " is not beside it");
         }
@@ -84,7 +84,7 @@ private:
     }
 
     void CheckPreview(const SRoutineName& name) {
-        const std::string picture = Utf8Text(name.text + kPictureEnding);
+        const std::string picture = Utf8Text(name.text + tavrin::itemdlg::kPictureEnding);
         if (!m_context.isThere(picture)) {
             AddAt(kPictureMissing, name, "the picture " + picture + " is not beside the routine");
         }
@@ -93,8 +93,8 @@ private:
     void CheckChoice(const SRoutineCall& call) {
         std::size_t count = 0;
         for (const SRoutineName& name : call.names) {
-            const std::string flat = Utf8Text(name.text + FLAT_SLIDE_ENDING);
-            const std::string inSpace = Utf8Text(name.text + SPACE_SLIDE_ENDING);
+            const std::string flat = Utf8Text(name.text + tavrin::imagedlg::kFlatSlideEnding);
+            const std::string inSpace = Utf8Text(name.text + tavrin::imagedlg::kSpaceSlideEnding);
             if (m_context.isThere(flat) || (!call.isFlatOnly && m_context.isThere(inSpace))) {
                 ++count;
                 continue;
@@ -103,10 +103,10 @@ private:
                   "the choice " + Quoted(name.text) + " has no slide " + flat +
                       (call.isFlatOnly ? "" : " or " + inSpace) + " and is left out");
         }
-        if (count > MAX_CHOICES) {
+        if (count > tavrin::imagedlg::kMaxChoices) {
             AddAt(kChoiceCount, call.names.front(),
                   std::to_string(count) + " choices have a slide; with more than " +
-                      std::to_string(MAX_CHOICES) + " the dialog closes at once");
+                      std::to_string(tavrin::imagedlg::kMaxChoices) + " the dialog closes at once");
         }
     }
 

@@ -30,7 +30,7 @@ constexpr const SRule* kRules[] = {&kPlaceholderZero, &kPlaceholderTooLarge, &kP
 // Whether the text, which the reader finds no number in, has the form of a placeholder all the same: the
 // reader finds one as soon as a digit is put into it.
 bool HasFormOfPlaceholder(const std::wstring& text, std::size_t opening) {
-    return PlaceholderNumber(std::wstring(text).insert(opening + 2, L"1")) != 0;
+    return tavrin::itemdlg::PlaceholderNumber(std::wstring(text).insert(opening + 2, L"1")) != 0;
 }
 
 }  // namespace
@@ -72,11 +72,11 @@ bool CheckPlaceholderForm(CFindingList& findings, const SItemLine& line, std::si
 }
 
 void CheckPlaceholderNumber(CFindingList& findings, const SItemLine& line, std::size_t start, int number) {
-    if (number <= kHighestTextNumber) {
+    if (number <= tavrin::itemdlg::kHighestTextNumber) {
         return;
     }
     const std::size_t end = line.text.find(L">>", start);
-    findings.Add(
-        kPlaceholderTooLarge, line, start, end + 2 - start,
-        "the placeholder comes out empty: numbers of texts end at " + std::to_string(kHighestTextNumber));
+    findings.Add(kPlaceholderTooLarge, line, start, end + 2 - start,
+                 "the placeholder comes out empty: numbers of texts end at " +
+                     std::to_string(tavrin::itemdlg::kHighestTextNumber));
 }

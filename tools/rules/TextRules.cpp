@@ -27,7 +27,7 @@ constexpr SRule kTextUnused = {"text-unused", SV_NOTE, "a text that none of the 
 constexpr const SRule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
 
 // The texts that the module itself uses.
-constexpr unsigned kModuleTexts[] = {kHeaderPrefixText, NO_SLIDE_TEXT};
+constexpr unsigned kModuleTexts[] = {tavrin::itemdlg::kHeaderPrefixText, tavrin::imagedlg::kNoSlideText};
 
 // The excerpt is the text as it was read, which in a module has no other form.
 SFinding AtText(const CTextTable& texts, const SText& text, const SRule& rule, const std::string& message) {

@@ -10,7 +10,7 @@
 RuleList TextRules();
 
 // The numbers of texts that files use.
-using TextNumbers = std::bitset<kHighestTextNumber + 1>;
+using TextNumbers = std::bitset<tavrin::itemdlg::kHighestTextNumber + 1>;
 
 // Checks the texts themselves and against the numbers that the checked files use.
 std::vector<SFinding> CheckTexts(const CTextTable& texts, const TextNumbers& used);

@@ -85,7 +85,8 @@ private:
     // The pair is compared once, with whichever of the two comes first.
     void ComparePairOf(const SItemFile& file, const std::string& bytes) {
         const std::string other =
-            file.item + Utf8Text(file.isWorkingFile ? kTemplateFileEnding : kWorkingFileEnding);
+            file.item + Utf8Text(file.isWorkingFile ? tavrin::itemdlg::kTemplateFileEnding
+                                                    : tavrin::itemdlg::kWorkingFileEnding);
         if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
             return;
         }

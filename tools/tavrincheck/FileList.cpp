@@ -15,10 +15,10 @@ namespace {
 namespace fs = std::filesystem;
 
 SItemFile ItemFileOf(const std::string& name) {
-    if (const std::optional<std::string> item = WithoutEnding(name, kWorkingFileEnding)) {
+    if (const std::optional<std::string> item = WithoutEnding(name, tavrin::itemdlg::kWorkingFileEnding)) {
         return {name, true, *item};
     }
-    return {name, false, WithoutEnding(name, kTemplateFileEnding).value_or("")};
+    return {name, false, WithoutEnding(name, tavrin::itemdlg::kTemplateFileEnding).value_or("")};
 }
 
 // A link that leads nowhere counts as a file: that it cannot be read must be said.
@@ -27,7 +27,7 @@ bool IsFile(const fs::directory_entry& entry) {
 }
 
 void AppendFolder(const std::string& folder, std::vector<std::string>& names, SFileList& list) {
-    const std::string ending = Utf8Text(kTemplateFileEnding);
+    const std::string ending = Utf8Text(tavrin::itemdlg::kTemplateFileEnding);
     std::vector<std::string> found;
     bool isRead = true;
     try {

@@ -6,6 +6,8 @@
 #include <limits>
 #include <ostream>
 
+using namespace tavrin::dyndlg;
+
 void PrintTo(const DialogRect& rect, std::ostream* out) {
     *out << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom;
 }

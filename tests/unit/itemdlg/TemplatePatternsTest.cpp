@@ -8,6 +8,7 @@
 
 #include "pattern/PatternMatcher.h"
 
+using namespace tavrin::itemdlg;
 using namespace tavrin::pattern;
 
 namespace {

@@ -9,6 +9,8 @@
 #include "itemdlg/BlockTracker.h"
 #include "tests/unit/support/FailingMemory.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 // A lookup in a fixed table that notes what it was asked for.

@@ -11,6 +11,7 @@
 #include "tests/unit/pattern/ExactText.h"
 #include "tests/unit/support/FailingMemory.h"
 
+using namespace tavrin::itemdlg;
 using namespace tavrin::pattern;
 
 namespace {

@@ -8,6 +8,8 @@
 #include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 std::string Bytes(const std::vector<SFileLine>& lines) {

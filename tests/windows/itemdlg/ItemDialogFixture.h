@@ -14,6 +14,8 @@
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
+using namespace tavrin::itemdlg;
+
 class ItemDialogFixture : public testing::Test {
 protected:
     void SetUp() override {

@@ -13,6 +13,8 @@
 #include "tools/preview/ItemPreview.h"
 #include "tools/texts/TextTable.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 constexpr int kPrecision = 4;
