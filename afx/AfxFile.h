@@ -53,7 +53,8 @@ protected:
 
 class CAfxTextCodec;
 
-// A text file, buffered in both directions.
+// A text file, buffered in both directions. An operation that throws leaves nothing in the buffer: what was
+// written before it is in the file, and closing writes nothing more.
 //
 // Line ends: CR LF and LF are read as line ends, a CR that no LF follows is a character like any other;
 // LF is written as CR LF. A line may have any length. NUL and 0x1A are characters like any other, and

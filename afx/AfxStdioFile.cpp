@@ -1,6 +1,7 @@
 // CStdioFile: lines of text.
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "afx/AfxFile.h"
 #include "afx/AfxTextCodec.h"
@@ -53,14 +54,18 @@ UINT CStdioFile::Read(void*, UINT) {
 }
 
 bool CStdioFile::FillBuffer() {
-    m_buffer.resize(bufferSize);
+    // Not in the buffer itself, which closing would write when the reading fails in a file opened for
+    // writing.
+    std::string bytes(bufferSize, '\0');
+    bytes.resize(CFile::Read(bytes.data(), bufferSize));
+    m_buffer.swap(bytes);
     m_position = 0;
-    m_buffer.resize(CFile::Read(m_buffer.data(), bufferSize));
     return !m_buffer.empty();
 }
 
 BOOL CStdioFile::ReadString(CString& line) {
     line.Empty();
+    Flush();  // of a file opened for writing, whose reading then fails
     std::string bytes;
     for (bool ended = false; !ended;) {
         if (m_position == m_buffer.size() && !FillBuffer()) {
@@ -88,6 +93,7 @@ BOOL CStdioFile::ReadString(CString& line) {
 void CStdioFile::WriteString(LPCTSTR text) {
     std::string bytes;
     if (!m_codec->Encode(text, bytes)) {
+        Flush();
         AfxThrowFileException(CFileException::genericException, ERROR_NO_UNICODE_TRANSLATION, m_strFileName);
     }
     Put(bytes.data(), bytes.size());
@@ -116,8 +122,9 @@ void CStdioFile::Flush() {
     if (!m_writing) {
         return;
     }
-    CFile::Write(m_buffer.data(), static_cast<UINT>(m_buffer.size()));
-    m_buffer.clear();
+    // Bytes that cannot be written now are not written later either.
+    const std::string bytes = std::exchange(m_buffer, {});
+    CFile::Write(bytes.data(), static_cast<UINT>(bytes.size()));
 }
 
 void CStdioFile::Close() {

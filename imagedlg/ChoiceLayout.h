@@ -16,7 +16,7 @@ inline constexpr unsigned kMaxChoices = 6;
 // What a cell shows is the index of a choice, or one of these.
 inline constexpr int kCellEmpty = -1;
 inline constexpr int kCellLogo = -2;
-// Empty for every cell when the count is 0 or above MAX_CHOICES.
+// Empty for every cell when the count is 0 or above kMaxChoices.
 int GetCellContent(unsigned count, int cell);
 
 // Whether a click selects the cell. With up to three choices that is the whole top row, even where it

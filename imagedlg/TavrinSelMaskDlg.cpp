@@ -206,11 +206,6 @@ void CTavrinSelMaskDlg::ArrangeForCount() {
         if (arrangement->replace) {
             MoveButton(m_btnReplace, *arrangement->replace);
         }
-        // With one row the buttons stand where empty cells of the other row are, which would take their
-        // clicks: the buttons must lie above.
-        for (int cell = 1; cell <= kChoiceCells; ++cell) {
-            PictureOf(cell).SetWindowPos(&wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        }
     }
     CenterWindow();
 }

@@ -29,7 +29,8 @@ EParameterRow RowOf(const ParamRecord& record, Labels& shownLabels) {
 
 }  // namespace
 
-ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup) {
+ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup,
+                      const PlaceholderLookup& placeholder) {
     ItemContents item;
     item.parameters.reserve(lines.size());  // no parameter moves: the set refers to their labels
     Labels shownLabels;
@@ -38,7 +39,7 @@ ItemContents ReadItem(const TextLines& lines, double scale, int mode, const Text
         const std::wstring& line = lines[index];
         const auto lineIndex = static_cast<std::int32_t>(index);
         if (lineIndex == kTitleLine) {
-            item.title = UpToNull(TitleText(line, lookup));
+            item.title = UpToNull(TitleText(line, lookup, placeholder));
             item.header = UpToNull(lookup(kHeaderPrefixText)) + *item.title;
         }
         if (!block.TakeLine(line)) {
@@ -46,7 +47,7 @@ ItemContents ReadItem(const TextLines& lines, double scale, int mode, const Text
         }
         if (const std::optional<ParameterParts> parts = SplitParameterLine(line)) {
             ItemParameter& parameter = item.parameters.emplace_back();
-            FillRow(*parts, line, lineIndex, scale, mode, lookup, parameter);
+            FillRow(*parts, line, lineIndex, scale, mode, lookup, parameter, placeholder);
             parameter.row = RowOf(parameter.record, shownLabels);
         }
     }

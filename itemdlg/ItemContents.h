@@ -31,6 +31,7 @@ struct ItemContents {
 
 // Reads the lines of a working file. Distances and reals are multiplied by the scale; in read-only mode
 // marked rows are read-only. Title and header end at their first null character, as windows' texts do.
-ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup);
+ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup,
+                      const PlaceholderLookup& placeholder = PlaceholderNumber);
 
 }  // namespace tavrin::itemdlg

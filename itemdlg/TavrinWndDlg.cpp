@@ -130,7 +130,8 @@ void CTavrinWndDlg::LoadTemplate() {
     }
     TextLines lines;
     const bool readWhole = ReadTextFile(*path, lines);
-    const ItemContents item = ReadItem(lines, m_scale, m_mode, Texts());
+    const auto placeholder = [this](const std::wstring& text) { return GetPlaceholderNumber(text.c_str()); };
+    const ItemContents item = ReadItem(lines, m_scale, m_mode, Texts(), placeholder);
     if (item.title) {
         m_header.SetWindowText(item.header.c_str());
         SetWindowText(item.title->c_str());

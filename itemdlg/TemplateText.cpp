@@ -62,8 +62,9 @@ std::wstring ResourceText(int number, const TextLookup& lookup) {
     return lookup(static_cast<unsigned>(number));
 }
 
-std::wstring TitleText(const std::wstring& line, const TextLookup& lookup) {
-    const int number = PlaceholderNumber(line);
+std::wstring TitleText(const std::wstring& line, const TextLookup& lookup,
+                       const PlaceholderLookup& placeholder) {
+    const int number = placeholder(line);
     return number != 0 ? ResourceText(number, lookup) : line;
 }
 
@@ -90,21 +91,17 @@ bool TakeReadOnlyMark(std::wstring& label) {
 }
 
 void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex, double scale,
-             int mode, const TextLookup& lookup, ParameterRow& row) {
+             int mode, const TextLookup& lookup, ParameterRow& row, const PlaceholderLookup& placeholder) {
     ParamRecord& record = row.record;
     record.number = parameter.number;
     record.lineIndex = lineIndex;
     // Also for a label without placeholder, which so loses its first character when it is written back.
     record.labelPrefix = LabelPrefix(parameter.label);
     record.labelSuffix = LabelSuffix(parameter.label);
-    // The number is that of the whole line: a placeholder in the value would be the last one and count. The
-    // text is that of the label's own placeholder, which else is the only one of the line.
-    const int lineNumber = PlaceholderNumber(line);
-    const bool inValue = parameter.value.find(L"<<") != std::wstring_view::npos;
-    const int number = inValue ? PlaceholderNumber(std::wstring(parameter.label)) : lineNumber;
-    if (number != 0) {
+    if (const int number = placeholder(std::wstring(parameter.label)); number != 0) {
         record.label = ResourceText(number, lookup).insert(0, record.labelPrefix).append(record.labelSuffix);
-        record.resourceId = lineNumber;
+        // The number is that of the whole line: a placeholder in the value is the last one and counts.
+        record.resourceId = placeholder(line);
     } else {
         record.label = parameter.label;
     }

@@ -59,6 +59,9 @@ std::optional<ParameterParts> SplitParameterLine(const std::wstring& line);
 // int.
 int PlaceholderNumber(const std::wstring& text);
 
+// Gives the number of a text's placeholder, 0 when it has none: PlaceholderNumber, or a caller's own rule.
+using PlaceholderLookup = std::function<int(const std::wstring& text)>;
+
 // The highest number that a text can have.
 constexpr int kHighestTextNumber = 0xFFFF;
 
@@ -68,7 +71,8 @@ std::wstring ResourceText(int number, const TextLookup& lookup);
 
 // The title that a line stands for: the text that its placeholder names, in place of the whole line, or the
 // line itself.
-std::wstring TitleText(const std::wstring& line, const TextLookup& lookup);
+std::wstring TitleText(const std::wstring& line, const TextLookup& lookup,
+                       const PlaceholderLookup& placeholder = PlaceholderNumber);
 
 // The parts of a label around its placeholder, as views into it, to put the label together again: what stands
 // before the first "<<" (nothing when there is none), and the last (length - position of the first ">>" - 2)
@@ -93,7 +97,8 @@ constexpr int kReadOnlyMode = 1;
 // multiplied by the scale. Left to the caller: the warning for a record of type 'U', which gets no row, and
 // the row in the grid with its customItem and itemId.
 void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int32_t lineIndex, double scale,
-             int mode, const TextLookup& lookup, ParameterRow& row);
+             int mode, const TextLookup& lookup, ParameterRow& row,
+             const PlaceholderLookup& placeholder = PlaceholderNumber);
 
 // The same from the line alone; nothing when it is no parameter.
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,

@@ -222,7 +222,7 @@
   (draw-line tip (polar tip (- way 0.4) size)))
 
 ; A dimension to the right, at the height Y: a line with a tick at each end, the length above it in the
-; drawing's units.
+; drawing's units. The text may be longer than the line: it stays clear of the ticks, too.
 (defun item-dimension-x (origin x1 x2 y height / text tick)
   (setq text (rtos (- x2 x1))
         tick (* 0.5 height))
@@ -231,7 +231,7 @@
     (item-line origin (- x tick) (- y tick) (+ x tick) (+ y tick)))
   (item-text origin
              (- (* 0.5 (+ x1 x2)) (* 0.3 height (strlen text)))
-             (+ y tick)
+             (+ y tick (* 0.3 height))
              height text))
 
 ; A dimension upwards, at X; its text reads from below.
@@ -242,6 +242,6 @@
   (foreach y (list y1 y2)
     (item-line origin (- x tick) (- y tick) (+ x tick) (+ y tick)))
   (draw-text (item-at origin
-                      (- x tick)
+                      (- x tick (* 0.3 height))
                       (- (* 0.5 (+ y1 y2)) (* 0.3 height (strlen text))))
              height (* 0.5 item-pi) text))

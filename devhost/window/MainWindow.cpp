@@ -18,6 +18,8 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"DevHostMain";
 constexpr wchar_t kTitle[] = L"DevHost";
+constexpr wchar_t kIdleHint[] = L"Wheel: zoom. Middle button: pan, twice: fit.";
+constexpr wchar_t kRunningHint[] = L"Running. Escape stops it.";
 
 // Pixels.
 constexpr int kWidth = 1100;
@@ -66,7 +68,7 @@ CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m
         DestroyWindow(m_window);
         throw;
     }
-    ShowIdlePrompt();
+    ShowOwnPrompt();
 }
 
 CMainWindow::~CMainWindow() {
@@ -108,9 +110,9 @@ void CMainWindow::SetBusy(bool busy) {
     EnableWindow(m_prompt, m_busy == 0);
     if (m_busy == 0) {
         m_isEscapePressed = false;
-        ShowIdlePrompt();
+        ShowOwnPrompt();
     } else if (m_busy == 1) {
-        m_status->ShowText(L"Running. Escape stops it.");
+        m_status->ShowText(kRunningHint);
     }
     Focus();
 }
@@ -267,7 +269,6 @@ void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint
     Layout();
 }
 
-void CMainWindow::ShowIdlePrompt() {
-    ShowPrompt(L"LISP", L"Wheel: zoom. Middle button: pan, twice: fit.",
-               L"for example (tavrinwnd \"door\" 1.0 1)");
+void CMainWindow::ShowOwnPrompt() {
+    ShowPrompt(L"LISP", m_busy == 0 ? kIdleHint : kRunningHint, L"for example (tavrinwnd \"door\" 1.0 1)");
 }

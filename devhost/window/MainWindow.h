@@ -106,7 +106,8 @@ private:
     void Focus();
     // Beside the prompt, in the status line, and in the prompt as long as it is empty.
     void ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example);
-    void ShowIdlePrompt();
+    // What stands there when nothing is being asked.
+    void ShowOwnPrompt();
 
     // MainWindowLayout.cpp
     void CreateControls();

@@ -68,7 +68,7 @@ CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, E
     AddOutput(std::wstring(prompt) + ShownAnswer());
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, m_busy == 0);
-    ShowIdlePrompt();
+    ShowOwnPrompt();
     Focus();
     return m_answer;
 }

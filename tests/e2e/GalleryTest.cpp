@@ -1,7 +1,6 @@
 // Every kind of value of the property grid, edited with a real mouse and keyboard; and the grid as a control
 // of a dialog.
 #include <cstdlib>
-#include <random>
 
 #include "tests/e2e/GalleryWindow.h"
 
@@ -289,10 +288,10 @@ TEST_F(Gallery, OkWhileAnEditIsOpenTakesTheTextOnce) {
     EXPECT_EQ(Changes(), std::vector<std::string>{"Name = Ash door"});
 }
 
-// GALLERY_SEED repeats a run, GALLERY_EVENTS makes it longer.
+// GALLERY_SEED takes other events than the usual ones, GALLERY_EVENTS more.
 TEST_F(Gallery, ThousandsOfRandomEventsLeaveNothingBehind) {
     const char* const givenSeed = std::getenv("GALLERY_SEED");
-    const std::string seed = givenSeed != nullptr ? givenSeed : std::to_string(std::random_device()());
+    const std::string seed = givenSeed != nullptr ? givenSeed : "1";
     const char* const givenEvents = std::getenv("GALLERY_EVENTS");
     const std::string events = givenEvents != nullptr ? givenEvents : "3000";
     RecordProperty("seed", seed);

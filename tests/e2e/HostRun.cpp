@@ -114,7 +114,8 @@ void HostRun::Tell() const {
     const bool runs = m_process > 0 && waitpid(m_process, &status, WNOHANG) == 0;
     std::cout << m_program.filename().string() << (runs ? " still runs" : " has ended");
     if (m_process > 0 && !runs) {
-        std::cout << " with wait status " << status;
+        std::cout << (WIFEXITED(status) ? " with status " : " by signal ")
+                  << (WIFEXITED(status) ? WEXITSTATUS(status) : WTERMSIG(status));
     }
     std::cout << "\nits output: " << Output() << "\nits errors: " << Errors() << std::endl;
 }

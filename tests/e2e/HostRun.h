@@ -33,6 +33,9 @@ public:
     // Waits for the end. The exit status, or -1 when it does not end within `seconds`.
     int Wait(int seconds = 60);
 
+    // The process that was started and has not been waited for, -1 without one.
+    pid_t Process() const { return m_process; }
+
     // What LISP was answered: the first line of the output.
     std::string Answer() const;
 

@@ -2,9 +2,30 @@
 #include <cmath>
 #include <numbers>
 
+#include "devhost/drawing/Outline.h"
 #include "tests/unit/samples/ItemRoutine.h"
 
 namespace {
+
+// A point as it is seen from a text: along its base line and up from there.
+SPoint SeenFrom(const SText& text, SPoint point) {
+    const double x = point.x - text.place.x, y = point.y - text.place.y;
+    const double cosine = std::cos(text.angle), sine = std::sin(text.angle);
+    return {x * cosine + y * sine, y * cosine - x * sine};
+}
+
+// Whether a line of the entity crosses or touches the letters, whose width is an estimate.
+bool Touches(const CEntity& entity, const SText& text) {
+    constexpr double kLetterWidth = 0.8;  // of the height of a capital
+    const SBox letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
+    const std::vector<SPoint> points = OutlineOf(entity, 1);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        if (Clip({SeenFrom(text, points[i - 1]), SeenFrom(text, points[i])}, letters)) {
+            return true;
+        }
+    }
+    return false;
+}
 
 TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
     typed = {{1, "812.5"}, {2, "2012"}, {9, "60"}};
@@ -17,6 +38,22 @@ TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
         }
     }
     EXPECT_TRUE(HasText(L"812.50"));
+}
+
+TEST_F(ItemRoutine, NoLineOfADrawingTouchesAText) {
+    for (const SItem& item : SampleItems()) {
+        for (const std::string& variant : item.variants) {
+            ASSERT_TRUE(Make(item.name, variant));
+            for (const CEntity& entity : drawing.Entities()) {
+                for (const CEntity& other : drawing.Entities()) {
+                    const auto* text = std::get_if<SText>(&other);
+                    EXPECT_FALSE(text != nullptr && Touches(entity, *text))
+                        << item.name << ' ' << variant << ": "
+                        << std::string(text->text.begin(), text->text.end());
+                }
+            }
+        }
+    }
 }
 
 TEST_F(ItemRoutine, ADoorHasAsManyLeavesAsItsVariantAsksFor) {

@@ -121,6 +121,25 @@ TEST(Checker, AnOpenBlockWithoutParametersIsBothOpenAndEmpty) {
               (PlaceList{"3:1 block-unclosed", "3:1 block-empty"}));
 }
 
+// A misspelt END_VAR excuses the next VAR, and that one alone; a right END_VAR ends it, too.
+TEST(Checker, AMisspeltClosingLineExcusesOneOpeningLine) {
+    const std::string parameter = "$1 = \"<<1501>>\"D 9\n";
+    EXPECT_EQ(Checked(parameter + "end_var\nVAR\nVAR\n"),
+              (PlaceList{"5:1 block-line-misspelt", "7:1 block-nested"}));
+    EXPECT_EQ(Checked(parameter + "end_var\nEND_VAR\nVAR\n$2 = \"<<1502>>\"D 9\nVAR\n"),
+              (PlaceList{"5:1 block-line-misspelt", "9:1 block-nested"}));
+    EXPECT_EQ(Places(CheckText(
+                  "Shelf\n<<2001>>\nVAR\n" + parameter + "end_var\nEND_VAR\nVAR\n$2 = \"<<1502>>\"D 9\n",
+                  SCheckContext())),
+              (PlaceList{"5:1 block-line-misspelt", "7:1 block-unclosed"}));
+}
+
+TEST(Checker, ADecimalCommaStandsDirectlyBehindItsNumber) {
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"D 5,3\n"), PlaceList{"4:19 value-comma"});
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"D 5 ,3\n"), PlaceList{"4:20 value-trailing-text"});
+    EXPECT_EQ(Checked("$1 = \"<<1501>>\"D ,3\n"), PlaceList{"4:18 value-no-number"});
+}
+
 TEST(Checker, SignsInOrdinaryTextAreNoPlaceholder) {
     EXPECT_EQ(Checked("$1 = \"a < 3 mm, b > c\"D 9\n"), PlaceList{"4:7 label-no-placeholder"});
     EXPECT_EQ(Checked("$1 = \"3 > 2\"D 9\n"), PlaceList{"4:7 label-no-placeholder"});

@@ -196,8 +196,32 @@ TEST_F(StdioFile, ThrowsWhatKeepsItFromReading) {
     file.Abort();
 }
 
+// A handle whose first write fails, as on a disk that is full for a moment.
+TEST_F(StdioFile, ClosingWritesNothingOfAFailedWrite) {
+    CStdioFile file;
+    OpenForFailingWrites(file);
+    file.WriteString(L"before");
+    EXPECT_THROW(file.WriteString(CString(L'x', 100000)), CFileException*);
+    CloseHandle(file.m_hFile);
+    file.m_hFile =
+        CreateFile(m_folder.Path(L"out.txt").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    file.Close();
+    EXPECT_EQ(m_folder.Read(L"out.txt"), "");
+}
+
+TEST_F(StdioFile, AFileOpenedForWritingIsNotReadAndKeepsItsText) {
+    CStdioFile file(m_folder.Path(L"out.txt").c_str(), CFile::modeCreate | CFile::modeWrite);
+    file.WriteString(L"text\n");
+    CString line;
+    EXPECT_THROW(file.ReadString(line), CFileException*);
+    EXPECT_EQ(file.GetLength(), 6u) << "nothing is left to be written";
+    file.Close();
+    EXPECT_EQ(m_folder.Read(L"out.txt"), "text\r\n");
+}
+
 TEST_F(StdioFile, RefusesACharacterThatTheLocaleCannotExpress) {
     CStdioFile file(m_folder.Path(L"out.txt").c_str(), CFile::modeCreate | CFile::modeWrite);
+    file.WriteString(L"b");
     try {
         file.WriteString(L"a\u20ACb");
         FAIL() << "written";
@@ -205,9 +229,10 @@ TEST_F(StdioFile, RefusesACharacterThatTheLocaleCannotExpress) {
         EXPECT_EQ(error->m_lOsError, ERROR_NO_UNICODE_TRANSLATION);
         error->Delete();
     }
+    EXPECT_EQ(file.GetLength(), 1u) << "what was written before is in the file";
     file.WriteString(L"c");
     file.Close();
-    EXPECT_EQ(m_folder.Read(L"out.txt"), "c");
+    EXPECT_EQ(m_folder.Read(L"out.txt"), "bc");
 }
 
 TEST_F(StdioFile, AbandonsWhatIsBufferedOnAbort) {

@@ -75,6 +75,20 @@ TEST_F(Ask, WhileBusyThePromptTakesAnswersAndIsClosedAgain) {
     m_window.SetBusy(false);
 }
 
+TEST_F(Ask, AfterAnAnswerTheStatusLineSaysAgainWhetherSomethingRuns) {
+    m_window.SetBusy(true);
+    const std::wstring running = TextOf(Part(IDC_STATUS));
+    PostLine(L"1,2");
+    AskPoint();
+    EXPECT_EQ(TextOf(Part(IDC_STATUS)), running);
+    m_window.SetBusy(false);
+    const std::wstring idle = TextOf(Part(IDC_STATUS));
+    EXPECT_NE(idle, running);
+    PostLine(L"1,2");
+    AskPoint();
+    EXPECT_EQ(TextOf(Part(IDC_STATUS)), idle);
+}
+
 TEST_F(Ask, AnswersDoNotReachTheCommandHandler) {
     int commands = 0;
     m_window.SetCommandHandler([&](const std::wstring&) { ++commands; });

@@ -1,5 +1,9 @@
 // The prompt, what it remembers, and the list of outputs.
+#include <windows.h>
 #include "devhost/window/PromptHistory.h"
+
+#include <commctrl.h>
+
 #include "tests/windows/devwindow/WindowFixture.h"
 
 namespace {
@@ -104,6 +108,25 @@ TEST(PromptHistory, KeepsTheLatestLinesAlone) {
         shown = history.Older(shown);
     }
     EXPECT_EQ(shown, L"100");
+}
+
+TEST_F(PromptRow, StaysInSightWithTheStatusLineInTheSmallestWindow) {
+    SetWindowPos(m_window.Handle(), nullptr, 0, 0, 250, 200, SWP_NOMOVE | SWP_NOZORDER);
+    RECT client;
+    GetClientRect(m_window.Handle(), &client);
+    for (const EControl part : {IDC_DRAWING, IDC_OUTPUT, IDC_LABEL, IDC_PROMPT, IDC_STATUS}) {
+        RECT place;
+        GetWindowRect(Part(part), &place);
+        MapWindowPoints(nullptr, m_window.Handle(), reinterpret_cast<POINT*>(&place), 2);
+        EXPECT_GT(place.right - place.left, 30) << part;
+        EXPECT_GT(place.bottom - place.top, 10) << part;
+        EXPECT_LE(place.right, client.right) << part;
+        EXPECT_LE(place.bottom, client.bottom) << part;
+    }
+    // Each part of the status line shows at least its first words.
+    int ends[4] = {};
+    ASSERT_EQ(SendMessageW(Part(IDC_STATUS), SB_GETPARTS, 4, reinterpret_cast<LPARAM>(ends)), 4);
+    EXPECT_GT(ends[0], 30);
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 
 #include "tests/windows/imagedlg/ChoiceFixture.h"
 #include "tests/windows/support/DialogInput.h"
+#include "tests/windows/support/ImportHook.h"
+
+extern "C" HGDIOBJ(WINAPI* __imp_SelectObject)(HDC dc, HGDIOBJ object);
 
 namespace {
 
@@ -136,6 +139,35 @@ TEST_F(ChoiceFrames, NeverRunOverAButton) {
             }
         });
     }
+}
+
+// Selections of pens: the one selected at last must be the one that was there at first.
+struct PenSelections {
+    int count = 0;
+    HGDIOBJ first = nullptr;
+    HGDIOBJ last = nullptr;
+};
+PenSelections penSelections;
+
+TEST_F(ChoiceFrames, GiveTheDeviceContextItsPenBack) {
+    static decltype(__imp_SelectObject) system;
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        penSelections = {};
+        system = __imp_SelectObject;
+        const CImportHook select(
+            __imp_SelectObject, +[](HDC dc, HGDIOBJ object) WINAPI {
+                const HGDIOBJ previous = system(dc, object);
+                if (::GetObjectType(object) == OBJ_PEN) {
+                    penSelections.first = penSelections.count == 0 ? previous : penSelections.first;
+                    penSelections.last = object;
+                    ++penSelections.count;
+                }
+                return previous;
+            });
+        dialog.PaintFrames();
+    });
+    EXPECT_GT(penSelections.count, 1);
+    EXPECT_EQ(penSelections.last, penSelections.first);
 }
 
 }  // namespace

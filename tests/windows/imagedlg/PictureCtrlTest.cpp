@@ -93,6 +93,16 @@ TEST_F(PictureCtrl, StretchesThePictureOverTheWholeCell) {
     }
 }
 
+// In a cell of the picture's own size nothing is softened: the outermost pixels have the picture's colour.
+TEST_F(PictureCtrl, FillsTheCellToItsLastRowAndColumn) {
+    m_folder.Write(L"square.bmp", Red());
+    CPictureCtrl picture;
+    Bind(picture, {10, 10, 74, 74});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"square.bmp").c_str()));
+    PumpMessages();
+    EXPECT_EQ(CClientPixels(picture).Count({0, 0, 64, 64}, red), 64 * 64);
+}
+
 TEST_F(PictureCtrl, DrawsAPngAgainOnEveryPaint) {
     CPictureCtrl picture;
     Bind(picture, {0, 0, 300, 200});

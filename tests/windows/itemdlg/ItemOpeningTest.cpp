@@ -146,4 +146,34 @@ TEST_F(ItemOpening, OnlyTheHeadersDeviceContextIsChanged) {
     Run();
 }
 
+// A dialog whose placeholders are other numbers than those that the files say.
+class CRenumberedDlg : public CTavrinWndDlg {
+public:
+    using CTavrinWndDlg::CTavrinWndDlg;
+    int GetPlaceholderNumber(CString line) override {
+        const int number = CTavrinWndDlg::GetPlaceholderNumber(line);
+        return number == 0 ? 0 : number + 1;
+    }
+    CString LoadResString(CString& out, unsigned id) override {
+        out.Format(L"text %u", id);
+        return out;
+    }
+};
+
+TEST_F(ItemOpening, PlaceholdersAreFoundByTheDialogsOwnOperation) {
+    folder.Write(L"item_TMP.TXT", "first line\n<<2001>>\nVAR\n$1 = \"(<<1501>>)\"R 1\n$2 = \"<<0>>\"R 2\n");
+    std::wstring rows, title;
+    InDialog(
+        [&](HWND window, CPropertyGrid& grid) {
+            rows = Rows(grid);
+            title = TextOf(window);
+        },
+        IDCANCEL);
+    CRenumberedDlg dialog;
+    dialog.SetArguments(L"item", 1.0, 0);
+    dialog.DoModal();
+    EXPECT_EQ(title, L"text 2002");
+    EXPECT_EQ(rows, L"(text 1502) = 1 *\n<<0>> = 2 *\n");
+}
+
 }  // namespace

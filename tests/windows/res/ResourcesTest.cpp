@@ -2,71 +2,75 @@
 #include <windows.h>
 
 #include <cstring>
+#include <cwchar>
+#include <iterator>
 #include <string>
-#include <vector>
 
 #include "res/resource.h"
 
 namespace {
 
-// What an extended dialog template says of the dialog and of each control.
-struct DialogControl {
-    unsigned id;
-    std::wstring className;
-    std::wstring text;
-    int x, y, width, height;
-    unsigned style;
-};
-
-struct Dialog {
-    unsigned style = 0;
-    int width = 0, height = 0;
-    std::wstring caption, face;
-    int points = 0;
-    std::vector<DialogControl> controls;
-};
-
+// An extended dialog template as text: a line for the dialog, one for its font, one for each control. Styles
+// are in hexadecimal digits, the extended one in brackets; a class is its name, or "#N" for an ordinal.
 class CTemplateReader {
 public:
-    explicit CTemplateReader(int id) {
-        const HRSRC resource = FindResourceW(nullptr, MAKEINTRESOURCEW(id), RT_DIALOG);
+    CTemplateReader(int id, LANGID language) {
+        const HRSRC resource = FindResourceExW(nullptr, RT_DIALOG, MAKEINTRESOURCEW(id), language);
         m_start = m_next = static_cast<const BYTE*>(LockResource(LoadResource(nullptr, resource)));
     }
 
-    Dialog Read() {
-        Dialog dialog;
-        m_next += 12;  // version, signature, help id, extended style
-        dialog.style = Take<DWORD>();
-        const int count = Take<WORD>();
-        m_next += 4;  // position
-        dialog.width = Take<short>();
-        dialog.height = Take<short>();
-        Name();  // menu
-        Name();  // class
-        dialog.caption = Name();
-        dialog.points = Take<WORD>();
-        m_next += 4;  // weight, italic, character set
-        dialog.face = Name();
-        for (int index = 0; index < count; ++index) {
-            dialog.controls.push_back(ReadControl());
+    std::wstring Read() {
+        if (m_start == nullptr) {
+            return L"none in this language";
         }
-        return dialog;
+        m_next += 8;  // version, signature, help id
+        const std::wstring style = Style();
+        const int count = Take<WORD>();
+        const std::wstring area = Area();
+        std::wstring text = area + style;
+        text += L" menu '" + Name();
+        text += L"' class '" + Name();
+        text += L"' '" + Name() + L"'\n";
+        text += Number<WORD>() + L" points";
+        text += L", weight " + Number<WORD>();
+        text += L", italic " + Number<BYTE>();
+        text += L", character set " + Number<BYTE>();
+        text += L", " + Name() + L"\n";
+        for (int index = 0; index < count; ++index) {
+            text += ReadControl();
+        }
+        return text;
     }
 
 private:
-    DialogControl ReadControl() {
-        m_next += (4 - (m_next - m_start) % 4) % 4 + 8;  // to a 4-byte boundary; help id, extended style
-        DialogControl control = {};
-        control.style = Take<DWORD>();
-        control.x = Take<short>();
-        control.y = Take<short>();
-        control.width = Take<short>();
-        control.height = Take<short>();
-        control.id = Take<DWORD>();
-        control.className = Name();
-        control.text = Name();
+    std::wstring ReadControl() {
+        m_next += (4 - (m_next - m_start) % 4) % 4 + 4;  // to a 4-byte boundary; help id
+        const std::wstring style = Style();
+        const std::wstring area = Area();
+        std::wstring text = Number<DWORD>() + L": " + area + style;
+        text += L" " + Name();
+        text += L" '" + Name() + L"'\n";
         m_next += Take<WORD>();
-        return control;
+        return text;
+    }
+
+    std::wstring Style() {
+        const auto extended = Take<DWORD>(), style = Take<DWORD>();
+        wchar_t text[40];
+        std::swprintf(text, std::size(text), L" %08lX (%lX)", style, extended);
+        return text;
+    }
+    std::wstring Area() {
+        std::wstring text;
+        for (int number = 0; number < 4; ++number) {
+            text += (number == 0 ? L"" : L" ") + Number<short>();
+        }
+        return text;
+    }
+
+    template <typename T>
+    std::wstring Number() {
+        return std::to_wstring(Take<T>());
     }
 
     template <typename T>
@@ -77,7 +81,6 @@ private:
         return value;
     }
 
-    // A text, or "#N" for an ordinal.
     std::wstring Name() {
         std::wstring name;
         for (WORD unit = Take<WORD>(); unit != 0; unit = Take<WORD>()) {
@@ -93,68 +96,55 @@ private:
     const BYTE* m_next;
 };
 
-void ExpectControl(const DialogControl& control, unsigned id, const std::wstring& text, int x, int y,
-                   int width, int height) {
-    EXPECT_EQ(control.id, id);
-    EXPECT_EQ(control.text, text) << id;
-    EXPECT_EQ(control.x, x) << id;
-    EXPECT_EQ(control.y, y) << id;
-    EXPECT_EQ(control.width, width) << id;
-    EXPECT_EQ(control.height, height) << id;
+std::wstring ReadDialog(int id) {
+    return CTemplateReader(id, MAKELANGID(LANG_ITALIAN, SUBLANG_ITALIAN)).Read();
 }
 
-TEST(Resources, TheItemDialogHasItsLayout) {
-    const Dialog dialog = CTemplateReader(IDD_ITEM).Read();
-    EXPECT_EQ(dialog.caption, L"Item - Property");
-    EXPECT_EQ(dialog.face, L"Microsoft Sans Serif");
-    EXPECT_EQ(dialog.points, 8);
-    EXPECT_EQ(dialog.width, 645);
-    EXPECT_EQ(dialog.height, 290);
-    EXPECT_EQ(dialog.style, WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME | DS_SETFONT);
-    ASSERT_EQ(dialog.controls.size(), 5U);
-    ExpectControl(dialog.controls[0], 1, L"OK", 539, 272, 50, 14);
-    ExpectControl(dialog.controls[1], 2, L"Cancel", 591, 272, 50, 14);
-    ExpectControl(dialog.controls[2], 100, L"", 453, 18, 192, 252);
-    ExpectControl(dialog.controls[3], 101, L"", 0, 0, 453, 290);
-    ExpectControl(dialog.controls[4], 102, L"  Parametri", 453, 0, 192, 18);
-    EXPECT_EQ(dialog.controls[0].style & 0xFU, BS_DEFPUSHBUTTON);
-    EXPECT_NE(dialog.controls[0].style & WS_TABSTOP, 0U);
-    EXPECT_NE(dialog.controls[1].style & WS_TABSTOP, 0U);
-    EXPECT_EQ(dialog.controls[2].style & 0x1FFU, SS_BLACKFRAME | SS_NOTIFY);
-    EXPECT_NE(dialog.controls[3].style & WS_GROUP, 0U);
-    EXPECT_EQ(dialog.controls[4].style & 0x1FU, SS_LEFTNOWORDWRAP);
+BOOL CALLBACK CountLanguage(HMODULE, LPCWSTR, LPCWSTR, WORD, LONG_PTR count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
 }
 
-TEST(Resources, TheChoiceDialogHasItsLayout) {
-    const Dialog dialog = CTemplateReader(IDD_CHOICE).Read();
-    EXPECT_EQ(dialog.caption, L"");
-    EXPECT_EQ(dialog.face, L"MS Shell Dlg");
-    EXPECT_EQ(dialog.style, 0x80C800C8U);
-    EXPECT_EQ(dialog.width, 710);
-    EXPECT_EQ(dialog.height, 329);
-    ASSERT_EQ(dialog.controls.size(), 9U);
-    const int left[] = {4, 240, 475};
-    for (unsigned cell = 0; cell < 6; ++cell) {
-        const bool top = cell < 3;
-        ExpectControl(dialog.controls[cell], 104 + cell, L"Static", left[cell % 3], top ? 4 : 159, 229,
-                      top ? 146 : 148);
-        EXPECT_EQ(dialog.controls[cell].style, 0x50020100U);
+TEST(Resources, TheItemDialogIsAsItWasDrawn) {
+    EXPECT_EQ(ReadDialog(IDD_ITEM),
+              L"0 0 645 290 80C800C0 (0) menu '' class '' 'Item - Property'\n"
+              L"8 points, weight 400, italic 0, character set 0, Microsoft Sans Serif\n"
+              L"1: 539 272 50 14 50010001 (0) #128 'OK'\n"
+              L"2: 591 272 50 14 50010000 (0) #128 'Cancel'\n"
+              L"100: 453 18 192 252 50000107 (0) STATIC ''\n"
+              L"101: 0 0 453 290 50020000 (0) STATIC ''\n"
+              L"102: 453 0 192 18 5000000C (0) STATIC '  Parametri'\n");
+}
+
+TEST(Resources, TheChoiceDialogIsAsItWasDrawn) {
+    EXPECT_EQ(ReadDialog(IDD_CHOICE),
+              L"0 0 710 329 80C800C8 (0) menu '' class '' ''\n"
+              L"8 points, weight 400, italic 0, character set 1, MS Shell Dlg\n"
+              L"1: 594 312 50 14 50010001 (0) #128 'OK'\n"
+              L"2: 653 312 50 14 50010000 (0) #128 'Cancel'\n"
+              L"112: 92 312 53 14 40010000 (0) BUTTON 'Replace'\n"
+              L"104: 4 4 229 146 50020100 (0) STATIC 'Static'\n"
+              L"105: 240 4 229 146 50020100 (0) STATIC 'Static'\n"
+              L"106: 475 4 229 146 50020100 (0) STATIC 'Static'\n"
+              L"107: 4 159 229 148 50020100 (0) STATIC 'Static'\n"
+              L"108: 240 159 229 148 50020100 (0) STATIC 'Static'\n"
+              L"109: 475 159 229 148 50020100 (0) STATIC 'Static'\n");
+}
+
+TEST(Resources, ThePreviewDialogIsAsItWasDrawn) {
+    EXPECT_EQ(ReadDialog(IDD_PREVIEW),
+              L"0 0 467 304 80C800C8 (0) menu '' class '' ''\n"
+              L"8 points, weight 400, italic 0, character set 1, MS Shell Dlg\n"
+              L"114: 7 7 453 290 50020000 (0) STATIC ''\n");
+}
+
+TEST(Resources, TheDialogsAreInItalianAlone) {
+    for (const int id : {IDD_ITEM, IDD_CHOICE, IDD_PREVIEW}) {
+        int languages = 0;
+        EnumResourceLanguagesW(nullptr, RT_DIALOG, MAKEINTRESOURCEW(id), CountLanguage,
+                               reinterpret_cast<LONG_PTR>(&languages));
+        EXPECT_EQ(languages, 1) << id;
     }
-    ExpectControl(dialog.controls[6], 1, L"OK", 594, 312, 50, 14);
-    ExpectControl(dialog.controls[7], 2, L"Cancel", 653, 312, 50, 14);
-    ExpectControl(dialog.controls[8], 112, L"Replace", 92, 312, 53, 14);
-    EXPECT_EQ(dialog.controls[8].style, 0x40010000U);
-}
-
-TEST(Resources, ThePreviewDialogHasItsLayout) {
-    const Dialog dialog = CTemplateReader(IDD_PREVIEW).Read();
-    EXPECT_EQ(dialog.caption, L"");
-    EXPECT_EQ(dialog.style, 0x80C800C8U);
-    EXPECT_EQ(dialog.width, 467);
-    EXPECT_EQ(dialog.height, 304);
-    ASSERT_EQ(dialog.controls.size(), 1U);
-    ExpectControl(dialog.controls[0], 114, L"", 7, 7, 453, 290);
-    EXPECT_EQ(dialog.controls[0].style, 0x50020000U);
 }
 
 TEST(Resources, TheModuleHasAName) {

@@ -13,7 +13,11 @@ namespace {
 
 class TextLibrary : public testing::Test {
 protected:
-    void SetUp() override { OfferTextModule(); }
+    void SetUp() override {
+        OfferTextModule();
+        // Whatever an earlier test left there.
+        AfxSetResourceHandle(GetModuleHandleW(nullptr));
+    }
     void TearDown() override { TakeTextModuleAway(); }
     CTextLibrary m_texts;
 };
@@ -78,9 +82,8 @@ TEST_F(TextLibrary, KeepsCharactersOutsideAscii) {
 }
 
 TEST_F(TextLibrary, RestoresTheModulesOwnResources) {
-    const HINSTANCE before = AfxGetResourceHandle();
-    m_texts.Load(2001);
-    EXPECT_EQ(AfxGetResourceHandle(), before);
+    EXPECT_EQ(m_texts.Load(2001), CString(L"Porta a battente"));
+    EXPECT_EQ(AfxGetResourceHandle(), GetModuleHandleW(nullptr));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// main() of the window tests: binds the host interface to this program's own exports and ends a test that
-// hangs, naming it.
+// main() of the window tests: binds the host interface to this program's own exports, closes message boxes
+// that no test expects, and ends a test that hangs, naming it.
 #include <gtest/gtest.h>
 #include <objbase.h>
 #include <windows.h>
@@ -8,10 +8,12 @@
 #include <cstdio>
 
 #include "sds/HostBinding.h"
+#include "tests/windows/support/UnexpectedBoxes.h"
 
 namespace {
 
 constexpr DWORD secondsPerTest = 120;
+constexpr DWORD secondsPerBox = 10;
 constexpr UINT statusHung = 4;
 constexpr UINT statusCrashed = 5;
 
@@ -37,11 +39,16 @@ LONG WINAPI EndCrashed(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
-DWORD WINAPI Watch(void*) {
+DWORD WINAPI Watch(void* thread) {
+    CUnexpectedBoxes boxes(secondsPerBox * 1000);
     for (;;) {
         Sleep(500);
         const ULONGLONG started = testStarted;
-        if (started == 0 || GetTickCount64() - started < secondsPerTest * 1000) {
+        if (started == 0) {
+            continue;
+        }
+        boxes.Look(static_cast<DWORD>(reinterpret_cast<ULONG_PTR>(thread)));
+        if (GetTickCount64() - started < secondsPerTest * 1000) {
             continue;
         }
         wchar_t title[200] = {};
@@ -65,7 +72,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     const HRESULT com = CoInitialize(nullptr);
-    CloseHandle(CreateThread(nullptr, 0, Watch, nullptr, 0, nullptr));
+    CloseHandle(CreateThread(nullptr, 0, Watch, reinterpret_cast<void*>(ULONG_PTR(GetCurrentThreadId())), 0,
+                             nullptr));
     const int result = RUN_ALL_TESTS();
     if (SUCCEEDED(com)) {
         CoUninitialize();
