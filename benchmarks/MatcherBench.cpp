@@ -8,6 +8,7 @@
 #include "benchmarks/BenchTable.h"
 #include "benchmarks/Matcher.h"
 #include "benchmarks/MatcherCorpus.h"
+#include "benchmarks/PeerPatterns.h"
 #include "itemdlg/TemplatePatterns.h"
 
 using namespace tavrin::itemdlg;
@@ -15,8 +16,8 @@ using namespace tavrin::itemdlg;
 namespace {
 
 const BenchPattern kPatterns[] = {
-    {"parameter pattern", kParameterPattern, R"x(^\$([0-9]*)[ ]*=[ ]*"(.*)"([IDR])(.*)$)x"},
-    {"placeholder pattern", kPlaceholderPattern, R"(^.*<<([0-9]*)>>.*)"},
+    {"parameter pattern", kParameterPattern, kPeerParameterPattern},
+    {"placeholder pattern", kPlaceholderPattern, kPeerPlaceholderPattern},
 };
 
 // The time of one pattern over the lines for each of the matchers, in nanoseconds. Matchers that do not find

@@ -6,22 +6,22 @@ namespace tavrin::dyndlg {
 
 namespace {
 
-constexpr std::int32_t leftMargin = 10;
-constexpr std::int32_t rowHeight = 12;
-constexpr std::int32_t boxMargin = 5;
+constexpr std::int32_t kLeftMargin = 10;
+constexpr std::int32_t kRowHeight = 12;
+constexpr std::int32_t kBoxMargin = 5;
 
 // The extent of one axis of the box so that `end` lies in it. A start that moved down has not made it larger:
 // what lies beyond the start alone counts.
 std::int16_t ExtentUpTo(std::int64_t end, std::int16_t start, std::int16_t extent) {
-    return end > start + extent ? static_cast<std::int16_t>(end + boxMargin - start) : extent;
+    return end > start + extent ? static_cast<std::int16_t>(end + kBoxMargin - start) : extent;
 }
 
 }  // namespace
 
 DialogRect CDialogLayout::Place(const DialogRect* rect, std::int32_t defaultRight) {
     const DialogRect placed =
-        rect != nullptr ? *rect : DialogRect{leftMargin, m_nextRow, defaultRight, m_nextRow + rowHeight};
-    m_nextRow += rowHeight;
+        rect != nullptr ? *rect : DialogRect{kLeftMargin, m_nextRow, defaultRight, m_nextRow + kRowHeight};
+    m_nextRow += kRowHeight;
     Include(placed);
     return placed;
 }

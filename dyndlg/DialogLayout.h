@@ -32,9 +32,6 @@ public:
     // are placed like any control, by their rectangles.
     StandardButtonRects StartStandardButtons();
 
-    // Where the next control without a rectangle goes.
-    std::int32_t NextRow() const { return m_nextRow; }
-
     // Reaches 5 beyond the rightmost and the lowest control; starts at 0, 0 or at a control that lies left of
     // or above that.
     const DialogExtent& Extent() const { return m_extent; }

@@ -4,10 +4,10 @@ namespace tavrin::dyndlg {
 
 namespace {
 
-constexpr std::size_t itemAlignment = 4;
+constexpr std::size_t kItemAlignment = 4;
 
 std::size_t RoundedUp(std::size_t size) {
-    return (size + itemAlignment - 1) / itemAlignment * itemAlignment;
+    return (size + kItemAlignment - 1) / kItemAlignment * kItemAlignment;
 }
 
 std::wstring_view UpToZero(std::wstring_view text) {
@@ -62,7 +62,7 @@ public:
         Word(0);
     }
     void AlignForItem() {
-        while (m_used % itemAlignment != 0) {
+        while (m_used % kItemAlignment != 0) {
             Byte(0);
         }
     }

@@ -20,8 +20,8 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr DWORD dialogStyle = WS_VISIBLE | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
-constexpr DWORD dialogExStyle = WS_EX_DLGMODALFRAME;
+constexpr DWORD kDialogStyle = WS_VISIBLE | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
+constexpr DWORD kDialogExStyle = WS_EX_DLGMODALFRAME;
 
 LOGFONT DefaultFont() {
     LOGFONT font = {};
@@ -175,8 +175,8 @@ LOGFONT CDynDialogEx::ChooseTemplateFont() {
 
 // The texts are the dialog's and the caller's own.
 DialogTemplate CDynDialogEx::DescribeTemplate(LPCTSTR faceName) const {
-    DialogTemplate dialog = {.style = dialogStyle,
-                             .exStyle = dialogExStyle,
+    DialogTemplate dialog = {.style = kDialogStyle,
+                             .exStyle = kDialogExStyle,
                              .extent = m_layout.Extent(),
                              .caption = m_caption.GetString(),
                              .pointSize = m_fontSize,

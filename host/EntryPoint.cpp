@@ -17,8 +17,8 @@ CWinApp application(L"TavrinWnd");
 // The host does not offer all that the module calls, so nothing of it may be called.
 bool hostIsBound = false;
 
-constexpr int requestServed = 0;
-constexpr int requestRefused = 3;
+constexpr int kRequestServed = 0;
+constexpr int kRequestRefused = 3;
 
 int Load() {
     const std::wstring missing = BindHost(GetModuleHandleW(nullptr));
@@ -28,10 +28,10 @@ int Load() {
             L"TavrinWnd cannot work in this host application. The host does not offer:\n\n" + missing +
             L"\n\nPlease load it in a version of the host that does.";
         MessageBoxW(nullptr, message.c_str(), L"Error!", MB_OK | MB_TASKMODAL);
-        return requestRefused;
+        return kRequestRefused;
     }
     RegisterCommands();
-    return requestServed;
+    return kRequestServed;
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ int Load() {
 extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*packet*/) {
     try {
         if (request > SDS_LAST_REQUEST) {
-            return requestRefused;
+            return kRequestRefused;
         }
         if (request == SDS_LOAD) {
             return Load();
@@ -56,7 +56,7 @@ extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*pa
     } catch (...) {
         // An exception of this compiler's means nothing to the host.
     }
-    return requestServed;
+    return kRequestServed;
 }
 
 }  // namespace tavrin::host

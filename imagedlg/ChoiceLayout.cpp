@@ -9,7 +9,7 @@ constexpr int logo = kCellLogo;
 
 // Four choices form a block of two by two in the left columns. With five the logo fills the middle of the
 // bottom row, so the fifth choice stands at its end.
-constexpr int contents[kMaxChoices + 1][kChoiceCells] = {
+constexpr int kContents[kMaxChoices + 1][kChoiceCells] = {
     {none, none, none, none, none, none},  //
     {0, none, none, none, none, none},     //
     {0, 1, none, none, none, none},        //
@@ -83,7 +83,7 @@ ChoiceArrangement ArrangeTwoByTwo(const PixelRect& window, const PixelRect& ok, 
 }  // namespace
 
 int GetCellContent(unsigned count, int cell) {
-    return count > kMaxChoices || !IsCell(cell) ? kCellEmpty : contents[count][cell - 1];
+    return count > kMaxChoices || !IsCell(cell) ? kCellEmpty : kContents[count][cell - 1];
 }
 
 bool IsChoiceCellSelectable(unsigned count, int cell) {

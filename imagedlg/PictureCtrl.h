@@ -35,8 +35,8 @@ private:
     bool ReadFileIntoStream(const CString& path);
     void Draw(HDC dc) const;
 
-    IStream* m_pStream = nullptr;  // the file's bytes, owned; null when there are none
-    BOOL m_bLoaded = FALSE;        // a file was read completely into the stream
+    IStream* m_stream = nullptr;  // the file's bytes, owned; null when there are none
+    BOOL m_loaded = FALSE;        // a file was read completely into the stream
     ULONG_PTR m_gdiplusToken = 0;
 };
 

@@ -28,7 +28,7 @@ protected:
 
 private:
     CPictureCtrl m_picture;
-    CString m_strName;
+    CString m_name;
 };
 
 }  // namespace tavrin::imagedlg

@@ -1,5 +1,6 @@
 #include "imagedlg/TavrinSelMaskDlg.h"
 
+#include "handles/GdiScopes.h"
 #include "imagedlg/ChoiceSlides.h"
 #include "sds/FindFile.h"
 
@@ -7,9 +8,9 @@ namespace tavrin::imagedlg {
 
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF black = RGB(0, 0, 0);
-constexpr int frameWidth = 3;
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr int kFrameWidth = 3;
 
 std::optional<std::wstring> FindSlide(const CString& name, const wchar_t* ending) {
     return FindFile(std::wstring(name) + ending);
@@ -24,14 +25,13 @@ PixelRect ScreenRectOf(const CWnd& window) {
 // White erases the black frame of an earlier selection.
 void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
     const PixelRect outline = GetFrameOutline({cell.left, cell.top, cell.right, cell.bottom});
-    CPen pen(PS_SOLID, frameWidth, colour);
-    CPen* const previous = dc.SelectObject(&pen);
+    const CPen pen(PS_SOLID, kFrameWidth, colour);
+    const handles::CSelectedObject selectedPen(dc, pen);
     dc.MoveTo(outline.left, outline.top);
     dc.LineTo(outline.right, outline.top);
     dc.LineTo(outline.right, outline.bottom);
     dc.LineTo(outline.left, outline.bottom);
     dc.LineTo(outline.left, outline.top);
-    dc.SelectObject(previous);
 }
 
 // To a place in the client area of its parent, keeping its size.
@@ -50,7 +50,7 @@ void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
     for (int cell = 1; cell <= kChoiceCells; ++cell) {
         DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, PictureOf(cell));
     }
-    DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
+    DDX_Control(pDX, IDC_CHOICE_REPLACE, m_replaceButton);
 }
 
 BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
@@ -64,14 +64,14 @@ BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
 END_MESSAGE_MAP()
 
 BOOL CTavrinSelMaskDlg::OnInitDialog() {
-    m_brush.CreateSolidBrush(white);
+    m_brush.CreateSolidBrush(kWhite);
     CDialog::OnInitDialog();
     // There is no paging: what does not fit is not offered at all.
-    if (m_nCount == 0 || m_nCount > kMaxChoices) {
+    if (m_count == 0 || m_count > kMaxChoices) {
         OnCancel();
     }
     ArrangeForCount();
-    m_btnReplace.SetWindowText(m_strReplaceText);
+    m_replaceButton.SetWindowText(m_replaceText);
     return TRUE;
 }
 
@@ -101,21 +101,21 @@ void CTavrinSelMaskDlg::OnClickedReplace() {
 }
 
 void CTavrinSelMaskDlg::EndWith(EResult result) {
-    m_nResult = result;
+    m_result = result;
     OnOK();
 }
 
 void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
-    m_strReplaceText = replaceText;
-    m_nSkip3D = skip3D;
+    m_replaceText = replaceText;
+    m_skip3D = skip3D;
 }
 
 bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
-    if (!FindSlide(name, kFlatSlideEnding) && (!FindSlide(name, kSpaceSlideEnding) || m_nSkip3D != 0)) {
+    if (!FindSlide(name, kFlatSlideEnding) && (!FindSlide(name, kSpaceSlideEnding) || m_skip3D != 0)) {
         return false;
     }
-    m_choices[static_cast<int>(m_nCount)] = name;
-    ++m_nCount;
+    m_choices[static_cast<int>(m_count)] = name;
+    ++m_count;
     return true;
 }
 
@@ -153,8 +153,8 @@ void CTavrinSelMaskDlg::SelectCell(int cell) {
     if (!IsCellSelectable(cell)) {
         return;
     }
-    m_nSelChoice = GetChoiceOfCell(m_nCount, cell, m_nSelChoice);
-    m_nSelCell = cell - 1;
+    m_selectedChoice = GetChoiceOfCell(m_count, cell, m_selectedChoice);
+    m_selectedCell = cell - 1;
     PaintFrames();
 }
 
@@ -173,7 +173,7 @@ void CTavrinSelMaskDlg::EnableItem(UINT id, BOOL enable) {
 }
 
 CString CTavrinSelMaskDlg::GetCellPath(int cell) {
-    const int content = GetCellContent(m_nCount, cell);
+    const int content = GetCellContent(m_count, cell);
     if (content == kCellEmpty) {
         return {};
     }
@@ -181,9 +181,7 @@ CString CTavrinSelMaskDlg::GetCellPath(int cell) {
 }
 
 CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
-    CPictureCtrl* const pictures[kChoiceCells] = {&m_picture1, &m_picture2, &m_picture3,
-                                                  &m_picture4, &m_picture5, &m_picture6};
-    return *pictures[cell - 1];
+    return m_pictures[static_cast<std::size_t>(cell - 1)];
 }
 
 void CTavrinSelMaskDlg::LoadSlides() {
@@ -197,21 +195,21 @@ void CTavrinSelMaskDlg::LoadSlides() {
 void CTavrinSelMaskDlg::ArrangeForCount() {
     CWnd& ok = *GetDlgItem(IDOK);
     CWnd& cancel = *GetDlgItem(IDCANCEL);
-    const auto arrangement = ArrangeChoiceWindow(m_nCount, ScreenRectOf(*this), ScreenRectOf(ok),
-                                                 ScreenRectOf(cancel), ScreenRectOf(m_btnReplace));
+    const auto arrangement = ArrangeChoiceWindow(m_count, ScreenRectOf(*this), ScreenRectOf(ok),
+                                                 ScreenRectOf(cancel), ScreenRectOf(m_replaceButton));
     if (arrangement) {
         MoveWindow(0, 0, arrangement->width, arrangement->height);
         MoveButton(ok, arrangement->ok);
         MoveButton(cancel, arrangement->cancel);
         if (arrangement->replace) {
-            MoveButton(m_btnReplace, *arrangement->replace);
+            MoveButton(m_replaceButton, *arrangement->replace);
         }
     }
     CenterWindow();
 }
 
 bool CTavrinSelMaskDlg::IsCellSelectable(int cell) {
-    return IsChoiceCellSelectable(m_nCount, cell);
+    return IsChoiceCellSelectable(m_count, cell);
 }
 
 void CTavrinSelMaskDlg::PaintFrames() {
@@ -228,8 +226,8 @@ void CTavrinSelMaskDlg::PaintFrames() {
         }
     }
     for (int cell = 1; cell <= kChoiceCells; ++cell) {
-        if (HasChoiceFrame(m_nCount, cell)) {
-            PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_nSelCell ? black : white);
+        if (HasChoiceFrame(m_count, cell)) {
+            PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_selectedCell ? kBlack : kWhite);
         }
     }
 }

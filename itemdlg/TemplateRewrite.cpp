@@ -3,7 +3,9 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "itemdlg/BlockTracker.h"
 #include "itemdlg/NumberText.h"
@@ -13,16 +15,16 @@ namespace tavrin::itemdlg {
 
 namespace {
 
-// The last line in a block for each number.
-std::unordered_map<std::wstring, std::size_t> LinesByNumber(const TextLines& lines) {
-    std::unordered_map<std::wstring, std::size_t> result;
+// The last line in a block for each number. The numbers are parts of the lines.
+std::unordered_map<std::wstring_view, std::size_t> LinesByNumber(const TextLines& lines) {
+    std::unordered_map<std::wstring_view, std::size_t> result;
     CBlockTracker block;
     for (std::size_t index = 0; index < lines.size(); ++index) {
         if (!block.TakeLine(lines[index])) {
             continue;
         }
         if (const std::optional<ParameterParts> parameter = SplitParameterLine(lines[index])) {
-            result[std::wstring(parameter->number)] = index;
+            result[parameter->number] = index;
         }
     }
     return result;
@@ -61,12 +63,16 @@ void RewriteWorkingFile(TextLines& lines, const ParamRecordMap& records, const V
 }
 
 void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf) {
-    const std::unordered_map<std::wstring, std::size_t> lineOf = LinesByNumber(lines);
+    const std::unordered_map<std::wstring_view, std::size_t> lineOf = LinesByNumber(lines);
+    std::vector<std::pair<std::size_t, std::wstring>> changes;
     for (const auto& [index, record] : records) {
         const auto line = lineOf.find(record.number);
         if (line != lineOf.end() && record.type != 'U') {
-            lines[line->second] = TemplateFileLine(record, valueTextOf(record));
+            changes.emplace_back(line->second, TemplateFileLine(record, valueTextOf(record)));
         }
+    }
+    for (auto& [line, text] : changes) {
+        lines[line] = std::move(text);
     }
 }
 

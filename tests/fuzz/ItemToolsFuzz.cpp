@@ -8,6 +8,8 @@
 #include "tools/files/Files.h"
 #include "tools/preview/PreviewReport.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 CItemPreview PreviewOf(const std::vector<SFileLine>& lines, const CTextTable& texts, int mode) {

@@ -7,6 +7,8 @@
 #include "tools/files/Files.h"
 #include "tools/preview/PreviewReport.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 const std::string kTemplate =
