@@ -170,10 +170,10 @@ private:
 };
 
 // A file ten times as large takes ten times as long: the time per parameter may not grow. Opening files
-// weighs on the small ones, so a thousand parameters are the measure, which `perParameter` keeps; the bar
-// leaves twice as much for what the caches of the machine hold.
+// weighs on the smallest, so a hundred parameters, more than items have, are the measure, which
+// `perParameter` keeps; the bar leaves twice as much for what the caches of the machine hold.
 void Measure(std::size_t parameters, std::map<std::string, double>& perParameter) {
-    constexpr std::size_t kMeasure = 1000;
+    constexpr std::size_t kMeasure = 100;
     const CItemFiles files(parameters);
     const std::string size = std::to_string(parameters) + " parameters";
     for (const Task& task : files.Tasks()) {
@@ -184,7 +184,7 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
         if (parameters == kMeasure) {
             perParameter[task.name] = ours;
         } else if (parameters > kMeasure && task.bar > 0.0) {
-            PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 1000",
+            PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 100",
                       perParameter[task.name], 2.0});
         }
     }
@@ -195,7 +195,7 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
 int main() {
     try {
         std::map<std::string, double> perParameter;
-        for (std::size_t parameters = 10; parameters <= 10'000; parameters *= 10) {
+        for (std::size_t parameters = 10; parameters <= 1000; parameters *= 10) {
             Measure(parameters, perParameter);
         }
         return 0;
