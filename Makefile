@@ -8,7 +8,7 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck
 PRESETS = native x64 x86
 
-.PHONY: help build test run screenshots gallery lint coverage bench fuzz soak rules dist packages
+.PHONY: help build check test run screenshots gallery lint coverage bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -17,6 +17,7 @@ help:
 	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make screenshots  make the pictures of the documentation from the running programs"
+	@echo "make check    build and run the native tests: the quick loop while writing code without windows"
 	@echo "make test     build and run every test"
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
@@ -34,6 +35,12 @@ packages:
 
 build: packages
 	@for preset in $(PRESETS); do scripts/build $$preset || exit 1; done
+
+check:
+	@scripts/install-packages $(BUILD_PACKAGES)
+	@scripts/build native
+	@ctest --test-dir build/native --output-on-failure --parallel $$(nproc) --tests-regex '^unit\.' \
+	    --label-exclude exhaustive --progress
 
 test: build
 	@scripts/install-packages $(FUZZ_PACKAGES)

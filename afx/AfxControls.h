@@ -32,6 +32,8 @@ class CEdit : public CWnd {
     void GetSel(int& start, int& end) const { SendMessage(EM_GETSEL, (WPARAM)&start, (LPARAM)&end); }
     DWORD GetSel() const { return static_cast<DWORD>(SendMessage(EM_GETSEL)); }
     void SetSel(int start, int end, BOOL noScroll = FALSE);
+    // Whether the user changed the text since it was set.
+    BOOL GetModify() const { return SendMessage(EM_GETMODIFY) != 0; }
     void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { SendMessage(EM_REPLACESEL, canUndo, (LPARAM)text); }
     void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
 };

@@ -6,6 +6,8 @@
 
 #include "itemdlg/ItemContents.h"
 
+using namespace tavrin::itemdlg;
+
 class CPeerReader {
 public:
     // With the patterns compiled to machine code, or interpreted.

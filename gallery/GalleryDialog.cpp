@@ -7,8 +7,10 @@
 
 #include "gallery/resource.h"
 
+namespace tavrin::gallery {
+
 BEGIN_MESSAGE_MAP(CGalleryDialog, CDialog)
-    ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGalleryDialog::OnGridItemChanged)
+    ON_MESSAGE(propgrid::WM_GRID_ITEM_CHANGED, &CGalleryDialog::OnGridItemChanged)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_MODE_CATEGORIZED, IDC_MODE_FLAT, &CGalleryDialog::OnClickedMode)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_SHADE_HEADERS, IDC_BOLD_EDITABLE, &CGalleryDialog::OnClickedFlag)
     ON_BN_CLICKED(IDC_ACCEPT_VALUES, &CGalleryDialog::OnClickedAcceptValues)
@@ -26,16 +28,17 @@ constexpr int rowCount = 100;
 // The check boxes and what they switch.
 struct CFlag {
     int id;
-    bool (CPropertyGrid::*get)() const;
-    void (CPropertyGrid::*set)(bool);
+    bool (propgrid::CPropertyGrid::*get)() const;
+    void (propgrid::CPropertyGrid::*set)(bool);
 };
 constexpr CFlag flags[] = {
-    {IDC_SHADE_HEADERS, &CPropertyGrid::GetShadeHeaders, &CPropertyGrid::SetShadeHeaders},
-    {IDC_DRAW_LINES, &CPropertyGrid::GetDrawLines, &CPropertyGrid::SetDrawLines},
-    {IDC_DRAW_DIVIDER, &CPropertyGrid::GetDrawDivider, &CPropertyGrid::SetDrawDivider},
-    {IDC_FOCUS_NON_EDITABLE, &CPropertyGrid::GetFocusNonEditable, &CPropertyGrid::SetFocusNonEditable},
-    {IDC_BOLD_MODIFIED, &CPropertyGrid::GetBoldModified, &CPropertyGrid::SetBoldModified},
-    {IDC_BOLD_EDITABLE, &CPropertyGrid::GetBoldEditable, &CPropertyGrid::SetBoldEditable},
+    {IDC_SHADE_HEADERS, &propgrid::CPropertyGrid::GetShadeHeaders, &propgrid::CPropertyGrid::SetShadeHeaders},
+    {IDC_DRAW_LINES, &propgrid::CPropertyGrid::GetDrawLines, &propgrid::CPropertyGrid::SetDrawLines},
+    {IDC_DRAW_DIVIDER, &propgrid::CPropertyGrid::GetDrawDivider, &propgrid::CPropertyGrid::SetDrawDivider},
+    {IDC_FOCUS_NON_EDITABLE, &propgrid::CPropertyGrid::GetFocusNonEditable,
+     &propgrid::CPropertyGrid::SetFocusNonEditable},
+    {IDC_BOLD_MODIFIED, &propgrid::CPropertyGrid::GetBoldModified, &propgrid::CPropertyGrid::SetBoldModified},
+    {IDC_BOLD_EDITABLE, &propgrid::CPropertyGrid::GetBoldEditable, &propgrid::CPropertyGrid::SetBoldEditable},
 };
 
 // How the controls take part in a change of the dialog's size: each edge stays or goes along, as 0 or 1.
@@ -177,9 +180,10 @@ void CGalleryDialog::OnOK() {
 
 LRESULT CGalleryDialog::OnGridItemChanged(WPARAM item, LPARAM /*zero*/) {
     const UINT id = static_cast<UINT>(item);
-    EItemType kind = IT_STRING;
+    propgrid::EItemType kind = propgrid::IT_STRING;
     m_grid.GetItemKind(id, kind);
-    const std::wstring value = kind == IT_CUSTOM ? m_gloss.GetStringValue() : m_grid.GetItemText(id);
+    const std::wstring value =
+        kind == propgrid::IT_CUSTOM ? m_gloss.GetStringValue() : m_grid.GetItemText(id);
     const std::wstring line = m_grid.GetItemName(id) + L" = " + value;
     const LRESULT index =
         SendDlgItemMessage(IDC_GALLERY_LOG, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
@@ -209,7 +213,7 @@ void CGalleryDialog::OnClickedAcceptValues() {
 void CGalleryDialog::OnClickedReset() {
     m_grid.EndEditing();
     m_grid.ResetContents();
-    m_grid.SetFocusedItem(CPropertyGrid::NO_ID);
+    m_grid.SetFocusedItem(propgrid::CPropertyGrid::NO_ID);
     Fill();
     SendDlgItemMessage(IDC_GALLERY_LOG, LB_RESETCONTENT);
 }
@@ -269,3 +273,5 @@ void CGalleryDialog::PrintPlaces() {
     }
     PrintLine(L"places end");
 }
+
+}  // namespace tavrin::gallery

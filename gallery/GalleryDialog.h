@@ -11,12 +11,14 @@
 #include "gallery/PercentItem.h"
 #include "propgrid/PropertyGrid.h"
 
+namespace tavrin::gallery {
+
 class CGalleryDialog final : public CDialog {
 public:
     CGalleryDialog();
 
-    const CPropertyGrid& GetGrid() const { return m_grid; }
-    CPropertyGrid& GetGrid() { return m_grid; }
+    const propgrid::CPropertyGrid& GetGrid() const { return m_grid; }
+    propgrid::CPropertyGrid& GetGrid() { return m_grid; }
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
@@ -47,8 +49,10 @@ private:
     void PrintPlaces();
 
     CPercentItem m_gloss;  // custom items outlive the grid that holds them
-    CPropertyGrid m_grid;
+    propgrid::CPropertyGrid m_grid;
     CSize m_smallest;              // of the window
     CSize m_initialSize;           // of the client area
     std::vector<CRect> m_initial;  // of the controls that a resize moves, in their table's order
 };
+
+}  // namespace tavrin::gallery

@@ -19,8 +19,8 @@ CWinApp application(L"GridGallery");
 constexpr int statusWrongUse = 2;
 
 int RunMonkey(const wchar_t* events, const wchar_t* seed) {
-    CMonkey monkey(static_cast<int>(std::wcstol(events, nullptr, 10)),
-                   static_cast<unsigned>(std::wcstoul(seed, nullptr, 10)));
+    tavrin::gallery::CMonkey monkey(static_cast<int>(std::wcstol(events, nullptr, 10)),
+                                    static_cast<unsigned>(std::wcstoul(seed, nullptr, 10)));
     return monkey.Run();
 }
 
@@ -34,6 +34,6 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
         std::fputs("usage: GridGallery.exe [--monkey EVENTS SEED]\n", stderr);
         return statusWrongUse;
     }
-    CGalleryDialog().DoModal();
+    tavrin::gallery::CGalleryDialog().DoModal();
     return 0;
 }

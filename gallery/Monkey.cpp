@@ -8,6 +8,8 @@
 
 #include "tests/windows/support/HandleCount.h"
 
+namespace tavrin::gallery {
+
 namespace {
 
 constexpr UINT timerPeriod = 10;  // milliseconds
@@ -136,7 +138,7 @@ bool CMonkey::EndDialogs() {
 
 // By a click as well as by a double click: each value has an editor for one of the two, if it has one.
 void CMonkey::OpenNextEditor() {
-    CPropertyGrid& grid = m_gallery->GetGrid();
+    propgrid::CPropertyGrid& grid = m_gallery->GetGrid();
     const HWND gallery = m_gallery->GetSafeHwnd();
     if (m_nextItem >= grid.GetItemCount()) {
         PostMessage(gallery, WM_CLOSE, 0, 0);
@@ -270,3 +272,5 @@ HWND CMonkey::RandomWindow() {
 int CMonkey::Random(int count) {
     return static_cast<int>(m_random() % static_cast<unsigned>(count));
 }
+
+}  // namespace tavrin::gallery

@@ -12,6 +12,8 @@
 
 #include "gallery/GalleryDialog.h"
 
+namespace tavrin::gallery {
+
 class CMonkey {
 public:
     // `events` counts presses, releases, moves and turns one by one. The same seed makes the same choices.
@@ -59,3 +61,5 @@ private:
     bool m_warmingUp = false;
     UINT m_nextItem = 0;  // whose editor the warm-up opens
 };
+
+}  // namespace tavrin::gallery

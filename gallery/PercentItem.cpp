@@ -6,6 +6,8 @@
 
 #include "propgrid/PropertyGrid.h"
 
+namespace tavrin::gallery {
+
 namespace {
 
 constexpr COLORREF barColor = RGB(110, 170, 230);
@@ -52,3 +54,5 @@ void CPercentItem::Follow(CRect rect, CPoint point) {
     m_percent = std::clamp(percent, 0, 100);
     m_pGrid->Invalidate(FALSE);
 }
+
+}  // namespace tavrin::gallery

@@ -1,9 +1,11 @@
 // An example of a custom item: a share that is drawn as a bar and set by dragging the mouse along it.
 #pragma once
 
-#include "propgrid/ICustomItem.h"
+#include "propgrid/PropertyGrid.h"
 
-class CPercentItem final : public ICustomItem {
+namespace tavrin::gallery {
+
+class CPercentItem final : public propgrid::ICustomItem {
 public:
     // `percent` is from 0 to 100.
     explicit CPercentItem(int percent) : m_percent(percent) {}
@@ -14,7 +16,7 @@ public:
     void SetPercent(int percent) { m_percent = percent; }
 
     // EM_CUSTOM: there is no editor, the mouse is the item's own.
-    int GetEditMode() override { return EM_CUSTOM; }
+    int GetEditMode() override { return propgrid::EM_CUSTOM; }
     void DrawItem(CDC& dc, CRect rect, bool focused) override;
     // Changes are not shown, so there is nothing to compare with.
     void AcceptValue() override {}
@@ -36,3 +38,5 @@ private:
     bool m_dragging = false;
     UINT m_id = 0;
 };
+
+}  // namespace tavrin::gallery

@@ -119,7 +119,7 @@ void CTavrinWndDlg::LoadTemplate() {
     m_params.clear();
     m_grid.ResetContents();
     m_distanceItems.clear();
-    m_grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
+    m_grid.SetDisplayMode(propgrid::CPropertyGrid::DM_FLAT);
     m_grid.SetGutterWidth(kGutterWidth);
     const UINT section = m_grid.AddSection(L"Item Data");
 
@@ -148,7 +148,7 @@ void CTavrinWndDlg::LoadTemplate() {
 void CTavrinWndDlg::AddParameter(UINT section, const ItemParameter& parameter) {
     ParamRecord& record = m_params[parameter.record.lineIndex] = parameter.record;
     if (record.type == 'D') {
-        m_distanceItems.push_back(std::make_unique<CDistanceItem>(m_hWnd, record.realValue));
+        m_distanceItems.push_back(std::make_unique<propgrid::CDistanceItem>(m_hWnd, record.realValue));
         record.customItem = m_distanceItems.back().get();
     }
     if (parameter.row == PR_SHOWN) {
@@ -173,7 +173,7 @@ UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editabl
 std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
     ParamRecord current = record;
     if (record.type == 'D') {
-        current.realValue = static_cast<const CDistanceItem*>(record.customItem)->GetDistance();
+        current.realValue = static_cast<const propgrid::CDistanceItem*>(record.customItem)->GetDistance();
     } else if (record.type == 'I') {
         m_grid.GetItemValue(record.itemId, current.intValue);
     } else {

@@ -64,10 +64,10 @@ protected:
 
 private:
     // Both outlive the grid and the header, which are declared behind them.
-    std::vector<std::unique_ptr<CDistanceItem>> m_distanceItems;
+    std::vector<std::unique_ptr<propgrid::CDistanceItem>> m_distanceItems;
     CFont m_headerFont;
 
-    CPropertyGrid m_grid;
+    propgrid::CPropertyGrid m_grid;
     imagedlg::CPictureCtrl m_picture;
     ParamRecordMap m_params;  // by line index in the working file
     CString m_baseName;

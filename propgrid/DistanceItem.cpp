@@ -1,13 +1,13 @@
 #include "propgrid/DistanceItem.h"
 
-#include <utility>
-
 #include "propgrid/PropertyGrid.h"
 #include "sds/sds.h"
 
+namespace tavrin::propgrid {
+
 namespace {
 
-constexpr COLORREF changedColor = RGB(255, 255, 80);
+constexpr COLORREF kChangedColor = RGB(255, 255, 80);
 
 // The drawing's linear unit format. Whether it could be read is deliberately not asked: the host's
 // conversions then run with 0 and decide.
@@ -57,7 +57,7 @@ int CDistanceItem::GetEditMode() {
 void CDistanceItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
     if (m_value != m_reference) {
         dc.SetBkMode(OPAQUE);
-        dc.SetBkColor(changedColor);
+        dc.SetBkColor(kChangedColor);
     }
     const std::wstring text = GetStringValue();
     rect.left += m_pGrid->GetTextMargin();
@@ -84,16 +84,22 @@ std::wstring CDistanceItem::GetStringValue() {
 }
 
 bool CDistanceItem::SetStringValue(std::wstring text) {
+    // A length that was left as it stood, by Escape too, keeps the digits that its text does not have.
+    if (m_pGrid != nullptr && m_pGrid->IsEditUntouched()) {
+        return false;
+    }
     double distance = m_value;
     if (sds_distof(text.c_str(), LinearUnits(), &distance) != RTNORM) {
         ::MessageBox(nullptr, L"The value you have input is invalid, please specify another one.",
                      L"Invalid value", MB_OK);
-        distance = m_value;
-    } else if (text == GetStringValue()) {
-        // A length that was left as it stood, by Escape too, keeps the digits that its text does not show.
-        distance = m_value;
+        return false;
     }
-    return std::exchange(m_value, distance) != distance;
+    // A zero of the other sign is the same length: it is not stored.
+    if (distance == m_value) {
+        return false;
+    }
+    m_value = distance;
+    return true;
 }
 
 void CDistanceItem::ShowDropDown(CRect /*rect*/) {}
@@ -107,3 +113,5 @@ bool CDistanceItem::OnButtonClicked() {
     m_value = distance;
     return true;
 }
+
+}  // namespace tavrin::propgrid

@@ -2,7 +2,9 @@
 // measured by picking two points in the drawing.
 #pragma once
 
-#include "propgrid/ICustomItem.h"
+#include "propgrid/PropertyGrid.h"
+
+namespace tavrin::propgrid {
 
 class CDistanceItem final : public ICustomItem {
 public:
@@ -24,8 +26,8 @@ public:
     void OnLButtonUp(CRect rect, CPoint point) override;
     // The length as the host writes it in the drawing's units.
     std::wstring GetStringValue() override;
-    // Reads a length as the host does. Reports a text that is none to the user and keeps the value, and so
-    // does the text that shows it. True when the length is another one.
+    // Reads a length as the host does, unless the user left the text of the edit untouched. Reports a text
+    // that is none to the user and keeps the value. True when the length is another one.
     bool SetStringValue(std::wstring text) override;
     void ShowDropDown(CRect rect) override;
     // Lets the user pick two points. True when there are two, even if the length is the same as before.
@@ -36,3 +38,5 @@ private:
     double m_reference;
     HWND m_dialog;
 };
+
+}  // namespace tavrin::propgrid

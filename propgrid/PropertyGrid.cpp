@@ -1,7 +1,18 @@
-// The life of the property grid: construction, the window's start, its messages, the notification.
 #include "propgrid/PropertyGrid.h"
 
-#include "propgrid/GdiScope.h"
+#include "propgrid/PressWatch.h"
+#include "propgrid/controller/EditResult.h"
+#include "propgrid/controller/Focus.h"
+#include "propgrid/painter/FrameworkTypes.h"
+
+namespace tavrin::propgrid {
+
+// The controllers know keys and scroll codes by the system's numbers.
+static_assert(KEY_LEFT == VK_LEFT && KEY_UP == VK_UP && KEY_RIGHT == VK_RIGHT && KEY_DOWN == VK_DOWN);
+static_assert(SC_LINE_UP == SB_LINEUP && SC_LINE_DOWN == SB_LINEDOWN && SC_PAGE_UP == SB_PAGEUP &&
+              SC_PAGE_DOWN == SB_PAGEDOWN && SC_THUMB_POSITION == SB_THUMBPOSITION &&
+              SC_THUMB_TRACK == SB_THUMBTRACK && SC_TOP == SB_TOP && SC_BOTTOM == SB_BOTTOM &&
+              SC_END_SCROLL == SB_ENDSCROLL);
 
 IMPLEMENT_DYNAMIC(CPropertyGrid, CWnd)
 
@@ -10,6 +21,7 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
+    ON_MESSAGE(WM_MOVE, &CPropertyGrid::OnMove)
     ON_MESSAGE(WM_PRINTCLIENT, &CPropertyGrid::OnPrintClient)
     ON_WM_DESTROY()
     ON_WM_LBUTTONDOWN()
@@ -36,6 +48,8 @@ CPropertyGrid::~CPropertyGrid() {
     }
 }
 
+// ---- The window's life
+
 BOOL CPropertyGrid::PreCreateWindow(CREATESTRUCT& create) {
     m_creating = true;
     return CWnd::PreCreateWindow(create);
@@ -51,12 +65,10 @@ void CPropertyGrid::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
 }
 
-LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_DESTROY) {
-        m_rowsPending = false;  // a window that goes needs no layout
-    }
-    SettleLayout();
-    return CWnd::WindowProc(message, wParam, lParam);
+// Comes for a window that could not be created, too.
+void CPropertyGrid::PostNcDestroy() {
+    m_creating = false;
+    CWnd::PostNcDestroy();
 }
 
 int CPropertyGrid::OnCreate(LPCREATESTRUCT create) {
@@ -67,46 +79,16 @@ int CPropertyGrid::OnCreate(LPCREATESTRUCT create) {
     return 0;
 }
 
-void CPropertyGrid::OnPaint() {
-    CPaintDC dc(this);
-    m_customItemDrew = false;
-    PaintWindow(dc);
-    // The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
-    if (m_customItemDrew) {
-        ValidateRect(nullptr);
-    }
-}
-
-// Paint covers every pixel; erasing first would only flicker.
-BOOL CPropertyGrid::OnEraseBkgnd(CDC* /*dc*/) {
-    return TRUE;
-}
-
-void CPropertyGrid::OnSize(UINT type, int width, int height) {
-    CWnd::OnSize(type, width, height);
-    PlaceScrollBar();
-}
-
-LRESULT CPropertyGrid::OnPrintClient(WPARAM dc, LPARAM /*flags*/) {
-    CDC& target = *CDC::FromHandle(reinterpret_cast<HDC>(dc));
-    CRect client;
-    GetClientRect(&client);
-    CMemoryCanvas canvas(target, client.Size());
-    Paint(target, canvas);
-    return 0;
-}
-
 void CPropertyGrid::Initialize() {
     CRect client;
     GetClientRect(&client);
-    m_gutter = client.Width() / 2;
-    m_scrollBarShown = false;
-    CreateFonts();
-    {
-        CClientDC dc(this);
-        const CSelectedObject font(dc, m_font);
-        m_rowHeight = dc.GetTextExtent(L"Gg", 2).cy + 4;
-    }
+    m_model.settings.gutter = client.Width() / 2;
+    m_scrollBar.Forget();
+    m_fonts.Create(GetParent());
+    m_layout.SetView({.client = {},
+                      .scrollBarWidth = 0,
+                      .scrollPosition = 0,
+                      .rowHeight = m_fonts.MeasureRowHeight(*this)});
     ModifyStyle(0, WS_CLIPCHILDREN);
     // A static control lets the mouse through to its dialog unless it notifies, and no placeholder is a
     // tab stop; a grid in its place wants both mouse and keyboard.
@@ -115,34 +97,12 @@ void CPropertyGrid::Initialize() {
     if (_wcsicmp(windowClass, L"Static") == 0) {
         ModifyStyle(0, SS_NOTIFY | WS_TABSTOP);
     }
-    TakeParentText(IDOK, L"OK", m_texts.ok);
-    TakeParentText(IDCANCEL, L"Cancel", m_texts.cancel);
+    TakeParentText(IDOK, L"OK", m_model.settings.texts.ok);
+    TakeParentText(IDCANCEL, L"Cancel", m_model.settings.texts.cancel);
     // Rows that were added before there was a window to lay them out in.
-    if (m_contents.GetRowCount(IsCategorized()) > 0) {
+    if (m_model.GetRowCount() > 0) {
         Relayout();
     }
-}
-
-// The parent's font as it is now, or Tahoma. The grid makes fonts of its own from it, so that it does
-// not depend on how long the parent keeps its font.
-void CPropertyGrid::CreateFonts() {
-    if (m_font.GetSafeHandle() != nullptr) {
-        return;
-    }
-    LOGFONT description = {};
-    CWnd* const parent = GetParent();
-    CFont* const parentFont = parent != nullptr ? parent->GetFont() : nullptr;
-    if (parentFont != nullptr && parentFont->GetLogFont(&description) != 0) {
-        m_font.CreateFontIndirect(&description);
-    }
-    if (m_font.GetSafeHandle() == nullptr) {
-        m_font.CreatePointFont(85, L"Tahoma");
-        if (m_font.GetLogFont(&description) == 0) {
-            return;
-        }
-    }
-    description.lfWeight = FW_BOLD;
-    m_boldFont.CreateFontIndirect(&description);
 }
 
 // Fills a text that is still empty with the caption of one of the parent's controls.
@@ -160,20 +120,337 @@ void CPropertyGrid::TakeParentText(int controlId, const wchar_t* otherwise, std:
     }
 }
 
-void CPropertyGrid::NotifyChanged(UINT item) {
-    if (CWnd* const owner = GetOwner()) {
-        owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
+// A window that goes needs no layout.
+LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_DESTROY) {
+        m_layoutPending = false;
+    }
+    SettleLayout();
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+void CPropertyGrid::OnDestroy() {
+    m_editors.Close();
+    m_painter.ReleaseCanvas();
+    CWnd::OnDestroy();
+}
+
+// ---- Layout
+
+// Runs after every change of the rows, so it must not go through them: the row count is kept ready.
+void CPropertyGrid::Relayout() {
+    if (GetSafeHwnd() == nullptr) {
+        return;
+    }
+    m_layoutPending = false;
+    UpdateView();
+    if (m_layout.NeedsScrollBar()) {
+        m_scrollBar.ShowFor(*this, m_layout.GetTotalHeight());
+    } else {
+        m_scrollBar.Hide();
+    }
+    Invalidate(TRUE);
+}
+
+// Rows are added many at a time, and the scroll bar costs more than they do: it follows with the next
+// message. Asking for a repaint makes sure that there is one.
+void CPropertyGrid::RelayoutLater() {
+    if (GetSafeHwnd() != nullptr && !m_layoutPending) {
+        m_layoutPending = true;
+        Invalidate(TRUE);
     }
 }
 
-// The owner may do anything while it hears of the change: remove the rows, or the grid.
-void CPropertyGrid::ReportChange(UINT item) {
-    NotifyChanged(item);
-    Repaint();
+void CPropertyGrid::SettleLayout() {
+    if (m_layoutPending) {
+        Relayout();
+    }
 }
+
+// Tells the layout what the window is like now. The scroll bar is the one that knows the position.
+void CPropertyGrid::UpdateView() {
+    CRect client;
+    GetClientRect(&client);
+    m_layout.SetView({.client = {static_cast<int>(client.Width()), static_cast<int>(client.Height())},
+                      .scrollBarWidth = m_scrollBar.GetWidth(),
+                      .scrollPosition = m_scrollBar.GetPosition(),
+                      .rowHeight = m_layout.GetView().rowHeight});
+}
+
+// Without a bar a new size deliberately changes nothing: no bar appears before the rows next change, and the
+// divider stays where it is.
+void CPropertyGrid::OnSize(UINT type, int width, int height) {
+    CWnd::OnSize(type, width, height);
+    LeaveEditor();
+    if (m_scrollBar.IsCreated()) {
+        m_scrollBar.Place(*this);
+        Relayout();
+    }
+}
+
+LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*place*/) {
+    LeaveEditor();
+    return Default();
+}
+
+// ---- Painting
 
 void CPropertyGrid::Repaint() {
     if (GetSafeHwnd() != nullptr) {
         Invalidate();
     }
 }
+
+// The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
+void CPropertyGrid::OnPaint() {
+    CPaintDC dc(this);
+    UpdateView();
+    if (m_painter.PaintWindow(dc, m_mouse.IsButtonPressed())) {
+        ValidateRect(nullptr);
+    }
+}
+
+// Painting covers every pixel; erasing first would only flicker.
+BOOL CPropertyGrid::OnEraseBkgnd(CDC* /*dc*/) {
+    return TRUE;
+}
+
+LRESULT CPropertyGrid::OnPrintClient(WPARAM dc, LPARAM /*flags*/) {
+    UpdateView();
+    m_painter.PaintCopy(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), m_mouse.IsButtonPressed());
+    return 0;
+}
+
+// ---- The mouse
+
+// Hit tests go by the rectangles of the last paint: paints what is still to be painted. False when a custom
+// item that drew took the window away.
+bool CPropertyGrid::IsReadyForHitTest() {
+    UpdateWindow();
+    if (GetSafeHwnd() == nullptr) {
+        return false;
+    }
+    UpdateView();
+    return true;
+}
+
+// Ends an open editor with its result. False when whoever heard of the result took the window away.
+bool CPropertyGrid::TakeFocus() {
+    SetFocus();
+    m_editors.Close();
+    return GetSafeHwnd() != nullptr;
+}
+
+// False when the press is over by the time that the grid has the focus.
+bool CPropertyGrid::BeginPress() {
+    m_mouse.BeginPress();
+    CPressWatch watch(m_hWnd);
+    return TakeFocus() && !watch.HasLoopRun() && !watch.WasReleased() && IsReadyForHitTest();
+}
+
+void CPropertyGrid::OnLButtonDown(UINT flags, CPoint point) {
+    if (BeginPress() && m_actions.Run(m_mouse.Press(ToPoint(point)))) {
+        CWnd::OnLButtonDown(flags, point);
+    }
+}
+
+void CPropertyGrid::OnMouseMove(UINT /*flags*/, CPoint point) {
+    m_actions.Run(m_mouse.Move(ToPoint(point), IsEditing()));
+}
+
+void CPropertyGrid::OnLButtonUp(UINT /*flags*/, CPoint point) {
+    if (!m_mouse.AwaitsRelease() || IsReadyForHitTest()) {
+        m_actions.Run(m_mouse.Release(ToPoint(point)));
+    }
+}
+
+void CPropertyGrid::OnLButtonDblClk(UINT /*flags*/, CPoint /*point*/) {
+    m_actions.Run(m_mouse.DoubleClick());
+}
+
+void CPropertyGrid::OnCaptureChanged(CWnd* window) {
+    if (window != this) {
+        m_actions.Run(m_mouse.LoseCapture());
+    }
+    CWnd::OnCaptureChanged(window);
+}
+
+// ---- Scrolling
+
+BOOL CPropertyGrid::OnMouseWheel(UINT flags, short delta, CPoint point) {
+    TurnWheel(delta);
+    return CWnd::OnMouseWheel(flags, delta, point);
+}
+
+// Scrolling by the wheel, too, ends an open editor, which would otherwise stay where its row was.
+void CPropertyGrid::TurnWheel(int delta) {
+    const auto findTarget = [&] { return FindWheelTarget(m_scrollBar.GetState(), delta, GetRowHeight()); };
+    if (!m_scrollBar.IsShown() || !findTarget()) {
+        return;
+    }
+    if ((delta > 0 && !IsEditing()) || TakeFocus()) {
+        ScrollTo(findTarget());
+    }
+}
+
+void CPropertyGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar) {
+    const bool isOwnBar = bar != nullptr && bar->GetSafeHwnd() == m_scrollBar.GetSafeHwnd();
+    if (!m_scrollBar.IsShown() || !isOwnBar || code == SB_ENDSCROLL) {
+        CWnd::OnVScroll(code, position, bar);
+        return;
+    }
+    if (!TakeFocus()) {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    if (ScrollTo(FindScrollTarget(m_scrollBar.GetState(), code, m_scrollBar.FindThumb(position),
+                                  GetRowHeight(), client.Height()))) {
+        CWnd::OnVScroll(code, position, bar);
+    }
+}
+
+// False when there is nowhere to go.
+bool CPropertyGrid::ScrollTo(std::optional<int> position) {
+    if (position) {
+        m_actions.Run({action::ScrollTo{*position}});
+    }
+    return position.has_value();
+}
+
+// ---- The keyboard
+
+void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    if (!CKeyController::IsGridKey(key)) {
+        CWnd::OnKeyDown(key, repeat, flags);
+        return;
+    }
+    LeaveEditor();
+    if (GetSafeHwnd() != nullptr && IsReadyForHitTest()) {
+        m_actions.Run(m_keys.PressKey(key, m_scrollBar.GetState()));
+    }
+}
+
+void CPropertyGrid::OnChar(UINT character, UINT repeat, UINT flags) {
+    const auto typed = static_cast<wchar_t>(character);
+    if (m_keys.ChangesSections(typed)) {
+        LeaveEditor();
+    }
+    if (m_actions.Run(m_keys.TypeCharacter(typed))) {
+        CWnd::OnChar(character, repeat, flags);
+    }
+}
+
+// In a dialog the arrow keys and the characters come to the grid; Tab leaves it, Enter and Escape are the
+// dialog's.
+UINT CPropertyGrid::OnGetDlgCode() {
+    return CWnd::OnGetDlgCode() | DLGC_WANTARROWS | DLGC_WANTCHARS;
+}
+
+// ---- Focus and notification
+
+bool CPropertyGrid::SetFocusedItem(UINT item) {
+    return SetFocusedRow({.item = item});
+}
+
+bool CPropertyGrid::SetFocusedSection(UINT section) {
+    return SetFocusedRow({.section = section});
+}
+
+bool CPropertyGrid::SetFocusedRow(const RowId& row) {
+    const auto exists = [&] {
+        return row == RowId() || m_model.FindItem(row.item) != nullptr ||
+               m_model.FindSection(row.section) != nullptr;
+    };
+    if (!exists()) {
+        return false;
+    }
+    if (row == m_model.GetFocus()) {
+        return true;
+    }
+    LeaveEditor();
+    if (!exists()) {
+        return false;
+    }
+    MoveFocus(m_model, m_layout, row);
+    Repaint();
+    return true;
+}
+
+void CPropertyGrid::NotifyChanged(UINT item) {
+    if (CWnd* const owner = GetOwner()) {
+        owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
+    }
+}
+
+bool CPropertyGrid::GetItemRects(UINT id, CRect& name, CRect& value) const {
+    const GridItem* const item = m_model.FindItem(id);
+    if (item == nullptr) {
+        return false;
+    }
+    name = ToCRect(m_layout.GetNameRect(*item));
+    value = ToCRect(m_layout.GetValueRect(*item));
+    return true;
+}
+
+bool CPropertyGrid::GetSectionRects(UINT id, CRect& glyph, CRect& header) const {
+    const GridSection* const section = m_model.FindSection(id);
+    if (section == nullptr) {
+        return false;
+    }
+    glyph = ToCRect(m_layout.GetGlyphRect(*section));
+    header = ToCRect(m_layout.GetHeaderRect(*section));
+    return true;
+}
+
+CRect CPropertyGrid::GetEditButtonRect() const {
+    return ToCRect(m_layout.GetEditButton());
+}
+
+// ---- The end of an editor
+
+void CPropertyGrid::EndEditing() {
+    if (IsEditing()) {
+        SetFocus();
+    }
+    m_editors.Close();
+}
+
+void CPropertyGrid::LeaveEditor() {
+    if (IsEditing()) {
+        EndEditing();
+    }
+}
+
+// The list closed with a choice.
+LRESULT CPropertyGrid::OnChoiceMade(WPARAM index, LPARAM /*zero*/) {
+    TakeResult(TakeListChoice(m_model, GetFocusedItem(), static_cast<int>(static_cast<INT_PTR>(index))));
+    return 0;
+}
+
+// The in-place edit ended.
+LRESULT CPropertyGrid::OnEditDone(WPARAM text, LPARAM /*zero*/) {
+    TakeResult(TakeEditText(m_model, GetFocusedItem(), reinterpret_cast<const wchar_t*>(text),
+                            !m_editors.IsTextUntouched()));
+    return 0;
+}
+
+// A date of the calendar was chosen.
+LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
+    if (const std::optional<DateValue> date = m_editors.GetCalendarDate()) {
+        TakeResult(TakeCalendarDate(m_model, GetFocusedItem(), *date));
+    }
+    return 0;
+}
+
+// An item that takes no such result deliberately leaves the editor alone. Else the grid lets go of the editor
+// first and destroys it last: the owner's handler, or a custom item's, runs in between and may lead to
+// anything, another editor included.
+void CPropertyGrid::TakeResult(const Actions& actions) {
+    if (!actions.empty()) {
+        const EditorPointer ended = m_editors.Take();
+        m_actions.Run(actions);
+    }
+}
+
+}  // namespace tavrin::propgrid

@@ -1,5 +1,5 @@
 // The property grid beside a list view of the same size with the same two columns of text: filling, painting,
-// scrolling, and what a row takes of memory.
+// scrolling; what input costs by the number of rows, and what a row takes of memory.
 #include <afxwin.h>
 #include <commctrl.h>
 
@@ -11,6 +11,8 @@
 #include "propgrid/PropertyGrid.h"
 
 namespace {
+
+using tavrin::propgrid::CPropertyGrid;
 
 constexpr int width = 400;  // pixels
 constexpr int height = 500;
@@ -63,6 +65,19 @@ public:
         const HWND bar = ::GetDlgItem(m_grid, scrollBarId);
         m_grid.SendMessage(WM_VSCROLL, down ? SB_PAGEDOWN : SB_PAGEUP, reinterpret_cast<LPARAM>(bar));
         m_grid.UpdateWindow();
+    }
+
+    // To the end of the rows, where a search from the first row on takes longest.
+    void ScrollToEnd() {
+        const HWND bar = ::GetDlgItem(m_grid, scrollBarId);
+        m_grid.SendMessage(WM_VSCROLL, SB_BOTTOM, reinterpret_cast<LPARAM>(bar));
+    }
+    void FocusRow(std::size_t row) { m_grid.SetFocusedItem(static_cast<UINT>(row)); }
+    void PressDown() { m_grid.SendMessage(WM_KEYDOWN, VK_DOWN, 1); }
+    void Hover() { m_grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(width / 4, height / 2)); }
+    void ClickName() {
+        m_grid.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(width / 4, height / 2));
+        m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(width / 4, height / 2));
     }
 
 private:
@@ -157,6 +172,33 @@ void PageUp(T& control) {
     HandleMessages();
 }
 
+// What a person does beside looking: none of it depends on the number of rows. The paint that follows is
+// measured apart.
+void MeasureInput(CFilledGrid& grid) {
+    constexpr const char* names[] = {"arrow key", "click", "hover"};
+    std::vector<double> few;
+    for (const std::size_t rows : {100U, 100000U}) {
+        grid.Clear();
+        grid.Fill(rows);
+        grid.Paint();
+        const auto prepare = [&] {
+            grid.FocusRow(rows - 3);
+            grid.ScrollToEnd();
+            HandleMessages();
+        };
+        const std::vector<double> times = MedianTurns({{prepare, [&] { grid.PressDown(); }},
+                                                       {prepare, [&] { grid.ClickName(); }},
+                                                       {prepare, [&] { grid.Hover(); }}},
+                                                      31);
+        for (std::size_t index = 0; index < times.size(); ++index) {
+            const double beside = few.empty() ? times[index] : few[index];
+            Row(names[index], std::to_string(rows) + " rows", times[index], "ns", "ours at 100", beside, 2);
+        }
+        few = times;
+    }
+    grid.Clear();
+}
+
 // Times beside the list view for each number of rows.
 void MeasureRows(CFilledGrid& grid, CFilledList& list) {
     double addingFew = 0;
@@ -212,6 +254,7 @@ int main() {
     CFilledGrid grid(frame);
     CFilledList list(frame);
     MeasureRows(grid, list);
+    MeasureInput(grid);
     MeasureMemory(grid, 10000);
     return 0;
 }

@@ -15,6 +15,7 @@
 #include "tests/windows/support/TextModule.h"
 
 using namespace tavrin::itemdlg;
+using namespace tavrin::propgrid;
 
 class ItemDialogFixture : public testing::Test {
 protected:

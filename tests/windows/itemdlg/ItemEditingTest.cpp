@@ -184,6 +184,28 @@ TEST_F(ItemEditing, ATextThatIsNoDistanceIsReportedOnceAndTheValueKept) {
     EXPECT_NE(WorkingFile().find("#3 = 900"), std::string::npos) << WorkingFile();
 }
 
+// The box takes the release of the press that ended the edit.
+TEST_F(ItemEditing, AfterTheBoxAboutAWrongDistanceTheNextClickCounts) {
+    hands.Then([this](HWND dialog) {
+        PumpMessages();
+        CPropertyGrid& grid = GridOf(dialog);
+        Type(dialog, width, L"zzz");
+        Click(grid.m_hWnd, ButtonOf(grid, width));
+        EXPECT_TRUE(PumpUntil([&] { return hands.messages.size() == 1; }));
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_FALSE(grid.IsEditing());
+        Click(::GetDlgItem(dialog, IDOK));
+        // OK writes; the dialog itself ends in its own loop.
+        EXPECT_TRUE(PumpUntil([&] { return WorkingFile() != m_before; })) << "the click did nothing";
+        ::PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    });
+    hands.ThenPressOk();
+    EXPECT_EQ(Run(), IDOK);
+    ASSERT_EQ(hands.messages.size(), 1U);
+    EXPECT_EQ(hands.messages[0].caption, L"Invalid value");
+    EXPECT_TRUE(fakeHost.prompts.empty()) << "nothing is picked";
+}
+
 TEST_F(ItemEditing, TheButtonOfADistancePicksItInTheDrawing) {
     fakeHost.distance = 777;
     bool wasHidden = false;

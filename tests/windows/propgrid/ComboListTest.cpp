@@ -3,7 +3,7 @@
 #include <climits>
 #include <ostream>
 
-#include "propgrid/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridCombo.h"
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"
@@ -272,8 +272,18 @@ TEST_F(ComboListPaint, StartsTheTextFourPixelsInside) {
     Open(2);
     const CClientPixels picture = Picture();
     const CRect row = Row(0);
-    EXPECT_EQ(picture.Count({1, row.top, 5, row.bottom}, back), 4 * row.Height());
-    EXPECT_GT(picture.Count({5, row.top, 9, row.bottom}, textColor), 0);
+    // A text that begins at 0 has its first ink where its first letter has.
+    const CGridPicture letters({100, RowHeight()}, [&](CDC& dc) {
+        const HGDIOBJ previous = ::SelectObject(dc, parent.font.GetSafeHandle());
+        dc.SetTextColor(textColor);
+        dc.SetBkMode(TRANSPARENT);
+        CRect rect(0, 0, 100, RowHeight());
+        dc.DrawText(Three()[0].c_str(), -1, &rect, DT_SINGLELINE | DT_NOPREFIX);
+        ::SelectObject(dc, previous);
+    });
+    const int first = letters.Bounds({0, 0, 100, RowHeight()}, textColor).left;
+    EXPECT_EQ(picture.Count({1, row.top, row.left + 4 + first, row.bottom}, textColor), 0);
+    EXPECT_GT(picture.Count({row.left + 4 + first, row.top, row.left + 5 + first, row.bottom}, textColor), 0);
 }
 
 TEST_F(ComboListPaint, CentresTheTextInItsRow) {

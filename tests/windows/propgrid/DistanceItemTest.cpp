@@ -1,5 +1,6 @@
 #include "propgrid/DistanceItem.h"
 
+#include <cmath>
 #include <string>
 
 #include "tests/windows/propgrid/GridFixture.h"
@@ -10,7 +11,7 @@
 namespace {
 
 // The fake host writes 2 in units 2 as "U2:2.0000" and reads back that or a plain number.
-class DistanceItem : public GridTest {
+class DistanceItem : public GridPaintTest {
 protected:
     DistanceItem() {
         fakeHost = FakeHost{};
@@ -45,6 +46,21 @@ TEST_F(DistanceItem, DrawsItsTextAtTheGridsMargin) {
     EXPECT_TRUE(picture.Is({150, 0, 154, RowHeight()}, back));
 }
 
+TEST_F(DistanceItem, EndsATextThatIsTooLongInAnEllipsis) {
+    const std::wstring length(10, L'H');
+    fakeHost.distanceText = [&](double, int, int) { return length; };
+    grid.SetDrawDivider(false);
+    grid.SetDrawLines(false);
+    const int fits = 154 + ExtentOf(length, parent.font).cx;
+    const auto endsInAnEllipsis = [&](int width) {
+        grid.MoveWindow(0, 0, width, 200);
+        return CGridPicture(grid).EndsInAnEllipsis({154, 0, width, RowHeight()}, editable);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(200));
+}
+
 TEST_F(DistanceItem, TakesATypedLength) {
     EXPECT_TRUE(item.SetStringValue(L"2.5"));
     EXPECT_EQ(item.GetDistance(), 2.5);
@@ -56,13 +72,31 @@ TEST_F(DistanceItem, ReportsNoChangeForAnotherSpellingOfTheSameLength) {
     EXPECT_EQ(item.GetDistance(), 2.0);
 }
 
-TEST_F(DistanceItem, KeepsTheDigitsThatItsTextDoesNotShowWhenThatIsLeftAsItStands) {
+TEST_F(DistanceItem, TakesTheVeryTextThatItShowsAsALengthToo) {
     EXPECT_TRUE(item.SetStringValue(L"2.00001234"));
     EXPECT_EQ(item.GetStringValue(), L"U2:2.0000");
-    EXPECT_FALSE(item.SetStringValue(L"U2:2.0000"));
-    EXPECT_EQ(item.GetDistance(), 2.00001234);
-    EXPECT_TRUE(item.SetStringValue(L"2.00001"));
-    EXPECT_EQ(item.GetDistance(), 2.00001);
+    EXPECT_TRUE(item.SetStringValue(L"U2:2.0000"));
+    EXPECT_EQ(item.GetDistance(), 2.0);
+}
+
+TEST_F(DistanceItem, NeedsNoGridToTakeALength) {
+    CDistanceItem alone(nullptr, 2.0);
+    EXPECT_TRUE(alone.SetStringValue(L"3"));
+    EXPECT_EQ(alone.GetDistance(), 3.0);
+}
+
+TEST_F(DistanceItem, KeepsAZeroWhoseSignAloneIsTypedAnew) {
+    CDistanceItem zero(nullptr, 0.0);
+    EXPECT_FALSE(zero.SetStringValue(L"-0"));
+    EXPECT_FALSE(std::signbit(zero.GetDistance()));
+}
+
+TEST_F(DistanceItem, IsDrawnWhenItWasAddedAsAnItemOfItsKind) {
+    CDistanceItem other(nullptr, 5.0);
+    const UINT added = grid.AddItem(0, IT_CUSTOM, L"Height", static_cast<ICustomItem*>(&other));
+    ASSERT_NE(added, CPropertyGrid::NO_ID);
+    EXPECT_EQ(other.m_pGrid, &grid);
+    EXPECT_TRUE(CGridPicture(grid).Has(ValueOfRow(1), editable));
 }
 
 TEST_F(DistanceItem, ReadsATypedLengthInTheDrawingsUnits) {

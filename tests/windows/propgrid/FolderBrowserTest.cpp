@@ -1,5 +1,5 @@
 // The folder browser, driven for real: confirmed, cancelled, and what it opens with.
-#include "propgrid/FolderBrowser.h"
+#include "propgrid/editors/FolderBrowser.h"
 
 #include <commctrl.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,9 @@
 // The grid's list and calendar: when and where they open, with what, each of their endings, what becomes of
 // the choice.
-#include "propgrid/PropertyGridCombo.h"
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include <cmath>
+
+#include "propgrid/editors/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"
@@ -117,6 +119,7 @@ TEST_F(GridDropDown, ABooleanOffersItsTwoTexts) {
     EXPECT_FALSE(Value<bool>(item));
     EXPECT_EQ(grid.GetItemText(item), L"Off");
     EXPECT_EQ(parent.changedItems, Ids{item});
+    EXPECT_EQ(parent.changedValues, Texts{L"Off"}) << "stored before it is notified";
     ExpectNoEditorLeft();
 }
 
@@ -129,6 +132,7 @@ TEST_F(GridDropDown, AChoiceByKeyStoresAndTellsOnce) {
     ::SendMessage(List(), WM_KEYDOWN, VK_RETURN, 1);
     EXPECT_EQ(Value<int>(item), 2);
     EXPECT_EQ(parent.changedItems, Ids{item});
+    EXPECT_EQ(parent.changedValues, Texts{L"c"}) << "stored before it is notified";
     ExpectNoEditorLeft();
 }
 
@@ -223,19 +227,43 @@ TEST_F(GridDropDown, AListWithoutChoicesIsHarmless) {
     ExpectNoEditorLeft();
 }
 
-TEST_F(GridDropDown, AChoiceForAnotherKindIsIgnoredAndLeavesTheList) {
+TEST_F(GridDropDown, AChoiceForAnotherKindIsIgnored) {
     const UINT item = AddCombo();
-    ClickOn(ValueOf(item));
-    const HWND list = List();
     const UINT integer = grid.AddIntegerItem(section, L"integer", 7);
     for (const UINT focused : {integer, CPropertyGrid::NO_ID}) {
         grid.SetFocusedItem(focused);
         Choose(2);
-        EXPECT_EQ(List(), list);
     }
+    // Nor does it end the editor that is open.
+    ClickOn(ValueOf(integer));
+    const HWND edit = Edit();
+    ASSERT_NE(edit, nullptr);
+    Choose(2);
+    EXPECT_EQ(Edit(), edit);
     EXPECT_EQ(Value<int>(integer), 7);
     EXPECT_EQ(Value<int>(item), 1);
     EXPECT_TRUE(parent.changedItems.empty());
+}
+
+// The client hears of the choice while the list is still there, so that it may look at it.
+TEST_F(GridDropDown, AListIsDestroyedAfterTheNotificationOfItsChoice) {
+    const UINT combo = AddCombo(0);
+    const UINT boolean = grid.AddBooleanItem(section, L"bool", true);
+    const UINT date = AddDate();
+    CListeningOwner owner;
+    grid.SetOwner(&owner);
+    for (const UINT item : {combo, boolean, date}) {
+        ClickOn(ValueOf(item));
+        const HWND editor = List() != nullptr ? List() : Calendar();
+        ASSERT_NE(editor, nullptr);
+        bool wasThere = false;
+        owner.heard = [&](UINT) { wasThere = ::IsWindow(editor) != FALSE; };
+        ::SendMessage(editor, WM_KEYDOWN, VK_RETURN, 1);
+        EXPECT_TRUE(wasThere);
+        EXPECT_FALSE(::IsWindow(editor));
+        ExpectNoEditorLeft();
+    }
+    grid.SetOwner(nullptr);
 }
 
 TEST_F(GridDropDown, AClickOnAnotherValueClosesTheListAndOpensTheNext) {
@@ -315,6 +343,7 @@ TEST_F(GridDropDown, EnterTakesTheCalendarsDate) {
     ::SendMessage(Calendar(), WM_KEYDOWN, VK_RETURN, 1);
     EXPECT_EQ(grid.GetItemText(item), L"2023-11-05");
     EXPECT_FALSE(grid.IsItemUndefined(item));
+    EXPECT_EQ(parent.changedValues, Texts{L"2023-11-05"}) << "stored before it is notified";
     EXPECT_EQ(parent.changedItems, Ids{item});
     ExpectNoEditorLeft();
 }
@@ -356,16 +385,32 @@ TEST_F(GridDropDown, ADateThatIsNoneOpensTheCalendarOnToday) {
     }
 }
 
-TEST_F(GridDropDown, ADateChosenForAnotherKindIsIgnoredAndLeavesTheCalendar) {
-    const UINT item = AddDate();
-    const UINT dateTime = grid.AddDateTimeItem(section, L"other", COleDateTime(2000, 1, 1, 0, 0, 0), L"%Y");
+TEST_F(GridDropDown, ADateChosenFromANullDateHoldsADay) {
+    COleDateTime none;
+    none.SetStatus(COleDateTime::null);
+    const UINT item = grid.AddDateItem(section, L"date", none);
     ClickOn(ValueOf(item));
-    const HWND calendar = Calendar();
+    ASSERT_NE(Calendar(), nullptr);
+    ::SendMessage(Calendar(), WM_KEYDOWN, VK_RETURN, 1);
+    const COleDateTime date = Value<COleDateTime>(item);
+    EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
+    EXPECT_EQ(date.m_dt, std::floor(date.m_dt));
+}
+
+TEST_F(GridDropDown, ADateChosenForAnotherKindIsIgnored) {
+    AddDate();
+    const UINT dateTime = grid.AddDateTimeItem(section, L"other", COleDateTime(2000, 1, 1, 0, 0, 0), L"%Y");
+    const UINT string = grid.AddStringItem(section, L"string", L"value");
     for (const UINT focused : {dateTime, CPropertyGrid::NO_ID}) {
         grid.SetFocusedItem(focused);
         grid.SendMessage(WM_GRID_DATE_CHOSEN);
-        EXPECT_EQ(Calendar(), calendar);
     }
+    // Nor does it end the editor that is open.
+    ClickOn(ValueOf(string));
+    const HWND edit = Edit();
+    ASSERT_NE(edit, nullptr);
+    grid.SendMessage(WM_GRID_DATE_CHOSEN);
+    EXPECT_EQ(Edit(), edit);
     EXPECT_EQ(grid.GetItemText(dateTime), L"2000");
     EXPECT_TRUE(parent.changedItems.empty());
 }
@@ -389,7 +434,7 @@ TEST_F(GridDropDown, LeavesNothingBehind) {
         }
         Press(CPoint(20, 190));
         Release(CPoint(20, 190));
-        parent.changedItems.clear();
+        parent.ForgetChanges();
         PumpMessages();
     };
     for (int warmUp = 0; warmUp < 3; ++warmUp) {

@@ -1,6 +1,7 @@
 // The grid's in-place edit: when and where it opens, with which text, each of its endings, what becomes of
 // the text. All runs on the checking allocator: what touches a freed editor ends the program.
 #include <clocale>
+#include <optional>
 
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
@@ -164,7 +165,8 @@ TEST_F(GridEdit, EachEndingStoresTheTextAndTellsOfItOnce) {
         ExpectNoEditorLeft();
         EXPECT_EQ(Value<std::wstring>(item), typed);
         EXPECT_EQ(parent.changedItems, Ids{item}) << number;
-        parent.changedItems.clear();
+        EXPECT_EQ(parent.changedValues, Texts{typed}) << "stored before it is notified";
+        parent.ForgetChanges();
         Release(CPoint(20, 190));
     }
 }
@@ -184,15 +186,82 @@ TEST_F(GridEdit, EscapeKeepsTheValue) {
     EXPECT_EQ(parent.changedItems, (Ids{string, real}));
 }
 
-TEST_F(GridEdit, LeavingANumberAsItStandsKeepsAllItsDigits) {
+TEST_F(GridEdit, LeavingANumberUntouchedKeepsAllItsDigits) {
     const UINT real = grid.AddDoubleItem(section, L"real", 1.23456789012);
     ClickOn(ValueOf(real));
     ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
     EXPECT_EQ(Value<double>(real), 1.23456789012);
     EXPECT_FALSE(grid.IsItemModified(real));
     ClickOn(ValueOf(real));
+    TypeInEdit(L"9");
+    ::SendMessage(Edit(), WM_CHAR, VK_ESCAPE, 1);
+    EXPECT_EQ(Value<double>(real), 1.23456789012) << "Escape puts the text back";
+    ClickOn(ValueOf(real));
     Enter(L"1.234567");
-    EXPECT_EQ(Value<double>(real), 1.234567);
+    EXPECT_EQ(Value<double>(real), 1.234567) << "a text that was set from outside is another one";
+}
+
+TEST_F(GridEdit, LeavingAStringUntouchedKeepsWhatTheEditDoesNotShow) {
+    const std::wstring twoLines = L"one\r\ntwo", withNul(L"one\0two", 7);
+    const UINT lines = grid.AddStringItem(section, L"lines", twoLines);
+    const UINT nul = grid.AddStringItem(section, L"nul", withNul);
+    for (const std::wstring typed : {L"\r", L"\x1b", L"x\x1b"}) {
+        for (const UINT item : {lines, nul}) {
+            ClickOn(ValueOf(item));
+            TypeInEdit(typed);
+            EXPECT_FALSE(grid.IsItemModified(item));
+        }
+    }
+    EXPECT_EQ(Value<std::wstring>(lines), twoLines);
+    EXPECT_EQ(Value<std::wstring>(nul), withNul);
+    ClickOn(ValueOf(nul));
+    TypeInEdit(L"one\r");
+    EXPECT_EQ(Value<std::wstring>(nul), L"one");
+}
+
+TEST_F(GridEdit, ANumberTypedExactlyAsItIsShownIsATypedNumber) {
+    const UINT real = grid.AddDoubleItem(section, L"real", 80.123456789);
+    ClickOn(ValueOf(real));
+    ASSERT_EQ(TextOf(Edit()), L"80.1235");
+    TypeInEdit(L"80.1235\r");
+    ExpectNoEditorLeft();
+    EXPECT_EQ(Value<double>(real), 80.1235);
+    EXPECT_TRUE(grid.IsItemModified(real));
+    EXPECT_EQ(parent.changedItems, Ids{real});
+}
+
+TEST_F(GridEdit, AWholeNumberTypedExactlyAsItIsShownIsTakenAndTold) {
+    const UINT integer = grid.AddIntegerItem(section, L"integer", 42, L"<%d>");
+    ClickOn(ValueOf(integer));
+    TypeInEdit(L"42\r");
+    EXPECT_EQ(Value<int>(integer), 42);
+    EXPECT_FALSE(grid.IsItemModified(integer));
+    EXPECT_EQ(parent.changedItems, Ids{integer});
+}
+
+// One character and back again: the user has seen the number and wants it as it is shown.
+TEST_F(GridEdit, ANumberThatWasChangedAndChangedBackIsATypedNumber) {
+    const UINT real = grid.AddDoubleItem(section, L"real", 80.123456789);
+    ClickOn(ValueOf(real));
+    ::SendMessage(Edit(), WM_CHAR, L'7', 1);
+    ::SendMessage(Edit(), WM_CHAR, VK_BACK, 1);
+    ASSERT_EQ(TextOf(Edit()), L"80.1235");
+    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
+    EXPECT_EQ(Value<double>(real), 80.1235);
+}
+
+TEST_F(GridEdit, ACustomItemLearnsWhetherTheTextWasTouched) {
+    custom.mode = EM_INPLACE;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    std::string touched;
+    custom.during = [&] { touched += grid.IsEditUntouched() ? 'u' : 't'; };
+    for (const std::wstring typed : {L"\r", L"custom\r", L"x\x1b", L"x\r", L"\t"}) {
+        custom.text = L"custom";
+        ClickOn(ValueOf(item));
+        TypeInEdit(typed);
+    }
+    EXPECT_EQ(touched, "ututu");
+    EXPECT_FALSE(grid.IsEditUntouched());
 }
 
 TEST_F(GridEdit, AfterEnterTheGridHasTheFocusAndTheKeysMoveOn) {
@@ -247,7 +316,7 @@ TEST_F(GridEdit, TheEndOfTheGridStoresTheTextAndFreesTheEdit) {
         EXPECT_TRUE(other.GetItemValue(item, value));
         EXPECT_EQ(value, 23);
         EXPECT_EQ(parent.changedItems, Ids{item});
-        Ids().swap(parent.changedItems);
+        parent.ForgetChanges();
     }
     EXPECT_EQ(HeapBlockCount(), blocks);
 }
@@ -327,7 +396,7 @@ TEST_F(GridEdit, ANumberIsReadBackAsItShowsInEveryLocale) {
 
 TEST_F(GridEdit, ACustomItemGivesAndTakesTheText) {
     for (const int mode : {EM_INPLACE, EM_INPLACE_BUTTON}) {
-        parent.changedItems.clear();
+        parent.ForgetChanges();
         custom.calls.clear();
         custom.text = L"old";
         custom.mode = mode;
@@ -392,6 +461,23 @@ TEST_F(GridEdit, TheButtonOfAnItemThatTheKeyboardFocusedAfterAnotherWasEditedFir
     EXPECT_EQ(custom.calls, std::vector<std::string>{"button"});
 }
 
+// Whether the press that focuses counts as one on the button, too.
+TEST_F(GridEdit, TheTextPartOfTheFocusingPressEndsARowsHeightFromTheRight) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    const CPoint edge(300 - RowHeight(), ButtonOf(item).y);
+    Press(edge);
+    Release(edge);
+    EXPECT_NE(Edit(), nullptr);
+    EXPECT_TRUE(custom.calls.empty());
+    ClickOn(CPoint(20, 190));
+    custom.calls.clear();
+    Press(CPoint(edge.x - 1, edge.y));
+    Release(edge);
+    EXPECT_EQ(Edit(), nullptr);
+    EXPECT_EQ(custom.calls, std::vector<std::string>{"button"});
+}
+
 TEST_F(GridEdit, TheEdgeOfTheButtonIsARowsHeightFromTheRight) {
     custom.mode = EM_INPLACE_BUTTON;
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
@@ -402,20 +488,87 @@ TEST_F(GridEdit, TheEdgeOfTheButtonIsARowsHeightFromTheRight) {
     EXPECT_NE(Edit(), nullptr);
 }
 
-TEST_F(GridEdit, AMessageBoxOfTheCustomItemLeavesTheOrderAsItIs) {
-    custom.mode = EM_INPLACE;
+TEST_F(GridEdit, AMessageBoxThatEndsTheEditEndsThePressToo) {
+    custom.mode = EM_INPLACE_BUTTON;
     custom.takesText = false;
-    custom.during = [] { ::MessageBox(nullptr, L"invalid", L"Invalid value", MB_OK); };
-    CModalHands hands;
-    hands.ThenPressOk();
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
     const UINT other = grid.AddStringItem(section, L"other", L"value");
+    const int divider = grid.GetGutterWidth();
+    for (const CPoint point :
+         {ValueOf(other), NameOf(other), ButtonOf(item), ValueOf(item), CPoint(divider, 190)}) {
+        CModalHands hands;
+        hands.ThenPressOk();
+        custom.during = [] { ::MessageBox(nullptr, L"invalid", L"Invalid value", MB_OK); };
+        ClickOn(ValueOf(item));
+        custom.calls.clear();
+        Press(point);
+        custom.during = nullptr;
+        EXPECT_EQ(hands.messages.size(), 1U);
+        EXPECT_EQ(custom.calls.size(), 1U) << "the text, and no button";
+        ExpectNoEditorLeft();
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(grid.GetFocusedItem(), item);
+        // No button is held: the mouse moves nothing, and what is released is not the grid's.
+        MoveTo(CPoint(divider + 30, 190));
+        EXPECT_EQ(grid.GetGutterWidth(), divider);
+        Release(point);
+        ExpectNoEditorLeft();
+        // The next click is a click.
+        ClickOn(NameOf(other));
+        EXPECT_EQ(grid.GetFocusedItem(), other);
+    }
+}
+
+TEST_F(GridEdit, APressWhoseButtonWentUpWhileTheEditEndedEndsThere) {
+    custom.mode = EM_INPLACE_BUTTON;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    for (const CPoint point : {ButtonOf(item), CPoint(grid.GetGutterWidth(), 190)}) {
+        ClickOn(ValueOf(item));
+        ASSERT_NE(Edit(), nullptr);
+        {
+            std::optional<CKeyHeldDown> button(VK_LBUTTON);
+            custom.during = [&] { button.reset(); };
+            Press(point);
+        }
+        ExpectNoEditorLeft();
+        EXPECT_EQ(::GetCapture(), nullptr);
+        custom.during = nullptr;
+    }
+}
+
+TEST_F(GridEdit, APressWhoseButtonStaysDownGoesOn) {
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
     ClickOn(ValueOf(item));
-    ClickOn(ValueOf(other));
-    EXPECT_EQ(hands.messages.size(), 1U);
+    const CKeyHeldDown button(VK_LBUTTON);
+    Press(CPoint(grid.GetGutterWidth(), 190));
+    EXPECT_EQ(::GetCapture(), grid.m_hWnd);
+    Release(CPoint(grid.GetGutterWidth(), 190));
+}
+
+TEST_F(GridEdit, ACustomItemWhoseButtonWentUpMeanwhileCapturesNothing) {
+    custom.mode = EM_CUSTOM;
+    custom.capturesMouse = true;
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    Focus(item);
+    std::optional<CKeyHeldDown> button(VK_LBUTTON);
+    custom.during = [&] { button.reset(); };
+    Press(ValueOf(item));
     EXPECT_EQ(custom.calls.size(), 1U);
-    EXPECT_EQ(grid.GetFocusedItem(), other);
-    EXPECT_EQ(TextOf(Edit()), L"value");
+    EXPECT_EQ(::GetCapture(), nullptr);
+    custom.during = nullptr;
+}
+
+// A message that waits is no message loop that ran.
+TEST_F(GridEdit, APressLeavesTheQueueAsItIs) {
+    constexpr UINT waiting = WM_APP + 1;
+    grid.PostMessage(waiting, 7);
+    const UINT item = grid.AddStringItem(section, L"name", L"value");
+    ClickOn(ValueOf(item));
+    EXPECT_NE(Edit(), nullptr);
+    MSG message = {};
+    EXPECT_TRUE(::PeekMessage(&message, grid.m_hWnd, WM_USER, 0xFFFF, PM_REMOVE));
+    EXPECT_EQ(message.message, waiting);
+    EXPECT_FALSE(::PeekMessage(&message, grid.m_hWnd, WM_USER, 0xFFFF, PM_REMOVE));
 }
 
 TEST_F(GridEdit, AnEditThatOpensDuringTheEndOfAnotherStaysOpen) {
@@ -473,53 +626,44 @@ TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenItHearsOfTheChange) {
     EXPECT_EQ(Value<std::wstring>(item), L"c");
 }
 
-TEST_F(GridEdit, RemovingTheRowsLeavesAnOpenEditAlone) {
+TEST_F(GridEdit, RemovingTheRowsStoresTheTextFirst) {
     const UINT item = grid.AddStringItem(section, L"a", L"b");
     ClickOn(ValueOf(item));
-    ::SetWindowText(Edit(), L"typed");
+    TypeInEdit(L"typed");
     grid.ResetContents();
-    ASSERT_NE(Edit(), nullptr);
-    // The focus stays with the id, and so does the text.
-    const UINT again = grid.AddStringItem(grid.AddSection(L""), L"z", L"");
-    ASSERT_EQ(again, item);
-    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
-    EXPECT_EQ(Value<std::wstring>(again), L"typed");
     ExpectNoEditorLeft();
+    EXPECT_EQ(parent.changedItems, Ids{item});
+    EXPECT_EQ(parent.changedValues, Texts{L"typed"});
+    // The focus stays with the id; the text does not.
+    const UINT again = grid.AddStringItem(grid.AddSection(L""), L"z", L"new");
+    ASSERT_EQ(again, item);
+    EXPECT_EQ(grid.GetFocusedItem(), again);
+    EXPECT_EQ(Value<std::wstring>(again), L"new");
 }
 
-TEST_F(GridEdit, ATextForARowThatIsGoneIsDropped) {
-    const UINT item = grid.AddStringItem(section, L"a", L"b");
-    ClickOn(ValueOf(item));
-    grid.ResetContents();
-    ::SendMessage(Edit(), WM_CHAR, VK_RETURN, 1);
-    EXPECT_EQ(EditorCount(), 0);
-    EXPECT_TRUE(parent.changedItems.empty());
-}
-
-TEST_F(GridEdit, ATextForAnotherKindIsIgnoredAndLeavesTheEdit) {
-    const UINT item = grid.AddStringItem(section, L"a", L"b");
+TEST_F(GridEdit, ATextForAnotherKindIsIgnored) {
     const UINT first = AddAllKinds(L"kinds");
     for (const EItemType kind :
          {IT_TEXT, IT_COMBO, IT_BOOLEAN, IT_DATE, IT_DATETIME, IT_FILE, IT_FOLDER, IT_COLOR, IT_FONT}) {
-        grid.SetFocusedItem(item);
-        grid.UpdateWindow();
-        ClickOn(ValueOf(item));
-        const HWND edit = Edit();
-        ASSERT_NE(edit, nullptr);
         grid.SetFocusedItem(first + kind);
         const std::wstring before = grid.GetItemText(first + kind);
         grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
-        EXPECT_EQ(Edit(), edit);
         EXPECT_EQ(grid.GetItemText(first + kind), before);
-        grid.SetFocusedItem(CPropertyGrid::NO_ID);
-        grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
-        EXPECT_EQ(Edit(), edit);
-        EXPECT_TRUE(parent.changedItems.empty());
-        Press(CPoint(20, 195));
-        ExpectNoEditorLeft();
-        Release(CPoint(20, 195));
-        parent.changedItems.clear();
     }
+    grid.SetFocusedItem(CPropertyGrid::NO_ID);
+    grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
+    EXPECT_TRUE(parent.changedItems.empty());
+}
+
+// Nor does it end the editor that is open.
+TEST_F(GridEdit, ATextForAnItemWithAListLeavesTheList) {
+    const UINT item = grid.AddComboItem(section, L"combo", {L"a", L"b"}, 0);
+    ClickOn(ValueOf(item));
+    const HWND list = List();
+    ASSERT_NE(list, nullptr);
+    grid.SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(L"1"));
+    EXPECT_EQ(List(), list);
+    EXPECT_EQ(Value<int>(item), 0);
 }
 
 TEST_F(GridEdit, ATextWithoutAnEditIsTakenTheSame) {
@@ -536,7 +680,7 @@ TEST_F(GridEdit, LeavesNothingBehind) {
         Enter(std::to_wstring(number));
         ClickOn(ValueOf(item));
         ::SendMessage(Edit(), WM_CHAR, VK_ESCAPE, 1);
-        parent.changedItems.clear();
+        parent.ForgetChanges();
         PumpMessages();
     };
     for (int number = 0; number < 3; ++number) {

@@ -1,5 +1,12 @@
 #include "tests/windows/propgrid/GridFixture.h"
 
+#include <algorithm>
+
+std::wstring ShownValue(const CPropertyGrid& grid, UINT item) {
+    ICustomItem* custom = nullptr;
+    return grid.GetItemValue(item, custom) ? custom->GetStringValue() : grid.GetItemText(item);
+}
+
 BEGIN_MESSAGE_MAP(CGridParent, CWnd)
     ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGridParent::OnGridItemChanged)
     ON_MESSAGE(WM_GETFONT, &CGridParent::OnAskedForFont)
@@ -22,7 +29,15 @@ CGridParent::~CGridParent() {
 LRESULT CGridParent::OnGridItemChanged(WPARAM item, LPARAM zero) {
     EXPECT_EQ(zero, 0);
     changedItems.push_back(static_cast<UINT>(item));
+    if (grid != nullptr) {
+        changedValues.push_back(ShownValue(*grid, static_cast<UINT>(item)));
+    }
     return 0;
+}
+
+void CGridParent::ForgetChanges() {
+    std::vector<UINT>().swap(changedItems);
+    std::vector<std::wstring>().swap(changedValues);
 }
 
 LRESULT CGridParent::OnAskedForFont(WPARAM, LPARAM) {
@@ -33,7 +48,17 @@ CGridPicture::CGridPicture(CWnd& window) {
     CRect client;
     window.GetClientRect(&client);
     m_size = client.Size();
-    if (client.IsRectEmpty()) {
+    Draw([&](CDC& dc) {
+        window.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT);
+    });
+}
+
+CGridPicture::CGridPicture(CSize size, const std::function<void(CDC&)>& draw) : m_size(size) {
+    Draw(draw);
+}
+
+void CGridPicture::Draw(const std::function<void(CDC&)>& draw) {
+    if (m_size.cx <= 0 || m_size.cy <= 0) {
         return;
     }
     BITMAPINFO info = {};
@@ -48,12 +73,33 @@ CGridPicture::CGridPicture(CWnd& window) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
     const HGDIOBJ previous = ::SelectObject(dc, bitmap.GetSafeHandle());
-    window.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), PRF_CLIENT);
+    draw(dc);
     ::GdiFlush();
     const auto* const pixels = static_cast<const unsigned*>(bits);
     m_pixels.assign(pixels,
                     pixels + static_cast<std::size_t>(m_size.cx) * static_cast<std::size_t>(m_size.cy));
     ::SelectObject(dc, previous);
+}
+
+CRect CGridPicture::Bounds(const CRect& area, COLORREF color) const {
+    CRect bounds(area.right, area.bottom, area.left, area.top);
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            if (At(x, y) == color) {
+                bounds.SetRect(std::min<int>(bounds.left, x), std::min<int>(bounds.top, y),
+                               std::max<int>(bounds.right, x + 1), std::max<int>(bounds.bottom, y + 1));
+            }
+        }
+    }
+    return bounds.left < bounds.right ? bounds : CRect();
+}
+
+bool CGridPicture::EndsInAnEllipsis(const CRect& area, COLORREF color) const {
+    const CRect all = Bounds(area, color);
+    CRect end = all;
+    end.left = end.right - 6;  // less than a letter, more than a dot
+    const CRect dots = Bounds(end, color);
+    return !all.IsRectEmpty() && dots.Height() <= 2 && all.Height() > 6 && dots.bottom == all.bottom;
 }
 
 COLORREF CGridPicture::At(int x, int y) const {

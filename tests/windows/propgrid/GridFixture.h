@@ -1,5 +1,5 @@
-// What the grid's tests share: a parent window that records what the grid tells it, a grid whose inside
-// can be looked at, and a picture of what a grid paints.
+// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a
+// grid paints.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,6 +10,11 @@
 
 #include "propgrid/PropertyGrid.h"
 
+using namespace tavrin::propgrid;
+
+// The text that an item shows, a custom item's included.
+std::wstring ShownValue(const CPropertyGrid& grid, UINT item);
+
 // A top-level window that keeps the notifications of its grid and has a font without grey edges, so that
 // the colour of a text can be read from its pixels.
 class CGridParent : public CWnd {
@@ -17,8 +22,14 @@ public:
     CGridParent();
     ~CGridParent() override;
 
+    // Drops the notifications, and the memory that they took.
+    void ForgetChanges();
+
     std::vector<UINT> changedItems;  // of WM_GRID_ITEM_CHANGED, in order
-    CFont font;                      // answered to WM_GETFONT; none when it has no handle
+    // What the items of `grid` showed at the moment of each: a notification comes after the value is stored.
+    std::vector<std::wstring> changedValues;
+    const CPropertyGrid* grid = nullptr;
+    CFont font;  // answered to WM_GETFONT; none when it has no handle
 
 protected:
     afx_msg LRESULT OnGridItemChanged(WPARAM item, LPARAM zero);
@@ -26,15 +37,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-class CTestGrid : public CPropertyGrid {
-public:
-    using CPropertyGrid::GetContents;
-};
+using CTestGrid = CPropertyGrid;
 
 // What a window paints into a device context that it is given: the client area's pixels.
 class CGridPicture {
 public:
     explicit CGridPicture(CWnd& window);
+    // What `draw` draws, on black at the start.
+    CGridPicture(CSize size, const std::function<void(CDC&)>& draw);
 
     // The colour at a point in client coordinates; CLR_INVALID outside.
     COLORREF At(int x, int y) const;
@@ -45,7 +55,15 @@ public:
         return Count(area, color) == area.Width() * area.Height();
     }
 
+    // The smallest rectangle that holds all pixels of the area that have the colour.
+    CRect Bounds(const CRect& area, COLORREF color) const;
+    // Whether the text of this colour at the end of the area is dots on the base line alone. The text before
+    // them must have tall letters, such as H.
+    bool EndsInAnEllipsis(const CRect& area, COLORREF color) const;
+
 private:
+    void Draw(const std::function<void(CDC&)>& draw);
+
     CSize m_size;
     std::vector<unsigned> m_pixels;  // 0x00RRGGBB, top down
 };
@@ -90,7 +108,10 @@ protected:
     static constexpr COLORREF nonEditable = RGB(120, 110, 0);
     static constexpr COLORREF modified = 0x0050FFFF;
 
-    GridTest() { CreateGrid(300, 200); }
+    GridTest() {
+        CreateGrid(300, 200);
+        parent.grid = &grid;
+    }
 
     void CreateGrid(int width, int height);
     int RowHeight() const { return grid.GetRowHeight(); }
@@ -148,6 +169,22 @@ protected:
         CRect header;
         EXPECT_TRUE(grid.GetSectionRects(section, glyph, header));
         return header;
+    }
+    // The grid's bold font, made as the grid makes it.
+    HFONT MakeBoldFont() {
+        LOGFONT description = {};
+        parent.font.GetLogFont(&description);
+        description.lfWeight = FW_BOLD;
+        return ::CreateFontIndirect(&description);
+    }
+    static CSize ExtentOf(const std::wstring& measured, HFONT font) {
+        const HDC dc = ::GetDC(nullptr);
+        const HGDIOBJ previous = ::SelectObject(dc, font);
+        SIZE size = {};
+        ::GetTextExtentPoint32(dc, measured.c_str(), static_cast<int>(measured.size()), &size);
+        ::SelectObject(dc, previous);
+        ::ReleaseDC(nullptr, dc);
+        return size;
     }
     // Pixels that are not the background.
     static int Ink(const CGridPicture& picture, const CRect& area) {

@@ -3,8 +3,8 @@
 #include <sstream>
 #include <utility>
 
-#include "propgrid/PropertyGridCombo.h"
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridCombo.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 
 bool CScriptedItem::OnLButtonDown(CRect place, CPoint point) {
     Note("down", place, point);
@@ -144,6 +144,17 @@ void GridInputTest::Enter(const std::wstring& typed) {
     ASSERT_NE(edit, nullptr);
     ::SetWindowText(edit, typed.c_str());
     ::SendMessage(edit, WM_CHAR, VK_RETURN, 1);
+}
+
+void GridInputTest::TypeInEdit(const std::wstring& typed) {
+    const HWND edit = Edit();
+    ASSERT_NE(edit, nullptr);
+    if (!typed.empty() && typed.front() >= L' ') {
+        ::SendMessage(edit, EM_SETSEL, 0, -1);
+    }
+    for (const wchar_t character : typed) {
+        ::SendMessage(edit, WM_CHAR, character, 1);
+    }
 }
 
 void GridInputTest::ExpectNoEditorLeft() {

@@ -86,6 +86,10 @@ protected:
     // Puts a text into the open in-place edit and ends it with Enter.
     void Enter(const std::wstring& typed);
 
+    // Types over all of the open in-place edit's text, character by character, as a person does. A text that
+    // begins with Enter, Tab or Escape types over nothing.
+    void TypeInEdit(const std::wstring& typed);
+
     // The grid holds no editor window, nor the object of one that has closed.
     void ExpectNoEditorLeft();
 
@@ -101,6 +105,7 @@ protected:
         return value;
     }
     using Ids = std::vector<UINT>;
+    using Texts = std::vector<std::wstring>;
 
     UINT section = 0;
     CScriptedItem custom;

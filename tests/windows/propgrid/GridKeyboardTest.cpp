@@ -73,11 +73,12 @@ TEST_F(GridKeyboard, AFlatListHasNoHeadersAndIgnoresCollapsing) {
 }
 
 TEST_F(GridKeyboard, TheFocusMovesInSectionOrderInTheSortedListToo) {
-    const UINT early = grid.AddStringItem(second, L"A", L"");
+    // Sorted: A B a b c d.
+    grid.AddStringItem(second, L"A", L"");
+    grid.AddStringItem(section, L"B", L"");
     grid.SetDisplayMode(CPropertyGrid::DM_SORTED);
-    grid.SetFocusedItem(d);
-    PressKey(VK_DOWN);
-    EXPECT_EQ(grid.GetFocusedItem(), early);
+    EXPECT_EQ(Walk(VK_DOWN, 7), "abBcdAa");
+    EXPECT_EQ(Walk(VK_UP, 7), "AdcBbaA");
 }
 
 TEST_F(GridKeyboard, RowsThatCannotHaveTheFocusAreSkipped) {
@@ -151,6 +152,68 @@ TEST_F(GridKeyboard, PlusAndMinusGoToTheFocusedSection) {
     grid.SetFocusedItem(a);
     Type(L'-');
     EXPECT_FALSE(grid.IsSectionCollapsed(section));
+}
+
+// A double click collapses and expands without a new layout.
+TEST_F(GridKeyboard, PlusAndMinusLayOutASectionThatIsSoAlready) {
+    const auto doubleClick = [&] {
+        CPoint header = HeaderOf(section);
+        header.x = 40;
+        DoubleClickOn(header);
+    };
+    for (int row = 0; row < 40; ++row) {
+        grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
+    const int range = ScrollInfo().nMax;
+    doubleClick();
+    ASSERT_TRUE(grid.IsSectionCollapsed(section));
+    ASSERT_TRUE(ScrollBarShows());
+    Type(L'-');
+    EXPECT_TRUE(grid.IsSectionCollapsed(section));
+    EXPECT_FALSE(ScrollBarShows());
+    doubleClick();
+    ASSERT_FALSE(grid.IsSectionCollapsed(section));
+    ASSERT_FALSE(ScrollBarShows());
+    Type(L'+');
+    EXPECT_FALSE(grid.IsSectionCollapsed(section));
+    EXPECT_TRUE(ScrollBarShows());
+    EXPECT_EQ(ScrollInfo().nMax, range);
+}
+
+TEST_F(GridKeyboard, PlusAndMinusWithoutAFocusedSectionLeaveTheLayout) {
+    CPoint header = HeaderOf(section);
+    header.x = 40;
+    for (int row = 0; row < 40; ++row) {
+        grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
+    DoubleClickOn(header);
+    for (const UINT item : {c, CPropertyGrid::NO_ID}) {
+        grid.SetFocusedItem(item);
+        Type(L'-');
+        Type(L'+');
+        EXPECT_TRUE(grid.IsSectionCollapsed(section));
+        EXPECT_TRUE(ScrollBarShows());
+    }
+}
+
+TEST_F(GridKeyboard, AStarAndASlashRecomputeTheScrollRange) {
+    for (int row = 0; row < 40; ++row) {
+        grid.AddIntegerItem(section, std::to_wstring(row), row);
+    }
+    const int range = ScrollInfo().nMax;
+    Type(L'/');
+    EXPECT_FALSE(ScrollBarShows());
+    Type(L'*');
+    EXPECT_TRUE(ScrollBarShows());
+    EXPECT_EQ(ScrollInfo().nMax, range);
+    // Also where every section is so already.
+    CPoint header = HeaderOf(section);
+    header.x = 40;
+    grid.SetSectionCollapsed(second, true);
+    DoubleClickOn(header);
+    ASSERT_TRUE(ScrollBarShows());
+    Type(L'/');
+    EXPECT_FALSE(ScrollBarShows());
 }
 
 TEST_F(GridKeyboard, OtherCharactersDoNothing) {

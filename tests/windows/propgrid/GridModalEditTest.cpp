@@ -3,7 +3,7 @@
 #include <afxdtctl.h>
 #include <commctrl.h>
 
-#include "propgrid/FolderBrowser.h"
+#include "propgrid/editors/FolderBrowser.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
 #include "tests/windows/support/ModalHands.h"
@@ -65,10 +65,11 @@ protected:
     static void SetTime(HWND picker, const SYSTEMTIME& time) {
         ::SendMessage(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
     }
-    // Whether the last edit was told of once, or not at all.
+    // Whether the last edit was told of once, when its value was stored already, or not at all.
     void ExpectTold(UINT item) {
         EXPECT_EQ(parent.changedItems, Ids{item});
-        parent.changedItems.clear();
+        EXPECT_EQ(parent.changedValues, Texts{ShownValue(grid, item)});
+        parent.ForgetChanges();
     }
     void ExpectNotTold() { EXPECT_TRUE(parent.changedItems.empty()); }
 
@@ -394,7 +395,7 @@ TEST_F(GridModalEdit, LeavesNothingBehind) {
             Edit(first + kind, button);
         }
         hands.Forget();
-        parent.changedItems.clear();
+        parent.ForgetChanges();
         PumpMessages();
     };
     for (int warmUp = 0; warmUp < 2; ++warmUp) {

@@ -17,6 +17,8 @@
 
 namespace tests {
 
+using namespace tavrin::propgrid;
+
 inline constexpr UINT kNoId = 0xFFFFFFFF;
 
 // A custom item that draws a figure in its cell with what the grid selected, and leaves the device context in

@@ -135,6 +135,51 @@ TEST_F(GridMouse, TheButtonOfARowInACollapsedSectionIsGone) {
     EXPECT_EQ(EditorCount(), 0);
 }
 
+TEST_F(GridMouse, TheEditButtonOfTheRowThatHadTheFocusIsNoButtonAnyMore) {
+    const UINT string = grid.AddStringItem(section, L"string", L"value");
+    const UINT item = grid.AddCustomItem(section, L"custom", &custom);
+    Focus(string);
+    grid.UpdateWindow();
+    PressKey(VK_DOWN);
+    ASSERT_EQ(grid.GetFocusedItem(), item);
+    ClickOn(ValueOf(string));
+    EXPECT_EQ(grid.GetFocusedItem(), string);
+    EXPECT_EQ(TextOf(Edit()), L"value");
+    EXPECT_EQ(custom.calls.size(), 1U) << "the press, and no release";
+}
+
+TEST_F(GridMouse, AnyMoveOfTheFocusEmptiesTheEditButtonUntilTheNextPaint) {
+    const UINT string = grid.AddStringItem(section, L"string", L"value");
+    const UINT item = grid.AddCustomItem(section, L"custom", &custom);
+    const std::vector<std::function<void()>> moves = {
+        [&] { PressKey(VK_DOWN); },
+        [&] { PressKey(VK_UP); },
+        [&] { grid.SetFocusedItem(item); },
+        [&] { grid.SetFocusedItem(CPropertyGrid::NO_ID); },
+        [&] { grid.SetFocusedSection(section); },
+        [&] { Press(CPoint(20, 190)); },
+    };
+    for (const auto& move : moves) {
+        grid.SetFocusedItem(string);
+        grid.UpdateWindow();
+        ASSERT_FALSE(grid.GetEditButtonRect().IsRectEmpty());
+        move();
+        EXPECT_TRUE(grid.GetEditButtonRect().IsRectEmpty());
+        grid.UpdateWindow();
+        EXPECT_TRUE(grid.GetEditButtonRect().IsRectEmpty()) << "no row with an editor is focused";
+    }
+}
+
+// A press on the value has focused the item, or was not captured: its release is nobody's.
+TEST_F(GridMouse, ACustomItemThatDoesNotCaptureHearsOfNoRelease) {
+    const UINT item = grid.AddCustomItem(section, L"name", &custom);
+    ClickOn(ValueOf(item));
+    EXPECT_TRUE(custom.calls.empty()) << "the press that focuses";
+    ClickOn(ValueOf(item));
+    ASSERT_EQ(custom.calls.size(), 1U);
+    EXPECT_EQ(custom.calls[0].substr(0, 4), "down");
+}
+
 TEST_F(GridMouse, ACustomItemMayCaptureTheMouse) {
     custom.capturesMouse = true;
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
@@ -263,6 +308,7 @@ TEST_F(GridMouse, ADoubleClickInvertsABoolean) {
     DoubleClickOn(NameOf(item));
     EXPECT_FALSE(Value<bool>(item));
     EXPECT_EQ(parent.changedItems, Ids{item});
+    EXPECT_EQ(parent.changedValues, Texts{L"False"}) << "stored before it is notified";
 }
 
 TEST_F(GridMouse, ADoubleClickGoesThroughTheChoicesOfACombo) {
@@ -272,6 +318,7 @@ TEST_F(GridMouse, ADoubleClickGoesThroughTheChoicesOfACombo) {
     DoubleClickOn(NameOf(item));
     EXPECT_EQ(Value<int>(item), 0);
     EXPECT_EQ(parent.changedItems, (Ids{item, item}));
+    EXPECT_EQ(parent.changedValues, (Texts{L"c", L"a"})) << "stored before it is notified";
 }
 
 TEST_F(GridMouse, ADoubleClickBringsAnIndexOutsideBackToTheChoices) {

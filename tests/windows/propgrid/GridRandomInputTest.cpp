@@ -134,7 +134,7 @@ protected:
         AddAllKinds(L"Second");
         grid.SetFocusedItem(CPropertyGrid::NO_ID);
         grid.SetGutterWidth(150);
-        Ids().swap(parent.changedItems);
+        parent.ForgetChanges();
         PumpMessages();
     }
 

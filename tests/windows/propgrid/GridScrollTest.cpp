@@ -175,7 +175,7 @@ TEST_F(GridScroll, TheWheelAndTheBarEndAnOpenEdit) {
     int typed = 100;
     for (const auto& scroll : scrolls) {
         Scroll(SB_THUMBPOSITION, 5);
-        parent.changedItems.clear();
+        parent.ForgetChanges();
         ClickOn(ValueOf(items[4]));
         ASSERT_NE(Edit(), nullptr);
         ::SetWindowText(Edit(), std::to_wstring(++typed).c_str());

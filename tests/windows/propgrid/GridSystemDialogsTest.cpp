@@ -6,8 +6,9 @@
 
 #include <cwchar>
 
-#include "propgrid/FolderBrowser.h"
-#include "propgrid/GridDialogs.h"
+#include "propgrid/editors/FolderBrowser.h"
+#include "propgrid/editors/GridDialogs.h"
+#include "propgrid/painter/FrameworkTypes.h"
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/ImportHook.h"
 
@@ -30,9 +31,19 @@ protected:
     GridSystemDialogs() : m_title(FolderBrowseTitle()) {}
     ~GridSystemDialogs() override { FolderBrowseTitle() = m_title; }
 
+    // Runs the dialog of an item.
+    std::optional<Value> Ask(EItemType kind, Value value, const std::vector<std::wstring>& options = {}) {
+        GridItem item;
+        item.kind = kind;
+        item.value = std::move(value);
+        item.options = options;
+        return AskForValue({&parent, nullptr, m_texts}, item);
+    }
+
     CGridParent parent;
 
 private:
+    GridTexts m_texts;
     std::wstring m_title;
 };
 
@@ -49,9 +60,8 @@ TEST_F(GridSystemDialogs, AFileIsAskedForWithTheFilterTheNameAndNoExtension) {
             std::wcscpy(dialog->lpstrFile, L"D:\\new.txt");
             return TRUE;
         });
-    std::wstring path = L"D:\\old.txt";
-    EXPECT_TRUE(AskForFile(&parent, L"Texts|*.txt|All|*||", path));
-    EXPECT_EQ(path, L"D:\\new.txt");
+    EXPECT_EQ(Ask(IT_FILE, std::wstring(L"D:\\old.txt"), {L"Texts|*.txt|All|*||"}),
+              Value(std::wstring(L"D:\\new.txt")));
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(name, L"D:\\old.txt");
     EXPECT_EQ(filter, std::wstring(L"Texts\0*.txt\0All\0*\0", 18));
@@ -71,9 +81,7 @@ TEST_F(GridSystemDialogs, AColourIsAskedForWithoutAnyFlags) {
             dialog->rgbResult = RGB(4, 5, 6);
             return TRUE;
         });
-    COLORREF color = RGB(1, 2, 3);
-    EXPECT_TRUE(AskForColor(&parent, color));
-    EXPECT_EQ(color, RGB(4, 5, 6));
+    EXPECT_EQ(Ask(IT_COLOR, Color{RGB(1, 2, 3)}), Value(Color{RGB(4, 5, 6)}));
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(initial, RGB(1, 2, 3));
     // What the framework itself needs apart.
@@ -90,10 +98,11 @@ TEST_F(GridSystemDialogs, AFontIsAskedForAmongThoseOfTheScreenWithEffects) {
             dialog->lpLogFont->lfHeight = -20;
             return TRUE;
         });
-    LOGFONTW font = {};
-    font.lfHeight = -12;
-    EXPECT_TRUE(AskForFont(&parent, font));
-    EXPECT_EQ(font.lfHeight, -20);
+    FontValue font;
+    font.height = -12;
+    const std::optional<Value> chosen = Ask(IT_FONT, std::make_shared<const FontValue>(font));
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(std::get<FontPointer>(*chosen)->height, -20);
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(initialHeight, -12);
     EXPECT_EQ(flags & ~DWORD{CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK}, DWORD{CF_SCREENFONTS | CF_EFFECTS});
@@ -138,10 +147,9 @@ TEST_F(GridSystemDialogs, AFolderIsAskedForAmongThoseOfTheFileSystemWithTheOldOn
             selected = browser.selected;
             return AnyFolder();
         });
-    const std::wstring newTitle = L"Where to?";
-    std::wstring path = L"D:\\old";
-    EXPECT_TRUE(AskForFolder(&parent, &newTitle, path));
-    EXPECT_EQ(::lstrcmpi(path.c_str(), L"C:\\windows"), 0);
+    const std::optional<Value> path = Ask(IT_FOLDER, std::wstring(L"D:\\old"), {L"Where to?"});
+    ASSERT_TRUE(path);
+    EXPECT_EQ(::lstrcmpi(std::get<std::wstring>(*path).c_str(), L"C:\\windows"), 0);
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(flags, 0x49U);
     EXPECT_EQ(title, L"Where to?");
@@ -157,9 +165,7 @@ TEST_F(GridSystemDialogs, AFolderWithoutAPathIsNoChoice) {
     std::wstring browsed = L"D:\\old";
     EXPECT_TRUE(BrowseForFolder(browsed, parent.m_hWnd));
     EXPECT_EQ(browsed, L"");
-    std::wstring asked = L"D:\\old";
-    EXPECT_FALSE(AskForFolder(&parent, nullptr, asked));
-    EXPECT_EQ(asked, L"D:\\old");
+    EXPECT_FALSE(Ask(IT_FOLDER, std::wstring(L"D:\\old")));
 }
 
 }  // namespace

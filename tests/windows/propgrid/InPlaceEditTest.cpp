@@ -1,6 +1,6 @@
 // The in-place edit: how it opens, what its keys do, each of its endings, and that nothing of it is touched
 // once the grid has been told.
-#include "propgrid/PropertyGridInPlaceEdit.h"
+#include "propgrid/editors/PropertyGridInPlaceEdit.h"
 
 #include <ostream>
 

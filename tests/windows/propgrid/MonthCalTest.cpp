@@ -2,7 +2,7 @@
 // touched once the grid has been told.
 #include <ostream>
 
-#include "propgrid/PropertyGridMonthCalCtrl.h"
+#include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/HandleCount.h"
@@ -190,6 +190,70 @@ TEST_F(MonthCal, StaysWhileAChildOfItsOwnHasTheFocus) {
     ::SetFocus(grid.m_hWnd);
     EXPECT_FALSE(::IsWindow(calendar));
     EXPECT_TRUE(grid.reports.empty());
+}
+
+// The year is edited in an edit that has the focus in place of the calendar.
+class MonthCalYear : public MonthCal {
+protected:
+    HWND OpenYear() {
+        const HWND calendar = Open().m_hWnd;
+        ::UpdateWindow(calendar);  // places the year
+        MonthCal::Press(calendar, Find(calendar, MCHT_TITLEYEAR));
+        m_edit = ::GetFocus();
+        EXPECT_EQ(::GetParent(m_edit), calendar);
+        EXPECT_NE(m_edit, nullptr);
+        return calendar;
+    }
+    HWND m_edit = nullptr;
+};
+
+TEST_F(MonthCalYear, ClosesTheCalendarByEscape) {
+    const HWND calendar = OpenYear();
+    ::SendMessage(m_edit, WM_KEYDOWN, VK_ESCAPE, 1);
+    EXPECT_FALSE(::IsWindow(calendar));
+    EXPECT_TRUE(grid.reports.empty());
+}
+
+TEST_F(MonthCalYear, ClosesTheCalendarWhenTheFocusGoesOutside) {
+    const std::vector<std::function<void()>> losses = {
+        [&] { sibling.SetFocus(); }, [&] { ::SetFocus(grid.m_hWnd); }, [&] { parent.SetFocus(); },
+        [&] { ::SetFocus(nullptr); }};
+    for (const auto& lose : losses) {
+        grid.CloseEditor();
+        const HWND calendar = OpenYear();
+        lose();
+        EXPECT_FALSE(::IsWindow(calendar));
+        EXPECT_TRUE(grid.reports.empty());
+    }
+}
+
+TEST_F(MonthCalYear, LeavesTheCalendarOpenWhenTheFocusComesBackToIt) {
+    const HWND calendar = OpenYear();
+    ::SetFocus(calendar);
+    EXPECT_TRUE(::IsWindow(calendar));
+    EXPECT_EQ(::GetFocus(), calendar);
+    ::SendMessage(calendar, WM_KEYDOWN, VK_RETURN, 1);
+    EXPECT_EQ(grid.reports, std::vector{dateChosen});
+}
+
+TEST_F(MonthCalYear, IsEditedMoreThanOnce) {
+    const HWND calendar = OpenYear();
+    MonthCal::Press(calendar, Find(calendar, MCHT_TITLEBTNNEXT));
+    ASSERT_TRUE(::IsWindow(calendar));
+    ::UpdateWindow(calendar);
+    MonthCal::Press(calendar, Find(calendar, MCHT_TITLEYEAR));
+    const HWND edit = ::GetFocus();
+    ASSERT_EQ(::GetParent(edit), calendar);
+    ::SendMessage(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+    EXPECT_FALSE(::IsWindow(calendar));
+}
+
+TEST_F(MonthCalYear, LeavesOtherKeysToTheEdit) {
+    const HWND calendar = OpenYear();
+    EXPECT_EQ(::SendMessage(m_edit, WM_GETDLGCODE, 0, 0), DLGC_WANTALLKEYS);
+    ::SendMessage(m_edit, WM_KEYDOWN, VK_LEFT, 1);
+    EXPECT_TRUE(::IsWindow(calendar));
+    EXPECT_TRUE(::IsWindow(m_edit));
 }
 
 TEST_F(MonthCal, ClosesWhenAChildOfAnotherWindowTakesTheFocus) {

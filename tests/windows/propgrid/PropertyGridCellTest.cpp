@@ -65,6 +65,42 @@ TEST_F(PropertyGridCell, DrawsTheButtonsOfTheModesDifferently) {
     EXPECT_NE(inkOf(EM_MODAL), inkOf(EM_INPLACE_BUTTON)) << "flat";
 }
 
+TEST_F(PropertyGridCell, WritesThreeDotsBoldInTheMiddleOfAButton) {
+    Plain();
+    CFont bold;
+    bold.Attach(MakeBoldFont());
+    const CRect square(0, 0, RowHeight(), RowHeight());
+    const COLORREF ink = ::GetSysColor(COLOR_BTNTEXT);
+    // Where the dots are by themselves.
+    const auto draw = [&](HFONT font, UINT format) {
+        return CGridPicture(square.Size(), [&](CDC& dc) {
+            dc.FillSolidRect(&square, back);
+            const HGDIOBJ previous = ::SelectObject(dc, font);
+            dc.SetTextColor(ink);
+            dc.SetBkMode(TRANSPARENT);
+            CRect rect = square;
+            dc.DrawText(L"...", 3, &rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | format);
+            ::SelectObject(dc, previous);
+        });
+    };
+    const CGridPicture expected = draw(bold, DT_CENTER);
+    ASSERT_NE(expected.Count(square, ink), draw(parent.font, DT_CENTER).Count(square, ink)) << "normal";
+    ASSERT_NE(expected.Bounds(square, ink), draw(bold, 0).Bounds(square, ink)) << "at the left";
+    CRecordingItem custom;
+    grid.SetFocusedItem(grid.AddCustomItem(grid.AddSection(L""), L"", &custom));
+    for (const int mode : {EM_MODAL, EM_INPLACE_BUTTON}) {
+        custom.mode = mode;
+        const CGridPicture picture(grid);
+        // Inside the button's edges, which may have the colour too.
+        for (int y = 2; y < RowHeight() - 2; ++y) {
+            for (int x = 2; x < RowHeight() - 2; ++x) {
+                EXPECT_EQ(picture.At(300 - RowHeight() + x, y) == ink, expected.At(x, y) == ink)
+                    << x << ' ' << y;
+            }
+        }
+    }
+}
+
 TEST_F(PropertyGridCell, DrawsNoButtonForAnItemThatIsNotEditableOrNotFocused) {
     Plain();
     const UINT section = grid.AddSection(L"");
@@ -77,18 +113,17 @@ TEST_F(PropertyGridCell, DrawsNoButtonForAnItemThatIsNotEditableOrNotFocused) {
     EXPECT_TRUE(grid.GetEditButtonRect().IsRectNull());
 }
 
-TEST_F(PropertyGridCell, KeepsTheRecordedButtonWhileNoOtherIsDrawn) {
+TEST_F(PropertyGridCell, RecordsNoButtonForAFocusedItemWithoutOne) {
     Plain();
     const UINT section = grid.AddSection(L"");
     const UINT combo = grid.AddComboItem(section, L"combo", {}, 0);
     const UINT locked = grid.AddComboItem(section, L"locked", {}, 0, false);
     grid.SetFocusedItem(combo);
     CGridPicture first(grid);
-    const CRect button = grid.GetEditButtonRect();
-    EXPECT_FALSE(button.IsRectEmpty());
+    EXPECT_FALSE(grid.GetEditButtonRect().IsRectEmpty());
     grid.SetFocusedItem(locked);
     CGridPicture second(grid);
-    EXPECT_EQ(grid.GetEditButtonRect(), button);
+    EXPECT_TRUE(grid.GetEditButtonRect().IsRectEmpty());
 }
 
 // ---- Values
@@ -283,6 +318,22 @@ TEST_F(PropertyGridCell, LetsACustomItemDrawItsValueAndTakesTheDeviceContextBack
     CGridPicture again(grid);
     EXPECT_TRUE(custom.drawings.back().focused);
     EXPECT_FALSE(locked.drawings.back().focused);
+}
+
+TEST_F(PropertyGridCell, GivesACustomItemABrushOfTheTextColour) {
+    Plain();
+    class CFillingItem : public CRecordingItem {
+    public:
+        void DrawItem(CDC& dc, CRect rect, bool) override { dc.Rectangle(&rect); }
+    } custom;
+    const UINT section = grid.AddSection(L"");
+    grid.AddStringItem(section, L"before", L"");
+    const UINT id = grid.AddCustomItem(section, L"custom", &custom);
+    const CGridPicture picture(grid);
+    CRect cell = ValueRect(id);
+    EXPECT_TRUE(picture.Is({cell.left, cell.top, cell.right, cell.top + 1}, shade)) << "the pen";
+    cell.DeflateRect(1, 1);
+    EXPECT_TRUE(picture.Is(cell, text)) << "the brush";
 }
 
 // ---- Odd geometry

@@ -131,6 +131,15 @@ TEST_F(PropertyGridLife, KeepsItsContentsWhenItsWindowGoesAndIsMadeAgain) {
     EXPECT_TRUE(grid.GetDlgItem(1000)->IsWindowVisible());
 }
 
+TEST_F(PropertyGridLife, TakesOverAControlAfterACreationThatFailed) {
+    MakeControl(L"Static", L"", SS_BLACKFRAME, 100);
+    CTestGrid grid;
+    EXPECT_FALSE(grid.Create(L"no such class", L"", WS_CHILD, CRect(0, 0, 10, 10), &parent, 101));
+    ASSERT_TRUE(grid.SubclassDlgItem(100, &parent));
+    EXPECT_GT(grid.GetRowHeight(), 4);
+    EXPECT_EQ(grid.GetGutterWidth(), 100);
+}
+
 TEST_F(PropertyGridLife, EndsWithItsObject) {
     HWND window = nullptr;
     {

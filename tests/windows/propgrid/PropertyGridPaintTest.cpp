@@ -1,7 +1,11 @@
 // The rows that the grid paints, by pixels: headers, bands, lines, names, their order, and what it records
 // of them. Rows are counted from the top of the window.
 #include <algorithm>
+#include <climits>
+#include <map>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/Pixels.h"
@@ -127,29 +131,45 @@ TEST_F(PropertyGridPaint, EndsALongSectionNameInTheWindow) {
     EXPECT_TRUE(CGridPicture(grid).Has({250, 0, 300, RowHeight()}, title));
 }
 
+TEST_F(PropertyGridPaint, EndsASectionNameThatIsTooLongInAnEllipsis) {
+    const std::wstring name(20, L'H');
+    grid.AddSection(name);
+    grid.SetDrawDivider(false);
+    CFont bold;
+    bold.Attach(MakeBoldFont());
+    const int fits = 18 + ExtentOf(name, bold).cx;
+    const auto endsInAnEllipsis = [&](int width) {
+        grid.MoveWindow(0, 0, width, 200);
+        return CGridPicture(grid).EndsInAnEllipsis({18, 1, width, RowHeight()}, title);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits + 1));
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(fits / 2));
+}
+
 TEST_F(PropertyGridPaint, FramesTheNameOfTheFocusedSection) {
-    grid.AddSection(L"HH");
+    grid.AddSection(L"HHHH");
     const CGridPicture without(grid);
     grid.SetFocusedSection(0);
     const CGridPicture with(grid);
-    int changed = 0;
-    int left = 300;
-    int right = -1;
-    for (int y = 0; y < RowHeight(); ++y) {
+    CRect frame(300, 200, 0, 0);
+    for (int y = 0; y < 200; ++y) {
         for (int x = 0; x < 300; ++x) {
-            if (with.At(x, y) == without.At(x, y)) {
-                continue;
+            if (with.At(x, y) != without.At(x, y)) {
+                frame.SetRect(std::min<int>(frame.left, x), std::min<int>(frame.top, y),
+                              std::max<int>(frame.right, x + 1), std::max<int>(frame.bottom, y + 1));
             }
-            ++changed;
-            left = std::min(left, x);
-            right = std::max(right, x);
         }
     }
-    EXPECT_GT(changed, 10);
-    EXPECT_GE(left, 14);
-    EXPECT_LE(left, 15) << "every second pixel is set";
-    EXPECT_GT(right, 20);
-    EXPECT_LT(right, 60);
+    CFont bold;
+    bold.Attach(MakeBoldFont());
+    const CSize name = ExtentOf(L"HHHH", bold);
+    const int top = (RowHeight() - name.cy) / 2;
+    EXPECT_EQ(frame.left, 14);
+    EXPECT_EQ(frame.top, top);
+    EXPECT_EQ(frame.right, name.cx + 20);
+    EXPECT_EQ(frame.bottom, top + name.cy);
 }
 
 TEST_F(PropertyGridPaint, DrawsNoHeadersInTheFlatDisplays) {
@@ -305,6 +325,34 @@ TEST_F(PropertyGridPaint, KeepsLongTextsInTheirColumns) {
     EXPECT_EQ(Ink(picture, {0, RowHeight(), 300, 200}), 0);
 }
 
+// The name's column ends one pixel before the divider.
+TEST_F(PropertyGridPaint, EndsANameThatIsTooLongForItsColumnInAnEllipsis) {
+    Plain();
+    const std::wstring name(8, L'H');
+    grid.AddStringItem(grid.AddSection(L""), name, L"");
+    const int fits = 18 + ExtentOf(name, parent.font).cx + 1;
+    const auto endsInAnEllipsis = [&](int gutter) {
+        grid.SetGutterWidth(gutter);
+        return CGridPicture(grid).EndsInAnEllipsis({18, 0, gutter, RowHeight()}, text);
+    };
+    EXPECT_FALSE(endsInAnEllipsis(fits + 1));
+    EXPECT_FALSE(endsInAnEllipsis(fits));
+    EXPECT_TRUE(endsInAnEllipsis(fits - 1));
+    EXPECT_TRUE(endsInAnEllipsis(fits / 2 + 18));
+}
+
+TEST_F(PropertyGridPaint, DrawsTheDividerOnePixelBelowTheLastRow) {
+    Plain();
+    grid.SetDrawDivider(true);
+    const UINT section = grid.AddSection(L"");
+    for (const int rows : {1, 2, 3}) {
+        grid.AddStringItem(section, std::to_wstring(rows), L"");
+        const CGridPicture picture(grid);
+        EXPECT_TRUE(picture.Is({150, 0, 151, rows * RowHeight() + 1}, shade));
+        EXPECT_EQ(picture.Count({0, 0, 300, 200}, shade), rows * RowHeight() + 1);
+    }
+}
+
 TEST_F(PropertyGridPaint, FillsTheNameOfTheFocusedItem) {
     Flat();
     const UINT id = grid.AddStringItem(grid.AddSection(L""), L"HH", L"");
@@ -369,27 +417,6 @@ TEST_F(PropertyGridPaint, RecordsWholeRowsAndNoValuesForRowsThatAreScrolledAway)
     EXPECT_TRUE(ValueRect(39).IsRectEmpty());
 }
 
-TEST_F(PropertyGridPaint, VisitsOnlyTheRowsInSight) {
-    const UINT section = grid.AddSection(L"HHH");
-    for (int row = 0; row < 5000; ++row) {
-        grid.AddIntegerItem(section, L"row " + std::to_wstring(row), row);
-    }
-    ScrollTo(2000 * RowHeight() + 1);
-    const auto visits = [this] {
-        const std::size_t before = grid.GetContents().GetItemsWalked();
-        CGridPicture picture(grid);
-        return grid.GetContents().GetItemsWalked() - before;
-    };
-    const auto inSight = static_cast<std::size_t>((200 + RowHeight() - 1) / RowHeight());
-    for (const UINT mode :
-         {CPropertyGrid::DM_CATEGORIZED, CPropertyGrid::DM_SORTED, CPropertyGrid::DM_FLAT}) {
-        grid.SetDisplayMode(mode);
-        visits();  // sorts
-        EXPECT_LE(visits(), inSight + 1);
-        EXPECT_GE(visits(), inSight);
-    }
-}
-
 TEST_F(PropertyGridPaint, RecordsNothingForARowThatIsAddedSince) {
     const UINT section = grid.AddSection(L"HHH");
     for (const UINT mode : {CPropertyGrid::DM_FLAT, CPropertyGrid::DM_SORTED}) {
@@ -431,6 +458,83 @@ TEST_F(PropertyGridPaint, EmptiesTheRectanglesOfASectionThatTheSortedDisplayDoes
     CGridPicture after(grid);
     EXPECT_TRUE(GlyphRect(0).IsRectEmpty());
     EXPECT_TRUE(HeaderRect(0).IsRectEmpty());
+}
+
+// ---- From right to left
+
+// What the screen shows of a window's client area, whichever way the window runs.
+class CScreenPicture {
+public:
+    explicit CScreenPicture(const CWnd& window) {
+        CRect area;
+        window.GetClientRect(&area);
+        window.ClientToScreen(&area);
+        area.NormalizeRect();
+        const HDC screen = ::GetDC(nullptr);
+        for (int y = area.top; y < area.bottom; ++y) {
+            for (int x = area.left; x < area.right; ++x) {
+                m_pixels[{x - area.left, y - area.top}] = ::GetPixel(screen, x, y);
+            }
+        }
+        ::ReleaseDC(nullptr, screen);
+    }
+    // The pixels of one colour, the leftmost and the topmost at 0.
+    std::set<std::pair<int, int>> Shape(COLORREF color) const {
+        int left = INT_MAX;
+        int top = INT_MAX;
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                left = std::min(left, place.first);
+                top = std::min(top, place.second);
+            }
+        }
+        std::set<std::pair<int, int>> shape;
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                shape.insert({place.first - left, place.second - top});
+            }
+        }
+        return shape;
+    }
+    int LeftmostOf(COLORREF color) const {
+        for (const auto& [place, pixel] : m_pixels) {
+            if (pixel == color) {
+                return place.first;
+            }
+        }
+        return -1;
+    }
+
+private:
+    std::map<std::pair<int, int>, COLORREF> m_pixels;
+};
+
+TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
+    CGridParent mirrored;
+    mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    CTestGrid rightToLeft;
+    ASSERT_TRUE(rightToLeft.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 40),
+                                   &mirrored, 100));
+    ASSERT_NE(rightToLeft.GetExStyle() & WS_EX_LAYOUTRTL, 0U);
+    CTestGrid leftToRight;
+    ASSERT_TRUE(leftToRight.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE,
+                                   CRect(0, 200, 300, 240), &mirrored, 101));
+    leftToRight.ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    for (CTestGrid* const shown : {&rightToLeft, &leftToRight}) {
+        shown->SetDisplayMode(CPropertyGrid::DM_FLAT);
+        shown->SetTextColor(text);
+        shown->SetEditableColor(editable);
+        shown->AddStringItem(shown->AddSection(L""), L"FLRE", L"JKP");
+        shown->Invalidate();
+        shown->UpdateWindow();
+    }
+    const CScreenPicture picture(rightToLeft);
+    const CScreenPicture expected(leftToRight);
+    ASSERT_GT(expected.Shape(text).size(), 20U);
+    EXPECT_EQ(picture.Shape(text), expected.Shape(text));
+    EXPECT_EQ(picture.Shape(editable), expected.Shape(editable));
+    EXPECT_GT(picture.LeftmostOf(text), 150) << "the names are at the right";
+    EXPECT_LT(expected.LeftmostOf(text), 150);
 }
 
 // ---- The window's messages

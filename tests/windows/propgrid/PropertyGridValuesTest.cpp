@@ -1,3 +1,4 @@
+#include <cmath>
 #include <cstring>
 
 #include "tests/windows/propgrid/GridFixture.h"
@@ -252,6 +253,23 @@ TEST_F(PropertyGridValues, AreRefusedForAnUnknownSection) {
     EXPECT_EQ(grid.GetItemCount(), 0U);
 }
 
+// A height of -13 pixels is 9.75 points at 96 pixels per inch.
+TEST_F(PropertyGridValues, ShowAFontsSizeInRoundedPoints) {
+    const CWindowDC screen(nullptr);
+    const double perInch = screen.GetDeviceCaps(LOGPIXELSY);
+    bool wasRoundedUp = false;
+    for (int height = 1; height < 40; ++height) {
+        LOGFONTW font = {};
+        wcscpy(font.lfFaceName, L"Tahoma");
+        font.lfHeight = -height;
+        const UINT id = grid.AddFontItem(section, std::to_wstring(height), font);
+        const double points = height * 72 / perInch;
+        EXPECT_EQ(grid.GetItemText(id), L"Tahoma; " + std::to_wstring(std::lround(points)) + L"pt");
+        wasRoundedUp = wasRoundedUp || std::lround(points) > points;
+    }
+    EXPECT_TRUE(wasRoundedUp);
+}
+
 TEST(PropertyGridCustomItem, KnowsItsGridWhenItAcceptsItsValue) {
     CTestGrid grid;
     CRecordingItem item;
@@ -274,6 +292,23 @@ TEST(PropertyGridCustomItem, StaysWithItsGridWhenAnotherRefusesIt) {
     EXPECT_EQ(second.AddCustomItem(5, L"custom", &item), none);
     EXPECT_EQ(item.m_pGrid, &first);
     EXPECT_EQ(item.accepted, 1);
+}
+
+TEST(PropertyGridCustomItem, IsAddedByItsKindAsByItsOwnAdd) {
+    CPropertyGrid grid;
+    CRecordingItem item;
+    const UINT section = grid.AddSection(L"Section");
+    ICustomItem* const custom = &item;
+    const UINT id = grid.AddItem(section, IT_CUSTOM, L"custom", custom, true, true);
+    EXPECT_EQ(item.gridWhenAccepted, &grid);
+    EXPECT_EQ(item.m_pGrid, &grid);
+    EXPECT_FALSE(grid.IsItemUndefined(id)) << "a custom item never is";
+    ICustomItem* held = nullptr;
+    EXPECT_TRUE(grid.GetItemValue(id, held));
+    EXPECT_EQ(held, custom);
+    CPropertyGrid other;
+    EXPECT_EQ(other.AddItem(5, IT_CUSTOM, L"custom", custom), none);
+    EXPECT_EQ(item.m_pGrid, &grid) << "another grid has refused it";
 }
 
 TEST(PropertyGridCustomItem, MayNotBeNull) {

@@ -1,0 +1,58 @@
+// The one editor that may be open in a property grid: a text edit, a list or a calendar.
+//
+// It ends in one of two ways. An editor that has a result sends the grid its message (GridMessages.h); the
+// grid takes it out of here with Take and lets it go when the result is dealt with. Or the grid closes it. An
+// editor that closed by itself without a result leaves its object here, which the next Close frees.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "propgrid/layout/Geometry.h"
+#include "propgrid/model/GridModel.h"
+#include "propgrid/painter/GridFonts.h"
+
+namespace tavrin::propgrid {
+
+// Destroys the window of an editor, which may bring a message about its end, before the object.
+struct EditorDeleter {
+    void operator()(CWnd* editor) const;
+};
+using EditorPointer = std::unique_ptr<CWnd, EditorDeleter>;
+
+class CGridEditors {
+public:
+    // All of them outlive this object. The editors report to `grid`.
+    CGridEditors(CWnd& grid, const CGridModel& model, const GridFonts& fonts)
+        : m_grid(grid), m_model(model), m_fonts(fonts) {}
+    CGridEditors(const CGridEditors&) = delete;
+    CGridEditors& operator=(const CGridEditors&) = delete;
+
+    bool IsOpen() const { return m_editor != nullptr && m_editor->GetSafeHwnd() != nullptr; }
+
+    // Each closes what is open. Rectangles are in client coordinates of the grid; a list and a calendar drop
+    // down under a cell.
+    void OpenTextEdit(const Rect& rect, const std::wstring& text);
+    void OpenList(const GridItem& item, const Rect& cell);
+    void OpenCalendar(const DateValue& date, const Rect& cell);
+
+    // Closes what is open. The grid has let go of the editor by then.
+    void Close() { Take(); }
+    EditorPointer Take() { return std::move(m_editor); }
+
+    // Whether the open text edit still has the text that it was opened with and the user never touched it.
+    bool IsTextUntouched() const;
+    // What is selected in the open calendar; nothing when no calendar is open.
+    std::optional<DateValue> GetCalendarDate() const;
+
+private:
+    CWnd& m_grid;
+    const CGridModel& m_model;
+    const GridFonts& m_fonts;
+    EditorPointer m_editor;
+};
+
+}  // namespace tavrin::propgrid

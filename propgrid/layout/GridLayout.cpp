@@ -1,0 +1,183 @@
+#include "propgrid/layout/GridLayout.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace tavrin::propgrid {
+
+namespace {
+
+// How far from the divider the mouse still holds it, in pixels.
+constexpr int kDividerReach = 3;
+
+}  // namespace
+
+Rect RowList::GetRow(std::uint32_t row) const {
+    const int y = top + static_cast<int>(row) * rowHeight;
+    return {0, y, area.width, y + rowHeight};
+}
+
+std::uint32_t RowList::GetFirstVisible() const {
+    return top < 0 ? static_cast<std::uint32_t>(-top / std::max(rowHeight, 1)) : 0;
+}
+
+bool RowList::IsVisible(const Rect& row) const {
+    return area.width > 0 && row.top < area.height && row.bottom > 0 && row.top < row.bottom;
+}
+
+const std::vector<const GridItem*>& CGridLayout::GetSortedItems() {
+    if (m_sortedRevision == m_model.GetRevision()) {
+        return m_sorted;
+    }
+    m_sorted.clear();
+    m_sorted.reserve(m_model.GetItemCount());
+    for (const GridSection* const section : m_model.GetSections()) {
+        m_sorted.insert(m_sorted.end(), section->items.begin(), section->items.end());
+    }
+    std::stable_sort(m_sorted.begin(), m_sorted.end(),
+                     [](const GridItem* a, const GridItem* b) { return a->name < b->name; });
+    m_sortedRows.resize(m_sorted.size());
+    for (std::uint32_t row = 0; const GridItem* const item : m_sorted) {
+        m_sortedRows[item->id] = row++;
+    }
+    m_sortedRevision = m_model.GetRevision();
+    return m_sorted;
+}
+
+const CGridLayout::SectionRecord* CGridLayout::FindRecord(const GridSection& section) const {
+    const bool exists = m_generation == m_model.GetGeneration() && section.id < m_records.size();
+    return exists ? &m_records[section.id] : nullptr;
+}
+
+CGridLayout::SectionRecord& CGridLayout::MakeRecord(const GridSection& section) {
+    if (section.id >= m_records.size()) {
+        m_records.resize(section.id + std::size_t{1});
+    }
+    return m_records[section.id];
+}
+
+// The records of rows that were removed would else be those of the new rows with their ids.
+void CGridLayout::ForgetRows() {
+    if (m_generation == m_model.GetGeneration()) {
+        return;
+    }
+    m_records = {};
+    m_sorted = {};
+    m_sortedRows = {};
+    m_sortedRevision = kNeverSorted;
+    m_generation = m_model.GetGeneration();
+}
+
+Rect CGridLayout::FindPaintedRow(const GridItem& item) const {
+    const SectionRecord* const record = FindRecord(*item.section);
+    if (record == nullptr) {
+        return {};
+    }
+    const RowList& list = record->items;
+    const bool isInList = !list.sorted || item.id < m_sortedRows.size();
+    const std::uint32_t row = !isInList ? list.rows : list.sorted ? m_sortedRows[item.id] : item.row;
+    return row < list.rows ? list.GetRow(row) : Rect();
+}
+
+Rect CGridLayout::GetNameRect(const GridItem& item) const {
+    Rect rect = FindPaintedRow(item);
+    const SectionRecord* const record = FindRecord(*item.section);
+    if (record != nullptr && record->items.IsVisible(rect)) {
+        rect.right = record->items.gutter;
+    }
+    return rect;
+}
+
+Rect CGridLayout::GetValueRect(const GridItem& item) const {
+    Rect rect = FindPaintedRow(item);
+    const SectionRecord* const record = FindRecord(*item.section);
+    if (record == nullptr || !record->items.IsVisible(rect)) {
+        return {};
+    }
+    rect.left = record->items.gutter;
+    rect.right -= record->items.buttonItem == item.id ? record->items.rowHeight : 0;
+    return rect;
+}
+
+Rect CGridLayout::GetGlyphRect(const GridSection& section) const {
+    const SectionRecord* const record = FindRecord(section);
+    return record != nullptr ? record->glyph : Rect();
+}
+
+Rect CGridLayout::GetHeaderRect(const GridSection& section) const {
+    const SectionRecord* const record = FindRecord(section);
+    return record != nullptr ? record->header : Rect();
+}
+
+Hit CGridLayout::HitTest(Point point) const {
+    Hit hit;
+    hit.onEditButton = IsOnEditButton(point);
+    hit.onDivider = IsOnDivider(point);
+    if (m_model.settings.IsCategorized() && HitSection(point, hit)) {
+        return hit;
+    }
+    for (const GridSection* const section : m_model.GetSections()) {
+        if (HitItem(*section, point, hit)) {
+            break;
+        }
+    }
+    return hit;
+}
+
+bool CGridLayout::IsOnDivider(Point point) const {
+    return std::abs(point.x - m_model.settings.gutter) < kDividerReach;
+}
+
+// The button's rectangle may outlive its row: one that was scrolled away, or whose section collapsed, has no
+// button.
+bool CGridLayout::IsOnEditButton(Point point) const {
+    const GridItem* const item = m_model.FindItem(m_model.GetFocus().item);
+    return item != nullptr && item->editable && m_model.ShowsItemsOf(*item->section) &&
+           !GetValueRect(*item).IsEmpty() && m_editButton.Contains(point);
+}
+
+bool CGridLayout::HitSection(Point point, Hit& hit) const {
+    for (const GridSection* const section : m_model.GetSections()) {
+        const bool onGlyph = GetGlyphRect(*section).Contains(point);
+        if (onGlyph || GetHeaderRect(*section).Contains(point)) {
+            hit.part = onGlyph ? HP_GLYPH : HP_HEADER;
+            hit.section = section->id;
+            return true;
+        }
+    }
+    return false;
+}
+
+// The rectangles of a collapsed section's items are those of an earlier paint.
+bool CGridLayout::HitItem(const GridSection& section, Point point, Hit& hit) const {
+    const SectionRecord* const record = FindRecord(section);
+    if (record == nullptr || !m_model.ShowsItemsOf(section)) {
+        return false;
+    }
+    const GridItem* const item = FindItemAt(section, record->items, point.y);
+    if (item == nullptr || !m_model.CanFocus(*item)) {
+        return false;
+    }
+    const bool onValue = GetValueRect(*item).Contains(point);
+    if (!onValue && !GetNameRect(*item).Contains(point)) {
+        return false;
+    }
+    hit.part = onValue ? HP_VALUE : HP_NAME;
+    hit.item = item->id;
+    return true;
+}
+
+// The section's item whose row the last paint placed at `y`.
+const GridItem* CGridLayout::FindItemAt(const GridSection& section, const RowList& list, int y) const {
+    if (list.rowHeight <= 0 || y < list.top) {
+        return nullptr;
+    }
+    const auto row = static_cast<std::uint32_t>((y - list.top) / list.rowHeight);
+    if (row >= list.rows) {
+        return nullptr;
+    }
+    const GridItem* const item = list.sorted ? m_sorted[row] : section.items[row];
+    return item->section == &section ? item : nullptr;
+}
+
+}  // namespace tavrin::propgrid

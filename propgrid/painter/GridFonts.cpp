@@ -1,0 +1,33 @@
+#include "propgrid/painter/GridFonts.h"
+
+#include "handles/GdiScopes.h"
+
+namespace tavrin::propgrid {
+
+void GridFonts::Create(const CWnd* parent) {
+    if (normal.GetSafeHandle() != nullptr) {
+        return;
+    }
+    LOGFONT description = {};
+    const CFont* const parentFont = parent != nullptr ? parent->GetFont() : nullptr;
+    if (parentFont != nullptr && parentFont->GetLogFont(&description) != 0) {
+        normal.CreateFontIndirect(&description);
+    }
+    if (normal.GetSafeHandle() == nullptr) {
+        normal.CreatePointFont(85, L"Tahoma");
+        if (normal.GetLogFont(&description) == 0) {
+            return;
+        }
+    }
+    description.lfWeight = FW_BOLD;
+    bold.CreateFontIndirect(&description);
+}
+
+int GridFonts::MeasureRowHeight(CWnd& window) const {
+    constexpr int kRowMargin = 4;
+    CClientDC dc(&window);
+    const handles::CSelectedObject font(dc, normal);
+    return dc.GetTextExtent(L"Gg", 2).cy + kRowMargin;
+}
+
+}  // namespace tavrin::propgrid

@@ -1,0 +1,61 @@
+// Draws the rows of a property grid into a device context. Everything is drawn into an off-screen picture
+// that is then copied at once, so that nothing flickers. Painting reads the model and the layout and changes
+// nothing but the rectangles that the layout records for hit tests. Its time goes by the rows in sight, not
+// by those there are.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <string>
+
+#include "propgrid/layout/PaintPass.h"
+#include "propgrid/painter/GridFonts.h"
+#include "propgrid/painter/MemoryCanvas.h"
+
+namespace tavrin::propgrid {
+
+class CGridPainter {
+public:
+    CGridPainter(const CGridModel& model, CGridLayout& layout, const GridFonts& fonts)
+        : m_model(model), m_layout(layout), m_fonts(fonts) {}
+    CGridPainter(const CGridPainter&) = delete;
+    CGridPainter& operator=(const CGridPainter&) = delete;
+
+    // Paints the whole client area of the layout's view, however little of it is invalid: every visible row
+    // gets its rectangles recorded. `buttonPressed` is the look of the edit button. True when a custom item
+    // drew, which may have done anything.
+    bool PaintWindow(CDC& target, bool buttonPressed);
+
+    // The same for a device context that is not the window's.
+    void PaintCopy(CDC& target, bool buttonPressed);
+
+    // The off-screen picture is kept for the next paint of the window: to make one costs more than to draw
+    // it.
+    void ReleaseCanvas() { m_canvas.reset(); }
+
+private:
+    struct PaintTools;
+
+    void Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools);
+    void PaintRows(PaintTools& tools);
+    void PaintBelowRows(PaintTools& tools);
+    void PaintEmptyList(PaintTools& tools);
+    void PaintHeader(PaintTools& tools, const Rect& row, const GridSection& section);
+    void PaintGlyph(PaintTools& tools, int top, bool collapsed);
+    void PaintFrame(PaintTools& tools, const Rect& row, int shadedWidth);
+    void PaintItem(PaintTools& tools, const PaintedRow& row);
+    void PaintEditButton(PaintTools& tools, const ItemParts& parts);
+    void PaintName(PaintTools& tools, const Rect& row, const GridItem& item);
+    void PaintValue(PaintTools& tools, const Rect& value, const GridItem& item);
+    void PaintCustomValue(PaintTools& tools, const Rect& value, const GridItem& item);
+    void PaintText(PaintTools& tools, const GridItem& item, const CRect& cell);
+    int PaintSwatch(PaintTools& tools, const CRect& cell, Color color);
+
+    const CGridModel& m_model;
+    CGridLayout& m_layout;
+    const GridFonts& m_fonts;
+    std::unique_ptr<CMemoryCanvas> m_canvas;
+};
+
+}  // namespace tavrin::propgrid
