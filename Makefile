@@ -1,14 +1,14 @@
 # The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
 
 BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
-  nlohmann-json3-dev
+  nlohmann-json3-dev libcli11-dev libutfcpp-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
-LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck
-PRESETS = native x64 x86
+X86_PACKAGES = debootstrap
+LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 
-.PHONY: help build check test run screenshots gallery lint coverage bench fuzz soak rules dist packages
+.PHONY: help build check test test-x86 run screenshots gallery lint coverage bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -19,6 +19,8 @@ help:
 	@echo "make screenshots  make the pictures of the documentation from the running programs"
 	@echo "make check    build and run the native tests: the quick loop while writing code without windows"
 	@echo "make test     build and run every test"
+	@echo "make test-x86 build the 32-bit programs and run their tests, SOAK_SECONDS=60 of random calls among them; takes"
+	@echo "              root, and makes a Debian for i386 under build/ once; the figures go to docs/reliability.md"
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
@@ -34,7 +36,9 @@ packages:
 	@scripts/install-packages $(BUILD_PACKAGES) $(WINDOW_PACKAGES)
 
 build: packages
-	@for preset in $(PRESETS); do scripts/build $$preset || exit 1; done
+	@scripts/build native
+	@scripts/build x64
+	@scripts/build x86 programs
 
 check:
 	@scripts/install-packages $(BUILD_PACKAGES)
@@ -47,6 +51,11 @@ test: build
 	@scripts/build fuzz
 	@printf 'subdirs("x64" "native" "fuzz")\n' > build/CTestTestfile.cmake
 	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
+
+test-x86: packages
+	@scripts/x86-root --possible
+	@scripts/install-packages $(X86_PACKAGES)
+	@scripts/test-x86
 
 run: packages
 	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked

@@ -29,12 +29,9 @@ class CEdit : public CWnd {
     DECLARE_DYNAMIC(CEdit)
     CEdit() = default;
     virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    void GetSel(int& start, int& end) const { SendMessage(EM_GETSEL, (WPARAM)&start, (LPARAM)&end); }
-    DWORD GetSel() const { return static_cast<DWORD>(SendMessage(EM_GETSEL)); }
     void SetSel(int start, int end, BOOL noScroll = FALSE);
     // Whether the user changed the text since it was set.
-    BOOL GetModify() const { return SendMessage(EM_GETMODIFY) != 0; }
-    void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE) { SendMessage(EM_REPLACESEL, canUndo, (LPARAM)text); }
+    BOOL GetModify() const { return ::SendMessage(m_hWnd, EM_GETMODIFY, 0, 0) != 0; }
     void LimitText(int count = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(count)); }
 };
 
@@ -45,12 +42,6 @@ class CScrollBar : public CWnd {
     int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
     int SetScrollPos(int position, BOOL redraw = TRUE) {
         return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw);
-    }
-    void GetScrollRange(LPINT minimum, LPINT maximum) const {
-        ::GetScrollRange(m_hWnd, SB_CTL, minimum, maximum);
-    }
-    void SetScrollRange(int minimum, int maximum, BOOL redraw = TRUE) {
-        ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, redraw);
     }
     BOOL GetScrollInfo(LPSCROLLINFO info, UINT mask = SIF_ALL) {
         return CWnd::GetScrollInfo(SB_CTL, info, mask);

@@ -13,7 +13,7 @@ class CDC : public CObject {
     ~CDC() override;
 
     // The object that owns the handle, or one that lives until the message or command at work ends.
-    static CDC* FromHandle(HDC handle);
+    static CDC* PASCAL FromHandle(HDC handle);
 
     HDC GetSafeHdc() const { return m_hDC; }
     operator HDC() const { return m_hDC; }
@@ -39,7 +39,6 @@ class CDC : public CObject {
     virtual COLORREF SetBkColor(COLORREF colour) { return ::SetBkColor(m_hDC, colour); }
     COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
     int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
-    int GetBkMode() const { return ::GetBkMode(m_hDC); }
     virtual COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
     COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
 
@@ -51,7 +50,6 @@ class CDC : public CObject {
         return ::Rectangle(m_hDC, left, top, right, bottom);
     }
     BOOL Rectangle(LPCRECT rect) { return Rectangle(rect->left, rect->top, rect->right, rect->bottom); }
-    void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, *brush); }
     void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
     void FillSolidRect(LPCRECT rect, COLORREF colour);
     void FillSolidRect(int x, int y, int width, int height, COLORREF colour) {
@@ -62,7 +60,6 @@ class CDC : public CObject {
         return ::DrawFrameControl(m_hDC, rect, type, state);
     }
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
-    COLORREF SetPixel(int x, int y, COLORREF colour) { return ::SetPixel(m_hDC, x, y, colour); }
 
     // The result is the text's height.
     virtual int DrawText(LPCTSTR text, int length, LPRECT rect, UINT format) {
@@ -80,7 +77,7 @@ class CDC : public CObject {
     }
 
     virtual BOOL RectVisible(LPCRECT rect) const { return ::RectVisible(m_hDC, rect); }
-    int ExcludeClipRect(LPCRECT rect) {
+    virtual int ExcludeClipRect(LPCRECT rect) {
         return ::ExcludeClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
     }
 

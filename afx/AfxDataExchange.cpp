@@ -1,6 +1,25 @@
 // Exchange between a dialog's controls and its members.
 #include "afx/afxcmn.h"
 
+#include <utility>
+
+namespace {
+
+// Does something at the end of its scope.
+template <class TWork>
+class CAtEnd {
+public:
+    explicit CAtEnd(TWork work) : m_work(work) {}
+    ~CAtEnd() { m_work(); }
+    CAtEnd(const CAtEnd&) = delete;
+    CAtEnd& operator=(const CAtEnd&) = delete;
+
+private:
+    TWork m_work;
+};
+
+}  // namespace
+
 HWND CDataExchange::PrepareCtrl(int id) {
     m_lastControl = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
     m_lastIsEdit = false;
@@ -28,11 +47,15 @@ void CDataExchange::Fail() {
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
+HWND CWnd::s_hWndExchanging = nullptr;
+
 BOOL CWnd::UpdateData(BOOL saveAndValidate) {
     if (m_hWnd == nullptr) {
         return FALSE;
     }
     CDataExchange exchange(this, saveAndValidate);
+    const HWND outer = std::exchange(s_hWndExchanging, m_hWnd);
+    const CAtEnd restore([outer] { s_hWndExchanging = outer; });
     try {
         DoDataExchange(&exchange);
         return TRUE;
@@ -56,10 +79,7 @@ void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control) {
 
 void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value) {
     const HWND control = exchange->PrepareEditCtrl(id);
-    CString shown;
-    const int length = ::GetWindowTextLength(control);
-    ::GetWindowText(control, shown.GetBufferSetLength(length), length + 1);
-    shown.ReleaseBuffer();
+    const CString shown = AfxTextOf(control);
     if (exchange->m_bSaveAndValidate) {
         value = shown;
     } else if (value != shown) {  // an equal text is left alone, and with it the caret and the selection

@@ -27,7 +27,7 @@ BOOL CMonthCalCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
     return CWnd::Create(MONTHCAL_CLASS, nullptr, style, rect, parent, id);
 }
 
-BOOL CMonthCalCtrl::SetCurSel(const SYSTEMTIME* time) {
+BOOL CMonthCalCtrl::SetCurSel(const LPSYSTEMTIME time) {
     return static_cast<BOOL>(SendMessage(MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(time)));
 }
 
@@ -37,7 +37,7 @@ BOOL CMonthCalCtrl::SetCurSel(const COleDateTime& time) {
 }
 
 BOOL CMonthCalCtrl::GetCurSel(LPSYSTEMTIME time) const {
-    return static_cast<BOOL>(SendMessage(MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(time)));
+    return static_cast<BOOL>(::SendMessage(m_hWnd, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(time)));
 }
 
 BOOL CMonthCalCtrl::GetCurSel(COleDateTime& time) const {
@@ -50,7 +50,7 @@ BOOL CMonthCalCtrl::GetCurSel(COleDateTime& time) const {
 }
 
 BOOL CMonthCalCtrl::GetMinReqRect(RECT* rect) const {
-    return static_cast<BOOL>(SendMessage(MCM_GETMINREQRECT, 0, reinterpret_cast<LPARAM>(rect)));
+    return static_cast<BOOL>(::SendMessage(m_hWnd, MCM_GETMINREQRECT, 0, reinterpret_cast<LPARAM>(rect)));
 }
 
 BOOL CMonthCalCtrl::SizeMinReq(BOOL repaint) {
@@ -68,7 +68,7 @@ BOOL CDateTimeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 }
 
 DWORD CDateTimeCtrl::GetTime(LPSYSTEMTIME time) const {
-    return static_cast<DWORD>(SendMessage(DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(time)));
+    return static_cast<DWORD>(::SendMessage(m_hWnd, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(time)));
 }
 
 DWORD CDateTimeCtrl::GetTime(CTime& time) const {
@@ -91,7 +91,7 @@ BOOL CDateTimeCtrl::GetTime(COleDateTime& time) const {
     return result == GDT_VALID;
 }
 
-BOOL CDateTimeCtrl::SetTime(const SYSTEMTIME* time) {
+BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME time) {
     // Wine refuses a null pointer even where the value is not looked at.
     const SYSTEMTIME none = {};
     return static_cast<BOOL>(SendMessage(DTM_SETSYSTEMTIME, time != nullptr ? GDT_VALID : GDT_NONE,

@@ -139,7 +139,7 @@ HWND CDialog::FindOwner() const {
     HWND owner = nullptr;
     if (m_pParentWnd != nullptr) {
         owner = m_pParentWnd->m_hWnd;
-    } else if (const CWnd* const main = AfxGetMainWnd()) {
+    } else if (const CWnd* const main = AfxGetMainWnd(); main != nullptr && main->m_hWnd != nullptr) {
         owner = ::GetLastActivePopup(main->m_hWnd);
     }
     while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD) != 0) {
@@ -178,7 +178,7 @@ INT_PTR CDialog::DoModal() {
     // The owner must be able to take the activation before the dialog goes, else Windows would give it to
     // some other program's window.
     disabledOwner.Enable();
-    if (m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd) {
+    if (owner != nullptr && m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd) {
         ::SetActiveWindow(owner);
     }
     DestroyWindow();
@@ -235,7 +235,7 @@ BOOL CDialog::InitDialog() {
         return FALSE;
     }
     GetWindowRect(&after);
-    if (m_centre && before == after && !IsWindowVisible()) {
+    if (m_centre && before.TopLeft() == after.TopLeft() && !IsWindowVisible()) {
         CenterWindow();
     }
     return setFocus;

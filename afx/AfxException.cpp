@@ -2,6 +2,8 @@
 #include "afx/AfxException.h"
 
 #include "afx/afxwin.h"
+// After Windows.
+#include <shlwapi.h>
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), nullptr};
 IMPLEMENT_DYNAMIC(CException, CObject)
@@ -123,34 +125,37 @@ BOOL CFileException::GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpCont
     const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
     if (m_lOsError > 0 &&
         ::FormatMessage(flags, nullptr, static_cast<DWORD>(m_lOsError), 0, reason, 256, nullptr) > 0) {
+        ::StrTrim(reason, L"\r\n ");
         message += reason;
     } else {
-        message.AppendFormat(L"file error %d.", m_cause);
+        CString cause;
+        cause.Format(L"file error %d.", m_cause);
+        message += cause;
     }
-    ::lstrcpyn(text, message.TrimRight(), static_cast<int>(maxLength));
+    ::lstrcpyn(text, message, static_cast<int>(maxLength));
     return TRUE;
 }
 
-void AfxThrowMemoryException() {
+void AFXAPI AfxThrowMemoryException() {
     throw new CMemoryException;
 }
 
-void AfxThrowNotSupportedException() {
+void AFXAPI AfxThrowNotSupportedException() {
     throw new CNotSupportedException;
 }
 
-void AfxThrowInvalidArgException() {
+void AFXAPI AfxThrowInvalidArgException() {
     throw new CInvalidArgException;
 }
 
-void AfxThrowResourceException() {
+void AFXAPI AfxThrowResourceException() {
     throw new CResourceException;
 }
 
-void AfxThrowUserException() {
+void AFXAPI AfxThrowUserException() {
     throw new CUserException;
 }
 
-void AfxThrowFileException(int cause, LONG osError, LPCTSTR fileName) {
+void AFXAPI AfxThrowFileException(int cause, LONG osError, LPCTSTR fileName) {
     throw new CFileException(cause, osError, fileName);
 }

@@ -8,7 +8,7 @@ class CException : public CObject {
     DECLARE_DYNAMIC(CException)
 
     // autoDelete: the object was made with new, so Delete frees it.
-    explicit CException(BOOL autoDelete = TRUE) : m_bAutoDelete(autoDelete) {}
+    explicit CException(BOOL autoDelete) : m_bAutoDelete(autoDelete) {}
 
     void Delete();
     // Writes at most maxLength code units, final NUL included. FALSE, and an empty text, when the
@@ -33,31 +33,28 @@ private:
 
 class CMemoryException : public CSimpleException {
     DECLARE_DYNAMIC(CMemoryException)
-    explicit CMemoryException(BOOL autoDelete = TRUE) : CSimpleException(autoDelete, L"Out of memory.") {}
+    CMemoryException() : CSimpleException(TRUE, L"Out of memory.") {}
 };
 
 class CNotSupportedException : public CSimpleException {
     DECLARE_DYNAMIC(CNotSupportedException)
-    explicit CNotSupportedException(BOOL autoDelete = TRUE)
-        : CSimpleException(autoDelete, L"An unsupported operation was attempted.") {}
+    CNotSupportedException() : CSimpleException(TRUE, L"An unsupported operation was attempted.") {}
 };
 
 class CInvalidArgException : public CSimpleException {
     DECLARE_DYNAMIC(CInvalidArgException)
-    explicit CInvalidArgException(BOOL autoDelete = TRUE)
-        : CSimpleException(autoDelete, L"Encountered an improper argument.") {}
+    CInvalidArgException() : CSimpleException(TRUE, L"Encountered an improper argument.") {}
 };
 
 class CResourceException : public CSimpleException {
     DECLARE_DYNAMIC(CResourceException)
-    explicit CResourceException(BOOL autoDelete = TRUE)
-        : CSimpleException(autoDelete, L"A required resource was unavailable.") {}
+    CResourceException() : CSimpleException(TRUE, L"A required resource was unavailable.") {}
 };
 
 // Ends an operation whose reason the user has been told already.
 class CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
-    explicit CUserException(BOOL autoDelete = TRUE) : CSimpleException(autoDelete, L"") {}
+    CUserException() : CSimpleException(TRUE, L"") {}
 };
 
 class CFileException : public CException {
@@ -83,9 +80,9 @@ class CFileException : public CException {
 
     // osError is Windows' error code, or -1 when Windows gave none.
     explicit CFileException(int cause = none, LONG osError = -1, LPCTSTR fileName = nullptr)
-        : m_cause(cause), m_lOsError(osError), m_strFileName(fileName) {}
+        : CException(TRUE), m_cause(cause), m_lOsError(osError), m_strFileName(fileName) {}
 
-    static int OsErrorToException(LONG osError);
+    static int PASCAL OsErrorToException(LONG osError);
     BOOL GetErrorMessage(LPTSTR text, UINT maxLength, PUINT helpContext = nullptr) const override;
 
     int m_cause;
@@ -93,9 +90,9 @@ class CFileException : public CException {
     CString m_strFileName;
 };
 
-[[noreturn]] void AfxThrowMemoryException();
-[[noreturn]] void AfxThrowNotSupportedException();
-[[noreturn]] void AfxThrowInvalidArgException();
-[[noreturn]] void AfxThrowResourceException();
-[[noreturn]] void AfxThrowUserException();
-[[noreturn]] void AfxThrowFileException(int cause, LONG osError = -1, LPCTSTR fileName = nullptr);
+[[noreturn]] void AFXAPI AfxThrowMemoryException();
+[[noreturn]] void AFXAPI AfxThrowNotSupportedException();
+[[noreturn]] void AFXAPI AfxThrowInvalidArgException();
+[[noreturn]] void AFXAPI AfxThrowResourceException();
+[[noreturn]] void AFXAPI AfxThrowUserException();
+[[noreturn]] void AFXAPI AfxThrowFileException(int cause, LONG osError = -1, LPCTSTR fileName = nullptr);

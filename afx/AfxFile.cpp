@@ -54,6 +54,14 @@ CFile::~CFile() {
 BOOL CFile::Open(LPCTSTR fileName, UINT openFlags, CFileException* error) {
     CFile::Abort();
     m_strFileName = fileName;
+    if (m_strFileName.GetLength() >= MAX_PATH) {
+        if (error != nullptr) {
+            error->m_cause = CFileException::badPath;
+            error->m_lOsError = -1;
+            error->m_strFileName = fileName;
+        }
+        return FALSE;
+    }
     m_hFile = ::CreateFile(fileName, GetAccess(openFlags), GetSharing(openFlags), nullptr,
                            GetCreation(openFlags), FILE_ATTRIBUTE_NORMAL, nullptr);
     if (m_hFile != INVALID_HANDLE_VALUE) {

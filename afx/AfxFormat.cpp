@@ -16,7 +16,7 @@ struct CConversion {
     std::string flags;
     int width = 0;
     int precision = -1;  // -1: none given
-    enum { normal, narrow, wide, wide64, pointerSized } size = normal;
+    enum { normal, byteSized, narrow, wide, wide64, pointerSized } size = normal;
     wchar_t type = 0;
 };
 
@@ -93,6 +93,8 @@ private:
             conversion.size = CConversion::pointerSized;
         } else if (Skip(L"l") || Skip(L"w")) {
             conversion.size = CConversion::wide;
+        } else if (Skip(L"hh")) {
+            conversion.size = CConversion::byteSized;
         } else if (Skip(L"h")) {
             conversion.size = CConversion::narrow;
         }
@@ -110,6 +112,11 @@ private:
             case L'X':
                 AppendNumber(conversion, "ll", ReadUnsigned(conversion));
                 break;
+            case L'p':
+                AppendPointer(conversion, va_arg(m_arguments, const void*));
+                break;
+            case L'a':
+            case L'A':
             case L'e':
             case L'E':
             case L'f':
@@ -141,6 +148,8 @@ private:
                 return va_arg(m_arguments, INT_PTR);
             case CConversion::narrow:
                 return static_cast<short>(va_arg(m_arguments, int));
+            case CConversion::byteSized:
+                return static_cast<signed char>(va_arg(m_arguments, int));
             default:
                 return va_arg(m_arguments, int);
         }
@@ -154,6 +163,8 @@ private:
                 return va_arg(m_arguments, UINT_PTR);
             case CConversion::narrow:
                 return static_cast<unsigned short>(va_arg(m_arguments, unsigned));
+            case CConversion::byteSized:
+                return static_cast<unsigned char>(va_arg(m_arguments, unsigned));
             default:
                 return va_arg(m_arguments, unsigned);
         }
@@ -191,6 +202,14 @@ private:
         }
     }
 
+    // All its digits, in capitals, without a prefix.
+    void AppendPointer(const CConversion& conversion, const void* pointer) {
+        CConversion number = conversion;
+        number.precision = 2 * sizeof pointer;
+        number.type = L'X';
+        AppendNumber(number, "ll", static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(pointer)));
+    }
+
     template <class TNumber>
     void AppendNumber(const CConversion& conversion, const char* size, TNumber number) {
         const std::string format = '%' + conversion.flags + "*.*" + size + static_cast<char>(conversion.type);
@@ -211,14 +230,8 @@ private:
 
 }  // namespace
 
-void CString::AppendFormatV(LPCTSTR format, va_list arguments) {
-    std::wstring text;  // apart, because the arguments may point into this text
-    CFormatter(text, format, arguments).Run();
-    m_text += text;
-}
-
 void CString::FormatV(LPCTSTR format, va_list arguments) {
-    std::wstring text;
+    std::wstring text;  // apart, because the arguments may point into this text
     CFormatter(text, format, arguments).Run();
     m_text.swap(text);
 }
@@ -227,21 +240,5 @@ void CString::Format(LPCTSTR format, ...) {
     va_list arguments;
     va_start(arguments, format);
     FormatV(format, arguments);
-    va_end(arguments);
-}
-
-void CString::Format(UINT formatId, ...) {
-    CString format;
-    format.LoadString(formatId);
-    va_list arguments;
-    va_start(arguments, formatId);
-    FormatV(format, arguments);
-    va_end(arguments);
-}
-
-void CString::AppendFormat(LPCTSTR format, ...) {
-    va_list arguments;
-    va_start(arguments, format);
-    AppendFormatV(format, arguments);
     va_end(arguments);
 }

@@ -16,7 +16,7 @@ class CGdiObject : public CObject {
     CGdiObject() = default;
     ~CGdiObject() override;
 
-    static CGdiObject* FromHandle(HGDIOBJ handle);
+    static CGdiObject* PASCAL FromHandle(HGDIOBJ handle);
 
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
     // Takes the handle over. FALSE for a null one.
@@ -33,7 +33,9 @@ class CPen : public CGdiObject {
 
     CPen() = default;
     CPen(int style, int width, COLORREF colour);  // throws CResourceException* on failure
-    static CPen* FromHandle(HPEN handle) { return dynamic_cast<CPen*>(CGdiObject::FromHandle(handle)); }
+    static CPen* PASCAL FromHandle(HPEN handle) {
+        return dynamic_cast<CPen*>(CGdiObject::FromHandle(handle));
+    }
     BOOL CreatePen(int style, int width, COLORREF colour) {
         return Attach(::CreatePen(style, width, colour));
     }
@@ -44,8 +46,10 @@ class CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 
     CBrush() = default;
-    explicit CBrush(COLORREF colour);  // throws CResourceException* on failure
-    static CBrush* FromHandle(HBRUSH handle) { return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle)); }
+    CBrush(COLORREF colour);  // throws CResourceException* on failure
+    static CBrush* PASCAL FromHandle(HBRUSH handle) {
+        return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle));
+    }
     BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
@@ -54,11 +58,13 @@ class CFont : public CGdiObject {
     DECLARE_DYNAMIC(CFont)
 
     CFont() = default;
-    static CFont* FromHandle(HFONT handle) { return dynamic_cast<CFont*>(CGdiObject::FromHandle(handle)); }
+    static CFont* PASCAL FromHandle(HFONT handle) {
+        return dynamic_cast<CFont*>(CGdiObject::FromHandle(handle));
+    }
     BOOL CreateFontIndirect(const LOGFONT* font) { return Attach(::CreateFontIndirect(font)); }
     // The size is in tenths of a point, for the given device context or for the screen.
     BOOL CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc = nullptr);
-    int GetLogFont(LOGFONT* font) const { return GetObject(sizeof *font, font); }
+    int GetLogFont(LOGFONT* font) { return GetObject(sizeof *font, font); }
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
 };
 
@@ -66,12 +72,9 @@ class CBitmap : public CGdiObject {
     DECLARE_DYNAMIC(CBitmap)
 
     CBitmap() = default;
-    static CBitmap* FromHandle(HBITMAP handle) {
+    static CBitmap* PASCAL FromHandle(HBITMAP handle) {
         return dynamic_cast<CBitmap*>(CGdiObject::FromHandle(handle));
     }
     BOOL CreateCompatibleBitmap(CDC* dc, int width, int height);
-    BOOL CreateBitmap(int width, int height, UINT planes, UINT bitCount, const void* bits) {
-        return Attach(::CreateBitmap(width, height, planes, bitCount, bits));
-    }
     operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
 };

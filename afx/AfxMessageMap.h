@@ -6,7 +6,8 @@
 //     END_MESSAGE_MAP()
 //
 // A message that a class has no entry for goes to the map of its base class. The macros compile only
-// when the operation that an entry names has the signature that MFC documents for it.
+// when the operation that an entry names has the signature that MFC documents for it, and belongs to a class
+// of windows (to a command target for commands and notifications).
 #pragma once
 
 #include "afx/AfxObject.h"
@@ -75,20 +76,21 @@ protected:                                        \
     return &map;                                   \
     }
 
-// One entry: `member` points to the operation, the types name its parameters, the statement calls it as
-// (self->*operation).
-#define AFX_ENTRY(number, code, firstId, lastId, member, resultType, types, statement)       \
-    {number, static_cast<UINT>(code), static_cast<UINT>(firstId), static_cast<UINT>(lastId), \
-     [](CCmdTarget* target, [[maybe_unused]] AFX_MESSAGE& m) -> BOOL {                       \
-         resultType(ThisClass::*const operation) types = member;                             \
-         [[maybe_unused]] auto* const self = static_cast<ThisClass*>(target);                \
-         statement;                                                                          \
-         return TRUE;                                                                        \
+// One entry: `member` points to the operation, which becomes an operation of `owner` (CCmdTarget for commands
+// and notifications, CWnd for all other messages) as documented, the types name its parameters, the statement
+// calls it as (self->*operation).
+#define AFX_ENTRY(number, code, firstId, lastId, owner, member, resultType, types, statement)         \
+    {number, static_cast<UINT>(code), static_cast<UINT>(firstId), static_cast<UINT>(lastId),          \
+     [](CCmdTarget* target, [[maybe_unused]] AFX_MESSAGE& m) -> BOOL {                                \
+         resultType(owner::*const operation) types = static_cast<resultType(owner::*) types>(member); \
+         [[maybe_unused]] auto* const self = static_cast<owner*>(target);                             \
+         statement;                                                                                   \
+         return TRUE;                                                                                 \
      }},
 #define AFX_ENTRY_VOID(number, member, types, arguments) \
-    AFX_ENTRY(number, 0, 0, 0, member, void, types, (self->*operation) arguments)
+    AFX_ENTRY(number, 0, 0, 0, CWnd, member, void, types, (self->*operation) arguments)
 #define AFX_ENTRY_RESULT(number, member, resultType, types, arguments) \
-    AFX_ENTRY(number, 0, 0, 0, member, resultType, types,              \
+    AFX_ENTRY(number, 0, 0, 0, CWnd, member, resultType, types,        \
               m.result = static_cast<LRESULT>((self->*operation) arguments))
 
 // Parts of a message's parameters.
@@ -113,14 +115,14 @@ protected:                                        \
 #define ON_WM_ERASEBKGND() \
     AFX_ENTRY_RESULT(WM_ERASEBKGND, &ThisClass::OnEraseBkgnd, BOOL, (CDC*), (CDC::FromHandle((HDC)m.wParam)))
 // The kind of the control (CTLCOLOR_EDIT, …) comes as the message's id.
-#define ON_WM_CTLCOLOR()                                                                      \
-    AFX_ENTRY(                                                                                \
-        WM_CTLCOLOR, 0, 0, CTLCOLOR_MAX, &ThisClass::OnCtlColor, HBRUSH, (CDC*, CWnd*, UINT), \
+#define ON_WM_CTLCOLOR()                                                                            \
+    AFX_ENTRY(                                                                                      \
+        WM_CTLCOLOR, 0, 0, CTLCOLOR_MAX, CWnd, &ThisClass::OnCtlColor, HBRUSH, (CDC*, CWnd*, UINT), \
         m.result = (LRESULT)(self->*operation)(CDC::FromHandle((HDC)m.wParam), AFX_WINDOW(m.lParam), m.id))
 // A null brush leaves the message to the parent.
-#define ON_WM_CTLCOLOR_REFLECT()                                                                             \
-    AFX_ENTRY(WM_REFLECT_BASE + WM_CTLCOLOR, 0, 0, CTLCOLOR_MAX, &ThisClass::CtlColor, HBRUSH, (CDC*, UINT), \
-              m.result = (LRESULT)(self->*operation)(CDC::FromHandle((HDC)m.wParam), m.id);                  \
+#define ON_WM_CTLCOLOR_REFLECT()                                                                          \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_CTLCOLOR, 0, 0, CTLCOLOR_MAX, CWnd, &ThisClass::CtlColor, HBRUSH,      \
+              (CDC*, UINT), m.result = (LRESULT)(self->*operation)(CDC::FromHandle((HDC)m.wParam), m.id); \
               if (m.result == 0) return FALSE)
 #define ON_WM_DRAWITEM()                                                         \
     AFX_ENTRY_VOID(WM_DRAWITEM, &ThisClass::OnDrawItem, (int, LPDRAWITEMSTRUCT), \
@@ -166,18 +168,19 @@ protected:                                        \
 
 // Commands and notifications of controls.
 #define ON_CONTROL(code, id, member) \
-    AFX_ENTRY(WM_COMMAND, code, id, id, member, void, (), (self->*operation)())
+    AFX_ENTRY(WM_COMMAND, code, id, id, CCmdTarget, member, void, (), (self->*operation)())
 #define ON_CONTROL_RANGE(code, firstId, lastId, member) \
-    AFX_ENTRY(WM_COMMAND, code, firstId, lastId, member, void, (UINT), (self->*operation)(m.id))
+    AFX_ENTRY(WM_COMMAND, code, firstId, lastId, CCmdTarget, member, void, (UINT), (self->*operation)(m.id))
 #define ON_COMMAND(id, member) ON_CONTROL(0, id, member)
 #define ON_BN_CLICKED(id, member) ON_CONTROL(BN_CLICKED, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
-#define ON_NOTIFY(code, id, member)                                      \
-    AFX_ENTRY(WM_NOTIFY, code, id, id, member, void, (NMHDR*, LRESULT*), \
+#define ON_NOTIFY(code, id, member)                                                  \
+    AFX_ENTRY(WM_NOTIFY, code, id, id, CCmdTarget, member, void, (NMHDR*, LRESULT*), \
               (self->*operation)((NMHDR*)m.lParam, &m.result))
 // In the map of the control itself, which its parent asks first.
-#define ON_CONTROL_REFLECT(code, member) \
-    AFX_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, member, void, (), (self->*operation)())
-#define ON_NOTIFY_REFLECT(code, member)                                                         \
-    AFX_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, code, 0, UINT_MAX, member, void, (NMHDR*, LRESULT*), \
+#define ON_CONTROL_REFLECT(code, member)                                                   \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, CCmdTarget, member, void, (), \
+              (self->*operation)())
+#define ON_NOTIFY_REFLECT(code, member)                                                                     \
+    AFX_ENTRY(WM_REFLECT_BASE + WM_NOTIFY, code, 0, UINT_MAX, CCmdTarget, member, void, (NMHDR*, LRESULT*), \
               (self->*operation)((NMHDR*)m.lParam, &m.result))

@@ -28,13 +28,13 @@ HWND GetMessageBoxOwner() {
 
 }  // namespace
 
-AFX_MODULE_STATE* AfxGetStaticModuleState() {
+AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
     const auto instance = reinterpret_cast<HINSTANCE>(&__ImageBase);
     static AFX_MODULE_STATE state = {instance, instance};
     return &state;
 }
 
-AFX_MODULE_STATE* AfxGetModuleState() {
+AFX_MODULE_STATE* AFXAPI AfxGetModuleState() {
     return currentState != nullptr ? currentState : GetProgramState();
 }
 
@@ -81,15 +81,15 @@ void CAfxTemporaries::FreeDownTo(size_t count) {
     }
 }
 
-HINSTANCE AfxGetInstanceHandle() {
+HINSTANCE AFXAPI AfxGetInstanceHandle() {
     return AfxGetModuleState()->m_hCurrentInstanceHandle;
 }
 
-HINSTANCE AfxGetResourceHandle() {
+HINSTANCE AFXAPI AfxGetResourceHandle() {
     return AfxGetModuleState()->m_hCurrentResourceHandle;
 }
 
-void AfxSetResourceHandle(HINSTANCE instance) {
+void AFXAPI AfxSetResourceHandle(HINSTANCE instance) {
     AfxGetModuleState()->m_hCurrentResourceHandle = instance;
 }
 
@@ -102,7 +102,7 @@ CWinApp::~CWinApp() {
     application = nullptr;
 }
 
-LPCTSTR AfxGetAppName() {
+LPCTSTR AFXAPI AfxGetAppName() {
     if (application != nullptr && application->m_pszAppName != nullptr) {
         return application->m_pszAppName;
     }
@@ -111,28 +111,31 @@ LPCTSTR AfxGetAppName() {
         TCHAR path[MAX_PATH];
         const DWORD length =
             ::GetModuleFileName(AfxGetStaticModuleState()->m_hCurrentInstanceHandle, path, MAX_PATH);
-        CString file(path, static_cast<int>(length));
-        file = file.Mid(file.ReverseFind(L'\\') + 1);
-        if (const int dot = file.ReverseFind(L'.'); dot > 0) {
-            file.Truncate(dot);
+        std::wstring file(path, length);
+        file.erase(0, file.rfind(L'\\') + 1);
+        if (const size_t dot = file.rfind(L'.'); dot != 0 && dot != std::wstring::npos) {
+            file.resize(dot);
         }
-        ::lstrcpyn(name, file, MAX_PATH);
+        ::lstrcpyn(name, file.c_str(), MAX_PATH);
     }
     return name;
 }
 
-CWnd* AfxGetMainWnd() {
-    return application != nullptr ? application->m_pMainWnd : nullptr;
+CWnd* AFXAPI AfxGetMainWnd() {
+    if (application == nullptr) {
+        return nullptr;
+    }
+    return application->m_pMainWnd != nullptr ? application->m_pMainWnd : CWnd::GetActiveWindow();
 }
 
-int AfxMessageBox(LPCTSTR text, UINT type, UINT) {
+int AFXAPI AfxMessageBox(LPCTSTR text, UINT type, UINT) {
     if ((type & MB_ICONMASK) == 0) {
         type |= MB_ICONEXCLAMATION;
     }
     return ::MessageBox(GetMessageBoxOwner(), text, AfxGetAppName(), type);
 }
 
-int AfxMessageBox(UINT textId, UINT type, UINT helpId) {
+int AFXAPI AfxMessageBox(UINT textId, UINT type, UINT helpId) {
     CString text;
     text.LoadString(textId);
     return AfxMessageBox(text, type, helpId);

@@ -11,10 +11,10 @@ struct AFX_MODULE_STATE {
 };
 
 // The state of the module (DLL or program) that this code is linked into.
-AFX_MODULE_STATE* AfxGetStaticModuleState();
+AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
 // The state at work: the program's, until an AFX_MAINTAIN_STATE2 puts another in its place. Window
 // procedures of the framework do so by themselves.
-AFX_MODULE_STATE* AfxGetModuleState();
+AFX_MODULE_STATE* AFXAPI AfxGetModuleState();
 
 // Puts a module state to work until the end of the scope; the one before comes back on every way out.
 // The outermost code of every entry into the module needs one. Temporary objects (CWnd::FromHandle and
@@ -31,9 +31,9 @@ private:
 };
 
 // Of the state at work.
-HINSTANCE AfxGetInstanceHandle();
-HINSTANCE AfxGetResourceHandle();
-void AfxSetResourceHandle(HINSTANCE instance);
+HINSTANCE AFXAPI AfxGetInstanceHandle();
+HINSTANCE AFXAPI AfxGetResourceHandle();
+void AFXAPI AfxSetResourceHandle(HINSTANCE instance);
 
 // The module's application object, at most one.
 class CWinApp : public CCmdTarget {
@@ -46,16 +46,16 @@ class CWinApp : public CCmdTarget {
 };
 
 // The application object's name, else the module's file name without folder and extension.
-LPCTSTR AfxGetAppName();
-// Null when there is no application object or it names no window.
-CWnd* AfxGetMainWnd();
+LPCTSTR AFXAPI AfxGetAppName();
+// The application object's main window, or the active window when it names none; null without such an object.
+CWnd* AFXAPI AfxGetMainWnd();
 
 // Without an icon among the flags the exclamation mark is shown. The box is owned by the last active
 // pop-up of the main window, else by the active window.
-int AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
-int AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
+int AFXAPI AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
+int AFXAPI AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
 
 // The name of a window class with these attributes, registered for this module when it is new and
 // unregistered with it. Throws CResourceException* when it cannot be registered.
-LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
-                            HICON icon = nullptr);
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
+                                   HICON icon = nullptr);

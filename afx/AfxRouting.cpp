@@ -94,7 +94,7 @@ LRESULT CWnd::Default() {
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (lParam != 0 && ReflectLastMsg(reinterpret_cast<HWND>(lParam))) {
+    if (lParam != 0 && (s_hWndExchanging == m_hWnd || ReflectLastMsg(reinterpret_cast<HWND>(lParam)))) {
         return TRUE;
     }
     AFX_MESSAGE message = MakeMapMessage(WM_COMMAND, wParam, lParam);
@@ -102,7 +102,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
 }
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
-    if (ReflectLastMsg(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, result)) {
+    if (s_hWndExchanging == m_hWnd ||
+        ReflectLastMsg(reinterpret_cast<const NMHDR*>(lParam)->hwndFrom, result)) {
         return TRUE;
     }
     AFX_MESSAGE message = MakeMapMessage(WM_NOTIFY, wParam, lParam);

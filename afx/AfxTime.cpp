@@ -22,6 +22,9 @@ CTime::CTime(int year, int month, int day, int hour, int minute, int second, int
     parts.tm_sec = second;
     parts.tm_isdst = isDaylightSaving;
     m_time = ::_mktime64(&parts);
+    if (m_time == -1) {
+        AfxThrowInvalidArgException();
+    }
 }
 
 CTime::CTime(const SYSTEMTIME& time, int isDaylightSaving)

@@ -32,7 +32,7 @@ private:
 
 }  // namespace
 
-LPCTSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon) {
+LPCTSTR AFXAPI AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon) {
     static CWindowClasses classes;
     // The module's own instance, in the class and in its name: two modules of a process that both have
     // this framework inside never share a class.

@@ -164,18 +164,14 @@ BOOL CWnd::DestroyWindow() {
     return destroyed;
 }
 
-void CWnd::GetWindowText(CString& text) const {
-    const int length = GetWindowTextLength();
-    GetWindowText(text.GetBufferSetLength(length), length + 1);
-    text.ReleaseBuffer();
+CString AfxTextOf(HWND window) {
+    std::wstring text(static_cast<size_t>(::GetWindowTextLength(window)) + 1, L'\0');
+    const int length = ::GetWindowText(window, text.data(), static_cast<int>(text.size()));
+    return CString(text.data(), length);
 }
 
-int CWnd::GetDlgItemText(int id, CString& text) const {
-    text.Empty();
-    if (const CWnd* const control = GetDlgItem(id)) {
-        control->GetWindowText(text);
-    }
-    return text.GetLength();
+void CWnd::GetWindowText(CString& text) const {
+    text = AfxTextOf(m_hWnd);
 }
 
 void CWnd::SetFont(CFont* font, BOOL redraw) {
@@ -203,10 +199,6 @@ BOOL ModifyStyleWord(HWND window, int word, DWORD remove, DWORD add, UINT flags)
 
 BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT flags) {
     return ModifyStyleWord(m_hWnd, GWL_STYLE, remove, add, flags);
-}
-
-BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT flags) {
-    return ModifyStyleWord(m_hWnd, GWL_EXSTYLE, remove, add, flags);
 }
 
 void CWnd::CenterWindow(CWnd* over) {

@@ -7,6 +7,9 @@
 #include "afx/AfxDC.h"
 #include "afx/AfxMessageMap.h"
 
+// The text of any window.
+CString AfxTextOf(HWND window);
+
 class CDataExchange;
 class CRgn;
 class CScrollBar;
@@ -26,8 +29,8 @@ class CWnd : public CCmdTarget {
     // The special values of SetWindowPos.
     static const CWnd &wndTop, &wndBottom, &wndTopMost, &wndNoTopMost;
 
-    static CWnd* FromHandle(HWND window);
-    static CWnd* FromHandlePermanent(HWND window);  // null when no object is attached
+    static CWnd* PASCAL FromHandle(HWND window);
+    static CWnd* PASCAL FromHandlePermanent(HWND window);  // null when no object is attached
     HWND GetSafeHwnd() const { return m_hWnd; }
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& other) const { return m_hWnd == other.m_hWnd; }
@@ -48,8 +51,8 @@ class CWnd : public CCmdTarget {
     // Any window. When it cannot be created the result is FALSE and PostNcDestroy has been called.
     virtual BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, const RECT& rect,
                           CWnd* parent, UINT id, LPVOID parameter = nullptr);
-    BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, int x, int y, int width,
-                  int height, HWND parent, HMENU idOrMenu, LPVOID parameter = nullptr);
+    virtual BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR windowName, DWORD style, int x, int y,
+                          int width, int height, HWND parent, HMENU idOrMenu, LPVOID parameter = nullptr);
     // May change what the window is created with; FALSE ends the creation.
     virtual BOOL PreCreateWindow(CREATESTRUCT& create);
     virtual BOOL DestroyWindow();
@@ -57,27 +60,23 @@ class CWnd : public CCmdTarget {
     virtual void PostNcDestroy() {}
 
     // Messages.
-    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return ::SendMessage(m_hWnd, message, wParam, lParam);
     }
-    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return ::PostMessage(m_hWnd, message, wParam, lParam);
     }
-    static const MSG* GetCurrentMessage();
+    static const MSG* PASCAL GetCurrentMessage();
     virtual BOOL PreTranslateMessage(MSG* message);
 
     // Relatives. An owner that was set hears the notifications that the parent would hear otherwise.
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetOwner() const { return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent(); }
     void SetOwner(CWnd* owner) { m_hWndOwner = owner != nullptr ? owner->m_hWnd : nullptr; }
-    CWnd* GetWindow(UINT relation) const { return FromHandle(::GetWindow(m_hWnd, relation)); }
-    static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
 
     // Controls.
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
-    void SetDlgItemText(int id, LPCTSTR text) { ::SetDlgItemText(m_hWnd, id, text); }
-    int GetDlgItemText(int id, CString& text) const;
     void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
     UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
     LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
@@ -88,14 +87,12 @@ class CWnd : public CCmdTarget {
     void SetWindowText(LPCTSTR text) { ::SetWindowText(m_hWnd, text); }
     int GetWindowText(LPTSTR text, int maxCount) const { return ::GetWindowText(m_hWnd, text, maxCount); }
     void GetWindowText(CString& text) const;
-    int GetWindowTextLength() const { return ::GetWindowTextLength(m_hWnd); }
-    CFont* GetFont() const { return CFont::FromHandle((HFONT)SendMessage(WM_GETFONT)); }
+    CFont* GetFont() const { return CFont::FromHandle((HFONT)::SendMessage(m_hWnd, WM_GETFONT, 0, 0)); }
     void SetFont(CFont* font, BOOL redraw = TRUE);
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_EXSTYLE)); }
     // FALSE when nothing changes. With flags, SetWindowPos is called with them to redraw the frame.
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
-    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
 
     // State.
     BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
@@ -103,11 +100,11 @@ class CWnd : public CCmdTarget {
     BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
-    static CWnd* GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
+    static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
-    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
+    static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    static CWnd* GetCapture() { return FromHandle(::GetCapture()); }
+    static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC procedure) {
         return ::SetTimer(m_hWnd, id, milliseconds, procedure);
     }
@@ -145,8 +142,6 @@ class CWnd : public CCmdTarget {
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     BOOL RedrawWindow(LPCRECT rect = nullptr, CRgn* region = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
-    CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
-    int ReleaseDC(CDC* dc) { return ::ReleaseDC(m_hWnd, dc->m_hDC); }
 
     // The window's own scroll bars; bar is SB_VERT or SB_HORZ.
     int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
@@ -160,7 +155,8 @@ class CWnd : public CCmdTarget {
         return ::MessageBox(m_hWnd, text, caption, type);
     }
 
-    // Data exchange between controls and members. FALSE when a DDX operation gave up.
+    // Data exchange between controls and members. FALSE when a DDX operation gave up. Meanwhile the window
+    // hears no notification of its controls.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
 protected:
@@ -181,7 +177,7 @@ protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     BOOL SendChildNotifyLastMsg(LRESULT* result = nullptr);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
-    static BOOL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
+    static BOOL PASCAL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
 
     virtual void DoDataExchange(CDataExchange* exchange);
 
@@ -219,6 +215,8 @@ private:
 
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void TakeMessages();
+
+    static HWND s_hWndExchanging;  // the window whose UpdateData runs
 
     HWND m_hWndOwner = nullptr;
     WNDPROC m_previousProcedure = nullptr;  // null while the object does not get the window's messages

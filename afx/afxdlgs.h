@@ -23,9 +23,8 @@ class CFileDialog : public CCommonDialog {
     CString GetPathName() const { return m_path.c_str(); }  // the full path, after IDOK
     CString GetFileName() const;                            // its last part
 
-    OPENFILENAME m_ofn = {};
-
 private:
+    OPENFILENAME m_ofn = {};
     BOOL m_openFile;
     CString m_defaultExtension;
     std::wstring m_filter;
@@ -38,6 +37,7 @@ class CColorDialog : public CCommonDialog {
     INT_PTR DoModal() override;
     COLORREF GetColor() const { return m_cc.rgbResult; }
 
+private:
     CHOOSECOLOR m_cc = {};
 };
 
@@ -46,8 +46,9 @@ class CFontDialog : public CCommonDialog {
     explicit CFontDialog(LPLOGFONT initial = nullptr, DWORD flags = CF_EFFECTS | CF_SCREENFONTS,
                          CDC* printer = nullptr, CWnd* parent = nullptr);
     INT_PTR DoModal() override;
-    void GetCurrentFont(LPLOGFONT font) const { *font = m_lf; }
+    void GetCurrentFont(LPLOGFONT font) { *font = m_lf; }
 
+private:
     LOGFONT m_lf = {};
     CHOOSEFONT m_cf = {};
 };

@@ -10,7 +10,7 @@ class CMonthCalCtrl : public CWnd {
     DECLARE_DYNAMIC(CMonthCalCtrl)
     CMonthCalCtrl() = default;
     virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    BOOL SetCurSel(const SYSTEMTIME* time);
+    BOOL SetCurSel(const LPSYSTEMTIME time);
     BOOL SetCurSel(const COleDateTime& time);
     BOOL GetCurSel(LPSYSTEMTIME time) const;
     BOOL GetCurSel(COleDateTime& time) const;
@@ -32,7 +32,7 @@ class CDateTimeCtrl : public CWnd {
     // A time that is not valid, or a null pointer, makes the control hold none.
     BOOL SetTime(const COleDateTime& time);
     BOOL SetTime(const CTime* time);
-    BOOL SetTime(const SYSTEMTIME* time);
+    BOOL SetTime(LPSYSTEMTIME time = nullptr);
 };
 
 void AFXAPI DDX_DateTimeCtrl(CDataExchange* exchange, int id, CTime& value);

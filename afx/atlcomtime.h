@@ -15,7 +15,7 @@ public:
     COleDateTime(int year, int month, int day, int hour, int minute, int second) {
         SetDateTime(year, month, day, hour, minute, second);
     }
-    explicit COleDateTime(const SYSTEMTIME& time);
+    COleDateTime(const SYSTEMTIME& time);
 
     DateTimeStatus GetStatus() const { return m_status; }
     void SetStatus(DateTimeStatus status) { m_status = status; }

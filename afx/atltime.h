@@ -5,15 +5,16 @@
 
 #include "afx/afx.h"
 
-// Seconds since 1 January 1970, universal time. A time that was made from parts that are none is -1; the
-// parts of a time that cannot be shown in local time are -1 each.
+// Seconds since 1 January 1970, universal time. The parts of a time that cannot be shown in local time are -1
+// each.
 class CTime {
 public:
     CTime() = default;
     CTime(__time64_t time) : m_time(time) {}
-    // In local time; isDaylightSaving is 1, 0, or -1 for what the system says holds at that time.
+    // In local time; isDaylightSaving is 1, 0, or -1 for what the system says holds at that time. Parts that
+    // make no time from 1970 to 3000 are an error, which is thrown as a CException*.
     CTime(int year, int month, int day, int hour, int minute, int second, int isDaylightSaving = -1);
-    explicit CTime(const SYSTEMTIME& time, int isDaylightSaving = -1);
+    CTime(const SYSTEMTIME& time, int isDaylightSaving = -1);
 
     __time64_t GetTime() const { return m_time; }
     int GetYear() const;

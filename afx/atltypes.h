@@ -43,26 +43,25 @@ public:
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
     CSize Size() const { return CSize(Width(), Height()); }
-    CPoint TopLeft() const { return CPoint(left, top); }
+    // The corner itself: a point is laid out as the beginning of a rectangle.
+    CPoint& TopLeft() { return *reinterpret_cast<CPoint*>(this); }
+    const CPoint& TopLeft() const { return *reinterpret_cast<const CPoint*>(this); }
     CPoint CenterPoint() const { return CPoint((left + right) / 2, (top + bottom) / 2); }
     operator LPRECT() { return this; }
     operator LPCRECT() const { return this; }
 
     BOOL IsRectEmpty() const { return ::IsRectEmpty(this); }
-    BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
     BOOL PtInRect(POINT point) const { return ::PtInRect(this, point); }
     void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
     void SetRectEmpty() { *this = CRect(); }
     BOOL EqualRect(LPCRECT rect) const { return ::EqualRect(this, rect); }
 
     void InflateRect(int dx, int dy) { ::InflateRect(this, dx, dy); }
-    void InflateRect(int l, int t, int r, int b) { *this = CRect(left - l, top - t, right + r, bottom + b); }
     void DeflateRect(int dx, int dy) { ::InflateRect(this, -dx, -dy); }
-    void DeflateRect(int l, int t, int r, int b) { InflateRect(-l, -t, -r, -b); }
+    void DeflateRect(int l, int t, int r, int b) { *this = CRect(left + l, top + t, right - r, bottom - b); }
     void OffsetRect(int dx, int dy) { ::OffsetRect(this, dx, dy); }
     void OffsetRect(POINT by) { OffsetRect(by.x, by.y); }
     void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
-    void NormalizeRect();
 
     // FALSE, and an empty rectangle, when the result is empty.
     BOOL IntersectRect(LPCRECT a, LPCRECT b) { return ::IntersectRect(this, a, b); }
@@ -72,15 +71,6 @@ public:
     CRect operator+(POINT by) const { return CRect(left + by.x, top + by.y, right + by.x, bottom + by.y); }
     CRect operator&(const RECT& rect) const;
 };
-
-inline void CRect::NormalizeRect() {
-    if (left > right) {
-        *this = CRect(right, top, left, bottom);
-    }
-    if (top > bottom) {
-        *this = CRect(left, bottom, right, top);
-    }
-}
 
 inline CRect CRect::operator&(const RECT& rect) const {
     CRect common;

@@ -3,8 +3,9 @@ enable_language(RC)
 add_compile_definitions(UNICODE _UNICODE NOMINMAX STRICT WIN32_LEAN_AND_MEAN WINVER=0x0601
   _WIN32_WINNT=0x0601)
 if(MSVC)
-  # MFC itself, linked statically; the sources are UTF-8.
-  set(CMAKE_MFC_FLAG 1)
+  # MFC itself, as a DLL, like CMake's default for the C runtime; the sources are UTF-8.
+  set(CMAKE_MFC_FLAG 2)
+  add_compile_definitions(_AFXDLL)
   add_compile_options(/utf-8)
 else()
   # The runtime's number formats are the standard's, and no DLL of the compiler's is shipped.
@@ -26,5 +27,9 @@ set(CMAKE_SHARED_MODULE_PREFIX "")
 function(add_text_module target script)
   add_library(${target} MODULE ${script})
   set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
-  target_link_options(${target} PRIVATE -nostdlib -Wl,--entry=0)
+  if(MSVC)
+    target_link_options(${target} PRIVATE /NOENTRY)
+  else()
+    target_link_options(${target} PRIVATE -nostdlib -Wl,--entry=0)
+  endif()
 endfunction()

@@ -31,8 +31,8 @@ enum EControlType : std::uint32_t {
     CT_COMBOBOXEX
 };
 
-// The code of a window class. The first characters decide, in the order of the codes and with the case as it
-// stands: L"EDITX" is an edit control, L"Button" is not a button but CT_ACTIVEX, as every unknown name is.
+// The code of a window class. The first characters decide, in the order of the codes and case-sensitively:
+// L"EDITX" is an edit control, L"Button" is not a button but CT_ACTIVEX, as every unknown name is.
 std::uint32_t TypeCodeOfClass(std::wstring_view className);
 
 // The window class of a code; the empty text for a code that is none of the 19.

@@ -10,8 +10,8 @@ constexpr std::int32_t kLeftMargin = 10;
 constexpr std::int32_t kRowHeight = 12;
 constexpr std::int32_t kBoxMargin = 5;
 
-// The extent of one axis of the box so that `end` lies in it. A start that moved down has not made it larger:
-// what lies beyond the start alone counts.
+// The extent of one axis of the box so that it includes `end`. A start that moved down has not made it
+// larger: only what is beyond the start counts.
 std::int16_t ExtentUpTo(std::int64_t end, std::int16_t start, std::int16_t extent) {
     return end > start + extent ? static_cast<std::int16_t>(end + kBoxMargin - start) : extent;
 }

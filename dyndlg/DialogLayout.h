@@ -1,6 +1,6 @@
 // Where the controls of a dialog assembled at run time go, and how large the dialog becomes by them.
 //
-// All coordinates are dialog units; a rectangle's right and bottom lie just outside it.
+// All coordinates are dialog units; a rectangle's right and bottom are exclusive.
 #pragma once
 
 #include <cstdint>
@@ -24,15 +24,15 @@ struct StandardButtonRects {
 
 class CDialogLayout {
 public:
-    // Takes a control in. One with a rectangle of its own keeps it; one without (null) gets the next row,
+    // Adds a control. One with a rectangle of its own keeps it; one without (null) gets the next row,
     // from x 10 to `defaultRight`. Both use up a row of 12. The result is the control's rectangle.
     DialogRect Place(const DialogRect* rect, std::int32_t defaultRight);
 
-    // Leaves a gap of 6 and answers where OK and Cancel stand side by side below it. The buttons themselves
-    // are placed like any control, by their rectangles.
+    // Leaves a gap of 6 and returns the rectangles of OK and Cancel, side by side below it. The buttons
+    // themselves are placed like any control, by their rectangles.
     StandardButtonRects StartStandardButtons();
 
-    // Reaches 5 beyond the rightmost and the lowest control; starts at 0, 0 or at a control that lies left of
+    // Reaches 5 beyond the rightmost and the lowest control; starts at 0, 0 or at a control that is left of
     // or above that.
     const DialogExtent& Extent() const { return m_extent; }
 

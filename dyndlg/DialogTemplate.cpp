@@ -74,7 +74,7 @@ private:
     std::size_t m_used = 0;
 };
 
-// The low bits of a signed number as they stand in memory.
+// The low bits of a signed number as they are in memory.
 std::uint32_t Bits(std::int32_t value) {
     return static_cast<std::uint32_t>(value);
 }

@@ -40,7 +40,7 @@ struct DialogTemplate {
 // How many bytes the template takes. The last item is not rounded up.
 std::size_t TemplateSize(const DialogTemplate& dialog);
 
-// Writes the template, gaps included, to the beginning of `memory`, which has room for TemplateSize bytes. A
+// Writes the template, gaps included, to the beginning of `memory`, which holds TemplateSize bytes. A
 // dialog without menu, of the default window class; items without creation data.
 void WriteTemplate(const DialogTemplate& dialog, std::span<std::byte> memory);
 

@@ -37,7 +37,7 @@ bool ReadFontOf(const CWnd* window, LOGFONT& font) {
     if (window == nullptr || window->GetSafeHwnd() == nullptr) {
         return false;
     }
-    const auto handle = reinterpret_cast<HGDIOBJ>(window->SendMessage(WM_GETFONT));
+    const auto handle = reinterpret_cast<HGDIOBJ>(::SendMessage(window->GetSafeHwnd(), WM_GETFONT, 0, 0));
     return handle != nullptr && ::GetObject(handle, sizeof(font), &font) != 0;
 }
 
@@ -141,7 +141,7 @@ INT_PTR CDynDialogEx::DoModal() {
         AddSystemButtons();
     }
     const LOGFONT font = ChooseTemplateFont();
-    // The height as it stands, not as a size in points: a negative height keeps its low 16 bits.
+    // The height as it is, not as a size in points: a negative height keeps its low 16 bits.
     if (m_fontSize == 0) {
         m_fontSize = LOWORD(font.lfHeight);
     }

@@ -7,6 +7,7 @@
 
 #include "dyndlg/ControlTypes.h"
 #include "dyndlg/DialogLayout.h"
+#include "memory/MemoryFence.h"
 
 namespace tavrin::dyndlg {
 
@@ -48,6 +49,9 @@ public:
     void DoDataExchange(CDataExchange* pDX) override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CWnd::WindowProc(message, wParam, lParam); });
+    }
     DECLARE_MESSAGE_MAP()
 
 private:

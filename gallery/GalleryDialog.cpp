@@ -147,7 +147,7 @@ void CGalleryDialog::FillStates() {
     const UINT section = m_grid.AddSection(L"States");
     m_grid.AddStringItem(section, L"Article", L"D-4711", false);
     m_grid.AddBooleanItem(section, L"In stock", true, false);
-    m_grid.AddStringItem(section, L"Maker", L"", true, true);
+    m_grid.AddStringItem(section, L"Maker", std::wstring(), true, true);
     m_grid.AddIntegerItem(section, L"Rating", 0, L"%d", true, true);
 }
 

@@ -5,7 +5,7 @@
 // confirmed or cancelled; a gallery that was closed is opened again.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <random>
 #include <vector>

@@ -23,6 +23,7 @@ class CSelectedObject {
 public:
     CSelectedObject(HDC dc, HGDIOBJ object)
         : m_dc(dc), m_previous(object != nullptr ? SelectObject(dc, object) : nullptr) {}
+    CSelectedObject(HDC dc, const GdiOwner& object) : CSelectedObject(dc, object.get()) {}
     ~CSelectedObject() {
         if (m_previous != nullptr) {
             SelectObject(m_dc, m_previous);

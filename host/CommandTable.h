@@ -13,7 +13,7 @@ struct CommandRow {
 // A row's position is the code under which the host knows the function.
 std::span<const CommandRow> CommandTable();
 
-// Make the functions known to the host, or take them away; each stops early only when the host answers 0.
+// Register the functions with the host, or unregister them; each stops early only when the host returns 0.
 void RegisterCommands();
 void UnregisterCommands();
 

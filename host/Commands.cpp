@@ -34,7 +34,7 @@ bool BeginsWithString(const sds_resbuf* list) {
     return list != nullptr && list->type == RTSTR;
 }
 
-// The result of a function that answers no more than whether its dialog was confirmed.
+// Sets the LISP result of a function that only says whether its dialog was confirmed.
 void SetResultOf(INT_PTR dialogResult) {
     if (dialogResult == IDOK) {
         sds_retint(0);

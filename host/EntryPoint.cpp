@@ -1,4 +1,4 @@
-// The door through which the host talks to the module.
+// The entry point of the module.
 #include <afxwin.h>
 
 #include <string>
@@ -37,7 +37,7 @@ int Load() {
 }  // namespace
 
 // The host's requests: 1 loads, 2 unloads, 5 invokes the function that LISP called; the others up to 17
-// ask for nothing here. Answers 0, or 3 for a request that is not known and for a load in a host that
+// are ignored. Returns 0, or 3 for a request that is not known and for a load in a host that
 // lacks a function.
 extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*packet*/) {
     try {

@@ -8,7 +8,7 @@ constexpr int none = kCellEmpty;
 constexpr int logo = kCellLogo;
 
 // Four choices form a block of two by two in the left columns. With five the logo fills the middle of the
-// bottom row, so the fifth choice stands at its end.
+// bottom row, so the fifth choice is at its end.
 constexpr int kContents[kMaxChoices + 1][kChoiceCells] = {
     {none, none, none, none, none, none},  //
     {0, none, none, none, none, none},     //
@@ -64,14 +64,14 @@ ChoiceArrangement ArrangeOneRow(unsigned count, const PixelRect& window, const P
     const auto place = [&](const PixelRect& button) {
         return PixelPoint{button.left - cut - window.left, yOf(button)};
     };
-    // Deliberate: the place of Replace across is its place on the screen, the window's is not taken off.
+    // Deliberate: the horizontal position of Replace is its screen position; the window's is not subtracted.
     return {KeptColumns(count, width), half + 28, place(ok), place(cancel),
             PixelPoint{replace.left, yOf(replace)}};
 }
 
 ChoiceArrangement ArrangeTwoByTwo(const PixelRect& window, const PixelRect& ok, const PixelRect& cancel) {
     const int third = (window.right - window.left) / 3;
-    // Deliberate: Cancel stands at the height of OK, whatever its own was.
+    // Deliberate: Cancel is at the height of OK, whatever its own was.
     const int y = ok.top - window.top - 25;
     return {third * 2,
             window.bottom - window.top,
@@ -109,12 +109,12 @@ int GetChoiceOfCell(unsigned count, int cell, int previous) {
         return previous - 1;
     }
     const int content = GetCellContent(count, cell);
-    // A cell of the top row that shows nothing stands for the choice that it would show.
+    // A cell of the top row that shows nothing means the choice that it would show.
     return content >= 0 ? content : cell - 1;
 }
 
 bool HasChoiceFrame(unsigned count, int cell) {
-    // With one or two choices every cell gets one; those that cannot be selected lie outside the window
+    // With one or two choices every cell gets one; those that cannot be selected are outside the window
     // or in its lowest part.
     return count == 1 || count == 2 ? IsCell(cell) : IsChoiceCellSelectable(count, cell);
 }

@@ -20,7 +20,7 @@ inline constexpr int kCellLogo = -2;
 int GetCellContent(unsigned count, int cell);
 
 // Whether a click selects the cell. With up to three choices that is the whole top row, even where it
-// shows nothing: the window is narrowed so that those cells lie outside it.
+// shows nothing: the window is narrowed so that those cells are outside it.
 bool IsChoiceCellSelectable(unsigned count, int cell);
 
 // The choice that selecting the (selectable) cell means; `previous` is the one selected before.
@@ -34,17 +34,17 @@ struct PixelPoint {
     bool operator==(const PixelPoint&) const = default;
 };
 
-// Right and bottom lie outside.
+// Right and bottom are exclusive.
 struct PixelRect {
     int left, top, right, bottom;
     bool operator==(const PixelRect&) const = default;
 };
 
 // The corners of the outline around a cell whose client area is `client`, right and bottom included. Drawn
-// three pixels wide it lies wholly outside the cell.
+// three pixels wide it is wholly outside the cell.
 PixelRect GetFrameOutline(const PixelRect& client);
 
-// The window's new size, and the places of its buttons in its client area; a button keeps its size.
+// The window's new size, and the positions of its buttons in its client area; a button keeps its size.
 struct ChoiceArrangement {
     int width, height;
     PixelPoint ok, cancel;

@@ -1,5 +1,12 @@
 #include "imagedlg/PictureCtrl.h"
 
+#include <algorithm>
+
+// The header takes min and max for macros of the system's, which are turned off.
+namespace Gdiplus {
+using std::max;
+using std::min;
+}  // namespace Gdiplus
 #include <gdiplus.h>
 
 namespace tavrin::imagedlg {
@@ -70,13 +77,8 @@ BOOL CPictureCtrl::LoadFromFile(const CString& path) {
 
 // Copies the file into the stream. False, with the reason as last error, when either fails.
 bool CPictureCtrl::ReadFileIntoStream(const CString& path) {
-    CFile file;
-    CFileException fileException;
-    if (!file.Open(path, CFile::modeRead | CFile::typeBinary, &fileException)) {
-        SetLastError(static_cast<DWORD>(fileException.m_lOsError));
-        return false;
-    }
     try {
+        CFile file(path, CFile::modeRead | CFile::typeBinary);
         BYTE buffer[1024] = {};
         while (const UINT count = file.Read(buffer, sizeof(buffer))) {
             const HRESULT written = m_stream->Write(buffer, count, nullptr);

@@ -7,6 +7,8 @@
 #include <afxwin.h>
 #include <objidl.h>
 
+#include "memory/MemoryFence.h"
+
 namespace tavrin::imagedlg {
 
 class CPictureCtrl : public CStatic {
@@ -16,17 +18,20 @@ public:
     ~CPictureCtrl() override;
 
     // Takes the bytes of the file `path` and repaints. FALSE when it cannot be read: the control is then
-    // empty, whatever it showed before, and GetLastError tells why (the file exception's system error, -1
-    // when there was none; the HRESULT of the memory stream). Whether the bytes are a picture shows only
+    // empty, whatever it showed before, and GetLastError gives the reason (the file exception's system error,
+    // -1 when there was none; the HRESULT of the memory stream). Whether the bytes are a picture shows only
     // in painting: a file that cannot be decoded, an empty one included, is loaded and draws nothing.
     // May be called before the window exists.
     BOOL LoadFromFile(const CString& path);
 
-    // Paints like DrawItem, on `pDC`, and answers TRUE; what the framework answers when the control is
+    // Paints like DrawItem, on `pDC`, and returns TRUE; what the framework returns when the control is
     // empty. Not wired to a message: the dialog's background must show where nothing is drawn.
     virtual BOOL OnEraseBkgnd(CDC* pDC);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CStatic::WindowProc(message, wParam, lParam); });
+    }
     void PreSubclassWindow() override;
     void DrawItem(LPDRAWITEMSTRUCT drawItem) override;
 

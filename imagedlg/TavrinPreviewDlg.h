@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include "imagedlg/PictureCtrl.h"
+#include "memory/MemoryFence.h"
 #include "res/resource.h"
 
 namespace tavrin::imagedlg {
@@ -22,6 +23,9 @@ public:
     virtual void SetName(CString name);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
+    }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     DECLARE_MESSAGE_MAP()

@@ -34,7 +34,7 @@ void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
     dc.LineTo(outline.left, outline.top);
 }
 
-// To a place in the client area of its parent, keeping its size.
+// To a position in the client area of its parent, keeping its size.
 void MoveButton(CWnd& button, PixelPoint place) {
     button.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
@@ -219,7 +219,7 @@ void CTavrinSelMaskDlg::PaintFrames() {
     // On the dialog's surface: what a control's own device context reaches outside the control differs
     // from system to system.
     CClientDC dc(this);
-    // With one or two choices there are frames in the bottom row too, where the buttons now stand.
+    // With one or two choices there are frames in the bottom row too, where the buttons now are.
     for (CWnd* const button : {GetDlgItem(IDOK), GetDlgItem(IDCANCEL), GetDlgItem(IDC_CHOICE_REPLACE)}) {
         if (button->IsWindowVisible()) {
             dc.ExcludeClipRect(AreaOf(*button));

@@ -1,5 +1,5 @@
 // The choice dialog: up to six named choices, each a picture (a slide) in a cell. One cell is selected and
-// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h says what stands where.
+// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h defines the layout.
 //
 // Fill it, load the slides, then run it:
 //
@@ -22,6 +22,7 @@
 
 #include "imagedlg/ChoiceLayout.h"
 #include "imagedlg/PictureCtrl.h"
+#include "memory/MemoryFence.h"
 #include "res/resource.h"
 
 namespace tavrin::imagedlg {
@@ -58,7 +59,7 @@ public:
     virtual void RefreshSlides();
 
     // The file to show for a choice: its slide, flat or in space; "empty.png" when the host finds neither
-    // any more or the name is empty. When that is missing too the user is told and the path is empty.
+    // any more or the name is empty. When that is missing too, a message box says so and the path is empty.
     virtual CString GetSlidePath(CString name);
     // Empty, without a message, when there is no "logo.png".
     virtual CString GetLogoPath();
@@ -81,6 +82,9 @@ public:
     virtual void PaintFrames();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
+    }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
 

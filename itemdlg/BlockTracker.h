@@ -1,4 +1,4 @@
-// Keeps account of the parameter blocks of a file while its lines pass by.
+// Tracks the parameter blocks of a file, line by line.
 #pragma once
 
 #include <string_view>

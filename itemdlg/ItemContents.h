@@ -1,5 +1,5 @@
 // What the item dialog makes of a working file: its title and header, and one parameter after the other with
-// the row that it gets. The dialog is filled from this, and so is everything that foretells the dialog.
+// the row that it gets. The dialog is filled from this, and so is a preview of it.
 #pragma once
 
 #include <optional>

@@ -1,4 +1,4 @@
-// What the item dialog says in message boxes about an item's files. Whoever foretells the dialog says it too.
+// The messages of the item dialog about an item's files, which the preview tool repeats.
 #pragma once
 
 namespace tavrin::itemdlg {

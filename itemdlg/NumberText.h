@@ -18,7 +18,7 @@ namespace tavrin::itemdlg {
 // hexadecimal digits are no numbers here: a drawing has no use for them, so that "0x1F" is 0.
 double DecimalValue(std::wstring_view text);
 
-// The same number with the place where it ends: how many characters belong to it and to the white space
+// The same number with its end: the number of characters that belong to it and to the white space
 // before it. 0 when the text begins with no number.
 struct LeadingNumber {
     double value = 0.0;

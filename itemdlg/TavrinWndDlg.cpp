@@ -190,9 +190,9 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
     RewriteFile(kTemplateFileEnding, RewriteTemplateFile);
 }
 
-// Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,
-// which is required: the file then ends where reading failed. A want of memory is told as a failure of what
-// it ended, and the file stays as it is unless it was being written.
+// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written all the same
+// and then ends where reading failed. Out of memory is reported as a failure of the step that it interrupted;
+// the file stays as it is unless it was being written.
 void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {
     const wchar_t* failure = kUnableToOpen;
     try {

@@ -16,6 +16,7 @@
 #include "imagedlg/PictureCtrl.h"
 #include "itemdlg/ItemContents.h"
 #include "itemdlg/ParamRecord.h"
+#include "memory/MemoryFence.h"
 #include "propgrid/DistanceItem.h"
 #include "propgrid/PropertyGrid.h"
 #include "res/resource.h"
@@ -57,6 +58,9 @@ public:
     virtual void SetArguments(CString baseName, double scale, int mode);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
+    }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     void OnClickedOk();

@@ -1,7 +1,7 @@
 // The base of the grid's client interface: the state that its parts work on, and what they ask of the window.
 //
-// The interface is one chain of classes, each with a topic of its own: CGridAppearance, CGridRows,
-// CGridValues, and at its end CPropertyGrid, the window.
+// The interface is one chain of classes, each with a topic of its own: CGridColoring, CGridWording,
+// CGridLook, CGridFilling, CGridRows, CGridValues, and at its end CPropertyGrid, the window.
 #pragma once
 
 #include <afxwin.h>

@@ -1,5 +1,6 @@
 #include "propgrid/PropertyGrid.h"
 
+#include "memory/MemoryFence.h"
 #include "propgrid/PressWatch.h"
 #include "propgrid/controller/EditResult.h"
 #include "propgrid/controller/Focus.h"
@@ -125,8 +126,10 @@ LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DESTROY) {
         m_layoutPending = false;
     }
-    SettleLayout();
-    return CWnd::WindowProc(message, wParam, lParam);
+    return tavrin::memory::FenceMemory([&] {
+        SettleLayout();
+        return CWnd::WindowProc(message, wParam, lParam);
+    });
 }
 
 void CPropertyGrid::OnDestroy() {

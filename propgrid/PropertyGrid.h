@@ -11,7 +11,8 @@
 //
 // Sections and items are known by the ids that their adds return. The grid owns its records, its fonts
 // and its scroll bar; custom items belong to the client. Filling it works before the window exists too.
-// GridAppearance.h, GridRows.h and GridValues.h have the rest of what a client can call.
+// What else a client can call is in GridFilling.h, GridValues.h, GridRows.h, GridLook.h, GridWording.h and
+// GridColoring.h.
 //
 // Coordinates are pixels of the client area. A setter repaints if the window exists. Nothing that the
 // client itself sets is notified; a change by the user is, see WM_GRID_ITEM_CHANGED.

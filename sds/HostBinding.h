@@ -4,9 +4,11 @@
 // same pointers that an import table would hold, filled at load from the process's own executable.
 #pragma once
 
-#include <windef.h>
-
 #include <string>
+
+// As the system declares it for strict types.
+struct HINSTANCE__;
+using HMODULE = HINSTANCE__*;
 
 // Fills every pointer from the exports of `host` (the process's executable: GetModuleHandle(nullptr)).
 // Returns the names of the functions that `host` does not export, separated by line feeds; empty when

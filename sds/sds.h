@@ -8,9 +8,11 @@
 // every other status is a failure. Everything is called on the host's user-interface thread.
 #pragma once
 
-#include <windef.h>
-
 #include <cstddef>
+
+// As the system declares it for strict types: this header takes none of the system's.
+struct HWND__;
+using HWND = HWND__*;
 
 #ifdef SDS_HOST
 #define SDS_API extern "C" __declspec(dllexport)

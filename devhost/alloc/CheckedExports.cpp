@@ -1,4 +1,4 @@
-// The checking TD_Alloc.dll: its exports, and the watch over faults in its blocks.
+// The checking TD_Alloc.dll: its exports, and the handler of access violations in its blocks.
 #include <windows.h>
 
 #include <new>
@@ -7,9 +7,11 @@
 #include "devhost/alloc/HostHeap.h"
 #include "devhost/fault/CodeAddress.h"
 
+namespace devhost {
+
 namespace {
 
-// Never destroyed: a plug-in's static objects give blocks back while the process ends.
+// Never destroyed: a plug-in's static objects release blocks while the process exits.
 CCheckedHeap& Heap() {
     alignas(CCheckedHeap) static unsigned char memory[sizeof(CCheckedHeap)];
     static CCheckedHeap* heap = new (memory) CCheckedHeap;
@@ -21,7 +23,7 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
     if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2) {
         Heap().EndIfMisused(reinterpret_cast<const void*>(record.ExceptionInformation[1]),
                             record.ExceptionInformation[0] == 1 ? "writes" : "reads",
-                            SCodeAddress(record.ExceptionAddress).text);
+                            CodeAddress(record.ExceptionAddress).text);
     }
     return EXCEPTION_CONTINUE_SEARCH;
 }
@@ -30,20 +32,24 @@ PVOID watch = nullptr;
 
 }  // namespace
 
+}  // namespace devhost
+
+using devhost::Heap;
+
 void* td_new(std::size_t size) {
-    return Heap().Allocate(size, EBlockKind::Single);
+    return Heap().Allocate(size, devhost::BK_SINGLE);
 }
 
 void* td_new_array(std::size_t size) {
-    return Heap().Allocate(size, EBlockKind::Array);
+    return Heap().Allocate(size, devhost::BK_ARRAY);
 }
 
 void td_delete(void* block) {
-    Heap().Release(block, EBlockKind::Single);
+    Heap().Release(block, devhost::BK_SINGLE);
 }
 
 void td_delete_array(void* block) {
-    Heap().Release(block, EBlockKind::Array);
+    Heap().Release(block, devhost::BK_ARRAY);
 }
 
 std::size_t td_live_blocks() {
@@ -68,9 +74,9 @@ void td_print_live(std::size_t most) {
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
-        watch = AddVectoredExceptionHandler(TRUE, OnException);
-    } else if (reason == DLL_PROCESS_DETACH && watch != nullptr) {
-        RemoveVectoredExceptionHandler(watch);
+        devhost::watch = AddVectoredExceptionHandler(TRUE, devhost::OnException);
+    } else if (reason == DLL_PROCESS_DETACH && devhost::watch != nullptr) {
+        RemoveVectoredExceptionHandler(devhost::watch);
     }
     return TRUE;
 }

@@ -6,6 +6,8 @@
 
 #include "devhost/fault/CodeAddress.h"
 
+namespace devhost {
+
 namespace {
 
 class CLock {
@@ -19,20 +21,20 @@ private:
     SRWLOCK& m_lock;
 };
 
-// Takes a live block out of `store` after checking that it may be; gives its size.
+// Releases a live block of `store` after checking it, and returns its size.
 template <typename TStore>
 std::size_t ReleaseFrom(TStore& store, const void* address, EBlockKind kind) {
-    const SHeapBlock* found = store.FindLive(address);
+    const HeapBlock* found = store.FindLive(address);
     if (found == nullptr) {
-        if (const SHeapBlock* freed = store.FindFreed(address)) {
-            EndOverHeapMisuse("%s was deleted twice", SBlockName(*freed).text);
+        if (const HeapBlock* freed = store.FindFreed(address)) {
+            EndOverHeapMisuse("%s was deleted twice", BlockName(*freed).text);
         }
         EndOverHeapMisuse("what was deleted at %p is no block of this heap", address);
     }
-    const SHeapBlock block = *found;
+    const HeapBlock block = *found;
     if (block.kind != kind) {
-        EndOverHeapMisuse("%s was deleted with %s", SBlockName(block).text,
-                          kind == EBlockKind::Array ? "delete[]" : "delete");
+        EndOverHeapMisuse("%s was deleted with %s", BlockName(block).text,
+                          kind == BK_ARRAY ? "delete[]" : "delete");
     }
     store.CheckBorder(address);
     store.Release(address);
@@ -47,7 +49,7 @@ void* CCheckedHeap::Allocate(std::size_t size, EBlockKind kind) noexcept {
     if (m_requests == m_failAt) {
         return nullptr;
     }
-    void* address = Place({size, m_requests, kind});
+    void* address = AllocateBlock({size, m_requests, kind});
     if (address != nullptr) {
         ++m_liveBlocks;
         m_liveBytes += size;
@@ -55,14 +57,14 @@ void* CCheckedHeap::Allocate(std::size_t size, EBlockKind kind) noexcept {
     return address;
 }
 
-void* CCheckedHeap::Place(const SHeapBlock& block) {
+void* CCheckedHeap::AllocateBlock(const HeapBlock& block) {
     try {
         if (void* guarded = m_arena.Allocate(block)) {
             return guarded;
         }
         return m_overflow.Allocate(block);
     } catch (...) {
-        return nullptr;  // no memory for the books
+        return nullptr;  // out of memory for the bookkeeping
     }
 }
 
@@ -98,38 +100,40 @@ void CCheckedHeap::FailAfter(std::size_t count) noexcept {
 }
 
 void CCheckedHeap::PrintLive(std::size_t most) noexcept {
-    struct SLive {
-        SHeapBlock block;
+    struct LiveBlock {
+        HeapBlock block;
         const unsigned char* data;
     };
     const CLock lock(m_lock);
-    std::vector<SLive> live;
-    const auto collect = [&](const SHeapBlock& block, const unsigned char* data) {
+    std::vector<LiveBlock> live;
+    const auto collect = [&](const HeapBlock& block, const unsigned char* data) {
         live.push_back({block, data});
     };
     m_arena.ForEachLive(collect);
     m_overflow.ForEachLive(collect);
     std::sort(live.begin(), live.end(),
-              [](const SLive& a, const SLive& b) { return a.block.number < b.block.number; });
+              [](const LiveBlock& a, const LiveBlock& b) { return a.block.number < b.block.number; });
     if (live.size() > most) {
         live.resize(most);
     }
-    for (const SLive& entry : live) {
+    for (const LiveBlock& entry : live) {
         char bytes[16 * 3 + 1] = "";
         for (std::size_t i = 0; i < std::min<std::size_t>(16, entry.block.size); ++i) {
             std::snprintf(bytes + 3 * i, 4, " %02X", entry.data[i]);
         }
         char line[200];
-        std::snprintf(line, sizeof line, "heap check: %s is held, bytes%s\n", SBlockName(entry.block).text,
+        std::snprintf(line, sizeof line, "heap check: %s is held, bytes%s\n", BlockName(entry.block).text,
                       bytes);
         WriteToStandardError(line);
     }
 }
 
 void CCheckedHeap::EndIfMisused(const void* address, const char* access, const char* culprit) noexcept {
-    // The thread that faulted may hold the lock itself; then the books cannot be trusted anyway.
+    // The thread that faulted may hold the lock itself; then the bookkeeping may be inconsistent.
     if (!m_arena.Holds(address) || !TryAcquireSRWLockExclusive(&m_lock)) {
         return;
     }
     m_arena.EndOverFault(address, access, culprit);
 }
+
+}  // namespace devhost

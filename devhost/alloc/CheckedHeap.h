@@ -1,6 +1,6 @@
-// The checking heap: blocks behind guard pages as long as there is room, on the ordinary heap with a known
-// border beyond that. A block that is given back twice, by the wrong operator or with a damaged border, and
-// an address that is no block, end the process with a line that says so.
+// The checking heap: blocks end at guard pages as long as addresses last; further blocks are on the ordinary
+// heap with a border of known bytes. Releasing a block twice, with the wrong operator or with a damaged
+// border, and releasing an address that is not a block, end the process with a message.
 //
 // Its functions may be called on any thread; none throws.
 #pragma once
@@ -10,6 +10,8 @@
 #include "devhost/alloc/GuardArena.h"
 #include "devhost/alloc/HeapBlock.h"
 #include "devhost/alloc/PatternHeap.h"
+
+namespace devhost {
 
 class CCheckedHeap {
 public:
@@ -22,11 +24,11 @@ public:
     void FailAfter(std::size_t count) noexcept;
     void PrintLive(std::size_t most) noexcept;
 
-    // Whether a fault at `address` is one of this heap's blocks being misused; then it ends the process.
+    // Ends the process if a fault at `address` is a misuse of one of this heap's blocks.
     void EndIfMisused(const void* address, const char* access, const char* culprit) noexcept;
 
 private:
-    void* Place(const SHeapBlock& block);
+    void* AllocateBlock(const HeapBlock& block);
 
     SRWLOCK m_lock = SRWLOCK_INIT;
     CGuardArena m_arena;
@@ -36,3 +38,5 @@ private:
     std::size_t m_liveBlocks = 0;
     std::size_t m_liveBytes = 0;
 };
+
+}  // namespace devhost

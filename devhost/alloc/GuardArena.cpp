@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace devhost {
+
 namespace {
 
 constexpr std::size_t kPageSize = 4096;
@@ -21,7 +23,7 @@ std::size_t RoundUp(std::size_t size, std::size_t step) {
 
 }  // namespace
 
-unsigned char* CGuardArena::Allocate(const SHeapBlock& block) {
+unsigned char* CGuardArena::Allocate(const HeapBlock& block) {
     if (block.size > kMaxBlockSize || m_liveBlocks == kMaxLiveBlocks || !Reserve()) {
         return nullptr;
     }
@@ -32,7 +34,7 @@ unsigned char* CGuardArena::Allocate(const SHeapBlock& block) {
         return nullptr;
     }
 
-    std::fill_n(m_records.begin() + std::ptrdiff_t(first), pages + 1, SRecord());
+    std::fill_n(m_records.begin() + std::ptrdiff_t(first), pages + 1, Record());
     std::fill_n(m_taken.begin() + std::ptrdiff_t(first), pages + 1, true);
     m_records[first] = {block, std::uint32_t(pages), true};
     m_cursor = first + pages + 1;
@@ -56,8 +58,8 @@ bool CGuardArena::Reserve() {
     return m_base != nullptr;
 }
 
-// The first of `pages` free pages in a row. The search goes round the arena, so that a place is used again
-// as late as possible.
+// The first of `pages` free pages in a row. The search cycles through the arena, so that pages are reused as
+// late as possible.
 std::size_t CGuardArena::FindRun(std::size_t pages) {
     std::size_t run = 0;
     std::size_t page = m_cursor;
@@ -87,15 +89,15 @@ unsigned char* CGuardArena::PageAt(std::size_t page) const {
     return m_base + page * kPageSize;
 }
 
-// Where the block that begins on `page` has its first byte. Its last one is up to 15 bytes away from the
-// guard page, as far as alignment asks.
+// The first byte of the block that begins on `page`. Alignment leaves up to 15 bytes between its end and the
+// guard page.
 unsigned char* CGuardArena::DataOf(std::size_t page) const {
-    const SRecord& record = m_records[page];
+    const Record& record = m_records[page];
     const std::size_t room = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
     return PageAt(page + record.pages) - room;
 }
 
-const CGuardArena::SRecord* CGuardArena::RecordAt(const void* address) const {
+const CGuardArena::Record* CGuardArena::RecordAt(const void* address) const {
     if (!Holds(address)) {
         return nullptr;
     }
@@ -103,38 +105,38 @@ const CGuardArena::SRecord* CGuardArena::RecordAt(const void* address) const {
     return m_records[page].pages != 0 && DataOf(page) == address ? &m_records[page] : nullptr;
 }
 
-const SHeapBlock* CGuardArena::FindLive(const void* address) const {
-    const SRecord* record = RecordAt(address);
+const HeapBlock* CGuardArena::FindLive(const void* address) const {
+    const Record* record = RecordAt(address);
     return record != nullptr && record->live ? &record->block : nullptr;
 }
 
-const SHeapBlock* CGuardArena::FindFreed(const void* address) const {
-    const SRecord* record = RecordAt(address);
+const HeapBlock* CGuardArena::FindFreed(const void* address) const {
+    const Record* record = RecordAt(address);
     return record != nullptr && !record->live ? &record->block : nullptr;
 }
 
 void CGuardArena::CheckBorder(const void* address) const {
     const std::size_t page = PageOf(address);
-    const SRecord& record = m_records[page];
+    const Record& record = m_records[page];
     const unsigned char* data = DataOf(page);
     if (!IsFilled(PageAt(page), data, kBorderByte)) {
-        EndOverHeapMisuse("%s was written in front of its start", SBlockName(record.block).text);
+        EndOverHeapMisuse("%s was written before its start", BlockName(record.block).text);
     }
     if (!IsFilled(data + record.block.size, PageAt(page + record.pages), kBorderByte)) {
-        EndOverHeapMisuse("%s was written behind its end", SBlockName(record.block).text);
+        EndOverHeapMisuse("%s was written past its end", BlockName(record.block).text);
     }
 }
 
 void CGuardArena::Release(const void* address) {
     const std::size_t page = PageOf(address);
-    SRecord& record = m_records[page];
+    Record& record = m_records[page];
     record.live = false;
     --m_liveBlocks;
     VirtualFree(PageAt(page), record.pages * kPageSize, MEM_DECOMMIT);
     Quarantine(page);
 }
 
-// Keeps the place of a block that was given back from being used again soon.
+// Delays the reuse of a released block's pages.
 void CGuardArena::Quarantine(std::size_t page) {
     m_quarantine.push_back(page);
     m_quarantinedPages += m_records[page].pages + 1;
@@ -153,24 +155,26 @@ void CGuardArena::EndOverFault(const void* address, const char* access, const ch
     while (page > 0 && m_records[page].pages == 0) {
         --page;
     }
-    const SRecord& record = m_records[page];
+    const Record& record = m_records[page];
     if (record.pages == 0 || faulted > page + record.pages) {
-        EndOverHeapMisuse("%s %s where no block is (%p)", culprit, access, address);
+        EndOverHeapMisuse("%s %s an address outside of all blocks (%p)", culprit, access, address);
     }
-    const SBlockName name(record.block);
+    const BlockName name(record.block);
     if (!record.live) {
         EndOverHeapMisuse("%s %s %s after it was deleted", culprit, access, name.text);
     }
-    const auto behind = static_cast<const unsigned char*>(address) - (DataOf(page) + record.block.size);
-    EndOverHeapMisuse("%s %s behind the end of %s, %lld bytes from it", culprit, access, name.text,
-                      static_cast<long long>(behind));
+    const auto past = static_cast<const unsigned char*>(address) - (DataOf(page) + record.block.size);
+    EndOverHeapMisuse("%s %s %lld bytes past the end of %s", culprit, access, static_cast<long long>(past),
+                      name.text);
 }
 
 void CGuardArena::ForEachLive(
-    const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const {
+    const std::function<void(const HeapBlock&, const unsigned char*)>& visit) const {
     for (std::size_t page = 0; page < m_records.size(); ++page) {
         if (m_records[page].live) {
             visit(m_records[page].block, DataOf(page));
         }
     }
 }
+
+}  // namespace devhost

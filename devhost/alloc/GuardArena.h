@@ -1,9 +1,9 @@
-// Blocks that end where memory ends: behind each lies a page that cannot be touched, and the pages of a
-// block that was given back cannot be touched either. A wrong access faults at the instruction that makes it.
+// Blocks that end at a guard page; the pages of a released block are inaccessible too. A wrong access faults
+// at the instruction that makes it.
 //
-// Owns one reserved range of addresses. Reserving block by block would cost 64 KiB of addresses each, so
-// pages are committed one by one inside the range. The number of blocks that live here at a time is limited:
-// each costs the system two mappings, of which a Linux process may have 65530 under Wine.
+// Owns one reserved range of addresses. Reserving each block would use 64 KiB of addresses, so pages are
+// committed one by one inside the range. The number of live blocks is limited: each costs the system two
+// mappings, of which a Linux process may have 65530 under Wine.
 #pragma once
 
 #include <cstdint>
@@ -13,35 +13,37 @@
 
 #include "devhost/alloc/HeapBlock.h"
 
+namespace devhost {
+
 class CGuardArena {
 public:
     CGuardArena() = default;
     CGuardArena(const CGuardArena&) = delete;
     CGuardArena& operator=(const CGuardArena&) = delete;
 
-    // Memory for the block, or null: too many or too large blocks, no addresses or memory left.
-    unsigned char* Allocate(const SHeapBlock& block);
-    // Whether an address lies in the arena, in whatever state.
+    // Null when there are too many blocks, the block is too large, or addresses or memory are exhausted.
+    unsigned char* Allocate(const HeapBlock& block);
+    // Whether an address is in the arena, in any state.
     bool Holds(const void* address) const;
 
-    // The block that begins at `address` and has not been given back, or null.
-    const SHeapBlock* FindLive(const void* address) const;
-    // The block that began at `address` and was given back, as long as its place was not used again.
-    const SHeapBlock* FindFreed(const void* address) const;
-    // Ends the process when something was written around the live block at `address`.
+    // The live block that begins at `address`, or null.
+    const HeapBlock* FindLive(const void* address) const;
+    // The released block that began at `address`, or null once its pages are reused.
+    const HeapBlock* FindFreed(const void* address) const;
+    // Ends the process if the border of the live block at `address` is damaged.
     void CheckBorder(const void* address) const;
-    // Gives back the live block at `address`.
+    // Releases the live block at `address`.
     void Release(const void* address);
 
-    // Ends the process with what can be said about an access that faulted in the arena.
+    // Ends the process with a message about an access that faulted in the arena.
     [[noreturn]] void EndOverFault(const void* address, const char* access, const char* culprit) const;
 
-    void ForEachLive(const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const;
+    void ForEachLive(const std::function<void(const HeapBlock&, const unsigned char*)>& visit) const;
 
 private:
-    // The page on which a block begins carries its record, also after it was given back.
-    struct SRecord {
-        SHeapBlock block;
+    // The record of a block is that of its first page, also after its release.
+    struct Record {
+        HeapBlock block;
         std::uint32_t pages = 0;  // without the guard page; 0: no block begins here
         bool live = false;
     };
@@ -51,14 +53,16 @@ private:
     std::size_t PageOf(const void* address) const;
     unsigned char* PageAt(std::size_t page) const;
     unsigned char* DataOf(std::size_t page) const;
-    const SRecord* RecordAt(const void* address) const;
+    const Record* RecordAt(const void* address) const;
     void Quarantine(std::size_t page);
 
     unsigned char* m_base = nullptr;
-    std::vector<SRecord> m_records;
+    std::vector<Record> m_records;
     std::vector<bool> m_taken;  // by page: part of a live or quarantined block, its guard page included
-    std::size_t m_cursor = 0;   // where the search for free pages goes on
+    std::size_t m_cursor = 0;   // where the search for free pages continues
     std::size_t m_liveBlocks = 0;
-    std::deque<std::size_t> m_quarantine;  // first pages, the oldest in front
+    std::deque<std::size_t> m_quarantine;  // first pages, the oldest first
     std::size_t m_quarantinedPages = 0;
 };
+
+}  // namespace devhost

@@ -8,10 +8,12 @@
 
 #include "devhost/fault/CodeAddress.h"
 
-SBlockName::SBlockName(const SHeapBlock& block) {
+namespace devhost {
+
+BlockName::BlockName(const HeapBlock& block) {
     std::snprintf(text, sizeof text, "block %llu (%llu bytes, %s)",
                   static_cast<unsigned long long>(block.number), static_cast<unsigned long long>(block.size),
-                  block.kind == EBlockKind::Array ? "new[]" : "new");
+                  block.kind == BK_ARRAY ? "new[]" : "new");
 }
 
 bool IsFilled(const unsigned char* begin, const unsigned char* end, unsigned char byte) {
@@ -27,9 +29,11 @@ void EndOverHeapMisuse(const char* format, ...) {
     WriteToStandardError("heap check: ");
     WriteToStandardError(what);
     WriteToStandardError("\n");
-    // Not exit: nothing of this process may run on a damaged heap.
+    // Not exit: no further code may run on a damaged heap.
     TerminateProcess(GetCurrentProcess(), kHeapMisuseStatus);
     for (;;) {
         Sleep(INFINITE);
     }
 }
+
+}  // namespace devhost

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
+namespace devhost {
+
 namespace {
 
 constexpr std::size_t kBorder = 16;
@@ -13,7 +15,7 @@ constexpr std::size_t kMaxQuarantinedBytes = 64 * 1024 * 1024;
 
 }  // namespace
 
-unsigned char* CPatternHeap::Allocate(const SHeapBlock& block) {
+unsigned char* CPatternHeap::Allocate(const HeapBlock& block) {
     if (block.size > PTRDIFF_MAX - 2 * kBorder) {
         return nullptr;
     }
@@ -34,54 +36,56 @@ unsigned char* CPatternHeap::Allocate(const SHeapBlock& block) {
     return data;
 }
 
-const SHeapBlock* CPatternHeap::FindLive(const void* address) const {
+const HeapBlock* CPatternHeap::FindLive(const void* address) const {
     const auto found = m_live.find(address);
     return found != m_live.end() ? &found->second : nullptr;
 }
 
-const SHeapBlock* CPatternHeap::FindFreed(const void* address) const {
+const HeapBlock* CPatternHeap::FindFreed(const void* address) const {
     const auto found = std::find_if(m_quarantine.begin(), m_quarantine.end(),
-                                    [=](const SFreed& freed) { return freed.data == address; });
+                                    [=](const FreedBlock& freed) { return freed.data == address; });
     return found != m_quarantine.end() ? &found->block : nullptr;
 }
 
 void CPatternHeap::CheckBorder(const void* address) const {
-    const SHeapBlock& block = m_live.at(address);
+    const HeapBlock& block = m_live.at(address);
     const auto* data = static_cast<const unsigned char*>(address);
     if (!IsFilled(data - kBorder, data, kBorderByte)) {
-        EndOverHeapMisuse("%s was written in front of its start", SBlockName(block).text);
+        EndOverHeapMisuse("%s was written before its start", BlockName(block).text);
     }
     if (!IsFilled(data + block.size, data + block.size + kBorder, kBorderByte)) {
-        EndOverHeapMisuse("%s was written behind its end", SBlockName(block).text);
+        EndOverHeapMisuse("%s was written past its end", BlockName(block).text);
     }
 }
 
 void CPatternHeap::Release(const void* address) {
     const auto found = m_live.find(address);
-    const SHeapBlock block = found->second;
+    const HeapBlock block = found->second;
     m_live.erase(found);
     auto* data = static_cast<unsigned char*>(const_cast<void*>(address));
     std::fill_n(data, block.size, kFreedByte);
     m_quarantine.push_back({data, block});
     m_quarantinedBytes += block.size;
     while (m_quarantine.size() > kMaxQuarantinedBlocks || m_quarantinedBytes > kMaxQuarantinedBytes) {
-        LetOldestGo();
+        ReleaseOldest();
     }
 }
 
-void CPatternHeap::LetOldestGo() {
-    const SFreed oldest = m_quarantine.front();
+void CPatternHeap::ReleaseOldest() {
+    const FreedBlock oldest = m_quarantine.front();
     m_quarantine.pop_front();
     m_quarantinedBytes -= oldest.block.size;
     if (!IsFilled(oldest.data, oldest.data + oldest.block.size, kFreedByte)) {
-        EndOverHeapMisuse("%s was written after it was deleted", SBlockName(oldest.block).text);
+        EndOverHeapMisuse("%s was written after it was deleted", BlockName(oldest.block).text);
     }
     _aligned_free(oldest.data - kBorder);
 }
 
 void CPatternHeap::ForEachLive(
-    const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const {
+    const std::function<void(const HeapBlock&, const unsigned char*)>& visit) const {
     for (const auto& [address, block] : m_live) {
         visit(block, static_cast<const unsigned char*>(address));
     }
 }
+
+}  // namespace devhost

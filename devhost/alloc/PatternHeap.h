@@ -1,6 +1,6 @@
-// Blocks on the ordinary heap with a border of known bytes around each. What is written there is found when
-// the block is given back, and what is written into a block that was given back when its memory is really
-// let go, some thousand blocks later. Cheap enough for a million blocks; reading out of bounds goes unseen.
+// Blocks on the ordinary heap with a border of known bytes around each. Writes to the border are detected
+// when the block is released; writes to a released block when its memory is freed, some thousand blocks
+// later. Cheap enough for a million blocks; reads out of bounds are not detected.
 #pragma once
 
 #include <deque>
@@ -9,35 +9,39 @@
 
 #include "devhost/alloc/HeapBlock.h"
 
+namespace devhost {
+
 class CPatternHeap {
 public:
     CPatternHeap() = default;
     CPatternHeap(const CPatternHeap&) = delete;
     CPatternHeap& operator=(const CPatternHeap&) = delete;
 
-    // Memory for the block, or null when there is none.
-    unsigned char* Allocate(const SHeapBlock& block);
+    // Null when out of memory.
+    unsigned char* Allocate(const HeapBlock& block);
 
-    // The block that begins at `address` and has not been given back, or null.
-    const SHeapBlock* FindLive(const void* address) const;
-    // The block that began at `address` and was given back not long ago.
-    const SHeapBlock* FindFreed(const void* address) const;
-    // Ends the process when something was written around the live block at `address`.
+    // The live block that begins at `address`, or null.
+    const HeapBlock* FindLive(const void* address) const;
+    // The block that began at `address` and was released recently, or null.
+    const HeapBlock* FindFreed(const void* address) const;
+    // Ends the process if the border of the live block at `address` is damaged.
     void CheckBorder(const void* address) const;
-    // Gives back the live block at `address`.
+    // Releases the live block at `address`.
     void Release(const void* address);
 
-    void ForEachLive(const std::function<void(const SHeapBlock&, const unsigned char*)>& visit) const;
+    void ForEachLive(const std::function<void(const HeapBlock&, const unsigned char*)>& visit) const;
 
 private:
-    struct SFreed {
+    struct FreedBlock {
         unsigned char* data;
-        SHeapBlock block;
+        HeapBlock block;
     };
 
-    void LetOldestGo();
+    void ReleaseOldest();
 
-    std::unordered_map<const void*, SHeapBlock> m_live;
-    std::deque<SFreed> m_quarantine;  // the oldest in front
+    std::unordered_map<const void*, HeapBlock> m_live;
+    std::deque<FreedBlock> m_quarantine;  // the oldest first
     std::size_t m_quarantinedBytes = 0;
 };
+
+}  // namespace devhost

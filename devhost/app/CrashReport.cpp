@@ -6,6 +6,8 @@
 #include "devhost/app/ExitStatus.h"
 #include "devhost/fault/CodeAddress.h"
 
+namespace devhost {
+
 namespace {
 
 constexpr ULONG kReserveForStackOverflow = 64 * 1024;  // bytes of stack that the report may use
@@ -38,7 +40,7 @@ void PrintCallers([[maybe_unused]] const CONTEXT& faulted) {
         }
         char line[200];
         std::snprintf(line, sizeof line, "  called from %s\n",
-                      SCodeAddress(reinterpret_cast<const void*>(context.Rip)).text);
+                      CodeAddress(reinterpret_cast<const void*>(context.Rip)).text);
         WriteToStandardError(line);
     }
 #endif
@@ -48,7 +50,7 @@ void Report(const EXCEPTION_POINTERS& exception) {
     const EXCEPTION_RECORD& record = *exception.ExceptionRecord;
     char line[300];
     const int length = std::snprintf(line, sizeof line, "DevHost: crash in %s, exception %08lx",
-                                     SCodeAddress(record.ExceptionAddress).text, record.ExceptionCode);
+                                     CodeAddress(record.ExceptionAddress).text, record.ExceptionCode);
     if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2) {
         std::snprintf(line + length, sizeof line - std::size_t(length), " at address %p",
                       reinterpret_cast<const void*>(record.ExceptionInformation[1]));
@@ -62,9 +64,9 @@ bool IsModule(HMODULE module, const wchar_t* name) {
     return module == GetModuleHandleW(name);
 }
 
-// Whether a fault at this place is a crash whatever comes. Some system libraries catch faults of their own,
-// the C runtimes and we do not; and a fault below a window procedure never becomes an unhandled one, since
-// the system ends it where it called the procedure.
+// Whether a fault at this address is always a crash. Some system libraries catch faults of their own; the C
+// runtimes and our modules do not. The system ends a fault below a window procedure where it called the
+// procedure, so it never becomes an unhandled exception.
 bool IsOurs(const void* address) {
     HMODULE module;
     if (!GetModuleHandleExW(
@@ -77,7 +79,7 @@ bool IsOurs(const void* address) {
 }
 
 LONG CALLBACK OnException(EXCEPTION_POINTERS* exception) {
-    // The system's errors; C++ exceptions and the debugger's notes have other codes.
+    // Errors of the system; C++ exceptions and debugger notifications have other codes.
     constexpr DWORD kSystemError = 0xC;
     const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
     if (record.ExceptionCode >> 28 != kSystemError || !IsOurs(record.ExceptionAddress)) {
@@ -103,7 +105,7 @@ void InstallCrashReport() {
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
     ULONG reserve = kReserveForStackOverflow;
     SetThreadStackGuarantee(&reserve);
-    // Behind the checking allocator's, which knows more about faults in its blocks.
+    // After the handler of the checking allocator, which knows more about faults in its blocks.
     AddVectoredExceptionHandler(FALSE, OnException);
     SetUnhandledExceptionFilter(OnUnhandledException);
     std::signal(SIGABRT, OnAbort);
@@ -120,3 +122,5 @@ void EndOverException(unsigned request) {
     WriteToStandardError(line);
     EndProcess();
 }
+
+}  // namespace devhost

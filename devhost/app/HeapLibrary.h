@@ -1,4 +1,4 @@
-// The host's allocator library, loaded before the plug-in so that the plug-in's import binds to it.
+// The host's allocator library. It must be loaded before the plug-in, whose imports then bind to it.
 #pragma once
 
 #include <windows.h>
@@ -7,6 +7,8 @@
 
 #include "devhost/alloc/HostHeap.h"
 
+namespace devhost {
+
 class CHeapLibrary {
 public:
     // Loads TD_Alloc.dll from `folder`, or the checking one from `folder`\checked. Throws CUserError.
@@ -14,15 +16,17 @@ public:
 
     std::size_t LiveBlocks() const { return m_liveBlocks(); }
     std::size_t LiveBytes() const { return m_liveBytes(); }
-    // Lists some live blocks on the standard error output, if this is the checking library.
+    // With the checking library, lists some live blocks on standard error.
     void PrintLive() const;
 
 private:
     template <typename TFunction>
     TFunction* Find(const char* name) const;
 
-    HMODULE m_library;  // kept for the life of the process
+    HMODULE m_library;  // never unloaded
     decltype(&td_live_blocks) m_liveBlocks;
     decltype(&td_live_bytes) m_liveBytes;
     decltype(&td_print_live) m_printLive;  // null in the plain library
 };
+
+}  // namespace devhost

@@ -4,20 +4,23 @@
 #include <cmath>
 #include <cwchar>
 
+#include "devhost/Libraries.h"
 #include "devhost/app/CrashReport.h"
 #include "devhost/app/LispConsole.h"
-#include "devhost/units/LinearUnits.h"
+#include "units/LinearUnits.h"
+
+namespace devhost {
 
 namespace {
 
 CHost* theHost = nullptr;
 
-constexpr std::size_t kTextRoom = 256;  // characters that sds_rtos may write
+constexpr std::size_t kTextCapacity = 256;  // characters that sds_rtos may write
 
 }  // namespace
 
 CHost::CHost(CMainWindow& window, CTextOutput& output, const CSearchPath& searchPath,
-             const CSystemVariables& variables, CEvaluator& evaluator)
+             const CSystemVariables& variables, lisp::CEvaluator& evaluator)
     : m_window(window),
       m_output(output),
       m_searchPath(searchPath),
@@ -35,8 +38,8 @@ CHost* CHost::OfThisThread() {
     return theHost != nullptr && theHost->m_thread == GetCurrentThreadId() ? theHost : nullptr;
 }
 
-int CHost::Run(CEntryPoint& entry, SRequest& request) {
-    SRequest* const before = m_request;
+int CHost::Run(EntryPoint& entry, Request& request) {
+    Request* const before = m_request;
     m_request = &request;
     try {
         const int answer = entry(request.code, nullptr);
@@ -47,13 +50,13 @@ int CHost::Run(CEntryPoint& entry, SRequest& request) {
     }
 }
 
-std::wstring CHost::Send(CEntryPoint& entry, unsigned code) {
-    SRequest request(code);
+std::wstring CHost::Send(EntryPoint& entry, unsigned code) {
+    Request request(code);
     const int answer = Run(entry, request);
     if (request.failure) {
-        return L"it said '" + *request.failure + L"'";
+        return L"it reported '" + *request.failure + L"'";
     }
-    return answer != 0 ? L"it answered " + std::to_wstring(answer) : L"";
+    return answer != 0 ? L"it returned " + std::to_wstring(answer) : L"";
 }
 
 std::wstring CHost::ForgetFunctions() {
@@ -66,24 +69,26 @@ std::wstring CHost::ForgetFunctions() {
     return names;
 }
 
-CLispResult CHost::Invoke(const std::wstring& name, short code, std::span<const CValue> arguments) {
+lisp::LispResult CHost::Invoke(const std::wstring& name, short code,
+                               std::span<const lisp::CValue> arguments) {
     if (m_request != nullptr) {
-        throw CLispError(name + L" cannot be called while another call is running");
+        throw lisp::CLispError(name + L" cannot be called while another call is running");
     }
     if (!m_codes.contains(name)) {
-        throw CLispError(name + L" belongs to a plug-in that is not loaded any more");
+        throw lisp::CLispError(name + L" belongs to a plug-in that is no longer loaded");
     }
-    SRequest request(SDS_INVOKE, code);
-    for (const CValue& argument : arguments) {
+    Request request(SDS_INVOKE, code);
+    for (const lisp::CValue& argument : arguments) {
         AddArgument(request.arguments, argument, name);
     }
-    m_output.Tell();
+    m_output.Flush();
     const int answer = Run(*m_entry, request);
     if (request.failure) {
         throw CReportedError(*request.failure);
     }
     if (answer != 0) {
-        throw CLispError(L"the plug-in answered " + std::to_wstring(answer) + L" to the call of " + name);
+        throw lisp::CLispError(L"the plug-in returned " + std::to_wstring(answer) + L" for the call of " +
+                               name);
     }
     return request.result;
 }
@@ -92,9 +97,9 @@ bool CHost::Define(const wchar_t* name, short code) {
     if (name == nullptr || m_entry == nullptr) {
         return false;
     }
-    const std::wstring upperCase = UpperCase(name);
+    const std::wstring upperCase = lisp::UpperCase(name);
     const bool defined =
-        m_evaluator.Define(upperCase, [this, upperCase, code](std::span<const CValue> arguments) {
+        m_evaluator.Define(upperCase, [this, upperCase, code](std::span<const lisp::CValue> arguments) {
             return Invoke(upperCase, code, arguments);
         });
     if (defined) {
@@ -107,7 +112,7 @@ bool CHost::Undefine(const wchar_t* name, short code) {
     if (name == nullptr) {
         return false;
     }
-    const auto found = m_codes.find(UpperCase(name));
+    const auto found = m_codes.find(lisp::UpperCase(name));
     if (found == m_codes.end() || found->second != code) {
         return false;
     }
@@ -124,7 +129,7 @@ sds_resbuf* CHost::Arguments() {
     return m_request != nullptr ? m_request->arguments.First() : nullptr;
 }
 
-bool CHost::SetResult(CValue result) {
+bool CHost::SetResult(lisp::CValue result) {
     if (m_request == nullptr || m_request->code != SDS_INVOKE) {
         return false;
     }
@@ -167,7 +172,7 @@ int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
     if (name == nullptr || result == nullptr) {
         return kStatusError;
     }
-    const CValue value = m_variables.Get(UpperCase(name));
+    const lisp::CValue value = m_variables.Get(lisp::UpperCase(name));
     if (value.IsNil()) {
         return kStatusError;
     }
@@ -181,11 +186,11 @@ int CHost::ToText(double value, int units, int precision, wchar_t* text) const {
     if (text == nullptr) {
         return kStatusError;
     }
-    // Also on failure, since a caller may show the buffer without a look at the status.
+    // Also on failure, since a caller may show the buffer without checking the status.
     text[0] = L'\0';
     const auto formatted =
-        FormatLinear(value, units, precision < 0 ? m_variables.Linear().luprec : precision);
-    if (!formatted || formatted->size() >= kTextRoom) {
+        units::FormatLinear(value, units, precision < 0 ? m_variables.Linear().luprec : precision);
+    if (!formatted || formatted->size() >= kTextCapacity) {
         return kStatusError;
     }
     std::wmemcpy(text, formatted->c_str(), formatted->size() + 1);
@@ -193,7 +198,7 @@ int CHost::ToText(double value, int units, int precision, wchar_t* text) const {
 }
 
 int CHost::ToNumber(const wchar_t* text, double* result) const {
-    const auto number = text != nullptr ? ParseLinear(text) : std::nullopt;
+    const auto number = text != nullptr ? units::ParseLinear(text) : std::nullopt;
     if (!number || result == nullptr) {
         return kStatusError;
     }
@@ -201,8 +206,8 @@ int CHost::ToNumber(const wchar_t* text, double* result) const {
     return RTNORM;
 }
 
-int CHost::Pick(std::optional<SPoint> base, const wchar_t* prompt, SPoint& picked) {
-    // With the main window disabled the user could never answer.
+int CHost::Pick(std::optional<Point> base, const wchar_t* prompt, Point& picked) {
+    // The user cannot answer while the main window is disabled.
     if (m_request == nullptr || m_window.IsAsking() || !IsWindowEnabled(m_window.Handle())) {
         return kStatusError;
     }
@@ -221,9 +226,9 @@ int CHost::GetPoint(const double* base, const wchar_t* prompt, double* point) {
     if (point == nullptr) {
         return kStatusError;
     }
-    SPoint picked;
+    Point picked;
     const int status =
-        Pick(base != nullptr ? std::optional(SPoint{base[0], base[1]}) : std::nullopt, prompt, picked);
+        Pick(base != nullptr ? std::optional(Point{base[0], base[1]}) : std::nullopt, prompt, picked);
     if (status == RTNORM) {
         point[0] = picked.x;
         point[1] = picked.y;
@@ -249,3 +254,5 @@ int CHost::GetDistance(const double* base, const wchar_t* prompt, double* distan
     }
     return status;
 }
+
+}  // namespace devhost

@@ -1,14 +1,17 @@
-// The functions of sds.h, exported from the executable: each passes on to the host and lets no exception out.
-// Called while there is no host, or on another thread than its own, they fail.
+// The functions of sds.h, exported from the executable. Each forwards to the host and lets no exception
+// through. They fail when there is no host, and on other threads than the host's.
 #include <windows.h>
 
 #include <cstdarg>
 
+#include "devhost/Libraries.h"
 #include "devhost/app/Host.h"
+
+namespace devhost {
 
 namespace {
 
-// What `call` gives for the host, or `failure`.
+// The result of `call` for the host, or `failure`.
 template <typename TResult, typename TCall>
 TResult Fenced(TResult failure, TCall call) noexcept {
     CHost* host = CHost::OfThisThread();
@@ -26,7 +29,7 @@ int StatusOf(bool done) {
     return done ? RTNORM : kStatusError;
 }
 
-// Takes one value of `type` off the arguments. False for a type that there is no value for.
+// Takes one value of `type` off the arguments. False for a type without values.
 bool AddNext(CResbufList& list, int type, std::va_list& values) {
     switch (type) {
         case RTREAL:
@@ -62,6 +65,15 @@ sds_resbuf* BuildList(CHost& host, int type, std::va_list& values) {
 
 }  // namespace
 
+}  // namespace devhost
+
+using devhost::BuildList;
+using devhost::CHost;
+using devhost::Fenced;
+using devhost::kStatusError;
+using devhost::StatusOf;
+using tavrin::lisp::CValue;
+
 int sds_defun(const wchar_t* name, short code) {
     return Fenced(0, [=](CHost& host) { return host.Define(name, code) ? RTNORM : 0; });
 }
@@ -89,7 +101,7 @@ int sds_retnil() {
 
 int sds_retlist(const sds_resbuf* list) {
     return Fenced(kStatusError, [=](CHost& host) {
-        const auto value = ToLisp(list);
+        const auto value = devhost::ToLisp(list);
         return StatusOf(value && host.SetResult(*value));
     });
 }
@@ -127,7 +139,7 @@ int sds_rtos(double value, int units, int precision, wchar_t* text) {
     return Fenced(kStatusError, [=](CHost& host) { return host.ToText(value, units, precision, text); });
 }
 
-// A text is read in every format, whatever `units` says.
+// Accepts every format, whatever the second argument says.
 int sds_distof(const wchar_t* text, int, double* result) {
     return Fenced(kStatusError, [=](CHost& host) { return host.ToNumber(text, result); });
 }

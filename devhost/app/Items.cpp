@@ -5,22 +5,25 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "devhost/Libraries.h"
+#include "devhost/UserError.h"
 #include "devhost/app/SearchPath.h"
-#include "devhost/error/UserError.h"
-#include "devhost/lisp/Reader.h"
+#include "lisp/Reader.h"
 
-std::vector<SItem> FindItems(const std::wstring& folder) {
+namespace devhost {
+
+std::vector<Item> FindItems(const std::wstring& folder) {
     const std::wstring full = FullPath(folder);
     if (!IsFolder(full)) {
         throw CUserError(L"the folder of items '" + folder +
                          L"' does not exist: give --items an existing folder");
     }
-    std::vector<SItem> items;
+    std::vector<Item> items;
     std::error_code error;
     for (std::filesystem::directory_iterator entry(full, error), end; entry != end; entry.increment(error)) {
         const std::wstring name = entry->path().filename().wstring();
         const std::wstring path = entry->path().wstring();
-        if (IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp")) {
+        if (lisp::IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp")) {
             items.push_back({name, path});
         }
     }
@@ -28,6 +31,8 @@ std::vector<SItem> FindItems(const std::wstring& folder) {
         throw CUserError(L"the folder of items '" + folder +
                          L"' cannot be read: give --items a folder that you may read");
     }
-    std::sort(items.begin(), items.end(), [](const SItem& a, const SItem& b) { return a.name < b.name; });
+    std::sort(items.begin(), items.end(), [](const Item& a, const Item& b) { return a.name < b.name; });
     return items;
 }
+
+}  // namespace devhost

@@ -2,20 +2,23 @@
 
 #include <windows.h>
 
+#include "devhost/Libraries.h"
 #include "devhost/drawing/TypedPoint.h"
-#include "devhost/lisp/LispError.h"
+#include "lisp/LispError.h"
 
-SLispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::optional<SPoint> base,
-                                      EQuestion question) const {
-    SLispAnswer answer;
-    answer.kind = ANSWER_TEXT;
+namespace devhost {
+
+lisp::LispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::optional<Point> base,
+                                           lisp::EQuestion question) const {
+    lisp::LispAnswer answer;
+    answer.kind = lisp::ANSWER_TEXT;
     answer.text = text;
-    // A length alone is a distance where one is asked for, and otherwise a place on the rubber band.
+    // A length alone is a distance where one is asked for, and otherwise a point on the rubber band.
     const bool mayBePoint =
-        question == Q_POINT || (question == Q_DISTANCE && text.find(L',') != std::wstring::npos);
+        question == lisp::Q_POINT || (question == lisp::Q_DISTANCE && text.find(L',') != std::wstring::npos);
     const auto point = mayBePoint ? ParsePoint(text, base, m_window.MousePoint()) : std::nullopt;
     if (point) {
-        answer.kind = ANSWER_POINT;
+        answer.kind = lisp::ANSWER_POINT;
         answer.point = {point->x, point->y, 0};
     }
     return answer;
@@ -33,54 +36,55 @@ std::optional<std::wstring> CLispConsole::FindFile(const std::wstring& name) {
     return m_searchPath.Find(name);
 }
 
-std::shared_ptr<CLispFile> CLispConsole::OpenFile(const std::wstring& name, EFileMode mode) {
-    return CLispFile::Open(name, mode);
+std::shared_ptr<lisp::CLispFile> CLispConsole::OpenFile(const std::wstring& name, lisp::EFileMode mode) {
+    return lisp::CLispFile::Open(name, mode);
 }
 
-CValue CLispConsole::GetVariable(const std::wstring& name) {
+lisp::CValue CLispConsole::GetVariable(const std::wstring& name) {
     return m_variables.Get(name);
 }
 
-void CLispConsole::SetVariable(const std::wstring& name, const CValue& value) {
+void CLispConsole::SetVariable(const std::wstring& name, const lisp::CValue& value) {
     m_variables.Set(name, value);
 }
 
-SLispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<SLispPoint> base,
-                              EQuestion question) {
+lisp::LispAnswer CLispConsole::Ask(const std::wstring& prompt, std::optional<lisp::LispPoint> base,
+                                   lisp::EQuestion question) {
     if (m_window.IsAsking() || !IsWindowEnabled(m_window.Handle())) {
-        throw CLispError(L"nothing can be asked while another question or a dialog is open");
+        throw lisp::CLispError(L"nothing can be asked while another question or a dialog is open");
     }
     m_output.EndLine();
-    const auto from = base ? std::optional(SPoint{base->x, base->y}) : std::nullopt;
-    const CAnswer given = m_window.Ask(StatusText(prompt), from, question == Q_TEXT ? ASK_TEXT : ASK_POINT);
-    SLispAnswer answer;
-    if (const auto* point = std::get_if<SPoint>(&given)) {
-        answer.kind = ANSWER_POINT;
+    const auto from = base ? std::optional(Point{base->x, base->y}) : std::nullopt;
+    const Answer given =
+        m_window.Ask(StatusText(prompt), from, question == lisp::Q_TEXT ? ASK_TEXT : ASK_POINT);
+    lisp::LispAnswer answer;
+    if (const auto* point = std::get_if<Point>(&given)) {
+        answer.kind = lisp::ANSWER_POINT;
         answer.point = {point->x, point->y, 0};
     } else if (const auto* text = std::get_if<std::wstring>(&given)) {
         answer = TypedAnswer(*text, from, question);
-    } else if (std::holds_alternative<SPlainEnter>(given)) {
-        answer.kind = ANSWER_NOTHING;
+    } else if (std::holds_alternative<PlainEnter>(given)) {
+        answer.kind = lisp::ANSWER_NOTHING;
     }
     return answer;
 }
 
-// Not each time that LISP asks: handling messages repaints what was drawn meanwhile, and a large drawing
-// would be repainted more than it is drawn.
+// Not at each call: handling messages repaints the drawing, and most of the time would go into repainting a
+// large one.
 bool CLispConsole::IsEscapePressed() {
-    constexpr unsigned long long kPause = 50;  // milliseconds
-    if (GetTickCount64() - m_lastLook < kPause) {
+    constexpr unsigned long long kInterval = 50;  // milliseconds
+    if (GetTickCount64() - m_lastPoll < kInterval) {
         return false;
     }
-    m_output.TellNowAndThen();
+    m_output.FlushIfDue();
     const bool isPressed = m_window.PollEscape();
-    m_lastLook = GetTickCount64();
+    m_lastPoll = GetTickCount64();
     return isPressed;
 }
 
 void ShowAlert(CMainWindow& window, CTextOutput& output, const std::wstring& text) {
     output.Line(L"; alert: " + text);
-    // Over the dialog that is open, if one is: a box over the window behind it would leave it usable.
+    // Over an open dialog, if any: with a box over the main window the dialog would stay enabled.
     MessageBoxW(GetLastActivePopup(window.Handle()), text.c_str(), L"DevHost", MB_OK | MB_ICONINFORMATION);
 }
 
@@ -88,3 +92,5 @@ std::wstring StatusText(const std::wstring& prompt) {
     const std::size_t start = prompt.find_first_not_of(L"\r\n");
     return start != std::wstring::npos ? prompt.substr(start) : L"";
 }
+
+}  // namespace devhost

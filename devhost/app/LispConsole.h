@@ -1,14 +1,16 @@
-// The program around LISP: output, questions, files and system variables of a routine, by way of the main
-// window.
+// The LISP host of DevHost: output, questions, files and system variables, through the main window.
 #pragma once
 
+#include "devhost/Libraries.h"
 #include "devhost/app/SearchPath.h"
 #include "devhost/app/SystemVariables.h"
 #include "devhost/app/TextOutput.h"
-#include "devhost/lisp/LispHost.h"
 #include "devhost/window/MainWindow.h"
+#include "lisp/LispHost.h"
 
-class CLispConsole : public ILispHost {
+namespace devhost {
+
+class CLispConsole : public lisp::ILispHost {
 public:
     // All must outlive the console.
     CLispConsole(CMainWindow& window, CTextOutput& output, const CSearchPath& searchPath,
@@ -18,23 +20,27 @@ public:
     void Write(std::wstring_view text) override;
     void Alert(const std::wstring& text) override;
     std::optional<std::wstring> FindFile(const std::wstring& name) override;
-    std::shared_ptr<CLispFile> OpenFile(const std::wstring& name, EFileMode mode) override;
-    CValue GetVariable(const std::wstring& name) override;
-    void SetVariable(const std::wstring& name, const CValue& value) override;
-    SLispAnswer Ask(const std::wstring& prompt, std::optional<SLispPoint> base, EQuestion question) override;
+    std::shared_ptr<lisp::CLispFile> OpenFile(const std::wstring& name, lisp::EFileMode mode) override;
+    lisp::CValue GetVariable(const std::wstring& name) override;
+    void SetVariable(const std::wstring& name, const lisp::CValue& value) override;
+    lisp::LispAnswer Ask(const std::wstring& prompt, std::optional<lisp::LispPoint> base,
+                         lisp::EQuestion question) override;
     bool IsEscapePressed() override;
 
 private:
-    SLispAnswer TypedAnswer(const std::wstring& text, std::optional<SPoint> base, EQuestion question) const;
+    lisp::LispAnswer TypedAnswer(const std::wstring& text, std::optional<Point> base,
+                                 lisp::EQuestion question) const;
 
     CMainWindow& m_window;
     CTextOutput& m_output;
     const CSearchPath& m_searchPath;
     CSystemVariables& m_variables;
-    unsigned long long m_lastLook = 0;  // for Escape; milliseconds of the system's clock
+    unsigned long long m_lastPoll = 0;  // milliseconds of the system's clock
 };
 
-// A message box over the window or the dialog that is open over it, repeated in the output.
+// A message box over the window or its open dialog. The text is repeated in the output.
 void ShowAlert(CMainWindow& window, CTextOutput& output, const std::wstring& text);
-// A prompt as one line: those of CAD programs begin with a line break that a status line has no use for.
+// A prompt without the leading line breaks that are usual in CAD programs.
 std::wstring StatusText(const std::wstring& prompt);
+
+}  // namespace devhost

@@ -1,5 +1,5 @@
-// DevHost.exe: reads the command line, brings host and plug-in together, evaluates, and accounts for what
-// the plug-in leaves behind.
+// DevHost.exe: parses the command line, loads the plug-in, evaluates, and reports the memory that the plug-in
+// did not free.
 #include <windows.h>
 
 #include <filesystem>
@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "devhost/Libraries.h"
 #include "devhost/app/CrashReport.h"
 #include "devhost/app/ExitStatus.h"
 #include "devhost/app/HeapLibrary.h"
@@ -16,15 +17,17 @@
 #include "devhost/app/LispConsole.h"
 #include "devhost/app/PlugIn.h"
 #include "devhost/app/Session.h"
-#include "devhost/cmdline/Options.h"
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Arguments.h"
-#include "devhost/lisp/OneLine.h"
+#include "devhost/options/Options.h"
+#include "lisp/Arguments.h"
+#include "lisp/OneLine.h"
+
+namespace devhost {
 
 namespace {
 
-// Of the stack that the linker reserves (see CMakeLists.txt), what LISP may use.
+// The part of the stack (its size is in CMakeLists.txt) that LISP may use.
 constexpr std::size_t kLispStack = 24 * 1024 * 1024;
 
 std::wstring ProgramFolder() {
@@ -33,14 +36,15 @@ std::wstring ProgramFolder() {
     return path.substr(0, path.find_last_of(L'\\'));
 }
 
-// The items of all folders, which are put on the search path: first each item's, then what they share.
-std::vector<SItem> TakeItems(std::vector<std::wstring> folders, CSearchPath& searchPath) {
+// Finds the items of all folders and adds them to the search path: first each item's folder, then their
+// parent.
+std::vector<Item> TakeItems(std::vector<std::wstring> folders, CSearchPath& searchPath) {
     if (folders.empty() && IsFolder(ProgramFolder() + L"\\samples")) {
         folders.push_back(ProgramFolder() + L"\\samples");
     }
-    std::vector<SItem> items;
+    std::vector<Item> items;
     for (const std::wstring& folder : folders) {
-        for (const SItem& item : FindItems(folder)) {
+        for (const Item& item : FindItems(folder)) {
             items.push_back(item);
             searchPath.Add(item.folder);
         }
@@ -54,8 +58,8 @@ CUserError NotWritten(const std::wstring& file) {
                       L"': give --drawing a writable file in an existing folder");
 }
 
-// The full path of the file for the drawing, since file dialogs change the current folder. That it has no
-// folder to go to is found before anything runs, rather than after.
+// The full path of the file for the drawing, since file dialogs change the current folder. Throws CUserError
+// before anything runs when its folder does not exist.
 std::wstring DrawingPath(const std::wstring& file) {
     const std::wstring full = FullPath(file);
     if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1))) {
@@ -73,8 +77,8 @@ void WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
     }
 }
 
-// True when the plug-in went away in good order and holds no block of the host's heap. A run of scripts
-// prints nothing of its own as long as that is so.
+// True when the plug-in was unloaded without errors and has freed all blocks. Then a run of scripts prints no
+// report.
 bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool quiet) {
     bool inOrder = true;
     try {
@@ -95,7 +99,7 @@ bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool
     return inOrder && blocks == 0;
 }
 
-// Repeats the output in the window for as long as it lives.
+// Repeats the output in the window during its lifetime.
 class CListening {
 public:
     CListening(CTextOutput& output, CMainWindow& window) : m_output(output) {
@@ -109,27 +113,25 @@ private:
     CTextOutput& m_output;
 };
 
-void DefineFit(CEvaluator& evaluator, CMainWindow& window) {
-    const auto fit = [&window](const CArguments&) -> CLispResult {
+void DefineFit(lisp::CEvaluator& evaluator, CMainWindow& window) {
+    const auto fit = [&window](const lisp::CArguments&) -> lisp::LispResult {
         window.FitDrawing();
-        return CValue::True();
+        return lisp::CValue::True();
     };
-    evaluator.Define(L"DRAW-FIT", TakeArguments(evaluator, L"DRAW-FIT", 0, 0, fit));
+    evaluator.Define(L"DRAW-FIT", lisp::TakeArguments(evaluator, L"DRAW-FIT", 0, 0, fit));
 }
 
-// Whichever of the two the user or a routine changes, the other follows.
+// Keeps the unit formats of the window and of the system variables equal.
 void ShareFormat(CSystemVariables& variables, CMainWindow& window) {
-    const SLinearFormat format = variables.Linear();
+    const LinearFormat format = variables.Linear();
     window.SetFormat(format.lunits, format.luprec);
-    variables.SetListener([&](SLinearFormat changed) { window.SetFormat(changed.lunits, changed.luprec); });
-    window.SetFormatHandler([&](int lunits, int luprec) {
-        variables.SetLinear({short(lunits), short(luprec)});
-    });
+    variables.SetListener([&](LinearFormat changed) { window.SetFormat(changed.lunits, changed.luprec); });
+    window.SetFormatHandler([&](int lunits, int luprec) { variables.SetLinear({lunits, luprec}); });
 }
 
-void OfferItems(const std::vector<SItem>& items, CSession& session, CMainWindow& window) {
+void OfferItems(const std::vector<Item>& items, CSession& session, CMainWindow& window) {
     std::vector<std::wstring> names;
-    for (const SItem& item : items) {
+    for (const Item& item : items) {
         names.push_back(item.name);
     }
     window.SetItems(names, [&session, names](std::size_t index) { session.RunItem(names[index]); });
@@ -144,8 +146,8 @@ void Reload(CPlugIn& plugIn, CTextOutput& output) {
     }
 }
 
-bool IsScriptsAlone(const std::vector<SPreparedTask>& tasks) {
-    for (const SPreparedTask& task : tasks) {
+bool IsScriptsAlone(const std::vector<PreparedTask>& tasks) {
+    for (const PreparedTask& task : tasks) {
         if (!task.isScript) {
             return false;
         }
@@ -153,13 +155,13 @@ bool IsScriptsAlone(const std::vector<SPreparedTask>& tasks) {
     return !tasks.empty();
 }
 
-int Run(const SOptions& options, CTextOutput& output) {
-    std::vector<SPreparedTask> tasks;
-    for (const STask& task : options.tasks) {
+int Run(const Options& options, CTextOutput& output) {
+    std::vector<PreparedTask> tasks;
+    for (const Task& task : options.tasks) {
         tasks.push_back(Prepare(task));
     }
     CSearchPath searchPath(options.searchFolders);
-    const std::vector<SItem> items = TakeItems(options.itemFolders, searchPath);
+    const std::vector<Item> items = TakeItems(options.itemFolders, searchPath);
     const std::wstring drawingPath = options.drawingFile.empty() ? L"" : DrawingPath(options.drawingFile);
     const std::wstring folder = ProgramFolder();
 
@@ -168,7 +170,7 @@ int Run(const SOptions& options, CTextOutput& output) {
     CSystemVariables variables({options.lunits, options.luprec});
     CMainWindow window(drawing);
     CLispConsole console(window, output, searchPath, variables);
-    CEvaluator evaluator(console, kLispStack);
+    lisp::CEvaluator evaluator(console, kLispStack);
     DefineDrawFunctions(evaluator, drawing);
     DefineFit(evaluator, window);
     CHost host(window, output, searchPath, variables, evaluator);
@@ -178,7 +180,7 @@ int Run(const SOptions& options, CTextOutput& output) {
     auto listening = std::make_optional<CListening>(output, window);
     ShareFormat(variables, window);
     OfferItems(items, session, window);
-    window.SetPasteHandler(OnOneLine);
+    window.SetPasteHandler(lisp::OnOneLine);
     window.SetReloadHandler([&] { Reload(plugIn, output); });
     window.Show();
     const int status = session.RunTasks(tasks);
@@ -196,12 +198,15 @@ int Run(const SOptions& options, CTextOutput& output) {
 
 }  // namespace
 
+}  // namespace devhost
+
 int wmain(int count, wchar_t** arguments) {
+    using namespace devhost;
     InstallCrashReport();
     CTextOutput output;
     try {
         const std::vector<std::wstring> given(arguments + 1, arguments + count);
-        const SOptions options = ParseOptions(given);
+        const Options options = ParseOptions(given);
         if (options.help) {
             output.Help(HelpText());
             return kExitDone;
@@ -214,7 +219,7 @@ int wmain(int count, wchar_t** arguments) {
     } catch (const CUserError& error) {
         output.Error(error.Text());
     } catch (const std::exception&) {
-        output.Error(L"there is not enough memory");
+        output.Error(L"out of memory");
     }
     return kExitFailed;
 }

@@ -2,7 +2,10 @@
 
 #include <optional>
 
+#include "devhost/UserError.h"
 #include "devhost/app/CrashReport.h"
+
+namespace devhost {
 
 namespace {
 
@@ -16,13 +19,13 @@ std::wstring WhyNotLoaded(DWORD error) {
     constexpr int bits = 8 * sizeof(void*);
     switch (error) {
         case ERROR_BAD_EXE_FORMAT:
-            return L"is no library for this DevHost: it takes a " + std::to_wstring(bits) + L"-bit DLL";
+            return L"is not a library for this DevHost, which needs a " + std::to_wstring(bits) + L"-bit DLL";
         case ERROR_MOD_NOT_FOUND:
-            return L"cannot be loaded: a library that it needs is missing";
+            return L"cannot be loaded: a library that it depends on is missing";
         case ERROR_PROC_NOT_FOUND:
-            return L"cannot be loaded: a function that it needs is missing from a library";
+            return L"cannot be loaded: a library does not have a function that it needs";
         case ERROR_DLL_INIT_FAILED:
-            return L"cannot be loaded: its own start failed";
+            return L"cannot be loaded: its initialization failed";
         default:
             return L"cannot be loaded: system error " + std::to_wstring(error);
     }
@@ -40,7 +43,7 @@ void CPlugIn::Load() {
     if (!IsFile(full)) {
         throw CUserError(Quoted(m_given) + L" does not exist: give --plugin an existing file");
     }
-    // A name without an extension would get one, but for a point at its end.
+    // A dot at the end keeps LoadLibrary from adding an extension.
     const bool hasExtension = full.find(L'.', full.find_last_of(L'\\')) != std::wstring::npos;
     m_library = LoadLibraryW(hasExtension ? full.c_str() : (full + L'.').c_str());
     if (m_library == nullptr) {
@@ -48,10 +51,10 @@ void CPlugIn::Load() {
     }
     WatchPlugIn(m_library);
 
-    m_entry = reinterpret_cast<CEntryPoint*>(reinterpret_cast<void*>(GetProcAddress(m_library, kEntryPoint)));
+    m_entry = reinterpret_cast<EntryPoint*>(reinterpret_cast<void*>(GetProcAddress(m_library, kEntryPoint)));
     if (m_entry == nullptr) {
         Free();
-        throw CUserError(Quoted(m_given) + L" lacks the entry point icrxEntryPoint: give --plugin a plug-in");
+        throw CUserError(Quoted(m_given) + L" has no entry point icrxEntryPoint: give --plugin a plug-in");
     }
     m_host.SetEntryPoint(m_entry);
     if (const std::wstring refusal = m_host.Send(*m_entry, SDS_LOAD); !refusal.empty()) {
@@ -64,21 +67,21 @@ CPlugIn::~CPlugIn() {
     try {
         Unload();
     } catch (const CUserError&) {
-        // Another failure is on its way to the user.
+        // The user gets the error that caused the destruction.
     }
 }
 
 void CPlugIn::Reload() {
-    // What the old one has against going away is said when the new one has come.
-    std::optional<CUserError> complaint;
+    // An error of unloading is reported after loading.
+    std::optional<CUserError> unloadError;
     try {
         Unload();
     } catch (const CUserError& error) {
-        complaint = error;
+        unloadError = error;
     }
     Load();
-    if (complaint) {
-        throw *complaint;
+    if (unloadError) {
+        throw *unloadError;
     }
 }
 
@@ -104,3 +107,5 @@ void CPlugIn::Free() {
     m_library = nullptr;
     WatchPlugIn(nullptr);
 }
+
+}  // namespace devhost

@@ -1,4 +1,4 @@
-// A plug-in module, loaded and asked to start; unloaded at the latest with the object.
+// A loaded and initialized plug-in module. The destructor unloads it.
 #pragma once
 
 #include <windows.h>
@@ -7,21 +7,23 @@
 
 #include "devhost/app/Host.h"
 
+namespace devhost {
+
 class CPlugIn {
 public:
-    // Loads the file and sends the load request. Throws CUserError that names the file when it does not
-    // exist, is no library for this process, lacks the entry point or refuses; then nothing stays loaded.
+    // Loads the file and sends the load request. Throws CUserError, with nothing loaded, when the file does
+    // not exist, is not a library for this process, has no entry point or refuses.
     CPlugIn(CHost& host, const std::wstring& path);
     ~CPlugIn();
     CPlugIn(const CPlugIn&) = delete;
     CPlugIn& operator=(const CPlugIn&) = delete;
 
-    // Unloads it, when it is loaded, and loads the file again. Throws CUserError for what went wrong in
-    // either; after a failed loading no plug-in is loaded until the next try.
+    // Unloads it, if it is loaded, and loads the file again. Throws CUserError when either fails; after a
+    // failed load no plug-in is loaded until the next try.
     void Reload();
 
-    // Sends the unload request and lets the library go. Throws CUserError when the plug-in refuses or leaves
-    // functions behind; it is unloaded nevertheless. Does nothing when it is not loaded.
+    // Sends the unload request and unloads the library. Throws CUserError when the plug-in refuses or leaves
+    // functions defined; it is unloaded nevertheless. Does nothing when it is not loaded.
     void Unload();
 
 private:
@@ -29,8 +31,10 @@ private:
     void Free();
 
     CHost& m_host;
-    std::wstring m_path;   // in full, since file dialogs change the current folder
+    std::wstring m_path;   // absolute, since file dialogs change the current folder
     std::wstring m_given;  // as the user gave it
     HMODULE m_library = nullptr;
-    CEntryPoint* m_entry = nullptr;
+    EntryPoint* m_entry = nullptr;
 };
+
+}  // namespace devhost

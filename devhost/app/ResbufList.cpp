@@ -4,27 +4,30 @@
 #include <limits>
 #include <vector>
 
-#include "devhost/lisp/LispError.h"
-#include "devhost/lisp/Printer.h"
+#include "devhost/Libraries.h"
+#include "lisp/LispError.h"
+#include "lisp/Printer.h"
+
+namespace devhost {
 
 namespace {
 
-// More records than any result has; a list that is longer runs in a circle.
+// A longer list is taken for a cyclic one.
 constexpr std::size_t kMaxRecords = 1'000'000;
 
-std::optional<CValue> ToLispValue(const sds_resbuf& record) {
+std::optional<lisp::CValue> ToLispValue(const sds_resbuf& record) {
     switch (record.type) {
         case RTNONE:
-            return CValue();
+            return lisp::CValue();
         case RTREAL:
-            return CValue::Real(record.value.real);
+            return lisp::CValue::Real(record.value.real);
         case RTSHORT:
-            return CValue::Integer(record.value.integer);
+            return lisp::CValue::Integer(record.value.integer);
         case RTSTR:
             if (record.value.string == nullptr) {
                 return std::nullopt;
             }
-            return CValue::String(record.value.string);
+            return lisp::CValue::String(record.value.string);
         default:
             return std::nullopt;
     }
@@ -55,32 +58,32 @@ sds_resbuf& CResbufList::Add(short type) {
     return record;
 }
 
-void AddArgument(CResbufList& list, const CValue& value, std::wstring_view name) {
+void AddArgument(CResbufList& list, const lisp::CValue& value, std::wstring_view name) {
     switch (value.Type()) {
-        case VT_INTEGER: {
+        case lisp::VT_INTEGER: {
             const std::int32_t number = value.AsInteger();
             using limits = std::numeric_limits<short>;
             if (number < limits::min() || number > limits::max()) {
-                throw CLispError(std::wstring(name) + L" cannot take " + Print(value) +
-                                 L": whole numbers are passed in 16 bits, -32768 to 32767");
+                throw lisp::CLispError(std::wstring(name) + L" cannot take " + lisp::Print(value) +
+                                       L": whole numbers are passed in 16 bits, -32768 to 32767");
             }
             list.AddShort(short(number));
             break;
         }
-        case VT_REAL:
+        case lisp::VT_REAL:
             list.AddReal(value.AsReal());
             break;
-        case VT_STRING:
+        case lisp::VT_STRING:
             list.AddString(value.AsString());
             break;
         default:
-            throw CLispError(std::wstring(name) + L" cannot take " + Print(value) +
-                             L": only numbers and texts are passed");
+            throw lisp::CLispError(std::wstring(name) + L" cannot take " + lisp::Print(value) +
+                                   L": only numbers and texts are passed");
     }
 }
 
-std::optional<CValue> ToLisp(const sds_resbuf* list) {
-    std::vector<CValue> elements;
+std::optional<lisp::CValue> ToLisp(const sds_resbuf* list) {
+    std::vector<lisp::CValue> elements;
     for (; list != nullptr; list = list->next) {
         const auto element = ToLispValue(*list);
         if (!element || elements.size() == kMaxRecords) {
@@ -88,5 +91,7 @@ std::optional<CValue> ToLisp(const sds_resbuf* list) {
         }
         elements.push_back(*element);
     }
-    return CValue::List(elements);
+    return lisp::CValue::List(elements);
 }
+
+}  // namespace devhost

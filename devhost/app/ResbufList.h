@@ -1,4 +1,4 @@
-// Lists of the host interface, and how LISP values pass through them.
+// Lists of the host interface, and their conversion from and to LISP values.
 #pragma once
 
 #include <windows.h>
@@ -8,10 +8,13 @@
 #include <string>
 #include <string_view>
 
-#include "devhost/lisp/Value.h"
+#include "devhost/Libraries.h"
+#include "lisp/Value.h"
 #include "sds/sds.h"
 
-// Owns the records of one list and the texts in them; their addresses hold as long as the list lives.
+namespace devhost {
+
+// Owns the records of one list and their texts; the addresses stay valid during its lifetime.
 class CResbufList {
 public:
     void AddReal(double number);
@@ -28,10 +31,11 @@ private:
     std::deque<std::wstring> m_texts;
 };
 
-// Appends `value` as an argument of the function `name`. Throws CLispError for a value that arguments
-// cannot be: a whole number beyond 16 bits, a list, a symbol, T or nil.
-void AddArgument(CResbufList& list, const CValue& value, std::wstring_view name);
+// Appends `value` as an argument of the function `name`. Throws CLispError for values that cannot be
+// arguments: whole numbers beyond 16 bits, lists, symbols, T and nil.
+void AddArgument(CResbufList& list, const lisp::CValue& value, std::wstring_view name);
 
-// The list as LISP sees it; nothing when a record in it is of a type that LISP has no value for, a text is
-// missing, or the list has no end.
-std::optional<CValue> ToLisp(const sds_resbuf* list);
+// The list as a LISP value; nothing when a record has an unknown type, a text is null, or the list is cyclic.
+std::optional<lisp::CValue> ToLisp(const sds_resbuf* list);
+
+}  // namespace devhost

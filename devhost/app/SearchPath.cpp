@@ -4,12 +4,14 @@
 
 #include <shlwapi.h>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
+
+namespace devhost {
 
 std::wstring FullPath(const std::wstring& path) {
-    const DWORD room = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-    std::wstring full(room, L'\0');
-    full.resize(GetFullPathNameW(path.c_str(), room, full.data(), nullptr));
+    const DWORD length = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(length, L'\0');
+    full.resize(GetFullPathNameW(path.c_str(), length, full.data(), nullptr));
     return full;
 }
 
@@ -43,17 +45,19 @@ std::optional<std::wstring> CSearchPath::Find(const std::wstring& name) const {
     if (name.empty()) {
         return std::nullopt;
     }
-    std::vector<std::wstring> places;
+    std::vector<std::wstring> candidates;
     if (PathIsRelativeW(name.c_str())) {
         for (const std::wstring& folder : m_folders) {
-            places.push_back(folder + L'\\' + name);
+            candidates.push_back(folder + L'\\' + name);
         }
     }
-    places.push_back(name);
-    for (const std::wstring& place : places) {
-        if (const std::wstring full = FullPath(place); IsFile(full)) {
+    candidates.push_back(name);
+    for (const std::wstring& candidate : candidates) {
+        if (const std::wstring full = FullPath(candidate); IsFile(full)) {
             return full;
         }
     }
     return std::nullopt;
 }
+
+}  // namespace devhost

@@ -1,31 +1,34 @@
-// Where the host looks for the files of plug-ins: some folders in order, then the current one.
+// The host's file search: some folders in order, then the current one.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <vector>
 
+namespace devhost {
+
 class CSearchPath {
 public:
-    // The folders as the user gave them. They are made absolute at once, since file dialogs change the
-    // current folder. Throws CUserError that names the first one that is no folder.
+    // The folders as the user gave them. They become absolute at once, since file dialogs change the current
+    // folder. Throws CUserError for the first one that is not a folder.
     explicit CSearchPath(const std::vector<std::wstring>& folders);
 
-    // Adds a folder behind the others, as a full path.
+    // Adds a folder, as a full path, at the end.
     void Add(const std::wstring& folder) { m_folders.push_back(folder); }
 
-    // The full path of a file; nothing when there is none of that name. A name that is not relative (it
-    // has a drive, a share or a leading backslash) is looked for where it says and nowhere else. Folders
-    // and devices are no files.
+    // The full path of a file; nothing when it does not exist. An absolute name (with a drive, a share or a
+    // leading backslash) is not searched for. Folders and devices do not count as files.
     std::optional<std::wstring> Find(const std::wstring& name) const;
 
 private:
     std::vector<std::wstring> m_folders;
 };
 
-// The path with drive and folder, or empty when it cannot be one.
+// The absolute path, or empty when there is none.
 std::wstring FullPath(const std::wstring& path);
-// Whether a folder lies at a full path.
+// Whether the full path is that of a folder.
 bool IsFolder(const std::wstring& fullPath);
-// Whether a file that is neither a folder nor a device lies at a full path.
+// Whether the full path is that of a file, not of a folder or a device.
 bool IsFile(const std::wstring& fullPath);
+
+}  // namespace devhost

@@ -1,12 +1,15 @@
 #include "devhost/app/Session.h"
 
+#include "devhost/Libraries.h"
 #include "devhost/app/ExitStatus.h"
 #include "devhost/app/Host.h"
-#include "devhost/lisp/Printer.h"
+#include "lisp/Printer.h"
+
+namespace devhost {
 
 namespace {
 
-// While LISP runs the prompt takes nothing.
+// The prompt is disabled while LISP runs.
 class CBusyScope {
 public:
     explicit CBusyScope(CMainWindow& window) : m_window(window) { m_window.SetBusy(true); }
@@ -18,29 +21,27 @@ private:
     CMainWindow& m_window;
 };
 
-SSource ReadExpressions(std::wstring_view text) {
-    SSource source = ReadText(text);
+lisp::Source ReadExpressions(std::wstring_view text) {
+    lisp::Source source = lisp::ReadText(text);
     if (source.expressions.empty()) {
-        throw CLispError(L"there is nothing to evaluate");
+        throw lisp::CLispError(L"there is nothing to evaluate");
     }
     return source;
 }
 
 }  // namespace
 
-SPreparedTask Prepare(const STask& task) {
-    if (task.isScript) {
-        return {true, ReadSourceFile(task.text, task.text)};
-    }
+PreparedTask Prepare(const Task& task) {
     try {
-        return {false, ReadExpressions(task.text)};
-    } catch (const CLispError& error) {
-        throw CUserError(L"--eval '" + task.text + L"': " + error.Text());
+        return {task.isScript,
+                task.isScript ? lisp::ReadSourceFile(task.text, task.text) : ReadExpressions(task.text)};
+    } catch (const lisp::CLispError& error) {
+        throw CUserError((task.isScript ? L"" : L"--eval '" + task.text + L"': ") + error.Text());
     }
 }
 
-int CSession::RunTasks(const std::vector<SPreparedTask>& tasks) {
-    for (const SPreparedTask& task : tasks) {
+int CSession::RunTasks(const std::vector<PreparedTask>& tasks) {
+    for (const PreparedTask& task : tasks) {
         if (const auto end = Evaluate(task.source, !task.isScript)) {
             return *end;
         }
@@ -52,19 +53,19 @@ void CSession::RunTyped(const std::wstring& text) {
     m_output.Line(text);
     try {
         Evaluate(ReadExpressions(text), true);
-    } catch (const CLispError& error) {
+    } catch (const lisp::CLispError& error) {
         m_output.Error(error.Text());
     }
 }
 
 void CSession::RunItem(const std::wstring& name) {
     m_output.Line(L'(' + name + L')');
-    if (!Evaluate(ReadText(L"(load \"" + name + L".lsp\")"), false)) {
-        Evaluate(ReadText(L'(' + name + L')'), true);
+    if (!Evaluate(lisp::ReadText(L"(load \"" + name + L".lsp\")"), false)) {
+        Evaluate(lisp::ReadText(L'(' + name + L')'), true);
     }
 }
 
-std::optional<int> CSession::Evaluate(const SSource& source, bool printing) {
+std::optional<int> CSession::Evaluate(const lisp::Source& source, bool printing) {
     const CBusyScope busy(m_window);
     try {
         if (printing) {
@@ -74,12 +75,12 @@ std::optional<int> CSession::Evaluate(const SSource& source, bool printing) {
         }
         m_output.EndLine();
         return std::nullopt;
-    } catch (const SLispExit& exit) {
+    } catch (const lisp::LispExit& exit) {
         m_output.EndLine();
         return exit.status;
     } catch (const CReportedError&) {
         m_output.EndLine();
-    } catch (const CLispError& error) {
+    } catch (const lisp::CLispError& error) {
         m_output.EndLine();
         if (!error.IsHandled()) {
             m_output.Error(error.Text());
@@ -88,14 +89,16 @@ std::optional<int> CSession::Evaluate(const SSource& source, bool printing) {
     return kExitFailed;
 }
 
-void CSession::EvaluateAndPrint(const SSource& source) {
-    for (const CValue& expression : source.expressions) {
-        const CLispResult result = m_evaluator.Run({source.file, {expression}});
+void CSession::EvaluateAndPrint(const lisp::Source& source) {
+    for (const lisp::CValue& expression : source.expressions) {
+        const lisp::LispResult result = m_evaluator.Run({source.file, {expression}});
         m_output.EndLine();
-        // (princ) at the end of a routine asks for silence.
+        // (princ) at the end of a routine suppresses the result.
         if (result && result->IsSymbol(L"")) {
             continue;
         }
-        m_output.Line(result ? Print(*result) : L"; no result");
+        m_output.Line(result ? lisp::Print(*result) : L"; no result");
     }
 }
+
+}  // namespace devhost

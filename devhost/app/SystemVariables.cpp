@@ -1,38 +1,43 @@
 #include "devhost/app/SystemVariables.h"
 
-#include "devhost/lisp/LispError.h"
-#include "devhost/lisp/Printer.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/Libraries.h"
+#include "lisp/LispError.h"
+#include "lisp/Printer.h"
+#include "units/LinearUnits.h"
 
-void CSystemVariables::SetLinear(SLinearFormat linear) {
+namespace devhost {
+
+void CSystemVariables::SetLinear(LinearFormat linear) {
     m_linear = linear;
     if (m_onChanged) {
         m_onChanged(linear);
     }
 }
 
-CValue CSystemVariables::Get(const std::wstring& name) const {
+lisp::CValue CSystemVariables::Get(const std::wstring& name) const {
     if (name == L"LUNITS") {
-        return CValue::Integer(m_linear.lunits);
+        return lisp::CValue::Integer(m_linear.lunits);
     }
     if (name == L"LUPREC") {
-        return CValue::Integer(m_linear.luprec);
+        return lisp::CValue::Integer(m_linear.luprec);
     }
     return {};
 }
 
-void CSystemVariables::Set(const std::wstring& name, const CValue& value) {
+void CSystemVariables::Set(const std::wstring& name, const lisp::CValue& value) {
     const bool isUnits = name == L"LUNITS";
     if (!isUnits && name != L"LUPREC") {
-        throw CLispError(L"SETVAR: there is no system variable " + name + L": LUNITS and LUPREC are known");
+        throw lisp::CLispError(L"SETVAR: there is no system variable " + name + L": use LUNITS or LUPREC");
     }
-    const int lowest = isUnits ? LU_SCIENTIFIC : 0;
-    const int highest = isUnits ? LU_FRACTIONAL : kMaxLinearPrecision;
-    if (value.Type() != VT_INTEGER || value.AsInteger() < lowest || value.AsInteger() > highest) {
-        throw CLispError(L"SETVAR: " + name + L" takes a whole number from " + std::to_wstring(lowest) +
-                         L" to " + std::to_wstring(highest) + L", not " + Excerpt(value));
+    const int lowest = isUnits ? units::LU_SCIENTIFIC : 0;
+    const int highest = isUnits ? units::LU_FRACTIONAL : units::kMaxLinearPrecision;
+    if (value.Type() != lisp::VT_INTEGER || value.AsInteger() < lowest || value.AsInteger() > highest) {
+        throw lisp::CLispError(L"SETVAR: " + name + L" takes a whole number from " + std::to_wstring(lowest) +
+                               L" to " + std::to_wstring(highest) + L", not " + lisp::Excerpt(value));
     }
-    SLinearFormat linear = m_linear;
-    (isUnits ? linear.lunits : linear.luprec) = short(value.AsInteger());
+    LinearFormat linear = m_linear;
+    (isUnits ? linear.lunits : linear.luprec) = value.AsInteger();
     SetLinear(linear);
 }
+
+}  // namespace devhost

@@ -4,30 +4,34 @@
 #include <functional>
 #include <string>
 
-#include "devhost/lisp/Value.h"
+#include "devhost/Libraries.h"
+#include "lisp/Value.h"
 
-struct SLinearFormat {
-    short lunits;
-    short luprec;
+namespace devhost {
+
+struct LinearFormat {
+    int lunits;
+    int luprec;
 };
 
 class CSystemVariables {
 public:
-    explicit CSystemVariables(SLinearFormat linear) : m_linear(linear) {}
+    explicit CSystemVariables(LinearFormat linear) : m_linear(linear) {}
 
-    SLinearFormat Linear() const { return m_linear; }
-    // Both in their ranges.
-    void SetLinear(SLinearFormat linear);
+    LinearFormat Linear() const { return m_linear; }
+    // Both values must be in their ranges.
+    void SetLinear(LinearFormat linear);
     // Called after each change.
-    void SetListener(std::function<void(SLinearFormat)> onChanged) { m_onChanged = std::move(onChanged); }
+    void SetListener(std::function<void(LinearFormat)> onChanged) { m_onChanged = std::move(onChanged); }
 
-    // By the name in capitals; nil when there is none of that name.
-    CValue Get(const std::wstring& name) const;
-    // Throws CLispError, which names the variable, when there is none of that name or the value is not for
-    // it.
-    void Set(const std::wstring& name, const CValue& value);
+    // By the name in capitals; nil for unknown names.
+    lisp::CValue Get(const std::wstring& name) const;
+    // Throws CLispError for unknown names and invalid values.
+    void Set(const std::wstring& name, const lisp::CValue& value);
 
 private:
-    SLinearFormat m_linear;
-    std::function<void(SLinearFormat)> m_onChanged;
+    LinearFormat m_linear;
+    std::function<void(LinearFormat)> m_onChanged;
 };
+
+}  // namespace devhost

@@ -2,48 +2,45 @@
 
 #include <windows.h>
 
+#include "devhost/Libraries.h"
+#include "encoding/Encoding.h"
+
+namespace devhost {
+
 namespace {
 
 constexpr wchar_t kProgram[] = L"DevHost";
 
-// For the listener: milliseconds between pieces of text, characters of one piece, and of all together.
-constexpr unsigned long long kPause = 100;
-constexpr std::size_t kMostOfPiece = 10'000;
-constexpr std::size_t kMostCollected = 40'000;
+// For the listener: milliseconds between flushes, characters of one piece of text, and of the collected text.
+constexpr unsigned long long kFlushInterval = 100;
+constexpr std::size_t kMaxPiece = 10'000;
+constexpr std::size_t kMaxCollected = 40'000;
 
 bool IsConsole(HANDLE handle) {
     DWORD mode;
     return GetConsoleMode(handle, &mode) != FALSE;
 }
 
-// Whether the console is there for this process alone. Wine gives a program in a Linux terminal one as well,
-// with a hidden window; what is written there appears in the terminal.
+// Whether the console was created for this process alone. Under Wine in a Linux terminal there is one as
+// well, with a hidden window; its output appears in the terminal.
 bool HasConsoleOfItsOwn() {
     DWORD processes[2];
     return GetConsoleProcessList(processes, 2) == 1 && IsWindowVisible(GetConsoleWindow());
 }
 
-std::string ToUtf8(std::wstring_view text) {
-    const int length =
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), nullptr, 0, nullptr, nullptr);
-    std::string bytes(std::size_t(length), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), int(text.size()), bytes.data(), length, nullptr, nullptr);
-    return bytes;
-}
-
-// Unbuffered, so that what was said stands there when the process crashes after it.
+// Unbuffered, so that the output is complete when the process crashes.
 void Write(DWORD standardHandle, std::wstring_view text) {
     const HANDLE handle = GetStdHandle(standardHandle);
     DWORD written;
     if (IsConsole(handle)) {
         WriteConsoleW(handle, text.data(), DWORD(text.size()), &written, nullptr);
     } else {
-        const std::string bytes = ToUtf8(text);
+        const std::string bytes = encoding::EncodeUtf8(text);
         WriteFile(handle, bytes.data(), DWORD(bytes.size()), &written, nullptr);
     }
 }
 
-// One line whatever a plug-in put into its text.
+// Removes line breaks from a plug-in's text.
 std::wstring OnOneLine(std::wstring_view text) {
     std::wstring line;
     for (const wchar_t c : text) {
@@ -69,49 +66,49 @@ void CTextOutput::Text(std::wstring_view text) {
     Write(STD_OUTPUT_HANDLE, text);
     m_isLineOpen = text.back() != L'\n';
     Collect(text);
-    TellNowAndThen();
+    FlushIfDue();
 }
 
 void CTextOutput::EndLine() {
     if (m_isLineOpen) {
         Text(L"\n");
     }
-    Tell();
+    Flush();
 }
 
 void CTextOutput::Collect(std::wstring_view text) {
     if (!m_listener) {
         return;
     }
-    m_collected += text.substr(0, kMostOfPiece);
-    if (text.size() > kMostOfPiece) {
+    m_collected += text.substr(0, kMaxPiece);
+    if (text.size() > kMaxPiece) {
         m_collected += text.back() == L'\n' ? L"...\n" : L"...";
     }
-    if (m_collected.size() > kMostCollected) {
-        // The older part, up to the end of a line.
-        const std::size_t end = m_collected.find(L'\n', kMostCollected / 2);
-        m_collected.erase(0, end != std::wstring::npos ? end + 1 : kMostCollected / 2);
+    if (m_collected.size() > kMaxCollected) {
+        // Remove the older part, up to the end of a line.
+        const std::size_t end = m_collected.find(L'\n', kMaxCollected / 2);
+        m_collected.erase(0, end != std::wstring::npos ? end + 1 : kMaxCollected / 2);
     }
 }
 
-void CTextOutput::Tell() {
+void CTextOutput::Flush() {
     if (m_listener && !m_collected.empty()) {
         m_listener(m_collected);
     }
     m_collected.clear();
-    m_lastTold = GetTickCount64();
+    m_lastFlush = GetTickCount64();
 }
 
-void CTextOutput::TellNowAndThen() {
-    if (GetTickCount64() - m_lastTold >= kPause) {
-        Tell();
+void CTextOutput::FlushIfDue() {
+    if (GetTickCount64() - m_lastFlush >= kFlushInterval) {
+        Flush();
     }
 }
 
 void CTextOutput::Line(std::wstring_view text) {
     EndLine();
     Text(OnOneLine(text) + L'\n');
-    Tell();
+    Flush();
 }
 
 void CTextOutput::Error(std::wstring_view text) {
@@ -119,7 +116,7 @@ void CTextOutput::Error(std::wstring_view text) {
     const std::wstring line = OnOneLine(text);
     Write(STD_ERROR_HANDLE, kProgram + (L": " + line) + L'\n');
     Collect(L"; error: " + line + L'\n');
-    Tell();
+    Flush();
     if (!m_listener && m_useBoxes) {
         MessageBoxW(nullptr, line.c_str(), kProgram, MB_OK | MB_ICONERROR);
     }
@@ -131,3 +128,5 @@ void CTextOutput::Help(std::wstring_view text) {
         MessageBoxW(nullptr, std::wstring(text).c_str(), kProgram, MB_OK);
     }
 }
+
+}  // namespace devhost

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <initializer_list>
 
+namespace devhost {
+
 double GridSpacing(double unitsPerPixel, double leastPixels) {
     const double least = unitsPerPixel * leastPixels;
     const double decade = std::pow(10, std::floor(std::log10(least)));
@@ -27,3 +29,5 @@ std::vector<double> GridSteps(double low, double high, double spacing) {
     }
     return steps;
 }
+
+}  // namespace devhost

@@ -1,12 +1,16 @@
-// The dots behind a drawing that give a feeling for its size.
+// The grid of dots behind a drawing.
 #pragma once
 
 #include <vector>
 
-// The distance between the dots in drawing units: the smallest of 1, 2, 5, 10, 20, 50 … (and 0.5, 0.2 …)
-// that spans at least `leastPixels` at so many drawing units per pixel.
+namespace devhost {
+
+// The distance between the dots in drawing units: the smallest of …, 0.2, 0.5, 1, 2, 5, 10, … that is at
+// least `leastPixels` pixels.
 double GridSpacing(double unitsPerPixel, double leastPixels);
 
-// The whole numbers whose multiples of `spacing` lie from `low` to `high`, upwards. None where they are too
-// large to be told apart, which close up and very far from the origin they are.
+// The integers n with low <= n * spacing <= high, ascending. None where they are too large to be exact, which
+// happens when zooming in very far from the origin.
 std::vector<double> GridSteps(double low, double high, double spacing);
+
+}  // namespace devhost

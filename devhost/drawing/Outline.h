@@ -1,4 +1,4 @@
-// Lines that stand for an entity, and the part of a line that a window shows.
+// Entities as lines, and clipping.
 #pragma once
 
 #include <optional>
@@ -6,10 +6,14 @@
 
 #include "devhost/drawing/Drawing.h"
 
-// The line that a pen follows to draw the entity, in drawing units; a closed one ends where it begins.
-// Circles and arcs become chords that stay within `tolerance` (drawing units, above zero) of the curve, up
-// to some thousand chords. A text has no such line: the answer is empty.
-std::vector<SPoint> OutlineOf(const CEntity& entity, double tolerance);
+namespace devhost {
 
-// The part of the line within the box; nothing when it passes by.
-std::optional<SLine> Clip(const SLine& line, const SBox& box);
+// The polyline of an entity, in drawing units; a closed one ends where it begins. Circles and arcs become
+// chords within `tolerance` (drawing units, above zero) of the curve, up to some thousand chords. Empty for a
+// text.
+std::vector<Point> OutlineOf(const Entity& entity, double tolerance);
+
+// The part of the line within the box; nothing when there is none.
+std::optional<LineEntity> Clip(const LineEntity& line, const Box& box);
+
+}  // namespace devhost

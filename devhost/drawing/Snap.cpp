@@ -2,33 +2,35 @@
 
 #include <cmath>
 
+namespace devhost {
+
 namespace {
 
 class CNearest {
 public:
-    CNearest(SPoint place, double reach) : m_place(place), m_distance(reach) {}
+    CNearest(Point position, double reach) : m_position(position), m_distance(reach) {}
 
-    const std::optional<SPoint>& Point() const { return m_point; }
+    const std::optional<Point>& Result() const { return m_point; }
 
-    void operator()(const SLine& line) {
+    void operator()(const LineEntity& line) {
         Try(line.from);
         Try(line.to);
     }
-    void operator()(const SPolyline& line) {
-        for (const SPoint& point : line.points) {
+    void operator()(const PolylineEntity& line) {
+        for (const Point& point : line.points) {
             Try(point);
         }
     }
-    void operator()(const SCircle&) {}
-    void operator()(const SArc& arc) {
+    void operator()(const CircleEntity&) {}
+    void operator()(const ArcEntity& arc) {
         Try(PointOnCircle(arc.centre, arc.radius, arc.start));
         Try(PointOnCircle(arc.centre, arc.radius, arc.end));
     }
-    void operator()(const SText&) {}
+    void operator()(const TextEntity&) {}
 
 private:
-    void Try(SPoint point) {
-        const double distance = std::hypot(point.x - m_place.x, point.y - m_place.y);
+    void Try(Point point) {
+        const double distance = std::hypot(point.x - m_position.x, point.y - m_position.y);
         if (distance > m_distance) {
             return;
         }
@@ -36,17 +38,19 @@ private:
         m_point = point;
     }
 
-    SPoint m_place;
+    Point m_position;
     double m_distance;
-    std::optional<SPoint> m_point;
+    std::optional<Point> m_point;
 };
 
 }  // namespace
 
-std::optional<SPoint> NearestEnd(const CDrawing& drawing, SPoint place, double reach) {
-    CNearest nearest(place, reach);
-    for (const CEntity& entity : drawing.Entities()) {
+std::optional<Point> NearestEnd(const CDrawing& drawing, Point position, double reach) {
+    CNearest nearest(position, reach);
+    for (const Entity& entity : drawing.Entities()) {
         std::visit(nearest, entity);
     }
-    return nearest.Point();
+    return nearest.Result();
 }
+
+}  // namespace devhost

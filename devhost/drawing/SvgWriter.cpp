@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
 #include <numbers>
+
+#include "devhost/Libraries.h"
+#include "encoding/Encoding.h"
+
+namespace devhost {
 
 namespace {
 
@@ -29,103 +33,75 @@ std::string Attribute(const char* name, double number) {
 }
 
 // The picture's y goes downwards, the drawing's upwards.
-std::string Pair(SPoint point) {
+std::string Pair(Point point) {
     return Number(point.x) + ' ' + Number(-point.y);
 }
 
-// What XML cannot hold becomes the sign for that.
-bool IsXmlCharacter(std::uint32_t code) {
+bool IsXmlCharacter(char32_t code) {
     if (code < 0x20) {
-        return code == '\t' || code == '\n' || code == '\r';
+        return code == U'\t' || code == U'\n' || code == U'\r';
     }
-    return (code < 0xD800 || code > 0xDFFF) && code != 0xFFFE && code != 0xFFFF && code <= 0x10FFFF;
+    return code != 0xFFFE && code != 0xFFFF;
 }
 
-void AddUtf8(std::string& text, std::uint32_t code) {
-    const auto add = [&](std::uint32_t byte) { text += static_cast<char>(byte); };
-    const auto addTail = [&](int shift) { add(0x80 | (code >> shift & 0x3F)); };
-    if (code < 0x80) {
-        add(code);
-    } else if (code < 0x800) {
-        add(0xC0 | code >> 6);
-        addTail(0);
-    } else if (code < 0x10000) {
-        add(0xE0 | code >> 12);
-        addTail(6);
-        addTail(0);
-    } else {
-        add(0xF0 | code >> 18);
-        addTail(12);
-        addTail(6);
-        addTail(0);
-    }
-}
-
-// Text between tags. Pairs of surrogates are joined wherever wide characters have 16 bits or more.
-std::string Escaped(const std::wstring& text) {
-    constexpr std::uint32_t kReplacement = 0xFFFD;
+// Text between tags.
+std::string Escaped(std::wstring_view text) {
+    constexpr char32_t kReplacement = 0xFFFD;
     std::string escaped;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        auto code = static_cast<std::uint32_t>(text[i]);
-        if (code >= 0xD800 && code < 0xDC00 && i + 1 < text.size()) {
-            const auto low = static_cast<std::uint32_t>(text[i + 1]);
-            if (low >= 0xDC00 && low < 0xE000) {
-                code = 0x10000 + ((code - 0xD800) << 10) + (low - 0xDC00);
-                ++i;
-            }
-        }
-        if (code == '<') {
+    while (!text.empty()) {
+        const char32_t code = encoding::TakeCodePoint(text);
+        if (code == U'<') {
             escaped += "&lt;";
-        } else if (code == '&') {
+        } else if (code == U'&') {
             escaped += "&amp;";
         } else {
-            AddUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
+            encoding::AppendUtf8(escaped, IsXmlCharacter(code) ? code : kReplacement);
         }
     }
     return escaped;
 }
 
-struct SElement {
-    std::string operator()(const SLine& line) const {
+struct ElementVisitor {
+    std::string operator()(const LineEntity& line) const {
         return "<line" + Attribute("x1", line.from.x) + Attribute("y1", -line.from.y) +
                Attribute("x2", line.to.x) + Attribute("y2", -line.to.y) + "/>";
     }
-    std::string operator()(const SPolyline& line) const {
+    std::string operator()(const PolylineEntity& line) const {
         std::string points;
-        for (const SPoint& point : line.points) {
+        for (const Point& point : line.points) {
             points += (points.empty() ? "" : ", ") + Pair(point);
         }
         return (line.closed ? "<polygon points=\"" : "<polyline points=\"") + points + "\"/>";
     }
-    std::string operator()(const SCircle& circle) const {
+    std::string operator()(const CircleEntity& circle) const {
         return "<circle" + Attribute("cx", circle.centre.x) + Attribute("cy", -circle.centre.y) +
                Attribute("r", circle.radius) + "/>";
     }
-    std::string operator()(const SArc& arc) const {
+    std::string operator()(const ArcEntity& arc) const {
         const double sweep = SweepOf(arc);
-        // A path cannot lead from a point to itself.
+        // A path from a point to itself would be empty.
         if (sweep == 2 * std::numbers::pi) {
-            return (*this)(SCircle{arc.centre, arc.radius});
+            return (*this)(CircleEntity{arc.centre, arc.radius});
         }
         const char* large = sweep > std::numbers::pi ? "1" : "0";
         return "<path d=\"M " + Pair(PointOnCircle(arc.centre, arc.radius, arc.start)) + " A " +
                Number(arc.radius) + ' ' + Number(arc.radius) + " 0 " + large + " 0 " +
                Pair(PointOnCircle(arc.centre, arc.radius, arc.start + sweep)) + "\"/>";
     }
-    std::string operator()(const SText& text) const {
+    std::string operator()(const TextEntity& text) const {
         const double degrees = text.angle * 180 / std::numbers::pi;
-        // Every blank counts; the attribute is what older viewers know for that.
-        return "<text xml:space=\"preserve\" transform=\"translate(" + Pair(text.place) + ") rotate(" +
-               Number(-degrees) + ")\"" + Attribute("font-size", text.height / kCapitalPart) + ">" +
+        // Preserves blanks; this attribute is the one that older viewers support.
+        return "<text xml:space=\"preserve\" transform=\"translate(" + Pair(text.position) + ") rotate(" +
+               Number(-degrees) + ")\"" + Attribute("font-size", text.height / kCapitalFraction) + ">" +
                Escaped(text.text) + "</text>";
     }
 };
 
-// The part of the drawing that the picture shows.
-SBox ShownPart(const CDrawing& drawing) {
-    SBox box = drawing.Extents().value_or(SBox{{0, 0}, {1, 1}});
+// The box of the drawing that the picture shows.
+Box ShownPart(const CDrawing& drawing) {
+    Box box = drawing.Extents().value_or(Box{{0, 0}, {1, 1}});
     const double side = std::max(box.Width(), box.Height());
-    constexpr double kPoint = 1e-9;  // as good as a point, which needs room around it all the same
+    constexpr double kPoint = 1e-9;  // smaller drawings are points, which need a margin too
     const double margin = side > kPoint ? kMargin * side : 0.5;
     return {{box.low.x - margin, box.low.y - margin}, {box.high.x + margin, box.high.y + margin}};
 }
@@ -133,7 +109,7 @@ SBox ShownPart(const CDrawing& drawing) {
 }  // namespace
 
 std::string ToSvg(const CDrawing& drawing) {
-    const SBox part = ShownPart(drawing);
+    const Box part = ShownPart(drawing);
     const double scale = kLongerSide / std::max(part.Width(), part.Height());
     const double width = std::max(1.0, part.Width() * scale);
     const double height = std::max(1.0, part.Height() * scale);
@@ -144,8 +120,10 @@ std::string ToSvg(const CDrawing& drawing) {
     svg += kStyle;
     svg += "<rect" + Attribute("x", part.low.x) + Attribute("y", -part.high.y) +
            " width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-    for (const CEntity& entity : drawing.Entities()) {
-        svg += std::visit(SElement(), entity) + '\n';
+    for (const Entity& entity : drawing.Entities()) {
+        svg += std::visit(ElementVisitor(), entity) + '\n';
     }
     return svg + "</svg>\n";
 }
+
+}  // namespace devhost

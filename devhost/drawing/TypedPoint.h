@@ -1,4 +1,4 @@
-// A point that was typed instead of shown.
+// A typed point.
 #pragma once
 
 #include <optional>
@@ -6,9 +6,14 @@
 
 #include "devhost/drawing/Point.h"
 
-// The point that `text` spells, in drawing units; nothing when it spells none:
+namespace devhost {
+
+// The point that `text` describes, in drawing units; nothing when it describes none:
 //   120,45    coordinates; each is a length in any of the linear formats
-//   @30,-5    seen from `base`
-//   55        so far from `base` in the direction of `mouse`
-// The last two need a base, the last one a mouse that is not on it. Blanks around the parts are allowed.
-std::optional<SPoint> ParsePoint(std::wstring_view text, std::optional<SPoint> base, SPoint mouse);
+//   @30,-5    relative to `base`
+//   55        this distance from `base` in the direction of `mouse`
+// The last two need a base, the last one a mouse position that differs from it. Blanks around the parts are
+// allowed.
+std::optional<Point> ParsePoint(std::wstring_view text, std::optional<Point> base, Point mouse);
+
+}  // namespace devhost

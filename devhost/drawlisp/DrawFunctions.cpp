@@ -1,35 +1,38 @@
 #include "devhost/drawlisp/DrawFunctions.h"
 
-#include "devhost/lisp/Arguments.h"
-#include "devhost/lisp/Printer.h"
+#include "devhost/Libraries.h"
+#include "lisp/Arguments.h"
+#include "lisp/Printer.h"
+
+namespace devhost {
 
 namespace {
 
-// More than any item draws: a loop without end is told so before the memory is used up.
-constexpr std::size_t kMostEntities = 1'000'000;
+// More than any item draws: stops an endless loop before the memory is exhausted.
+constexpr std::size_t kMaxEntities = 1'000'000;
 
-SPoint PointOf(const CArguments& arguments, std::size_t index) {
-    const SLispPoint point = arguments.Point(index);
+Point PointOf(const lisp::CArguments& arguments, std::size_t index) {
+    const lisp::LispPoint point = arguments.Point(index);
     return {point.x, point.y};
 }
 
-double Length(const CArguments& arguments, std::size_t index) {
+double Length(const lisp::CArguments& arguments, std::size_t index) {
     if (!(arguments.Number(index) > 0)) {
         arguments.Refuse(index, L"a number above zero");
     }
     return arguments.Number(index);
 }
 
-SLine Line(const CArguments& arguments) {
+LineEntity Line(const lisp::CArguments& arguments) {
     return {PointOf(arguments, 0), PointOf(arguments, 1)};
 }
 
-SPolyline Polyline(const CArguments& arguments) {
-    SPolyline polyline;
-    for (const CValue& element : arguments.List(0)) {
-        const auto point = ToPoint(element);
+PolylineEntity Polyline(const lisp::CArguments& arguments) {
+    PolylineEntity polyline;
+    for (const lisp::CValue& element : arguments.List(0)) {
+        const auto point = lisp::ToPoint(element);
         if (!point) {
-            arguments.Fail(Excerpt(element) + L" is no point: each is a list of two or three numbers");
+            arguments.Fail(lisp::Excerpt(element) + L" is not a point, a list of two or three numbers");
         }
         polyline.points.push_back({point->x, point->y});
     }
@@ -40,46 +43,48 @@ SPolyline Polyline(const CArguments& arguments) {
     return polyline;
 }
 
-SCircle Circle(const CArguments& arguments) {
+CircleEntity Circle(const lisp::CArguments& arguments) {
     return {PointOf(arguments, 0), Length(arguments, 1)};
 }
 
-SArc Arc(const CArguments& arguments) {
+ArcEntity Arc(const lisp::CArguments& arguments) {
     return {PointOf(arguments, 0), Length(arguments, 1), arguments.Number(2), arguments.Number(3)};
 }
 
-SText Text(const CArguments& arguments) {
+TextEntity Text(const lisp::CArguments& arguments) {
     return {PointOf(arguments, 0), Length(arguments, 1), arguments.Number(2), arguments.Text(3)};
 }
 
-// Defines a function that adds what `make` makes of its arguments.
+// Defines a function that adds the entity that `make` creates from its arguments.
 template <typename TMake>
-void DefineEntity(CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name, int least, int most,
+void DefineEntity(lisp::CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name, int least, int most,
                   TMake make) {
-    const auto run = [&drawing, make](const CArguments& arguments) -> CLispResult {
-        if (drawing.Entities().size() >= kMostEntities) {
-            arguments.Fail(L"the drawing holds " + std::to_wstring(kMostEntities) +
+    const auto run = [&drawing, make](const lisp::CArguments& arguments) -> lisp::LispResult {
+        if (drawing.Entities().size() >= kMaxEntities) {
+            arguments.Fail(L"the drawing holds " + std::to_wstring(kMaxEntities) +
                            L" entities already: does a loop draw without end?");
         }
         if (!drawing.Add(make(arguments))) {
             arguments.Fail(L"a number is beyond 1e12 and cannot be drawn");
         }
-        return CValue::True();
+        return lisp::CValue::True();
     };
-    evaluator.Define(name, TakeArguments(evaluator, name, least, most, run));
+    evaluator.Define(name, lisp::TakeArguments(evaluator, name, least, most, run));
 }
 
 }  // namespace
 
-void DefineDrawFunctions(CEvaluator& evaluator, CDrawing& drawing) {
+void DefineDrawFunctions(lisp::CEvaluator& evaluator, CDrawing& drawing) {
     DefineEntity(evaluator, drawing, L"DRAW-LINE", 2, 2, Line);
     DefineEntity(evaluator, drawing, L"DRAW-POLYLINE", 1, 2, Polyline);
     DefineEntity(evaluator, drawing, L"DRAW-CIRCLE", 2, 2, Circle);
     DefineEntity(evaluator, drawing, L"DRAW-ARC", 4, 4, Arc);
     DefineEntity(evaluator, drawing, L"DRAW-TEXT", 4, 4, Text);
-    const auto clear = [&drawing](const CArguments&) -> CLispResult {
+    const auto clear = [&drawing](const lisp::CArguments&) -> lisp::LispResult {
         drawing.Clear();
-        return CValue::True();
+        return lisp::CValue::True();
     };
-    evaluator.Define(L"DRAW-CLEAR", TakeArguments(evaluator, L"DRAW-CLEAR", 0, 0, clear));
+    evaluator.Define(L"DRAW-CLEAR", lisp::TakeArguments(evaluator, L"DRAW-CLEAR", 0, 0, clear));
 }
+
+}  // namespace devhost

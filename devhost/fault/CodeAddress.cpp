@@ -6,7 +6,9 @@
 #include <cstdio>
 #include <cstring>
 
-SCodeAddress::SCodeAddress(const void* address) {
+namespace devhost {
+
+CodeAddress::CodeAddress(const void* address) {
     HMODULE module;
     char path[MAX_PATH];
     if (!GetModuleHandleExA(
@@ -27,3 +29,5 @@ void WriteToStandardError(const char* text) {
     DWORD written;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), text, DWORD(std::strlen(text)), &written, nullptr);
 }
+
+}  // namespace devhost

@@ -1,13 +1,17 @@
-// What reports about a damaged process need: nothing here allocates memory or takes a lock of ours.
+// For reports about a damaged process: nothing here allocates memory or takes a lock.
 #pragma once
 
 #include <cstddef>
 
-// Where code lies, as text: "TavrinWnd.dll+0x1a2b", or the address alone when it is in no module.
-struct SCodeAddress {
-    explicit SCodeAddress(const void* address);
+namespace devhost {
+
+// A code address as text: "TavrinWnd.dll+0x1a2b", or the address alone outside of modules.
+struct CodeAddress {
+    explicit CodeAddress(const void* address);
     char text[160];
 };
 
-// Writes to the standard error output, past the runtime's buffers.
+// Writes to standard error, bypassing the runtime's buffers.
 void WriteToStandardError(const char* text);
+
+}  // namespace devhost

@@ -1,5 +1,7 @@
-// The numbers of the main window's parts and of its menu's commands.
+// The ids of the main window's controls and of its menu commands.
 #pragma once
+
+namespace devhost {
 
 enum EControl { IDC_DRAWING = 100, IDC_OUTPUT, IDC_PROMPT, IDC_STATUS, IDC_LABEL };
 
@@ -14,3 +16,5 @@ enum ECommand {
     IDM_PRECISION = 320,  // plus a value of LUPREC
     IDM_ITEM = 1000,      // plus the item's index
 };
+
+}  // namespace devhost

@@ -4,9 +4,11 @@
 
 #include <cmath>
 
+#include "devhost/UserError.h"
 #include "devhost/drawing/Snap.h"
-#include "devhost/error/UserError.h"
 #include "devhost/window/WindowProc.h"
+
+namespace devhost {
 
 namespace {
 
@@ -25,11 +27,11 @@ void RegisterDrawingClass() {
     RegisterClassExW(&windowClass);
 }
 
-SPoint AsPoint(POINT pixel) {
+Point AsPoint(POINT pixel) {
     return {double(pixel.x), double(pixel.y)};
 }
 
-POINT PlaceIn(LPARAM lParam) {
+POINT PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
@@ -52,7 +54,7 @@ CDrawingView::~CDrawingView() {
     }
 }
 
-SPoint CDrawingView::MousePoint() const {
+Point CDrawingView::MousePoint() const {
     return m_snapped ? *m_snapped : m_view.ToDrawing(AsPoint(m_mouse));
 }
 
@@ -79,7 +81,7 @@ void CDrawingView::SetSnap(bool snap) {
     MoveMouse(m_mouse);
 }
 
-void CDrawingView::BeginPick(std::optional<SPoint> base, std::function<void(SPoint)> onPicked) {
+void CDrawingView::BeginPick(std::optional<Point> base, std::function<void(Point)> onPicked) {
     m_base = base;
     m_onPicked = std::move(onPicked);
     MoveMouse(m_mouse);
@@ -97,17 +99,17 @@ LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             OnSize(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
             return 0;
         case WM_MOUSEMOVE:
-            OnMouseMove(PlaceIn(lParam));
+            OnMouseMove(PointOf(lParam));
             return 0;
         case WM_MOUSELEAVE:
             OnMouseLeave();
             return 0;
         case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK:  // two quick clicks are two points
-            OnLeftButton(PlaceIn(lParam));
+        case WM_LBUTTONDBLCLK:  // two quick clicks pick two points
+            OnLeftButton(PointOf(lParam));
             return 0;
         case WM_MBUTTONDOWN:
-            OnMiddleButton(PlaceIn(lParam));
+            OnMiddleButton(PointOf(lParam));
             return 0;
         case WM_MBUTTONDBLCLK:
             Fit();
@@ -119,7 +121,7 @@ LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             m_isPanning = false;
             return 0;
         case WM_MOUSEWHEEL:
-            OnWheel(PlaceIn(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
+            OnWheel(PointOf(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
             return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) != HTCLIENT) {
@@ -165,7 +167,7 @@ void CDrawingView::OnLeftButton(POINT pixel) {
         return;
     }
     MoveMouse(pixel);
-    const SPoint point = MousePoint();
+    const Point point = MousePoint();
     m_crosses.push_back(point);
     // A copy, since the handler may end the pick.
     const auto onPicked = m_onPicked;
@@ -204,8 +206,11 @@ void CDrawingView::RefreshScene() {
 }
 
 void CDrawingView::Invalidate() {
-    // The drawing may change after the window was closed, and no window means every one to the system.
+    // The drawing may change after the window was closed, and InvalidateRect(nullptr) invalidates all
+    // windows.
     if (m_window != nullptr) {
         InvalidateRect(m_window, nullptr, FALSE);
     }
 }
+
+}  // namespace devhost

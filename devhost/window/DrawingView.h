@@ -1,9 +1,9 @@
-// The drawing area: a sheet that shows a drawing, and on which the user shows points. A child window.
+// The drawing area: a child window that shows a drawing and in which the user picks points.
 //
-// At first drawing units map to pixels one to one, with the origin in the middle of the area's lower left
-// pixel and y upwards. The wheel zooms about the mouse, the middle button pans, pressed twice it fits the
-// drawing into the area. A crosshair follows the mouse. Points that were picked stay marked by small crosses
-// until Fit or ClearMarks.
+// Initially one drawing unit is one pixel, with the origin in the middle of the area's lower left pixel and y
+// upwards. The wheel zooms about the mouse, the middle button pans, and a double click with it fits the
+// drawing into the area. A crosshair follows the mouse. Picked points are marked by small crosses until Fit
+// or ClearMarks.
 #pragma once
 
 #include <windows.h>
@@ -14,12 +14,15 @@
 
 #include "devhost/drawing/Drawing.h"
 #include "devhost/drawing/ViewTransform.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/Scale.h"
+#include "handles/GdiScopes.h"
+
+namespace devhost {
 
 class CDrawingView {
 public:
-    // Listens to the drawing, which must outlive the view. Throws CUserError when there can be no window.
+    // Listens to the drawing, which must outlive the view. Throws CUserError when the window cannot be
+    // created.
     CDrawingView(HWND parent, int id, CDrawing& drawing);
     ~CDrawingView();
     CDrawingView(const CDrawingView&) = delete;
@@ -27,21 +30,21 @@ public:
 
     HWND Handle() const { return m_window; }
 
-    // Called with the mouse's place in the drawing when that changes.
-    void SetMoveHandler(std::function<void(SPoint)> onMove) { m_onMove = std::move(onMove); }
-    // The mouse's place in the drawing; while picking that of the end point that it has snapped to.
-    SPoint MousePoint() const;
+    // Called with the mouse's position in the drawing when it changes.
+    void SetMoveHandler(std::function<void(Point)> onMove) { m_onMove = std::move(onMove); }
+    // The mouse's position in the drawing, or the end point that a pick has snapped to.
+    Point MousePoint() const;
 
-    // Shows the whole drawing; an empty one from the origin as at first.
+    // Shows the whole drawing; for an empty one resets the view.
     void Fit();
     void ClearMarks();
-    // Whether a pick jumps to an end point near the mouse. At first it does.
+    // Whether a pick snaps to an end point near the mouse. Initially on.
     void SetSnap(bool snap);
     bool HasSnap() const { return m_hasSnap; }
 
-    // From here on a click of the left button picks a point, marked by a cross and told to `onPicked`; a
-    // line follows the mouse from `base`. The view goes on until EndPick.
-    void BeginPick(std::optional<SPoint> base, std::function<void(SPoint)> onPicked);
+    // Until EndPick, a click of the left button picks a point, which is marked by a cross and passed to
+    // `onPicked`; a rubber band leads from `base` to the mouse.
+    void BeginPick(std::optional<Point> base, std::function<void(Point)> onPicked);
     void EndPick();
 
 private:
@@ -56,7 +59,7 @@ private:
     void OnMiddleButton(POINT pixel);
     void OnWheel(POINT screen, int delta);
     void MoveMouse(POINT pixel);
-    // The view shows another part of the drawing, or the drawing has changed.
+    // To be called after changes of the drawing or the view.
     void RefreshScene();
     void Invalidate();
 
@@ -67,22 +70,24 @@ private:
     void PaintCrosshair(HDC dc) const;
     void PaintSnapMark(HDC dc) const;
     void PaintCrosses(HDC dc) const;
-    POINT ToPixel(SPoint point) const;
+    POINT ToPixel(Point point) const;
 
     CDrawing& m_drawing;
     HWND m_window = nullptr;
     CScale m_scale;
     CViewTransform m_view;
-    CGdiObject m_scene;  // the picture of the drawing alone; empty when it has to be painted anew
+    tavrin::handles::GdiOwner m_scene;  // the painted drawing; empty when it must be repainted
 
-    std::function<void(SPoint)> m_onMove;
-    std::function<void(SPoint)> m_onPicked;  // empty: no pick is going on
-    std::optional<SPoint> m_base;
-    std::optional<SPoint> m_snapped;
-    std::vector<SPoint> m_crosses;
+    std::function<void(Point)> m_onMove;
+    std::function<void(Point)> m_onPicked;  // empty: not picking
+    std::optional<Point> m_base;
+    std::optional<Point> m_snapped;
+    std::vector<Point> m_crosses;
     bool m_hasSnap = true;
 
     POINT m_mouse = {};
     bool m_isMouseInside = false;
     bool m_isPanning = false;
 };
+
+}  // namespace devhost

@@ -1,11 +1,14 @@
-// What the drawing area shows: the drawing, painted once for as long as it stays the same, and above it what
-// moves with the mouse.
+// Painting of the drawing area: the cached drawing, and above it what moves with the mouse.
 #include <algorithm>
 #include <cmath>
 
 #include "devhost/drawing/Outline.h"
 #include "devhost/window/DrawingView.h"
 #include "devhost/window/ScenePaint.h"
+
+namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
@@ -20,7 +23,7 @@ constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
 constexpr COLORREF kRubberLine = RGB(120, 120, 120);
 constexpr COLORREF kSnapMark = RGB(214, 112, 0);
 
-POINT Rounded(SPoint pixel) {
+POINT Rounded(Point pixel) {
     return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
 }
 
@@ -37,7 +40,7 @@ void DrawCross(HDC dc, POINT middle, int arm) {
 }  // namespace
 
 void CDrawingView::Paint() {
-    const CBufferedPaint paint(m_window);
+    const handles::CBufferedPaint paint(m_window);
     PaintScene(paint.Dc(), paint.Client());
     PaintRubberLine(paint.Dc(), paint.Client());
     PaintCrosshair(paint.Dc());
@@ -50,9 +53,9 @@ void CDrawingView::PaintScene(HDC dc, const RECT& client) {
     if (isNew) {
         m_scene.reset(CreateCompatibleBitmap(dc, client.right, client.bottom));
     }
-    const CBitmapDc scene(dc, m_scene.get());
+    const handles::CBitmapDc scene(dc, m_scene.get());
     if (isNew) {
-        ::PaintScene(scene.Get(), client, m_drawing, m_view);
+        devhost::PaintScene(scene.Get(), client, m_drawing, m_view);
     }
     BitBlt(dc, 0, 0, client.right, client.bottom, scene.Get(), 0, 0, SRCCOPY);
 }
@@ -66,8 +69,8 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
     if (!line) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
-    const CSelection selection(dc, pen);
+    const handles::GdiOwner pen(CreatePen(PS_DOT, 1, kRubberLine));
+    const handles::CSelectedObject selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
     DrawLine(dc, Rounded(line->from), Rounded(line->to));
 }
@@ -76,8 +79,8 @@ void CDrawingView::PaintCrosshair(HDC dc) const {
     if (!m_isMouseInside || m_isPanning) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
-    const CSelection selection(dc, pen);
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
+    const handles::CSelectedObject selection(dc, pen);
     DrawCross(dc, m_mouse, m_scale(kCrosshairArm));
 }
 
@@ -85,25 +88,27 @@ void CDrawingView::PaintSnapMark(HDC dc) const {
     if (!m_snapped) {
         return;
     }
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
-    const CSelection penSelection(dc, pen);
-    const CSelection brushSelection(dc, GetStockObject(NULL_BRUSH));
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
+    const handles::CSelectedObject penSelection(dc, pen);
+    const handles::CSelectedObject brushSelection(dc, GetStockObject(NULL_BRUSH));
     const POINT middle = ToPixel(*m_snapped);
     const int arm = m_scale(kSnapArm);
     Rectangle(dc, middle.x - arm, middle.y - arm, middle.x + arm + 1, middle.y + arm + 1);
 }
 
 void CDrawingView::PaintCrosses(HDC dc) const {
-    const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
-    const CSelection selection(dc, pen);
-    for (const SPoint& cross : m_crosses) {
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), kCross));
+    const handles::CSelectedObject selection(dc, pen);
+    for (const Point& cross : m_crosses) {
         DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
     }
 }
 
-POINT CDrawingView::ToPixel(SPoint point) const {
-    // Nothing that far away is seen, and larger numbers do not fit the system's.
+POINT CDrawingView::ToPixel(Point point) const {
+    // Such points are invisible, and larger coordinates overflow in GDI.
     constexpr double kFar = 1e6;
-    const SPoint pixel = m_view.ToPixel(point);
+    const Point pixel = m_view.ToPixel(point);
     return Rounded({std::clamp(pixel.x, -kFar, kFar), std::clamp(pixel.y, -kFar, kFar)});
 }
+
+}  // namespace devhost

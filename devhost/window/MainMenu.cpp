@@ -5,6 +5,8 @@
 
 #include "devhost/window/Commands.h"
 
+namespace devhost {
+
 namespace {
 
 ACCEL kKeys[] = {
@@ -28,7 +30,7 @@ void AddPopup(HMENU menu, HMENU popup, const wchar_t* title) {
     AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), title);
 }
 
-// An ampersand would underline the letter behind it.
+// Doubles ampersands, which would underline the next letter.
 std::wstring Shown(const std::wstring& title) {
     std::wstring shown;
     for (const wchar_t letter : title) {
@@ -76,7 +78,7 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     m_itemCount = titles.size();
 }
 
-void CMainMenu::Update(const SMenuState& state) const {
+void CMainMenu::Update(const MenuState& state) const {
     const auto enable = [&](UINT command, bool enabled) {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
@@ -89,3 +91,5 @@ void CMainMenu::Update(const SMenuState& state) const {
     enable(IDM_ABOUT, state.isIdle);
     CheckMenuItem(m_menu, IDM_SNAP, MF_BYCOMMAND | (state.hasSnap ? MF_CHECKED : MF_UNCHECKED));
 }
+
+}  // namespace devhost

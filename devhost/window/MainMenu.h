@@ -1,4 +1,4 @@
-// The main window's menu and the keys that stand for its commands (Commands.h has their numbers).
+// The main window's menu and its accelerator keys. The command ids are in Commands.h.
 #pragma once
 
 #include <windows.h>
@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
-// What can be done at the moment.
-struct SMenuState {
-    bool isIdle = true;  // no call is running and nothing is being asked
+namespace devhost {
+
+// Determines which commands are enabled.
+struct MenuState {
+    bool isIdle = true;  // no call is running and no question is open
     bool canReload = false;
     bool hasDrawing = false;
     bool hasSnap = false;
@@ -17,20 +19,20 @@ struct SMenuState {
 
 class CMainMenu {
 public:
-    // Gives the window its menu, which goes away with the window.
+    // Sets the window's menu, which the window owns.
     explicit CMainMenu(HWND window);
 
-    // The entries of the menu Items; the first nine have keys, Ctrl+1 and so on.
+    // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9.
     void SetItems(const std::vector<std::wstring>& titles);
 
-    // To be called before the menu opens and before a key is taken for a command: makes grey what cannot be
-    // done, which TranslateAccelerator respects.
-    void Update(const SMenuState& state) const;
+    // To be called before the menu opens and before TranslateAccelerator, which ignores disabled commands:
+    // enables and disables the commands.
+    void Update(const MenuState& state) const;
 
     HACCEL Keys() const { return m_keys.get(); }
 
 private:
-    struct SKeysDeleter {
+    struct KeysDeleter {
         using pointer = HACCEL;
         void operator()(HACCEL keys) const { DestroyAcceleratorTable(keys); }
     };
@@ -38,5 +40,7 @@ private:
     HMENU m_menu;
     HMENU m_items;
     std::size_t m_itemCount = 0;
-    std::unique_ptr<HACCEL, SKeysDeleter> m_keys;
+    std::unique_ptr<HACCEL, KeysDeleter> m_keys;
 };
+
+}  // namespace devhost

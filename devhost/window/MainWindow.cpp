@@ -8,11 +8,14 @@
 #include <algorithm>
 #include <iterator>
 
-#include "devhost/error/UserError.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/Libraries.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 #include "devhost/window/ProgramVersion.h"
 #include "devhost/window/WindowProc.h"
+#include "units/LinearUnits.h"
+
+namespace devhost {
 
 namespace {
 
@@ -24,13 +27,13 @@ constexpr wchar_t kRunningHint[] = L"Running. Escape stops it.";
 // Pixels.
 constexpr int kWidth = 1100;
 constexpr int kHeight = 800;
-// Smaller than this the prompt and parts of the status line would be out of sight.
+// The smallest size that shows the prompt and the whole status line.
 constexpr int kLeastWidth = 520;
 constexpr int kLeastHeight = 320;
 constexpr int kOutputHeight = 140;
 
-// Where the window opens: in the middle of the screen, no larger than that.
-RECT FirstPlace(const CScale& scale) {
+// The initial rectangle: in the middle of the screen, and not larger than it.
+RECT InitialRectangle(const CScale& scale) {
     RECT screen;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
     const int width = std::min<int>(scale(kWidth), screen.right - screen.left);
@@ -55,10 +58,10 @@ void RegisterMainClass() {
 
 CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m_scale(kOutputHeight)) {
     RegisterMainClass();
-    const RECT place = FirstPlace(m_scale);
-    CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place.left, place.top,
-                    place.right - place.left, place.bottom - place.top, nullptr, nullptr,
-                    GetModuleHandleW(nullptr), this);
+    const RECT rectangle = InitialRectangle(m_scale);
+    CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rectangle.left,
+                    rectangle.top, rectangle.right - rectangle.left, rectangle.bottom - rectangle.top,
+                    nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (m_window == nullptr) {
         throw CUserError(L"the main window cannot be opened");
     }
@@ -140,27 +143,27 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             Focus();
             return 0;
         case WM_SETCURSOR:
-            if (reinterpret_cast<HWND>(wParam) != m_window || !IsOverStrip()) {
+            if (reinterpret_cast<HWND>(wParam) != m_window || !IsOverSplitter()) {
                 break;
             }
             SetCursor(LoadCursorW(nullptr, IDC_SIZENS));
             return TRUE;
         case WM_LBUTTONDOWN:
-            m_isStripMoving = IsOverStrip();
-            if (m_isStripMoving) {
+            m_isSplitterMoving = IsOverSplitter();
+            if (m_isSplitterMoving) {
                 SetCapture(m_window);
             }
             return 0;
         case WM_MOUSEMOVE:
-            if (m_isStripMoving) {
-                MoveStrip(GET_Y_LPARAM(lParam));
+            if (m_isSplitterMoving) {
+                MoveSplitter(GET_Y_LPARAM(lParam));
             }
             return 0;
         case WM_LBUTTONUP:
             ReleaseCapture();
             return 0;
         case WM_CAPTURECHANGED:
-            m_isStripMoving = false;
+            m_isSplitterMoving = false;
             return 0;
         case WM_NOTIFY:
             m_status->OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
@@ -188,9 +191,9 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void CMainWindow::OnClose() {
     if (m_isAsking) {
-        EndAsk(SCancelled());
+        EndAsk(Cancelled());
     } else if (m_busy != 0) {
-        // What runs has to end first.
+        // The running call has to end first.
         m_isEscapePressed = true;
         MessageBeep(MB_ICONWARNING);
     } else {
@@ -198,16 +201,16 @@ void CMainWindow::OnClose() {
     }
 }
 
-// The menu makes grey what cannot be done at the moment; a command that was sent all the same is refused
+// The menu disables commands that are not available; such a command that was sent nevertheless is rejected
 // here.
 void CMainWindow::OnCommand(int command) {
     if (command == IDM_FIT) {
         FitDrawing();
     } else if (command == IDM_SNAP) {
         m_drawing->SetSnap(!m_drawing->HasSnap());
-    } else if (command - IDM_UNITS >= LU_SCIENTIFIC && command - IDM_UNITS <= LU_FRACTIONAL) {
+    } else if (command - IDM_UNITS >= units::LU_SCIENTIFIC && command - IDM_UNITS <= units::LU_FRACTIONAL) {
         ChooseFormat(command - IDM_UNITS, m_status->Precision());
-    } else if (command >= IDM_PRECISION && command <= IDM_PRECISION + kMaxLinearPrecision) {
+    } else if (command >= IDM_PRECISION && command <= IDM_PRECISION + units::kMaxLinearPrecision) {
         ChooseFormat(m_status->Units(), command - IDM_PRECISION);
     } else if (!IsIdle()) {
         MessageBeep(MB_ICONWARNING);
@@ -248,7 +251,7 @@ void CMainWindow::ShowAbout() {
 }
 
 void CMainWindow::UpdateMenu() {
-    SMenuState state;
+    MenuState state;
     state.isIdle = IsIdle();
     state.canReload = m_onReload != nullptr;
     state.hasDrawing = !m_shown.Entities().empty();
@@ -272,3 +275,5 @@ void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint
 void CMainWindow::ShowOwnPrompt() {
     ShowPrompt(L"LISP", m_busy == 0 ? kIdleHint : kRunningHint, L"for example (tavrinwnd \"door\" 1.0 1)");
 }
+
+}  // namespace devhost

@@ -1,9 +1,9 @@
-// The main window: the drawing area, below it the list of outputs and the prompt that takes typed lines, a
-// status line with a hint, the mouse's place in the drawing and the unit format, and a menu.
+// The main window: the drawing area, the output, the prompt, a status line with a hint, the mouse's position
+// in the drawing and the unit format, and a menu.
 //
-// Knows nothing of LISP and of plug-ins: what is typed and chosen goes to handlers. Everything happens on
-// the thread that made the window. Handlers run within its message loop; one that takes long calls
-// PollEscape now and then.
+// Does not depend on LISP and plug-ins: input is passed to handlers. Everything happens on the thread that
+// created the window. Handlers run within its message loop; a handler that takes long must call PollEscape
+// regularly.
 #pragma once
 
 #include <windows.h>
@@ -17,28 +17,30 @@
 #include <vector>
 
 #include "devhost/window/DrawingView.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/MainMenu.h"
 #include "devhost/window/OutputList.h"
 #include "devhost/window/PromptHistory.h"
 #include "devhost/window/PromptPaste.h"
 #include "devhost/window/Scale.h"
 #include "devhost/window/StatusLine.h"
+#include "handles/GdiScopes.h"
 
-// What a question is about: a click into the drawing answers the first alone, a typed line both.
+namespace devhost {
+
+// The kind of a question: a click into the drawing answers only the first, a typed line both.
 enum EAsk { ASK_POINT, ASK_TEXT };
 
-// The user did not want to answer, or the application is ending.
-struct SCancelled {};
-// Enter, without a text.
-struct SPlainEnter {};
+// The user cancelled, or the application is closing.
+struct Cancelled {};
+// Enter without a text.
+struct PlainEnter {};
 // A click, a typed line as it was typed, or one of the above.
-using CAnswer = std::variant<SCancelled, SPlainEnter, SPoint, std::wstring>;
+using Answer = std::variant<Cancelled, PlainEnter, Point, std::wstring>;
 
 class CMainWindow {
 public:
-    // Shows the drawing, which must outlive the window and has the window as its listener. Throws CUserError
-    // when there can be no window.
+    // Listens to the drawing, which must outlive the window. Throws CUserError when the window cannot be
+    // created.
     explicit CMainWindow(CDrawing& drawing);
     ~CMainWindow();
     CMainWindow(const CMainWindow&) = delete;
@@ -46,49 +48,48 @@ public:
 
     HWND Handle() const { return m_window; }
     void Show();
-    // Runs until the window has been closed.
+    // Runs the message loop until the window is closed.
     void Run();
 
-    // Adds to the list of outputs: a line of its own, or a piece of text in which line feeds end lines.
+    // Adds to the output: a line of its own, or a piece of text in which line feeds end lines.
     void AddOutput(std::wstring_view line) { m_output->AddLine(line); }
     void AddText(std::wstring_view text) { m_output->AddText(text); }
 
-    // What Enter in the prompt does with its text when nothing is being asked. Never with an empty one.
+    // Called for Enter in the prompt with its text, which is not empty, unless a question is open.
     void SetCommandHandler(std::function<void(const std::wstring&)> onCommand);
-    // How a text of several lines that is pasted into the prompt becomes one; without it the first line
-    // counts.
-    void SetPasteHandler(CJoinLines join) { m_joinLines = std::move(join); }
-    // The entries of the menu Items, and what choosing one does with its index.
+    // Joins the lines of a text that is pasted into the prompt. Without it only the first line is pasted.
+    void SetPasteHandler(JoinLines join) { m_joinLines = std::move(join); }
+    // The entries of the menu Items, and the handler, which gets the index of the chosen one.
     void SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem);
-    // What Plug-in > Reload does; without a handler it is grey.
+    // The handler of Plug-in > Reload, which is disabled without one.
     void SetReloadHandler(std::function<void()> onReload);
 
-    // The unit format of the status line, by the values of LUNITS and LUPREC; at first 2 and 4.
+    // The unit format of the status line, as values of LUNITS and LUPREC; initially 2 and 4.
     void SetFormat(int lunits, int luprec);
-    // Called when the user has chosen another format in the status line, which shows it already.
+    // Called after the user has chosen another format in the status line.
     void SetFormatHandler(std::function<void(int lunits, int luprec)> onFormat);
 
     // Shows the whole drawing.
     void FitDrawing() { m_drawing->Fit(); }
-    // The mouse's place in the drawing, where the rubber band ends.
-    SPoint MousePoint() const { return m_drawing->MousePoint(); }
+    // The mouse's position in the drawing, where the rubber band ends.
+    Point MousePoint() const { return m_drawing->MousePoint(); }
 
-    // While busy the prompt takes nothing, the menu's commands that begin something are grey and the window
-    // does not close. Calls nest: as many must say that it is over.
+    // While busy, the prompt and the commands that start something are disabled, and the window does not
+    // close. Calls nest.
     void SetBusy(bool busy);
-    // To be called now and then by what runs while busy: handles the messages that are waiting, so that the
-    // window paints, zooms and scrolls. True when Escape was pressed, the window should close or the
-    // application is ending: what is running should stop.
+    // To be called regularly while busy: handles the waiting messages, so that the window paints, zooms and
+    // scrolls. True when Escape was pressed or the window or the application should close: the caller should
+    // stop.
     bool PollEscape();
 
     bool IsAsking() const { return m_isAsking; }
-    // Shows `prompt` beside the prompt's edit and in the status line and waits for the answer, with messages
-    // of all windows going on meanwhile. With `base` a line follows the mouse from there. Cancelled by
-    // Escape, by closing the window and by the application's end. Prompt and answer go to the list of
-    // outputs. Not while another question is waiting.
-    CAnswer Ask(std::wstring_view prompt, std::optional<SPoint> base, EAsk what);
-    // Asks for a point until there is one, clicked or typed (TypedPoint.h says how); nothing when cancelled.
-    std::optional<SPoint> PickPoint(std::wstring_view prompt, std::optional<SPoint> base);
+    // Shows `prompt` beside the edit control and in the status line and handles messages until the answer.
+    // With `base`, a rubber band leads from there to the mouse. Escape, closing the window and the end of the
+    // application cancel. Prompt and answer are added to the output. Must not be called while another
+    // question is open.
+    Answer Ask(std::wstring_view prompt, std::optional<Point> base, EAsk what);
+    // Asks for a point, clicked or typed (see TypedPoint.h), until there is one; nothing when cancelled.
+    std::optional<Point> PickPoint(std::wstring_view prompt, std::optional<Point> base);
 
 private:
     template <typename TWindow>
@@ -102,11 +103,11 @@ private:
     void ClearDrawing();
     void ShowAbout();
     void UpdateMenu();
-    // The focus goes where typing makes sense.
+    // Sets the focus to the prompt, or to the drawing while the prompt is disabled.
     void Focus();
-    // Beside the prompt, in the status line, and in the prompt as long as it is empty.
+    // Shows the label of the prompt, the hint in the status line, and the example in the empty prompt.
     void ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example);
-    // What stands there when nothing is being asked.
+    // The prompt without a question.
     void ShowOwnPrompt();
 
     // MainWindowLayout.cpp
@@ -114,9 +115,9 @@ private:
     void Layout();
     void PaintBackground(HDC dc) const;
     HBRUSH PaintControl(HDC dc, HWND control) const;
-    RECT Strip() const;
-    bool IsOverStrip() const;
-    void MoveStrip(int y);
+    RECT Splitter() const;
+    bool IsOverSplitter() const;
+    void MoveSplitter(int y);
 
     // MainWindowAsk.cpp
     void Handle(MSG message);
@@ -124,7 +125,7 @@ private:
     bool TakeKey(const MSG& message);
     void TakeEscape();
     void TakeEnter();
-    void EndAsk(CAnswer answer);
+    void EndAsk(Answer answer);
     std::wstring ShownAnswer() const;
     bool IsIdle() const { return m_busy == 0 && !m_isAsking; }
 
@@ -132,8 +133,8 @@ private:
     HWND m_label = nullptr;
     HWND m_prompt = nullptr;
     CScale m_scale;
-    CGdiObject m_textFont;
-    CGdiObject m_codeFont;
+    tavrin::handles::GdiOwner m_textFont;
+    tavrin::handles::GdiOwner m_codeFont;
     CDrawing& m_shown;
     std::unique_ptr<CMainMenu> m_menu;
     std::unique_ptr<CDrawingView> m_drawing;
@@ -141,18 +142,20 @@ private:
     std::unique_ptr<CStatusLine> m_status;
     CPromptHistory m_history;
     int m_outputHeight;  // pixels
-    bool m_isStripMoving = false;
+    bool m_isSplitterMoving = false;
 
     std::function<void(const std::wstring&)> m_onCommand;
-    CJoinLines m_joinLines;
+    JoinLines m_joinLines;
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
     std::function<void(int, int)> m_onFormat;
     std::size_t m_itemCount = 0;
 
-    int m_busy = 0;  // how many times
+    int m_busy = 0;  // nesting level
     bool m_isEscapePressed = false;
     bool m_isAsking = false;
     bool m_isAnswered = false;
-    CAnswer m_answer;
+    Answer m_answer;
 };
+
+}  // namespace devhost

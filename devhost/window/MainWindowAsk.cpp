@@ -1,5 +1,5 @@
-// The main window's message loops: the one that runs until it closes, the one of a question, since what asks
-// returns only with the answer, and the short one while something runs. All give keys the same meaning.
+// The main window's message loops: that of the program, that of a question, and that of PollEscape. All
+// handle keys in the same way.
 #include <windows.h>
 
 #include <windowsx.h>
@@ -8,6 +8,8 @@
 
 #include "devhost/drawing/TypedPoint.h"
 #include "devhost/window/MainWindow.h"
+
+namespace devhost {
 
 namespace {
 
@@ -36,16 +38,16 @@ void CMainWindow::Run() {
     }
 }
 
-CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, EAsk what) {
+Answer CMainWindow::Ask(std::wstring_view prompt, std::optional<Point> base, EAsk what) {
     m_isAsking = true;
     m_isAnswered = false;
-    m_answer = SCancelled();
+    m_answer = Cancelled();
     ShowPrompt(WithoutBlanksBehind(prompt), std::wstring(prompt),
                what == ASK_POINT ? L"click into the drawing, or type" : L"");
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, TRUE);
     if (what == ASK_POINT) {
-        m_drawing->BeginPick(base, [this](SPoint point) { EndAsk(point); });
+        m_drawing->BeginPick(base, [this](Point point) { EndAsk(point); });
     }
     if (IsIconic(m_window)) {
         ShowWindow(m_window, SW_RESTORE);
@@ -73,13 +75,13 @@ CAnswer CMainWindow::Ask(std::wstring_view prompt, std::optional<SPoint> base, E
     return m_answer;
 }
 
-std::optional<SPoint> CMainWindow::PickPoint(std::wstring_view prompt, std::optional<SPoint> base) {
+std::optional<Point> CMainWindow::PickPoint(std::wstring_view prompt, std::optional<Point> base) {
     for (;;) {
-        const CAnswer answer = Ask(prompt, base, ASK_POINT);
-        if (std::holds_alternative<SCancelled>(answer)) {
+        const Answer answer = Ask(prompt, base, ASK_POINT);
+        if (std::holds_alternative<Cancelled>(answer)) {
             return std::nullopt;
         }
-        if (const auto* point = std::get_if<SPoint>(&answer)) {
+        if (const auto* point = std::get_if<Point>(&answer)) {
             return *point;
         }
         if (const auto* text = std::get_if<std::wstring>(&answer)) {
@@ -91,8 +93,8 @@ std::optional<SPoint> CMainWindow::PickPoint(std::wstring_view prompt, std::opti
     }
 }
 
-// Ends the loop, also when the message that led here was sent to the window and did not come through it.
-void CMainWindow::EndAsk(CAnswer answer) {
+// Ends the loop. The posted message wakes it up in case the caller was a sent message.
+void CMainWindow::EndAsk(Answer answer) {
     if (m_isAnswered) {
         return;
     }
@@ -102,10 +104,10 @@ void CMainWindow::EndAsk(CAnswer answer) {
 }
 
 std::wstring CMainWindow::ShownAnswer() const {
-    if (std::holds_alternative<SCancelled>(m_answer)) {
+    if (std::holds_alternative<Cancelled>(m_answer)) {
         return L"(cancelled)";
     }
-    if (const auto* point = std::get_if<SPoint>(&m_answer)) {
+    if (const auto* point = std::get_if<Point>(&m_answer)) {
         return m_status->TextOf(*point);
     }
     const auto* text = std::get_if<std::wstring>(&m_answer);
@@ -132,7 +134,7 @@ void CMainWindow::Handle(MSG message) {
     DispatchMessageW(&message);
 }
 
-// True when the message is for the window as a whole, and done. Others it may turn to the prompt.
+// True when the message was handled. May redirect a message to the prompt or the drawing.
 bool CMainWindow::TakeMessage(MSG& message) {
     if (message.hwnd != m_window && !IsChild(m_window, message.hwnd)) {
         return false;
@@ -185,7 +187,7 @@ bool CMainWindow::TakeKey(const MSG& message) {
 
 void CMainWindow::TakeEscape() {
     if (m_isAsking) {
-        EndAsk(SCancelled());
+        EndAsk(Cancelled());
     } else if (m_busy != 0) {
         m_isEscapePressed = true;
     } else {
@@ -203,8 +205,10 @@ void CMainWindow::TakeEnter() {
         m_history.Add(text);
     }
     if (m_isAsking) {
-        EndAsk(text.empty() ? CAnswer(SPlainEnter()) : CAnswer(text));
+        EndAsk(text.empty() ? Answer(PlainEnter()) : Answer(text));
     } else if (m_onCommand && !text.empty()) {
         m_onCommand(text);
     }
 }
+
+}  // namespace devhost

@@ -1,20 +1,23 @@
-// The main window's parts and their places: the drawing on top, a strip that is dragged to share the height,
-// the list of outputs, and one row with a label and the prompt. The lower part is white throughout, so that
-// it reads as one sheet of paper.
+// The layout of the main window: the drawing, a splitter, the output, and one row with a label and the
+// prompt. The lower part has one background colour.
 #include <windows.h>
 
 #include <commctrl.h>
 
 #include <algorithm>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
 #include "devhost/window/MainWindow.h"
+
+namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
 // Pixels.
-constexpr int kStripHeight = 6;
+constexpr int kSplitterHeight = 6;
 constexpr int kPromptHeight = 30;
 constexpr int kMargin = 10;
 constexpr int kLabelGap = 8;
@@ -41,24 +44,24 @@ HGDIOBJ CreateTextFont() {
     return CreateFontIndirectW(&metrics.lfStatusFont);
 }
 
-void SetFont(HWND control, const CGdiObject& font) {
+void SetFont(HWND control, const handles::GdiOwner& font) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
 }
 
-SIZE TextSize(HWND control, const CGdiObject& font) {
+SIZE TextSize(HWND control, const handles::GdiOwner& font) {
     wchar_t text[256];
     const int length = GetWindowTextW(control, text, 256);
-    const CWindowDc dc(control);
-    const CSelection selection(dc.Get(), font);
+    const handles::CClientDc dc(control);
+    const handles::CSelectedObject selection(dc.Get(), font);
     SIZE size = {};
     GetTextExtentPoint32W(dc.Get(), text, length, &size);
     return size;
 }
 
 // The height of a line in the font.
-int LineHeight(HWND control, const CGdiObject& font) {
-    const CWindowDc dc(control);
-    const CSelection selection(dc.Get(), font);
+int LineHeight(HWND control, const handles::GdiOwner& font) {
+    const handles::CClientDc dc(control);
+    const handles::CSelectedObject selection(dc.Get(), font);
     TEXTMETRICW metrics = {};
     GetTextMetricsW(dc.Get(), &metrics);
     return metrics.tmHeight;
@@ -80,7 +83,7 @@ void CMainWindow::CreateControls() {
     m_prompt = CreateControl(m_window, IDC_PROMPT, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP);
     JoinPastedLines(m_prompt, m_joinLines);
     m_status = std::make_unique<CStatusLine>(m_window);
-    m_drawing->SetMoveHandler([this](SPoint point) { m_status->ShowPoint(point); });
+    m_drawing->SetMoveHandler([this](Point point) { m_status->ShowPoint(point); });
     SetFont(m_output->Handle(), m_codeFont);
     SetFont(m_prompt, m_codeFont);
     SetFont(m_label, m_codeFont);
@@ -100,7 +103,7 @@ void CMainWindow::Layout() {
     m_status->Layout();
     const int width = client.right;
     const int bottom = client.bottom - m_status->Height();
-    const RECT strip = Strip();
+    const RECT splitter = Splitter();
     const int margin = m_scale(kMargin);
 
     const int promptTop = bottom - m_scale(kPromptHeight);
@@ -109,36 +112,36 @@ void CMainWindow::Layout() {
     const int labelWidth = std::min<int>(TextSize(m_label, m_codeFont).cx + m_scale(2), width / 2);
     const int promptLeft = margin + labelWidth + m_scale(kLabelGap);
 
-    MoveWindow(m_drawing->Handle(), 0, 0, width, strip.top, TRUE);
-    MoveWindow(m_output->Handle(), margin, strip.bottom + m_scale(4), std::max(width - margin, 0),
-               std::max<int>(promptTop - strip.bottom - m_scale(4), 0), TRUE);
+    MoveWindow(m_drawing->Handle(), 0, 0, width, splitter.top, TRUE);
+    MoveWindow(m_output->Handle(), margin, splitter.bottom + m_scale(4), std::max(width - margin, 0),
+               std::max<int>(promptTop - splitter.bottom - m_scale(4), 0), TRUE);
     MoveWindow(m_label, margin, textTop, labelWidth, line, TRUE);
     MoveWindow(m_prompt, promptLeft, textTop, std::max(width - promptLeft - margin, 0), line, TRUE);
     InvalidateRect(m_window, nullptr, TRUE);
 }
 
-// Where the height is shared: between the drawing and the list of outputs.
-RECT CMainWindow::Strip() const {
+// The splitter between the drawing and the output.
+RECT CMainWindow::Splitter() const {
     RECT client;
     GetClientRect(m_window, &client);
-    const int room = client.bottom - m_status->Height() - m_scale(kPromptHeight) - m_scale(kStripHeight);
+    const int room = client.bottom - m_status->Height() - m_scale(kPromptHeight) - m_scale(kSplitterHeight);
     const int output = std::min(m_outputHeight, std::max(room - m_scale(kLeastDrawing), 0));
     const int top = std::max(room - output, 0);
-    return {0, top, client.right, top + m_scale(kStripHeight)};
+    return {0, top, client.right, top + m_scale(kSplitterHeight)};
 }
 
-bool CMainWindow::IsOverStrip() const {
+bool CMainWindow::IsOverSplitter() const {
     POINT mouse;
     GetCursorPos(&mouse);
     ScreenToClient(m_window, &mouse);
-    const RECT strip = Strip();
-    return PtInRect(&strip, mouse);
+    const RECT splitter = Splitter();
+    return PtInRect(&splitter, mouse);
 }
 
-void CMainWindow::MoveStrip(int y) {
-    const RECT strip = Strip();
-    m_outputHeight =
-        std::max<int>(m_outputHeight + strip.top - (y - m_scale(kStripHeight) / 2), m_scale(kLeastOutput));
+void CMainWindow::MoveSplitter(int y) {
+    const RECT splitter = Splitter();
+    m_outputHeight = std::max<int>(m_outputHeight + splitter.top - (y - m_scale(kSplitterHeight) / 2),
+                                   m_scale(kLeastOutput));
     Layout();
 }
 
@@ -146,9 +149,9 @@ void CMainWindow::PaintBackground(HDC dc) const {
     RECT client;
     GetClientRect(m_window, &client);
     FillRect(dc, &client, GetSysColorBrush(COLOR_WINDOW));
-    const RECT strip = Strip();
-    FillRect(dc, &strip, GetSysColorBrush(COLOR_BTNFACE));
-    const RECT edge = {0, strip.bottom - 1, client.right, strip.bottom};
+    const RECT splitter = Splitter();
+    FillRect(dc, &splitter, GetSysColorBrush(COLOR_BTNFACE));
+    const RECT edge = {0, splitter.bottom - 1, client.right, splitter.bottom};
     FillRect(dc, &edge, GetSysColorBrush(COLOR_BTNSHADOW));
 }
 
@@ -157,3 +160,5 @@ HBRUSH CMainWindow::PaintControl(HDC dc, HWND control) const {
     SetBkColor(dc, GetSysColor(COLOR_WINDOW));
     return GetSysColorBrush(COLOR_WINDOW);
 }
+
+}  // namespace devhost

@@ -3,13 +3,15 @@
 #include <cstdlib>
 #include <string>
 
-#include "devhost/error/UserError.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
+
+namespace devhost {
 
 namespace {
 
-// Characters that the list grows to before it forgets.
-constexpr int kMostText = 60'000;
+// In characters.
+constexpr int kMaxText = 60'000;
 
 }  // namespace
 
@@ -44,8 +46,8 @@ void COutputList::AddText(std::wstring_view text) {
         }
     }
 
-    if (GetWindowTextLengthW(m_window) > kMostText) {
-        SendMessageW(m_window, EM_SETSEL, 0, kMostText / 2);
+    if (GetWindowTextLengthW(m_window) > kMaxText) {
+        SendMessageW(m_window, EM_SETSEL, 0, kMaxText / 2);
         SendMessageW(m_window, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
     }
     const int end = GetWindowTextLengthW(m_window);
@@ -70,3 +72,5 @@ void COutputList::ScrollPages(int pages) {
 void COutputList::ShowCaret() {
     SendMessageW(m_window, EM_SCROLLCARET, 0, 0);
 }
+
+}  // namespace devhost

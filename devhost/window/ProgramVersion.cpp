@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace devhost {
+
 namespace {
 
 std::wstring Value(const std::vector<BYTE>& version, const std::wstring& name) {
@@ -28,3 +30,5 @@ std::wstring ProgramVersion() {
     }
     return Value(version, L"FileDescription") + L"\nVersion " + Value(version, L"ProductVersion");
 }
+
+}  // namespace devhost

@@ -1,7 +1,11 @@
-// What this program says about itself in the properties of its file.
+// The version resource of this program.
 #pragma once
 
 #include <string>
 
-// Its description and version, in two lines; empty when the file says nothing.
+namespace devhost {
+
+// Description and version, in two lines; empty without a version resource.
 std::wstring ProgramVersion();
+
+}  // namespace devhost

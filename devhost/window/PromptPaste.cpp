@@ -2,9 +2,11 @@
 
 #include <commctrl.h>
 
+namespace devhost {
+
 namespace {
 
-// What the clipboard holds as text; nothing when it holds none or is in use.
+// The text in the clipboard; empty when there is none or the clipboard is in use.
 std::wstring ClipboardText(HWND window) {
     std::wstring text;
     if (!OpenClipboard(window)) {
@@ -12,7 +14,7 @@ std::wstring ClipboardText(HWND window) {
     }
     if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
         if (const auto* start = static_cast<const wchar_t*>(GlobalLock(data))) {
-            // The text ends at its zero, the memory may go on.
+            // The memory may be larger than the null-terminated text.
             const std::wstring_view whole(start, GlobalSize(data) / sizeof(wchar_t));
             text = whole.substr(0, whole.find(L'\0'));
             GlobalUnlock(data);
@@ -24,7 +26,7 @@ std::wstring ClipboardText(HWND window) {
 
 LRESULT CALLBACK PasteProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                            DWORD_PTR data) noexcept {
-    const auto& join = *reinterpret_cast<const CJoinLines*>(data);
+    const auto& join = *reinterpret_cast<const JoinLines*>(data);
     if (message == WM_PASTE && join) {
         const std::wstring text = ClipboardText(edit);
         if (text.find(L'\n') != std::wstring::npos) {
@@ -37,6 +39,8 @@ LRESULT CALLBACK PasteProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam
 
 }  // namespace
 
-void JoinPastedLines(HWND edit, const CJoinLines& join) {
+void JoinPastedLines(HWND edit, const JoinLines& join) {
     SetWindowSubclass(edit, PasteProc, 0, reinterpret_cast<DWORD_PTR>(&join));
 }
+
+}  // namespace devhost

@@ -7,9 +7,13 @@
 #include <string>
 #include <string_view>
 
-// Makes one line of several.
-using CJoinLines = std::function<std::wstring(std::wstring_view)>;
+namespace devhost {
 
-// From here on the edit control takes a text of several lines as `join` makes them one; by itself it would
-// keep the first line alone. `join`, which may be empty for a while, must live as long as the control.
-void JoinPastedLines(HWND edit, const CJoinLines& join);
+// Joins several lines.
+using JoinLines = std::function<std::wstring(std::wstring_view)>;
+
+// Makes the edit control join the lines of a pasted text with `join`; by itself it would paste only the first
+// line. `join`, which may be empty, must outlive the control.
+void JoinPastedLines(HWND edit, const JoinLines& join);
+
+}  // namespace devhost

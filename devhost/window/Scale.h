@@ -1,15 +1,17 @@
-// Sizes for the screen's resolution.
+// Scaling for the screen's resolution.
 #pragma once
 
 #include <windows.h>
 
-#include "devhost/window/GdiScope.h"
+#include "handles/GdiScopes.h"
 
-// Turns pixels of a screen with 96 dots per inch into those of this one.
+namespace devhost {
+
+// Converts pixels at 96 dpi to pixels of this screen.
 class CScale {
 public:
     CScale() {
-        const CWindowDc screen(nullptr);
+        const tavrin::handles::CClientDc screen(nullptr);
         m_dots = GetDeviceCaps(screen.Get(), LOGPIXELSY);
     }
 
@@ -18,3 +20,5 @@ public:
 private:
     int m_dots = 96;
 };
+
+}  // namespace devhost

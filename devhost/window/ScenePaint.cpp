@@ -6,8 +6,12 @@
 
 #include "devhost/drawing/Grid.h"
 #include "devhost/drawing/Outline.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/Scale.h"
+#include "handles/GdiScopes.h"
+
+namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
@@ -21,15 +25,15 @@ constexpr COLORREF kInk = RGB(28, 36, 48);
 constexpr int kDotDistance = 20;  // pixels, at least
 constexpr int kLargeDotEvery = 5;
 
-// Pixels that a chord of a curve may lie beside it. That is far less than what can be seen, so that chords
-// are short: their ends come to lie on whole pixels, and long ones would show as corners.
+// The distance of chords from their curve, in pixels. The chords must be short, since their ends are rounded
+// to whole pixels, which would show as corners between long chords.
 constexpr double kCurveTolerance = 0.01;
 
-// Of a text: below the first it is only a stroke, beyond the second the system's fonts end.
+// In pixels. A smaller text is drawn as a line, larger fonts do not exist.
 constexpr double kLeastTextSize = 3;
 constexpr double kMostTextSize = 8000;
 
-POINT Rounded(SPoint pixel) {
+POINT Rounded(Point pixel) {
     return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
 }
 
@@ -39,17 +43,17 @@ public:
         : m_dc(dc),
           m_view(view),
           m_client(client),
-          // A little more than what is seen, so that cut ends do not show.
+          // Larger than the client area, so that clipped ends are invisible.
           m_limits({{-20.0, -20.0}, {client.right + 20.0, client.bottom + 20.0}}) {}
 
     void Sheet() {
-        const CGdiObject brush(CreateSolidBrush(kSheet));
+        const handles::GdiOwner brush(CreateSolidBrush(kSheet));
         FillRect(m_dc, &m_client, static_cast<HBRUSH>(brush.get()));
     }
 
     void Dots() {
         const double spacing = GridSpacing(m_view.UnitsPerPixel(), m_scale(kDotDistance));
-        const SBox shown = m_view.Shown();
+        const Box shown = m_view.Shown();
         const std::vector<double> rows = GridSteps(shown.low.y, shown.high.y, spacing);
         for (const double column : GridSteps(shown.low.x, shown.high.x, spacing)) {
             for (const double row : rows) {
@@ -60,7 +64,7 @@ public:
 
     void Axes() {
         // One that is out of sight may be farther away than the system's coordinates reach.
-        const SPoint origin = m_view.ToPixel({0, 0});
+        const Point origin = m_view.ToPixel({0, 0});
         if (origin.y >= m_limits.low.y && origin.y <= m_limits.high.y) {
             Stroke(kAxisX, Rounded({0, origin.y}), Rounded({m_limits.high.x, origin.y}));
         }
@@ -71,10 +75,10 @@ public:
 
     void Entities(const CDrawing& drawing) {
         // Rounded down, so that details stay apart.
-        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
-        const CSelection selection(m_dc, pen);
-        for (const CEntity& entity : drawing.Entities()) {
-            if (const auto* text = std::get_if<SText>(&entity)) {
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
+        const handles::CSelectedObject selection(m_dc, pen);
+        for (const Entity& entity : drawing.Entities()) {
+            if (const auto* text = std::get_if<TextEntity>(&entity)) {
                 Text(*text);
             } else {
                 Outline(OutlineOf(entity, m_view.UnitsPerPixel() * kCurveTolerance));
@@ -85,20 +89,20 @@ public:
 private:
     void Dot(double column, double row, double spacing) {
         const bool large = std::fmod(column, kLargeDotEvery) == 0 && std::fmod(row, kLargeDotEvery) == 0;
-        const POINT place = Rounded(m_view.ToPixel({column * spacing, row * spacing}));
-        SetPixelV(m_dc, place.x, place.y, large ? kLargeDot : kDot);
+        const POINT dot = Rounded(m_view.ToPixel({column * spacing, row * spacing}));
+        SetPixelV(m_dc, dot.x, dot.y, large ? kLargeDot : kDot);
     }
 
     void Stroke(COLORREF colour, POINT from, POINT to) {
-        const CGdiObject pen(CreatePen(PS_SOLID, m_scale(1), colour));
-        const CSelection selection(m_dc, pen);
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), colour));
+        const handles::CSelectedObject selection(m_dc, pen);
         MoveToEx(m_dc, from.x, from.y, nullptr);
         LineTo(m_dc, to.x, to.y);
     }
 
-    // Line by line within the limits, since the system's coordinates end long before a zoomed drawing does;
-    // pieces that hang together are drawn as one, which joins them well.
-    void Outline(const std::vector<SPoint>& points) {
+    // Clips each line, since the coordinates of a zoomed drawing overflow in GDI. Connected lines are drawn
+    // as one polyline, for correct joins.
+    void Outline(const std::vector<Point>& points) {
         std::vector<POINT> run;
         for (std::size_t i = 1; i < points.size(); ++i) {
             const auto piece = Clip({m_view.ToPixel(points[i - 1]), m_view.ToPixel(points[i])}, m_limits);
@@ -124,35 +128,35 @@ private:
         SetPixelV(m_dc, run.back().x, run.back().y, kInk);
     }
 
-    void Text(const SText& text) {
-        const double size = text.height / kCapitalPart / m_view.UnitsPerPixel();
-        const SPoint pixel = m_view.ToPixel(text.place);
+    void Text(const TextEntity& text) {
+        const double size = text.height / kCapitalFraction / m_view.UnitsPerPixel();
+        const Point pixel = m_view.ToPixel(text.position);
         if (!(size <= kMostTextSize) || std::abs(pixel.x) > 2 * kMostTextSize ||
             std::abs(pixel.y) > 2 * kMostTextSize) {
             return;
         }
         if (size < kLeastTextSize) {
             const double length = double(text.text.size()) * text.height / 2;
-            Outline({text.place, PointOnCircle(text.place, length, text.angle)});
+            Outline({text.position, PointOnCircle(text.position, length, text.angle)});
             return;
         }
         const int tenths =
             int(std::lround(std::fmod(text.angle, 2 * std::numbers::pi) * 1800 / std::numbers::pi));
-        const CGdiObject font(CreateFontW(-int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE,
-                                          FALSE, DEFAULT_CHARSET, OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS,
-                                          ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
-        const CSelection selection(m_dc, font);
+        const handles::GdiOwner font(CreateFontW(
+            -int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+            OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
+        const handles::CSelectedObject selection(m_dc, font);
         SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
         SetBkMode(m_dc, TRANSPARENT);
         SetTextColor(m_dc, kInk);
-        const POINT place = Rounded(pixel);
-        TextOutW(m_dc, place.x, place.y, text.text.c_str(), int(text.text.size()));
+        const POINT start = Rounded(pixel);
+        TextOutW(m_dc, start.x, start.y, text.text.c_str(), int(text.text.size()));
     }
 
     HDC m_dc;
     const CViewTransform& m_view;
     RECT m_client;
-    SBox m_limits;
+    Box m_limits;
     CScale m_scale;
 };
 
@@ -165,3 +169,5 @@ void PaintScene(HDC dc, const RECT& client, const CDrawing& drawing, const CView
     painter.Axes();
     painter.Entities(drawing);
 }
+
+}  // namespace devhost

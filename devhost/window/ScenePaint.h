@@ -1,4 +1,4 @@
-// The picture of a drawing: the sheet with its dots and axes, and the entities on it.
+// Paints a drawing: background, grid dots, axes and entities.
 #pragma once
 
 #include <windows.h>
@@ -6,5 +6,9 @@
 #include "devhost/drawing/Drawing.h"
 #include "devhost/drawing/ViewTransform.h"
 
-// Covers `client` (pixels, from its upper left at 0, 0) with what the transform shows of the drawing.
+namespace devhost {
+
+// Fills `client` (pixels, with 0, 0 at its upper left) with the visible part of the drawing.
 void PaintScene(HDC dc, const RECT& client, const CDrawing& drawing, const CViewTransform& view);
+
+}  // namespace devhost

@@ -5,10 +5,15 @@
 #include <algorithm>
 #include <iterator>
 
-#include "devhost/error/UserError.h"
-#include "devhost/units/LinearUnits.h"
+#include "devhost/Libraries.h"
+#include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
-#include "devhost/window/GdiScope.h"
+#include "handles/GdiScopes.h"
+#include "units/LinearUnits.h"
+
+namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
@@ -22,17 +27,18 @@ constexpr int kTextGap = 4;
 constexpr int kArrowWidth = 8;
 constexpr int kGripWidth = 18;  // what the grip in the corner takes, and as much before the other part
 
-struct SUnits {
+struct UnitsName {
     int lunits;
     const wchar_t* name;
 };
-constexpr SUnits kUnits[] = {
-    {LU_SCIENTIFIC, L"Scientific"},       {LU_DECIMAL, L"Decimal"},       {LU_ENGINEERING, L"Engineering"},
-    {LU_ARCHITECTURAL, L"Architectural"}, {LU_FRACTIONAL, L"Fractional"},
+constexpr UnitsName kUnits[] = {
+    {units::LU_SCIENTIFIC, L"Scientific"},   {units::LU_DECIMAL, L"Decimal"},
+    {units::LU_ENGINEERING, L"Engineering"}, {units::LU_ARCHITECTURAL, L"Architectural"},
+    {units::LU_FRACTIONAL, L"Fractional"},
 };
 
 std::wstring NameOf(int units) {
-    for (const SUnits& known : kUnits) {
+    for (const UnitsName& known : kUnits) {
         if (known.lunits == units) {
             return known.name;
         }
@@ -42,7 +48,7 @@ std::wstring NameOf(int units) {
 
 // The smallest step that a precision shows: 0.01, or 1/4.
 std::wstring StepOf(int units, int precision) {
-    if (units == LU_ARCHITECTURAL || units == LU_FRACTIONAL) {
+    if (units == units::LU_ARCHITECTURAL || units == units::LU_FRACTIONAL) {
         return precision == 0 ? L"1" : L"1/" + std::to_wstring(1 << precision);
     }
     return precision == 0 ? L"1" : L"0." + std::wstring(std::size_t(precision) - 1, L'0') + L'1';
@@ -84,19 +90,19 @@ void CStatusLine::ShowText(const std::wstring& text) {
     SendMessageW(m_window, SB_SETTEXTW, PART_TEXT, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void CStatusLine::ShowPoint(SPoint point) {
+void CStatusLine::ShowPoint(Point point) {
     m_point = point;
     SendMessageW(m_window, SB_SETTEXTW, PART_POINT, reinterpret_cast<LPARAM>(TextOf(point).c_str()));
 }
 
-std::wstring CStatusLine::TextOf(SPoint point) const {
-    return FormatLinear(point.x, m_units, m_precision).value_or(L"") + L", " +
-           FormatLinear(point.y, m_units, m_precision).value_or(L"");
+std::wstring CStatusLine::TextOf(Point point) const {
+    return units::FormatLinear(point.x, m_units, m_precision).value_or(L"") + L", " +
+           units::FormatLinear(point.y, m_units, m_precision).value_or(L"");
 }
 
 void CStatusLine::SetFormat(int lunits, int luprec) {
     m_units = lunits;
-    m_precision = std::clamp(luprec, 0, kMaxLinearPrecision);
+    m_precision = std::clamp(luprec, 0, units::kMaxLinearPrecision);
     ShowPoint(m_point);
     ShowFormat();
 }
@@ -107,22 +113,22 @@ void CStatusLine::ShowFormat() {
     }
 }
 
-// A text and, at the right, the small arrow of things that open a list.
+// A text and, at the right, a small arrow as in a combo box.
 void CStatusLine::DrawPart(const DRAWITEMSTRUCT& item) const {
     const std::wstring text = item.itemID == PART_UNITS ? NameOf(m_units) : StepOf(m_units, m_precision);
     const int arrow = m_scale(kArrowWidth);
-    RECT place = item.rcItem;
-    place.right -= m_scale(kGripWidth);
-    const int right = place.right;
-    const int middle = (place.top + place.bottom) / 2 - arrow / 4;
-    place.left += m_scale(kTextGap);
-    place.right -= arrow + m_scale(kTextGap);
+    RECT rectangle = item.rcItem;
+    rectangle.right -= m_scale(kGripWidth);
+    const int right = rectangle.right;
+    const int middle = (rectangle.top + rectangle.bottom) / 2 - arrow / 4;
+    rectangle.left += m_scale(kTextGap);
+    rectangle.right -= arrow + m_scale(kTextGap);
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
-    DrawTextW(item.hDC, text.c_str(), int(text.size()), &place,
+    DrawTextW(item.hDC, text.c_str(), int(text.size()), &rectangle,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-    const CSelection brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
-    const CSelection pen(item.hDC, GetStockObject(NULL_PEN));
+    const handles::CSelectedObject brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
+    const handles::CSelectedObject pen(item.hDC, GetStockObject(NULL_PEN));
     const POINT corners[] = {
         {right - arrow, middle}, {right, middle}, {right - arrow / 2, middle + arrow / 2}};
     Polygon(item.hDC, corners, int(std::size(corners)));
@@ -142,23 +148,25 @@ void CStatusLine::OpenMenu(int part) const {
     const HMENU menu = CreatePopupMenu();
     UINT chosen = 0;
     if (part == PART_UNITS) {
-        for (const SUnits& units : kUnits) {
-            const std::wstring example = FormatLinear(15.5, units.lunits, m_precision).value_or(L"");
+        for (const UnitsName& units : kUnits) {
+            const std::wstring example = units::FormatLinear(15.5, units.lunits, m_precision).value_or(L"");
             AppendMenuW(menu, MF_STRING, UINT(IDM_UNITS + units.lunits),
                         (units.name + (L'\t' + example)).c_str());
         }
         chosen = UINT(IDM_UNITS + m_units);
     } else {
-        for (int precision = 0; precision <= kMaxLinearPrecision; ++precision) {
+        for (int precision = 0; precision <= units::kMaxLinearPrecision; ++precision) {
             AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), StepOf(m_units, precision).c_str());
         }
         chosen = UINT(IDM_PRECISION + m_precision);
     }
-    CheckMenuRadioItem(menu, IDM_UNITS, IDM_PRECISION + kMaxLinearPrecision, chosen, MF_BYCOMMAND);
-    RECT place;
-    SendMessageW(m_window, SB_GETRECT, WPARAM(part), reinterpret_cast<LPARAM>(&place));
-    MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&place), 2);
-    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN, place.left, place.top, 0, GetParent(m_window),
-                   nullptr);
+    CheckMenuRadioItem(menu, IDM_UNITS, IDM_PRECISION + units::kMaxLinearPrecision, chosen, MF_BYCOMMAND);
+    RECT rectangle;
+    SendMessageW(m_window, SB_GETRECT, WPARAM(part), reinterpret_cast<LPARAM>(&rectangle));
+    MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&rectangle), 2);
+    TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN, rectangle.left, rectangle.top, 0,
+                   GetParent(m_window), nullptr);
     DestroyMenu(menu);
 }
+
+}  // namespace devhost

@@ -1,5 +1,5 @@
-// The status line: a text (what is being asked, or a hint), the mouse's place in the drawing, and the unit
-// format with its precision. A click on either of the latter opens a menu.
+// The status line: a text (a question or a hint), the mouse's position in the drawing, and the unit format
+// with its precision. A click on either of the latter opens a menu.
 #pragma once
 
 #include <windows.h>
@@ -9,29 +9,31 @@
 #include "devhost/drawing/Point.h"
 #include "devhost/window/Scale.h"
 
+namespace devhost {
+
 class CStatusLine {
 public:
-    // Throws CUserError when there can be no window. Begins with decimal units and four digits.
+    // Throws CUserError when the window cannot be created. Initially decimal units with four digits.
     explicit CStatusLine(HWND parent);
 
     HWND Handle() const { return m_window; }
     int Height() const;
-    // Takes the place at the bottom of the parent.
+    // Moves to the bottom of the parent.
     void Layout();
 
     void ShowText(const std::wstring& text);
-    void ShowPoint(SPoint point);
+    void ShowPoint(Point point);
     // A point as the line shows it.
-    std::wstring TextOf(SPoint point) const;
+    std::wstring TextOf(Point point) const;
 
     void SetFormat(int lunits, int luprec);
     int Units() const { return m_units; }
     int Precision() const { return m_precision; }
 
-    // What the line tells its parent by WM_NOTIFY: a click on the units or the precision opens the menu,
-    // whose command (IDM_UNITS plus the units, IDM_PRECISION plus the precision) goes to the parent.
+    // For WM_NOTIFY of the parent: a click on the units or the precision opens the menu. Its command
+    // (IDM_UNITS plus the units, IDM_PRECISION plus the precision) goes to the parent.
     void OnNotify(const NMHDR& header) const;
-    // What the line asks its parent to draw, by WM_DRAWITEM.
+    // For WM_DRAWITEM of the parent.
     void DrawPart(const DRAWITEMSTRUCT& item) const;
 
 private:
@@ -42,5 +44,7 @@ private:
     CScale m_scale;
     int m_units = 2;
     int m_precision = 4;
-    SPoint m_point;
+    Point m_point;
 };
+
+}  // namespace devhost

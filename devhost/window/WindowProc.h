@@ -1,11 +1,13 @@
-// Joins a window of ours to the object behind it.
+// Connects a window to its object.
 #pragma once
 
 #include <windows.h>
 
-// A window procedure for a class with a member OnMessage(UINT, WPARAM, LPARAM) -> LRESULT and a member
-// m_window. The object's address is the creation parameter. No exception gets past the procedure: the
-// system's code in between could not pass it on.
+namespace devhost {
+
+// A window procedure for a class with members OnMessage(UINT, WPARAM, LPARAM) -> LRESULT and m_window. The
+// object's address is the creation parameter. Exceptions end here, since they must not pass through the
+// system's code.
 template <typename TWindow>
 LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_NCCREATE) {
@@ -28,3 +30,5 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         return DefWindowProcW(window, message, wParam, lParam);
     }
 }
+
+}  // namespace devhost

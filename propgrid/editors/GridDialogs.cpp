@@ -30,13 +30,13 @@ void AddControl(dyndlg::CDynDialogEx& dialog, LPCTSTR className, const std::wstr
     dialog.AddDlgControl(className, caption.c_str(), style, exStyle, &units, data, id);
 }
 
-// As the calendar of the place has it; what cannot be one in local time has no parts.
-CTime LocalTime(const COleDateTime& date) {
+// The time of day, on a day that a CTime can hold and on which no clock is changed: that of the date need not
+// be one. What is no date has no parts.
+CTime TimeOfDay(const COleDateTime& date) {
     if (date.GetStatus() != COleDateTime::valid) {
         return CTime(-1);
     }
-    return CTime(date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(), date.GetMinute(),
-                 date.GetSecond(), -1);
+    return CTime(2000, 1, 1, date.GetHour(), date.GetMinute(), date.GetSecond());
 }
 
 // Each of these shows the value, and is true when the user confirmed; the value is then what was chosen, else
@@ -63,7 +63,7 @@ bool AskForDateTime(const GridDialogLook& look, const std::wstring& title, COleD
     dyndlg::CDynDialogEx dialog(look.parent);
     SetLook(dialog, look, title);
     COleDateTime day = date;
-    CTime time = LocalTime(date);
+    CTime time = TimeOfDay(date);
     AddControl(dialog, L"STATIC", look.texts.date, kLabelStyle, CRect(7, 3, 60, 12));
     AddControl(dialog, L"STATIC", look.texts.time, kLabelStyle, CRect(67, 3, 120, 12));
     AddControl(dialog, DATETIMEPICK_CLASS, L"", kDateStyle, CRect(7, 13, 60, 26), &day);

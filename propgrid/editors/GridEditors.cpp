@@ -55,7 +55,7 @@ void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text) {
     }
     const GridColors& colors = m_model.settings.colors;
     edit->SetColors(colors.back, colors.text);
-    edit->SetFont(const_cast<CFont*>(&m_fonts.normal));
+    edit->SetFont(&m_fonts.normal);
     edit->ShowWindow(SW_SHOW);
     m_editor.reset(edit.release());
 }
@@ -68,7 +68,7 @@ void CGridEditors::OpenList(const GridItem& item, const Rect& cell) {
     }
     const GridColors& colors = m_model.settings.colors;
     list->SetColors(colors.back, colors.text, colors.focus, colors.focusText);
-    list->SetFont(const_cast<CFont*>(&m_fonts.normal));
+    list->SetFont(&m_fonts.normal);
     AddChoices(*list, item, m_model.settings.texts);
     m_editor.reset(list.release());
     m_editor->ShowWindow(SW_SHOW);
@@ -79,7 +79,8 @@ void CGridEditors::OpenCalendar(const DateValue& date, const Rect& cell) {
     auto calendar = std::make_unique<CPropertyGridMonthCalCtrl>();
     CRect area = AreaUnder(cell);
     m_grid.ClientToScreen(&area);
-    if (!calendar->CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, area, m_grid.GetParent(), 0)) {
+    if (!calendar->CWnd::CreateEx(0, MONTHCAL_CLASS, nullptr, WS_POPUP | WS_BORDER, area, m_grid.GetParent(),
+                                  0)) {
         return;
     }
     // A date that is none leaves today selected.

@@ -26,7 +26,7 @@ using EditorPointer = std::unique_ptr<CWnd, EditorDeleter>;
 class CGridEditors {
 public:
     // All of them outlive this object. The editors report to `grid`.
-    CGridEditors(CWnd& grid, const CGridModel& model, const GridFonts& fonts)
+    CGridEditors(CWnd& grid, const CGridModel& model, GridFonts& fonts)
         : m_grid(grid), m_model(model), m_fonts(fonts) {}
     CGridEditors(const CGridEditors&) = delete;
     CGridEditors& operator=(const CGridEditors&) = delete;
@@ -51,7 +51,7 @@ public:
 private:
     CWnd& m_grid;
     const CGridModel& m_model;
-    const GridFonts& m_fonts;
+    GridFonts& m_fonts;
     EditorPointer m_editor;
 };
 

@@ -198,7 +198,7 @@ UINT CPropertyGridCombo::OnGetDlgCode() {
 
 void CPropertyGridCombo::ReportChoice() {
     const auto index = static_cast<WPARAM>(static_cast<INT_PTR>(m_selection));
-    if (const CWnd* const grid = GetOwner()) {
+    if (CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_CHOICE_MADE, index);
     }
 }

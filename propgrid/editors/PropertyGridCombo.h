@@ -27,6 +27,8 @@
 #include <string>
 #include <vector>
 
+#include "memory/MemoryFence.h"
+
 namespace tavrin::propgrid {
 
 class CPropertyGridCombo : public CWnd {
@@ -57,6 +59,9 @@ public:
     int GetCurSel() const { return m_selection; }
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CWnd::WindowProc(message, wParam, lParam); });
+    }
     afx_msg void OnPaint();
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

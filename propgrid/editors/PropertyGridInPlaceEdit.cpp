@@ -147,7 +147,7 @@ void CPropertyGridInPlaceEdit::End() {
     const HWND window = m_hWnd;
     CString text;
     GetWindowText(text);
-    if (const CWnd* const grid = GetOwner()) {
+    if (CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_EDIT_DONE, reinterpret_cast<WPARAM>(text.GetString()));
     }
     if (::IsWindow(window)) {

@@ -25,6 +25,8 @@
 
 #include <string>
 
+#include "memory/MemoryFence.h"
+
 namespace tavrin::propgrid {
 
 class CPropertyGridInPlaceEdit : public CEdit {
@@ -52,6 +54,9 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory([&] { return CEdit::WindowProc(message, wParam, lParam); });
+    }
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);

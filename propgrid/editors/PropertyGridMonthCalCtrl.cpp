@@ -75,7 +75,7 @@ void CPropertyGridMonthCalCtrl::OnSelect(NMHDR* /*notification*/, LRESULT* resul
 }
 
 void CPropertyGridMonthCalCtrl::ReportDate() {
-    if (const CWnd* const grid = GetOwner()) {
+    if (CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_DATE_CHOSEN);
     }
 }

@@ -23,6 +23,8 @@
 
 #include <afxdtctl.h>
 
+#include "memory/MemoryFence.h"
+
 namespace tavrin::propgrid {
 
 class CPropertyGridMonthCalCtrl : public CMonthCalCtrl {
@@ -32,6 +34,10 @@ public:
     CPropertyGridMonthCalCtrl() = default;
 
 private:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return tavrin::memory::FenceMemory(
+            [&] { return CMonthCalCtrl::WindowProc(message, wParam, lParam); });
+    }
     // The edit that the calendar opens when its year is clicked: a child that has the focus in its place.
     class CYearEdit : public CWnd {
     public:

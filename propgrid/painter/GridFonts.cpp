@@ -9,7 +9,7 @@ void GridFonts::Create(const CWnd* parent) {
         return;
     }
     LOGFONT description = {};
-    const CFont* const parentFont = parent != nullptr ? parent->GetFont() : nullptr;
+    CFont* const parentFont = parent != nullptr ? parent->GetFont() : nullptr;
     if (parentFont != nullptr && parentFont->GetLogFont(&description) != 0) {
         normal.CreateFontIndirect(&description);
     }

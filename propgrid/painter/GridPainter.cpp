@@ -73,7 +73,7 @@ struct CGridPainter::PaintTools {
 bool CGridPainter::PaintWindow(CDC& target, bool buttonPressed) {
     const Size& client = m_layout.GetView().client;
     std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
-    if (canvas == nullptr || canvas->Size() != CSize(client.width, client.height)) {
+    if (canvas == nullptr || canvas->Size().cx != client.width || canvas->Size().cy != client.height) {
         canvas = std::make_unique<CMemoryCanvas>(target, CSize(client.width, client.height));
     }
     canvas->TakeLayout(target);

@@ -8,6 +8,7 @@
 
 #include "tests/e2e/Desktop.h"
 #include "tests/e2e/HostRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -34,10 +35,10 @@ protected:
         ASSERT_TRUE(fs::exists(unpacked / "DevHost.exe"));
     }
 
-    // The archive for 64 bit, packed into a folder of that name.
+    // The archive, packed into a folder of that name.
     static fs::path Pack(const std::string& name) {
         const fs::path folder = packed->Folder() / name;
-        OutputOf(SCRIPTS_DIR "/pack-dist x64 '" + folder.string() + "'");
+        OutputOf(SCRIPTS_DIR "/pack-dist " + ArchitectureName() + " '" + folder.string() + "'");
         for (const fs::directory_entry& file : fs::directory_iterator(folder)) {
             return file.path();
         }
@@ -74,7 +75,7 @@ TEST_F(Archive, IsTheSamePackedTwice) {
 }
 
 TEST_F(Archive, IsNamedAfterTheVersionThatTheModuleShows) {
-    const std::string name = archive.stem().string();  // TavrinWnd-VERSION-x64
+    const std::string name = archive.stem().string();  // TavrinWnd-VERSION-ARCHITECTURE
     const std::size_t start = name.find('-') + 1;
     std::u16string wide;
     for (const char letter :

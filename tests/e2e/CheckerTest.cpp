@@ -8,6 +8,7 @@
 
 #include "tests/e2e/Desktop.h"
 #include "tests/e2e/HostRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -15,8 +16,9 @@ namespace fs = std::filesystem;
 
 // What the program prints, run in a folder, with its exit status behind it.
 std::string Checked(const fs::path& folder, const std::string& arguments) {
-    return OutputOf("cd '" + folder.string() + "' && '" SCRIPTS_DIR "/wine' '" BIN_DIR "/tavrincheck.exe' " +
-                    arguments + " 2>/dev/null; echo $?");
+    return OutputOf("cd '" + folder.string() + "' && '" SCRIPTS_DIR "/wine' '" +
+                    (ProgramFolder() / "tavrincheck.exe").string() + "' " + arguments +
+                    " 2>/dev/null; echo $?");
 }
 
 TEST(Checker, FindsOnWindowsWhatItFindsNatively) {
@@ -26,7 +28,8 @@ TEST(Checker, FindsOnWindowsWhatItFindsNatively) {
 }
 
 TEST(Checker, FindsNothingInTheSamplesOnWindows) {
-    EXPECT_EQ(Checked(SAMPLES_DIR, ". --texts texts/TavrinRes.it.rc --texts '" BIN_DIR "/en/TavrinRes.dll'"),
+    EXPECT_EQ(Checked(SAMPLES_DIR, ". --texts texts/TavrinRes.it.rc --texts '" +
+                                       (ProgramFolder() / "en/TavrinRes.dll").string() + "'"),
               "0\n");
 }
 
@@ -37,7 +40,7 @@ TEST(Checker, TakesNamesOfFilesInAnyScript) {
     files.Write("porta-à-дверь.png", "");
     EXPECT_EQ(
         Checked(files.Folder(), "porta-à-дверь.TXT"),
-        "porta-à-дверь.TXT:4:16: error: the type letter 'd' must be a capital: the parameter gets a warning "
+        "porta-à-дверь.TXT:4:16: error: the type letter 'd' must be upper case: the parameter gets a warning "
         "instead of a row [type-small-letter]\n"
         "    $1 = \"<<1501>>\"d 900\n"
         "                   ^\n"

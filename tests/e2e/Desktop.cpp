@@ -10,7 +10,7 @@
 
 namespace {
 
-// A failure that tells what was on the screen; the picture stays in the build folder.
+// A failure with a screenshot, which stays in the build folder.
 void FailWithScreen(const std::string& message) {
     static int count = 0;
     const std::string picture = std::string(WORK_DIR) + "/failure-" + std::to_string(++count) + ".png";

@@ -1,4 +1,4 @@
-// A person's hands and eyes on the X display: windows found by their title, clicks and keys by xdotool,
+// UI automation on the X display: windows found by their title, clicks and keys by xdotool,
 // pixels as they stand on the screen.
 #pragma once
 
@@ -65,7 +65,7 @@ public:
     void Drag(int fromX, int fromY, int toX, int toY) const;
     // Moves the mouse with the middle button held.
     void DragMiddle(int fromX, int fromY, int toX, int toY) const;
-    // Turns the wheel at a place: upwards, or downwards when below zero.
+    // Turns the wheel at a position: upwards, or downwards when below zero.
     void Wheel(int x, int y, int notches) const;
     // Presses a key (a name that xdotool knows) in the window.
     void Press(const std::string& key) const;

@@ -1,4 +1,4 @@
-// The stand-in host's own window under a person's hands: LISP typed at its prompt, the drawing moved and
+// UI automation of the stand-in host's window: LISP typed at its prompt, the drawing moved and
 // picked in, the units changed in the status line.
 #include <gtest/gtest.h>
 
@@ -88,7 +88,7 @@ protected:
 };
 
 TEST_F(DevHostWindow, WhatLispDrawsCanBeZoomedPannedAndPicked) {
-    // One unit is one pixel at first, so one pick tells where the origin is.
+    // Initially one unit is one pixel, so one pick gives the origin.
     const Point first = Pick(300, 200);
     ASSERT_EQ(first.x, 300);
     const int bottom = 200 + int(first.y);

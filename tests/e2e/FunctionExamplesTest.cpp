@@ -1,9 +1,10 @@
 // The worked examples of the three LISP functions: each routine of docs/examples/functions runs in a folder
-// with its pictures and the template of the first example, on the texts of the examples, under a person's
-// hands.
+// with its pictures and the template of the first example, on the texts of the examples, with UI
+// automation.
 #include <filesystem>
 
 #include "tests/e2e/ItemDialogWindow.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -15,9 +16,9 @@ protected:
         const fs::path program = host.Folder() / "program";
         fs::create_directory(program);
         for (const char* file : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"}) {
-            fs::copy_file(fs::path(BIN_DIR) / file, program / file);
+            fs::copy_file(ProgramFolder() / file, program / file);
         }
-        fs::copy_file(EXAMPLE_TEXTS, program / "TavrinRes.dll");
+        fs::copy_file(ArchitectureFolder() / "tests/windows/docs/TavrinRes.dll", program / "TavrinRes.dll");
         host.UseProgram(program / "DevHost.exe");
         fs::copy(examples / "functions", host.Folder());
         fs::copy_file(examples / "template/first/before.TXT", host.Folder() / "shelf.TXT");

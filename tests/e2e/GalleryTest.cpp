@@ -271,7 +271,7 @@ TEST_F(Gallery, TheCloseBoxWhileAnEditIsOpenTakesTheTextOnce) {
     ClickValue("Name");
     TypeOver("Ash door");
     // The window manager asks for the close beside the keyboard's queue and would overtake keys that wait
-    // there: the places are told once all that was typed before has been handled.
+    // there: the gallery prints the positions once all earlier input has been handled.
     ASSERT_NO_FATAL_FAILURE(ReadPlaces());
     PressKeys("alt+F4");
     EXPECT_EQ(run.Wait(), 0) << run.Errors();

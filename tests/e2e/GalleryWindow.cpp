@@ -5,13 +5,15 @@
 #include <iterator>
 #include <sstream>
 
+#include "tests/e2e/Programs.h"
+
 namespace fs = std::filesystem;
 
 GalleryWindow::GalleryWindow() {
     const fs::path folder = run.Folder() / "program";
     fs::create_directory(folder);
-    fs::copy_file(fs::path(BIN_DIR) / "GridGallery.exe", folder / "GridGallery.exe");
-    fs::copy_file(fs::path(BIN_DIR) / "checked" / "TD_Alloc.dll", folder / "TD_Alloc.dll");
+    fs::copy_file(ProgramFolder() / "GridGallery.exe", folder / "GridGallery.exe");
+    fs::copy_file(ProgramFolder() / "checked" / "TD_Alloc.dll", folder / "TD_Alloc.dll");
     run.UseProgram(folder / "GridGallery.exe");
 }
 
@@ -36,7 +38,7 @@ void GalleryWindow::ReadPlaces() {
     ASSERT_TRUE(WaitUntil([&] {
         PressKeys("F1");
         return WaitUntil([&] { return ends() > before; }, 8);
-    })) << "the gallery did not tell its places";
+    })) << "the gallery did not print its positions";
     places.clear();
     placeOrder.clear();
     const std::vector<std::string> all = Lines();

@@ -1,4 +1,4 @@
-// The gallery of the property grid under a person's hands, on the checking allocator: values are found by
+// UI automation of the property grid's gallery, on the checking allocator: values are found by
 // their names, changes by the lines that the gallery prints.
 #pragma once
 

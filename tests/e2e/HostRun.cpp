@@ -12,6 +12,7 @@
 #include <iterator>
 
 #include "tests/e2e/Desktop.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ bool RedirectTo(const char* file, int descriptor) noexcept {
 
 }  // namespace
 
-HostRun::HostRun() : m_program(BIN_DIR "/DevHost.exe") {
+HostRun::HostRun() : m_program(ProgramFolder() / "DevHost.exe") {
     std::string name = (std::filesystem::path(WORK_DIR) / "host-XXXXXX").string();
     std::filesystem::create_directories(WORK_DIR);
     m_folder = mkdtemp(name.data());
@@ -70,7 +71,8 @@ void HostRun::Start(const std::vector<std::string>& arguments) {
 void HostRun::StartProgram(const std::vector<std::string>& arguments) {
     const char* const wine = std::getenv("WINE");
     if (wine == nullptr) {
-        std::cerr << "e2e_tests: there is no stage for Windows programs: run it through scripts/with-wine\n";
+        std::cerr << "e2e_tests: there is no test environment for Windows programs: run it through "
+                     "scripts/with-wine\n";
         std::exit(1);
     }
     std::vector<std::string> words = {wine, m_program};

@@ -22,7 +22,7 @@ public:
     void Write(const std::string& name, const std::string& bytes) const;
     std::string Read(const std::string& name) const;
 
-    // Another copy of the program than build/x64/bin/DevHost.exe.
+    // Another copy of the program than the built DevHost.exe.
     void UseProgram(const std::filesystem::path& program) { m_program = program; }
 
     // Starts the host with `arguments` (and --search for the folder) in the folder.

@@ -1,4 +1,4 @@
-// The item dialog on the sample door under a person's hands. Points are given in the dialog's own units, or
+// UI automation of the item dialog with the sample door. Points are given in the dialog's own units, or
 // as rows of its grid.
 #pragma once
 

@@ -1,4 +1,4 @@
-// Values of the sample door changed by a person: typed, picked in the drawing, or left alone.
+// Values of the sample door changed by the user: typed, picked in the drawing, or unchanged.
 #include <algorithm>
 
 #include "tests/e2e/ItemDialogWindow.h"

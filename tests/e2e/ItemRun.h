@@ -1,5 +1,5 @@
-// An item of the sample folder, run by its routine from the choice of a variant to the drawing, under a
-// person's hands.
+// An item of the sample folder, run by its routine from the choice of a variant to the drawing, with UI
+// automation.
 #pragma once
 
 #include <string>

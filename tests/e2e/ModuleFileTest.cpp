@@ -14,6 +14,7 @@
 
 #include "tests/e2e/Desktop.h"
 #include "tests/e2e/HostRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -122,11 +123,11 @@ TEST_P(ModuleFile, HoldsNeitherTimeNorPlaceOfItsBuild) {
 INSTANTIATE_TEST_SUITE_P(
     Built, ModuleFile,
     testing::Values(Architecture{"x64",
-                                 BIN_DIR,
+                                 BUILD_DIR "/x64/bin",
                                  "x86_64-w64-mingw32-objdump",
                                  {"??2@YAPEAX_K@Z", "??_U@YAPEAX_K@Z", "??3@YAXPEAX@Z", "??_V@YAXPEAX@Z"}},
                     Architecture{"x86",
-                                 BIN_DIR_X86,
+                                 BUILD_DIR "/x86/bin",
                                  "i686-w64-mingw32-objdump",
                                  {"??2@YAPAXI@Z", "??_U@YAPAXI@Z", "??3@YAXPAX@Z", "??_V@YAXPAX@Z"}}),
     [](const auto& info) { return std::string(info.param.name); });
@@ -137,9 +138,9 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     const fs::path folder = host.Folder() / "program";
     fs::create_directory(folder);
     for (const char* file : {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll"}) {
-        fs::copy_file(fs::path(BIN_DIR) / file, folder / file);
+        fs::copy_file(ProgramFolder() / file, folder / file);
     }
-    fs::copy_file(fs::path(BIN_DIR) / "DevHost.exe", folder / "Other Name.exe");
+    fs::copy_file(ProgramFolder() / "DevHost.exe", folder / "Other Name.exe");
     host.UseProgram(folder / "Other Name.exe");
     host.Start({"--eval", R"((tavrinwnd "door"))"});
     const Window dialog = Window::WithTitle("Porta a battente");
@@ -151,7 +152,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
 
 TEST(AnyHost, IsToldWhichFunctionItLacks) {
     HostRun host;
-    host.UseProgram(fs::path(TESTS_DIR) / "PoorHost.exe");
+    host.UseProgram(ArchitectureFolder() / "tests" / "IncompleteHost.exe");
     host.Start({});
     const Window box = Window::WithTitle("Error!");
     ASSERT_TRUE(box.IsValid()) << host.Errors();
@@ -170,7 +171,8 @@ TEST(AnyHost, IsToldThatALibraryIsMissing) {
     host.Start({"--eval", R"((tavrinwnd "door"))"});
     EXPECT_EQ(host.Wait(), 1);
     setenv("WINEDLLOVERRIDES", overrides.c_str(), 1);
-    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it needs is missing"), std::string::npos)
+    EXPECT_NE(host.Errors().find("cannot be loaded: a library that it depends on is missing"),
+              std::string::npos)
         << host.Errors();
 }
 

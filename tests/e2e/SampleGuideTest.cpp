@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tests/e2e/ItemRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -43,7 +44,7 @@ protected:
     // The programs with `samples` beside them, and the shelf of the guide among the samples.
     void SetUp() override {
         for (const char* name : {"DevHost.exe", "TavrinWnd.dll", "TD_Alloc.dll"}) {
-            fs::copy(fs::path(BIN_DIR) / name, host.Folder() / name);
+            fs::copy(ProgramFolder() / name, host.Folder() / name);
         }
         host.UseProgram(host.Folder() / "DevHost.exe");
         UseSamples();

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "tests/e2e/ItemRun.h"
+#include "tests/e2e/Programs.h"
 
 namespace {
 
@@ -60,7 +61,7 @@ TEST_F(SampleItems, TheBuildPutsEveryItemBesideTheHost) {
             continue;
         }
         ++files;
-        EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(BIN_DIR) / "samples" /
+        EXPECT_TRUE(std::filesystem::exists(ProgramFolder() / "samples" /
                                             std::filesystem::relative(path, SAMPLES_DIR)))
             << path;
     }

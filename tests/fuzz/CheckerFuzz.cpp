@@ -6,9 +6,11 @@
 #include <tuple>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/findings/Report.h"
 #include "tools/rules/Checker.h"
 #include "tools/rules/RuleTable.h"
+#include "tools/tavrincheck/Report.h"
+
+using namespace tavrin::tools;
 
 namespace {
 
@@ -21,9 +23,9 @@ std::vector<std::size_t> LineLengths(std::string_view bytes) {
     return lengths;
 }
 
-void RequirePlaces(const std::vector<SFinding>& findings, std::string_view bytes) {
+void RequirePlaces(const std::vector<Finding>& findings, std::string_view bytes) {
     const std::vector<std::size_t> lengths = LineLengths(bytes);
-    for (const SFinding& finding : findings) {
+    for (const Finding& finding : findings) {
         Require(finding.rule != nullptr && FindRule(finding.rule->id) == finding.rule,
                 "each finding is of a rule that is listed");
         Require(!finding.message.empty() && finding.message.find('\n') == std::string::npos,
@@ -39,7 +41,7 @@ void RequirePlaces(const std::vector<SFinding>& findings, std::string_view bytes
         Require(finding.excerpt.start + finding.excerpt.length <= finding.excerpt.text.size() + 1,
                 "what is underlined is shown");
     }
-    const auto before = [](const SFinding& one, const SFinding& other) {
+    const auto before = [](const Finding& one, const Finding& other) {
         return std::tie(one.line, one.column) < std::tie(other.line, other.column);
     };
     Require(std::is_sorted(findings.begin(), findings.end(), before), "findings come in the order of places");
@@ -64,18 +66,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return table;
     }();
     TextNumbers used;
-    SCheckContext context;
+    CheckContext context;
     context.file = "a.TXT";
     context.isWorkingFile = data[0] % 2 != 0;
     context.texts = data[0] / 2 % 2 != 0 ? &texts : nullptr;
     context.usedTexts = data[0] / 4 % 2 != 0 ? &used : nullptr;
-    const std::vector<SFinding> findings = CheckText(first, context);
+    const std::vector<Finding> findings = CheckText(first, context);
     RequirePlaces(findings, first);
     Require(TextReport(findings).empty() == findings.empty() && !JsonReport(findings).empty(),
             "findings can be printed");
     Require(CheckText(first, context).size() == findings.size(), "a second time finds the same");
     ComparePair({"a.TXT", first}, {"a_TMP.TXT", second});
-    for (const SFinding& finding : ComparePair({"a.TXT", first}, {"a_TMP.TXT", first})) {
+    for (const Finding& finding : ComparePair({"a.TXT", first}, {"a_TMP.TXT", first})) {
         // OK writes the last of the lines with one number that has a type, into the last of them all.
         Require(finding.rule->id == "pair-label-differs", "a copy has the same lines");
     }

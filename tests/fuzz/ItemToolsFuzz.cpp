@@ -3,17 +3,19 @@
 #include <string>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/extract/LabelExtraction.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewReport.h"
+#include "tools/tavrincheck/LabelExtraction.h"
+#include "tools/tavrincheck/PreviewReport.h"
+#include "tools/texts/ScriptEdit.h"
+
+using namespace tavrin::tools;
 
 using namespace tavrin::itemdlg;
 
 namespace {
 
-CItemPreview PreviewOf(const std::vector<SFileLine>& lines, const CTextTable& texts, int mode) {
-    SPreviewSettings settings;
+CItemPreview PreviewOf(const std::vector<FileLine>& lines, const CTextTable& texts, int mode) {
+    PreviewSettings settings;
     settings.mode = mode;
     settings.texts = [&texts](unsigned number) { return texts.Load(number); };
     settings.distanceText = [](double value) { return std::to_wstring(value); };
@@ -30,14 +32,14 @@ std::wstring Shown(const CItemPreview& preview) {
     return shown;
 }
 
-void CheckExtraction(const std::vector<SFileLine>& lines, const CTextTable& before, int mode) {
-    const SExtraction extraction = ExtractLabels(lines, 1, KnownTexts(before));
+void CheckExtraction(const std::vector<FileLine>& lines, const CTextTable& before, int mode) {
+    const Extraction extraction = ExtractLabels(lines, 1, KnownTexts(before));
     const std::string script = NewScript("a.TXT", extraction.newTexts);
     CTextTable after = before;
     after.ReadBytes("new.rc", script);
     Require(Shown(PreviewOf(extraction.lines, after, mode)) == Shown(PreviewOf(lines, before, mode)),
             "the dialog shows the same once literals are texts");
-    const SExtraction again = ExtractLabels(extraction.lines, 1, KnownTexts(after));
+    const Extraction again = ExtractLabels(extraction.lines, 1, KnownTexts(after));
     Require(again.newTexts.empty() && TextsOf(again.lines) == TextsOf(extraction.lines) &&
                 again.notes == extraction.notes,
             "a second time moves nothing");
@@ -50,11 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const int mode = data[0] % 2;
-    const std::vector<SFileLine> lines = SplitLines(Bytes(data + 1, size - 1));
+    const std::vector<FileLine> lines = SplitLines(Bytes(data + 1, size - 1));
     CTextTable texts;
     texts.ReadBytes("a.rc", "STRINGTABLE { 1 \"Width\" 2 \"a%\" 1363 \"P\" 1501 \"<<2>>\" }");
     CItemPreview preview = PreviewOf(lines, texts, mode);
-    SPreviewInput input;
+    PreviewInput input;
     input.workingFile = {"a_TMP.TXT", lines};
     input.templateFile = input.workingFile;
     Require(!PreviewReport(input, preview).empty(), "a preview says something");

@@ -3,9 +3,11 @@
 #include <optional>
 #include <vector>
 
-#include "devhost/lisp/Printer.h"
-#include "devhost/lisp/Reader.h"
+#include "lisp/Printer.h"
+#include "lisp/Reader.h"
 #include "tests/fuzz/Fuzz.h"
+
+using namespace tavrin::lisp;
 
 namespace {
 

@@ -4,14 +4,16 @@
 #include <string>
 
 #include "tests/fuzz/Fuzz.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
+#include "tools/texts/ScriptEdit.h"
 #include "tools/texts/StringScript.h"
 #include "tools/texts/TextTable.h"
 
+using namespace tavrin::tools;
+
 namespace {
 
-const std::vector<SExtractedText> kTexts = {{60001, L"new \"text\" \\"}, {60002, L"\u00E0\u0080\t"}};
+const std::vector<NewText> kTexts = {{60001, L"new \"text\" \\"}, {60002, L"\u00E0\u0080\t"}};
 
 // A script takes every new text, and all that it had stays.
 void CheckAdding(const std::string& script) {
@@ -28,15 +30,15 @@ void CheckAdding(const std::string& script) {
     }
     after.ReadBytes("a.rc", Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, kTexts)));
     Require(after.Texts().size() == before.Texts().size() + kTexts.size(), "just the new texts are added");
-    for (const SExtractedText& text : kTexts) {
+    for (const NewText& text : kTexts) {
         Require(after.Load(text.number) == text.text, "a new text reads as it was given");
     }
     // The new texts may come first and so may their language.
     const auto& languages = after.Languages();
-    for (const SText& text : before.Texts()) {
+    for (const TextEntry& text : before.Texts()) {
         const auto language =
             std::find(languages.begin(), languages.end(), before.Languages()[text.language]);
-        const SText* const found =
+        const TextEntry* const found =
             after.Find(text.number, static_cast<std::size_t>(language - languages.begin()));
         Require(found != nullptr && found->text == text.text, "the texts that were there stay");
     }
@@ -52,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const CToolError&) {
         Require(table.Texts().empty() && table.Files().empty(), "a file that is refused adds nothing");
     }
-    for (const SText& text : table.Texts()) {
+    for (const TextEntry& text : table.Texts()) {
         Require(text.number <= 0xFFFF && text.language < table.Languages().size(), "texts have a place");
         Require(table.Load(text.number).size() <= CTextTable::kLongestText, "a loaded text is cut");
     }

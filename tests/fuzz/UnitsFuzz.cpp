@@ -3,8 +3,10 @@
 #include <cmath>
 #include <cstring>
 
-#include "devhost/units/LinearUnits.h"
 #include "tests/fuzz/Fuzz.h"
+#include "units/LinearUnits.h"
+
+using namespace tavrin::units;
 
 namespace {
 

@@ -4,9 +4,11 @@
 #include <system_error>
 #include <utility>
 
+namespace tavrin::tools {
+
 namespace {
 
-// A name beside the file's that no file has.
+// An unused name in the file's folder.
 std::filesystem::path UnusedName(const std::filesystem::path& path) {
     std::error_code ignored;
     for (unsigned number = 0;; ++number) {
@@ -18,8 +20,7 @@ std::filesystem::path UnusedName(const std::filesystem::path& path) {
     }
 }
 
-// A file that is made under a name of its own, takes the place of another once it is whole, and is gone
-// otherwise.
+// A temporary file that replaces another file once it is complete, and is deleted otherwise.
 class CNewFile {
 public:
     explicit CNewFile(std::filesystem::path path) : m_path(std::move(path)) {}
@@ -37,10 +38,10 @@ public:
         return file.good();
     }
 
-    // The permissions are those of the file that was there.
-    bool TakeThePlaceOf(const std::filesystem::path& target, bool isThere) const {
+    // Keeps the permissions of the replaced file.
+    bool Replace(const std::filesystem::path& target, bool exists) const {
         std::error_code error;
-        if (isThere) {
+        if (exists) {
             std::filesystem::permissions(m_path, std::filesystem::status(target, error).permissions(), error);
         }
         std::filesystem::rename(m_path, target, error);
@@ -84,13 +85,15 @@ std::string ReadBytes(const std::string& name) {
 
 void WriteBytes(const std::string& name, const std::string& bytes) {
     std::error_code ignored;
-    // Where the name is a link, what it leads to is written.
+    // Writes through links.
     const std::filesystem::path target = std::filesystem::weakly_canonical(PathOf(name), ignored);
-    const bool isThere = std::filesystem::exists(target, ignored);
+    const bool exists = std::filesystem::exists(target, ignored);
     const CNewFile file(UnusedName(target));
-    const bool mayBeReplaced = !isThere || (std::filesystem::is_regular_file(target, ignored) &&
-                                            std::ofstream(target, std::ios::app).is_open());
-    if (!mayBeReplaced || !file.Write(bytes) || !file.TakeThePlaceOf(target, isThere)) {
-        throw CToolError(name + ": the file cannot be written" + (isThere ? ", it stays as it was" : ""));
+    const bool mayBeReplaced = !exists || (std::filesystem::is_regular_file(target, ignored) &&
+                                           std::ofstream(target, std::ios::app).is_open());
+    if (!mayBeReplaced || !file.Write(bytes) || !file.Replace(target, exists)) {
+        throw CToolError(name + ": the file cannot be written" + (exists ? ", it is unchanged" : ""));
     }
 }
+
+}  // namespace tavrin::tools

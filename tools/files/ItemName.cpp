@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tavrin::tools {
+
 namespace {
 
 wchar_t Capital(wchar_t character) {
@@ -24,3 +26,5 @@ std::optional<std::string> WithoutEnding(std::string_view name, std::wstring_vie
     }
     return std::string(name.substr(0, length));
 }
+
+}  // namespace tavrin::tools

@@ -5,6 +5,10 @@
 #include <string>
 #include <string_view>
 
-// A file's name without an ending such as "_TMP.TXT"; nothing when it ends otherwise. The ending is ASCII,
-// and letters in either case are the same, as they are for the system that the module runs on.
+namespace tavrin::tools {
+
+// A file name without an ending such as "_TMP.TXT"; nothing when it does not have this ending. The ending is
+// ASCII; the comparison ignores case, like Windows.
 std::optional<std::string> WithoutEnding(std::string_view name, std::wstring_view ending);
+
+}  // namespace tavrin::tools

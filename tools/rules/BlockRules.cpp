@@ -7,53 +7,53 @@
 #include "tools/rules/Characters.h"
 #include "tools/rules/LineRules.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-constexpr SRule kBlockMissing = {
+constexpr Rule kBlockMissing = {
     "block-missing", SV_WARNING, "the file has no parameter block",
-    "Parameters stand between a line VAR and a line END_VAR. Without them the dialog opens without any row.",
+    "Parameters must be between a line VAR and a line END_VAR. Without a block the dialog has no rows.",
     "Hinged door\n<<2001>>\n$1 = \"<<1501>>\"D 900"};
 
-constexpr SRule kBlockLineMisspelt = {
-    "block-line-misspelt", SV_ERROR, "VAR or END_VAR is not written exactly so",
-    "The lines that open and close a block are compared whole: capitals, no blank or tab before or behind, "
-    "no\n"
-    "other sign. A line that deviates is an ordinary one, so that a block is not opened, or not closed.",
+constexpr Rule kBlockLineMisspelt = {
+    "block-line-misspelt", SV_ERROR, "VAR or END_VAR is misspelt",
+    "The lines that open and close a block must match exactly: capitals, without blanks, tabs or other\n"
+    "characters before or after. Any other line is ordinary text and does not open or close a block.",
     "var\n$1 = \"<<1501>>\"D 900\nEND VAR"};
 
-constexpr SRule kBlockUnclosed = {"block-unclosed", SV_WARNING, "a block is not closed",
-                                  "The block goes on to the end of the file. Its parameters are read, but so "
-                                  "is everything behind it: close\n"
-                                  "it with a line END_VAR.",
-                                  "VAR\n$1 = \"<<1501>>\"D 900"};
+constexpr Rule kBlockUnclosed = {"block-unclosed", SV_WARNING, "a block is not closed",
+                                 "The block extends to the end of the file. Its parameters are read, but so "
+                                 "is everything after it: close\n"
+                                 "it with a line END_VAR.",
+                                 "VAR\n$1 = \"<<1501>>\"D 900"};
 
-constexpr SRule kBlockNested = {
+constexpr Rule kBlockNested = {
     "block-nested", SV_WARNING, "VAR inside an open block",
-    "Blocks do not nest. Inside a block the line means nothing, and the first END_VAR closes the block.",
+    "Blocks do not nest. Inside a block the line is ignored, and the first END_VAR closes the block.",
     "VAR\n$1 = \"<<1501>>\"D 900\nVAR\n$2 = \"<<1502>>\"D 2100\nEND_VAR\nEND_VAR"};
 
-constexpr SRule kBlockEmpty = {"block-empty", SV_WARNING, "a block without parameters",
-                               "Nothing between VAR and END_VAR is a parameter.", "VAR\nEND_VAR"};
+constexpr Rule kBlockEmpty = {"block-empty", SV_WARNING, "a block without parameters",
+                              "Nothing between VAR and END_VAR is a parameter.", "VAR\nEND_VAR"};
 
-constexpr SRule kBlockCloseStray = {"block-close-stray", SV_NOTE, "END_VAR where no block is open",
-                                    "The line is harmless. Perhaps the VAR that belongs to it is missing.",
-                                    "END_VAR"};
+constexpr Rule kBlockCloseStray = {"block-close-stray", SV_NOTE, "END_VAR where no block is open",
+                                   "The line has no effect. Perhaps the VAR that belongs to it is missing.",
+                                   "END_VAR"};
 
-constexpr SRule kParameterOutside = {
+constexpr Rule kParameterOutside = {
     "parameter-outside", SV_ERROR, "a parameter outside of any block",
     "Only lines between VAR and END_VAR are parameters. This one gets no row and no value.",
     "END_VAR\n$6 = \"<<1506>>\"D 20"};
 
-constexpr const SRule* kRules[] = {&kBlockMissing, &kBlockLineMisspelt, &kBlockUnclosed,   &kBlockNested,
-                                   &kBlockEmpty,   &kBlockCloseStray,   &kParameterOutside};
+constexpr const Rule* kRules[] = {&kBlockMissing, &kBlockLineMisspelt, &kBlockUnclosed,   &kBlockNested,
+                                  &kBlockEmpty,   &kBlockCloseStray,   &kParameterOutside};
 
 // A blank or a control character.
-bool IsNothing(wchar_t character) {
+bool IsInvisible(wchar_t character) {
     return character <= L' ' || IsBlank(character);
 }
 
-// The letters of a line in capitals, without anything between; nothing when there are too many for
-// a line that opens or closes a block.
+// The letters of a line in capitals; nothing when there are too many for a line that opens or closes a block.
 std::wstring Letters(const std::wstring& text) {
     constexpr std::size_t kMost = 6;
     std::wstring letters;
@@ -64,7 +64,7 @@ std::wstring Letters(const std::wstring& text) {
         if (isSmall || isCapital) {
             letters += isSmall ? static_cast<wchar_t>(character - L'a' + L'A') : character;
         }
-        if ((!isSmall && !isCapital && !IsNothing(character) && !isSign) || letters.size() > kMost) {
+        if ((!isSmall && !isCapital && !IsInvisible(character) && !isSign) || letters.size() > kMost) {
             return {};
         }
     }
@@ -77,7 +77,7 @@ RuleList BlockRules() {
     return kRules;
 }
 
-void CBlockRules::TakeLine(const SItemLine& line) {
+void CBlockRules::TakeLine(const ItemLine& line) {
     switch (line.kind) {
         case LK_OPENING:
             m_hasBlock = true;
@@ -106,7 +106,7 @@ void CBlockRules::TakeLine(const SItemLine& line) {
     }
 }
 
-void CBlockRules::TakeInside(const SItemLine& line) {
+void CBlockRules::TakeInside(const ItemLine& line) {
     if (m_isWorkingFile && IsAssignment(line.text)) {
         m_empty.reset();
         return;
@@ -116,37 +116,37 @@ void CBlockRules::TakeInside(const SItemLine& line) {
         m_closingWasMisspelt = ReportMisspelt(line, false);
     } else if (letters == L"VAR" && !std::exchange(m_closingWasMisspelt, false)) {
         Findings().Add(kBlockNested, line, 0, line.text.size(),
-                       "a block is open already, this line means nothing");
+                       "a block is already open, this line has no effect");
     }
 }
 
-void CBlockRules::TakeOutside(const SItemLine& line) {
+void CBlockRules::TakeOutside(const ItemLine& line) {
     const std::wstring letters = Letters(line.text);
     if (letters == L"VAR") {
         m_hasBlock = true;
         m_openingWasMisspelt = ReportMisspelt(line, true);
     } else if (letters == L"ENDVAR") {
-        if (line.text != tavrin::itemdlg::CBlockTracker::kClosingLine) {
+        if (line.text != itemdlg::CBlockTracker::kClosingLine) {
             ReportMisspelt(line, false);
         } else if (!m_openingWasMisspelt) {
             Findings().Add(kBlockCloseStray, line, 0, line.text.size(), "no block is open here");
         }
         m_openingWasMisspelt = false;
-    } else if (line.index != tavrin::itemdlg::kTitleLine && !m_openingWasMisspelt &&
-               line.text.starts_with(L'$') && tavrin::itemdlg::ParseParameterLine(line.text)) {
+    } else if (line.index != itemdlg::kTitleLine && !m_openingWasMisspelt && line.text.starts_with(L'$') &&
+               itemdlg::ParseParameterLine(line.text)) {
         Findings().Add(kParameterOutside, line, 0, line.text.size(),
-                       "this parameter stands outside of any block and is not read");
+                       "this parameter is outside of any block and is not read");
     }
 }
 
-bool CBlockRules::ReportMisspelt(const SItemLine& line, bool opening) {
+bool CBlockRules::ReportMisspelt(const ItemLine& line, bool opening) {
     const std::wstring& text = line.text;
-    std::string reason = "write it in capitals and without other signs";
+    std::string reason = "write it in capitals without other characters";
     if (text.find_first_of(L"abcdefghijklmnopqrstuvwxyz") == std::wstring::npos) {
-        if (!text.empty() && IsNothing(text.back())) {
-            reason = "nothing may stand behind it, not even a blank";
-        } else if (!text.empty() && IsNothing(text.front())) {
-            reason = "nothing may stand before it, not even a blank";
+        if (!text.empty() && IsInvisible(text.back())) {
+            reason = "nothing is allowed after it, not even a blank";
+        } else if (!text.empty() && IsInvisible(text.front())) {
+            reason = "nothing is allowed before it, not even a blank";
         }
     }
     Findings().Add(kBlockLineMisspelt, line, 0, text.size(),
@@ -166,3 +166,5 @@ void CBlockRules::Finish() {
         Findings().Add(kBlockMissing, "the file has no line VAR: no parameter is read");
     }
 }
+
+}  // namespace tavrin::tools

@@ -1,17 +1,21 @@
-// Bytes that mean something else to the module than to other programs.
+// Bytes that the module interprets differently than other programs.
 #pragma once
 
 #include <string_view>
 
 #include "tools/rules/RuleGroup.h"
 
+namespace tavrin::tools {
+
 RuleList ByteRules();
 
 class CByteRules : public CRuleGroup {
 public:
     using CRuleGroup::CRuleGroup;
-    void TakeLine(const SItemLine& line) override;
+    void TakeLine(const ItemLine& line) override;
 
-    // Whether a file is UTF-16, with its mark or without, so that none of its lines is what it looks like.
+    // Whether a file is UTF-16, with or without a byte order mark.
     static bool IsUtf16(std::wstring_view firstLine);
 };
+
+}  // namespace tavrin::tools

@@ -11,24 +11,26 @@
 #include "tools/rules/TitleRules.h"
 #include "tools/rules/ValueRules.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-// Notes the numbers of the texts that a file asks for.
+// Collects the numbers of the texts that a file uses.
 class CUsedTexts : public CRuleGroup {
 public:
     CUsedTexts(CFindingList& findings, TextNumbers& numbers) : CRuleGroup(findings), m_numbers(numbers) {}
 
-    void TakeLine(const SItemLine& line) override {
+    void TakeLine(const ItemLine& line) override {
         if (line.parameter != nullptr) {
             Add(line.parameter->placeholder);
-        } else if (line.index == tavrin::itemdlg::kTitleLine) {
-            Add(tavrin::itemdlg::PlaceholderNumber(line.text));
+        } else if (line.index == itemdlg::kTitleLine) {
+            Add(itemdlg::PlaceholderNumber(line.text));
         }
     }
 
 private:
     void Add(int number) {
-        if (number <= tavrin::itemdlg::kHighestTextNumber) {
+        if (number <= itemdlg::kHighestTextNumber) {
             m_numbers.set(static_cast<std::size_t>(number));
         }
     }
@@ -38,7 +40,7 @@ private:
 
 }  // namespace
 
-std::vector<SFinding> CheckText(std::string_view bytes, const SCheckContext& context) {
+std::vector<Finding> CheckText(std::string_view bytes, const CheckContext& context) {
     CFindingList findings(context.file);
     CByteRules byteRules(findings);
     CTitleRules titleRules(findings, context.texts);
@@ -58,7 +60,7 @@ std::vector<SFinding> CheckText(std::string_view bytes, const SCheckContext& con
     return findings.Take();
 }
 
-std::vector<SFinding> ComparePair(const SNamedBytes& templateFile, const SNamedBytes& workingFile) {
+std::vector<Finding> ComparePair(const NamedBytes& templateFile, const NamedBytes& workingFile) {
     CFindingList templateFindings(templateFile.file);
     CFindingList workingFindings(workingFile.file);
     CPairSide templateSide(templateFindings);
@@ -68,9 +70,11 @@ std::vector<SFinding> ComparePair(const SNamedBytes& templateFile, const SNamedB
     if (!templateSide.IsAssigned() && !workingSide.IsAssigned()) {
         workingSide.CompareWith(templateSide);
     }
-    std::vector<SFinding> findings = templateFindings.Take();
-    for (SFinding& finding : workingFindings.Take()) {
+    std::vector<Finding> findings = templateFindings.Take();
+    for (Finding& finding : workingFindings.Take()) {
         findings.push_back(std::move(finding));
     }
     return findings;
 }
+
+}  // namespace tavrin::tools

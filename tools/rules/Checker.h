@@ -1,28 +1,32 @@
-// Checks the bytes of item files. Nothing here touches a file, and no bytes can do harm: the time that a
-// check takes grows with their number, and so does the memory.
+// Checks the bytes of item files, without accessing files. Whatever the bytes are, run time and memory are
+// linear.
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "tools/findings/Finding.h"
+#include "tools/rules/Finding.h"
 #include "tools/rules/TextRules.h"
 #include "tools/texts/TextTable.h"
 
-struct SCheckContext {
+namespace tavrin::tools {
+
+struct CheckContext {
     std::string file;                   // its name for the user
     bool isWorkingFile = false;         // else a template
-    const CTextTable* texts = nullptr;  // what placeholders stand for; null when that is not known
-    TextNumbers* usedTexts = nullptr;   // where the numbers of all placeholders are added; null for nowhere
+    const CTextTable* texts = nullptr;  // of placeholders; null when unknown
+    TextNumbers* usedTexts = nullptr;   // collects the numbers of all placeholders, unless null
 };
 
-// Everything that can be found in one file, in the order of its places.
-std::vector<SFinding> CheckText(std::string_view bytes, const SCheckContext& context);
+// All findings of one file, in the order of their positions.
+std::vector<Finding> CheckText(std::string_view bytes, const CheckContext& context);
 
-// What the working file has otherwise than its template.
-struct SNamedBytes {
+// Compares a working file with its template.
+struct NamedBytes {
     std::string file;
     std::string_view bytes;
 };
-std::vector<SFinding> ComparePair(const SNamedBytes& templateFile, const SNamedBytes& workingFile);
+std::vector<Finding> ComparePair(const NamedBytes& templateFile, const NamedBytes& workingFile);
+
+}  // namespace tavrin::tools

@@ -4,9 +4,11 @@
 #include <tuple>
 #include <utility>
 
-SFinding CFindingList::Make(const SRule& rule, const SItemLine& line, std::size_t start, std::size_t length,
-                            std::string message) const {
-    SFinding finding = Make(rule, std::move(message));
+namespace tavrin::tools {
+
+Finding CFindingList::Make(const Rule& rule, const ItemLine& line, std::size_t start, std::size_t length,
+                           std::string message) const {
+    Finding finding = Make(rule, std::move(message));
     finding.line = line.index + 1;
     finding.column = start + 1;
     finding.length = length;
@@ -14,17 +16,19 @@ SFinding CFindingList::Make(const SRule& rule, const SItemLine& line, std::size_
     return finding;
 }
 
-SFinding CFindingList::Make(const SRule& rule, std::string message) const {
-    SFinding finding;
+Finding CFindingList::Make(const Rule& rule, std::string message) const {
+    Finding finding;
     finding.rule = &rule;
     finding.file = m_file;
     finding.message = std::move(message);
     return finding;
 }
 
-std::vector<SFinding> CFindingList::Take() {
-    std::stable_sort(m_findings.begin(), m_findings.end(), [](const SFinding& a, const SFinding& b) {
+std::vector<Finding> CFindingList::Take() {
+    std::stable_sort(m_findings.begin(), m_findings.end(), [](const Finding& a, const Finding& b) {
         return std::tie(a.line, a.column) < std::tie(b.line, b.column);
     });
     return std::exchange(m_findings, {});
 }
+
+}  // namespace tavrin::tools

@@ -7,9 +7,11 @@
 #include "itemdlg/TemplateText.h"
 #include "tools/rules/Characters.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-// Quotes of word processors, in code page 1252, and what else is taken for one.
+// Typographic quotes in code page 1252, and other characters that are mistaken for quotes.
 constexpr std::wstring_view kForeignQuotes = L"\u0093\u0094\u0084\u0091\u0092\u00AB\u00BB'`\u00B4";
 constexpr std::wstring_view kTypeLetters = L"IDRidr";
 
@@ -17,18 +19,18 @@ bool IsLetter(wchar_t character) {
     return (character >= L'A' && character <= L'Z') || (character >= L'a' && character <= L'z');
 }
 
-// What may stand at the beginning of a value.
+// Whether a value may begin with the character.
 bool BeginsValue(wchar_t character) {
     return character == L' ' || IsDigit(character) || character == L'-' || character == L'+' ||
            character == L'.';
 }
 
-// Walks over the line from the left and writes down what the reader would take instead.
+// Scans the line from the left and builds a line that the reader would accept.
 class CLineRepair {
 public:
-    CLineRepair(const std::wstring& line, const SRepairRules& rules) : m_line(line), m_rules(rules) {}
+    CLineRepair(const std::wstring& line, const RepairRules& rules) : m_line(line), m_rules(rules) {}
 
-    std::vector<SRepair> Run() {
+    std::vector<Repair> Run() {
         TakeStart();
         TakeNumber();
         TakeEquals();
@@ -43,11 +45,11 @@ private:
     bool AtEnd() const { return m_next == m_line.size(); }
     wchar_t Peek() const { return AtEnd() ? L'\0' : m_line[m_next]; }
 
-    void Report(const SRule* rule, std::size_t start, std::size_t length, std::string message) {
+    void Report(const Rule* rule, std::size_t start, std::size_t length, std::string message) {
         m_repairs.push_back({rule, start, length, std::move(message)});
     }
 
-    // Goes past blanks; only spaces are allowed there.
+    // Skips blanks; only spaces are allowed there.
     void SkipBlanks() {
         const std::size_t start = m_next;
         while (IsBlank(Peek())) {
@@ -58,7 +60,7 @@ private:
         const auto other = std::find_if(first, last, [](wchar_t c) { return c != L' '; });
         if (other != last) {
             Report(m_rules.tab, static_cast<std::size_t>(other - m_line.begin()), 1,
-                   "only spaces may stand here, no tab and no other blank");
+                   "only spaces are allowed here, not tabs or other blanks");
         }
     }
 
@@ -67,7 +69,7 @@ private:
             ++m_next;
         }
         if (m_next > 0) {
-            Report(m_rules.leadingBlank, 0, m_next, "nothing may stand in front of the '$'");
+            Report(m_rules.leadingBlank, 0, m_next, "nothing is allowed before the '$'");
         }
         if (Peek() == L'$') {
             ++m_next;
@@ -91,7 +93,7 @@ private:
         if (!std::all_of(number.begin(), number.end(), IsDigit)) {
             const std::size_t length = number.find_last_not_of(L" \t") + 1;
             Report(m_rules.number, start, length,
-                   Quoted(number.substr(0, length)) + " is no number: digits alone may follow the '$'");
+                   Quoted(number.substr(0, length)) + " is not a number: only digits may follow the '$'");
         }
     }
 
@@ -102,9 +104,8 @@ private:
         }
         const std::wstring_view sign = std::wstring_view(m_line).substr(start, m_next - start);
         if (sign != L"=") {
-            Report(
-                m_rules.equals, start, sign.size(),
-                sign.empty() ? "here the '=' is missing" : Quoted(sign) + " stands here instead of one '='");
+            Report(m_rules.equals, start, sign.size(),
+                   sign.empty() ? "the '=' is missing here" : Quoted(sign) + " instead of one '='");
         }
         SkipBlanks();
         m_repaired += L" = ";
@@ -121,7 +122,7 @@ private:
             Report(m_rules.quote, m_next, 1, "the label must begin with the straight quote '\"'");
             ++m_next;
         } else {
-            Report(m_rules.quote, m_next, 0, "here the quote in front of the label is missing");
+            Report(m_rules.quote, m_next, 0, "the quote before the label is missing here");
         }
     }
 
@@ -132,53 +133,54 @@ private:
     }
 
     bool Accepts(const std::wstring& rest) const {
-        return tavrin::itemdlg::ParseParameterLine(m_repaired + rest).has_value();
+        return itemdlg::ParseParameterLine(m_repaired + rest).has_value();
     }
 
     bool TakeForeignClosing(std::wstring rest) {
-        for (std::size_t place = rest.size(); place-- > 0;) {
-            if (kForeignQuotes.find(rest[place]) == std::wstring_view::npos || !IsLetterAt(rest, place + 1)) {
+        for (std::size_t position = rest.size(); position-- > 0;) {
+            if (kForeignQuotes.find(rest[position]) == std::wstring_view::npos ||
+                !IsLetterAt(rest, position + 1)) {
                 continue;
             }
-            rest[place] = L'"';
+            rest[position] = L'"';
             if (!Accepts(rest)) {
                 return false;
             }
-            Report(m_rules.quote, m_next + place, 1, "the label must end with the straight quote '\"'");
+            Report(m_rules.quote, m_next + position, 1, "the label must end with the straight quote '\"'");
             return true;
         }
         return false;
     }
 
-    // Whether a type letter stands there that a value, or nothing, follows.
-    static bool IsLetterAt(const std::wstring& text, std::size_t place) {
-        return place < text.size() && kTypeLetters.find(text[place]) != std::wstring_view::npos &&
-               (place + 1 == text.size() || BeginsValue(text[place + 1]));
+    // Whether there is a type letter, followed by a value or the end.
+    static bool IsLetterAt(const std::wstring& text, std::size_t position) {
+        return position < text.size() && kTypeLetters.find(text[position]) != std::wstring_view::npos &&
+               (position + 1 == text.size() || BeginsValue(text[position + 1]));
     }
 
-    // What stands behind the last quote is no type letter.
+    // The last quote is not followed by a type letter.
     bool TakeLetter(const std::wstring& rest) {
         const std::size_t quote = rest.rfind(L'"');
         if (quote == std::wstring::npos) {
             return false;
         }
-        std::size_t place = quote + 1;
-        while (place < rest.size() && IsBlank(rest[place])) {
-            ++place;
+        std::size_t position = quote + 1;
+        while (position < rest.size() && IsBlank(rest[position])) {
+            ++position;
         }
-        const wchar_t found = place < rest.size() ? rest[place] : L'\0';
+        const wchar_t found = position < rest.size() ? rest[position] : L'\0';
         const std::size_t start = m_next + quote + 1;
         std::wstring repaired = rest.substr(0, quote + 1);
-        if (kTypeLetters.find(found) != std::wstring_view::npos && place > quote + 1) {
-            Report(m_rules.typeLetter, start, place - quote - 1,
+        if (kTypeLetters.find(found) != std::wstring_view::npos && position > quote + 1) {
+            Report(m_rules.typeLetter, start, position - quote - 1,
                    "the type letter must follow the quote without a blank");
-            repaired += rest.substr(place);
+            repaired += rest.substr(position);
         } else if (IsLetter(found)) {
-            Report(m_rules.typeLetter, m_next + place, 1,
-                   Quoted(std::wstring_view(&found, 1)) + " is no type letter: write I, D or R");
-            repaired += L"R" + rest.substr(place + 1);
+            Report(m_rules.typeLetter, m_next + position, 1,
+                   Quoted(std::wstring_view(&found, 1)) + " is not a type letter: write I, D or R");
+            repaired += L"R" + rest.substr(position + 1);
         } else {
-            Report(m_rules.typeLetter, start, 0, "here the type letter is missing: write I, D or R");
+            Report(m_rules.typeLetter, start, 0, "the type letter is missing here: write I, D or R");
             repaired += L"R" + rest.substr(quote + 1);
         }
         if (!Accepts(repaired)) {
@@ -188,31 +190,33 @@ private:
         return true;
     }
 
-    // The last type letter that a value seems to follow had no quote in front.
+    // The last type letter that is followed by a value has no quote before it.
     bool TakeMissingClosing(const std::wstring& rest) {
-        for (std::size_t place = rest.size(); place-- > 1;) {
-            if (!IsLetterAt(rest, place) || IsLetter(rest[place - 1])) {
+        for (std::size_t position = rest.size(); position-- > 1;) {
+            if (!IsLetterAt(rest, position) || IsLetter(rest[position - 1])) {
                 continue;
             }
-            if (!Accepts(rest.substr(0, place) + L"\"" + rest.substr(place))) {
+            if (!Accepts(rest.substr(0, position) + L"\"" + rest.substr(position))) {
                 return false;
             }
-            Report(m_rules.quote, m_next + place, 0,
-                   "here the quote between the label and the type letter is missing");
+            Report(m_rules.quote, m_next + position, 0,
+                   "the quote between the label and the type letter is missing here");
             return true;
         }
         return false;
     }
 
     const std::wstring& m_line;
-    const SRepairRules& m_rules;
+    const RepairRules& m_rules;
     std::size_t m_next = 0;
-    std::wstring m_repaired;  // what stands before m_next, as the reader takes it
-    std::vector<SRepair> m_repairs;
+    std::wstring m_repaired;  // the part before m_next, repaired
+    std::vector<Repair> m_repairs;
 };
 
 }  // namespace
 
-std::vector<SRepair> RepairLine(const std::wstring& line, const SRepairRules& rules) {
+std::vector<Repair> RepairLine(const std::wstring& line, const RepairRules& rules) {
     return CLineRepair(line, rules).Run();
 }
+
+}  // namespace tavrin::tools

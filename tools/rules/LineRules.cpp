@@ -4,78 +4,79 @@
 #include "tools/rules/Characters.h"
 #include "tools/rules/LineRepair.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-constexpr SRule kLineLeadingBlank = {
-    "line-leading-blank", SV_ERROR, "a blank or tab in front of a parameter's $",
-    "A parameter line begins with its $. One that is indented is no parameter: it gets no row.",
+constexpr Rule kLineLeadingBlank = {
+    "line-leading-blank", SV_ERROR, "a blank or tab before a parameter's $",
+    "A parameter line begins with its $. An indented line is not a parameter: it gets no row.",
     "  $1 = \"<<1501>>\"D 900"};
 
-constexpr SRule kLineTab = {"line-tab", SV_ERROR, "a tab where only spaces may stand",
-                            "Around the = of a parameter line spaces may stand, in any number, but no tab "
-                            "and no non-breaking space.\n"
-                            "With one the line is no parameter: it gets no row.",
-                            "$1\xE2\x90\x89= \"<<1501>>\"D 900"};
+constexpr Rule kLineTab = {
+    "line-tab", SV_ERROR, "a tab where only spaces are allowed",
+    "Any number of spaces is allowed around the = of a parameter line, but no tabs and no non-breaking\n"
+    "spaces. With one the line is not a parameter: it gets no row.",
+    "$1\xE2\x90\x89= \"<<1501>>\"D 900"};
 
-constexpr SRule kLineNumber = {"line-number", SV_ERROR, "a parameter's number is not made of digits alone",
-                               "Between the $ and the = stand digits, and spaces behind them. Otherwise the "
-                               "line is no parameter: it gets\n"
-                               "no row.",
-                               "$1a = \"<<1501>>\"D 900\n$ 2 = \"<<1502>>\"D 2100"};
+constexpr Rule kLineNumber = {
+    "line-number", SV_ERROR, "a parameter's number contains other characters than digits",
+    "Only digits are allowed between the $ and the =, and spaces after them. Otherwise the line is not a\n"
+    "parameter: it gets no row.",
+    "$1a = \"<<1501>>\"D 900\n$ 2 = \"<<1502>>\"D 2100"};
 
-constexpr SRule kLineEquals = {
-    "line-equals", SV_ERROR, "a parameter's = is missing or another sign",
-    "Exactly one = stands between the number and the label. Otherwise the line is no parameter: it gets no\n"
-    "row.",
-    "$1 \"<<1501>>\"D 900\n$2 := \"<<1502>>\"D 2100"};
+constexpr Rule kLineEquals = {"line-equals", SV_ERROR, "a parameter's = is missing or wrong",
+                              "There must be exactly one = between the number and the label. Otherwise the "
+                              "line is not a parameter: it\n"
+                              "gets no row.",
+                              "$1 \"<<1501>>\"D 900\n$2 := \"<<1502>>\"D 2100"};
 
-constexpr SRule kLineQuote = {
-    "line-quote", SV_ERROR, "a quote of the label is missing or not the straight one",
-    "The label stands in straight double quotes, and the closing one directly before the type letter. With\n"
-    "apostrophes, with the curved quotes of word processors, or without one the line is no parameter: it "
-    "gets\n"
-    "no row.",
-    "$1 = \"<<1501>>D 900\n$2 = '<<1502>>'D 2100"};
+constexpr Rule kLineQuote = {"line-quote", SV_ERROR,
+                             "a quote of the label is missing or not a straight quote",
+                             "The label must be in straight double quotes, and the type letter must follow "
+                             "the closing quote directly.\n"
+                             "With apostrophes or typographic quotes, or without a quote, the line is not a "
+                             "parameter: it gets no row.",
+                             "$1 = \"<<1501>>D 900\n$2 = '<<1502>>'D 2100"};
 
-constexpr SRule kLineTypeLetter = {"line-type-letter", SV_ERROR,
-                                   "the type letter is missing or none of I, D and R",
-                                   "Directly behind the closing quote stands I for a whole number, D for a "
-                                   "distance or R for a real number.\n"
-                                   "Otherwise the line is no parameter: it gets no row.",
-                                   "$1 = \"<<1501>>\"x 900\n$2 = \"<<1502>>\" D 2100\n$3 = \"<<1503>>\" 125"};
+constexpr Rule kLineTypeLetter = {
+    "line-type-letter", SV_ERROR, "the type letter is missing or not one of I, D and R",
+    "I for a whole number, D for a distance or R for a real number must follow the closing quote directly.\n"
+    "Otherwise the line is not a parameter: it gets no row.",
+    "$1 = \"<<1501>>\"x 900\n$2 = \"<<1502>>\" D 2100\n$3 = \"<<1503>>\" 125"};
 
-constexpr SRule kLineUnread = {
-    "line-unread", SV_ERROR, "a line that begins like a parameter and is none",
-    "A line inside a block that begins with $ was probably meant as a parameter, but more than one thing is\n"
-    "wrong with it. It gets no row. The form is: $ number = \"label\" type letter value.",
+constexpr Rule kLineUnread = {
+    "line-unread", SV_ERROR, "a line that begins like a parameter but is not one",
+    "A line inside a block that begins with $ was probably meant as a parameter, but it has more than one\n"
+    "error. It gets no row. The form is: $ number = \"label\" type letter value.",
     "$1 <<1501>>"};
 
-constexpr SRule kLineAssignment = {"line-assignment", SV_ERROR, "an assignment in a template",
-                                   "Such lines are what OK leaves in the working file. In the template they "
-                                   "are no parameters, and the labels\n"
-                                   "are gone: probably a used working file was copied over the template.",
-                                   "#1 = 900\n$7 = 1"};
+constexpr Rule kLineAssignment = {"line-assignment", SV_ERROR, "an assignment in a template",
+                                  "OK writes such lines into the working file. In the template they are not "
+                                  "parameters, and the labels are\n"
+                                  "lost: probably a used working file was copied over the template.",
+                                  "#1 = 900\n$7 = 1"};
 
-constexpr SRule kLineDollar = {"line-dollar", SV_WARNING, "a parameter's $ is missing or a #",
-                               "A parameter line begins with $, whatever its type; # stands in a used "
-                               "working file alone. But for that this\n"
-                               "line would be a parameter: now it gets no row.",
-                               "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
+constexpr Rule kLineDollar = {
+    "line-dollar", SV_WARNING, "a parameter's $ is missing or a #",
+    "A parameter line begins with $, whatever its type; # occurs only in used working files. Otherwise this\n"
+    "line would be a parameter: now it gets no row.",
+    "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
 
-constexpr const SRule* kRules[] = {&kLineLeadingBlank, &kLineDollar, &kLineTab,
-                                   &kLineNumber,       &kLineEquals, &kLineQuote,
-                                   &kLineTypeLetter,   &kLineUnread, &kLineAssignment};
+constexpr const Rule* kRules[] = {&kLineLeadingBlank, &kLineDollar, &kLineTab,
+                                  &kLineNumber,       &kLineEquals, &kLineQuote,
+                                  &kLineTypeLetter,   &kLineUnread, &kLineAssignment};
 
-constexpr SRepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNumber,
-                                       &kLineEquals,       &kLineQuote, &kLineTypeLetter};
+constexpr RepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNumber,
+                                      &kLineEquals,       &kLineQuote, &kLineTypeLetter};
 
-// Whether the reader would take the line if it began with "$" where it has `signs` characters now.
+// Whether the reader would accept the line with "$" instead of its first `signs` characters.
 bool LacksDollar(const std::wstring& line, std::size_t signs) {
     return line.size() > signs && IsDigit(line[signs]) &&
-           tavrin::itemdlg::ParseParameterLine(L'$' + line.substr(signs)).has_value();
+           itemdlg::ParseParameterLine(L'$' + line.substr(signs)).has_value();
 }
 
-// Only lines that begin so were meant as parameters; all others are remarks.
+// Other lines are taken for remarks.
 bool BeginsLikeParameter(const std::wstring& line) {
     const std::size_t start = line.find_first_not_of(L" \t\u00A0");
     return start != std::wstring::npos && line[start] == L'$';
@@ -97,10 +98,10 @@ bool IsAssignment(const std::wstring& line) {
         return false;
     }
     const std::wstring_view value = std::wstring_view(line).substr(end + kSign.size());
-    return value.empty() || tavrin::itemdlg::ReadLeadingNumber(value).end == value.size();
+    return value.empty() || itemdlg::ReadLeadingNumber(value).end == value.size();
 }
 
-void CLineRules::TakeLine(const SItemLine& line) {
+void CLineRules::TakeLine(const ItemLine& line) {
     if (line.kind != LK_IGNORED) {
         return;
     }
@@ -115,17 +116,19 @@ void CLineRules::TakeLine(const SItemLine& line) {
         const std::size_t signs = line.text.starts_with(L'#') ? 1 : 0;
         if (LacksDollar(line.text, signs)) {
             Findings().Add(kLineDollar, line, 0, signs,
-                           signs == 0 ? "here the '$' is missing" : "'#' stands here instead of '$'");
+                           signs == 0 ? "the '$' is missing here" : "'#' instead of '$'");
         }
         return;
     }
-    const std::vector<SRepair> repairs = RepairLine(line.text, kRepairRules);
-    for (const SRepair& repair : repairs) {
+    const std::vector<Repair> repairs = RepairLine(line.text, kRepairRules);
+    for (const Repair& repair : repairs) {
         Findings().Add(*repair.rule, line, repair.start, repair.length, repair.message);
     }
     if (repairs.empty()) {
         Findings().Add(
             kLineUnread, line, 0, line.text.size(),
-            "this line is no parameter: write $N = \"label\" with I, D or R and the value behind it");
+            "this line is not a parameter: write $N = \"label\" followed by I, D or R and the value");
     }
 }
+
+}  // namespace tavrin::tools

@@ -1,20 +1,24 @@
-// Lines inside a block that were meant as parameters and are none.
+// Lines inside a block that were meant as parameters but are not.
 #pragma once
 
 #include "tools/rules/RuleGroup.h"
+
+namespace tavrin::tools {
 
 RuleList LineRules();
 
 class CLineRules : public CRuleGroup {
 public:
-    // In a working file assignments are in order: OK has left them there.
+    // In a working file assignments are correct: OK writes them.
     CLineRules(CFindingList& findings, bool isWorkingFile)
         : CRuleGroup(findings), m_isWorkingFile(isWorkingFile) {}
-    void TakeLine(const SItemLine& line) override;
+    void TakeLine(const ItemLine& line) override;
 
 private:
     bool m_isWorkingFile;
 };
 
-// Whether a line has the form that OK gives the lines of a working file: "#1 = 900", "$7 = 1".
+// Whether a line has the form of OK's assignments in a working file: "#1 = 900", "$7 = 1".
 bool IsAssignment(const std::wstring& line);
+
+}  // namespace tavrin::tools

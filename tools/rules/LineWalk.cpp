@@ -4,12 +4,14 @@
 #include <utility>
 
 #include "itemdlg/BlockTracker.h"
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 #include "tools/rules/ByteRules.h"
+
+namespace tavrin::tools {
 
 namespace {
 
-ELineKind KindOf(const std::wstring& line, tavrin::itemdlg::CBlockTracker& block) {
+ELineKind KindOf(const std::wstring& line, itemdlg::CBlockTracker& block) {
     const bool wasOpen = block.IsOpen();
     const bool mayBeParameter = block.TakeLine(line);
     if (wasOpen != block.IsOpen()) {
@@ -18,30 +20,29 @@ ELineKind KindOf(const std::wstring& line, tavrin::itemdlg::CBlockTracker& block
     return mayBeParameter ? LK_IGNORED : LK_OUTSIDE;
 }
 
-std::wstring PlaceholderItself(unsigned number) {
+std::wstring PlaceholderAsText(unsigned number) {
     return L"<<" + WideNumber(static_cast<int>(number)) + L">>";
 }
 
-// False when the reader does not take the line for a parameter.
-bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
-    const std::optional<tavrin::itemdlg::ParameterParts> parts =
-        tavrin::itemdlg::SplitParameterLine(line.text);
+// False when the line is not a parameter.
+bool ReadAsParameter(const ItemLine& line, Parameter& parameter) {
+    const std::optional<itemdlg::ParameterParts> parts = itemdlg::SplitParameterLine(line.text);
     if (!parts) {
         return false;
     }
-    // Into the texts of the line before, which have the room already.
+    // Reuses the memory of the previous line's texts.
     parameter.parts.number = parts->number;
     parameter.parts.label = parts->label;
     parameter.parts.typeLetter = parts->typeLetter;
     parameter.parts.value = parts->value;
-    tavrin::itemdlg::ParameterRow row;
-    tavrin::itemdlg::FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0,
-                             PlaceholderItself, row);
+    itemdlg::ParameterRow row;
+    itemdlg::FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderAsText,
+                     row);
     parameter.record = std::move(row.record);
-    // The record has the number of the line's last placeholder, be it in the value.
+    // The record has the number of the line's last placeholder, which may be in the value.
     const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
     parameter.placeholder =
-        inValue ? tavrin::itemdlg::PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
+        inValue ? itemdlg::PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
     // The patterns see a line up to its first null character, and the value is its end.
     const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
     parameter.valueStart = end - parameter.parts.value.size();
@@ -53,9 +54,9 @@ bool ReadAsParameter(const SItemLine& line, SParameter& parameter) {
 }  // namespace
 
 void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
-    tavrin::itemdlg::CBlockTracker block;
-    SItemLine line;
-    SParameter parameter;
+    itemdlg::CBlockTracker block;
+    ItemLine line;
+    Parameter parameter;
     for (; !bytes.empty(); ++line.index) {
         const std::string_view text = TakeLine(bytes).text;
         line.text.resize(text.size());
@@ -77,3 +78,5 @@ void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
         group->Finish();
     }
 }
+
+}  // namespace tavrin::tools

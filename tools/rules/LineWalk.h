@@ -1,4 +1,4 @@
-// Shows a file's lines to groups of rules, with what the module's reader makes of each.
+// Passes a file's lines to groups of rules, with their meaning to the module's reader.
 #pragma once
 
 #include <span>
@@ -6,6 +6,10 @@
 
 #include "tools/rules/RuleGroup.h"
 
-// Takes the lines one by one, so that no more than one is held at a time. A file in UTF-16 ends with its
-// first line: of the others the reader understands nothing that is worth saying.
+namespace tavrin::tools {
+
+// Holds only one line at a time. Of a file in UTF-16 only the first line is passed, since the reader
+// understands none.
 void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups);
+
+}  // namespace tavrin::tools

@@ -2,29 +2,29 @@
 
 #include <algorithm>
 
+namespace tavrin::tools {
+
 namespace {
 
-constexpr SRule kNumberDuplicate = {
-    "number-duplicate", SV_ERROR, "two parameters have the same number",
-    "Both get a row, but when OK stores the values in the template, the last line with a number takes them "
-    "all\n"
-    "and the earlier ones keep what they hold. The LISP routine finds two assignments to one number.",
-    "$2 = \"<<1502>>\"D 2100\n$2 = \"<<1503>>\"D 125"};
+constexpr Rule kNumberDuplicate = {"number-duplicate", SV_ERROR, "two parameters have the same number",
+                                   "Both get a row, but OK stores the value of each in the last line with "
+                                   "the number, and the earlier lines\n"
+                                   "keep theirs. The LISP routine finds two assignments to one number.",
+                                   "$2 = \"<<1502>>\"D 2100\n$2 = \"<<1503>>\"D 125"};
 
-constexpr SRule kNumberEmpty = {"number-empty", SV_WARNING, "a parameter has no number",
-                                "The line is a parameter, with an empty number. After OK the working file "
-                                "holds '# = 900', of which a LISP\n"
-                                "routine can hardly make anything.",
-                                "$ = \"<<1501>>\"D 900"};
+constexpr Rule kNumberEmpty = {
+    "number-empty", SV_WARNING, "a parameter has no number",
+    "The line is a parameter with an empty number. After OK the working file contains '# = 900', which is\n"
+    "useless for a LISP routine.",
+    "$ = \"<<1501>>\"D 900"};
 
-constexpr SRule kNumberLookAlike = {"number-look-alike", SV_WARNING,
-                                    "two numbers differ in leading zeros alone",
-                                    "Numbers are compared as text: 01 and 1 are two parameters. A LISP "
-                                    "routine that reads them as numbers takes\n"
-                                    "them for one.",
-                                    "$1 = \"<<1501>>\"D 900\n$01 = \"<<1502>>\"D 2100"};
+constexpr Rule kNumberLookAlike = {
+    "number-look-alike", SV_WARNING, "two numbers differ only in leading zeros",
+    "Numbers are compared as text: 01 and 1 are two parameters. A LISP routine that reads them as numbers\n"
+    "takes them for one.",
+    "$1 = \"<<1501>>\"D 900\n$01 = \"<<1502>>\"D 2100"};
 
-constexpr const SRule* kRules[] = {&kNumberDuplicate, &kNumberEmpty, &kNumberLookAlike};
+constexpr const Rule* kRules[] = {&kNumberDuplicate, &kNumberEmpty, &kNumberLookAlike};
 
 }  // namespace
 
@@ -32,7 +32,7 @@ RuleList NumberRules() {
     return kRules;
 }
 
-void CNumberRules::TakeLine(const SItemLine& line) {
+void CNumberRules::TakeLine(const ItemLine& line) {
     if (line.parameter == nullptr) {
         return;
     }
@@ -55,6 +55,8 @@ void CNumberRules::TakeLine(const SItemLine& line) {
     } else if (lookAlike != line.index) {
         Findings().Add(kNumberLookAlike, line, 1, number.size(),
                        Quoted(number) + " is another number than the one in line " +
-                           std::to_string(lookAlike + 1) + ", which differs in zeros alone");
+                           std::to_string(lookAlike + 1) + ", which differs only in zeros");
     }
 }
+
+}  // namespace tavrin::tools

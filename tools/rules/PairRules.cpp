@@ -6,33 +6,34 @@
 
 #include "tools/rules/LineRules.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-constexpr SRule kPairNumberUnknown = {"pair-number-unknown", SV_ERROR,
-                                      "the working file has a number that the template lacks",
-                                      "The parameter gets a row and its value reaches the LISP routine, but "
-                                      "OK finds no line in the template to\n"
-                                      "store the value in: the next opening does not start from it.",
-                                      "door_TMP.TXT: $28 = \"<<1501>>\"D 900\ndoor.TXT:     (no $28)"};
+constexpr Rule kPairNumberUnknown = {
+    "pair-number-unknown", SV_ERROR, "the working file has a number that is not in the template",
+    "The parameter gets a row and its value reaches the LISP routine, but OK finds no line in the template\n"
+    "for the value: the next dialog does not start with it.",
+    "door_TMP.TXT: $28 = \"<<1501>>\"D 900\ndoor.TXT:     (no $28)"};
 
-constexpr SRule kPairNumberUnused = {
-    "pair-number-unused", SV_WARNING, "the template has a number that the working file lacks",
+constexpr Rule kPairNumberUnused = {
+    "pair-number-unused", SV_WARNING, "the template has a number that is not in the working file",
     "The dialog shows the working file: the parameter gets no row, and its default in the template is never\n"
     "changed.",
     "door.TXT:     $28 = \"<<1501>>\"D 900\ndoor_TMP.TXT: (no $28)"};
 
-constexpr SRule kPairLabelDiffers = {
-    "pair-label-differs", SV_ERROR, "label or type of a parameter differ in template and working file",
-    "OK writes the working file's label and type letter into the template, over what stands there.",
+constexpr Rule kPairLabelDiffers = {
+    "pair-label-differs", SV_ERROR, "label or type of a parameter differ between template and working file",
+    "OK overwrites label and type letter of the template with those of the working file.",
     "door.TXT:     $1 = \"<<1501>>\"D 900\ndoor_TMP.TXT: $1 = \"<<1502>>\"R 900"};
 
-constexpr SRule kPairLayout = {
-    "pair-layout", SV_WARNING, "template and working file have their lines in different places",
-    "The module itself does not mind. A LISP routine that reads the working file by its lines does, and it\n"
-    "should be a copy of the template.",
+constexpr Rule kPairLayout = {
+    "pair-layout", SV_WARNING, "template and working file have different lines",
+    "The module does not depend on it, but LISP routines that read the working file line by line do. The\n"
+    "working file should be a copy of the template.",
     "door.TXT:     line 4: $1 = \"<<1501>>\"D 900\ndoor_TMP.TXT: line 5: $1 = \"<<1501>>\"D 900"};
 
-constexpr const SRule* kRules[] = {&kPairNumberUnknown, &kPairNumberUnused, &kPairLabelDiffers, &kPairLayout};
+constexpr const Rule* kRules[] = {&kPairNumberUnknown, &kPairNumberUnused, &kPairLabelDiffers, &kPairLayout};
 
 }  // namespace
 
@@ -40,14 +41,14 @@ RuleList PairRules() {
     return kRules;
 }
 
-void CPairSide::TakeLine(const SItemLine& line) {
+void CPairSide::TakeLine(const ItemLine& line) {
     if (line.kind == LK_IGNORED && IsAssignment(line.text)) {
         m_isAssigned = true;
     }
     if (line.kind != LK_OPENING && line.kind != LK_CLOSING && line.kind != LK_PARAMETER) {
         return;
     }
-    SLine& kept = m_lines.emplace_back();
+    ComparedLine& kept = m_lines.emplace_back();
     kept.line = line;
     kept.line.parameter = nullptr;
     if (line.parameter != nullptr) {
@@ -55,30 +56,31 @@ void CPairSide::TakeLine(const SItemLine& line) {
         kept.label = line.parameter->parts.label;
         kept.typeLetter = line.parameter->parts.typeLetter;
         kept.isWritten = line.parameter->record.type != 'U';
-        m_places[kept.number] = m_lines.size() - 1;
+        m_indices[kept.number] = m_lines.size() - 1;
     }
 }
 
-const CPairSide::SLine* CPairSide::Find(const std::wstring& number) const {
-    const auto found = m_places.find(number);
-    return found != m_places.end() ? &m_lines[found->second] : nullptr;
+const CPairSide::ComparedLine* CPairSide::Find(const std::wstring& number) const {
+    const auto found = m_indices.find(number);
+    return found != m_indices.end() ? &m_lines[found->second] : nullptr;
 }
 
 void CPairSide::CompareWith(CPairSide& templateFile) {
-    const bool lacks = ReportMissing(templateFile, kPairNumberUnknown,
-                                     "the template has no such number: OK cannot store the value there");
-    const bool isLacked = templateFile.ReportMissing(
-        *this, kPairNumberUnused, "the working file has no such number: the parameter gets no row");
+    const bool hasUnknown =
+        ReportMissing(templateFile, kPairNumberUnknown,
+                      "the template does not have this number: OK cannot store the value there");
+    const bool hasUnused = templateFile.ReportMissing(
+        *this, kPairNumberUnused, "the working file does not have this number: the parameter gets no row");
     CompareParameters(templateFile);
-    if (!lacks && !isLacked) {
+    if (!hasUnknown && !hasUnused) {
         CompareLayout(templateFile);
     }
 }
 
-// Reports lines whose number the other side lacks. True when there are any.
-bool CPairSide::ReportMissing(const CPairSide& other, const SRule& rule, const std::string& message) {
+// Reports lines whose number the other side does not have. True when there are any.
+bool CPairSide::ReportMissing(const CPairSide& other, const Rule& rule, const std::string& message) {
     bool isFound = false;
-    for (const SLine& line : m_lines) {
+    for (const ComparedLine& line : m_lines) {
         if (line.line.kind == LK_PARAMETER && other.Find(line.number) == nullptr) {
             isFound = true;
             Findings().Add(rule, line.line, 0, 1 + line.number.size(), message);
@@ -87,13 +89,13 @@ bool CPairSide::ReportMissing(const CPairSide& other, const SRule& rule, const s
     return isFound;
 }
 
-// Of the lines with one number OK writes the last one that has a row.
+// Of several lines with a number OK writes the last one that has a row.
 void CPairSide::CompareParameters(const CPairSide& templateFile) {
     std::unordered_set<std::wstring_view> seen;
     for (std::size_t i = m_lines.size(); i-- > 0;) {
-        const SLine& line = m_lines[i];
+        const ComparedLine& line = m_lines[i];
         const bool counts = line.isWritten && seen.insert(line.number).second;
-        const SLine* const other = counts ? templateFile.Find(line.number) : nullptr;
+        const ComparedLine* const other = counts ? templateFile.Find(line.number) : nullptr;
         if (other == nullptr || (line.label == other->label && line.typeLetter == other->typeLetter)) {
             continue;
         }
@@ -106,9 +108,9 @@ void CPairSide::CompareParameters(const CPairSide& templateFile) {
     }
 }
 
-// One line that is elsewhere moves all behind it: the first alone is reported.
+// Reports only the first difference, since it moves all following lines.
 void CPairSide::CompareLayout(const CPairSide& templateFile) {
-    const auto isSame = [](const SLine& a, const SLine& b) {
+    const auto isSame = [](const ComparedLine& a, const ComparedLine& b) {
         return a.line.index == b.line.index && a.line.kind == b.line.kind && a.number == b.number;
     };
     const auto [mine, other] = std::mismatch(m_lines.begin(), m_lines.end(), templateFile.m_lines.begin(),
@@ -127,3 +129,5 @@ void CPairSide::CompareLayout(const CPairSide& templateFile) {
                        : "in the template " + Quoted(other->line.text) + " comes here, in line " +
                              std::to_string(other->line.index + 1));
 }
+
+}  // namespace tavrin::tools

@@ -1,4 +1,4 @@
-// A template and its working file side by side.
+// Compares a template and its working file.
 #pragma once
 
 #include <string>
@@ -7,36 +7,40 @@
 
 #include "tools/rules/RuleGroup.h"
 
+namespace tavrin::tools {
+
 RuleList PairRules();
 
-// Keeps of one of the two files what the comparison looks at.
+// The lines of one of the two files that are compared.
 class CPairSide : public CRuleGroup {
 public:
     using CRuleGroup::CRuleGroup;
-    void TakeLine(const SItemLine& line) override;
+    void TakeLine(const ItemLine& line) override;
 
-    // Whether the file holds what OK leaves in a working file, so that there is nothing to compare.
+    // Whether the file contains OK's assignments, so that there is nothing to compare.
     bool IsAssigned() const { return m_isAssigned; }
 
-    // As the working file: reports in this side's list, or in that of the template, where they differ.
+    // Called for the working file: adds differences to its findings or to those of the template.
     void CompareWith(CPairSide& templateFile);
 
 private:
     // A line that opens or closes a block, or a parameter.
-    struct SLine {
-        SItemLine line;  // without its parameter
+    struct ComparedLine {
+        ItemLine line;  // without its parameter
         std::wstring number;
         std::wstring label;
         wchar_t typeLetter = L'\0';
-        bool isWritten = false;  // a parameter of a type, which OK writes into the template
+        bool isWritten = false;  // a parameter of a valid type, which OK writes to the template
     };
 
-    const SLine* Find(const std::wstring& number) const;
-    bool ReportMissing(const CPairSide& other, const SRule& rule, const std::string& message);
+    const ComparedLine* Find(const std::wstring& number) const;
+    bool ReportMissing(const CPairSide& other, const Rule& rule, const std::string& message);
     void CompareParameters(const CPairSide& templateFile);
     void CompareLayout(const CPairSide& templateFile);
 
-    std::vector<SLine> m_lines;
-    std::unordered_map<std::wstring, std::size_t> m_places;  // in m_lines, of the last line with a number
+    std::vector<ComparedLine> m_lines;
+    std::unordered_map<std::wstring, std::size_t> m_indices;  // in m_lines, of the last line with a number
     bool m_isAssigned = false;
 };
+
+}  // namespace tavrin::tools

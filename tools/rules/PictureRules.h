@@ -1,4 +1,4 @@
-// The pictures that belong to an item: its own, and those that its routine shows.
+// The pictures of an item and of its routine.
 #pragma once
 
 #include <functional>
@@ -9,18 +9,22 @@
 #include "tools/rules/FindingList.h"
 #include "tools/rules/RuleGroup.h"
 
+namespace tavrin::tools {
+
 RuleList PictureRules();
 
-// An item as far as its pictures are concerned.
-struct SPictureContext {
+// The data of an item for the checks of pictures.
+struct PictureContext {
     std::string templateFile;            // "samples/door/door.TXT", as the user named it
     std::string routineFile;             // "samples/door/door.lsp"
     std::string baseName;                // "door", without folder
     std::optional<std::string> routine;  // the bytes of the routine, if there is one
-    // Whether a file with that name lies beside the template.
-    std::function<bool(const std::string& name)> isThere;
+    // Whether a file with that name exists beside the template.
+    std::function<bool(const std::string& name)> exists;
 };
 
-// Looks for the item's picture and, for each call of tavrinselmask and tavrinprevmask in the routine, for the
-// slides and pictures of those names that are written out as texts in the call.
-std::vector<SFinding> CheckPictures(const SPictureContext& context);
+// Checks the item's picture and, for each call of tavrinselmask and tavrinprevmask in the routine, the slides
+// and pictures whose names are literal texts in the call.
+std::vector<Finding> CheckPictures(const PictureContext& context);
+
+}  // namespace tavrin::tools

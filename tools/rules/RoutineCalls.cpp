@@ -3,33 +3,34 @@
 #include <optional>
 #include <utility>
 
-#include "devhost/lisp/Reader.h"
+#include "lisp/Reader.h"
+
+namespace tavrin::tools {
 
 namespace {
 
 constexpr std::wstring_view kChoice = L"TAVRINSELMASK";
 constexpr std::wstring_view kPreview = L"TAVRINPREVMASK";
 
-// Walks over what was read in the order in which it was written, so that texts are met as the reader met
-// them.
+// Visits the expressions in the order of the source, which is the order of the reader's text ranges.
 class CCallCollector {
 public:
     explicit CCallCollector(std::wstring_view routine) : m_reader(routine) {}
 
-    std::vector<SRoutineCall> Run() {
-        while (const std::optional<CValue> expression = m_reader.Read()) {
+    std::vector<RoutineCall> Run() {
+        while (const std::optional<lisp::CValue> expression = m_reader.Read()) {
             Visit(*expression);
         }
         return std::move(m_calls);
     }
 
 private:
-    // The reader bounds how deep a text may be nested, and with it the recursion.
-    void Visit(const CValue& value) {
-        if (value.Type() == VT_STRING) {
+    // The reader limits the nesting depth, and with it the recursion.
+    void Visit(const lisp::CValue& value) {
+        if (value.Type() == lisp::VT_STRING) {
             ++m_textCount;
         }
-        if (value.Type() != VT_PAIR) {
+        if (value.Type() != lisp::VT_PAIR) {
             return;
         }
         const bool isChoice = value.Car().IsSymbol(kChoice);
@@ -38,34 +39,36 @@ private:
         if (isCall) {
             m_calls.push_back({isChoice, false, {}});
         }
-        CValue rest = value;
-        for (int place = 0; rest.Type() == VT_PAIR; rest = rest.Cdr(), ++place) {
+        lisp::CValue rest = value;
+        for (int index = 0; rest.Type() == lisp::VT_PAIR; rest = rest.Cdr(), ++index) {
             if (isCall) {
-                TakeArgument(m_calls[call], place, rest.Car());
+                TakeArgument(m_calls[call], index, rest.Car());
             }
             Visit(rest.Car());
         }
-        Visit(rest);  // behind a dot
+        Visit(rest);  // the tail of a dotted pair
     }
 
     // (tavrinselmask CAPTION FLAT-ONLY NAME...), (tavrinprevmask NAME)
-    void TakeArgument(SRoutineCall& call, int place, const CValue& argument) const {
+    void TakeArgument(RoutineCall& call, int index, const lisp::CValue& argument) const {
         constexpr int kFlatOnly = 2;
-        if (call.isChoice && place == kFlatOnly) {
-            call.isFlatOnly = argument.Type() == VT_INTEGER && argument.AsInteger() != 0;
-        } else if (argument.Type() == VT_STRING && (!call.isChoice || place > kFlatOnly)) {
-            const CReader::SPlace& where = m_reader.TextPlaces()[m_textCount];
-            call.names.push_back({argument.AsString(), where.start, where.length});
+        if (call.isChoice && index == kFlatOnly) {
+            call.isFlatOnly = argument.Type() == lisp::VT_INTEGER && argument.AsInteger() != 0;
+        } else if (argument.Type() == lisp::VT_STRING && (!call.isChoice || index > kFlatOnly)) {
+            const lisp::CReader::TextRange& range = m_reader.TextRanges()[m_textCount];
+            call.names.push_back({argument.AsString(), range.start, range.length});
         }
     }
 
-    CReader m_reader;
-    std::size_t m_textCount = 0;  // that were met
-    std::vector<SRoutineCall> m_calls;
+    lisp::CReader m_reader;
+    std::size_t m_textCount = 0;  // visited so far
+    std::vector<RoutineCall> m_calls;
 };
 
 }  // namespace
 
-std::vector<SRoutineCall> FindRoutineCalls(std::wstring_view routine) {
+std::vector<RoutineCall> FindRoutineCalls(std::wstring_view routine) {
     return CCallCollector(routine).Run();
 }
+
+}  // namespace tavrin::tools

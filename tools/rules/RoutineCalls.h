@@ -1,4 +1,4 @@
-// The calls of the module's functions that a LISP routine holds, as far as they are written out in it.
+// The calls of the module's functions in a LISP routine.
 #pragma once
 
 #include <cstddef>
@@ -6,21 +6,25 @@
 #include <string_view>
 #include <vector>
 
-#include "devhost/lisp/LispError.h"
+#include "lisp/LispError.h"
 
-// A name that stands as a text in a call: what it is, and where it stands with its quotes, in characters.
-struct SRoutineName {
+namespace tavrin::tools {
+
+// A name that is a literal text in a call, and its range with the quotes, in characters.
+struct RoutineName {
     std::wstring text;
     std::size_t start = 0;
     std::size_t length = 0;
 };
 
-struct SRoutineCall {
-    bool isChoice = false;            // tavrinselmask; else tavrinprevmask
-    bool isFlatOnly = false;          // the choice's second argument is a number other than 0
-    std::vector<SRoutineName> names;  // of pictures or choices: the arguments that are texts
+struct RoutineCall {
+    bool isChoice = false;           // tavrinselmask; else tavrinprevmask
+    bool isFlatOnly = false;         // the choice's second argument is a number other than 0
+    std::vector<RoutineName> names;  // of pictures or choices: the literal texts
 };
 
 // The calls of tavrinselmask and tavrinprevmask, anywhere in the routine. Throws CLispError when its text
 // cannot be read.
-std::vector<SRoutineCall> FindRoutineCalls(std::wstring_view routine);
+std::vector<RoutineCall> FindRoutineCalls(std::wstring_view routine);
+
+}  // namespace tavrin::tools

@@ -1,11 +1,12 @@
-// Rules that belong together and look at a file's lines as they pass by. A group adds to the list that it is
-// made with.
+// A group of rules that checks a file line by line and adds its findings to a list.
 #pragma once
 
 #include <span>
 
 #include "tools/rules/FindingList.h"
 #include "tools/rules/ItemLine.h"
+
+namespace tavrin::tools {
 
 class CRuleGroup {
 public:
@@ -14,8 +15,8 @@ public:
     CRuleGroup(const CRuleGroup&) = delete;
     CRuleGroup& operator=(const CRuleGroup&) = delete;
 
-    virtual void TakeLine(const SItemLine& line) = 0;
-    // Behind the last line.
+    virtual void TakeLine(const ItemLine& line) = 0;
+    // Called after the last line.
     virtual void Finish() {}
 
 protected:
@@ -25,4 +26,6 @@ private:
     CFindingList& m_findings;
 };
 
-using RuleList = std::span<const SRule* const>;
+using RuleList = std::span<const Rule* const>;
+
+}  // namespace tavrin::tools

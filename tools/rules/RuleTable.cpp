@@ -15,14 +15,16 @@
 #include "tools/rules/TitleRules.h"
 #include "tools/rules/ValueRules.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-struct SGroup {
+struct Group {
     std::string_view title;
     RuleList rules;
 };
 
-std::vector<SGroup> Groups() {
+std::vector<Group> Groups() {
     return {{"The title", TitleRules()},
             {"Blocks", BlockRules()},
             {"Lines that were meant as parameters", LineRules()},
@@ -36,7 +38,7 @@ std::vector<SGroup> Groups() {
             {"Texts", TextRules()}};
 }
 
-// Every line behind `start`, as Markdown's code.
+// Lines as a Markdown code block.
 std::string Indented(std::string_view lines) {
     std::string text = "    ";
     for (const char character : lines) {
@@ -51,9 +53,9 @@ std::string Indented(std::string_view lines) {
 }  // namespace
 
 RuleList AllRules() {
-    static const std::vector<const SRule*> rules = [] {
-        std::vector<const SRule*> all;
-        for (const SGroup& group : Groups()) {
+    static const std::vector<const Rule*> rules = [] {
+        std::vector<const Rule*> all;
+        for (const Group& group : Groups()) {
             all.insert(all.end(), group.rules.begin(), group.rules.end());
         }
         return all;
@@ -61,19 +63,19 @@ RuleList AllRules() {
     return rules;
 }
 
-const SRule* FindRule(std::string_view id) {
+const Rule* FindRule(std::string_view id) {
     const RuleList rules = AllRules();
     const auto found =
-        std::find_if(rules.begin(), rules.end(), [id](const SRule* rule) { return rule->id == id; });
+        std::find_if(rules.begin(), rules.end(), [id](const Rule* rule) { return rule->id == id; });
     return found != rules.end() ? *found : nullptr;
 }
 
 std::string RulesText() {
     std::string text;
-    for (const SGroup& group : Groups()) {
+    for (const Group& group : Groups()) {
         text += text.empty() ? "## " : "\n## ";
         text.append(group.title).append("\n");
-        for (const SRule* const rule : group.rules) {
+        for (const Rule* const rule : group.rules) {
             text.append("\n### ").append(rule->id).append("\n\n");
             text.append(SeverityName(rule->severity)).append(": ").append(rule->title).append(".\n\n");
             text.append(rule->explanation).append("\n\n").append(Indented(rule->example)).append("\n");
@@ -81,3 +83,5 @@ std::string RulesText() {
     }
     return text;
 }
+
+}  // namespace tavrin::tools

@@ -6,11 +6,15 @@
 
 #include "tools/rules/RuleGroup.h"
 
-// In the order in which they are listed: by what they are about.
+namespace tavrin::tools {
+
+// In the order of the documentation.
 RuleList AllRules();
 
-// Null when there is no such rule.
-const SRule* FindRule(std::string_view id);
+// Null for an unknown id.
+const Rule* FindRule(std::string_view id);
 
-// Each rule with its explanation and its example, as Markdown that reads well as it is.
+// Each rule with its explanation and its example, as Markdown.
 std::string RulesText();
+
+}  // namespace tavrin::tools

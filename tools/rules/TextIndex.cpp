@@ -2,9 +2,11 @@
 
 #include <utility>
 
+namespace tavrin::tools {
+
 namespace {
 
-// FNV-1a over characters, folded, since the lower bits alone choose a slot.
+// FNV-1a over characters, folded, since only the lower bits choose a slot.
 std::uint32_t HashOf(std::wstring_view text) {
     std::uint64_t hash = 0xCBF29CE484222325U;
     for (const wchar_t character : text) {
@@ -20,7 +22,7 @@ std::size_t CTextIndex::FindOrAdd(std::wstring_view text, std::size_t line) {
         Grow();
     }
     const std::uint32_t hash = HashOf(text);
-    SSlot& slot = m_slots[SlotOf(text, hash)];
+    Slot& slot = m_slots[SlotOf(text, hash)];
     if (slot.entry == 0) {
         m_entries.push_back({m_texts.size(), line});
         m_texts += text;
@@ -33,7 +35,7 @@ std::optional<std::size_t> CTextIndex::Find(std::wstring_view text) const {
     if (m_entries.empty()) {
         return std::nullopt;
     }
-    const SSlot& slot = m_slots[SlotOf(text, HashOf(text))];
+    const Slot& slot = m_slots[SlotOf(text, HashOf(text))];
     return slot.entry == 0 ? std::nullopt : std::optional(m_entries[slot.entry - 1].line);
 }
 
@@ -43,13 +45,13 @@ std::wstring_view CTextIndex::TextOf(std::size_t entry) const {
     return std::wstring_view(m_texts).substr(start, end - start);
 }
 
-// The place of the slot that holds the text, or of the empty one where it belongs.
+// The slot of the text, or the empty slot for it.
 std::size_t CTextIndex::SlotOf(std::wstring_view text, std::uint32_t hash) const {
     const std::size_t mask = m_slots.size() - 1;
-    for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
-        const SSlot& slot = m_slots[place];
+    for (std::size_t index = hash & mask;; index = (index + 1) & mask) {
+        const Slot& slot = m_slots[index];
         if (slot.entry == 0 || (slot.hash == hash && TextOf(slot.entry - 1) == text)) {
-            return place;
+            return index;
         }
     }
 }
@@ -57,15 +59,17 @@ std::size_t CTextIndex::SlotOf(std::wstring_view text, std::uint32_t hash) const
 void CTextIndex::Grow() {
     constexpr std::size_t kFirstSize = 64;
     constexpr std::size_t kGrowth = 4;
-    const std::vector<SSlot> before = std::move(m_slots);
+    const std::vector<Slot> before = std::move(m_slots);
     m_slots.assign(before.empty() ? kFirstSize : kGrowth * before.size(), {});
-    for (const SSlot& slot : before) {
+    for (const Slot& slot : before) {
         if (slot.entry != 0) {
-            std::size_t place = slot.hash;
-            while (m_slots[place & (m_slots.size() - 1)].entry != 0) {
-                ++place;
+            std::size_t index = slot.hash;
+            while (m_slots[index & (m_slots.size() - 1)].entry != 0) {
+                ++index;
             }
-            m_slots[place & (m_slots.size() - 1)] = slot;
+            m_slots[index & (m_slots.size() - 1)] = slot;
         }
     }
 }
+
+}  // namespace tavrin::tools

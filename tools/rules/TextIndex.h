@@ -1,5 +1,6 @@
-// Remembers texts, each with the line that had it first. Made for many of them: all lie in one piece of
-// memory, and a look-up touches it once or twice.
+// A map from texts to the first line with the text: an open-addressing hash table with all texts in one
+// string. It keeps the check of a file with a million parameters within the time and memory that
+// docs/performance.md sets, which std::unordered_map does not.
 #pragma once
 
 #include <cstddef>
@@ -9,31 +10,34 @@
 #include <string_view>
 #include <vector>
 
+namespace tavrin::tools {
+
 class CTextIndex {
 public:
-    // The line that had the text before; when none had, it is remembered for this one, which is the answer.
+    // The first line with the text; the given one, which is added, when there was none.
     std::size_t FindOrAdd(std::wstring_view text, std::size_t line);
 
-    // The line that had the text; nothing when it is not known.
+    // The first line with the text; nothing when there is none.
     std::optional<std::size_t> Find(std::wstring_view text) const;
 
 private:
-    struct SEntry {
+    struct Entry {
         std::size_t start = 0;  // in m_texts; the text ends where the next one starts
         std::size_t line = 0;
     };
-    // The hash is kept beside the entry's place, so that a slot of another text is passed by without a look
-    // at that text.
-    struct SSlot {
+    // With the hash, so that probing rarely compares texts.
+    struct Slot {
         std::uint32_t hash = 0;
-        std::uint32_t entry = 0;  // its place plus one, or 0
+        std::uint32_t entry = 0;  // index plus one; 0 for an empty slot
     };
 
     std::size_t SlotOf(std::wstring_view text, std::uint32_t hash) const;
     std::wstring_view TextOf(std::size_t entry) const;
     void Grow();
 
-    std::wstring m_texts;  // one behind the other
-    std::vector<SEntry> m_entries;
-    std::vector<SSlot> m_slots;  // a power of two of them
+    std::wstring m_texts;  // concatenated
+    std::vector<Entry> m_entries;
+    std::vector<Slot> m_slots;  // their number is a power of two
 };
+
+}  // namespace tavrin::tools

@@ -5,33 +5,35 @@
 #include "imagedlg/ChoiceSlides.h"
 #include "itemdlg/ItemFiles.h"
 
+namespace tavrin::tools {
+
 namespace {
 
-constexpr SRule kTextTooLong = {
+constexpr Rule kTextTooLong = {
     "text-too-long", SV_ERROR, "a text of more than 255 characters",
-    "The module reads 255 characters of a text; the rest is cut off.",
+    "The module reads 255 characters of a text and drops the rest.",
     "1501 \"Clear width of the leaf, measured between ... (256 characters or more)\""};
 
-constexpr SRule kTextMissing = {"text-missing", SV_ERROR, "a text is missing in one language",
-                                "The languages that are given with --texts should have the same numbers. "
-                                "Where a text is missing, its label\n"
-                                "or title comes out empty in that language.",
-                                "--texts TavrinRes.it.rc (has text 1501) --texts TavrinRes.en.rc (has not)"};
+constexpr Rule kTextMissing = {
+    "text-missing", SV_ERROR, "a text is missing in one language",
+    "The files given with --texts should have the same numbers. Where a text is missing, its label or title\n"
+    "is empty in that language.",
+    "--texts TavrinRes.it.rc (has text 1501) --texts TavrinRes.en.rc (has not)"};
 
-constexpr SRule kTextUnused = {"text-unused", SV_NOTE, "a text that none of the checked files uses",
-                               "No placeholder in the files that were checked names it, and the module "
-                               "itself does not use it. Check all\n"
-                               "items together before you remove it.",
-                               "1599 \"Handle colour\""};
+constexpr Rule kTextUnused = {
+    "text-unused", SV_NOTE, "a text that none of the checked files uses",
+    "No placeholder in the checked files uses it, and neither does the module. Check all items together\n"
+    "before you remove it.",
+    "1599 \"Handle colour\""};
 
-constexpr const SRule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
+constexpr const Rule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
 
 // The texts that the module itself uses.
-constexpr unsigned kModuleTexts[] = {tavrin::itemdlg::kHeaderPrefixText, tavrin::imagedlg::kNoSlideText};
+constexpr unsigned kModuleTexts[] = {itemdlg::kHeaderPrefixText, imagedlg::kNoSlideText};
 
-// The excerpt is the text as it was read, which in a module has no other form.
-SFinding AtText(const CTextTable& texts, const SText& text, const SRule& rule, const std::string& message) {
-    SFinding finding;
+// The excerpt is the text as it was read, since a module has no lines.
+Finding AtText(const CTextTable& texts, const TextEntry& text, const Rule& rule, const std::string& message) {
+    Finding finding;
     finding.rule = &rule;
     finding.file = texts.Files()[text.file];
     finding.line = text.line;
@@ -60,9 +62,9 @@ RuleList TextRules() {
     return kRules;
 }
 
-std::vector<SFinding> CheckTexts(const CTextTable& texts, const TextNumbers& used) {
-    std::vector<SFinding> findings;
-    for (const SText& text : texts.Texts()) {
+std::vector<Finding> CheckTexts(const CTextTable& texts, const TextNumbers& used) {
+    std::vector<Finding> findings;
+    for (const TextEntry& text : texts.Texts()) {
         if (text.text.size() > CTextTable::kLongestText) {
             findings.push_back(AtText(
                 texts, text, kTextTooLong,
@@ -83,3 +85,5 @@ std::vector<SFinding> CheckTexts(const CTextTable& texts, const TextNumbers& use
     }
     return findings;
 }
+
+}  // namespace tavrin::tools

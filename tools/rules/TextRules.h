@@ -1,4 +1,4 @@
-// The texts that placeholders stand for, by themselves.
+// The texts of placeholders.
 #pragma once
 
 #include <bitset>
@@ -7,10 +7,14 @@
 #include "tools/rules/RuleGroup.h"
 #include "tools/texts/TextTable.h"
 
+namespace tavrin::tools {
+
 RuleList TextRules();
 
-// The numbers of texts that files use.
-using TextNumbers = std::bitset<tavrin::itemdlg::kHighestTextNumber + 1>;
+// The numbers of the texts that files use.
+using TextNumbers = std::bitset<itemdlg::kHighestTextNumber + 1>;
 
 // Checks the texts themselves and against the numbers that the checked files use.
-std::vector<SFinding> CheckTexts(const CTextTable& texts, const TextNumbers& used);
+std::vector<Finding> CheckTexts(const CTextTable& texts, const TextNumbers& used);
+
+}  // namespace tavrin::tools

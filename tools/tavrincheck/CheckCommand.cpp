@@ -5,18 +5,21 @@
 #include <set>
 #include <string_view>
 
+#include "cmdline/CommandLine.h"
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemFiles.h"
-#include "tools/cmdline/Output.h"
 #include "tools/files/Files.h"
-#include "tools/findings/Report.h"
 #include "tools/rules/Checker.h"
 #include "tools/rules/PictureRules.h"
 #include "tools/rules/RuleTable.h"
 #include "tools/rules/TextRules.h"
 #include "tools/tavrincheck/CheckOptions.h"
 #include "tools/tavrincheck/FileList.h"
-#include "tools/texts/CodePage.h"
+#include "tools/tavrincheck/Output.h"
+#include "tools/tavrincheck/Report.h"
 #include "tools/texts/TextTable.h"
+
+namespace tavrin::tools {
 
 namespace {
 
@@ -24,13 +27,13 @@ enum EExitStatus { ES_CLEAN, ES_FINDINGS, ES_COULD_NOT_RUN };
 
 constexpr char kVersion[] = TAVRIN_VERSION;
 
-// One run over all files: what was found, and what kept files from being checked.
+// The check of all files: findings and errors.
 class CCheckRun {
 public:
-    explicit CCheckRun(const SCheckOptions& options) : m_options(options) {
+    explicit CCheckRun(const CheckOptions& options) : m_options(options) {
         for (const std::string& rule : options.disabledRules) {
             if (FindRule(rule) == nullptr) {
-                throw CToolError("--disable: there is no rule '" + rule + "', see --rules");
+                throw cmdline::InvalidValue("--disable", rule, "the name of a rule, see --rules");
             }
             m_disabled.insert(rule);
         }
@@ -40,10 +43,10 @@ public:
     }
 
     void Run() {
-        SFileList list = ListFiles(m_options.names);
+        FileList list = ListFiles(m_options.names);
         m_errors = std::move(list.errors);
         m_remarks = std::move(list.remarks);
-        for (const SItemFile& file : list.files) {
+        for (const ItemFile& file : list.files) {
             try {
                 CheckFile(file);
             } catch (const CToolError& error) {
@@ -55,20 +58,20 @@ public:
         }
     }
 
-    const std::vector<SFinding>& Findings() const { return m_findings; }
+    const std::vector<Finding>& Findings() const { return m_findings; }
     const std::vector<std::string>& Errors() const { return m_errors; }
     const std::vector<std::string>& Remarks() const { return m_remarks; }
 
 private:
-    void Add(std::vector<SFinding> findings) {
+    void Add(std::vector<Finding> findings) {
         std::copy_if(std::make_move_iterator(findings.begin()), std::make_move_iterator(findings.end()),
                      std::back_inserter(m_findings),
-                     [this](const SFinding& finding) { return !m_disabled.contains(finding.rule->id); });
+                     [this](const Finding& finding) { return !m_disabled.contains(finding.rule->id); });
     }
 
-    void CheckFile(const SItemFile& file) {
+    void CheckFile(const ItemFile& file) {
         const std::string bytes = ReadBytes(file.name);
-        SCheckContext context;
+        CheckContext context;
         context.file = file.name;
         context.isWorkingFile = file.isWorkingFile;
         context.texts = m_options.texts.empty() ? nullptr : &m_texts;
@@ -82,27 +85,27 @@ private:
         }
     }
 
-    // The pair is compared once, with whichever of the two comes first.
-    void ComparePairOf(const SItemFile& file, const std::string& bytes) {
+    // Compares each pair once, with the first of its two files.
+    void ComparePairOf(const ItemFile& file, const std::string& bytes) {
         const std::string other =
-            file.item + Utf8Text(file.isWorkingFile ? tavrin::itemdlg::kTemplateFileEnding
-                                                    : tavrin::itemdlg::kWorkingFileEnding);
+            file.item + encoding::EncodeUtf8(file.isWorkingFile ? itemdlg::kTemplateFileEnding
+                                                                : itemdlg::kWorkingFileEnding);
         if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
             return;
         }
         const std::string otherBytes = ReadBytes(other);
-        const SNamedBytes mine{file.name, bytes};
-        const SNamedBytes others{other, otherBytes};
+        const NamedBytes mine{file.name, bytes};
+        const NamedBytes others{other, otherBytes};
         Add(file.isWorkingFile ? ComparePair(others, mine) : ComparePair(mine, others));
     }
 
-    void CheckPicturesOf(const SItemFile& file) {
+    void CheckPicturesOf(const ItemFile& file) {
         const std::filesystem::path folder = PathOf(file.item).parent_path();
-        SPictureContext context;
+        PictureContext context;
         context.templateFile = file.name;
         context.routineFile = file.item + ".lsp";
         context.baseName = NameOf(PathOf(file.item).filename());
-        context.isThere = [&](const std::string& name) { return IsFile(NameOf(folder / PathOf(name))); };
+        context.exists = [&](const std::string& name) { return IsFile(NameOf(folder / PathOf(name))); };
         if (IsFile(context.routineFile)) {
             context.routine = ReadBytes(context.routineFile);
         }
@@ -114,17 +117,17 @@ private:
         return std::filesystem::is_regular_file(PathOf(name), ignored);
     }
 
-    const SCheckOptions& m_options;
+    const CheckOptions& m_options;
     std::set<std::string, std::less<>> m_disabled;
     CTextTable m_texts;
     TextNumbers m_usedTexts;
     std::set<std::string> m_comparedItems;
-    std::vector<SFinding> m_findings;
+    std::vector<Finding> m_findings;
     std::vector<std::string> m_errors;
     std::vector<std::string> m_remarks;
 };
 
-std::string Report(const std::vector<SFinding>& findings, EReportFormat format) {
+std::string Report(const std::vector<Finding>& findings, EReportFormat format) {
     switch (format) {
         case RF_JSON:
             return JsonReport(findings);
@@ -138,7 +141,7 @@ std::string Report(const std::vector<SFinding>& findings, EReportFormat format) 
 }  // namespace
 
 int RunCheck(const std::vector<std::string>& arguments) {
-    const SCheckOptions options = ParseCheckOptions(arguments);
+    const CheckOptions options = ParseCheckOptions(arguments);
     if (options.help || options.version || options.listRules) {
         Print(options.help      ? CheckHelp()
               : options.version ? "tavrincheck " + std::string(kVersion) + "\n"
@@ -158,6 +161,8 @@ int RunCheck(const std::vector<std::string>& arguments) {
     }
     const bool counts = std::any_of(
         run.Findings().begin(), run.Findings().end(),
-        [&](const SFinding& finding) { return options.strict || finding.rule->severity != SV_NOTE; });
+        [&](const Finding& finding) { return options.strict || finding.rule->severity != SV_NOTE; });
     return counts ? ES_FINDINGS : ES_CLEAN;
 }
+
+}  // namespace tavrin::tools

@@ -1,23 +1,25 @@
 #include "tools/tavrincheck/CheckOptions.h"
 
+#include <map>
 #include <sstream>
 
-#include "tools/cmdline/Arguments.h"
+#include "cmdline/CommandLine.h"
 #include "tools/files/Files.h"
+
+namespace tavrin::tools {
+
+using cmdline::CCommandLine;
 
 namespace {
 
 EReportFormat FormatOf(const std::string& name) {
-    if (name == "text") {
-        return RF_TEXT;
+    static const std::map<std::string, EReportFormat> kFormats = {
+        {"text", RF_TEXT}, {"json", RF_JSON}, {"sarif", RF_SARIF}};
+    const auto format = kFormats.find(name);
+    if (format == kFormats.end()) {
+        throw cmdline::InvalidValue("--format", name, "text, json or sarif");
     }
-    if (name == "json") {
-        return RF_JSON;
-    }
-    if (name == "sarif") {
-        return RF_SARIF;
-    }
-    throw CToolError("--format does not know '" + name + "': give text, json or sarif");
+    return format->second;
 }
 
 void AppendList(std::vector<std::string>& list, const std::string& value) {
@@ -27,48 +29,25 @@ void AppendList(std::vector<std::string>& list, const std::string& value) {
     }
 }
 
-bool* FlagOf(SCheckOptions& options, const std::string& name) {
-    if (name == "--strict") {
-        return &options.strict;
-    }
-    if (name == "--rules") {
-        return &options.listRules;
-    }
-    if (name == "--help" || name == "-h") {
-        return &options.help;
-    }
-    return name == "--version" ? &options.version : nullptr;
-}
-
-void TakeOption(SCheckOptions& options, CArguments& arguments) {
-    const std::string& name = arguments.Current();
-    if (name == "--format") {
-        options.format = FormatOf(arguments.Value("text, json or sarif"));
-    } else if (name == "--disable") {
-        AppendList(options.disabledRules, arguments.Value("the name of a rule"));
-    } else if (name == "--texts") {
-        options.texts.push_back(arguments.Value("a string table script or a DLL"));
-    } else if (bool* const flag = FlagOf(options, name)) {
-        arguments.ExpectNoValue();
-        *flag = true;
-    } else {
-        arguments.FailUnknown();
-    }
-}
-
 }  // namespace
 
-SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
-    SCheckOptions options;
-    for (CArguments rest(arguments); rest.Next();) {
-        if (rest.IsOption()) {
-            TakeOption(options, rest);
-        } else {
-            options.names.push_back(rest.Current());
-        }
-    }
+CheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
+    CheckOptions options;
+    CCommandLine commandLine;
+    commandLine.AddOption("--format", "json",
+                          [&](const std::string& value) { options.format = FormatOf(value); });
+    commandLine.AddOption("--disable", "block-empty",
+                          [&](const std::string& value) { AppendList(options.disabledRules, value); });
+    commandLine.AddTexts("--texts", "TavrinRes.rc", options.texts);
+    commandLine.AddFlag("--strict", options.strict);
+    commandLine.AddExitFlag("--rules", options.listRules);
+    commandLine.AddExitFlag("--version", options.version);
+    commandLine.AddExitFlag("--help", options.help);
+    commandLine.AddExitFlag("-h", options.help);
+    commandLine.AddArguments(options.names);
+    commandLine.Parse(arguments);
     if (options.names.empty() && !options.help && !options.version && !options.listRules) {
-        throw CToolError("there is nothing to check: name a file or a folder, or see --help");
+        throw CToolError("nothing to check: give a file or a folder, or see --help");
     }
     return options;
 }
@@ -77,21 +56,24 @@ const char* CheckHelp() {
     return R"(tavrincheck: checks item files as the module reads them
 
   tavrincheck [OPTIONS] FILE|FOLDER...
+  tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
+  tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
 
-NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared when both are
-there. In folders all *.TXT are checked. Beside NAME.TXT the picture NAME.png and the slides that NAME.lsp
-offers are looked for.
+NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared if both exist. In
+folders all *.TXT are checked. The picture NAME.png and the slides that NAME.lsp offers must exist beside NAME.TXT.
 
-  --texts FILE       the texts that placeholders stand for: a string table script or a TavrinRes.dll;
-                     repeatable, one per language
-  --format FORMAT    text (the default), json or sarif
-  --disable RULES    leave out a rule, or several with commas between them; repeatable
-  --strict           let notes count for the exit status
+  --texts FILE       the texts of placeholders: a string table script or a TavrinRes.dll; repeatable, one per
+                     language
+  --format FORMAT    text (default), json or sarif
+  --disable RULES    disable a rule, or several separated by commas; repeatable
+  --strict           notes count for the exit status too
   --rules            print all rules, each with an explanation and an example
   --version          print the version
-  --help             print this text
+  -h, --help         print this help
 
-Exit status: 0 nothing was found, or nothing but notes without --strict; 1 something was found; 2 a file
-could not be read, the findings could not be printed, or the command line makes no sense.
+Exit status: 0 no findings, or only notes without --strict; 1 findings; 2 a file could not be read, the findings
+could not be printed, or the command line is invalid.
 )";
 }
+
+}  // namespace tavrin::tools

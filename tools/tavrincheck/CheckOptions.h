@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::tools {
+
 enum EReportFormat { RF_TEXT, RF_JSON, RF_SARIF };
 
-struct SCheckOptions {
+struct CheckOptions {
     std::vector<std::string> names;  // files and folders
     std::vector<std::string> texts;
     std::vector<std::string> disabledRules;
@@ -17,9 +19,11 @@ struct SCheckOptions {
     bool version = false;
 };
 
-// Reads the arguments. An option's value stands behind it or behind its "="; what follows "--" is no option.
-// Throws CToolError for an option that is not known, one without its value, and when there is nothing to do.
-SCheckOptions ParseCheckOptions(const std::vector<std::string>& arguments);
+// Throws CUsageError (cmdline/CommandLine.h) for options that are wrong, and CToolError when there is nothing
+// to do.
+CheckOptions ParseCheckOptions(const std::vector<std::string>& arguments);
 
 // What --help prints.
 const char* CheckHelp();
+
+}  // namespace tavrin::tools

@@ -5,29 +5,31 @@
 #include <optional>
 #include <set>
 
+#include "encoding/Encoding.h"
 #include "itemdlg/ItemFiles.h"
 #include "tools/files/Files.h"
 #include "tools/files/ItemName.h"
-#include "tools/texts/CodePage.h"
+
+namespace tavrin::tools {
 
 namespace {
 
 namespace fs = std::filesystem;
 
-SItemFile ItemFileOf(const std::string& name) {
-    if (const std::optional<std::string> item = WithoutEnding(name, tavrin::itemdlg::kWorkingFileEnding)) {
+ItemFile ItemFileOf(const std::string& name) {
+    if (const std::optional<std::string> item = WithoutEnding(name, itemdlg::kWorkingFileEnding)) {
         return {name, true, *item};
     }
-    return {name, false, WithoutEnding(name, tavrin::itemdlg::kTemplateFileEnding).value_or("")};
+    return {name, false, WithoutEnding(name, itemdlg::kTemplateFileEnding).value_or("")};
 }
 
-// A link that leads nowhere counts as a file: that it cannot be read must be said.
+// A broken link counts as a file, so that it is reported.
 bool IsFile(const fs::directory_entry& entry) {
     return entry.is_regular_file() || (entry.is_symlink() && !entry.exists());
 }
 
-void AppendFolder(const std::string& folder, std::vector<std::string>& names, SFileList& list) {
-    const std::string ending = Utf8Text(tavrin::itemdlg::kTemplateFileEnding);
+void AppendFolder(const std::string& folder, std::vector<std::string>& names, FileList& list) {
+    const std::string ending = encoding::EncodeUtf8(itemdlg::kTemplateFileEnding);
     std::vector<std::string> found;
     bool isRead = true;
     try {
@@ -50,8 +52,8 @@ void AppendFolder(const std::string& folder, std::vector<std::string>& names, SF
 
 }  // namespace
 
-SFileList ListFiles(const std::vector<std::string>& names) {
-    SFileList list;
+FileList ListFiles(const std::vector<std::string>& names) {
+    FileList list;
     std::vector<std::string> all;
     for (const std::string& name : names) {
         std::error_code ignored;
@@ -72,3 +74,5 @@ SFileList ListFiles(const std::vector<std::string>& names) {
     }
     return list;
 }
+
+}  // namespace tavrin::tools

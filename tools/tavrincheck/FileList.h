@@ -1,22 +1,25 @@
-// Which files are checked, and which of them belong to one item.
+// The files to check, and their items.
 #pragma once
 
 #include <string>
 #include <vector>
 
-struct SItemFile {
-    std::string name;  // UTF-8, as the user gave it or found in a folder
+namespace tavrin::tools {
+
+struct ItemFile {
+    std::string name;  // UTF-8, as the user gave it or as found in a folder
     bool isWorkingFile = false;
-    // The base name of the item with its folder; empty when the file's name is none of an item's.
+    // The item's base name with its folder; empty when the file does not have the name of an item's file.
     std::string item;
 };
 
-struct SFileList {
-    std::vector<SItemFile> files;
+struct FileList {
+    std::vector<ItemFile> files;
     std::vector<std::string> errors;   // names that are neither file nor folder, folders that cannot be read
-    std::vector<std::string> remarks;  // folders without any such file, which may be a slip
+    std::vector<std::string> remarks;  // folders without item files, probably a mistake
 };
 
-// The files that names stand for: a file is itself, a folder all files in it and below whose names end in
-// .TXT, written so, in the order of their names. A file that is named twice is there once.
-SFileList ListFiles(const std::vector<std::string>& names);
+// Files, and for each folder all *.TXT in it and its subfolders, sorted by name. Each file is listed once.
+FileList ListFiles(const std::vector<std::string>& names);
+
+}  // namespace tavrin::tools

@@ -14,37 +14,33 @@
 #include <shellapi.h>
 #endif
 
-#include "tools/extract/ExtractCommand.h"
+#include "encoding/Encoding.h"
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewCommand.h"
 #include "tools/tavrincheck/CheckCommand.h"
+#include "tools/tavrincheck/ExtractCommand.h"
+#include "tools/tavrincheck/PreviewCommand.h"
+
+namespace tavrin::tools {
 
 namespace {
 
-// The exit status of a run that could not do its work.
+// The exit status after an error.
 constexpr int kCouldNotRun = 2;
 
 #ifdef _WIN32
-std::string Utf8(const wchar_t* text) {
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    std::string bytes(size > 0 ? static_cast<std::size_t>(size - 1) : 0, '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text, -1, bytes.data(), size, nullptr, nullptr);
-    return bytes;
-}
-
-// The runtime's arguments are in the system's code page, which not all names of files can be written in.
+// The runtime's arguments are in the system's code page, which does not have all characters of file names.
 std::vector<std::string> Arguments(int /*count*/, char** /*values*/) {
     int count = 0;
     wchar_t** const values = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::string> arguments;
     for (int i = 1; i < count; ++i) {
-        arguments.push_back(Utf8(values[i]));
+        arguments.push_back(encoding::EncodeUtf8(values[i]));
     }
     LocalFree(values);
     return arguments;
 }
 
-// What is printed is UTF-8 with line feeds, the same on all systems.
+// The output is UTF-8 with line feeds on all systems.
 void PrepareOutput() {
     SetConsoleOutputCP(CP_UTF8);
     _setmode(_fileno(stdout), _O_BINARY);
@@ -57,7 +53,8 @@ std::vector<std::string> Arguments(int count, char** values) {
 void PrepareOutput() {}
 #endif
 
-// What a subcommand does with the arguments behind its name; gives the exit status. May throw CToolError.
+// Runs a subcommand with the arguments after its name and returns the exit status. May throw CToolError and
+// CUsageError.
 using Command = int (*)(const std::vector<std::string>& arguments);
 
 int Run(std::vector<std::string> arguments) {
@@ -75,14 +72,17 @@ int Run(std::vector<std::string> arguments) {
 
 }  // namespace
 
+}  // namespace tavrin::tools
+
 int main(int count, char** values) {
+    using namespace tavrin::tools;
     try {
         PrepareOutput();
         return Run(Arguments(count, values));
     } catch (const CToolError& error) {
         std::fprintf(stderr, "tavrincheck: %s\n", error.what());
     } catch (const std::bad_alloc&) {
-        std::fputs("tavrincheck: there is not enough memory\n", stderr);
+        std::fputs("tavrincheck: out of memory\n", stderr);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "tavrincheck: %s\n", error.what());
     }

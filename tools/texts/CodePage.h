@@ -1,21 +1,21 @@
-// Single-byte and UTF-8 text of a script as UTF-16, and back.
+// Text of a script in its code page as UTF-16, and back.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
 
-// The code pages that a script's texts may be written in. Bytes below 0x80 mean the same in each.
+namespace tavrin::tools {
+
+// The supported code pages. Bytes below 0x80 are ASCII in every code page.
 inline constexpr unsigned kUtf8 = 65001;
 inline constexpr unsigned kWesternEuropean = 1252;
 
-// The text that bytes stand for, in UTF-16 units. Nothing when the bytes are no text of the code page: when
-// they are no well-formed UTF-8, or one has no meaning, or a byte beyond ASCII stands in an unknown page.
+// The text of bytes, in UTF-16 units. Nothing for ill-formed UTF-8, for bytes without a meaning in code page
+// 1252, and for bytes beyond ASCII in an unknown code page.
 std::optional<std::wstring> DecodeText(std::string_view bytes, unsigned codePage);
 
-// The bytes of one character, given as a UTF-16 unit or as a whole character beyond 0xFFFF; nothing when the
-// code page does not have it. Surrogates alone are no characters.
+// The bytes of one character; nothing when the code page does not have it, or for a surrogate.
 std::optional<std::string> EncodeCharacter(char32_t character, unsigned codePage);
 
-// A text of UTF-16 units as UTF-8, for messages; an unpaired surrogate becomes U+FFFD.
-std::string Utf8Text(std::wstring_view text);
+}  // namespace tavrin::tools

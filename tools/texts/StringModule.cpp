@@ -1,5 +1,5 @@
-// Reads the file's resource directory: a tree of three levels (type, name, language) that ends in entries
-// which say where a block of sixteen texts lies.
+// Reads the file's resource directory: a tree of three levels (type, name, language) whose leaves give the
+// address of a block of sixteen texts.
 #include "tools/texts/StringModule.h"
 
 #include <cstddef>
@@ -10,6 +10,8 @@
 
 #include "tools/files/Files.h"
 #include "tools/texts/LanguageName.h"
+
+namespace tavrin::tools {
 
 namespace {
 
@@ -22,7 +24,7 @@ class CModuleReader {
 public:
     CModuleReader(const std::string& name, std::string_view bytes) : m_name(name), m_bytes(bytes) {}
 
-    std::vector<SModuleText> Read() {
+    std::vector<ModuleText> Read() {
         FindResources();
         if (m_resources != 0) {
             ForEachEntry(0, [this](std::uint32_t type, std::uint32_t names) {
@@ -46,18 +48,18 @@ private:
     std::uint32_t Word(std::size_t offset) const { return Byte(offset) | Byte(offset + 1) << 8; }
     std::uint32_t DoubleWord(std::size_t offset) const { return Word(offset) | Word(offset + 2) << 16; }
 
-    // The headers tell where the resources lie: in memory, from which the sections tell where in the file.
+    // The headers give the address of the resources in memory; the sections map it to an offset in the file.
     void FindResources() {
         const std::size_t header = DoubleWord(0x3C);
         if (DoubleWord(header) != 0x00004550) {
-            Fail("this is no module: a DLL or EXE file, or a resource script, is expected");
+            Fail("not a module: a DLL or EXE file, or a resource script, is expected");
         }
         const std::size_t sectionCount = Word(header + 6);
         const std::size_t optional = header + 24;
         const std::size_t optionalSize = Word(header + 20);
         const std::uint32_t magic = optionalSize >= 2 ? Word(optional) : 0;
         if (magic != 0x10B && magic != 0x20B) {
-            Fail("this is no module of Windows: its header has no known form");
+            Fail("not a Windows module: its header has an unknown format");
         }
         const std::size_t directories = optional + (magic == 0x20B ? 108 : 92);
         constexpr std::size_t kResourceDirectory = 2;
@@ -82,11 +84,11 @@ private:
                 return std::size_t{DoubleWord(section + 20)} + (address - start);
             }
         }
-        Fail("its resources lie in no section of the file");
+        Fail("its resources are outside of all sections");
     }
 
-    // In a sound file no byte of the resources is read twice. What is read is counted, so that entries which
-    // share their targets cannot multiply the work.
+    // In a valid file no byte of the resources is read twice. The bytes read are counted, so that entries
+    // with shared targets cannot multiply the work.
     void Charge(std::size_t bytes) {
         m_charged += bytes;
         if (m_charged > m_bytes.size()) {
@@ -109,7 +111,7 @@ private:
 
     std::uint32_t Subdirectory(std::uint32_t target) const {
         if ((target & kSubdirectory) == 0) {
-            Fail("its resource directory has not the three levels that it must have");
+            Fail("its resource directory does not have three levels");
         }
         return target & ~kSubdirectory;
     }
@@ -117,7 +119,7 @@ private:
     void ReadBlocks(std::uint32_t names) {
         ForEachEntry(Subdirectory(names), [this](std::uint32_t block, std::uint32_t languages) {
             if (block == 0 || block > kLastBlock) {
-                Fail("it has a block of texts with the impossible number " + std::to_string(block));
+                Fail("it has a block of texts with the invalid number " + std::to_string(block));
             }
             ForEachEntry(Subdirectory(languages), [&](std::uint32_t language, std::uint32_t data) {
                 if ((data & kSubdirectory) != 0) {
@@ -139,7 +141,7 @@ private:
             const std::size_t length = Word(at);
             at += 2;
             if (length * 2 > end - at) {
-                Fail("text " + std::to_string(number) + " is longer than the block that it lies in");
+                Fail("text " + std::to_string(number) + " is longer than its block");
             }
             if (length > 0) {
                 m_texts.push_back({number, Units(at, length), LanguageName(language)});
@@ -163,7 +165,7 @@ private:
     std::size_t m_sectionCount = 0;
     std::size_t m_resources = 0;  // where the directory begins in the file; 0 when there is none
     std::size_t m_charged = 0;
-    std::vector<SModuleText> m_texts;
+    std::vector<ModuleText> m_texts;
 };
 
 }  // namespace
@@ -172,6 +174,8 @@ bool LooksLikeModule(std::string_view bytes) {
     return bytes.substr(0, 2) == "MZ";
 }
 
-std::vector<SModuleText> ReadStringModule(const std::string& name, std::string_view bytes) {
+std::vector<ModuleText> ReadStringModule(const std::string& name, std::string_view bytes) {
     return CModuleReader(name, bytes).Read();
 }
+
+}  // namespace tavrin::tools

@@ -5,16 +5,20 @@
 #include <string_view>
 #include <vector>
 
-struct SModuleText {
+namespace tavrin::tools {
+
+struct ModuleText {
     unsigned number = 0;
     std::wstring text;  // UTF-16 units
     std::string language;
 };
 
-// Whether the bytes may be a module's: they begin as those of every program file of the system do.
+// Whether the bytes begin like a Windows program file.
 bool LooksLikeModule(std::string_view bytes);
 
-// Reads all texts of a module. An empty text is the same as none there. `name` stands for the file in
-// messages. Throws CToolError when the bytes are no module or its resources are damaged; nothing beyond the
-// bytes is read, and the work is bounded by their number whatever they hold.
-std::vector<SModuleText> ReadStringModule(const std::string& name, std::string_view bytes);
+// Reads all texts of a module. Empty texts count as missing. `name` is the file's name in messages. Throws
+// CToolError when the bytes are not a module or its resources are damaged. Whatever the bytes are, nothing
+// beyond them is read and the run time is linear.
+std::vector<ModuleText> ReadStringModule(const std::string& name, std::string_view bytes);
+
+}  // namespace tavrin::tools

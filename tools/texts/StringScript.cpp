@@ -7,9 +7,12 @@
 #include <optional>
 #include <utility>
 
+#include "encoding/Encoding.h"
 #include "tools/texts/CodePage.h"
 #include "tools/texts/LanguageName.h"
-#include "tools/texts/PlaceError.h"
+#include "tools/texts/LineError.h"
+
+namespace tavrin::tools {
 
 namespace {
 
@@ -19,13 +22,13 @@ constexpr unsigned kHighestNumber = 0xFFFF;
 
 enum EToken { TK_END, TK_WORD, TK_LITERAL, TK_SIGN };
 
-struct SToken {
+struct Token {
     EToken kind = TK_END;
     std::string_view text;  // a literal with its prefix and quotes
     std::size_t line = 0;
     std::size_t column = 0;
     std::size_t offset = 0;
-    unsigned codePage = kWesternEuropean;  // that holds at this place
+    unsigned codePage = kWesternEuropean;  // at this position
 };
 
 bool IsWordCharacter(char character) {
@@ -33,25 +36,25 @@ bool IsWordCharacter(char character) {
 }
 
 // Words of a script are read in either case.
-bool IsWord(const SToken& token, std::string_view word) {
+bool IsWord(const Token& token, std::string_view word) {
     return token.kind == TK_WORD &&
            std::equal(token.text.begin(), token.text.end(), word.begin(), word.end(),
                       [](char a, char b) { return std::toupper(static_cast<unsigned char>(a)) == b; });
 }
 
-bool IsSign(const SToken& token, char sign) {
+bool IsSign(const Token& token, char sign) {
     return token.kind == TK_SIGN && token.text.front() == sign;
 }
 
-bool IsOpening(const SToken& token) {
+bool IsOpening(const Token& token) {
     return IsSign(token, '{') || IsWord(token, "BEGIN");
 }
 
-bool IsClosing(const SToken& token) {
+bool IsClosing(const Token& token) {
     return IsSign(token, '}') || IsWord(token, "END");
 }
 
-// A whole number as the resource compilers write it; nothing when the word is none or too large.
+// A whole number in the syntax of resource compilers; nothing when the word is not a number or too large.
 std::optional<unsigned> NumberOf(std::string_view word) {
     int base = 10;
     if (word.size() > 1 && word.front() == '0') {
@@ -65,7 +68,7 @@ std::optional<unsigned> NumberOf(std::string_view word) {
     return isWhole ? std::optional(value) : std::nullopt;
 }
 
-// Cuts a script into tokens and follows its code page.
+// Splits a script into tokens and tracks its code page.
 class CLexer {
 public:
     CLexer(const std::string& name, std::string_view bytes) : m_name(name), m_bytes(bytes) {
@@ -76,9 +79,9 @@ public:
         }
     }
 
-    SToken Next() {
+    Token Next() {
         SkipBlanks();
-        SToken token;
+        Token token;
         token.line = m_line;
         token.offset = m_at;
         token.column = m_at - m_lineStart + 1;
@@ -128,7 +131,7 @@ private:
         }
     }
 
-    // Behind the line feed at this place.
+    // At the line feed.
     void BeginLine() {
         ++m_line;
         m_lineStart = m_at + 1;
@@ -142,21 +145,21 @@ private:
         ++m_at;
     }
 
-    // Up to the line's end, which stays.
+    // To the line feed.
     void SkipLine() { m_at = std::min(m_bytes.find('\n', m_at), m_bytes.size()); }
 
     void SkipComment() {
         const std::size_t start = m_line;
         const std::size_t end = m_bytes.find("*/", m_at + 2);
         if (end == std::string_view::npos) {
-            throw PlaceError(m_name, start, "the comment that begins here is not closed with */");
+            throw LineError(m_name, start, "the comment that begins here is not closed with */");
         }
         while (m_at < end + 2) {
             Advance();
         }
     }
 
-    // A directive goes on on the next line behind a backslash.
+    // A backslash at the end of a line continues the directive.
     void TakeDirective() {
         const std::size_t start = m_at;
         for (;;) {
@@ -188,8 +191,8 @@ private:
         const std::string page = words.substr(kStart.size(), words.find(')') - kStart.size());
         const std::optional<unsigned> number = NumberOf(page);
         if (!number && page != "DEFAULT" && page != "default") {
-            throw PlaceError(m_name, m_line,
-                             "'" + page + "' is no code page: write its number, such as 65001");
+            throw LineError(m_name, m_line,
+                            "'" + page + "' is not a code page: write its number, such as 65001");
         }
         if (!m_fixedCodePage) {
             m_codePage = number.value_or(kWesternEuropean);
@@ -201,7 +204,7 @@ private:
         for (m_at += Peek() == '"' ? 1 : 2;; ++m_at) {
             const char character = Peek();
             if (m_at == m_bytes.size() || character == '\n') {
-                throw PlaceError(m_name, start, "the text that begins here is not closed with a quote");
+                throw LineError(m_name, start, "the text that begins here is not closed with a quote");
             }
             if (character == '"' && Peek(1) != '"') {
                 ++m_at;
@@ -225,13 +228,13 @@ private:
     std::size_t m_lineStart = 0;
     unsigned m_codePage = kWesternEuropean;
     bool m_fixedCodePage = false;
-    bool m_lineIsBlank = true;  // so far, comments apart: a directive may begin
+    bool m_lineIsBlank = true;  // so far, except for comments: a directive may begin
 };
 
 // The text of one literal.
 class CLiteral {
 public:
-    CLiteral(const std::string& name, const SToken& token)
+    CLiteral(const std::string& name, const Token& token)
         : m_name(name), m_token(token), m_isWide(token.text.front() != '"') {
         m_rest = token.text.substr(m_isWide ? 2 : 1);
         m_rest.remove_suffix(1);
@@ -316,7 +319,7 @@ private:
                           : character >= '0' && character <= '7';
     }
 
-    // Behind the prefix a code is a UTF-16 unit, else a byte of the code page.
+    // A UTF-16 unit after the L prefix, otherwise a byte of the code page.
     void AppendCode(unsigned code) {
         if (!m_isWide) {
             m_bytes += static_cast<char>(code);
@@ -329,17 +332,17 @@ private:
     void Flush() {
         const std::optional<std::wstring> text = DecodeText(m_bytes, m_token.codePage);
         if (!text) {
-            throw PlaceError(m_name, m_token.line,
-                             "the text holds bytes that are none of code page " +
-                                 std::to_string(m_token.codePage) +
-                                 ": save the script as UTF-8 and put #pragma code_page(65001) at its start");
+            throw LineError(m_name, m_token.line,
+                            "the text contains bytes that are invalid in code page " +
+                                std::to_string(m_token.codePage) +
+                                ": save the script as UTF-8 and put #pragma code_page(65001) at its start");
         }
         m_text += *text;
         m_bytes.clear();
     }
 
     const std::string& m_name;
-    const SToken& m_token;
+    const Token& m_token;
     bool m_isWide;
     std::string_view m_rest;
     std::string m_bytes;  // not decoded yet
@@ -350,8 +353,8 @@ class CParser {
 public:
     CParser(const std::string& name, std::string_view bytes) : m_name(name), m_lexer(name, bytes) {}
 
-    SStringScript Parse() {
-        int depth = 0;          // of BEGIN and END of other resources
+    StringScript Parse() {
+        int depth = 0;          // of nested BEGIN and END of other resources
         std::size_t start = 0;  // of the outermost of them
         for (Advance(); m_token.kind != TK_END;) {
             if (depth == 0 && IsWord(m_token, "LANGUAGE")) {
@@ -366,7 +369,7 @@ public:
             }
         }
         if (depth > 0) {
-            throw PlaceError(m_name, start, "the block that begins here is not closed with END");
+            throw LineError(m_name, start, "the block that begins here is not closed with END");
         }
         m_script.codePage = m_lexer.CodePage();
         return std::move(m_script);
@@ -376,14 +379,14 @@ private:
     void Advance() { m_token = m_lexer.Next(); }
 
     [[noreturn]] void Fail(const std::string& message) const {
-        throw PlaceError(m_name, m_token.line, message);
+        throw LineError(m_name, m_token.line, message);
     }
 
     std::string TakeLanguage() {
         Advance();
         const std::string_view primary = TakeWord();
         if (!IsSign(m_token, ',')) {
-            Fail("a comma is expected behind the language");
+            Fail("a comma is expected after the language");
         }
         Advance();
         const std::string_view secondary = TakeWord();
@@ -414,14 +417,14 @@ private:
                 continue;
             }
             if (m_token.kind != TK_WORD && !IsSign(m_token, ',')) {
-                Fail("BEGIN or { is expected behind STRINGTABLE");
+                Fail("BEGIN or { is expected after STRINGTABLE");
             }
             Advance();
         }
         Advance();
         while (!IsClosing(m_token)) {
             if (m_token.kind == TK_END) {
-                throw PlaceError(m_name, start, "the string table that begins here is not closed with END");
+                throw LineError(m_name, start, "the string table that begins here is not closed with END");
             }
             TakeText(language);
         }
@@ -433,11 +436,10 @@ private:
         const std::optional<unsigned> number =
             m_token.kind == TK_WORD ? NumberOf(m_token.text) : std::nullopt;
         if (!number || *number > kHighestNumber) {
-            Fail("'" + std::string(m_token.text) +
-                 "' stands where the number of a text is expected: write 0 to " +
-                 std::to_string(kHighestNumber) + " in digits");
+            Fail("expected the number of a text, 0 to " + std::to_string(kHighestNumber) + ", not '" +
+                 std::string(m_token.text) + "'");
         }
-        SScriptText text;
+        ScriptText text;
         text.number = *number;
         text.language = language;
         text.line = m_token.line;
@@ -447,7 +449,7 @@ private:
             Advance();
         }
         if (m_token.kind != TK_LITERAL) {
-            Fail("text " + std::to_string(*number) + " has no text in quotes behind its number");
+            Fail("text " + std::to_string(*number) + " has no text in quotes after its number");
         }
         for (; m_token.kind == TK_LITERAL; Advance()) {
             text.text += CLiteral(m_name, m_token).Text();
@@ -457,12 +459,12 @@ private:
 
     const std::string& m_name;
     CLexer m_lexer;
-    SToken m_token;
+    Token m_token;
     std::string m_language;
-    SStringScript m_script;
+    StringScript m_script;
 };
 
-// UTF-16 as UTF-8 with its mark.
+// Converts UTF-16 to UTF-8 with a byte order mark.
 std::string Utf8Script(std::string_view units) {
     std::wstring text;
     text.reserve(units.size() / 2);
@@ -471,17 +473,19 @@ std::string Utf8Script(std::string_view units) {
         const auto high = static_cast<unsigned char>(units[i + 1]);
         text += static_cast<wchar_t>(low | high << 8);
     }
-    return std::string(kUtf8Mark) + Utf8Text(text);
+    return std::string(kUtf8Mark) + encoding::EncodeUtf8(text);
 }
 
 }  // namespace
 
-SStringScript ReadStringScript(const std::string& name, std::string_view bytes) {
+StringScript ReadStringScript(const std::string& name, std::string_view bytes) {
     if (bytes.substr(0, kUtf16Mark.size()) != kUtf16Mark) {
         return CParser(name, bytes).Parse();
     }
     const std::string script = Utf8Script(bytes.substr(kUtf16Mark.size()));
-    SStringScript result = CParser(name, script).Parse();
+    StringScript result = CParser(name, script).Parse();
     result.isUtf16 = true;
     return result;
 }
+
+}  // namespace tavrin::tools

@@ -1,16 +1,13 @@
-// The texts of the companion resource module TavrinRes.dll, by number and language: what placeholders in an
-// item's files stand for.
+// The texts of the resource module TavrinRes.dll, by number and language: the texts of placeholders.
 //
 //     CTextTable texts;
 //     texts.ReadFile("samples/texts/TavrinRes.it.rc");
 //     texts.Load(1501);  // "Larghezza anta"
 //
-// Texts are read from the script that the module is made from (see CStringScript) or from the module itself,
-// a DLL or EXE file (see StringModule.h). Several files may be read one after the other, the modules of
-// several languages for instance.
+// Texts are read from the module's script (StringScript.h) or from the module itself, a DLL or EXE file
+// (StringModule.h). Several files may be read, for example one per language.
 //
-// Texts are UTF-16 everywhere, one unit to a wchar_t also where that is wider, since the module's limits
-// count units.
+// Texts are UTF-16, one unit to a wchar_t even where that is wider, since the module's limits count units.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +19,9 @@
 
 #include "tools/files/Files.h"
 
-struct SText {
+namespace tavrin::tools {
+
+struct TextEntry {
     unsigned number = 0;       // 0 to 65535
     std::wstring text;         // the whole text, as the file has it
     std::size_t language = 0;  // in CTextTable::Languages
@@ -33,31 +32,31 @@ struct SText {
 
 class CTextTable {
 public:
-    // The module takes so many units of a text and drops what follows.
+    // The module truncates longer texts.
     static constexpr std::size_t kLongestText = 255;
 
-    // Reads the file of that name, whichever of the two kinds it is, and adds its texts. Throws CToolError,
-    // having added nothing, when the file cannot be read, when it is no well-formed file of its kind or has
-    // no texts, or when it holds a text that is there already in the same language.
+    // Adds the texts of a script or a module. Throws CToolError, without adding anything, when the file
+    // cannot be read, is invalid or has no texts, and when it has a text that is in the table already in the
+    // same language.
     void ReadFile(const std::string& name);
 
-    // The same from a file's bytes, which may have no texts; `name` (UTF-8) stands for the file in messages
+    // The same from a file's bytes, which may have no texts; `name` (UTF-8) is the file's name in messages
     // and in Files.
     void ReadBytes(const std::string& name, std::string_view bytes);
 
-    // The files that were read, and the languages of their texts, both in the order of their appearance. A
-    // script names its languages as its LANGUAGE lines do ("LANG_ITALIAN, SUBLANG_ITALIAN"); a language
-    // that is given by number is "language 0x0410", and a script without LANGUAGE has one of its own.
+    // The files that were read, and the languages of their texts, both in order of appearance. The name of a
+    // language is that of the LANGUAGE line ("LANG_ITALIAN, SUBLANG_ITALIAN"), or "language 0x0410" if it is
+    // given by number; each script without LANGUAGE has a language of its own.
     const std::vector<std::string>& Files() const { return m_files; }
     const std::vector<std::string>& Languages() const { return m_languages; }
 
     // All texts, in the order in which the files hold them.
-    const std::vector<SText>& Texts() const { return m_texts; }
+    const std::vector<TextEntry>& Texts() const { return m_texts; }
 
     // The text with a number in a language, or in the first language that has it; null when there is none.
-    // The address stays good until more is read.
-    const SText* Find(unsigned number, std::size_t language) const;
-    const SText* Find(unsigned number) const;
+    // The address stays valid until more is read.
+    const TextEntry* Find(unsigned number, std::size_t language) const;
+    const TextEntry* Find(unsigned number) const;
 
     // The text with a number, in the first language that has it, as the module loads it: at most
     // kLongestText units, up to the first null character; empty when there is none.
@@ -71,6 +70,8 @@ private:
 
     std::vector<std::string> m_files;
     std::vector<std::string> m_languages;
-    std::vector<SText> m_texts;
-    std::map<Key, std::size_t> m_places;  // in m_texts
+    std::vector<TextEntry> m_texts;
+    std::map<Key, std::size_t> m_indices;  // in m_texts
 };
+
+}  // namespace tavrin::tools

@@ -1,7 +1,11 @@
 // The LISP functions that draw.
 #include "devhost/drawlisp/DrawFunctions.h"
 
-#include "tests/unit/devhost/LispFixture.h"
+#include "tests/unit/lisp/LispFixture.h"
+
+using namespace tests;
+using namespace tavrin::lisp;
+using namespace devhost;
 
 namespace {
 
@@ -20,33 +24,33 @@ protected:
 
 TEST_F(DrawFunctions, ALineJoinsTwoPoints) {
     ExpectValues({{L"(draw-line '(1 2) '(3.5 4 5))", L"T"}});
-    EXPECT_EQ(Only<SLine>().from, (SPoint{1, 2}));
-    EXPECT_EQ(Only<SLine>().to, (SPoint{3.5, 4}));
+    EXPECT_EQ(Only<LineEntity>().from, (Point{1, 2}));
+    EXPECT_EQ(Only<LineEntity>().to, (Point{3.5, 4}));
 }
 
 TEST_F(DrawFunctions, APolylineIsOpenUnlessItIsToBeClosed) {
     ExpectValues({{L"(draw-polyline '((0 0) (1 0) (1 1)))", L"T"}});
-    EXPECT_EQ(Only<SPolyline>().points.size(), 3u);
-    EXPECT_FALSE(Only<SPolyline>().closed);
+    EXPECT_EQ(Only<PolylineEntity>().points.size(), 3u);
+    EXPECT_FALSE(Only<PolylineEntity>().closed);
     ExpectValues({{L"(draw-clear)", L"T"}, {L"(draw-polyline '((0 0) (1 0)) T)", L"T"}});
-    EXPECT_TRUE(Only<SPolyline>().closed);
+    EXPECT_TRUE(Only<PolylineEntity>().closed);
 }
 
 TEST_F(DrawFunctions, CirclesAndArcsHaveACentreAndARadius) {
     ExpectValues({{L"(draw-circle '(1 2) 3)", L"T"}});
-    EXPECT_EQ(Only<SCircle>().centre, (SPoint{1, 2}));
-    EXPECT_EQ(Only<SCircle>().radius, 3);
+    EXPECT_EQ(Only<CircleEntity>().centre, (Point{1, 2}));
+    EXPECT_EQ(Only<CircleEntity>().radius, 3);
     ExpectValues({{L"(draw-clear)", L"T"}, {L"(draw-arc '(1 2) 3 0 1.5)", L"T"}});
-    EXPECT_EQ(Only<SArc>().start, 0);
-    EXPECT_EQ(Only<SArc>().end, 1.5);
+    EXPECT_EQ(Only<ArcEntity>().start, 0);
+    EXPECT_EQ(Only<ArcEntity>().end, 1.5);
 }
 
 TEST_F(DrawFunctions, ATextHasAPlaceAHeightAndAnAngle) {
     ExpectValues({{L"(draw-text '(1 2) 2.5 0.5 \"porta\")", L"T"}});
-    EXPECT_EQ(Only<SText>().place, (SPoint{1, 2}));
-    EXPECT_EQ(Only<SText>().height, 2.5);
-    EXPECT_EQ(Only<SText>().angle, 0.5);
-    EXPECT_EQ(Only<SText>().text, L"porta");
+    EXPECT_EQ(Only<TextEntity>().position, (Point{1, 2}));
+    EXPECT_EQ(Only<TextEntity>().height, 2.5);
+    EXPECT_EQ(Only<TextEntity>().angle, 0.5);
+    EXPECT_EQ(Only<TextEntity>().text, L"porta");
 }
 
 TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
@@ -56,8 +60,7 @@ TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
           L"DRAW-LINE needs a point, a list of two or three numbers, as argument 2, not 5"},
          {L"(draw-polyline '((0 0)))",
           L"DRAW-POLYLINE needs a list of two points at least as argument 1, not ((0 0))"},
-         {L"(draw-polyline '((0 0) 5))",
-          L"DRAW-POLYLINE: 5 is no point: each is a list of two or three numbers"},
+         {L"(draw-polyline '((0 0) 5))", L"DRAW-POLYLINE: 5 is not a point, a list of two or three numbers"},
          {L"(draw-circle '(0 0) 0)", L"DRAW-CIRCLE needs a number above zero as argument 2, not 0"},
          {L"(draw-arc '(0 0) 1 0 \"x\")", L"DRAW-ARC needs a number as argument 4, not \"x\""},
          {L"(draw-text '(0 0) 1 0 5)", L"DRAW-TEXT needs a text as argument 4, not 5"},
@@ -67,7 +70,7 @@ TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
 
 TEST_F(DrawFunctions, ALoopDoesNotDrawWithoutEnd) {
     for (int i = 1; i < 1'000'000; ++i) {
-        m_drawing.Add(SLine{{0, 0}, {1, 1}});
+        m_drawing.Add(LineEntity{{0, 0}, {1, 1}});
     }
     EXPECT_EQ(
         Mistake(L"(while T (draw-line '(0 0) '(1 1)))"),

@@ -6,12 +6,14 @@
 #include <limits>
 #include <numbers>
 
+using namespace devhost;
+
 namespace {
 
 constexpr double kPi = std::numbers::pi;
 
 // Beside rounding: within a millionth.
-void ExpectBox(const CDrawing& drawing, SPoint low, SPoint high) {
+void ExpectBox(const CDrawing& drawing, Point low, Point high) {
     const auto box = drawing.Extents();
     ASSERT_TRUE(box);
     EXPECT_NEAR(box->low.x, low.x, 1e-6);
@@ -22,17 +24,17 @@ void ExpectBox(const CDrawing& drawing, SPoint low, SPoint high) {
 
 TEST(Drawing, KeepsEntitiesInTheirOrder) {
     CDrawing drawing;
-    EXPECT_TRUE(drawing.Add(SCircle{{1, 2}, 3}));
-    EXPECT_TRUE(drawing.Add(SLine{{0, 0}, {4, 5}}));
+    EXPECT_TRUE(drawing.Add(CircleEntity{{1, 2}, 3}));
+    EXPECT_TRUE(drawing.Add(LineEntity{{0, 0}, {4, 5}}));
     ASSERT_EQ(drawing.Entities().size(), 2u);
-    EXPECT_EQ(std::get<SCircle>(drawing.Entities()[0]).radius, 3);
-    EXPECT_EQ(std::get<SLine>(drawing.Entities()[1]).to, (SPoint{4, 5}));
+    EXPECT_EQ(std::get<CircleEntity>(drawing.Entities()[0]).radius, 3);
+    EXPECT_EQ(std::get<LineEntity>(drawing.Entities()[1]).to, (Point{4, 5}));
 }
 
 TEST(Drawing, AnEmptyOneHasNoExtents) {
     CDrawing drawing;
     EXPECT_FALSE(drawing.Extents());
-    drawing.Add(SCircle{{1, 2}, 3});
+    drawing.Add(CircleEntity{{1, 2}, 3});
     drawing.Clear();
     EXPECT_TRUE(drawing.Entities().empty());
     EXPECT_FALSE(drawing.Extents());
@@ -40,29 +42,29 @@ TEST(Drawing, AnEmptyOneHasNoExtents) {
 
 TEST(Drawing, ExtentsHoldEveryEntity) {
     CDrawing drawing;
-    drawing.Add(SLine{{5, 5}, {6, 7}});
+    drawing.Add(LineEntity{{5, 5}, {6, 7}});
     ExpectBox(drawing, {5, 5}, {6, 7});
-    drawing.Add(SPolyline{{{0, 6}, {8, 6}, {7, 4}}, true});
+    drawing.Add(PolylineEntity{{{0, 6}, {8, 6}, {7, 4}}, true});
     ExpectBox(drawing, {0, 4}, {8, 7});
-    drawing.Add(SCircle{{0, 0}, 2});
+    drawing.Add(CircleEntity{{0, 0}, 2});
     ExpectBox(drawing, {-2, -2}, {8, 7});
 }
 
 TEST(Drawing, AnArcReachesNoFartherThanItTurns) {
     CDrawing first;
-    first.Add(SArc{{0, 0}, 10, 0, kPi / 2});
+    first.Add(ArcEntity{{0, 0}, 10, 0, kPi / 2});
     ExpectBox(first, {0, 0}, {10, 10});
 
     CDrawing overTheTop;
-    overTheTop.Add(SArc{{0, 0}, 10, kPi / 4, 3 * kPi / 4});
+    overTheTop.Add(ArcEntity{{0, 0}, 10, kPi / 4, 3 * kPi / 4});
     ExpectBox(overTheTop, {-10 / std::sqrt(2), 10 / std::sqrt(2)}, {10 / std::sqrt(2), 10});
 
     CDrawing throughZero;
-    throughZero.Add(SArc{{0, 0}, 10, 3 * kPi / 2, kPi / 2});
+    throughZero.Add(ArcEntity{{0, 0}, 10, 3 * kPi / 2, kPi / 2});
     ExpectBox(throughZero, {0, -10}, {10, 10});
 
     CDrawing whole;
-    whole.Add(SArc{{1, 1}, 10, 0.3, 0.3});
+    whole.Add(ArcEntity{{1, 1}, 10, 0.3, 0.3});
     ExpectBox(whole, {-9, -9}, {11, 11});
 }
 
@@ -75,7 +77,7 @@ TEST(Drawing, AnArcTurnsCounterClockwiseFromItsStart) {
 
 TEST(Drawing, ATextReachesAlongItsBaseLine) {
     CDrawing drawing;
-    drawing.Add(SText{{100, 100}, 10, kPi / 2, L"Door"});
+    drawing.Add(TextEntity{{100, 100}, 10, kPi / 2, L"Door"});
     const auto box = drawing.Extents();
     ASSERT_TRUE(box);
     EXPECT_NEAR(box->high.x, 100, 1e-6);
@@ -89,17 +91,17 @@ TEST(Drawing, TakesNothingThatCannotBeShown) {
     const double infinite = std::numeric_limits<double>::infinity();
     const double none = std::numeric_limits<double>::quiet_NaN();
     CDrawing drawing;
-    EXPECT_FALSE(drawing.Add(SLine{{0, none}, {1, 1}}));
-    EXPECT_FALSE(drawing.Add(SLine{{0, 0}, {infinite, 1}}));
-    EXPECT_FALSE(drawing.Add(SLine{{0, 0}, {0, -1.1e12}}));
-    EXPECT_FALSE(drawing.Add(SPolyline{{{1, 1}}, true}));
-    EXPECT_FALSE(drawing.Add(SPolyline{{{1, 1}, {none, 1}}, false}));
-    EXPECT_FALSE(drawing.Add(SCircle{{0, 0}, 0}));
-    EXPECT_FALSE(drawing.Add(SCircle{{0, 0}, none}));
-    EXPECT_FALSE(drawing.Add(SArc{{0, 0}, -1, 0, 1}));
-    EXPECT_FALSE(drawing.Add(SArc{{0, 0}, 1, 0, infinite}));
-    EXPECT_FALSE(drawing.Add(SText{{0, 0}, 0, 0, L"x"}));
-    EXPECT_FALSE(drawing.Add(SText{{0, 0}, 1, none, L"x"}));
+    EXPECT_FALSE(drawing.Add(LineEntity{{0, none}, {1, 1}}));
+    EXPECT_FALSE(drawing.Add(LineEntity{{0, 0}, {infinite, 1}}));
+    EXPECT_FALSE(drawing.Add(LineEntity{{0, 0}, {0, -1.1e12}}));
+    EXPECT_FALSE(drawing.Add(PolylineEntity{{{1, 1}}, true}));
+    EXPECT_FALSE(drawing.Add(PolylineEntity{{{1, 1}, {none, 1}}, false}));
+    EXPECT_FALSE(drawing.Add(CircleEntity{{0, 0}, 0}));
+    EXPECT_FALSE(drawing.Add(CircleEntity{{0, 0}, none}));
+    EXPECT_FALSE(drawing.Add(ArcEntity{{0, 0}, -1, 0, 1}));
+    EXPECT_FALSE(drawing.Add(ArcEntity{{0, 0}, 1, 0, infinite}));
+    EXPECT_FALSE(drawing.Add(TextEntity{{0, 0}, 0, 0, L"x"}));
+    EXPECT_FALSE(drawing.Add(TextEntity{{0, 0}, 1, none, L"x"}));
     EXPECT_TRUE(drawing.Entities().empty());
 }
 
@@ -107,8 +109,8 @@ TEST(Drawing, TellsItsListenerOfEachChange) {
     CDrawing drawing;
     int changes = 0;
     drawing.SetListener([&] { ++changes; });
-    drawing.Add(SCircle{{0, 0}, 1});
-    drawing.Add(SCircle{{0, 0}, -1});
+    drawing.Add(CircleEntity{{0, 0}, 1});
+    drawing.Add(CircleEntity{{0, 0}, -1});
     EXPECT_EQ(changes, 1);
     drawing.Clear();
     EXPECT_EQ(changes, 2);

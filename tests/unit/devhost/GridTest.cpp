@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace devhost;
+
 namespace {
 
 TEST(Grid, SpacingIsOneTwoOrFiveOfADecade) {

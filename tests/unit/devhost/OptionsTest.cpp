@@ -1,11 +1,14 @@
 // DevHost's command line.
-#include "devhost/cmdline/Options.h"
+#include "devhost/options/Options.h"
 
 #include <gtest/gtest.h>
 
+using namespace tavrin::units;
+using namespace devhost;
+
 namespace {
 
-SOptions Parse(std::initializer_list<std::wstring> arguments) {
+Options Parse(std::initializer_list<std::wstring> arguments) {
     return ParseOptions(std::vector<std::wstring>(arguments));
 }
 
@@ -19,7 +22,7 @@ std::wstring Mistake(std::initializer_list<std::wstring> arguments) {
 }
 
 TEST(Options, WithoutArgumentsTheDefaultsHold) {
-    const SOptions options = Parse({});
+    const Options options = Parse({});
     EXPECT_EQ(options.plugIn, L"");
     EXPECT_TRUE(options.searchFolders.empty());
     EXPECT_TRUE(options.itemFolders.empty());
@@ -34,14 +37,14 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
 }
 
 TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
-    const SOptions options = Parse(
+    const Options options = Parse(
         {L"--search", L"a",     L"--plugin", L"p.dll", L"--search",  L"b c",   L"--eval",   L"(f 1)",
          L"--script", L"s.lsp", L"--eval",   L"-1",    L"--lunits",  L"5",     L"--luprec", L"0",
          L"--items",  L"i",     L"--items",  L"j",     L"--drawing", L"d.svg", L"--stay",   L"--check-heap"});
     EXPECT_EQ(options.plugIn, L"p.dll");
     EXPECT_EQ(options.searchFolders, (std::vector<std::wstring>{L"a", L"b c"}));
     EXPECT_EQ(options.itemFolders, (std::vector<std::wstring>{L"i", L"j"}));
-    EXPECT_EQ(options.tasks, (std::vector<STask>{{false, L"(f 1)"}, {true, L"s.lsp"}, {false, L"-1"}}));
+    EXPECT_EQ(options.tasks, (std::vector<Task>{{false, L"(f 1)"}, {true, L"s.lsp"}, {false, L"-1"}}));
     EXPECT_EQ(options.drawingFile, L"d.svg");
     EXPECT_TRUE(options.stay);
     EXPECT_EQ(options.lunits, LU_FRACTIONAL);
@@ -49,31 +52,37 @@ TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
     EXPECT_TRUE(options.checkHeap);
 }
 
+TEST(Options, AValueFollowsItsOptionOrItsEqualsSign) {
+    EXPECT_EQ(Parse({L"--lunits=4"}).lunits, LU_ARCHITECTURAL);
+    EXPECT_EQ(Parse({L"--eval=(= 1 2)"}).tasks, (std::vector<Task>{{false, L"(= 1 2)"}}));
+}
+
+TEST(Options, NamesAreNotLimitedToOneCodePage) {
+    EXPECT_EQ(Parse({L"--plugin", L"門ò.dll"}).plugIn, L"門ò.dll");
+}
+
 TEST(Options, AMissingValueNamesItsOption) {
-    EXPECT_EQ(Mistake({L"--plugin"}), L"--plugin lacks its value: give the plug-in's file behind it");
+    EXPECT_EQ(Mistake({L"--plugin"}), L"option '--plugin' requires a value, for example TavrinWnd.dll");
     EXPECT_EQ(Mistake({L"--search", L"--eval", L"(f)"}),
-              L"--search lacks its value: give a folder behind it");
-    EXPECT_EQ(Mistake({L"--eval", L""}), L"--eval lacks its value: give a LISP expression behind it");
-    EXPECT_EQ(Mistake({L"--lunits"}), L"--lunits lacks its value: give a number from 1 to 5 behind it");
+              L"option '--search' requires a value, for example C:\\Items");
+    EXPECT_EQ(Mistake({L"--eval", L""}), L"option '--eval' requires a value, for example \"(+ 1 2)\"");
 }
 
 TEST(Options, ANumberOutOfRangeNamesTheRange) {
-    for (const wchar_t* value : {L"0", L"6", L"22", L"x", L"-1", L"2.0"}) {
-        EXPECT_EQ(Mistake({L"--lunits", value}),
-                  std::wstring(L"--lunits does not take '") + value + L"': give a number from 1 to 5");
-    }
-    EXPECT_EQ(Mistake({L"--luprec", L"9"}), L"--luprec does not take '9': give a number from 0 to 8");
+    EXPECT_EQ(Mistake({L"--lunits", L"6"}),
+              L"invalid value '6' for option '--lunits': expected a number from 1 to 5");
+    EXPECT_EQ(Mistake({L"--luprec", L"9"}),
+              L"invalid value '9' for option '--luprec': expected a number from 0 to 8");
 }
 
 TEST(Options, UnknownArgumentsAreNamed) {
-    EXPECT_EQ(Mistake({L"--evil"}), L"the option '--evil' is not known: see --help");
-    EXPECT_EQ(Mistake({L"-h"}), L"the option '-h' is not known: see --help");
-    EXPECT_EQ(Mistake({L"--check-heap", L"door"}), L"the argument 'door' belongs to no option: see --help");
-    EXPECT_EQ(Mistake({L""}), L"the argument '' belongs to no option: see --help");
+    EXPECT_EQ(Mistake({L"--evil"}), L"unknown option '--evil', see --help");
+    EXPECT_EQ(Mistake({L"--check-heap", L"door"}), L"unexpected argument 'door', see --help");
 }
 
-TEST(Options, HelpAndVersionWinOverWhatFollows) {
-    EXPECT_TRUE(Parse({L"--help", L"--evil"}).help);
+TEST(Options, HelpAndVersionWinOverEverythingElse) {
+    EXPECT_TRUE(Parse({L"--evil", L"--help"}).help);
+    EXPECT_TRUE(Parse({L"-h"}).help);
     EXPECT_TRUE(Parse({L"--version", L"--evil"}).version);
 }
 

@@ -5,11 +5,13 @@
 #include <cmath>
 #include <numbers>
 
+using namespace devhost;
+
 namespace {
 
-constexpr SBox kBox = {{0, 0}, {100, 50}};
+constexpr Box kBox = {{0, 0}, {100, 50}};
 
-void ExpectLine(const std::optional<SLine>& line, SPoint from, SPoint to) {
+void ExpectLine(const std::optional<LineEntity>& line, Point from, Point to) {
     ASSERT_TRUE(line);
     EXPECT_NEAR(line->from.x, from.x, 1e-9);
     EXPECT_NEAR(line->from.y, from.y, 1e-9);
@@ -18,15 +20,15 @@ void ExpectLine(const std::optional<SLine>& line, SPoint from, SPoint to) {
 }
 
 TEST(Outline, OfLinesIsThePointsThemselves) {
-    EXPECT_EQ(OutlineOf(SLine{{1, 2}, {3, 4}}, 1), (std::vector<SPoint>{{1, 2}, {3, 4}}));
-    EXPECT_EQ(OutlineOf(SPolyline{{{0, 0}, {1, 0}, {1, 1}}, false}, 1).size(), 3u);
-    EXPECT_EQ(OutlineOf(SPolyline{{{0, 0}, {1, 0}, {1, 1}}, true}, 1).back(), (SPoint{0, 0}));
-    EXPECT_TRUE(OutlineOf(SText{{0, 0}, 1, 0, L"x"}, 1).empty());
+    EXPECT_EQ(OutlineOf(LineEntity{{1, 2}, {3, 4}}, 1), (std::vector<Point>{{1, 2}, {3, 4}}));
+    EXPECT_EQ(OutlineOf(PolylineEntity{{{0, 0}, {1, 0}, {1, 1}}, false}, 1).size(), 3u);
+    EXPECT_EQ(OutlineOf(PolylineEntity{{{0, 0}, {1, 0}, {1, 1}}, true}, 1).back(), (Point{0, 0}));
+    EXPECT_TRUE(OutlineOf(TextEntity{{0, 0}, 1, 0, L"x"}, 1).empty());
 }
 
 TEST(Outline, ChordsStayWithinTheToleranceOfTheirArc) {
     for (const double tolerance : {0.001, 0.1, 3.0}) {
-        const auto points = OutlineOf(SArc{{10, 20}, 100, 1, 4}, tolerance);
+        const auto points = OutlineOf(ArcEntity{{10, 20}, 100, 1, 4}, tolerance);
         EXPECT_NEAR(points.front().x, 10 + 100 * std::cos(1), 1e-9);
         EXPECT_NEAR(points.back().y, 20 + 100 * std::sin(4), 1e-9);
         for (std::size_t i = 1; i < points.size(); ++i) {
@@ -38,14 +40,14 @@ TEST(Outline, ChordsStayWithinTheToleranceOfTheirArc) {
 }
 
 TEST(Outline, ACircleEndsExactlyWhereItBegins) {
-    const auto points = OutlineOf(SCircle{{0, 0}, 100}, 0.25);
+    const auto points = OutlineOf(CircleEntity{{0, 0}, 100}, 0.25);
     EXPECT_EQ(points.front(), points.back());
     EXPECT_GT(points.size(), 20u);
 }
 
 TEST(Outline, FarTooLargeAndFarTooSmallCurvesStillHaveOne) {
-    EXPECT_LE(OutlineOf(SCircle{{0, 0}, 1e12}, 1e-9).size(), 5001u);
-    EXPECT_GE(OutlineOf(SCircle{{0, 0}, 1e-9}, 100).size(), 3u);
+    EXPECT_LE(OutlineOf(CircleEntity{{0, 0}, 1e12}, 1e-9).size(), 5001u);
+    EXPECT_GE(OutlineOf(CircleEntity{{0, 0}, 1e-9}, 100).size(), 3u);
 }
 
 TEST(Clip, KeepsWhatIsInside) {

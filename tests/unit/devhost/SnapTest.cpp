@@ -4,24 +4,26 @@
 
 #include <numbers>
 
+using namespace devhost;
+
 namespace {
 
 TEST(Snap, FindsTheNearestEndWithinReach) {
     CDrawing drawing;
-    drawing.Add(SLine{{0, 0}, {10, 0}});
-    drawing.Add(SLine{{20, 0}, {30, 0}});
-    EXPECT_EQ(NearestEnd(drawing, {12, 1}, 5), (SPoint{10, 0}));
-    EXPECT_EQ(NearestEnd(drawing, {16, 1}, 5), (SPoint{20, 0}));
+    drawing.Add(LineEntity{{0, 0}, {10, 0}});
+    drawing.Add(LineEntity{{20, 0}, {30, 0}});
+    EXPECT_EQ(NearestEnd(drawing, {12, 1}, 5), (Point{10, 0}));
+    EXPECT_EQ(NearestEnd(drawing, {16, 1}, 5), (Point{20, 0}));
     EXPECT_EQ(NearestEnd(drawing, {5, 1}, 4), std::nullopt);
-    EXPECT_EQ(NearestEnd(drawing, {10, 5}, 5), (SPoint{10, 0}));
+    EXPECT_EQ(NearestEnd(drawing, {10, 5}, 5), (Point{10, 0}));
     EXPECT_EQ(NearestEnd(drawing, {10, 5.01}, 5), std::nullopt);
 }
 
 TEST(Snap, TakesPolylinePointsAndArcEnds) {
     CDrawing drawing;
-    drawing.Add(SPolyline{{{0, 0}, {50, 50}, {100, 0}}, true});
-    drawing.Add(SArc{{200, 0}, 10, 0, std::numbers::pi});
-    EXPECT_EQ(NearestEnd(drawing, {51, 49}, 3), (SPoint{50, 50}));
+    drawing.Add(PolylineEntity{{{0, 0}, {50, 50}, {100, 0}}, true});
+    drawing.Add(ArcEntity{{200, 0}, 10, 0, std::numbers::pi});
+    EXPECT_EQ(NearestEnd(drawing, {51, 49}, 3), (Point{50, 50}));
     const auto arcEnd = NearestEnd(drawing, {189, 1}, 3);
     ASSERT_TRUE(arcEnd);
     EXPECT_NEAR(arcEnd->x, 190, 1e-9);
@@ -30,8 +32,8 @@ TEST(Snap, TakesPolylinePointsAndArcEnds) {
 
 TEST(Snap, LeavesCirclesAndTextsAlone) {
     CDrawing drawing;
-    drawing.Add(SCircle{{0, 0}, 10});
-    drawing.Add(SText{{0, 0}, 10, 0, L"x"});
+    drawing.Add(CircleEntity{{0, 0}, 10});
+    drawing.Add(TextEntity{{0, 0}, 10, 0, L"x"});
     EXPECT_EQ(NearestEnd(drawing, {0, 0}, 20), std::nullopt);
 }
 

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace devhost;
+
 namespace {
 
-void ExpectPoint(SPoint point, double x, double y) {
+void ExpectPoint(Point point, double x, double y) {
     EXPECT_NEAR(point.x, x, 1e-9);
     EXPECT_NEAR(point.y, y, 1e-9);
 }
@@ -25,13 +27,13 @@ TEST_F(ViewTransform, BeginsWithOneUnitPerPixelAndTheOriginAtTheLowerLeft) {
 
 TEST_F(ViewTransform, ResizingKeepsTheLowerLeftCorner) {
     m_view.PanBy(-5, 7);
-    const SPoint corner = m_view.ToDrawing({0, 100});
+    const Point corner = m_view.ToDrawing({0, 100});
     m_view.Resize(400, 300);
     ExpectPoint(m_view.ToDrawing({0, 299}), corner.x, corner.y);
 }
 
 TEST_F(ViewTransform, ZoomingKeepsThePointUnderTheMouse) {
-    const SPoint under = m_view.ToDrawing({50, 20});
+    const Point under = m_view.ToDrawing({50, 20});
     m_view.ZoomAbout({50, 20}, 4);
     ExpectPoint(m_view.ToDrawing({50, 20}), under.x, under.y);
     EXPECT_EQ(m_view.UnitsPerPixel(), 0.25);
@@ -54,7 +56,7 @@ TEST_F(ViewTransform, ZoomingEndsWherePixelsWouldNoLongerDiffer) {
 
 TEST_F(ViewTransform, PanningMovesWhatIsShownWithTheMouse) {
     m_view.ZoomAbout({0, 100}, 2);
-    const SPoint grabbed = m_view.ToDrawing({60, 40});
+    const Point grabbed = m_view.ToDrawing({60, 40});
     m_view.PanBy(30, -10);
     ExpectPoint(m_view.ToPixel(grabbed), 90, 30);
 }
@@ -86,7 +88,7 @@ TEST_F(ViewTransform, FittingIntoAWindowSmallerThanTheMarginsWorks) {
 }
 
 TEST_F(ViewTransform, ShowsWhatItsPixelsCover) {
-    const SBox shown = m_view.Shown();
+    const Box shown = m_view.Shown();
     ExpectPoint(shown.low, -0.5, -0.5);
     ExpectPoint(shown.high, 200.5, 100.5);
 }

@@ -11,9 +11,13 @@
 
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Source.h"
+#include "lisp/Source.h"
 #include "tests/unit/docs/Pages.h"
 #include "tests/unit/docs/TestLispHost.h"
+
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
 
 namespace {
 

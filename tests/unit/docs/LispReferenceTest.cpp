@@ -6,11 +6,15 @@
 #include <string>
 
 #include "devhost/drawlisp/DrawFunctions.h"
-#include "devhost/lisp/Builtins.h"
-#include "devhost/lisp/Printer.h"
-#include "devhost/lisp/Source.h"
+#include "lisp/Builtins.h"
+#include "lisp/Printer.h"
+#include "lisp/Source.h"
 #include "tests/unit/docs/Pages.h"
 #include "tests/unit/docs/TestLispHost.h"
+
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
 
 namespace {
 
@@ -62,13 +66,13 @@ std::set<std::string> DocumentedNames() {
 // The functions of the language and of the drawing. The one that fits the view belongs to the window.
 std::set<std::string> KnownNames() {
     std::set<std::string> names = {"draw-fit"};
-    for (const SSpecialForm& form : ControlForms()) {
+    for (const SpecialForm& form : ControlForms()) {
         names.insert(LowerCase(Narrow(form.name)));
     }
     for (const auto& table : {ControlFunctions(), ArithmeticFunctions(), MathFunctions(),
                               PredicateFunctions(), ListFunctions(), TextFunctions(), ConversionFunctions(),
                               GeometryFunctions(), OutputFunctions(), FileFunctions(), HostFunctions()}) {
-        for (const SBuiltin& builtin : table) {
+        for (const Builtin& builtin : table) {
             names.insert(LowerCase(Narrow(builtin.name)));
         }
     }
@@ -109,7 +113,7 @@ TEST(LispReference, GivesWhatItsExamplesSay) {
             CDrawing drawing;
             DefineDrawFunctions(evaluator, drawing);
             const std::wstring text = std::filesystem::path(example[i]).wstring();
-            CLispResult value;
+            LispResult value;
             ASSERT_NO_THROW(value = evaluator.Run(ReadText(text))) << example[i];
             EXPECT_EQ(value ? Narrow(Print(*value)) : "", result[i]) << example[i];
         }

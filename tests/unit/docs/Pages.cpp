@@ -7,29 +7,16 @@
 #include <regex>
 #include <sstream>
 
+#include "encoding/Encoding.h"
+
+namespace tests {
+
 namespace fs = std::filesystem;
 
+using tavrin::encoding::DecodeWindows1252;
+using tavrin::encoding::EncodeUtf8;
+
 namespace {
-
-// Windows-1252 differs from Unicode in these alone.
-constexpr unsigned special[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
-                                  0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-
-void AppendUtf8(std::string& text, unsigned code) {
-    const auto add = [&](unsigned byte) { text += static_cast<char>(byte); };
-    if (code < 0x80) {
-        add(code);
-    } else if (code < 0x800) {
-        add(0xC0 | code >> 6);
-        add(0x80 | (code & 0x3F));
-    } else {
-        add(0xE0 | code >> 12);
-        add(0x80 | (code >> 6 & 0x3F));
-        add(0x80 | (code & 0x3F));
-    }
-}
 
 // As code hosting sites name a heading: lower case, blanks as hyphens, nothing but letters, digits and
 // hyphens.
@@ -140,18 +127,10 @@ const std::vector<Page>& AllPages() {
 
 std::string TextOf(const fs::path& path) {
     std::ifstream stream(fs::path(SOURCE_DIR) / path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    std::string text;
-    for (const char letter : bytes) {
-        const auto byte = static_cast<unsigned char>(letter);
-        if (letter == '\r') {
-            continue;
-        }
-        if (path.extension() == ".TXT") {
-            AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? special[byte - 0x80] : byte);
-        } else {
-            text += letter;
-        }
-    }
-    return text;
+    std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    std::erase(bytes, '\r');
+    const bool isItemFile = path.extension() == ".TXT";
+    return isItemFile ? EncodeUtf8(DecodeWindows1252(bytes)) : bytes;
 }
+
+}  // namespace tests

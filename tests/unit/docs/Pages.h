@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 // A fenced block of code. Its info string may name a file that it shows: ```text file=../examples/call.lsp
 struct CodeBlock {
     std::string file;  // relative to the page's folder; empty when it names none
@@ -28,3 +30,5 @@ const std::vector<Page>& AllPages();
 
 // The text of a file, in UTF-8 with "\n" line ends. Templates and working files (*.TXT) are single-byte text.
 std::string TextOf(const std::filesystem::path& path);
+
+}  // namespace tests

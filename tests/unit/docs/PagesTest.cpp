@@ -6,6 +6,8 @@
 
 #include "tests/unit/docs/Pages.h"
 
+using namespace tests;
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -72,7 +74,7 @@ std::vector<std::string> CodeOf(const Page& page) {
 
 TEST(Documentation, NamesTargetsOfMakeThatExist) {
     const std::string makefile = TextOf("Makefile");
-    const std::regex call("(?:^|\n|&& )make ([a-z-]+)");
+    const std::regex call("(?:^|\n|&& )make ([a-z0-9-]+)");
     for (const Page& page : AllPages()) {
         for (const std::string& code : CodeOf(page)) {
             for (std::sregex_iterator match(code.begin(), code.end(), call), end; match != end; ++match) {
@@ -88,7 +90,8 @@ TEST(Documentation, NamesTargetsOfMakeThatExist) {
 TEST(Documentation, NamesFilesOfTheSourcesThatExist) {
     const std::regex path(
         "(?:^|[ "
-        "\n(])((?:afx|cmake|devhost|docs|dyndlg|gallery|host|imagedlg|itemdlg|propgrid|res|samples|scripts|"
+        "\n(])((?:afx|cmake|devhost|docs|dyndlg|gallery|host|imagedlg|itemdlg|memory|propgrid|res|samples|"
+        "scripts|"
         "sds|tests|tools)/[A-Za-z0-9_./-]*[A-Za-z0-9_/])");
     for (const Page& page : AllPages()) {
         if (page.path == "CHANGELOG.md") {

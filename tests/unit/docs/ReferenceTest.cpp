@@ -5,11 +5,12 @@
 #include <regex>
 #include <string>
 
-#include "devhost/cmdline/Options.h"
+#include "devhost/options/Options.h"
 #include "imagedlg/ChoiceLayout.h"
 #include "tests/unit/docs/Pages.h"
 
 using namespace tavrin::imagedlg;
+using namespace tests;
 
 namespace {
 
@@ -72,9 +73,9 @@ TEST(Documentation, QuotesTheModulesMessages) {
     EXPECT_EQ(messagesSeen, 10);
 }
 
-// Every option behind a call of DevHost.exe, and those that the page on DevHost speaks of.
+// Every option in a call of DevHost.exe, and those that the page on DevHost mentions.
 TEST(Documentation, UsesOptionsThatDevHostHas) {
-    const std::wstring help = HelpText();
+    const std::wstring help = devhost::HelpText();
     const std::regex option("--[a-z]+(-[a-z]+)*");
     int optionsSeen = 0;
     for (const Page& page : AllPages()) {
@@ -95,8 +96,7 @@ TEST(Documentation, UsesOptionsThatDevHostHas) {
             for (std::sregex_iterator match(call.begin(), call.end(), option), end; match != end; ++match) {
                 ++optionsSeen;
                 const std::string text = match->str();
-                EXPECT_NE(help.find(L"  " + std::wstring(text.begin(), text.end()) + L" "),
-                          std::wstring::npos)
+                EXPECT_NE(help.find(L" " + std::wstring(text.begin(), text.end()) + L" "), std::wstring::npos)
                     << page.path << ": " << call;
             }
         }

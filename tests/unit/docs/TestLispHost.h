@@ -1,11 +1,15 @@
-// What the examples of the LISP reference need of a host: output that is kept, files of the current folder,
-// system variables of a new drawing. Nobody answers its questions.
+// A host for the examples of the LISP reference: records output, finds files in the current folder, and has
+// the system variables of a new drawing. It answers no questions.
 #pragma once
 
 #include <filesystem>
 #include <string>
 
-#include "devhost/lisp/Evaluator.h"
+#include "lisp/Evaluator.h"
+
+namespace tests {
+
+using namespace tavrin::lisp;
 
 class TestLispHost : public CNullLispHost {
 public:
@@ -28,3 +32,5 @@ public:
 private:
     std::wstring m_printed;
 };
+
+}  // namespace tests

@@ -5,20 +5,24 @@
 #include "devhost/drawing/Outline.h"
 #include "tests/unit/samples/ItemRoutine.h"
 
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
+
 namespace {
 
 // A point as it is seen from a text: along its base line and up from there.
-SPoint SeenFrom(const SText& text, SPoint point) {
-    const double x = point.x - text.place.x, y = point.y - text.place.y;
+Point SeenFrom(const TextEntity& text, Point point) {
+    const double x = point.x - text.position.x, y = point.y - text.position.y;
     const double cosine = std::cos(text.angle), sine = std::sin(text.angle);
     return {x * cosine + y * sine, y * cosine - x * sine};
 }
 
 // Whether a line of the entity crosses or touches the letters, whose width is an estimate.
-bool Touches(const CEntity& entity, const SText& text) {
+bool Touches(const Entity& entity, const TextEntity& text) {
     constexpr double kLetterWidth = 0.8;  // of the height of a capital
-    const SBox letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
-    const std::vector<SPoint> points = OutlineOf(entity, 1);
+    const Box letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
+    const std::vector<Point> points = OutlineOf(entity, 1);
     for (std::size_t i = 1; i < points.size(); ++i) {
         if (Clip({SeenFrom(text, points[i - 1]), SeenFrom(text, points[i])}, letters)) {
             return true;
@@ -32,8 +36,8 @@ TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
     ASSERT_TRUE(Make("door", "single"));
     EXPECT_EQ(Boxes(812.5, 2012), 1);
     ASSERT_EQ(Arcs(812.5), 1);
-    for (const CEntity& entity : drawing.Entities()) {
-        if (const auto* arc = std::get_if<SArc>(&entity)) {
+    for (const Entity& entity : drawing.Entities()) {
+        if (const auto* arc = std::get_if<ArcEntity>(&entity)) {
             EXPECT_NEAR(SweepOf(*arc), std::numbers::pi / 3, 1e-9);
         }
     }
@@ -41,12 +45,12 @@ TEST_F(ItemRoutine, ADoorsLeafIsAsWideAndHighAsItsParameters) {
 }
 
 TEST_F(ItemRoutine, NoLineOfADrawingTouchesAText) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         for (const std::string& variant : item.variants) {
             ASSERT_TRUE(Make(item.name, variant));
-            for (const CEntity& entity : drawing.Entities()) {
-                for (const CEntity& other : drawing.Entities()) {
-                    const auto* text = std::get_if<SText>(&other);
+            for (const Entity& entity : drawing.Entities()) {
+                for (const Entity& other : drawing.Entities()) {
+                    const auto* text = std::get_if<TextEntity>(&other);
                     EXPECT_FALSE(text != nullptr && Touches(entity, *text))
                         << item.name << ' ' << variant << ": "
                         << std::string(text->text.begin(), text->text.end());
@@ -116,8 +120,8 @@ TEST_F(ItemRoutine, AStaircaseEndsAtTheUpperFloor) {
     // The slab of the upper floor begins at the last riser, 16 goings from the first.
     bool found = false;
     double plan = 0;
-    for (const CEntity& entity : drawing.Entities()) {
-        const auto* line = std::get_if<SPolyline>(&entity);
+    for (const Entity& entity : drawing.Entities()) {
+        const auto* line = std::get_if<PolylineEntity>(&entity);
         if (line == nullptr || line->points.size() != 4) {
             continue;
         }

@@ -7,6 +7,8 @@
 
 #include "devhost/drawlisp/DrawFunctions.h"
 
+namespace tests {
+
 namespace {
 
 std::string Narrow(const std::wstring& text) {
@@ -22,7 +24,7 @@ bool IsNear(double a, double b) {
 }
 
 // Whether the points are the corners of an upright rectangle of this size.
-bool IsBox(const SPolyline& line, double width, double height) {
+bool IsBox(const PolylineEntity& line, double width, double height) {
     if (!line.closed || line.points.size() != 4) {
         return false;
     }
@@ -33,8 +35,8 @@ bool IsBox(const SPolyline& line, double width, double height) {
 
 }  // namespace
 
-const std::vector<SItem>& SampleItems() {
-    static const std::vector<SItem> items = {
+const std::vector<SampleItem>& SampleItems() {
+    static const std::vector<SampleItem> items = {
         {"door", {"single", "double", "sliding", "arched", "glazed", "bifold"}},
         {"window", {"casement", "tilt", "fixed", "sliding", "arched"}},
         {"staircase", {"straight", "landing", "quarter", "half"}}};
@@ -64,7 +66,7 @@ void ItemRoutine::Load(const std::string& item) {
 
 bool ItemRoutine::Run(const std::string& text) {
     try {
-        const CLispResult result = m_evaluator.Run(ReadText(Wide(text)));
+        const LispResult result = m_evaluator.Run(ReadText(Wide(text)));
         return result && !result->IsNil();
     } catch (const CLispCancelled&) {
         return false;
@@ -79,7 +81,7 @@ int ItemRoutine::ParameterCount(const std::string& name) const {
     if (value.Type() != VT_FUNCTION) {
         return -1;
     }
-    const auto* definition = std::get_if<SDefinition>(&value.AsFunction()->code);
+    const auto* definition = std::get_if<Definition>(&value.AsFunction()->code);
     return definition != nullptr ? static_cast<int>(definition->parameters.size()) : -1;
 }
 
@@ -90,14 +92,14 @@ bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
     drawing.Clear();
     messages.clear();
     chosen = variant;
-    clicked = SLispPoint();
+    clicked = LispPoint();
     return Run("(" + item + ")");
 }
 
 int ItemRoutine::Boxes(double width, double height) const {
     int count = 0;
-    for (const CEntity& entity : drawing.Entities()) {
-        const auto* line = std::get_if<SPolyline>(&entity);
+    for (const Entity& entity : drawing.Entities()) {
+        const auto* line = std::get_if<PolylineEntity>(&entity);
         count += line != nullptr && IsBox(*line, width, height);
     }
     return count;
@@ -105,16 +107,16 @@ int ItemRoutine::Boxes(double width, double height) const {
 
 int ItemRoutine::Arcs(double radius) const {
     int count = 0;
-    for (const CEntity& entity : drawing.Entities()) {
-        const auto* arc = std::get_if<SArc>(&entity);
+    for (const Entity& entity : drawing.Entities()) {
+        const auto* arc = std::get_if<ArcEntity>(&entity);
         count += arc != nullptr && IsNear(arc->radius, radius);
     }
     return count;
 }
 
 bool ItemRoutine::HasText(const std::wstring& text) const {
-    for (const CEntity& entity : drawing.Entities()) {
-        const auto* shownText = std::get_if<SText>(&entity);
+    for (const Entity& entity : drawing.Entities()) {
+        const auto* shownText = std::get_if<TextEntity>(&entity);
         if (shownText != nullptr && shownText->text.find(text) != std::wstring::npos) {
             return true;
         }
@@ -142,9 +144,9 @@ CValue ItemRoutine::GetVariable(const std::wstring& name) {
     return name == L"LUNITS" || name == L"LUPREC" ? CValue::Integer(2) : CValue();
 }
 
-SLispAnswer ItemRoutine::Ask(const std::wstring& prompt, std::optional<SLispPoint>, EQuestion) {
+LispAnswer ItemRoutine::Ask(const std::wstring& prompt, std::optional<LispPoint>, EQuestion) {
     questions.push_back(prompt);
-    SLispAnswer answer;
+    LispAnswer answer;
     if (clicked) {
         answer.kind = ANSWER_POINT;
         answer.point = *clicked;
@@ -152,7 +154,7 @@ SLispAnswer ItemRoutine::Ask(const std::wstring& prompt, std::optional<SLispPoin
     return answer;
 }
 
-CLispResult ItemRoutine::PlayChoice(std::span<const CValue> arguments) {
+LispResult ItemRoutine::PlayChoice(std::span<const CValue> arguments) {
     offered.clear();
     for (const CValue& name : arguments.subspan(2)) {
         offered.push_back(Narrow(name.AsString()));
@@ -164,7 +166,7 @@ CLispResult ItemRoutine::PlayChoice(std::span<const CValue> arguments) {
     return CValue::List(answer);
 }
 
-CLispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
+LispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
     const std::string working = Narrow(arguments[0].AsString()) + "_TMP.TXT";
     std::ifstream before(working);
     EXPECT_TRUE(before) << working;
@@ -193,3 +195,5 @@ CLispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
     std::ofstream(working, std::ios::binary) << after;
     return CValue::Integer(0);
 }
+
+}  // namespace tests

@@ -1,6 +1,6 @@
-// The routine of a sample item, run by the real evaluator into a real drawing. The person and the dialogs are
-// played: they answer what the test has laid out, and the item dialog writes the working file as the module
-// does after OK.
+// The routine of a sample item, run by the real evaluator into a real drawing. User and dialogs
+// are simulated: they answer as the test says, and the item dialog writes the working file as the module does
+// after OK.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -12,29 +12,34 @@
 #include <vector>
 
 #include "devhost/drawing/Drawing.h"
-#include "devhost/lisp/Evaluator.h"
-#include "devhost/lisp/LispHost.h"
+#include "lisp/Evaluator.h"
+#include "lisp/LispHost.h"
 
-struct SItem {
+namespace tests {
+
+using namespace devhost;
+using namespace tavrin::lisp;
+
+struct SampleItem {
     std::string name;
     std::vector<std::string> variants;
 };
 
 // The items of the folder samples/.
-const std::vector<SItem>& SampleItems();
+const std::vector<SampleItem>& SampleItems();
 
 class ItemRoutine : public testing::Test, protected ILispHost {
 protected:
     ItemRoutine();
     ~ItemRoutine() override;
 
-    // What the person does.
-    std::string chosen;                 // the variant; empty: Cancel
-    std::map<int, std::string> typed;   // values typed into the item dialog, by the parameter's number
-    bool presses = true;                // OK rather than Cancel
-    std::optional<SLispPoint> clicked;  // nothing: Escape
+    // What the user does.
+    std::string chosen;                // the variant; empty: Cancel
+    std::map<int, std::string> typed;  // values typed into the item dialog, by the parameter's number
+    bool presses = true;               // OK rather than Cancel
+    std::optional<LispPoint> clicked;  // nothing: Escape
 
-    // What the person sees.
+    // What the user sees.
     std::vector<std::string> offered;     // names of slides
     std::map<int, std::string> shown;     // values in the item dialog
     std::vector<std::wstring> messages;   // alerts
@@ -65,12 +70,14 @@ private:
     std::shared_ptr<CLispFile> OpenFile(const std::wstring& name, EFileMode mode) override;
     CValue GetVariable(const std::wstring& name) override;
     void SetVariable(const std::wstring&, const CValue&) override {}
-    SLispAnswer Ask(const std::wstring& prompt, std::optional<SLispPoint> base, EQuestion question) override;
+    LispAnswer Ask(const std::wstring& prompt, std::optional<LispPoint> base, EQuestion question) override;
     bool IsEscapePressed() override { return false; }
 
-    CLispResult PlayChoice(std::span<const CValue> arguments);
-    CLispResult PlayItemDialog(std::span<const CValue> arguments);
+    LispResult PlayChoice(std::span<const CValue> arguments);
+    LispResult PlayItemDialog(std::span<const CValue> arguments);
 
     CEvaluator m_evaluator{*this};
     std::string m_item;
 };
+
+}  // namespace tests

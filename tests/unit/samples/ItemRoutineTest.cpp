@@ -7,6 +7,10 @@
 #include "devhost/drawing/SvgWriter.h"
 #include "tests/unit/samples/ItemRoutine.h"
 
+using namespace devhost;
+using namespace tavrin::lisp;
+using namespace tests;
+
 namespace {
 
 // The parameters of an item's template: number to type letter.
@@ -37,7 +41,7 @@ std::string Changed(const std::string& value, char type) {
 }
 
 TEST_F(ItemRoutine, EachVariantIsDrawnAndNoTwoAreTheSame) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         std::map<std::string, std::string> pictures;
         for (const std::string& variant : item.variants) {
             EXPECT_TRUE(Make(item.name, variant)) << item.name << ' ' << variant;
@@ -50,7 +54,7 @@ TEST_F(ItemRoutine, EachVariantIsDrawnAndNoTwoAreTheSame) {
 }
 
 TEST_F(ItemRoutine, EachVariantHasItsSlideAndIsOffered) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         Load(item.name);
         Run("(" + item.name + ")");
         std::vector<std::string> slides;
@@ -67,7 +71,7 @@ TEST_F(ItemRoutine, EachVariantHasItsSlideAndIsOffered) {
 }
 
 TEST_F(ItemRoutine, EachParameterSteersTheDrawing) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         std::map<std::string, std::string> pictures;
         typed.clear();
         for (const std::string& variant : item.variants) {
@@ -88,13 +92,13 @@ TEST_F(ItemRoutine, EachParameterSteersTheDrawing) {
 }
 
 TEST_F(ItemRoutine, TheDrawingStandsWhereTheUserClicked) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         ASSERT_TRUE(Make(item.name, item.variants.front()));
-        const SBox atOrigin = *drawing.Extents();
+        const Box atOrigin = *drawing.Extents();
         drawing.Clear();
-        clicked = SLispPoint{1000, -500, 0};
+        clicked = LispPoint{1000, -500, 0};
         ASSERT_TRUE(Run("(" + item.name + ")"));
-        const SBox moved = *drawing.Extents();
+        const Box moved = *drawing.Extents();
         EXPECT_NEAR(moved.low.x, atOrigin.low.x + 1000, 1e-6) << item.name;
         EXPECT_NEAR(moved.low.y, atOrigin.low.y - 500, 1e-6) << item.name;
         EXPECT_NEAR(moved.high.x, atOrigin.high.x + 1000, 1e-6) << item.name;
@@ -103,7 +107,7 @@ TEST_F(ItemRoutine, TheDrawingStandsWhereTheUserClicked) {
 }
 
 TEST_F(ItemRoutine, TheWholeDrawingIsShownOnceItIsDone) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         Run("(setq fits 0)");
         Run("(defun draw-fit () (setq fits (1+ fits)))");
         ASSERT_TRUE(Make(item.name, item.variants.front()));
@@ -112,7 +116,7 @@ TEST_F(ItemRoutine, TheWholeDrawingIsShownOnceItIsDone) {
 }
 
 TEST_F(ItemRoutine, WhoGivesUpOnTheWayFindsNothingDrawn) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         const std::string call = "(" + item.name + ")";
         Load(item.name);
         chosen.clear();
@@ -183,7 +187,7 @@ TEST_F(ItemRoutine, WhateverIsTypedIsDrawnOrRefusedAsAWhole) {
     const char* const values[] = {"0",  "-1",    "1",   "2",    "7",   "45",
                                   "99", "0.001", "300", "2000", "1e6", "1e300"};
     std::mt19937 random(20240315);
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         Load(item.name);
         int drawn = 0;
         for (int run = 0; run < 120; ++run) {

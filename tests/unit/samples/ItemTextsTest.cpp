@@ -11,6 +11,9 @@
 #include "tests/unit/samples/ItemRoutine.h"
 #include "tools/texts/StringScript.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 // What the dialogs have room for, in letters of usual width.
@@ -28,7 +31,7 @@ std::string BytesOf(const std::string& file) {
 std::map<unsigned, std::wstring> TextsIn(const std::string& language) {
     const std::string file = "texts/TavrinRes." + language + ".rc";
     std::map<unsigned, std::wstring> texts;
-    for (const SScriptText& text : ReadStringScript(file, BytesOf(file)).texts) {
+    for (const ScriptText& text : ReadStringScript(file, BytesOf(file)).texts) {
         EXPECT_TRUE(texts.emplace(text.number, text.text).second)
             << file << ": " << text.number << " is twice";
     }
@@ -52,7 +55,7 @@ protected:
 };
 
 TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheirPlace) {
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         const std::vector<unsigned> numbers = PlaceholdersOf(item.name);
         ASSERT_GT(numbers.size(), 10u) << item.name;
         std::set<std::wstring> labels;
@@ -68,7 +71,7 @@ TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheirPlace) {
 
 TEST_P(ItemTexts, AreAllUsed) {
     std::set<unsigned> used = kModuleTexts;
-    for (const SItem& item : SampleItems()) {
+    for (const SampleItem& item : SampleItems()) {
         for (const unsigned number : PlaceholdersOf(item.name)) {
             used.insert(number);
         }

@@ -2,8 +2,11 @@
 #include <filesystem>
 
 #include "tests/unit/tools/ToolFolder.h"
-#include "tools/extract/ExtractCommand.h"
-#include "tools/preview/PreviewCommand.h"
+#include "tools/tavrincheck/ExtractCommand.h"
+#include "tools/tavrincheck/PreviewCommand.h"
+
+using namespace tests;
+using namespace tavrin::tools;
 
 namespace {
 

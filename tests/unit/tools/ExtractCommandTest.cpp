@@ -1,7 +1,10 @@
 // tavrincheck extract.
-#include "tools/extract/ExtractCommand.h"
+#include "tools/tavrincheck/ExtractCommand.h"
 
 #include "tests/unit/tools/ToolFolder.h"
+
+using namespace tests;
+using namespace tavrin::tools;
 
 namespace {
 
@@ -14,7 +17,7 @@ protected:
         try {
             RunExtract(arguments);
             return "(none)";
-        } catch (const CToolError& error) {
+        } catch (const std::runtime_error& error) {
             return folder.Short(error.what());
         }
     }
@@ -66,25 +69,25 @@ TEST_F(ExtractCommand, ANewScriptIsShownAsSuch) {
 }
 
 TEST_F(ExtractCommand, ErrorsSayWhatToDo) {
-    EXPECT_EQ(ErrorOf({}), "there is nothing to extract from: name a template, or see --help");
-    EXPECT_EQ(ErrorOf({"a.TXT"}),
-              "--from is missing: give the number for the first text, such as --from 1501");
-    EXPECT_EQ(ErrorOf({"a.TXT", "--from", "0"}), "--from does not take '0': give a number from 1 to 65535");
-    EXPECT_EQ(ErrorOf({"a.TXT", "b.TXT"}), "one file is taken at a time, not both 'a.TXT' and 'b.TXT'");
-    EXPECT_EQ(ErrorOf({"a.TXT", "--frm", "1"}), "the option '--frm' is not known: see --help");
+    EXPECT_EQ(ErrorOf({}), "extract takes one file, not 0, see --help");
+    EXPECT_EQ(ErrorOf({"a.TXT"}), "option '--from' is required, for example --from 1501");
+    EXPECT_EQ(ErrorOf({"a.TXT", "--from", "0"}),
+              "invalid value '0' for option '--from': expected a number from 1 to 65535");
+    EXPECT_EQ(ErrorOf({"a.TXT", "b.TXT", "--from=1"}), "extract takes one file, not 2, see --help");
+    EXPECT_EQ(ErrorOf({"a.TXT", "--frm", "1"}), "unknown option '--frm', see --help");
     EXPECT_EQ(ErrorOf({folder.Path("no.TXT"), "--from", "1"}), "no.TXT: the file cannot be opened");
     const std::string script = folder.Write("t.rc", "STRINGTABLE\n{\n  9 Width\n}\n");
     EXPECT_EQ(ErrorOf({folder.Write("a.TXT", "x\n"), "--from", "1", "--rc", script}),
-              "t.rc:3: text 9 has no text in quotes behind its number");
+              "t.rc:3: text 9 has no text in quotes after its number");
     EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Path("./a.TXT")}),
-              "./a.TXT: this is the template itself: name a string table script with --rc");
+              "./a.TXT: this is the template itself: give a string table script with --rc");
     EXPECT_EQ(ErrorOf({folder.Path("a.TXT"), "--from", "1", "--rc", folder.Write("t.dll", "MZ")}),
-              "t.dll: texts are not added to a module: name the script that it is made from");
+              "t.dll: texts cannot be added to a module: give its script");
 }
 
 TEST_F(ExtractCommand, HelpNeedsNoFile) {
     EXPECT_TRUE(Run({"--help"}).starts_with("tavrincheck extract"));
-    EXPECT_EQ(ErrorOf({"--write=1"}), "--write takes no value");
+    EXPECT_EQ(ErrorOf({"--write=1"}), "option '--write' takes no value");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // An item's files as lines.
-#include "tools/lines/FileLines.h"
+#include "tools/files/FileLines.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,11 @@ using namespace tavrin::itemdlg;
 
 namespace {
 
+using namespace tavrin::tools;
 using namespace std::string_literals;
 
 TEST(FileLines, BothLineEndsEndALineAndAreKept) {
-    const std::vector<SFileLine> lines = SplitLines("a\nb\r\n\r\nc");
+    const std::vector<FileLine> lines = SplitLines("a\nb\r\n\r\nc");
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(TextsOf(lines), (TextLines{L"a", L"b", L"", L"c"}));
     EXPECT_EQ(lines[0].ending, "\n");

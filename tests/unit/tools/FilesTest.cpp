@@ -10,8 +10,11 @@
 #include <filesystem>
 
 #include "tests/unit/tools/ToolFolder.h"
-#include "tools/cmdline/Output.h"
 #include "tools/files/ItemName.h"
+#include "tools/tavrincheck/Output.h"
+
+using namespace tests;
+using namespace tavrin::tools;
 
 namespace {
 
@@ -62,7 +65,7 @@ TEST_F(Files, OnAFullDiskAFileStaysAsItWasAndNothingIsLeftBesideIt) {
     {
         const CFullDisk full;
         EXPECT_EQ(ErrorOf(name, "twenty bytes of text"),
-                  "a.TXT: the file cannot be written, it stays as it was");
+                  "a.TXT: the file cannot be written, it is unchanged");
         EXPECT_EQ(ErrorOf(folder.Path("b.TXT"), "twenty bytes of text"), "b.TXT: the file cannot be written");
     }
     EXPECT_EQ(folder.Read("a.TXT"), "before");
@@ -90,8 +93,8 @@ TEST_F(Files, AFileOfSomebodyElseWithANameLikeTheNewOnesStays) {
 
 TEST_F(Files, WhatIsNoFileIsNotReplaced) {
     fs::create_directory(folder.Path("a.TXT"));
-    EXPECT_EQ(ErrorOf(folder.Path("a.TXT"), "x"), "a.TXT: the file cannot be written, it stays as it was");
-    EXPECT_EQ(ErrorOf("/dev/full", "x"), "/dev/full: the file cannot be written, it stays as it was");
+    EXPECT_EQ(ErrorOf(folder.Path("a.TXT"), "x"), "a.TXT: the file cannot be written, it is unchanged");
+    EXPECT_EQ(ErrorOf("/dev/full", "x"), "/dev/full: the file cannot be written, it is unchanged");
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
     EXPECT_EQ(ErrorOf(folder.Path("none/a.TXT"), "x"), "none/a.TXT: the file cannot be written");
 }

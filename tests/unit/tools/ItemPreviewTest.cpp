@@ -1,11 +1,13 @@
-// The item dialog foretold. That it is foretold right is shown beside the dialog itself, among the window
-// tests; here stands what the preview adds.
-#include "tools/preview/ItemPreview.h"
+// The preview of the item dialog. A window test compares it with the dialog itself; these tests check what
+// the preview adds.
+#include "tools/tavrincheck/ItemPreview.h"
 
 #include <gtest/gtest.h>
 
 #include "tools/files/Files.h"
-#include "tools/preview/PreviewReport.h"
+#include "tools/tavrincheck/PreviewReport.h"
+
+using namespace tavrin::tools;
 
 using namespace tavrin::itemdlg;
 
@@ -16,8 +18,8 @@ const std::string kTemplate =
     "1\n"
     "END_VAR\n";
 
-SPreviewSettings Settings(double scale = 1.0, int mode = 0) {
-    SPreviewSettings settings;
+PreviewSettings Settings(double scale = 1.0, int mode = 0) {
+    PreviewSettings settings;
     settings.scale = scale;
     settings.mode = mode;
     settings.texts = [](unsigned number) { return L"text " + std::to_wstring(number); };
@@ -77,7 +79,7 @@ TEST(ItemPreview, AnInfiniteValueCannotBeTyped) {
 }
 
 TEST(PreviewReport, TellsTitleRowsMessagesAndChanges) {
-    SPreviewInput input;
+    PreviewInput input;
     input.workingFile = {"door_TMP.TXT", SplitLines(kTemplate)};
     input.templateFile = {"door.TXT", SplitLines("VAR\r\n$1 = \"<<1501>>\"D900\r\n")};
     input.templateName = "door.TXT";
@@ -118,7 +120,7 @@ TEST(PreviewReport, TellsTitleRowsMessagesAndChanges) {
 }
 
 TEST(PreviewReport, TellsOfATemplateThatIsMissing) {
-    SPreviewInput input;
+    PreviewInput input;
     input.workingFile = {"a_TMP.TXT", SplitLines("x\r\n")};
     input.templateName = "a.TXT";
     input.picture = "a.png";
@@ -135,7 +137,7 @@ TEST(PreviewReport, TellsOfATemplateThatIsMissing) {
 }
 
 TEST(PreviewReport, ShowsWhatDoesNotPrintAsPictures) {
-    SPreviewInput input;
+    PreviewInput input;
     const std::string file = "x\r\na\tb\x80\x7F\r\n";
     input.workingFile = {"a_TMP.TXT", SplitLines(file)};
     EXPECT_EQ(PreviewReport(input, PreviewOf(file)).substr(0, 22), "Title:    a␉b\uFFFD␡\n");

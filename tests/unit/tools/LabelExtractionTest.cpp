@@ -1,40 +1,41 @@
 // Taking literal labels out of templates.
-#include "tools/extract/LabelExtraction.h"
+#include "tools/tavrincheck/LabelExtraction.h"
 
 #include <gtest/gtest.h>
 
 #include "itemdlg/ItemContents.h"
 #include "tests/items/ItemGenerator.h"
-#include "tools/extract/ScriptEdit.h"
 #include "tools/files/Files.h"
+#include "tools/texts/ScriptEdit.h"
 
 using namespace tavrin::itemdlg;
+using namespace tavrin::tools;
 
 namespace {
 
-std::string Bytes(const std::vector<SFileLine>& lines) {
+std::string Bytes(const std::vector<FileLine>& lines) {
     std::string bytes;
-    for (const SFileLine& line : lines) {
+    for (const FileLine& line : lines) {
         bytes += BytesOf(line.text) + line.ending;
     }
     return bytes;
 }
 
-SExtraction Extract(const std::string& file, unsigned first = 1501, const SKnownTexts& known = {}) {
+Extraction Extract(const std::string& file, unsigned first = 1501, const KnownTextNumbers& known = {}) {
     return ExtractLabels(SplitLines(file), first, known);
 }
 
 // The new texts: "1501=Width|".
-std::wstring Texts(const SExtraction& extraction) {
+std::wstring Texts(const Extraction& extraction) {
     std::wstring texts;
-    for (const SExtractedText& text : extraction.newTexts) {
+    for (const NewText& text : extraction.newTexts) {
         texts += std::to_wstring(text.number) + L"=" + text.text + L"|";
     }
     return texts;
 }
 
 TEST(LabelExtraction, ALiteralBecomesAPlaceholderAndAllElseStays) {
-    const SExtraction extraction =
+    const Extraction extraction =
         Extract("x\r\n<<2001>>\nVAR\n$1  =\"Width\"D 900 \r\n$2 = \"a \"b\"\"R5\nEND_VAR\n$3 = \"c\"R 1");
     EXPECT_EQ(Bytes(extraction.lines),
               "x\r\n<<2001>>\nVAR\n$1  =\"<<1501>>\"D 900 \r\n$2 = \"<<1502>>\"R5\nEND_VAR\n$3 = \"c\"R 1");
@@ -43,46 +44,46 @@ TEST(LabelExtraction, ALiteralBecomesAPlaceholderAndAllElseStays) {
 }
 
 TEST(LabelExtraction, TheMarkStaysBehindThePlaceholder) {
-    const SExtraction extraction = Extract("x\n\nVAR\n$1 = \"Share in %%\"R 1\n");
+    const Extraction extraction = Extract("x\n\nVAR\n$1 = \"Share in %%\"R 1\n");
     EXPECT_EQ(Bytes(extraction.lines), "x\n\nVAR\n$1 = \"<<1501>>%\"R 1\n");
     EXPECT_EQ(Texts(extraction), L"1501=Share in %|");
 }
 
 TEST(LabelExtraction, TheTitleIsTakenToo) {
-    const SExtraction extraction = Extract("x\nHinged door\n");
+    const Extraction extraction = Extract("x\nHinged door\n");
     EXPECT_EQ(Bytes(extraction.lines), "x\n<<1501>>\n");
     EXPECT_EQ(Texts(extraction), L"1501=Hinged door|");
 }
 
 TEST(LabelExtraction, NumbersInSignsAreTakenWhetherTheyCountOrNot) {
-    const SExtraction extraction = Extract(
+    const Extraction extraction = Extract(
         "<<<<1501>>\n<<1502>> <<x <<1503>>\nVAR\n<<1504>\n$1 = \"Width\"D 1\n$2 = \"<<0>> a\"D <<1505>>\n");
     EXPECT_EQ(Texts(extraction), L"1504=Width|");
     EXPECT_EQ(extraction.notes,
               std::vector<std::string>{
-                  "line 6 stays: its value holds a placeholder, which OK would write into the label"});
+                  "line 6 stays: its value contains a placeholder, which OK would write into the label"});
 }
 
 TEST(LabelExtraction, LabelsWithAPlaceholderStay) {
     const std::string file = "x\na <<7>> b\nVAR\n$1 = \"Leaves: <<1503>>\"I 1\n$2 = \"<<1504>>%\"I 1\n";
-    const SExtraction extraction = Extract(file);
+    const Extraction extraction = Extract(file);
     EXPECT_EQ(Bytes(extraction.lines), file);
     EXPECT_TRUE(extraction.newTexts.empty());
 }
 
 TEST(LabelExtraction, TakenNumbersAreSkippedThoseOfPlaceholdersToo) {
-    SKnownTexts known;
+    KnownTextNumbers known;
     known.taken = {1501};
-    const SExtraction extraction =
+    const Extraction extraction =
         Extract("x\n\nVAR\n$1 = \"a\"R 1\n$2 = \"<<1502>> <<01503>>\"R 1\n$3 = \"b\"R 1\n", 1501, known);
     EXPECT_EQ(Texts(extraction), L"1504=a|1505=b|");
 }
 
 TEST(LabelExtraction, EqualTextsShareANumber) {
-    SKnownTexts known;
+    KnownTextNumbers known;
     known.taken = {40};
     known.texts = {{L"Width", 40}};
-    const SExtraction extraction =
+    const Extraction extraction =
         Extract("x\n\nVAR\n$1 = \"Width%\"R 1\n$2 = \"a\"R 1\n$3 = \"a\"R 1\n", 1, known);
     EXPECT_EQ(Bytes(extraction.lines),
               "x\n\nVAR\n$1 = \"<<40>>%\"R 1\n$2 = \"<<1>>\"R 1\n$3 = \"<<1>>\"R 1\n");
@@ -91,7 +92,7 @@ TEST(LabelExtraction, EqualTextsShareANumber) {
 
 TEST(LabelExtraction, WhatCannotMoveSaysWhy) {
     const auto noteOf = [](const std::string& file) {
-        const SExtraction extraction = Extract(file);
+        const Extraction extraction = Extract(file);
         EXPECT_EQ(Bytes(extraction.lines), file);
         EXPECT_TRUE(extraction.newTexts.empty());
         return extraction.notes.size() == 1 ? extraction.notes.front() : "(none or several)";
@@ -102,13 +103,13 @@ TEST(LabelExtraction, WhatCannotMoveSaysWhy) {
               "line 4 stays: its text is longer than the 255 characters that the module takes");
     for (const std::string value : {"<<7>>", "<<>>", "<<0>>"}) {
         EXPECT_EQ(noteOf("x\n\nVAR\n$1 = \"a\"R 1 " + value + "\n"),
-                  "line 4 stays: its value holds a placeholder, which OK would write into the label");
+                  "line 4 stays: its value contains a placeholder, which OK would write into the label");
     }
     EXPECT_EQ(noteOf("x\nVAR\n"),
               "line 2 stays: it is the title and bounds a block, give the file a title line");
     EXPECT_EQ(noteOf("VAR\n$1 = \"a\"R 1\n"),
               "line 2 stays: it is title and parameter at once, give the file a title line");
-    EXPECT_EQ(noteOf(std::string("x\na\0b\n", 6)), "line 2 stays: its title holds a null character");
+    EXPECT_EQ(noteOf(std::string("x\na\0b\n", 6)), "line 2 stays: its title contains a null character");
 }
 
 TEST(LabelExtraction, NumbersEndAtTheHighest) {
@@ -120,7 +121,7 @@ TEST(LabelExtraction, AScriptsFirstLanguageIsTheOneThatIsKnown) {
     CTextTable table;
     table.ReadBytes("a.rc",
                     "LANGUAGE 1, 1 STRINGTABLE { 0 \"z\" 5 \"a\" } LANGUAGE 2, 1 STRINGTABLE { 6 \"b\" }");
-    const SKnownTexts known = KnownTexts(table);
+    const KnownTextNumbers known = KnownTexts(table);
     EXPECT_EQ(known.taken, (std::set<unsigned>{0, 5, 6}));
     EXPECT_EQ(known.texts, (std::map<std::wstring, unsigned>{{L"a", 5}}));
 }
@@ -151,7 +152,7 @@ TEST(LabelExtraction, TheDialogShowsTheSameAsBefore) {
         const std::string file = CItemGenerator(seed).File();
         CTextTable before;
         before.ReadBytes("a.rc", script);
-        const SExtraction extraction = ExtractLabels(SplitLines(file), 1500, KnownTexts(before));
+        const Extraction extraction = ExtractLabels(SplitLines(file), 1500, KnownTexts(before));
         const std::string newScript =
             Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, extraction.newTexts));
         CTextTable after;
@@ -161,7 +162,7 @@ TEST(LabelExtraction, TheDialogShowsTheSameAsBefore) {
             EXPECT_EQ(Shown(newFile, after, mode), Shown(file, before, mode));
         }
         EXPECT_EQ(after.Texts().size(), before.Texts().size() + extraction.newTexts.size());
-        const SExtraction again = ExtractLabels(SplitLines(newFile), 1500, KnownTexts(after));
+        const Extraction again = ExtractLabels(SplitLines(newFile), 1500, KnownTexts(after));
         EXPECT_EQ(Bytes(again.lines), newFile);
         EXPECT_TRUE(again.newTexts.empty());
         EXPECT_EQ(again.notes, extraction.notes);

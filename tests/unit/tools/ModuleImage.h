@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 class CModuleImage {
 public:
     struct Block {
@@ -79,3 +81,5 @@ private:
         return file;
     }
 };
+
+}  // namespace tests

@@ -1,7 +1,10 @@
 // tavrincheck preview: which files it takes, and its options.
-#include "tools/preview/PreviewCommand.h"
+#include "tools/tavrincheck/PreviewCommand.h"
 
 #include "tests/unit/tools/ToolFolder.h"
+
+using namespace tests;
+using namespace tavrin::tools;
 
 namespace {
 
@@ -14,7 +17,7 @@ protected:
         try {
             RunPreview(arguments);
             return "(none)";
-        } catch (const CToolError& error) {
+        } catch (const std::runtime_error& error) {
             return folder.Short(error.what());
         }
     }
@@ -53,25 +56,27 @@ TEST_F(PreviewCommand, OptionsReachTheDialog) {
     EXPECT_TRUE(Has(output, "   4  $1      distance     Größe  1'-3\"  read-only\n")) << output;
     EXPECT_TRUE(Has(output, "   5  $2      real number         35\n")) << output;
     EXPECT_TRUE(Has(output, "+#2 = 3.5\n")) << output;
-    EXPECT_TRUE(Has(output, "text 8 is not there: it shows as nothing\n")) << output;
+    EXPECT_TRUE(Has(output, "text 8 is missing and shown as an empty text\n")) << output;
 }
 
 TEST_F(PreviewCommand, ErrorsSayWhatToDo) {
     const std::string file = folder.Write("a.TXT", "x\n");
-    EXPECT_EQ(ErrorOf({}), "there is nothing to preview: name a file, or see --help");
-    EXPECT_EQ(ErrorOf({"a", "b"}), "one file is previewed at a time, not both 'a' and 'b'");
-    EXPECT_EQ(ErrorOf({"--scale", "x", file}), "--scale does not take 'x': give a number, such as 0.001");
-    EXPECT_EQ(ErrorOf({"--lunits=6", file}), "--lunits does not take '6': give 1 to 5");
-    EXPECT_EQ(ErrorOf({"--set", "900", file}), "--set does not take '900': give NUMBER=VALUE, such as 1=900");
+    EXPECT_EQ(ErrorOf({}), "a preview takes one file, not 0, see --help");
+    EXPECT_EQ(ErrorOf({"a", "b"}), "a preview takes one file, not 2, see --help");
+    EXPECT_EQ(ErrorOf({"--scale", "x", file}),
+              "invalid value 'x' for option '--scale': expected a number, for example 0.001");
+    EXPECT_EQ(ErrorOf({"--lunits=6", file}),
+              "invalid value '6' for option '--lunits': expected a number from 1 to 5");
+    EXPECT_EQ(ErrorOf({"--set", "900", file}),
+              "invalid value '900' for option '--set': expected NUMBER=VALUE, for example 1=900");
     EXPECT_EQ(ErrorOf({"--set", "1=5", file}), "there is no parameter with the number '1'");
-    EXPECT_EQ(ErrorOf({file, "--texts"}),
-              "--texts lacks its value: give a string table script or a DLL behind it");
+    EXPECT_EQ(ErrorOf({file, "--texts"}), "option '--texts' requires a value, for example TavrinRes.rc");
     EXPECT_EQ(ErrorOf({file, "--texts", folder.Path("t.rc")}), "t.rc: the file cannot be opened");
 }
 
 TEST_F(PreviewCommand, HelpNeedsNoFile) {
     EXPECT_TRUE(Run({"--help"}).starts_with("tavrincheck preview"));
-    EXPECT_EQ(ErrorOf({"--scala", "1"}), "the option '--scala' is not known: see --help");
+    EXPECT_EQ(ErrorOf({"--scala", "1"}), "unknown option '--scala', see --help");
 }
 
 }  // namespace

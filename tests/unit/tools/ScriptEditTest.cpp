@@ -1,15 +1,18 @@
 // Adding texts to scripts.
-#include "tools/extract/ScriptEdit.h"
+#include "tools/texts/ScriptEdit.h"
+#include "tools/texts/TextTable.h"
 
 #include <gtest/gtest.h>
 
 #include "tools/files/Files.h"
 
+using namespace tavrin::tools;
+
 namespace {
 
-const std::vector<SExtractedText> kTexts = {{7, L"a \"b\" \\c"}, {8, L"\u00E0"}};
+const std::vector<NewText> kTexts = {{7, L"a \"b\" \\c"}, {8, L"\u00E0"}};
 
-std::string With(const std::string& script, const std::vector<SExtractedText>& texts = kTexts) {
+std::string With(const std::string& script, const std::vector<NewText>& texts = kTexts) {
     return Edited(LinesWithEnds(script), EditsOfScript("a.rc", script, texts));
 }
 

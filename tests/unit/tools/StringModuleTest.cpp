@@ -3,16 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include "encoding/Encoding.h"
 #include "tests/unit/tools/ModuleImage.h"
 #include "tools/files/Files.h"
-#include "tools/texts/CodePage.h"
+
+using namespace tests;
+using namespace tavrin::tools;
 
 namespace {
 
 std::string Texts(const std::string& bytes) {
     std::string texts;
-    for (const SModuleText& text : ReadStringModule("a.dll", bytes)) {
-        texts += std::to_string(text.number) + "=" + Utf8Text(text.text) + " (" + text.language + ")|";
+    for (const ModuleText& text : ReadStringModule("a.dll", bytes)) {
+        texts += std::to_string(text.number) + "=" + tavrin::encoding::EncodeUtf8(text.text) + " (" +
+                 text.language + ")|";
     }
     return texts;
 }
@@ -52,8 +56,7 @@ TEST(StringModule, WhatIsNoModuleIsRefusedByName) {
     EXPECT_EQ(ErrorOf("MZ"), "a.dll: the file ends before its resources do (byte 60)");
     std::string bytes = CModuleImage::Make(kBlocks);
     bytes[0x40] = 'N';
-    EXPECT_EQ(ErrorOf(bytes),
-              "a.dll: this is no module: a DLL or EXE file, or a resource script, is expected");
+    EXPECT_EQ(ErrorOf(bytes), "a.dll: not a module: a DLL or EXE file, or a resource script, is expected");
 }
 
 TEST(StringModule, DamagedResourcesAreRefused) {
@@ -63,10 +66,10 @@ TEST(StringModule, DamagedResourcesAreRefused) {
     EXPECT_EQ(ErrorOf(bytes).substr(0, 50), "a.dll: the file ends before its resources do (byte");
     bytes = sound;
     bytes[CModuleImage::kResources + 24 + 16] = 0;  // the number of the first block
-    EXPECT_EQ(ErrorOf(bytes), "a.dll: it has a block of texts with the impossible number 0");
+    EXPECT_EQ(ErrorOf(bytes), "a.dll: it has a block of texts with the invalid number 0");
     bytes = sound;
     bytes[CModuleImage::kResources + 16 + 7] = 0;  // the mark of a subdirectory
-    EXPECT_EQ(ErrorOf(bytes), "a.dll: its resource directory has not the three levels that it must have");
+    EXPECT_EQ(ErrorOf(bytes), "a.dll: its resource directory does not have three levels");
 }
 
 // Each entry leads to the same block: what is read must stay within the file's size.

@@ -3,16 +3,19 @@
 
 #include <gtest/gtest.h>
 
+#include "encoding/Encoding.h"
 #include "tools/files/Files.h"
 #include "tools/texts/CodePage.h"
+
+using namespace tavrin::tools;
 
 namespace {
 
 // The texts of a script: "1501=Width|", one after the other.
 std::string Texts(const std::string& script) {
     std::string texts;
-    for (const SScriptText& text : ReadStringScript("a.rc", script).texts) {
-        texts += std::to_string(text.number) + "=" + Utf8Text(text.text) + "|";
+    for (const ScriptText& text : ReadStringScript("a.rc", script).texts) {
+        texts += std::to_string(text.number) + "=" + tavrin::encoding::EncodeUtf8(text.text) + "|";
     }
     return texts;
 }
@@ -81,7 +84,7 @@ TEST(StringScript, CommentsDirectivesAndOtherResourcesArePassedOver) {
 }
 
 TEST(StringScript, ALanguageHoldsForTheTablesBehindItAndInATablesHeadForThatOne) {
-    const SStringScript script = ReadStringScript(
+    const StringScript script = ReadStringScript(
         "a.rc",
         "STRINGTABLE { 1 \"a\" } LANGUAGE LANG_ITALIAN, SUBLANG_ITALIAN STRINGTABLE { 2 \"b\" }\n"
         "STRINGTABLE LANGUAGE 0x10, 1 BEGIN 3 \"c\" END STRINGTABLE { 4 \"d\" }");
@@ -95,7 +98,7 @@ TEST(StringScript, ALanguageHoldsForTheTablesBehindItAndInATablesHeadForThatOne)
 TEST(StringScript, TextsAndTablesKnowTheirPlaces) {
     const std::string text =
         "// one\n/* two\nthree */\nSTRINGTABLE\nBEGIN\n    1 \"a\\\nb\"\n    2 \"c\"\nEND\n";
-    const SStringScript script = ReadStringScript("a.rc", text);
+    const StringScript script = ReadStringScript("a.rc", text);
     ASSERT_EQ(script.texts.size(), 2U);
     EXPECT_EQ(script.texts[0].line, 6U);
     EXPECT_EQ(script.texts[1].line, 8U);
@@ -112,19 +115,19 @@ TEST(StringScript, EveryErrorNamesItsLine) {
     EXPECT_EQ(ErrorOf("STRINGTABLE {\n 1 \"a\n }"),
               "a.rc:2: the text that begins here is not closed with a quote");
     EXPECT_EQ(ErrorOf("\n/* a\n"), "a.rc:2: the comment that begins here is not closed with */");
-    EXPECT_EQ(ErrorOf("STRINGTABLE\n\"a\""), "a.rc:2: BEGIN or { is expected behind STRINGTABLE");
+    EXPECT_EQ(ErrorOf("STRINGTABLE\n\"a\""), "a.rc:2: BEGIN or { is expected after STRINGTABLE");
     EXPECT_EQ(ErrorOf("STRINGTABLE {\n\nIDS_A \"a\" }"),
-              "a.rc:3: 'IDS_A' stands where the number of a text is expected: write 0 to 65535 in digits");
+              "a.rc:3: expected the number of a text, 0 to 65535, not 'IDS_A'");
     EXPECT_EQ(ErrorOf("STRINGTABLE { 65536 \"a\" }"),
-              "a.rc:1: '65536' stands where the number of a text is expected: write 0 to 65535 in digits");
-    EXPECT_EQ(ErrorOf("STRINGTABLE {\n 7 8 }"), "a.rc:2: text 7 has no text in quotes behind its number");
-    EXPECT_EQ(ErrorOf("LANGUAGE LANG_ITALIAN\n;"), "a.rc:2: a comma is expected behind the language");
+              "a.rc:1: expected the number of a text, 0 to 65535, not '65536'");
+    EXPECT_EQ(ErrorOf("STRINGTABLE {\n 7 8 }"), "a.rc:2: text 7 has no text in quotes after its number");
+    EXPECT_EQ(ErrorOf("LANGUAGE LANG_ITALIAN\n;"), "a.rc:2: a comma is expected after the language");
     EXPECT_EQ(ErrorOf("\n#pragma code_page(utf8)\n"),
-              "a.rc:2: 'utf8' is no code page: write its number, such as 65001");
-    EXPECT_EQ(
-        ErrorOf(InTable("\n1 \"\xE0\"")),
-        "a.rc:5: the text holds bytes that are none of code page 65001: save the script as UTF-8 and put "
-        "#pragma code_page(65001) at its start");
+              "a.rc:2: 'utf8' is not a code page: write its number, such as 65001");
+    EXPECT_EQ(ErrorOf(InTable("\n1 \"\xE0\"")),
+              "a.rc:5: the text contains bytes that are invalid in code page 65001: save the script as UTF-8 "
+              "and put "
+              "#pragma code_page(65001) at its start");
 }
 
 TEST(StringScript, BytesBeyondAsciiNeedAKnownCodePage) {
@@ -138,7 +141,8 @@ TEST(StringScript, IllFormedUtf8IsRefused) {
         EXPECT_FALSE(DecodeText(bytes, kUtf8));
     }
     EXPECT_EQ(DecodeText("\xF0\x9F\x9A\xAA", kUtf8), std::optional(std::wstring{0xD83D, 0xDEAA}));
-    EXPECT_EQ(Utf8Text(std::wstring{0xD83D, 0xDEAA, 0xD83D}), "\xF0\x9F\x9A\xAA\xEF\xBF\xBD");
+    EXPECT_EQ(tavrin::encoding::EncodeUtf8(std::wstring{0xD83D, 0xDEAA, 0xD83D}),
+              "\xF0\x9F\x9A\xAA\xEF\xBF\xBD");
 }
 
 // Random bytes of what means something here: the sanitizers watch, and every error is one of ours.
@@ -183,7 +187,7 @@ TEST(StringScript, NoInputDoesMoreThanFail) {
 }
 
 TEST(StringScript, EscapesOfControlCharactersAreThose) {
-    const SStringScript script = ReadStringScript("a.rc", R"(STRINGTABLE { 1 "a\a\n\r\t" })");
+    const StringScript script = ReadStringScript("a.rc", R"(STRINGTABLE { 1 "a\a\n\r\t" })");
     ASSERT_EQ(script.texts.size(), 1U);
     EXPECT_EQ(script.texts[0].text, L"a\b\n\r\t");
 }

@@ -6,6 +6,9 @@
 #include "tests/unit/tools/ModuleImage.h"
 #include "tools/files/Files.h"
 
+using namespace tests;
+using namespace tavrin::tools;
+
 namespace {
 
 std::string ErrorOf(CTextTable& table, const std::string& name, const std::string& bytes) {
@@ -66,9 +69,9 @@ TEST(TextTable, ATextThatIsThereAlreadyIsRefusedAndNothingIsAdded) {
     CTextTable table;
     table.ReadBytes("a.rc", "LANGUAGE 1, 1\nSTRINGTABLE { 1 \"a\" }");
     EXPECT_EQ(ErrorOf(table, "b.rc", "LANGUAGE 1, 1\nSTRINGTABLE {\n2 \"b\"\n1 \"c\" }"),
-              "b.rc:4: text 1 is there already, in a.rc:2");
+              "b.rc:4: text 1 already exists, in a.rc:2");
     EXPECT_EQ(ErrorOf(table, "c.rc", "STRINGTABLE {\n1 \"b\"\n1 \"c\" }"),
-              "c.rc:3: text 1 is there already, in c.rc:2");
+              "c.rc:3: text 1 already exists, in c.rc:2");
     EXPECT_EQ(table.Texts().size(), 1U);
     EXPECT_EQ(table.Files().size(), 1U);
 }
@@ -94,7 +97,7 @@ TEST(TextTable, TheColumnOfATextIsThatOfItsNumber) {
     CTextTable table;
     table.ReadBytes("a.rc", "\xEF\xBB\xBFSTRINGTABLE {1 \"a\\\nb\" 2 \"c\"\n\t3 \"d\" }");
     std::vector<std::size_t> places;
-    for (const SText& text : table.Texts()) {
+    for (const TextEntry& text : table.Texts()) {
         places.insert(places.end(), {text.line, text.column});
     }
     EXPECT_EQ(places, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));

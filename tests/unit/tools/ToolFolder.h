@@ -1,4 +1,4 @@
-// A folder of a test's own, removed with all that lies in it.
+// A temporary folder for a test.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,6 +8,10 @@
 #include <string>
 
 #include "tools/files/Files.h"
+
+namespace tests {
+
+using namespace tavrin::tools;
 
 class CToolFolder {
 public:
@@ -48,3 +52,5 @@ std::string OutputOf(Command command) {
     std::fflush(stdout);
     return testing::internal::GetCapturedStdout();
 }
+
+}  // namespace tests

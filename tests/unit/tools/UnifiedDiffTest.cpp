@@ -1,7 +1,9 @@
 // The writer of diffs.
-#include "tools/diff/UnifiedDiff.h"
+#include "tools/files/UnifiedDiff.h"
 
 #include <gtest/gtest.h>
+
+using namespace tavrin::tools;
 
 namespace {
 
@@ -48,7 +50,7 @@ TEST(UnifiedDiff, OfANewFileHasAnEmptyOldRange) {
 }
 
 TEST(UnifiedDiff, NeighbouringChangesAreOneEdit) {
-    const std::vector<SLineEdit> edits = EditsBetween({"a", "b", "c", "d"}, {"a", "x", "y", "d"});
+    const std::vector<LineEdit> edits = EditsBetween({"a", "b", "c", "d"}, {"a", "x", "y", "d"});
     ASSERT_EQ(edits.size(), 1U);
     EXPECT_EQ(edits[0].line, 1U);
     EXPECT_EQ(edits[0].removed, 2U);

@@ -33,7 +33,7 @@ TEST_F(CommonDialog, ForFilesGivesTheFullPath) {
                        OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, L"Texts|*.txt|All|*.*||", &m_owner);
     m_hands.Then(Press(IDOK));
     ASSERT_EQ(dialog.DoModal(), IDOK);
-    EXPECT_EQ(dialog.GetPathName().CompareNoCase(folder.Path(L"note.txt").c_str()), 0);
+    EXPECT_EQ(::_wcsicmp(dialog.GetPathName(), folder.Path(L"note.txt").c_str()), 0);
     EXPECT_EQ(dialog.GetFileName(), L"note.txt");
 }
 

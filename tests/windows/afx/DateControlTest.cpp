@@ -116,13 +116,18 @@ TEST(Time, GivesItsPartsBack) {
 }
 
 TEST(Time, HasNoPartsWhenItCannotBeShown) {
-    const CTime time(1899, 12, 30, 1, 2, 3);
-    EXPECT_EQ(time.GetTime(), -1);
+    const CTime time(-1);
     EXPECT_EQ(time.GetHour(), -1);
     EXPECT_EQ(time.GetMinute(), -1);
     EXPECT_EQ(time.GetYear(), -1);
     SYSTEMTIME parts;
     EXPECT_FALSE(time.GetAsSystemTime(parts));
+}
+
+TEST(Time, CannotBeMadeFromPartsBefore1970) {
+    EXPECT_THROW(CTime(1960, 5, 6, 7, 8, 9), CException*);
+    const SYSTEMTIME parts = {1899, 12, 6, 30, 1, 2, 3, 0};
+    EXPECT_THROW(CTime{parts}, CException*);
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(CSteppedDialog, CDialog)
     ON_WM_DESTROY()
-    ON_MESSAGE(WM_APP, OnShown)
+    ON_MESSAGE(WM_APP, &CSteppedDialog::OnShown)
 END_MESSAGE_MAP()
 
 class CLoggingOwner : public CWnd {
@@ -130,7 +130,7 @@ public:
 private:
     BOOL OnInitDialog() override {
         GetWindowText(m_title);
-        GetDlgItemText(IDOK, m_ok);
+        GetDlgItem(IDOK)->GetWindowText(m_ok);
         EndDialog(5);
         return TRUE;
     }
@@ -347,6 +347,20 @@ TEST_F(Dialog, EndsWithItsWindow) {
     dialog.m_onShown = [&] { dialog.DestroyWindow(); };
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_TRUE(m_owner.IsWindowEnabled());
+}
+
+TEST_F(Dialog, ThatOnlyChangesItsSizeIsCentredStill) {
+    CRect owner;
+    m_owner.GetWindowRect(owner);
+    CSteppedDialog dialog(m_empty, &m_owner);
+    dialog.m_onInit = [&] {
+        dialog.SetWindowPos(nullptr, 0, 0, 120, 80, SWP_NOMOVE | SWP_NOZORDER);
+        return TRUE;
+    };
+    dialog.DoModal();
+    EXPECT_EQ(dialog.m_rect.Width(), 120);
+    EXPECT_NEAR(dialog.m_rect.CenterPoint().x, owner.CenterPoint().x, 1);
+    EXPECT_NEAR(dialog.m_rect.CenterPoint().y, owner.CenterPoint().y, 1);
 }
 
 TEST_F(Dialog, IsCentredOverItsOwnerUnlessItIsPlaced) {

@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 
+#include "memory/MemoryFence.h"
 #include "tests/windows/afx/DialogTemplate.h"
 #include "tests/windows/support/HandleCount.h"
 #include "tests/windows/support/ModalHands.h"
@@ -164,6 +165,14 @@ TEST_F(ExceptionFence, MakesUpdateDataFail) {
     EXPECT_FALSE(dialog.UpdateData());
     ASSERT_EQ(hands.messages.size(), 1u);
     EXPECT_EQ(hands.messages[0].text, L"An unsupported operation was attempted.");
+}
+
+// What the module's windows do with a want of memory: under the framework itself nothing else would be
+// caught.
+TEST(MemoryFence, TurnsAWantOfMemoryIntoTheFrameworksException) {
+    EXPECT_THROW(tavrin::memory::FenceMemory([]() -> LRESULT { throw std::bad_alloc(); }), CMemoryException*);
+    EXPECT_EQ(tavrin::memory::FenceMemory([] { return LRESULT{7}; }), 7);
+    EXPECT_THROW(tavrin::memory::FenceMemory([]() -> LRESULT { throw 8; }), int);
 }
 
 }  // namespace

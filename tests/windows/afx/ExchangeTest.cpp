@@ -54,7 +54,7 @@ protected:
 TEST_F(Exchange, PutsTheMembersIntoTheControls) {
     ASSERT_TRUE(m_dialog.UpdateData(FALSE));
     CString text;
-    m_dialog.GetDlgItemText(10, text);
+    m_dialog.GetDlgItem(10)->GetWindowText(text);
     EXPECT_EQ(text, L"text");
     EXPECT_EQ(m_dialog.IsDlgButtonChecked(11), static_cast<UINT>(BST_INDETERMINATE));
     EXPECT_EQ(m_dialog.IsDlgButtonChecked(12), 0u);
@@ -65,7 +65,7 @@ TEST_F(Exchange, PutsTheMembersIntoTheControls) {
 }
 
 TEST_F(Exchange, TakesTheMembersFromTheControls) {
-    m_dialog.SetDlgItemText(10, L"typed \u20AC");
+    m_dialog.GetDlgItem(10)->SetWindowText(L"typed \u20AC");
     m_dialog.CheckDlgButton(11, BST_CHECKED);
     m_dialog.CheckDlgButton(12, BST_CHECKED);
     m_dialog.CheckDlgButton(14, BST_CHECKED);
@@ -94,6 +94,43 @@ TEST_F(Exchange, LeavesTheSelectionAloneWhenTheTextIsEqual) {
     m_dialog.SendDlgItemMessage(10, EM_SETSEL, 1, 3);
     m_dialog.UpdateData(FALSE);
     EXPECT_EQ(m_dialog.SendDlgItemMessage(10, EM_GETSEL), MAKELONG(1, 3));
+}
+
+// The notifications that come while it runs would find the members half exchanged.
+class CHearingDialog : public CDialog {
+public:
+    void Fill() {
+        CDialogTemplate made;
+        made.Add(editClass, 10, L"", childStyle, 0, 0, 50, 12);
+        ASSERT_TRUE(CreateIndirect(made.Get()));
+    }
+    int m_heard = 0, m_told = 0;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    BOOL OnInitDialog() override { return TRUE; }
+    void DoDataExchange(CDataExchange*) override {
+        GetDlgItem(10)->SetWindowText(L"new");
+        NMHDR header = {GetDlgItem(10)->m_hWnd, 10, 7u};
+        SendMessage(WM_NOTIFY, 10, reinterpret_cast<LPARAM>(&header));
+    }
+    void OnChange() { ++m_heard; }
+    void OnTold(NMHDR*, LRESULT*) { ++m_told; }
+};
+
+BEGIN_MESSAGE_MAP(CHearingDialog, CDialog)
+    ON_EN_CHANGE(10, &CHearingDialog::OnChange)
+    ON_NOTIFY(7, 10, &CHearingDialog::OnTold)
+END_MESSAGE_MAP()
+
+TEST(ExchangeNotifications, AreLockedOutWhileItRuns) {
+    CHearingDialog dialog;
+    dialog.Fill();
+    ASSERT_TRUE(dialog.UpdateData(FALSE));
+    EXPECT_EQ(dialog.m_heard, 0);
+    EXPECT_EQ(dialog.m_told, 0);
+    dialog.GetDlgItem(10)->SetWindowText(L"newer");
+    EXPECT_EQ(dialog.m_heard, 1);
 }
 
 }  // namespace

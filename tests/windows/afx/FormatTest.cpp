@@ -65,8 +65,23 @@ TEST(Format, MayFormatATextIntoItself) {
     CString text = L"a";
     text.Format(L"[%s]", text.GetString());
     EXPECT_EQ(text, L"[a]");
-    text.AppendFormat(L"+%s", text.GetString());
-    EXPECT_EQ(text, L"[a]+[a]");
+}
+
+TEST(Format, TakesEveryArgumentThatAConversionNames) {
+    const void* const pointer = reinterpret_cast<const void*>(static_cast<UINT_PTR>(0xBEEF));
+    const CString digits(L'0', static_cast<int>(2 * sizeof(void*)) - 4);
+    EXPECT_EQ(Formatted(L"%p %d", pointer, 7), digits + L"BEEF 7");
+    EXPECT_EQ(Formatted(L"%a %d", 1.5, 7), L"0x1.8p+0 7");
+    EXPECT_EQ(Formatted(L"%hhd %hhu %d", 0x1FF, 0x1FF, 7), L"-1 255 7");
+    EXPECT_EQ(Formatted(L"%hd %hu %d", 0x1FFFF, 0x1FFFF, 7), L"-1 65535 7");
+}
+
+// In 32-bit programs these arguments are smaller than the numbers of 64 bits around them.
+TEST(Format, TakesNumbersOfThePointersSize) {
+    EXPECT_EQ(Formatted(L"%Iu %zu %Id %d", static_cast<size_t>(-1), size_t{5}, ptrdiff_t{-6}, 7),
+              Formatted(sizeof(void*) == 8 ? L"%I64u %d %d %d" : L"%u %d %d %d", static_cast<size_t>(-1), 5,
+                        -6, 7));
+    EXPECT_EQ(Formatted(L"%I64d %Iu %lld %d", 1LL << 40, size_t{5}, -2LL, 7), L"1099511627776 5 -2 7");
 }
 
 TEST(Format, TakesTextsOfAnyLength) {

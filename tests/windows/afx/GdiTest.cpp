@@ -48,8 +48,7 @@ TEST_F(Gdi, PaintsIntoABitmap) {
     const COLORREF background = memory.GetBkColor();
     memory.FillSolidRect(CRect(0, 0, 20, 20), RGB(10, 20, 30));
     EXPECT_EQ(memory.GetBkColor(), background) << "filling leaves the background colour alone";
-    CBrush brush(RGB(200, 0, 0));
-    memory.FillRect(CRect(5, 5, 10, 10), &brush);
+    memory.FillSolidRect(CRect(5, 5, 10, 10), RGB(200, 0, 0));
     EXPECT_EQ(memory.GetPixel(0, 0), RGB(10, 20, 30));
     EXPECT_EQ(memory.GetPixel(5, 5), RGB(200, 0, 0));
     EXPECT_EQ(memory.GetPixel(10, 10), RGB(10, 20, 30));
@@ -72,7 +71,7 @@ TEST_F(Gdi, RestoresAStateThatWasSaved) {
     memory.SetBkMode(TRANSPARENT);
     EXPECT_TRUE(memory.RestoreDC(saved));
     EXPECT_EQ(memory.GetTextColor(), RGB(0, 0, 0));
-    EXPECT_EQ(memory.GetBkMode(), OPAQUE);
+    EXPECT_EQ(::GetBkMode(memory), OPAQUE);
 }
 
 TEST_F(Gdi, TakesTheSizeOfAPointFontInTenths) {

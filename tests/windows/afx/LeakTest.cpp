@@ -80,7 +80,7 @@ protected:
         CFont font;
         font.CreatePointFont(80, L"Tahoma");
         CFont* const oldFont = dc.SelectObject(&font);
-        dc.FillRect(&dc.m_ps.rcPaint, &brush);
+        dc.FrameRect(&dc.m_ps.rcPaint, &brush);
         dc.DrawText(L"x", -1, &dc.m_ps.rcPaint, 0);
         dc.SelectObject(oldFont);
         ++m_paints;

@@ -12,9 +12,8 @@ protected:
     void SetUp() override {
         TCHAR path[MAX_PATH];
         ::GetModuleFileName(nullptr, path, MAX_PATH);
-        CString file = path;
-        file = file.Left(file.ReverseFind(L'\\') + 1) + L"afx_other_module.dll";
-        m_module = ::LoadLibrary(file);
+        const std::wstring file = path;
+        m_module = ::LoadLibrary((file.substr(0, file.rfind(L'\\') + 1) + L"afx_other_module.dll").c_str());
         ASSERT_NE(m_module, nullptr) << ::GetLastError();
     }
     void TearDown() override {
@@ -147,6 +146,14 @@ TEST(MessageBoxes, AreOwnedByTheMainWindowAndCarryTheProgramsName) {
 TEST(MessageBoxes, CarryTheFilesNameWithoutAnApplicationObject) {
     EXPECT_STREQ(AfxGetAppName(), L"afx_tests");
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
+}
+
+TEST(MainWindow, IsTheActiveOneWhenTheApplicationNamesNone) {
+    const CWinApp application;
+    CWnd window;
+    window.CreateEx(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr);
+    window.SetActiveWindow();
+    EXPECT_EQ(AfxGetMainWnd(), &window);
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 // The import table's entries, by the names under which the import library declares them.
 extern "C" {
-extern HLOCAL(WINAPI* __imp_LocalAlloc)(UINT, SIZE_T);
-extern LPVOID(WINAPI* __imp_LocalLock)(HLOCAL);
-extern BOOL(WINAPI* __imp_LocalUnlock)(HLOCAL);
-extern HLOCAL(WINAPI* __imp_LocalFree)(HLOCAL);
+extern HLOCAL(WINAPI* __imp_LocalAlloc)(UINT, SIZE_T) IMPORT_ENTRY(LocalAlloc, 8);
+extern LPVOID(WINAPI* __imp_LocalLock)(HLOCAL) IMPORT_ENTRY(LocalLock, 4);
+extern BOOL(WINAPI* __imp_LocalUnlock)(HLOCAL) IMPORT_ENTRY(LocalUnlock, 4);
+extern HLOCAL(WINAPI* __imp_LocalFree)(HLOCAL) IMPORT_ENTRY(LocalFree, 4);
 }
 
 CLocalMemoryHook* CLocalMemoryHook::s_active = nullptr;

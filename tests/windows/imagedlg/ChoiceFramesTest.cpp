@@ -7,7 +7,7 @@
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/ImportHook.h"
 
-extern "C" HGDIOBJ(WINAPI* __imp_SelectObject)(HDC dc, HGDIOBJ object);
+extern "C" HGDIOBJ(WINAPI* __imp_SelectObject)(HDC dc, HGDIOBJ object) IMPORT_ENTRY(SelectObject, 8);
 
 namespace {
 

@@ -15,9 +15,10 @@
 using namespace tavrin::imagedlg;
 
 extern "C" {
-extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream);
+extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream)
+    IMPORT_ENTRY(CreateStreamOnHGlobal, 12);
 extern BOOL(WINAPI* __imp_ReadFile)(HANDLE file, LPVOID data, DWORD size, LPDWORD read,
-                                    LPOVERLAPPED overlapped);
+                                    LPOVERLAPPED overlapped) IMPORT_ENTRY(ReadFile, 20);
 }
 
 namespace {

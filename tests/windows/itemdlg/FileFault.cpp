@@ -1,7 +1,9 @@
 #include "tests/windows/itemdlg/FileFault.h"
 
-extern "C" BOOL(WINAPI* __imp_ReadFile)(HANDLE, LPVOID, DWORD, LPDWORD, LPOVERLAPPED);
-extern "C" BOOL(WINAPI* __imp_WriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED);
+extern "C" BOOL(WINAPI* __imp_ReadFile)(HANDLE, LPVOID, DWORD, LPDWORD, LPOVERLAPPED)
+    IMPORT_ENTRY(ReadFile, 20);
+extern "C" BOOL(WINAPI* __imp_WriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED)
+    IMPORT_ENTRY(WriteFile, 20);
 
 namespace {
 

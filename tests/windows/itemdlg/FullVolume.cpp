@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-extern "C" BOOL(WINAPI* __imp_WriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED);
+extern "C" BOOL(WINAPI* __imp_WriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED)
+    IMPORT_ENTRY(WriteFile, 20);
 
 CFullVolume* CFullVolume::s_active = nullptr;
 

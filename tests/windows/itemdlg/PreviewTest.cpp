@@ -4,16 +4,18 @@
 #include <optional>
 #include <set>
 
-#include "devhost/units/LinearUnits.h"
 #include "itemdlg/ItemMessages.h"
 #include "tests/items/ItemGenerator.h"
 #include "tests/windows/itemdlg/ItemDialogFixture.h"
+#include "tools/files/FileLines.h"
 #include "tools/files/Files.h"
-#include "tools/lines/FileLines.h"
-#include "tools/preview/ItemPreview.h"
+#include "tools/tavrincheck/ItemPreview.h"
 #include "tools/texts/TextTable.h"
+#include "units/LinearUnits.h"
 
 using namespace tavrin::itemdlg;
+using namespace tavrin::tools;
+using namespace tavrin::units;
 
 namespace {
 
@@ -76,7 +78,7 @@ protected:
     }
 
     static CItemPreview PreviewOf(const SGeneratedItem& item) {
-        SPreviewSettings settings;
+        PreviewSettings settings;
         settings.scale = item.scale;
         settings.mode = item.mode;
         settings.texts = [](unsigned number) { return texts.Load(number); };

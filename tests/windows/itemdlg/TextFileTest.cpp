@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <chrono>
+
 #include "tests/windows/support/TempFolder.h"
 
 using namespace tavrin::itemdlg;
@@ -96,6 +98,49 @@ TEST_F(TextFile, ALineOfAMegabyteIsOneLine) {
     ASSERT_EQ(lines.size(), 2U);
     EXPECT_EQ(lines[0].size(), line.size());
     EXPECT_EQ(RoundTrip(line + "\r\nnext\r\n"), line + "\r\nnext\r\n");
+}
+
+// Around every length near the size of the pieces that are read and written, so that CR and LF fall on either
+// side.
+TEST_F(TextFile, LinesCrossThePiecesThatAreReadAndWritten) {
+    for (size_t length = 0x10000 - 3; length <= 0x10000 + 3; ++length) {
+        const std::string bytes = std::string(length, 'x') + "\r\nnext\r\n";
+        EXPECT_EQ(ReadBytes(bytes), (Lines{std::wstring(length, L'x'), L"next"})) << length;
+        EXPECT_TRUE(RoundTrip(bytes) == bytes) << length;
+    }
+}
+
+TEST_F(TextFile, LinesOfMegabytesTakeLinearTime) {
+    const std::string bytes = std::string(8'000'000, 'y') + "\r\nz\r\n";
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(RoundTrip(bytes) == bytes);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+// Its size alone is looked at: the file is a hole.
+TEST_F(TextFile, AFileOfTwoGigabytesIsNotOpened) {
+    constexpr LONGLONG kTwoGigabytes = 1LL << 31;
+    const std::wstring path = m_folder.Path(L"file");
+    for (const LONGLONG size : {kTwoGigabytes, 3 * kTwoGigabytes}) {
+        const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        LARGE_INTEGER end;
+        end.QuadPart = size;
+        ASSERT_TRUE(SetFilePointerEx(file, end, nullptr, FILE_BEGIN) && SetEndOfFile(file));
+        CloseHandle(file);
+        Lines lines;
+        EXPECT_FALSE(ReadTextFile(path, lines)) << size;
+        EXPECT_EQ(lines, Lines{});
+    }
+}
+
+TEST_F(TextFile, ALineFeedInALineEndsALine) {
+    EXPECT_TRUE(WriteTextFile(m_folder.Path(L"file"), {L"a\nb"}));
+    EXPECT_EQ(m_folder.Read(L"file"), "a\r\nb\r\n");
+}
+
+TEST_F(TextFile, ACharacterThatTheLocaleCannotExpressEndsTheWriting) {
+    EXPECT_FALSE(WriteTextFile(m_folder.Path(L"file"), {L"first", L"a\u20ACb", L"last"}));
+    EXPECT_EQ(m_folder.Read(L"file"), "first\r\n");
 }
 
 TEST_F(TextFile, AFileThatCannotBeOpenedIsReported) {

@@ -16,6 +16,9 @@ public:
     // Sends a request (SDS_LOAD and the others) and gives the module's answer.
     int Send(unsigned request) const { return m_entry(request, nullptr); }
 
+    // The module's icrxEntryPoint.
+    int (*Entry() const)(unsigned request, void* packet) { return m_entry; }
+
     // Calls the module's function `code` with what fakeHost holds as arguments.
     int Invoke(int code) const;
 

@@ -86,7 +86,7 @@ TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheScreenPlaceOfTheRectangle) {
     EXPECT_EQ(::GetWindow(list.m_hWnd, GW_OWNER), parent.m_hWnd);
     EXPECT_EQ(::GetAncestor(list.m_hWnd, GA_PARENT), ::GetDesktopWindow());
     EXPECT_EQ(list.GetOwner(), &grid);
-    EXPECT_EQ(list.GetWindowTextLength(), 0);
+    EXPECT_EQ(::GetWindowTextLength(list), 0);
     CRect place;
     list.GetWindowRect(&place);
     grid.ScreenToClient(&place);

@@ -123,7 +123,7 @@ int CGridPicture::Count(const CRect& area, COLORREF color) const {
 
 // Leaves the device context in a state that would spoil every later row.
 void CRecordingItem::DrawItem(CDC& dc, CRect rect, bool focused) {
-    drawings.push_back({rect, focused, dc.GetTextColor(), dc.GetBkMode()});
+    drawings.push_back({rect, focused, dc.GetTextColor(), ::GetBkMode(dc)});
     if (whileDrawing) {
         whileDrawing();
     }

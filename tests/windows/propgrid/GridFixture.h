@@ -122,7 +122,7 @@ protected:
     SCROLLINFO ScrollInfo() const;
     // The grid shows its bar by the time that it handles a message.
     CWnd* ScrollBar() const {
-        grid.SendMessage(WM_NULL);
+        ::SendMessage(grid.GetSafeHwnd(), WM_NULL, 0, 0);
         return grid.GetDlgItem(1000);
     }
     bool ScrollBarShows() const { return ScrollBar() != nullptr && ScrollBar()->IsWindowVisible(); }

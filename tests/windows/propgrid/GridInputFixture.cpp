@@ -112,7 +112,7 @@ HWND FindPopUp() {
     HWND found = nullptr;
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
-        [](HWND window, LPARAM result) -> BOOL {
+        [](HWND window, LPARAM result) CALLBACK -> BOOL {
             if (dynamic_cast<T*>(CWnd::FromHandlePermanent(window)) == nullptr) {
                 return TRUE;
             }

@@ -199,6 +199,19 @@ TEST_F(GridModalEdit, AnUnchangedDateAndTimeIsNoModification) {
     EXPECT_FALSE(grid.IsItemModified(item));
 }
 
+// What counts seconds from 1970 on cannot hold such a day; its time of day it can. Neither can a clock that
+// is set forward at two hold half past two.
+TEST_F(GridModalEdit, ATimeIsKeptWhateverItsDay) {
+    for (const COleDateTime& when : {COleDateTime(1960, 5, 6, 7, 8, 9), COleDateTime(2024, 3, 31, 2, 30, 0),
+                                     COleDateTime(3500, 1, 2, 3, 4, 5)}) {
+        const UINT item = grid.AddDateTimeItem(section, L"When", when);
+        Edit(item, IDOK, [&](HWND dialog) {
+            EXPECT_EQ(TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, 1)).wMinute, when.GetMinute());
+        });
+        EXPECT_FALSE(grid.IsItemModified(item)) << when.GetYear();
+    }
+}
+
 TEST_F(GridModalEdit, ADateThatIsNoneBecomesOne) {
     COleDateTime none;
     for (const COleDateTime::DateTimeStatus status : {COleDateTime::null, COleDateTime::invalid}) {

@@ -38,7 +38,7 @@ private:
         ::EndMenu();
         ::EnumThreadWindows(
             ::GetCurrentThreadId(),
-            [](HWND window, LPARAM) -> BOOL {
+            [](HWND window, LPARAM) CALLBACK -> BOOL {
                 wchar_t name[16] = {};
                 ::GetClassName(window, name, 16);
                 if (::lstrcmp(name, L"#32770") != 0 || !::IsWindowVisible(window) ||

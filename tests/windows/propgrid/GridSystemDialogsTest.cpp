@@ -13,11 +13,13 @@
 #include "tests/windows/support/ImportHook.h"
 
 extern "C" {
-extern BOOL(WINAPI* __imp_GetOpenFileNameW)(LPOPENFILENAMEW dialog);
-extern BOOL(WINAPI* __imp_ChooseColorW)(LPCHOOSECOLORW dialog);
-extern BOOL(WINAPI* __imp_ChooseFontW)(LPCHOOSEFONTW dialog);
-extern LPITEMIDLIST(WINAPI* __imp_SHBrowseForFolderW)(LPBROWSEINFOW dialog);
-extern BOOL(WINAPI* __imp_SHGetPathFromIDListW)(LPCITEMIDLIST list, LPWSTR path);
+extern BOOL(WINAPI* __imp_GetOpenFileNameW)(LPOPENFILENAMEW dialog) IMPORT_ENTRY(GetOpenFileNameW, 4);
+extern BOOL(WINAPI* __imp_ChooseColorW)(LPCHOOSECOLORW dialog) IMPORT_ENTRY(ChooseColorW, 4);
+extern BOOL(WINAPI* __imp_ChooseFontW)(LPCHOOSEFONTW dialog) IMPORT_ENTRY(ChooseFontW, 4);
+extern LPITEMIDLIST(WINAPI* __imp_SHBrowseForFolderW)(LPBROWSEINFOW dialog)
+    IMPORT_ENTRY(SHBrowseForFolderW, 4);
+extern BOOL(WINAPI* __imp_SHGetPathFromIDListW)(LPCITEMIDLIST list, LPWSTR path)
+    IMPORT_ENTRY(SHGetPathFromIDListW, 8);
 }
 
 namespace {

@@ -100,12 +100,12 @@ TEST_F(InPlaceEdit, HasTheFocusAndTellsNothingWhenItOpens) {
 
 TEST_F(InPlaceEdit, HasTheFontThatTheGridAnswers) {
     grid.font = &parent.font;
-    const CPropertyGridInPlaceEdit edit(&grid, Cell(), 0, 1000, L"x");
+    CPropertyGridInPlaceEdit edit(&grid, Cell(), 0, 1000, L"x");
     EXPECT_EQ(edit.SendMessage(WM_GETFONT), reinterpret_cast<LRESULT>(parent.font.GetSafeHandle()));
 }
 
 TEST_F(InPlaceEdit, HasTheSystemsFontWhenTheGridHasNone) {
-    const CPropertyGridInPlaceEdit edit(&grid, Cell(), 0, 1000, L"x");
+    CPropertyGridInPlaceEdit edit(&grid, Cell(), 0, 1000, L"x");
     EXPECT_EQ(edit.SendMessage(WM_GETFONT), 0);
     EXPECT_EQ(TextOf(edit.m_hWnd), L"x");
 }

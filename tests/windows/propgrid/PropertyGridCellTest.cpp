@@ -110,7 +110,7 @@ TEST_F(PropertyGridCell, DrawsNoButtonForAnItemThatIsNotEditableOrNotFocused) {
     const CGridPicture picture(grid);
     EXPECT_EQ(Ink(picture, {150, 0, 300, 200}), 0);
     EXPECT_EQ(ValueRect(locked).right, 300);
-    EXPECT_TRUE(grid.GetEditButtonRect().IsRectNull());
+    EXPECT_TRUE(grid.GetEditButtonRect() == CRect());
 }
 
 TEST_F(PropertyGridCell, RecordsNoButtonForAFocusedItemWithoutOne) {

@@ -469,7 +469,9 @@ public:
         CRect area;
         window.GetClientRect(&area);
         window.ClientToScreen(&area);
-        area.NormalizeRect();
+        if (area.left > area.right) {
+            std::swap(area.left, area.right);
+        }
         const HDC screen = ::GetDC(nullptr);
         for (int y = area.top; y < area.bottom; ++y) {
             for (int x = area.left; x < area.right; ++x) {
@@ -511,7 +513,7 @@ private:
 
 TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
     CGridParent mirrored;
-    mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    ::SetWindowLongPtr(mirrored, GWL_EXSTYLE, mirrored.GetExStyle() | WS_EX_LAYOUTRTL);
     CTestGrid rightToLeft;
     ASSERT_TRUE(rightToLeft.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 40),
                                    &mirrored, 100));
@@ -519,7 +521,7 @@ TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
     CTestGrid leftToRight;
     ASSERT_TRUE(leftToRight.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE,
                                    CRect(0, 200, 300, 240), &mirrored, 101));
-    leftToRight.ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    ::SetWindowLongPtr(leftToRight, GWL_EXSTYLE, leftToRight.GetExStyle() & ~DWORD{WS_EX_LAYOUTRTL});
     for (CTestGrid* const shown : {&rightToLeft, &leftToRight}) {
         shown->SetDisplayMode(CPropertyGrid::DM_FLAT);
         shown->SetTextColor(text);
@@ -609,7 +611,7 @@ TEST_F(PropertyGridPaint, SaysThatTheBackgroundIsErasedWithoutTouchingIt) {
     dc.CreateCompatibleDC(nullptr);
     bitmap.Attach(::CreateBitmap(10, 10, 1, 32, nullptr));
     const HGDIOBJ previous = ::SelectObject(dc, bitmap.GetSafeHandle());
-    dc.SetPixel(5, 5, RGB(1, 2, 3));
+    ::SetPixel(dc, 5, 5, RGB(1, 2, 3));
     EXPECT_TRUE(grid.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0));
     EXPECT_EQ(dc.GetPixel(5, 5), RGB(1, 2, 3));
     ::SelectObject(dc, previous);

@@ -182,9 +182,9 @@ void CSecondPainter::PaintName(const ModelItem& item, int y) {
     const CRect name(kNameLeft, row.top, m_model.gutter - 1, row.bottom);
     COLORREF color = m_model.colors.text;
     if (IsFocused(item)) {
-        CRect band(name.left - 4, name.top, name.right + 1, name.bottom);
-        band.NormalizeRect();  // a divider at the far left has the band to its right
-        Fill(band, m_model.colors.focus);
+        // A divider at the far left has the band to its right.
+        const auto [left, right] = std::minmax<int>(name.left - 4, name.right + 1);
+        Fill(CRect(left, name.top, right, name.bottom), m_model.colors.focus);
         color = m_model.colors.focusText;
     }
     Text(item.name, name, m_normal, color, kOneLine);
@@ -269,7 +269,7 @@ std::wstring CSecondPainter::ShortenPath(const std::wstring& path, int width, CF
 
 void CSecondPainter::Fill(const CRect& rect, COLORREF color) {
     CBrush brush(color);
-    m_dc.FillRect(rect, &brush);
+    ::FillRect(m_dc, rect, brush);
 }
 
 void CSecondPainter::Text(const std::wstring& text, CRect rect, CFont& font, COLORREF color, UINT flags) {

@@ -287,7 +287,7 @@ TEST(PixelPicture, TheOnePixelThatDiffersIsFound) {
     CPixelPicture other({7, 5});
     const CRect whole(0, 0, 7, 5);
     EXPECT_FALSE(picture.FindDifference(other, whole));
-    other.GetDC().SetPixel(6, 4, RGB(0, 0, 1));
+    ::SetPixel(other.GetDC(), 6, 4, RGB(0, 0, 1));
     ASSERT_TRUE(picture.FindDifference(other, whole));
     EXPECT_TRUE(*picture.FindDifference(other, whole) == CPoint(6, 4));
     EXPECT_EQ(picture.CountDifferences(other, whole), 1);

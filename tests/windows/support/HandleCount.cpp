@@ -7,14 +7,15 @@
 
 namespace {
 
-// The documented layout of an entry of the handle table that the system shares with each process.
+// The layout of an entry of the handle table that the system shares with each process: the same in 32-bit
+// processes, whose system is a 64-bit one.
 struct GdiTableEntry {
-    void* kernelObject;
+    unsigned long long kernelObject;
     unsigned short processId;
     unsigned short reuseCount;
     unsigned short upperHandle;
     unsigned short type;
-    void* userObject;
+    unsigned long long userObject;
 };
 
 // Field offset of GdiSharedHandleTable in the process environment block.

@@ -1,12 +1,19 @@
 // A function of the system replaced by a test's own, for as long as the object lives.
 //
-// The entry is the import table's, declared under the name that the import library gives it:
+// The entry is the import table's, declared with the name that the import library gives it. In 32-bit
+// programs that name tells how many bytes of arguments the function takes:
 //
-//     extern "C" BOOL(WINAPI* __imp_DeleteFileW)(LPCWSTR);
+//     extern "C" BOOL(WINAPI* __imp_DeleteFileW)(LPCWSTR) IMPORT_ENTRY(DeleteFileW, 4);
 //     const CImportHook hook(__imp_DeleteFileW, FailToDelete);
 #pragma once
 
 #include <windows.h>
+
+#ifdef _WIN64
+#define IMPORT_ENTRY(function, argumentBytes)
+#else
+#define IMPORT_ENTRY(function, argumentBytes) __asm__("__imp__" #function "@" #argumentBytes)
+#endif
 
 template <typename Function>
 class CImportHook {

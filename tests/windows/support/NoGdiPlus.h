@@ -8,9 +8,11 @@
 #include "tests/windows/support/ImportHook.h"
 
 extern "C" {
-extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output);
-extern int(WINAPI* __imp_GdipCreateFromHDC)(HDC dc, void** graphics);
-extern int(WINAPI* __imp_GdipLoadImageFromStream)(IStream* stream, void** image);
+extern int(WINAPI* __imp_GdiplusStartup)(ULONG_PTR* token, const void* input, void* output)
+    IMPORT_ENTRY(GdiplusStartup, 12);
+extern int(WINAPI* __imp_GdipCreateFromHDC)(HDC dc, void** graphics) IMPORT_ENTRY(GdipCreateFromHDC, 8);
+extern int(WINAPI* __imp_GdipLoadImageFromStream)(IStream* stream, void** image)
+    IMPORT_ENTRY(GdipLoadImageFromStream, 8);
 }
 
 class CNoGdiPlus {

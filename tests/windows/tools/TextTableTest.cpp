@@ -9,6 +9,8 @@
 
 #include "tools/files/Files.h"
 
+using namespace tavrin::tools;
+
 namespace {
 
 std::filesystem::path TestsFolder() {
@@ -28,7 +30,7 @@ std::vector<std::wstring> AllTexts(const CTextTable& table) {
     std::vector<std::wstring> texts;
     for (unsigned number = 0; number < 0x10000; ++number) {
         for (std::size_t language = 0; language < table.Languages().size(); ++language) {
-            const SText* const text = table.Find(number, language);
+            const TextEntry* const text = table.Find(number, language);
             if (text != nullptr && !text->text.empty()) {
                 texts.push_back(std::to_wstring(number) + L"=" + text->text);
             }
@@ -81,7 +83,7 @@ TEST(TextTable, AModuleWithoutTextsIsRefusedByName) {
         FAIL() << "nothing was thrown";
     } catch (const CToolError& error) {
         EXPECT_EQ(error.what(),
-                  NameOf(module) + ": there are no texts in it: name a string table script or a DLL");
+                  NameOf(module) + ": it contains no texts: give a string table script or a DLL");
     }
 }
 

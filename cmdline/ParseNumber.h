@@ -1,0 +1,20 @@
+// Numbers that the user types.
+#pragma once
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+namespace tavrin::cmdline {
+
+// Nothing unless the whole text is a number of the type.
+template <class Number>
+std::optional<Number> ParseNumber(std::string_view text) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto [last, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && last == end ? std::optional(number) : std::nullopt;
+}
+
+}  // namespace tavrin::cmdline

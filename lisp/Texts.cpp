@@ -1,0 +1,98 @@
+// Functions on texts. Positions count from 1, in UTF-16 units.
+#include <algorithm>
+
+#include "lisp/Builtins.h"
+#include "lisp/Evaluator.h"
+#include "lisp/LispError.h"
+
+namespace tavrin::lisp {
+
+namespace {
+
+// Joining a text to itself in a loop would otherwise exhaust the memory quickly.
+constexpr std::size_t kMaxLength = 4'000'000;
+
+LispResult Join(const CArguments& arguments) {
+    std::wstring text;
+    for (std::size_t i = 0; i < arguments.Count(); ++i) {
+        text += arguments.Text(i);
+        if (text.size() > kMaxLength) {
+            arguments.Fail(L"the text would be longer than " + std::to_wstring(kMaxLength) + L" characters");
+        }
+    }
+    arguments.Evaluator().Step(text.size() / 16);
+    return CValue::String(std::move(text));
+}
+
+// The total length of all texts.
+LispResult Length(const CArguments& arguments) {
+    std::int64_t length = 0;
+    for (std::size_t i = 0; i < arguments.Count(); ++i) {
+        length += std::int64_t(arguments.Text(i).size());
+    }
+    if (length > INT32_MAX) {
+        arguments.Fail(L"the length does not fit 32 bits");
+    }
+    return CValue::Integer(std::int32_t(length));
+}
+
+LispResult Part(const CArguments& arguments) {
+    const std::wstring& text = arguments.Text(0);
+    if (arguments.Integer(1) < 1) {
+        arguments.Refuse(1, L"a position from 1 on");
+    }
+    if (arguments.Has(2) && arguments.Integer(2) < 0) {
+        arguments.Refuse(2, L"a length from 0 on");
+    }
+    const std::size_t start = std::size_t(arguments.Integer(1)) - 1;
+    const std::size_t length = arguments.Has(2) ? std::size_t(arguments.Integer(2)) : text.size();
+    return CValue::String(start < text.size() ? text.substr(start, length) : L"");
+}
+
+// Only the letters of ASCII and Latin-1, so that the result does not depend on the locale.
+wchar_t OtherCase(wchar_t c, bool toCapital) {
+    constexpr wchar_t kDistance = 0x20;
+    const wchar_t capital = toCapital ? wchar_t(c - kDistance) : c;
+    const bool letter =
+        (capital >= L'A' && capital <= L'Z') || (capital >= 0xC0 && capital <= 0xDE && capital != 0xD7);
+    return !letter ? c : toCapital ? capital : wchar_t(c + kDistance);
+}
+
+// In capitals, or in small letters when the second argument is not nil.
+LispResult Case(const CArguments& arguments) {
+    std::wstring text = arguments.Text(0);
+    const bool toCapital = !arguments.Has(1) || arguments[1].IsNil();
+    for (wchar_t& c : text) {
+        c = OtherCase(c, toCapital);
+    }
+    return CValue::String(std::move(text));
+}
+
+LispResult Code(const CArguments& arguments) {
+    if (arguments.Text(0).empty()) {
+        arguments.Refuse(0, L"a text of at least one character");
+    }
+    return CValue::Integer(std::int32_t(arguments.Text(0)[0]));
+}
+
+LispResult Character(const CArguments& arguments) {
+    const std::int32_t code = arguments.Integer(0);
+    if (code < 1 || code > 0xFFFF) {
+        arguments.Refuse(0, L"a code from 1 to 65535");
+    }
+    return CValue::String(std::wstring(1, wchar_t(code)));
+}
+
+constexpr Builtin kFunctions[] = {
+    {L"STRCAT", 0, kAnyCount, Join}, {L"STRLEN", 0, kAnyCount, Length},
+    {L"SUBSTR", 2, 3, Part},         {L"STRCASE", 1, 2, Case},
+    {L"ASCII", 1, 1, Code},          {L"CHR", 1, 1, Character},
+};
+
+}  // namespace
+
+std::span<const Builtin> TextFunctions() {
+    return kFunctions;
+}
+
+}  // namespace tavrin::lisp

@@ -1,0 +1,112 @@
+// The menu, its keys, and the unit format of the status line.
+#include "tests/windows/devhost/window/WindowFixture.h"
+
+using namespace tests;
+using namespace devhost;
+
+namespace {
+
+class Menu : public CWindowFixture {
+protected:
+    // The state and the text of a command as the user would see them.
+    UINT StateOf(UINT command) {
+        const HMENU menu = GetMenu(m_window.Handle());
+        SendMessageW(m_window.Handle(), WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
+        return GetMenuState(menu, command, MF_BYCOMMAND);
+    }
+    bool IsGrey(UINT command) { return (StateOf(command) & MF_GRAYED) != 0; }
+    std::wstring Title(UINT command) const {
+        wchar_t text[100] = L"";
+        GetMenuStringW(GetMenu(m_window.Handle()), command, text, 100, MF_BYCOMMAND);
+        return text;
+    }
+
+    // Presses a key while Control is held.
+    void PressWithControl(WPARAM key) {
+        BYTE keys[256] = {};
+        keys[VK_CONTROL] = 0x80;
+        SetKeyboardState(keys);
+        PostKey(key);
+        Handle();
+        keys[VK_CONTROL] = 0;
+        SetKeyboardState(keys);
+    }
+};
+
+TEST_F(Menu, AnItemIsChosenByItsCommandOrItsKey) {
+    std::vector<std::size_t> chosen;
+    m_window.SetItems({L"Door", L"Doors & more"}, [&](std::size_t index) { chosen.push_back(index); });
+    EXPECT_EQ(Title(IDM_ITEM), L"Door\tCtrl+1");
+    EXPECT_EQ(Title(IDM_ITEM + 1), L"Doors && more\tCtrl+2");
+    PostCommand(IDM_ITEM + 1);
+    Handle();
+    PressWithControl('1');
+    EXPECT_EQ(chosen, (std::vector<std::size_t>{1, 0}));
+    PressWithControl('3');
+    EXPECT_EQ(chosen.size(), 2u) << "there is no third item";
+}
+
+TEST_F(Menu, NewItemsReplaceTheOldOnes) {
+    m_window.SetItems({L"Door", L"Window"}, nullptr);
+    m_window.SetItems({L"Stairs"}, nullptr);
+    EXPECT_EQ(Title(IDM_ITEM), L"Stairs\tCtrl+1");
+    EXPECT_EQ(Title(IDM_ITEM + 1), L"");
+}
+
+TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
+    EXPECT_TRUE(IsGrey(IDM_RELOAD));
+    int reloads = 0;
+    m_window.SetReloadHandler([&] { ++reloads; });
+    EXPECT_FALSE(IsGrey(IDM_RELOAD));
+    PostKey(VK_F5);
+    Handle();
+    EXPECT_EQ(reloads, 1);
+}
+
+TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
+    m_window.SetItems({L"Door"}, [](std::size_t) {});
+    m_window.SetReloadHandler([] {});
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
+    for (const UINT command : {UINT(IDM_ITEM), UINT(IDM_RELOAD), UINT(IDM_CLEAR)}) {
+        EXPECT_FALSE(IsGrey(command)) << command;
+        m_window.SetBusy(true);
+        EXPECT_TRUE(IsGrey(command)) << command;
+        EXPECT_FALSE(IsGrey(IDM_FIT));
+        m_window.SetBusy(false);
+    }
+}
+
+TEST_F(Menu, ClearEmptiesTheDrawing) {
+    EXPECT_TRUE(IsGrey(IDM_CLEAR));
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
+    EXPECT_FALSE(IsGrey(IDM_CLEAR));
+    PostCommand(IDM_CLEAR);
+    Handle();
+    EXPECT_TRUE(m_drawing.Entities().empty());
+}
+
+TEST_F(Menu, SnapIsTicked) {
+    EXPECT_TRUE(StateOf(IDM_SNAP) & MF_CHECKED);
+    PostCommand(IDM_SNAP);
+    Handle();
+    EXPECT_FALSE(StateOf(IDM_SNAP) & MF_CHECKED);
+}
+
+TEST_F(Menu, ChoosingUnitsOrPrecisionTellsBoth) {
+    std::vector<std::pair<int, int>> formats;
+    m_window.SetFormat(2, 3);
+    m_window.SetFormatHandler([&](int lunits, int luprec) { formats.emplace_back(lunits, luprec); });
+    PostCommand(IDM_UNITS + 5);
+    PostCommand(IDM_PRECISION + 8);
+    PostCommand(IDM_PRECISION);
+    Handle();
+    EXPECT_EQ(formats, (std::vector<std::pair<int, int>>{{5, 3}, {5, 8}, {5, 0}}));
+}
+
+TEST_F(Menu, ExitClosesTheWindow) {
+    PostCommand(IDM_EXIT);
+    m_window.Run();
+    EXPECT_EQ(m_window.Handle(), nullptr);
+}
+
+}  // namespace

@@ -1,9 +1,0 @@
-// tavrincheck preview: the item dialog on a file, as text.
-#pragma once
-
-#include <string>
-#include <vector>
-
-// Prints the preview of the file that the arguments name, and gives the exit status 0. Throws CToolError when
-// the arguments make no sense or a file cannot be read.
-int RunPreview(const std::vector<std::string>& arguments);
