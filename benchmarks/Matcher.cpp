@@ -10,7 +10,9 @@
 #include <regex>
 #include <stdexcept>
 
-#include "itemdlg/PatternMatcher.h"
+#include "pattern/PatternMatcher.h"
+
+using namespace tavrin::pattern;
 
 namespace {
 

@@ -12,7 +12,7 @@ std::vector<std::wstring> MixedLines();
 
 struct LineKind {
     std::string name;
-    std::wstring head;   // stands once at the beginning
+    std::wstring head;   // once at the beginning
     std::wstring piece;  // repeated up to the wanted length
 };
 

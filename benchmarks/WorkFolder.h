@@ -1,4 +1,4 @@
-// A place for the files of a benchmark.
+// A temporary folder for the files of a benchmark.
 #pragma once
 
 #include <cstdlib>
@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <string>
 
-// A folder of its own that goes away with the object.
+// A new folder, removed with the object.
 class CWorkFolder {
 public:
     CWorkFolder() {

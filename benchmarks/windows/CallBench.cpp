@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr int rounds = 31;
+constexpr int kRounds = 31;
 
 double Nanoseconds() {
     LARGE_INTEGER frequency, now;
@@ -59,8 +59,8 @@ void Time(CPaintedSentinel& sentinel, STimes& times, const std::function<void()>
 }
 
 double Median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + rounds / 2, values.end());
-    return values[rounds / 2];
+    std::nth_element(values.begin(), values.begin() + kRounds / 2, values.end());
+    return values[kRounds / 2];
 }
 
 // `rewrite`, if any, does to the files what any program must do that leaves values in them.
@@ -68,7 +68,7 @@ void Measure(const char* name, CPaintedSentinel& sentinel, const std::function<v
              const std::function<void()>& ours, const std::function<void()>& bare,
              const std::function<void()>& rewrite) {
     STimes our, their, theirWithFiles;
-    for (int round = 0; round <= rounds; ++round) {
+    for (int round = 0; round <= kRounds; ++round) {
         STimes warmUp;
         prepare();
         Time(sentinel, round > 0 ? our : warmUp, ours);

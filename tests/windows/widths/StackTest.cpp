@@ -6,6 +6,8 @@
 
 #include "itemdlg/PatternMatcher.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 constexpr std::size_t kPainted = 800 * 1024;
