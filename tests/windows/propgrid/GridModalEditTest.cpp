@@ -201,16 +201,20 @@ TEST_F(GridModalEdit, AnUnchangedDateAndTimeIsNoModification) {
 
 // What counts seconds from 1970 on cannot hold such a day; its time of day it can. Neither can a clock that
 // is set forward at two hold half past two.
-TEST_F(GridModalEdit, ATimeIsKeptWhateverItsDay) {
-    for (const COleDateTime& when : {COleDateTime(1960, 5, 6, 7, 8, 9), COleDateTime(2024, 3, 31, 2, 30, 0),
-                                     COleDateTime(3500, 1, 2, 3, 4, 5)}) {
-        const UINT item = grid.AddDateTimeItem(section, L"When", when);
-        Edit(item, IDOK, [&](HWND dialog) {
-            EXPECT_EQ(TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, 1)).wMinute, when.GetMinute());
-        });
-        EXPECT_FALSE(grid.IsItemModified(item)) << when.GetYear();
-    }
+class GridTimeOfDay : public GridModalEdit, public testing::WithParamInterface<COleDateTime> {};
+
+TEST_P(GridTimeOfDay, IsKeptWhateverItsDay) {
+    const UINT item = grid.AddDateTimeItem(section, L"When", GetParam());
+    Edit(item, IDOK, [](HWND dialog) {
+        EXPECT_EQ(TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, 1)).wMinute, GetParam().GetMinute());
+    });
+    EXPECT_FALSE(grid.IsItemModified(item));
 }
+
+INSTANTIATE_TEST_SUITE_P(Days, GridTimeOfDay,
+                         testing::Values(COleDateTime(1960, 5, 6, 7, 8, 9),
+                                         COleDateTime(2024, 3, 31, 2, 30, 0),
+                                         COleDateTime(3500, 1, 2, 3, 4, 5)));
 
 TEST_F(GridModalEdit, ADateThatIsNoneBecomesOne) {
     COleDateTime none;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 #include <string>
 
 namespace {
@@ -16,14 +15,13 @@ constexpr int kIconIds[] = {20, 1088};
 struct Box {
     bool isMessageBox = true;
     HWND button = nullptr;  // the first one
-    std::wstring text;
+    wchar_t text[1000] = {};
 };
 
 // Without a message, which a thread that hangs would not answer.
-std::wstring TextOf(HWND window) {
-    wchar_t text[1000] = {};
-    InternalGetWindowText(window, text, static_cast<int>(std::size(text)));
-    return text;
+template <std::size_t Size>
+void ReadText(HWND window, wchar_t (&text)[Size]) {
+    InternalGetWindowText(window, text, static_cast<int>(Size));
 }
 
 bool IsOneOf(int id, const int (&ids)[2]) {
@@ -38,7 +36,7 @@ BOOL CALLBACK ReadControl(HWND control, LPARAM parameter) {
     if (lstrcmpiW(name, L"Button") == 0 && id >= IDOK && id <= IDCONTINUE) {
         box.button = box.button == nullptr ? control : box.button;
     } else if (lstrcmpiW(name, L"Static") == 0 && IsOneOf(id, kTextIds)) {
-        box.text = TextOf(control);
+        ReadText(control, box.text);
     } else if (!IsOneOf(id, kIconIds)) {
         box.isMessageBox = false;
     }
@@ -52,16 +50,6 @@ Box ReadBox(HWND dialog) {
     return box;
 }
 
-BOOL CALLBACK CollectBox(HWND window, LPARAM boxes) {
-    wchar_t name[16] = {};
-    GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    if (lstrcmpW(name, L"#32770") == 0 && IsWindowVisible(window) && IsWindowEnabled(window) &&
-        ReadBox(window).isMessageBox) {
-        reinterpret_cast<std::set<HWND>*>(boxes)->insert(window);
-    }
-    return TRUE;
-}
-
 // For GoogleTest, which shows wide texts as numbers.
 std::string Narrow(const std::wstring& text) {
     std::string bytes(text.size() * 3, '\0');
@@ -73,19 +61,41 @@ std::string Narrow(const std::wstring& text) {
 
 }  // namespace
 
+BOOL CALLBACK CUnexpectedBoxes::Collect(HWND window, LPARAM boxes) {
+    wchar_t name[16] = {};
+    GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    if (lstrcmpW(name, L"#32770") == 0 && IsWindowVisible(window) && IsWindowEnabled(window) &&
+        ReadBox(window).isMessageBox) {
+        for (SeenBox& box : *reinterpret_cast<SeenBoxes*>(boxes)) {
+            if (box.window == nullptr) {
+                box.window = window;
+                return TRUE;
+            }
+        }
+    }
+    return TRUE;
+}
+
 void CUnexpectedBoxes::Look(DWORD thread) {
-    std::set<HWND> boxes;
-    EnumThreadWindows(thread, CollectBox, reinterpret_cast<LPARAM>(&boxes));
-    std::erase_if(m_since, [&](const auto& known) { return !boxes.contains(known.first); });
-    for (const HWND window : boxes) {
+    SeenBoxes boxes;
+    EnumThreadWindows(thread, Collect, reinterpret_cast<LPARAM>(&boxes));
+    for (SeenBox& box : boxes) {
+        if (box.window == nullptr) {
+            break;
+        }
         const ULONGLONG now = GetTickCount64();
-        ULONGLONG& since = m_since.try_emplace(window, now).first->second;
-        if (now - since < m_patience) {
+        const auto known = std::find_if(m_seen.begin(), m_seen.end(),
+                                        [&](const SeenBox& seen) { return seen.window == box.window; });
+        box.since = known != m_seen.end() ? known->since : now;
+        if (now - box.since < m_patience) {
             continue;
         }
-        const Box box = ReadBox(window);
-        ADD_FAILURE() << "unexpected message box \"" << Narrow(TextOf(window)) << "\": " << Narrow(box.text);
-        since = now;
-        PostMessageW(box.button, BM_CLICK, 0, 0);
+        const Box read = ReadBox(box.window);
+        wchar_t title[200] = {};
+        ReadText(box.window, title);
+        ADD_FAILURE() << "unexpected message box \"" << Narrow(title) << "\": " << Narrow(read.text);
+        box.since = now;
+        PostMessageW(read.button, BM_CLICK, 0, 0);
     }
+    m_seen = boxes;
 }

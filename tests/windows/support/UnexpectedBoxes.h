@@ -4,8 +4,10 @@
 
 #include <windows.h>
 
-#include <map>
+#include <array>
+#include <cstddef>
 
+// It looks while a test may be counting the blocks of the heap, so it takes none of them but to report a box.
 class CUnexpectedBoxes {
 public:
     // A box that has been up for `patience` milliseconds was not expected.
@@ -16,6 +18,17 @@ public:
     void Look(DWORD thread);
 
 private:
+    struct SeenBox {
+        HWND window = nullptr;
+        ULONGLONG since = 0;  // the tick at which it was first seen
+    };
+
+    // More boxes than that are not up at a time.
+    static constexpr std::size_t kMostBoxes = 8;
+    using SeenBoxes = std::array<SeenBox, kMostBoxes>;
+
+    static BOOL CALLBACK Collect(HWND window, LPARAM boxes);
+
     ULONGLONG m_patience;
-    std::map<HWND, ULONGLONG> m_since;  // the boxes that are up, with the tick at which each was first seen
+    SeenBoxes m_seen;  // the boxes that are up
 };

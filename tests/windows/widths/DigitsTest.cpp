@@ -6,8 +6,10 @@
 #include <optional>
 #include <string>
 
-#include "devhost/units/LinearUnits.h"
 #include "itemdlg/NumberText.h"
+#include "units/LinearUnits.h"
+
+using namespace tavrin::units;
 
 using namespace tavrin::itemdlg;
 
