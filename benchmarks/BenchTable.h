@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::benchmarks {
+
 struct BenchRow {
     std::string area;
     std::string what;
@@ -29,3 +31,5 @@ std::vector<double> MedianTimes(const std::vector<std::function<void()>>& works)
 
 // Keeps the compiler from removing work whose result is unused.
 void Use(std::size_t result);
+
+}  // namespace tavrin::benchmarks

@@ -12,6 +12,8 @@
 
 #include "pattern/PatternMatcher.h"
 
+namespace tavrin::benchmarks {
+
 using namespace tavrin::pattern;
 
 namespace {
@@ -255,3 +257,5 @@ const std::vector<MatcherKind>& MatcherKinds() {
     };
     return kinds;
 }
+
+}  // namespace tavrin::benchmarks

@@ -11,6 +11,7 @@
 #include "benchmarks/PeerPatterns.h"
 #include "itemdlg/TemplatePatterns.h"
 
+using namespace tavrin::benchmarks;
 using namespace tavrin::itemdlg;
 
 namespace {

@@ -14,6 +14,8 @@
 #include "benchmarks/PeerPatterns.h"
 #include "itemdlg/ItemFiles.h"
 
+namespace tavrin::benchmarks {
+
 using namespace tavrin::itemdlg;
 
 class CPeerReader::CPattern {
@@ -157,3 +159,5 @@ void CPeerReader::RewriteTemplate(TextLines& lines, const ParamRecordMap& record
         }
     }
 }
+
+}  // namespace tavrin::benchmarks

@@ -6,6 +6,8 @@
 
 #include "itemdlg/ItemContents.h"
 
+namespace tavrin::benchmarks {
+
 using namespace tavrin::itemdlg;
 
 class CPeerReader {
@@ -33,3 +35,5 @@ private:
     std::unique_ptr<CPattern> m_parameter;
     std::unique_ptr<CPattern> m_placeholder;
 };
+
+}  // namespace tavrin::benchmarks

@@ -21,6 +21,7 @@
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TemplateText.h"
 
+using namespace tavrin::benchmarks;
 using namespace tavrin::itemdlg;
 
 namespace {

@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace tavrin::benchmarks {
+
 // A new folder, removed with the object.
 class CWorkFolder {
 public:
@@ -34,3 +36,5 @@ private:
 
     std::filesystem::path m_path;
 };
+
+}  // namespace tavrin::benchmarks

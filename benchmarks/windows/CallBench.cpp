@@ -20,6 +20,8 @@
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::benchmarks;
+
 namespace {
 
 constexpr int kRounds = 31;
@@ -31,7 +33,7 @@ double Nanoseconds() {
     return static_cast<double>(now.QuadPart) * (1e9 / static_cast<double>(frequency.QuadPart));
 }
 
-struct STimes {
+struct Times {
     std::vector<double> opening;
     std::vector<double> closing;
 };
@@ -44,7 +46,7 @@ void HandleMessages() {
 }
 
 // Times one dialog that `show` opens and that ends when it is confirmed.
-void Time(CPaintedSentinel& sentinel, STimes& times, const std::function<void()>& show) {
+void Time(CPaintedSentinel& sentinel, Times& times, const std::function<void()>& show) {
     HandleMessages();
     double painted = 0;
     sentinel.Expect([&] {
@@ -67,9 +69,9 @@ double Median(std::vector<double> values) {
 void Measure(const char* name, CPaintedSentinel& sentinel, const std::function<void()>& prepare,
              const std::function<void()>& ours, const std::function<void()>& bare,
              const std::function<void()>& rewrite) {
-    STimes our, their, theirWithFiles;
+    Times our, their, theirWithFiles;
     for (int round = 0; round <= kRounds; ++round) {
-        STimes warmUp;
+        Times warmUp;
         prepare();
         Time(sentinel, round > 0 ? our : warmUp, ours);
         Time(sentinel, round > 0 ? their : warmUp, bare);

@@ -9,6 +9,7 @@
 #include "itemdlg/TextFile.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::benchmarks;
 using namespace tavrin::itemdlg;
 
 namespace {
