@@ -8,6 +8,7 @@
 #include "imagedlg/TavrinPreviewDlg.h"
 #include "imagedlg/TavrinSelMaskDlg.h"
 #include "itemdlg/TavrinWndDlg.h"
+#include "memory/MemoryFence.h"
 #include "res/TextLibrary.h"
 #include "sds/sds.h"
 
@@ -16,13 +17,14 @@ namespace tavrin::host {
 namespace {
 
 // Runs the body of a command with the module's own resources, restored on every way out. What the body
-// throws ends here with nil as LISP's result.
+// throws ends here with a message box, as it would in a window procedure, and nil as LISP's result.
 template <typename Body>
 int RunFramed(Body body) {
     AFX_MAINTAIN_STATE2 moduleState(AfxGetStaticModuleState());
     try {
-        return body(CWnd::FromHandle(sds_getmainhwnd()));
+        return memory::FenceMemory([&] { return body(CWnd::FromHandle(sds_getmainhwnd())); });
     } catch (CException* exception) {
+        exception->ReportError();
         exception->Delete();
     } catch (const std::exception&) {
     }
