@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdio>
 
+namespace tavrin::benchmarks {
+
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -67,3 +69,5 @@ std::vector<double> MedianTimes(const std::vector<std::function<void()>>& works)
 void Use(std::size_t result) {
     g_used = result;
 }
+
+}  // namespace tavrin::benchmarks

@@ -2,13 +2,15 @@
 //
 // A row compares our figure with another one: a peer's for the same work, a fixed limit, or our own at
 // another size. The columns are separated by tabs: area, what was measured, its size, our figure, unit,
-// beside whom, their figure, the bar. The bar is the greatest ratio of our figure to theirs that is in order;
-// a row without one informs.
+// beside whom, their figure, the bar. The bar is the greatest ratio of our figure to theirs that is
+// acceptable; a row without one informs.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <vector>
+
+namespace tavrin::benchmarks {
 
 struct BenchRow {
     std::string area;
@@ -27,5 +29,7 @@ void PrintRow(const BenchRow& row);
 // machine does meets all of them alike; a piece that is too short for the clock runs many times in a turn.
 std::vector<double> MedianTimes(const std::vector<std::function<void()>>& works);
 
-// Keeps the compiler from leaving out work whose result nobody looks at.
+// Keeps the compiler from removing work whose result is unused.
 void Use(std::size_t result);
+
+}  // namespace tavrin::benchmarks

@@ -16,6 +16,8 @@
 #include "benchmarks/BenchTable.h"
 #include "benchmarks/WorkFolder.h"
 
+using namespace tavrin::benchmarks;
+
 namespace {
 
 namespace fs = std::filesystem;

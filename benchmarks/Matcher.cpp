@@ -10,7 +10,11 @@
 #include <regex>
 #include <stdexcept>
 
-#include "itemdlg/PatternMatcher.h"
+#include "pattern/PatternMatcher.h"
+
+namespace tavrin::benchmarks {
+
+using namespace tavrin::pattern;
 
 namespace {
 
@@ -253,3 +257,5 @@ const std::vector<MatcherKind>& MatcherKinds() {
     };
     return kinds;
 }
+
+}  // namespace tavrin::benchmarks

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::benchmarks {
+
 // Begin and end of the match, then of each group, as positions in the line.
 struct MatchSpan {
     std::ptrdiff_t begin;
@@ -47,3 +49,5 @@ struct MatcherKind {
 
 // Ours first.
 const std::vector<MatcherKind>& MatcherKinds();
+
+}  // namespace tavrin::benchmarks

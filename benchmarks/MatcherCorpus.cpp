@@ -3,6 +3,8 @@
 
 #include <random>
 
+namespace tavrin::benchmarks {
+
 namespace {
 
 // The standard fixes the numbers of the engine, not those of its distributions.
@@ -135,3 +137,5 @@ std::wstring LineOf(const LineKind& kind, std::size_t length) {
     line.resize(length);
     return line;
 }
+
+}  // namespace tavrin::benchmarks

@@ -6,13 +6,15 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::benchmarks {
+
 // A thousand lines as template files hold them: mostly parameters, with and without placeholders, among
 // titles, notes, block marks, near misses, lines full of quotes, blanks or signs, and a few long ones.
 std::vector<std::wstring> MixedLines();
 
 struct LineKind {
     std::string name;
-    std::wstring head;   // stands once at the beginning
+    std::wstring head;   // once at the beginning
     std::wstring piece;  // repeated up to the wanted length
 };
 
@@ -21,3 +23,5 @@ const std::vector<LineKind>& GrowingLines();
 
 // A line of exactly that many characters.
 std::wstring LineOf(const LineKind& kind, std::size_t length);
+
+}  // namespace tavrin::benchmarks

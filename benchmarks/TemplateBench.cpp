@@ -1,8 +1,9 @@
-// Reading and rewriting an item's files beside reading and writing the same files with the C++ standard
-// library alone.
+// Reading the parameters of an item's file and rewriting its template beside the same work over other
+// libraries, and rewriting the working file beside copying its lines.
 //
-// The module's own way to the disk exists on Windows only. Here both sides read and write lines with the same
-// two functions, so that the ratio says what the meaning of the lines costs on top of having them.
+// The module's file access exists on Windows only. Here both sides read and write lines with the same two
+// functions.
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -11,12 +12,17 @@
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <tuple>
 
 #include "benchmarks/BenchTable.h"
+#include "benchmarks/PeerReader.h"
 #include "benchmarks/WorkFolder.h"
 #include "itemdlg/ItemContents.h"
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TemplateText.h"
+
+using namespace tavrin::benchmarks;
+using namespace tavrin::itemdlg;
 
 namespace {
 
@@ -51,9 +57,29 @@ void WriteLines(const fs::path& path, const TextLines& lines) {
     }
 }
 
+std::wstring Lookup(unsigned) {
+    return L"Width";
+}
+
 ItemContents ReadContents(const fs::path& path) {
-    static const std::wstring text = L"Width";
-    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, [](unsigned) { return text; });
+    return ReadItem(ReadLines(path), 1.0, kReadOnlyMode, Lookup);
+}
+
+void RequireSame(const ItemContents& ours, const ItemContents& theirs) {
+    const bool same =
+        std::equal(ours.parameters.begin(), ours.parameters.end(), theirs.parameters.begin(),
+                   theirs.parameters.end(), [](const ItemParameter& one, const ItemParameter& other) {
+                       const auto parts = [](const ItemParameter& parameter) {
+                           const ParamRecord& record = parameter.record;
+                           return std::tie(record.number, record.lineIndex, record.label, record.labelPrefix,
+                                           record.labelSuffix, record.resourceId, record.realValue,
+                                           record.intValue, record.type, parameter.row, parameter.editable);
+                       };
+                       return parts(one) == parts(other);
+                   });
+    if (!same) {
+        throw std::runtime_error("the peer does not read the same parameters");
+    }
 }
 
 ParamRecordMap ReadRecords(const fs::path& path) {
@@ -64,61 +90,102 @@ ParamRecordMap ReadRecords(const fs::path& path) {
     return records;
 }
 
+using Rewriter = std::function<void(TextLines&, const ParamRecordMap&, const ValueTextOf&)>;
+
 struct Task {
     const char* name;
     const char* peer;
+    double bar;
     std::function<void()> ours;
     std::function<void()> theirs;
 };
 
-// What a call does with its files: it reads the parameters from the working file, and after OK it rewrites
-// that file and the template. A file ten times as large takes ten times as long: the time per parameter may
-// not grow. Opening files weighs on the small ones, so that a thousand parameters are the measure, which
-// `perParameter` keeps; twice as much is left for what the caches of the machine hold.
-void Measure(std::size_t parameters, std::map<std::string, double>& perParameter) {
-    constexpr std::size_t kMeasure = 1000;
-    const CWorkFolder folder;
-    const fs::path source = folder.File("door.TXT");
-    const fs::path target = folder.File("written.TXT");
-    WriteLines(source, TemplateOf(parameters));
-    // In a thread of its own, and so in memory of its own: the records would stand between the pieces of
-    // memory that the measured work takes and gives back, and scatter them.
-    ParamRecordMap records;
-    std::thread([&] { records = ReadRecords(source); }).join();
-    if (records.size() != parameters) {
-        throw std::runtime_error("not every parameter was read");
+// One item's files, and what a call does with them: it reads the parameters from the working file, and after
+// OK it rewrites that file and the template.
+class CItemFiles {
+public:
+    explicit CItemFiles(std::size_t parameters) {
+        WriteLines(m_source, TemplateOf(parameters));
+        // In a thread of its own, and so in a heap of its own: the records would otherwise scatter the memory
+        // that the measured work allocates.
+        std::thread([this] { m_records = ReadRecords(m_source); }).join();
+        if (m_records.size() != parameters) {
+            throw std::runtime_error("not every parameter was read");
+        }
+        RequireSamePeer();
     }
-    const ValueTextOf valueTextOf = [](const ParamRecord& record) { return ValueText(record, 1.0); };
-    const auto read = [&] { Use(ReadContents(source).parameters.size()); };
-    const auto readLines = [&] { Use(ReadLines(source).size()); };
-    const auto rewriteWorkingFile = [&] {
-        TextLines lines = ReadLines(source);
-        RewriteWorkingFile(lines, records, valueTextOf);
-        WriteLines(target, lines);
-    };
-    const auto rewriteTemplate = [&] {
-        TextLines lines = ReadLines(source);
-        RewriteTemplateFile(lines, records, valueTextOf);
-        WriteLines(target, lines);
-    };
-    const auto copy = [&] { WriteLines(target, ReadLines(source)); };
-    const Task tasks[] = {
-        {"reading the parameters", "reading the lines", read, readLines},
-        {"rewriting the working file", "reading and writing the lines", rewriteWorkingFile, copy},
-        {"rewriting the template", "reading and writing the lines", rewriteTemplate, copy},
-        {"all three, as in a call", "reading, reading and writing twice",
-         [&] { read(), rewriteWorkingFile(), rewriteTemplate(); }, [&] { readLines(), copy(), copy(); }},
-    };
+
+    std::vector<Task> Tasks() const {
+        const auto read = [this] { Use(ReadContents(m_source).parameters.size()); };
+        const auto ours = [](TextLines& lines, const ParamRecordMap& records, const ValueTextOf& values) {
+            RewriteTemplateFile(lines, records, values);
+        };
+        const auto theirs = [this](TextLines& lines, const ParamRecordMap& records,
+                                   const ValueTextOf& values) {
+            m_interpreted.RewriteTemplate(lines, records, values);
+        };
+        const auto copy = [](TextLines&, const ParamRecordMap&, const ValueTextOf&) {};
+        return {
+            {"reading the parameters", "PCRE2 interpreted, std::from_chars", 1.0, read,
+             ReadBy(m_interpreted)},
+            {"reading the parameters", "PCRE2 JIT, std::from_chars", 0.0, read, ReadBy(m_compiled)},
+            {"rewriting the working file", "reading and writing the lines", 3.0, Rewrite(RewriteWorkingFile),
+             Rewrite(copy)},
+            {"rewriting the template", "PCRE2 interpreted", 1.0, Rewrite(ours), Rewrite(theirs)},
+        };
+    }
+
+private:
+    static std::wstring Value(const ParamRecord& record) { return ValueText(record, 1.0); }
+
+    // Peers that do not do the same are not worth a comparison.
+    void RequireSamePeer() const {
+        RequireSame(ReadContents(m_source), m_interpreted.Read(ReadLines(m_source), Lookup));
+        TextLines ours = ReadLines(m_source);
+        TextLines theirs = ours;
+        RewriteTemplateFile(ours, m_records, Value);
+        m_interpreted.RewriteTemplate(theirs, m_records, Value);
+        if (ours != theirs) {
+            throw std::runtime_error("the peer does not write the same template");
+        }
+    }
+
+    std::function<void()> ReadBy(const CPeerReader& peer) const {
+        return [this, &peer] { Use(peer.Read(ReadLines(m_source), Lookup).parameters.size()); };
+    }
+
+    std::function<void()> Rewrite(const Rewriter& rewrite) const {
+        return [this, rewrite] {
+            TextLines lines = ReadLines(m_source);
+            rewrite(lines, m_records, Value);
+            WriteLines(m_target, lines);
+        };
+    }
+
+    CWorkFolder m_folder;
+    fs::path m_source = m_folder.File("door.TXT");
+    fs::path m_target = m_folder.File("written.TXT");
+    ParamRecordMap m_records;
+    CPeerReader m_interpreted{false};
+    CPeerReader m_compiled{true};
+};
+
+// A file ten times as large takes ten times as long: the time per parameter may not grow. Opening files
+// weighs on the smallest, so a hundred parameters, more than items have, are the measure, which
+// `perParameter` keeps; the bar leaves twice as much for what the caches of the machine hold.
+void Measure(std::size_t parameters, std::map<std::string, double>& perParameter) {
+    constexpr std::size_t kMeasure = 100;
+    const CItemFiles files(parameters);
     const std::string size = std::to_string(parameters) + " parameters";
-    for (const Task& task : tasks) {
+    for (const Task& task : files.Tasks()) {
         const std::vector<double> times = MedianTimes({task.ours, task.theirs});
         const double ours = times[0] / static_cast<double>(parameters);
         const double theirs = times[1] / static_cast<double>(parameters);
-        PrintRow({"files", task.name, size, ours, "ns/parameter", task.peer, theirs, 3.0});
+        PrintRow({"files", task.name, size, ours, "ns/parameter", task.peer, theirs, task.bar});
         if (parameters == kMeasure) {
             perParameter[task.name] = ours;
-        } else if (parameters > kMeasure) {
-            PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 1000",
+        } else if (parameters > kMeasure && task.bar > 0.0) {
+            PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 100",
                       perParameter[task.name], 2.0});
         }
     }
@@ -129,7 +196,7 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
 int main() {
     try {
         std::map<std::string, double> perParameter;
-        for (std::size_t parameters = 10; parameters <= 100'000; parameters *= 10) {
+        for (std::size_t parameters = 10; parameters <= 1000; parameters *= 10) {
             Measure(parameters, perParameter);
         }
         return 0;

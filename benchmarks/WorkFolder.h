@@ -1,4 +1,4 @@
-// A place for the files of a benchmark.
+// A temporary folder for the files of a benchmark.
 #pragma once
 
 #include <cstdlib>
@@ -6,7 +6,9 @@
 #include <stdexcept>
 #include <string>
 
-// A folder of its own that goes away with the object.
+namespace tavrin::benchmarks {
+
+// A new folder, removed with the object.
 class CWorkFolder {
 public:
     CWorkFolder() {
@@ -34,3 +36,5 @@ private:
 
     std::filesystem::path m_path;
 };
+
+}  // namespace tavrin::benchmarks

@@ -2,6 +2,8 @@
 
 #include <objidl.h>
 
+namespace tavrin::dyndlg {
+
 namespace {
 
 using CreateControlFunction = HRESULT(WINAPI*)(LPCOLESTR name, HWND window, IStream* data,
@@ -36,3 +38,5 @@ bool CreateActiveXIn(HWND window, LPCTSTR progId) {
     // The hosting would take an empty name for a window without a control.
     return *progId != _T('\0') && create != nullptr && SUCCEEDED(create(progId, window, nullptr, nullptr));
 }
+
+}  // namespace tavrin::dyndlg

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <iterator>
 
+namespace tavrin::dyndlg {
+
 namespace {
 
 struct ControlClass {
@@ -10,7 +12,7 @@ struct ControlClass {
     std::size_t significant;  // characters that decide whether a name means this class
 };
 
-constexpr ControlClass classes[] = {
+constexpr ControlClass kClasses[] = {
     {L"BUTTON", 3},
     {L"EDIT", 2},
     {L"STATIC", 3},
@@ -31,9 +33,9 @@ constexpr ControlClass classes[] = {
     {L"SysIPAddress32", 7},
     {L"ComboBoxEx32", 6},
 };
-constexpr std::uint32_t firstCode = CT_BUTTON;
-constexpr std::uint32_t codeCount = std::size(classes);
-static_assert(firstCode + codeCount - 1 == CT_COMBOBOXEX);
+constexpr std::uint32_t kFirstCode = CT_BUTTON;
+constexpr std::uint32_t kCodeCount = std::size(kClasses);
+static_assert(kFirstCode + kCodeCount - 1 == CT_COMBOBOXEX);
 
 bool HasBits(std::uint32_t style, std::uint32_t bits) {
     return (style & bits) == bits;
@@ -52,8 +54,8 @@ EExchange ExchangeOfButton(std::uint32_t style) {
 }  // namespace
 
 std::uint32_t TypeCodeOfClass(std::wstring_view className) {
-    std::uint32_t code = firstCode;
-    for (const ControlClass& known : classes) {
+    std::uint32_t code = kFirstCode;
+    for (const ControlClass& known : kClasses) {
         if (className.starts_with(known.name.substr(0, known.significant))) {
             return code;
         }
@@ -64,13 +66,13 @@ std::uint32_t TypeCodeOfClass(std::wstring_view className) {
 
 const wchar_t* ClassOfTypeCode(std::uint32_t typeCode) {
     // Unsigned: codes below the first wrap around to beyond the last.
-    const std::uint32_t index = typeCode - firstCode;
-    return index < codeCount ? classes[index].name.data() : L"";
+    const std::uint32_t index = typeCode - kFirstCode;
+    return index < kCodeCount ? kClasses[index].name.data() : L"";
 }
 
 EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style) {
     constexpr std::uint32_t timeFormat = 9;  // DTS_TIMEFORMAT
-    if (typeCode - firstCode >= codeCount) {
+    if (typeCode - kFirstCode >= kCodeCount) {
         return EX_NONE;
     }
     switch (typeCode) {
@@ -91,3 +93,5 @@ EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style) {
             return EX_CONTROL;
     }
 }
+
+}  // namespace tavrin::dyndlg

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace tavrin::dyndlg {
+
 // The first six are also the ordinals by which Windows knows the classes in a dialog template.
 enum EControlType : std::uint32_t {
     CT_ACTIVEX = 0,  // no known class: the name is an ActiveX control's ProgID
@@ -29,8 +31,8 @@ enum EControlType : std::uint32_t {
     CT_COMBOBOXEX
 };
 
-// The code of a window class. The first characters decide, in the order of the codes and with the case as it
-// stands: L"EDITX" is an edit control, L"Button" is not a button but CT_ACTIVEX, as every unknown name is.
+// The code of a window class. The first characters decide, in the order of the codes and case-sensitively:
+// L"EDITX" is an edit control, L"Button" is not a button but CT_ACTIVEX, as every unknown name is.
 std::uint32_t TypeCodeOfClass(std::wstring_view className);
 
 // The window class of a code; the empty text for a code that is none of the 19.
@@ -54,3 +56,5 @@ enum EExchange {
 // merely contain a pattern count too: an owner-drawn button (0xB) is a radio button, a group box (7) a check
 // box.
 EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style);
+
+}  // namespace tavrin::dyndlg

@@ -2,24 +2,26 @@
 
 #include <algorithm>
 
+namespace tavrin::dyndlg {
+
 namespace {
 
-constexpr std::int32_t leftMargin = 10;
-constexpr std::int32_t rowHeight = 12;
-constexpr std::int32_t boxMargin = 5;
+constexpr std::int32_t kLeftMargin = 10;
+constexpr std::int32_t kRowHeight = 12;
+constexpr std::int32_t kBoxMargin = 5;
 
-// The extent of one axis of the box so that `end` lies in it. A start that moved down has not made it larger:
-// what lies beyond the start alone counts.
+// The extent of one axis of the box so that it includes `end`. A start that moved down has not made it
+// larger: only what is beyond the start counts.
 std::int16_t ExtentUpTo(std::int64_t end, std::int16_t start, std::int16_t extent) {
-    return end > start + extent ? static_cast<std::int16_t>(end + boxMargin - start) : extent;
+    return end > start + extent ? static_cast<std::int16_t>(end + kBoxMargin - start) : extent;
 }
 
 }  // namespace
 
 DialogRect CDialogLayout::Place(const DialogRect* rect, std::int32_t defaultRight) {
     const DialogRect placed =
-        rect != nullptr ? *rect : DialogRect{leftMargin, m_nextRow, defaultRight, m_nextRow + rowHeight};
-    m_nextRow += rowHeight;
+        rect != nullptr ? *rect : DialogRect{kLeftMargin, m_nextRow, defaultRight, m_nextRow + kRowHeight};
+    m_nextRow += kRowHeight;
     Include(placed);
     return placed;
 }
@@ -38,3 +40,5 @@ void CDialogLayout::Include(const DialogRect& rect) {
     m_extent.cx = ExtentUpTo(rect.right, m_extent.x, m_extent.cx);
     m_extent.cy = ExtentUpTo(rect.bottom, m_extent.y, m_extent.cy);
 }
+
+}  // namespace tavrin::dyndlg

@@ -1,9 +1,11 @@
 // Where the controls of a dialog assembled at run time go, and how large the dialog becomes by them.
 //
-// All coordinates are dialog units; a rectangle's right and bottom lie just outside it.
+// All coordinates are dialog units; a rectangle's right and bottom are exclusive.
 #pragma once
 
 #include <cstdint>
+
+namespace tavrin::dyndlg {
 
 struct DialogRect {
     std::int32_t left = 0, top = 0, right = 0, bottom = 0;
@@ -22,18 +24,15 @@ struct StandardButtonRects {
 
 class CDialogLayout {
 public:
-    // Takes a control in. One with a rectangle of its own keeps it; one without (null) gets the next row,
+    // Adds a control. One with a rectangle of its own keeps it; one without (null) gets the next row,
     // from x 10 to `defaultRight`. Both use up a row of 12. The result is the control's rectangle.
     DialogRect Place(const DialogRect* rect, std::int32_t defaultRight);
 
-    // Leaves a gap of 6 and answers where OK and Cancel stand side by side below it. The buttons themselves
-    // are placed like any control, by their rectangles.
+    // Leaves a gap of 6 and returns the rectangles of OK and Cancel, side by side below it. The buttons
+    // themselves are placed like any control, by their rectangles.
     StandardButtonRects StartStandardButtons();
 
-    // Where the next control without a rectangle goes.
-    std::int32_t NextRow() const { return m_nextRow; }
-
-    // Reaches 5 beyond the rightmost and the lowest control; starts at 0, 0 or at a control that lies left of
+    // Reaches 5 beyond the rightmost and the lowest control; starts at 0, 0 or at a control that is left of
     // or above that.
     const DialogExtent& Extent() const { return m_extent; }
 
@@ -52,3 +51,5 @@ public:
 private:
     std::uint32_t m_next = 1024;
 };
+
+}  // namespace tavrin::dyndlg

@@ -1,11 +1,13 @@
 #include "dyndlg/DialogTemplate.h"
 
+namespace tavrin::dyndlg {
+
 namespace {
 
-constexpr std::size_t itemAlignment = 4;
+constexpr std::size_t kItemAlignment = 4;
 
 std::size_t RoundedUp(std::size_t size) {
-    return (size + itemAlignment - 1) / itemAlignment * itemAlignment;
+    return (size + kItemAlignment - 1) / kItemAlignment * kItemAlignment;
 }
 
 std::wstring_view UpToZero(std::wstring_view text) {
@@ -60,7 +62,7 @@ public:
         Word(0);
     }
     void AlignForItem() {
-        while (m_used % itemAlignment != 0) {
+        while (m_used % kItemAlignment != 0) {
             Byte(0);
         }
     }
@@ -72,7 +74,7 @@ private:
     std::size_t m_used = 0;
 };
 
-// The low bits of a signed number as they stand in memory.
+// The low bits of a signed number as they are in memory.
 std::uint32_t Bits(std::int32_t value) {
     return static_cast<std::uint32_t>(value);
 }
@@ -126,3 +128,5 @@ void WriteTemplate(const DialogTemplate& dialog, std::span<std::byte> memory) {
         WriteItem(item, writer);
     }
 }
+
+}  // namespace tavrin::dyndlg

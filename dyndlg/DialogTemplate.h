@@ -13,6 +13,8 @@
 
 #include "dyndlg/DialogLayout.h"
 
+namespace tavrin::dyndlg {
+
 // A control that Windows creates together with the dialog. Its class is given as an ordinal: Windows knows
 // those of CT_BUTTON to CT_COMBOBOX, and makes no dialog from a template with another.
 struct DialogTemplateItem {
@@ -38,6 +40,8 @@ struct DialogTemplate {
 // How many bytes the template takes. The last item is not rounded up.
 std::size_t TemplateSize(const DialogTemplate& dialog);
 
-// Writes the template, gaps included, to the beginning of `memory`, which has room for TemplateSize bytes. A
+// Writes the template, gaps included, to the beginning of `memory`, which holds TemplateSize bytes. A
 // dialog without menu, of the default window class; items without creation data.
 void WriteTemplate(const DialogTemplate& dialog, std::span<std::byte> memory);
+
+}  // namespace tavrin::dyndlg

@@ -7,6 +7,8 @@
 
 #include "dyndlg/LocalMemory.h"
 
+namespace tavrin::dyndlg {
+
 IMPLEMENT_DYNAMIC(CDynDialogEx, CDialog)
 
 BEGIN_MESSAGE_MAP(CDynDialogEx, CDialog)
@@ -18,8 +20,8 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr DWORD dialogStyle = WS_VISIBLE | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
-constexpr DWORD dialogExStyle = WS_EX_DLGMODALFRAME;
+constexpr DWORD kDialogStyle = WS_VISIBLE | WS_CAPTION | WS_SYSMENU | DS_SETFONT;
+constexpr DWORD kDialogExStyle = WS_EX_DLGMODALFRAME;
 
 LOGFONT DefaultFont() {
     LOGFONT font = {};
@@ -139,7 +141,7 @@ INT_PTR CDynDialogEx::DoModal() {
         AddSystemButtons();
     }
     const LOGFONT font = ChooseTemplateFont();
-    // The height as it stands, not as a size in points: a negative height keeps its low 16 bits.
+    // The height as it is, not as a size in points: a negative height keeps its low 16 bits.
     if (m_fontSize == 0) {
         m_fontSize = LOWORD(font.lfHeight);
     }
@@ -173,8 +175,8 @@ LOGFONT CDynDialogEx::ChooseTemplateFont() {
 
 // The texts are the dialog's and the caller's own.
 DialogTemplate CDynDialogEx::DescribeTemplate(LPCTSTR faceName) const {
-    DialogTemplate dialog = {.style = dialogStyle,
-                             .exStyle = dialogExStyle,
+    DialogTemplate dialog = {.style = kDialogStyle,
+                             .exStyle = kDialogExStyle,
                              .extent = m_layout.Extent(),
                              .caption = m_caption.GetString(),
                              .pointSize = m_fontSize,
@@ -283,3 +285,5 @@ BOOL CDynDialogEx::OnHelpInfo(HELPINFO*) {
     CWnd::OnHelp();
     return TRUE;
 }
+
+}  // namespace tavrin::dyndlg

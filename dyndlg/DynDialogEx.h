@@ -26,6 +26,8 @@
 #include "dyndlg/DynDialogItemEx.h"
 #include "memory/MemoryFence.h"
 
+namespace tavrin::dyndlg {
+
 class CDynDialogEx : public CDialog {
     DECLARE_DYNAMIC(CDynDialogEx)
 
@@ -39,7 +41,7 @@ public:
     // parent's font, or else the application's main window's, while its controls get "MS Sans Serif" of
     // height 8.
     void SetFont(CFont* font) { m_font = font; }
-    // Whether DoModal adds an OK and a Cancel button below the controls. It does unless told otherwise.
+    // Whether DoModal adds an OK and a Cancel button below the controls. It does by default.
     void SetUseSystemButtons(bool use) { m_addSystemButtons = use; }
 
     // Runs the dialog: IDOK, with the values in the caller's variables, or IDCANCEL; -1, after a message,
@@ -104,8 +106,10 @@ private:
     CWnd* m_parent;  // not owned
     CString m_caption;
     CFont* m_font = nullptr;           // not owned
-    std::unique_ptr<CFont> m_ownFont;  // what m_font is when nobody set one
+    std::unique_ptr<CFont> m_ownFont;  // what m_font points to by default
     bool m_addSystemButtons = true;
     CDialogLayout m_layout;
     std::vector<std::unique_ptr<CDynDialogItemEx>> m_items;
 };
+
+}  // namespace tavrin::dyndlg

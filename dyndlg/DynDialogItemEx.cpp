@@ -6,6 +6,9 @@
 
 #ifndef _MSC_VER
 #include "dyndlg/ActiveXHost.h"
+
+namespace tavrin::dyndlg {
+
 #endif
 
 IMPLEMENT_DYNAMIC(CDynDialogItemEx, CWnd)
@@ -102,3 +105,5 @@ void CDynDialogItemEx::DoDataExchange(CDataExchange* pDX) {
             break;
     }
 }
+
+}  // namespace tavrin::dyndlg

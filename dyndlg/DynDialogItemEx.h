@@ -9,6 +9,8 @@
 #include "dyndlg/DialogLayout.h"
 #include "memory/MemoryFence.h"
 
+namespace tavrin::dyndlg {
+
 // What a control is made from. Coordinates are dialog units.
 struct DynControl {
     CString className = {};  // the window class; for CT_ACTIVEX the control's ProgID
@@ -58,3 +60,5 @@ private:
 
     const DynControl m_control;
 };
+
+}  // namespace tavrin::dyndlg

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <span>
 
+namespace tavrin::dyndlg {
+
 // Movable, zero-filled memory of `size` bytes. Null when the system has none.
 class CLocalMemory {
 public:
@@ -51,3 +53,5 @@ private:
     const CLocalMemory& m_memory;
     std::byte* m_address;
 };
+
+}  // namespace tavrin::dyndlg

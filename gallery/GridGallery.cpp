@@ -20,7 +20,7 @@ constexpr int statusWrongUse = 2;
 
 int RunMonkey(const wchar_t* events, const wchar_t* seed) {
     tavrin::gallery::CMonkey monkey(static_cast<int>(std::wcstol(events, nullptr, 10)),
-                   static_cast<unsigned>(std::wcstoul(seed, nullptr, 10)));
+                                    static_cast<unsigned>(std::wcstoul(seed, nullptr, 10)));
     return monkey.Run();
 }
 

@@ -3,9 +3,11 @@
 #include "host/Commands.h"
 #include "sds/sds.h"
 
+namespace tavrin::host {
+
 namespace {
 
-constexpr CommandRow commandTable[] = {
+constexpr CommandRow kCommandTable[] = {
     {L"tavrinwnd", RunItemDialog},
     {L"tavrinselmask", RunChoiceDialog},
     {L"tavrinprevmask", RunPreviewDialog},
@@ -14,12 +16,12 @@ constexpr CommandRow commandTable[] = {
 }  // namespace
 
 std::span<const CommandRow> CommandTable() {
-    return commandTable;
+    return kCommandTable;
 }
 
 void RegisterCommands() {
     short code = 0;
-    for (const CommandRow& row : commandTable) {
+    for (const CommandRow& row : kCommandTable) {
         if (sds_defun(row.name, code++) == 0) {
             return;
         }
@@ -28,7 +30,7 @@ void RegisterCommands() {
 
 void UnregisterCommands() {
     short code = 0;
-    for (const CommandRow& row : commandTable) {
+    for (const CommandRow& row : kCommandTable) {
         if (sds_undef(row.name, code++) == 0) {
             return;
         }
@@ -37,9 +39,11 @@ void UnregisterCommands() {
 
 void InvokeCommand() {
     const int code = sds_getfuncode();
-    if (code < 0 || code >= static_cast<int>(std::size(commandTable))) {
+    if (code < 0 || code >= static_cast<int>(std::size(kCommandTable))) {
         sds_fail(L"Invalid function code.");
         return;
     }
-    commandTable[code].run();
+    kCommandTable[code].run();
 }
+
+}  // namespace tavrin::host

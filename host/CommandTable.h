@@ -3,6 +3,8 @@
 
 #include <span>
 
+namespace tavrin::host {
+
 struct CommandRow {
     const wchar_t* name;  // of the LISP function
     int (*run)();         // reads the arguments, shows the dialog, sets the result; see Commands.h
@@ -11,9 +13,11 @@ struct CommandRow {
 // A row's position is the code under which the host knows the function.
 std::span<const CommandRow> CommandTable();
 
-// Make the functions known to the host, or take them away; each stops early only when the host answers 0.
+// Register the functions with the host, or unregister them; each stops early only when the host returns 0.
 void RegisterCommands();
 void UnregisterCommands();
 
 // Runs the function that LISP called. A code that no row has is reported through sds_fail.
 void InvokeCommand();
+
+}  // namespace tavrin::host

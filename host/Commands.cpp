@@ -8,19 +8,23 @@
 #include "imagedlg/TavrinPreviewDlg.h"
 #include "imagedlg/TavrinSelMaskDlg.h"
 #include "itemdlg/TavrinWndDlg.h"
+#include "memory/MemoryFence.h"
 #include "res/TextLibrary.h"
 #include "sds/sds.h"
+
+namespace tavrin::host {
 
 namespace {
 
 // Runs the body of a command with the module's own resources, restored on every way out. What the body
-// throws ends here with nil as LISP's result.
+// throws ends here with a message box, as it would in a window procedure, and nil as LISP's result.
 template <typename Body>
 int RunFramed(Body body) {
     AFX_MAINTAIN_STATE2 moduleState(AfxGetStaticModuleState());
     try {
-        return body(CWnd::FromHandle(sds_getmainhwnd()));
+        return memory::FenceMemory([&] { return body(CWnd::FromHandle(sds_getmainhwnd())); });
     } catch (CException* exception) {
+        exception->ReportError();
         exception->Delete();
     } catch (const std::exception&) {
     }
@@ -32,7 +36,7 @@ bool BeginsWithString(const sds_resbuf* list) {
     return list != nullptr && list->type == RTSTR;
 }
 
-// The result of a function that answers no more than whether its dialog was confirmed.
+// Sets the LISP result of a function that only says whether its dialog was confirmed.
 void SetResultOf(INT_PTR dialogResult) {
     if (dialogResult == IDOK) {
         sds_retint(0);
@@ -42,7 +46,7 @@ void SetResultOf(INT_PTR dialogResult) {
 }
 
 // Gives the dialog the caption, the 3D flag and each of the names that has a slide.
-void TakeChoiceArguments(const sds_resbuf* list, CTavrinSelMaskDlg& dialog) {
+void TakeChoiceArguments(const sds_resbuf* list, imagedlg::CTavrinSelMaskDlg& dialog) {
     // Only the value of a string is the address of a text. The flag is taken from any value, and a caller
     // that gives none is in error but must not bring the host down.
     const wchar_t* const caption = list->type == RTSTR ? list->value.string : L"";
@@ -86,7 +90,7 @@ int RunItemDialog() {
         return 0;
     }
     return RunFramed([&](CWnd* parent) {
-        CTavrinWndDlg dialog(parent);
+        itemdlg::CTavrinWndDlg dialog(parent);
         dialog.SetArguments(arguments->baseName, arguments->scale, arguments->mode);
         SetResultOf(dialog.DoModal());
         return 0;
@@ -99,11 +103,11 @@ int RunChoiceDialog() {
         return 0;
     }
     return RunFramed([&](CWnd* parent) {
-        CTavrinSelMaskDlg dialog(parent);
+        imagedlg::CTavrinSelMaskDlg dialog(parent);
         TakeChoiceArguments(list, dialog);
         if (dialog.GetCount() == 0) {
-            static CTextLibrary texts;
-            sds_alert(texts.Load(NO_SLIDE_TEXT));
+            static res::CTextLibrary texts;
+            sds_alert(texts.Load(imagedlg::kNoSlideText));
             sds_retnil();
             return 1;
         }
@@ -128,9 +132,11 @@ int RunPreviewDialog() {
         return 0;
     }
     return RunFramed([&](CWnd* parent) {
-        CTavrinPreviewDlg dialog(parent);
+        imagedlg::CTavrinPreviewDlg dialog(parent);
         dialog.SetName(list->value.string);
         SetResultOf(dialog.DoModal());
         return 0;
     });
 }
+
+}  // namespace tavrin::host

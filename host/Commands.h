@@ -8,6 +8,8 @@
 
 struct sds_resbuf;
 
+namespace tavrin::host {
+
 // (tavrinwnd baseName [scale mode]): 0 after OK, nil otherwise.
 int RunItemDialog();
 
@@ -27,3 +29,5 @@ struct ItemArguments {
 // Nothing when there is no list or it does not begin with a string. A second argument that is no real
 // and a third that is no short leave the defaults.
 std::optional<ItemArguments> ReadItemArguments(const sds_resbuf* list);
+
+}  // namespace tavrin::host

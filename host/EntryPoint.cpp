@@ -1,4 +1,4 @@
-// The door through which the host talks to the module.
+// The entry point of the module.
 #include <afxwin.h>
 
 #include <string>
@@ -6,6 +6,8 @@
 #include "host/CommandTable.h"
 #include "sds/HostBinding.h"
 #include "sds/sds.h"
+
+namespace tavrin::host {
 
 namespace {
 
@@ -15,8 +17,8 @@ CWinApp application(L"TavrinWnd");
 // The host does not offer all that the module calls, so nothing of it may be called.
 bool hostIsBound = false;
 
-constexpr int requestServed = 0;
-constexpr int requestRefused = 3;
+constexpr int kRequestServed = 0;
+constexpr int kRequestRefused = 3;
 
 int Load() {
     const std::wstring missing = BindHost(GetModuleHandleW(nullptr));
@@ -26,21 +28,21 @@ int Load() {
             L"TavrinWnd cannot work in this host application. The host does not offer:\n\n" + missing +
             L"\n\nPlease load it in a version of the host that does.";
         MessageBoxW(nullptr, message.c_str(), L"Error!", MB_OK | MB_TASKMODAL);
-        return requestRefused;
+        return kRequestRefused;
     }
     RegisterCommands();
-    return requestServed;
+    return kRequestServed;
 }
 
 }  // namespace
 
 // The host's requests: 1 loads, 2 unloads, 5 invokes the function that LISP called; the others up to 17
-// ask for nothing here. Answers 0, or 3 for a request that is not known and for a load in a host that
+// are ignored. Returns 0, or 3 for a request that is not known and for a load in a host that
 // lacks a function.
 extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*packet*/) {
     try {
         if (request > SDS_LAST_REQUEST) {
-            return requestRefused;
+            return kRequestRefused;
         }
         if (request == SDS_LOAD) {
             return Load();
@@ -54,5 +56,7 @@ extern "C" __declspec(dllexport) int icrxEntryPoint(unsigned request, void* /*pa
     } catch (...) {
         // An exception of this compiler's means nothing to the host.
     }
-    return requestServed;
+    return kRequestServed;
 }
+
+}  // namespace tavrin::host

@@ -1,13 +1,15 @@
 #include "imagedlg/ChoiceLayout.h"
 
+namespace tavrin::imagedlg {
+
 namespace {
 
-constexpr int none = CELL_EMPTY;
-constexpr int logo = CELL_LOGO;
+constexpr int none = kCellEmpty;
+constexpr int logo = kCellLogo;
 
 // Four choices form a block of two by two in the left columns. With five the logo fills the middle of the
-// bottom row, so the fifth choice stands at its end.
-constexpr int contents[MAX_CHOICES + 1][CHOICE_CELLS] = {
+// bottom row, so the fifth choice is at its end.
+constexpr int kContents[kMaxChoices + 1][kChoiceCells] = {
     {none, none, none, none, none, none},  //
     {0, none, none, none, none, none},     //
     {0, 1, none, none, none, none},        //
@@ -18,11 +20,11 @@ constexpr int contents[MAX_CHOICES + 1][CHOICE_CELLS] = {
 };
 
 bool IsCell(int cell) {
-    return cell >= 1 && cell <= CHOICE_CELLS;
+    return cell >= 1 && cell <= kChoiceCells;
 }
 
 bool IsInTopRow(int cell) {
-    return cell <= CHOICE_CELLS / 2;
+    return cell <= kChoiceCells / 2;
 }
 
 // Whole pixels, what is left over cut off.
@@ -62,14 +64,14 @@ ChoiceArrangement ArrangeOneRow(unsigned count, const PixelRect& window, const P
     const auto place = [&](const PixelRect& button) {
         return PixelPoint{button.left - cut - window.left, yOf(button)};
     };
-    // Deliberate: the place of Replace across is its place on the screen, the window's is not taken off.
+    // Deliberate: the horizontal position of Replace is its screen position; the window's is not subtracted.
     return {KeptColumns(count, width), half + 28, place(ok), place(cancel),
             PixelPoint{replace.left, yOf(replace)}};
 }
 
 ChoiceArrangement ArrangeTwoByTwo(const PixelRect& window, const PixelRect& ok, const PixelRect& cancel) {
     const int third = (window.right - window.left) / 3;
-    // Deliberate: Cancel stands at the height of OK, whatever its own was.
+    // Deliberate: Cancel is at the height of OK, whatever its own was.
     const int y = ok.top - window.top - 25;
     return {third * 2,
             window.bottom - window.top,
@@ -81,7 +83,7 @@ ChoiceArrangement ArrangeTwoByTwo(const PixelRect& window, const PixelRect& ok, 
 }  // namespace
 
 int GetCellContent(unsigned count, int cell) {
-    return count > MAX_CHOICES || !IsCell(cell) ? CELL_EMPTY : contents[count][cell - 1];
+    return count > kMaxChoices || !IsCell(cell) ? kCellEmpty : kContents[count][cell - 1];
 }
 
 bool IsChoiceCellSelectable(unsigned count, int cell) {
@@ -103,16 +105,16 @@ bool IsChoiceCellSelectable(unsigned count, int cell) {
 
 int GetChoiceOfCell(unsigned count, int cell, int previous) {
     // A quirk that is kept: with a count that the dialog does not show, each selection steps back by one.
-    if (count == 0 || count > MAX_CHOICES) {
+    if (count == 0 || count > kMaxChoices) {
         return previous - 1;
     }
     const int content = GetCellContent(count, cell);
-    // A cell of the top row that shows nothing stands for the choice that it would show.
+    // A cell of the top row that shows nothing means the choice that it would show.
     return content >= 0 ? content : cell - 1;
 }
 
 bool HasChoiceFrame(unsigned count, int cell) {
-    // With one or two choices every cell gets one; those that cannot be selected lie outside the window
+    // With one or two choices every cell gets one; those that cannot be selected are outside the window
     // or in its lowest part.
     return count == 1 || count == 2 ? IsCell(cell) : IsChoiceCellSelectable(count, cell);
 }
@@ -135,3 +137,5 @@ std::optional<ChoiceArrangement> ArrangeChoiceWindow(unsigned count, const Pixel
             return std::nullopt;
     }
 }
+
+}  // namespace tavrin::imagedlg

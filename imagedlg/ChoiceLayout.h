@@ -7,18 +7,20 @@
 
 #include <optional>
 
-inline constexpr int CHOICE_CELLS = 6;
+namespace tavrin::imagedlg {
+
+inline constexpr int kChoiceCells = 6;
 // A dialog with more choices, or with none, closes as soon as it would show.
-inline constexpr unsigned MAX_CHOICES = 6;
+inline constexpr unsigned kMaxChoices = 6;
 
 // What a cell shows is the index of a choice, or one of these.
-inline constexpr int CELL_EMPTY = -1;
-inline constexpr int CELL_LOGO = -2;
-// Empty for every cell when the count is 0 or above MAX_CHOICES.
+inline constexpr int kCellEmpty = -1;
+inline constexpr int kCellLogo = -2;
+// Empty for every cell when the count is 0 or above kMaxChoices.
 int GetCellContent(unsigned count, int cell);
 
 // Whether a click selects the cell. With up to three choices that is the whole top row, even where it
-// shows nothing: the window is narrowed so that those cells lie outside it.
+// shows nothing: the window is narrowed so that those cells are outside it.
 bool IsChoiceCellSelectable(unsigned count, int cell);
 
 // The choice that selecting the (selectable) cell means; `previous` is the one selected before.
@@ -32,17 +34,17 @@ struct PixelPoint {
     bool operator==(const PixelPoint&) const = default;
 };
 
-// Right and bottom lie outside.
+// Right and bottom are exclusive.
 struct PixelRect {
     int left, top, right, bottom;
     bool operator==(const PixelRect&) const = default;
 };
 
 // The corners of the outline around a cell whose client area is `client`, right and bottom included. Drawn
-// three pixels wide it lies wholly outside the cell.
+// three pixels wide it is wholly outside the cell.
 PixelRect GetFrameOutline(const PixelRect& client);
 
-// The window's new size, and the places of its buttons in its client area; a button keeps its size.
+// The window's new size, and the positions of its buttons in its client area; a button keeps its size.
 struct ChoiceArrangement {
     int width, height;
     PixelPoint ok, cancel;
@@ -56,3 +58,5 @@ struct ChoiceArrangement {
 std::optional<ChoiceArrangement> ArrangeChoiceWindow(unsigned count, const PixelRect& window,
                                                      const PixelRect& ok, const PixelRect& cancel,
                                                      const PixelRect& replace);
+
+}  // namespace tavrin::imagedlg

@@ -1,10 +1,14 @@
 // The names of a choice's slides: the choice's name with one of these endings.
 #pragma once
 
+namespace tavrin::imagedlg {
+
 // Looked for first.
-inline constexpr wchar_t FLAT_SLIDE_ENDING[] = L"_t.png";
+inline constexpr wchar_t kFlatSlideEnding[] = L"_t.png";
 // Looked for second, where slides in space count too.
-inline constexpr wchar_t SPACE_SLIDE_ENDING[] = L"_t_3d.png";
+inline constexpr wchar_t kSpaceSlideEnding[] = L"_t_3d.png";
 
 // The text that says that no choice has a slide.
-inline constexpr unsigned NO_SLIDE_TEXT = 5019;
+inline constexpr unsigned kNoSlideText = 5019;
+
+}  // namespace tavrin::imagedlg

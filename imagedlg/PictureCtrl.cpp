@@ -9,6 +9,8 @@ using std::min;
 }  // namespace Gdiplus
 #include <gdiplus.h>
 
+namespace tavrin::imagedlg {
+
 using namespace Gdiplus::DllExports;
 
 namespace {
@@ -38,7 +40,7 @@ CPictureCtrl::CPictureCtrl() {
 }
 
 CPictureCtrl::~CPictureCtrl() {
-    m_bLoaded = FALSE;
+    m_loaded = FALSE;
     ReleaseImageStream();
     Gdiplus::GdiplusShutdown(m_gdiplusToken);
 }
@@ -51,9 +53,9 @@ void CPictureCtrl::PreSubclassWindow() {
 
 BOOL CPictureCtrl::LoadFromFile(const CString& path) {
     SetLastError(0);
-    m_bLoaded = FALSE;
+    m_loaded = FALSE;
     ReleaseImageStream();
-    const HRESULT created = CreateStreamOnHGlobal(nullptr, TRUE, &m_pStream);
+    const HRESULT created = CreateStreamOnHGlobal(nullptr, TRUE, &m_stream);
     if (FAILED(created)) {
         SetLastError(static_cast<DWORD>(created));
         return FALSE;
@@ -64,7 +66,7 @@ BOOL CPictureCtrl::LoadFromFile(const CString& path) {
         SetLastError(reason);
         return FALSE;
     }
-    m_bLoaded = TRUE;
+    m_loaded = TRUE;
     // Before the window exists there is nothing to repaint; a null handle would mean the whole screen.
     if (m_hWnd != nullptr) {
         ::InvalidateRect(m_hWnd, nullptr, TRUE);
@@ -79,7 +81,7 @@ bool CPictureCtrl::ReadFileIntoStream(const CString& path) {
         CFile file(path, CFile::modeRead | CFile::typeBinary);
         BYTE buffer[1024] = {};
         while (const UINT count = file.Read(buffer, sizeof(buffer))) {
-            const HRESULT written = m_pStream->Write(buffer, count, nullptr);
+            const HRESULT written = m_stream->Write(buffer, count, nullptr);
             if (written != S_OK) {
                 SetLastError(static_cast<DWORD>(written));
                 return false;
@@ -94,23 +96,23 @@ bool CPictureCtrl::ReadFileIntoStream(const CString& path) {
 }
 
 void CPictureCtrl::ReleaseImageStream() {
-    if (m_pStream == nullptr) {
+    if (m_stream == nullptr) {
         return;
     }
     // Down to zero on purpose: the bytes go even if something else still counts a reference.
-    while (m_pStream->Release() != 0) {
+    while (m_stream->Release() != 0) {
     }
-    m_pStream = nullptr;
+    m_stream = nullptr;
 }
 
 void CPictureCtrl::DrawItem(LPDRAWITEMSTRUCT drawItem) {
-    if (m_bLoaded) {
+    if (m_loaded) {
         Draw(drawItem->hDC);
     }
 }
 
 BOOL CPictureCtrl::OnEraseBkgnd(CDC* pDC) {
-    if (!m_bLoaded) {
+    if (!m_loaded) {
         return static_cast<BOOL>(Default());
     }
     Draw(pDC == nullptr ? nullptr : pDC->GetSafeHdc());
@@ -122,9 +124,11 @@ BOOL CPictureCtrl::OnEraseBkgnd(CDC* pDC) {
 void CPictureCtrl::Draw(HDC dc) const {
     RECT area;
     ::GetClientRect(m_hWnd, &area);
-    m_pStream->Seek({}, STREAM_SEEK_SET, nullptr);
+    m_stream->Seek({}, STREAM_SEEK_SET, nullptr);
     const CGraphics graphics(dc);
-    const CImage image(m_pStream);
+    const CImage image(m_stream);
     GdipDrawImageRectI(graphics.handle, image.handle, area.left, area.top, area.right - area.left,
                        area.bottom - area.top);
 }
+
+}  // namespace tavrin::imagedlg

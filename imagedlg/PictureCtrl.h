@@ -9,6 +9,8 @@
 
 #include "memory/MemoryFence.h"
 
+namespace tavrin::imagedlg {
+
 class CPictureCtrl : public CStatic {
 public:
     // Starts GDI+ for this control; the destructor stops it.
@@ -16,13 +18,13 @@ public:
     ~CPictureCtrl() override;
 
     // Takes the bytes of the file `path` and repaints. FALSE when it cannot be read: the control is then
-    // empty, whatever it showed before, and GetLastError tells why (the file exception's system error, -1
-    // when there was none; the HRESULT of the memory stream). Whether the bytes are a picture shows only
+    // empty, whatever it showed before, and GetLastError gives the reason (the file exception's system error,
+    // -1 when there was none; the HRESULT of the memory stream). Whether the bytes are a picture shows only
     // in painting: a file that cannot be decoded, an empty one included, is loaded and draws nothing.
     // May be called before the window exists.
     BOOL LoadFromFile(const CString& path);
 
-    // Paints like DrawItem, on `pDC`, and answers TRUE; what the framework answers when the control is
+    // Paints like DrawItem, on `pDC`, and returns TRUE; what the framework returns when the control is
     // empty. Not wired to a message: the dialog's background must show where nothing is drawn.
     virtual BOOL OnEraseBkgnd(CDC* pDC);
 
@@ -38,7 +40,9 @@ private:
     bool ReadFileIntoStream(const CString& path);
     void Draw(HDC dc) const;
 
-    IStream* m_pStream = nullptr;  // the file's bytes, owned; null when there are none
-    BOOL m_bLoaded = FALSE;        // a file was read completely into the stream
+    IStream* m_stream = nullptr;  // the file's bytes, owned; null when there are none
+    BOOL m_loaded = FALSE;        // a file was read completely into the stream
     ULONG_PTR m_gdiplusToken = 0;
 };
+
+}  // namespace tavrin::imagedlg

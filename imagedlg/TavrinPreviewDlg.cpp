@@ -2,6 +2,8 @@
 
 #include "sds/FindFile.h"
 
+namespace tavrin::imagedlg {
+
 IMPLEMENT_DYNAMIC(CTavrinPreviewDlg, CDialog)
 
 CTavrinPreviewDlg::CTavrinPreviewDlg(CWnd* parent) : CDialog(IDD, parent) {}
@@ -16,7 +18,7 @@ END_MESSAGE_MAP()
 
 BOOL CTavrinPreviewDlg::OnInitDialog() {
     CDialog::OnInitDialog();
-    if (const auto path = FindFile(std::wstring(m_strName) + L".png")) {
+    if (const auto path = FindFile(std::wstring(m_name) + L".png")) {
         m_picture.LoadFromFile(path->c_str());
     }
     // In the corner of the screen on purpose, so that the drawing behind stays in sight.
@@ -25,5 +27,7 @@ BOOL CTavrinPreviewDlg::OnInitDialog() {
 }
 
 void CTavrinPreviewDlg::SetName(CString name) {
-    m_strName = name;
+    m_name = name;
 }
+
+}  // namespace tavrin::imagedlg

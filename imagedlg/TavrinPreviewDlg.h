@@ -8,6 +8,8 @@
 #include "memory/MemoryFence.h"
 #include "res/resource.h"
 
+namespace tavrin::imagedlg {
+
 class CTavrinPreviewDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinPreviewDlg)
 
@@ -30,5 +32,7 @@ protected:
 
 private:
     CPictureCtrl m_picture;
-    CString m_strName;
+    CString m_name;
 };
+
+}  // namespace tavrin::imagedlg

@@ -1,13 +1,16 @@
 #include "imagedlg/TavrinSelMaskDlg.h"
 
+#include "handles/GdiScopes.h"
 #include "imagedlg/ChoiceSlides.h"
 #include "sds/FindFile.h"
 
+namespace tavrin::imagedlg {
+
 namespace {
 
-constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF black = RGB(0, 0, 0);
-constexpr int frameWidth = 3;
+constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+constexpr int kFrameWidth = 3;
 
 std::optional<std::wstring> FindSlide(const CString& name, const wchar_t* ending) {
     return FindFile(std::wstring(name) + ending);
@@ -22,17 +25,16 @@ PixelRect ScreenRectOf(const CWnd& window) {
 // White erases the black frame of an earlier selection.
 void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
     const PixelRect outline = GetFrameOutline({cell.left, cell.top, cell.right, cell.bottom});
-    CPen pen(PS_SOLID, frameWidth, colour);
-    CPen* const previous = dc.SelectObject(&pen);
+    const CPen pen(PS_SOLID, kFrameWidth, colour);
+    const handles::CSelectedObject selectedPen(dc, pen);
     dc.MoveTo(outline.left, outline.top);
     dc.LineTo(outline.right, outline.top);
     dc.LineTo(outline.right, outline.bottom);
     dc.LineTo(outline.left, outline.bottom);
     dc.LineTo(outline.left, outline.top);
-    dc.SelectObject(previous);
 }
 
-// To a place in the client area of its parent, keeping its size.
+// To a position in the client area of its parent, keeping its size.
 void MoveButton(CWnd& button, PixelPoint place) {
     button.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
@@ -45,10 +47,10 @@ CTavrinSelMaskDlg::CTavrinSelMaskDlg(CWnd* parent) : CDialog(IDD, parent) {}
 
 void CTavrinSelMaskDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         DDX_Control(pDX, IDC_CHOICE_CELL1 + cell - 1, PictureOf(cell));
     }
-    DDX_Control(pDX, IDC_CHOICE_REPLACE, m_btnReplace);
+    DDX_Control(pDX, IDC_CHOICE_REPLACE, m_replaceButton);
 }
 
 BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
@@ -62,14 +64,14 @@ BEGIN_MESSAGE_MAP(CTavrinSelMaskDlg, CDialog)
 END_MESSAGE_MAP()
 
 BOOL CTavrinSelMaskDlg::OnInitDialog() {
-    m_brush.CreateSolidBrush(white);
+    m_brush.CreateSolidBrush(kWhite);
     CDialog::OnInitDialog();
     // There is no paging: what does not fit is not offered at all.
-    if (m_nCount == 0 || m_nCount > MAX_CHOICES) {
+    if (m_count == 0 || m_count > kMaxChoices) {
         OnCancel();
     }
     ArrangeForCount();
-    m_btnReplace.SetWindowText(m_strReplaceText);
+    m_replaceButton.SetWindowText(m_replaceText);
     return TRUE;
 }
 
@@ -99,21 +101,21 @@ void CTavrinSelMaskDlg::OnClickedReplace() {
 }
 
 void CTavrinSelMaskDlg::EndWith(EResult result) {
-    m_nResult = result;
+    m_result = result;
     OnOK();
 }
 
 void CTavrinSelMaskDlg::SetArguments(const CString& replaceText, int skip3D) {
-    m_strReplaceText = replaceText;
-    m_nSkip3D = skip3D;
+    m_replaceText = replaceText;
+    m_skip3D = skip3D;
 }
 
 bool CTavrinSelMaskDlg::AddChoice(const CString& name) {
-    if (!FindSlide(name, FLAT_SLIDE_ENDING) && (!FindSlide(name, SPACE_SLIDE_ENDING) || m_nSkip3D != 0)) {
+    if (!FindSlide(name, kFlatSlideEnding) && (!FindSlide(name, kSpaceSlideEnding) || m_skip3D != 0)) {
         return false;
     }
-    m_choices[static_cast<int>(m_nCount)] = name;
-    ++m_nCount;
+    m_choices[static_cast<int>(m_count)] = name;
+    ++m_count;
     return true;
 }
 
@@ -128,7 +130,7 @@ void CTavrinSelMaskDlg::RefreshSlides() {
 CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
     if (!name.IsEmpty()) {
         // Whether slides in space count was settled when the name became a choice.
-        for (const wchar_t* ending : {FLAT_SLIDE_ENDING, SPACE_SLIDE_ENDING}) {
+        for (const wchar_t* ending : {kFlatSlideEnding, kSpaceSlideEnding}) {
             if (const auto path = FindSlide(name, ending)) {
                 return path->c_str();
             }
@@ -151,8 +153,8 @@ void CTavrinSelMaskDlg::SelectCell(int cell) {
     if (!IsCellSelectable(cell)) {
         return;
     }
-    m_nSelChoice = GetChoiceOfCell(m_nCount, cell, m_nSelChoice);
-    m_nSelCell = cell - 1;
+    m_selectedChoice = GetChoiceOfCell(m_count, cell, m_selectedChoice);
+    m_selectedCell = cell - 1;
     PaintFrames();
 }
 
@@ -171,22 +173,20 @@ void CTavrinSelMaskDlg::EnableItem(UINT id, BOOL enable) {
 }
 
 CString CTavrinSelMaskDlg::GetCellPath(int cell) {
-    const int content = GetCellContent(m_nCount, cell);
-    if (content == CELL_EMPTY) {
+    const int content = GetCellContent(m_count, cell);
+    if (content == kCellEmpty) {
         return {};
     }
-    return content == CELL_LOGO ? GetLogoPath() : GetSlidePath(m_choices[content]);
+    return content == kCellLogo ? GetLogoPath() : GetSlidePath(m_choices[content]);
 }
 
 CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
-    CPictureCtrl* const pictures[CHOICE_CELLS] = {&m_picture1, &m_picture2, &m_picture3,
-                                                  &m_picture4, &m_picture5, &m_picture6};
-    return *pictures[cell - 1];
+    return m_pictures[static_cast<std::size_t>(cell - 1)];
 }
 
 void CTavrinSelMaskDlg::LoadSlides() {
     // An empty path cannot be loaded, and a load that fails leaves the cell empty.
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         PictureOf(cell).LoadFromFile(GetCellPath(cell));
     }
     SelectCell(1);
@@ -195,21 +195,21 @@ void CTavrinSelMaskDlg::LoadSlides() {
 void CTavrinSelMaskDlg::ArrangeForCount() {
     CWnd& ok = *GetDlgItem(IDOK);
     CWnd& cancel = *GetDlgItem(IDCANCEL);
-    const auto arrangement = ArrangeChoiceWindow(m_nCount, ScreenRectOf(*this), ScreenRectOf(ok),
-                                                 ScreenRectOf(cancel), ScreenRectOf(m_btnReplace));
+    const auto arrangement = ArrangeChoiceWindow(m_count, ScreenRectOf(*this), ScreenRectOf(ok),
+                                                 ScreenRectOf(cancel), ScreenRectOf(m_replaceButton));
     if (arrangement) {
         MoveWindow(0, 0, arrangement->width, arrangement->height);
         MoveButton(ok, arrangement->ok);
         MoveButton(cancel, arrangement->cancel);
         if (arrangement->replace) {
-            MoveButton(m_btnReplace, *arrangement->replace);
+            MoveButton(m_replaceButton, *arrangement->replace);
         }
     }
     CenterWindow();
 }
 
 bool CTavrinSelMaskDlg::IsCellSelectable(int cell) {
-    return IsChoiceCellSelectable(m_nCount, cell);
+    return IsChoiceCellSelectable(m_count, cell);
 }
 
 void CTavrinSelMaskDlg::PaintFrames() {
@@ -219,15 +219,15 @@ void CTavrinSelMaskDlg::PaintFrames() {
     // On the dialog's surface: what a control's own device context reaches outside the control differs
     // from system to system.
     CClientDC dc(this);
-    // With one or two choices there are frames in the bottom row too, where the buttons now stand.
+    // With one or two choices there are frames in the bottom row too, where the buttons now are.
     for (CWnd* const button : {GetDlgItem(IDOK), GetDlgItem(IDCANCEL), GetDlgItem(IDC_CHOICE_REPLACE)}) {
         if (button->IsWindowVisible()) {
             dc.ExcludeClipRect(AreaOf(*button));
         }
     }
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
-        if (HasChoiceFrame(m_nCount, cell)) {
-            PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_nSelCell ? black : white);
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
+        if (HasChoiceFrame(m_count, cell)) {
+            PaintFrame(dc, AreaOf(PictureOf(cell)), cell - 1 == m_selectedCell ? kBlack : kWhite);
         }
     }
 }
@@ -239,3 +239,5 @@ CRect CTavrinSelMaskDlg::AreaOf(const CWnd& control) {
     control.MapWindowPoints(this, &area);
     return area;
 }
+
+}  // namespace tavrin::imagedlg

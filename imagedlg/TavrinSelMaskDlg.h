@@ -1,5 +1,5 @@
 // The choice dialog: up to six named choices, each a picture (a slide) in a cell. One cell is selected and
-// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h says what stands where.
+// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h defines the layout.
 //
 // Fill it, load the slides, then run it:
 //
@@ -17,12 +17,15 @@
 
 #include <afxwin.h>
 
+#include <array>
 #include <map>
 
 #include "imagedlg/ChoiceLayout.h"
 #include "imagedlg/PictureCtrl.h"
 #include "memory/MemoryFence.h"
 #include "res/resource.h"
+
+namespace tavrin::imagedlg {
 
 class CTavrinSelMaskDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinSelMaskDlg)
@@ -46,17 +49,17 @@ public:
     // space count too, NAME_t_3d.png. False when it finds none; the name is dropped.
     bool AddChoice(const CString& name);
 
-    unsigned GetCount() const { return m_nCount; }
+    unsigned GetCount() const { return m_count; }
 
     // After DoModal returned IDOK. The name is empty when the selected cell has no choice.
-    int GetResult() const { return m_nResult; }
-    CString GetSelectedName() { return m_choices[m_nSelChoice]; }
+    int GetResult() const { return m_result; }
+    CString GetSelectedName() { return m_choices[m_selectedChoice]; }
 
     virtual HBRUSH GetBackgroundBrush();
     virtual void RefreshSlides();
 
     // The file to show for a choice: its slide, flat or in space; "empty.png" when the host finds neither
-    // any more or the name is empty. When that is missing too the user is told and the path is empty.
+    // any more or the name is empty. When that is missing too, a message box says so and the path is empty.
     virtual CString GetSlidePath(CString name);
     // Empty, without a message, when there is no "logo.png".
     virtual CString GetLogoPath();
@@ -99,20 +102,17 @@ private:
     void EndWith(EResult result);
     CRect AreaOf(const CWnd& control);
 
-    CPictureCtrl m_picture1;  // of cell 1, and so on
-    CPictureCtrl m_picture2;
-    CPictureCtrl m_picture3;
-    CPictureCtrl m_picture4;
-    CPictureCtrl m_picture5;
-    CPictureCtrl m_picture6;
+    std::array<CPictureCtrl, kChoiceCells> m_pictures;
     CBrush m_brush;  // white, behind everything
-    unsigned m_nCount = 0;
-    int m_nSelChoice = 0;  // from 0
-    int m_nSelCell = 0;    // from 0
-    int m_nResult = 0;     // EResult once the dialog ended with IDOK
-    int m_nSkip3D = 0;
+    unsigned m_count = 0;
+    int m_selectedChoice = 0;  // from 0
+    int m_selectedCell = 0;    // from 0
+    int m_result = 0;          // EResult once the dialog ended with IDOK
+    int m_skip3D = 0;
     // By index. Looking an index up that it does not hold inserts the empty name.
     std::map<int, CString> m_choices;
-    CString m_strReplaceText;
-    CButton m_btnReplace;
+    CString m_replaceText;
+    CButton m_replaceButton;
 };
+
+}  // namespace tavrin::imagedlg

@@ -1,7 +1,9 @@
-// Keeps account of the parameter blocks of a file while its lines pass by.
+// Tracks the parameter blocks of a file, line by line.
 #pragma once
 
 #include <string_view>
+
+namespace tavrin::itemdlg {
 
 class CBlockTracker {
 public:
@@ -31,3 +33,5 @@ public:
 private:
     bool m_open = false;
 };
+
+}  // namespace tavrin::itemdlg

@@ -1,5 +1,5 @@
 // What the item dialog makes of a working file: its title and header, and one parameter after the other with
-// the row that it gets. The dialog is filled from this, and so is everything that foretells the dialog.
+// the row that it gets. The dialog is filled from this, and so is a preview of it.
 #pragma once
 
 #include <optional>
@@ -8,6 +8,8 @@
 
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TemplateText.h"
+
+namespace tavrin::itemdlg {
 
 // What becomes of a parameter in the grid.
 enum EParameterRow {
@@ -31,3 +33,5 @@ struct ItemContents {
 // marked rows are read-only. Title and header end at their first null character, as windows' texts do.
 ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup,
                       const PlaceholderLookup& placeholder = PlaceholderNumber);
+
+}  // namespace tavrin::itemdlg

@@ -1,5 +1,9 @@
-// What the item dialog says in message boxes about an item's files. Whoever foretells the dialog says it too.
+// The messages of the item dialog about an item's files, which the preview tool repeats.
 #pragma once
+
+namespace tavrin::itemdlg {
 
 inline constexpr wchar_t kFileNotFoundMessage[] = L"File not found!";
 inline constexpr wchar_t kInvalidTypeMessage[] = L"Warning! Found invalid type code.";
+
+}  // namespace tavrin::itemdlg

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <cwchar>
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 // How many of the bytes make the next character, provided that it turns back into just these bytes; else 0.
@@ -102,3 +104,5 @@ bool CLocaleText::Encode(const std::wstring& text, std::string& bytes) const {
     }
     return true;
 }
+
+}  // namespace tavrin::itemdlg

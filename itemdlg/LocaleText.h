@@ -3,6 +3,8 @@
 
 #include <string>
 
+namespace tavrin::itemdlg {
+
 // In the "C" locale a byte is the character of the same number. In any other one, bytes that the locale
 // cannot convert there and back become characters 0xDC00 + byte, and such characters are written as that byte
 // again: every byte survives being read and written.
@@ -25,6 +27,8 @@ private:
 
     size_t DecodeOne(const char* bytes, size_t count, wchar_t& unit) const;
 
-    wchar_t m_units[256];  // what a byte on its own stands for
+    wchar_t m_units[256];  // the character of each single byte
     bool m_isSingle[256];  // there and back, without looking at the bytes behind it
 };
+
+}  // namespace tavrin::itemdlg

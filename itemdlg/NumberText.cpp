@@ -10,9 +10,11 @@
 #include <limits>
 #include <system_error>
 
+namespace tavrin::itemdlg {
+
 namespace {
 
-// Takes a number apart from left to right, beginning behind the white space that stands before it.
+// Parses a number from left to right, beginning behind leading white space.
 class CScanner {
 public:
     explicit CScanner(std::wstring_view text) : m_text(text) {
@@ -56,7 +58,7 @@ private:
 };
 
 // A whole number from digits alone; beyond a limit far above all that matters here it is that limit, which
-// leaves room for sums.
+// leaves a margin for sums.
 std::int64_t WholeValue(const std::string& digits) {
     constexpr std::int64_t kLimit = 1'000'000'000'000'000;
     std::int64_t value = 0;
@@ -90,7 +92,8 @@ double ScaledValue(const std::string& whole, const std::string& fraction, std::i
     if (result.ec != std::errc::result_out_of_range) {
         return value;
     }
-    // The conversion does not tell too large from too small; the place of the first digit that counts does.
+    // The conversion does not tell too large from too small; the position of the first digit other than 0
+    // does.
     const std::size_t leading = std::min((whole + fraction).find_first_not_of('0'), text.size());
     const auto magnitude = static_cast<std::int64_t>(whole.size()) - static_cast<std::int64_t>(leading);
     return magnitude + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;
@@ -137,7 +140,7 @@ std::wstring GeneralText(double value) {
         return L"nan";
     }
     constexpr int kSignificantDigits = 6;
-    // The most frequent values need no decimal arithmetic.
+    // Small whole numbers, the most frequent values, need no decimal arithmetic.
     constexpr double kMostDigits = 1e6;
     if (std::abs(value) < kMostDigits && value == std::trunc(value) &&
         !(value == 0.0 && std::signbit(value))) {
@@ -154,3 +157,5 @@ std::wstring IntText(int value) {
     const auto result = std::to_chars(text.data(), text.data() + text.size(), value);
     return {text.data(), result.ptr};
 }
+
+}  // namespace tavrin::itemdlg

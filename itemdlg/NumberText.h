@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace tavrin::itemdlg {
+
 // The number that a text begins with: leading white space (blank, tab, line feed, vertical tab, form feed,
 // carriage return) is skipped and the longest prefix of the form [sign] digits [point digits] [e [sign]
 // digits] is converted; digits may be missing on one side of the point. What follows the number is ignored.
@@ -16,7 +18,7 @@
 // hexadecimal digits are no numbers here: a drawing has no use for them, so that "0x1F" is 0.
 double DecimalValue(std::wstring_view text);
 
-// The same number with the place where it ends: how many characters belong to it and to the white space
+// The same number with its end: the number of characters that belong to it and to the white space
 // before it. 0 when the text begins with no number.
 struct LeadingNumber {
     double value = 0.0;
@@ -39,3 +41,5 @@ std::wstring GeneralText(double value);
 
 // The value as printf's "%d".
 std::wstring IntText(int value);
+
+}  // namespace tavrin::itemdlg

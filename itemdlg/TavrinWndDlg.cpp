@@ -11,16 +11,18 @@
 #include "res/TextLibrary.h"
 #include "sds/FindFile.h"
 
+namespace tavrin::itemdlg {
+
 namespace {
 
-constexpr COLORREF backColor = 0xE1E1E1;
-constexpr COLORREF headerColor = 0xC8C8C8;
-constexpr int gutterWidth = 210;  // pixels
+constexpr COLORREF kBackColor = 0xE1E1E1;
+constexpr COLORREF kHeaderColor = 0xC8C8C8;
+constexpr int kGutterWidth = 210;  // pixels
 
-constexpr const wchar_t* errorCaption = L"Error!";
-constexpr const wchar_t* systemCaption = nullptr;  // the system's own default
-constexpr const wchar_t* unableToOpen = L"Error - unable to open file";
-constexpr const wchar_t* unableToWrite = L"Error - unable to write file";
+constexpr const wchar_t* kErrorCaption = L"Error!";
+constexpr const wchar_t* kSystemCaption = nullptr;  // the system's own default
+constexpr const wchar_t* kUnableToOpen = L"Error - unable to open file";
+constexpr const wchar_t* kUnableToWrite = L"Error - unable to write file";
 
 }  // namespace
 
@@ -59,8 +61,8 @@ BOOL CTavrinWndDlg::OnInitDialog() {
 }
 
 BOOL CTavrinWndDlg::Initialize() {
-    m_backBrush.CreateSolidBrush(backColor);
-    m_headerBrush.CreateSolidBrush(headerColor);
+    m_backBrush.CreateSolidBrush(kBackColor);
+    m_headerBrush.CreateSolidBrush(kHeaderColor);
     CDialog::OnInitDialog();
     if (!ArgumentsAreUsable()) {
         PostMessage(WM_CLOSE);
@@ -70,8 +72,8 @@ BOOL CTavrinWndDlg::Initialize() {
     ShowPicture();
     m_headerFont.CreatePointFont(160, L"Microsoft Sans Serif");
     m_header.SetFont(&m_headerFont, TRUE);
-    m_grid.SetBackColor(backColor);
-    m_grid.SetShadeColor(headerColor);
+    m_grid.SetBackColor(kBackColor);
+    m_grid.SetShadeColor(kHeaderColor);
     LoadTemplate();
     return TRUE;
 }
@@ -80,7 +82,7 @@ HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {
     if (pWnd->GetDlgCtrlID() != IDC_ITEM_HEADER) {
         return m_backBrush;
     }
-    pDC->SetBkColor(headerColor);
+    pDC->SetBkColor(kHeaderColor);
     return m_headerBrush;
 }
 
@@ -95,12 +97,12 @@ void CTavrinWndDlg::OnClickedOk() {
 
 bool CTavrinWndDlg::ArgumentsAreUsable() {
     if (m_baseName.IsEmpty()) {
-        ShowError(L"Please specify a file name!", errorCaption);
+        ShowError(L"Please specify a file name!", kErrorCaption);
         return false;
     }
     const std::wstring workingFile = FileName(kWorkingFileEnding);
     if (!FindFile(workingFile)) {
-        ShowError((L"File not found '" + workingFile + L"'!").c_str(), errorCaption);
+        ShowError((L"File not found '" + workingFile + L"'!").c_str(), kErrorCaption);
         return false;
     }
     return true;
@@ -117,13 +119,13 @@ void CTavrinWndDlg::LoadTemplate() {
     m_params.clear();
     m_grid.ResetContents();
     m_distanceItems.clear();
-    m_grid.SetDisplayMode(tavrin::propgrid::CPropertyGrid::DM_FLAT);
-    m_grid.SetGutterWidth(gutterWidth);
+    m_grid.SetDisplayMode(propgrid::CPropertyGrid::DM_FLAT);
+    m_grid.SetGutterWidth(kGutterWidth);
     const UINT section = m_grid.AddSection(L"Item Data");
 
     const std::optional<std::wstring> path = FindFile(FileName(kWorkingFileEnding));
     if (!path) {
-        ShowError(kFileNotFoundMessage, errorCaption);
+        ShowError(kFileNotFoundMessage, kErrorCaption);
         return;
     }
     TextLines lines;
@@ -138,7 +140,7 @@ void CTavrinWndDlg::LoadTemplate() {
         AddParameter(section, parameter);
     }
     if (!readWhole) {
-        ShowError(unableToOpen, systemCaption);
+        ShowError(kUnableToOpen, kSystemCaption);
     }
 }
 
@@ -146,8 +148,7 @@ void CTavrinWndDlg::LoadTemplate() {
 void CTavrinWndDlg::AddParameter(UINT section, const ItemParameter& parameter) {
     ParamRecord& record = m_params[parameter.record.lineIndex] = parameter.record;
     if (record.type == 'D') {
-        m_distanceItems.push_back(
-            std::make_unique<tavrin::propgrid::CDistanceItem>(m_hWnd, record.realValue));
+        m_distanceItems.push_back(std::make_unique<propgrid::CDistanceItem>(m_hWnd, record.realValue));
         record.customItem = m_distanceItems.back().get();
     }
     if (parameter.row == PR_SHOWN) {
@@ -172,8 +173,7 @@ UINT CTavrinWndDlg::AddRow(UINT section, const ParamRecord& record, bool editabl
 std::wstring CTavrinWndDlg::CurrentValueText(const ParamRecord& record) const {
     ParamRecord current = record;
     if (record.type == 'D') {
-        current.realValue =
-            static_cast<const tavrin::propgrid::CDistanceItem*>(record.customItem)->GetDistance();
+        current.realValue = static_cast<const propgrid::CDistanceItem*>(record.customItem)->GetDistance();
     } else if (record.type == 'I') {
         m_grid.GetItemValue(record.itemId, current.intValue);
     } else {
@@ -190,34 +190,34 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
     RewriteFile(kTemplateFileEnding, RewriteTemplateFile);
 }
 
-// Reads a file, rewrites its lines and writes it. A failure of reading does not keep it from being written,
-// which is required: the file then ends where reading failed. A want of memory is told as a failure of what
-// it ended, and the file stays as it is unless it was being written.
+// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written all the same
+// and then ends where reading failed. Out of memory is reported as a failure of the step that it interrupted;
+// the file stays as it is unless it was being written.
 void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {
-    const wchar_t* failure = unableToOpen;
+    const wchar_t* failure = kUnableToOpen;
     try {
         const std::wstring name = FileName(ending);
         TextLines lines;
         const std::optional<std::wstring> source = FindFile(name);
         if (!source) {
-            ShowError(kFileNotFoundMessage, errorCaption);
+            ShowError(kFileNotFoundMessage, kErrorCaption);
             return;
         }
         if (!ReadTextFile(*source, lines)) {
-            ShowError(unableToOpen, systemCaption);
+            ShowError(kUnableToOpen, kSystemCaption);
         }
         rewrite(lines, m_params, [this](const ParamRecord& record) { return CurrentValueText(record); });
-        failure = unableToWrite;
+        failure = kUnableToWrite;
         const std::optional<std::wstring> target = FindFile(name);
         if (!target) {
-            ShowError(kFileNotFoundMessage, errorCaption);
+            ShowError(kFileNotFoundMessage, kErrorCaption);
             return;
         }
         if (!WriteTextFile(*target, lines)) {
-            ShowError(unableToWrite, systemCaption);
+            ShowError(kUnableToWrite, kSystemCaption);
         }
     } catch (const std::bad_alloc&) {
-        ShowError(failure, systemCaption);
+        ShowError(failure, kSystemCaption);
     }
 }
 
@@ -226,7 +226,7 @@ int CTavrinWndDlg::GetPlaceholderNumber(CString line) {
 }
 
 CString CTavrinWndDlg::LoadResString(CString& out, unsigned id) {
-    static CTextLibrary texts;
+    static res::CTextLibrary texts;
     out = texts.Load(id);
     return out;
 }
@@ -241,3 +241,5 @@ std::function<std::wstring(unsigned)> CTavrinWndDlg::Texts() {
 void CTavrinWndDlg::ShowError(const wchar_t* text, const wchar_t* caption) {
     ::MessageBoxW(m_hWnd, text, caption, MB_OK);
 }
+
+}  // namespace tavrin::itemdlg

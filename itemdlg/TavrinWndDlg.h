@@ -21,6 +21,8 @@
 #include "propgrid/PropertyGrid.h"
 #include "res/resource.h"
 
+namespace tavrin::itemdlg {
+
 class CTavrinWndDlg : public CDialog {
     DECLARE_DYNAMIC(CTavrinWndDlg)
 
@@ -66,11 +68,11 @@ protected:
 
 private:
     // Both outlive the grid and the header, which are declared behind them.
-    std::vector<std::unique_ptr<tavrin::propgrid::CDistanceItem>> m_distanceItems;
+    std::vector<std::unique_ptr<propgrid::CDistanceItem>> m_distanceItems;
     CFont m_headerFont;
 
-    tavrin::propgrid::CPropertyGrid m_grid;
-    CPictureCtrl m_picture;
+    propgrid::CPropertyGrid m_grid;
+    imagedlg::CPictureCtrl m_picture;
     ParamRecordMap m_params;  // by line index in the working file
     CString m_baseName;
     double m_scale = 1.0;
@@ -93,3 +95,5 @@ private:
     std::function<std::wstring(unsigned)> Texts();
     void ShowError(const wchar_t* text, const wchar_t* caption);
 };
+
+}  // namespace tavrin::itemdlg

@@ -10,6 +10,8 @@
 
 #include "itemdlg/ParamRecord.h"
 
+namespace tavrin::itemdlg {
+
 using TextLines = std::vector<std::wstring>;
 
 // Gives the text of the value that a parameter has now.
@@ -23,16 +25,18 @@ std::wstring ValueText(const ParamRecord& record, double scale);
 std::wstring WorkingFileLine(const ParamRecord& record, const std::wstring& valueText);
 
 // The parameter line: $1 = "<<1501>>"D900. Its label always has the form prefix, placeholder, suffix, so that
-// one that held no placeholder comes back with "<<0>>" in place of its first character; a read-only mark
-// comes back in the suffix. No blank stands between the type letter and the value.
+// one that held no placeholder comes back with "<<0>>" instead of its first character; a read-only mark
+// comes back in the suffix. There is no blank between the type letter and the value.
 std::wstring TemplateFileLine(const ParamRecord& record, const std::wstring& valueText);
 
-// Puts the assignment line in the place of each line whose index has a record, blocks or not: the file must
+// Replaces each line whose index has a record by the assignment line, blocks or not: the file must
 // still have the layout that the records were read from. Records beyond its end are left out. A record of
 // type U is assigned nothing, and its value is not asked for.
 void RewriteWorkingFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf);
 
-// Puts, for each record, the parameter line in the place of the last line in a block that has the record's
+// Replaces, for each record, the last line in a block that has the record's
 // number, compared as text ("01" is not "1"). Records whose number does not occur and those of type U are
 // left out. Values are asked for in the order of the records' lines.
 void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf);
+
+}  // namespace tavrin::itemdlg

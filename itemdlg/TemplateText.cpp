@@ -5,29 +5,21 @@
 #include <utility>
 
 #include "itemdlg/NumberText.h"
-#include "itemdlg/PatternMatcher.h"
 #include "itemdlg/TemplatePatterns.h"
+#include "pattern/PatternMatcher.h"
+
+namespace tavrin::itemdlg {
 
 namespace {
 
-// A failure can only be a want of memory. It must not be remembered: since it leaves the caller's variable
-// uninitialised, the next call compiles again.
-CPatternMatcher Compiled(const wchar_t* pattern) {
-    CPatternMatcher matcher;
-    if (matcher.Parse(pattern, false) != PE_NONE) {
+// The patterns are correct, so parsing fails only out of memory. The caller's static variable then stays
+// uninitialised, and the next call parses again.
+pattern::CPatternMatcher Compiled(const wchar_t* text) {
+    pattern::CPatternMatcher matcher;
+    if (matcher.Parse(text, false) != pattern::PE_NONE) {
         throw std::bad_alloc();
     }
     return matcher;
-}
-
-// The groups of a match, false when the text does not match. The matcher says no more than that when memory
-// runs out, but then leaves no groups: a parameter must not go unnoticed for that.
-bool MatchesPattern(const CPatternMatcher& matcher, const std::wstring& text, CMatchContext& context) {
-    const bool matches = matcher.Match(text.c_str(), &context);
-    if (context.GroupCount() == 0) {
-        throw std::bad_alloc();
-    }
-    return matches;
 }
 
 // Only capital type letters are types, although the pattern, matched without regard to case, lets small ones
@@ -48,9 +40,9 @@ std::optional<ParameterLine> ParseParameterLine(const std::wstring& line) {
 }
 
 std::optional<ParameterParts> SplitParameterLine(const std::wstring& line) {
-    static const CPatternMatcher matcher = Compiled(kParameterPattern);
-    CMatchContext context;
-    if (!MatchesPattern(matcher, line, context)) {
+    static const pattern::CPatternMatcher matcher = Compiled(kParameterPattern);
+    pattern::CMatchContext context;
+    if (!matcher.Match(line.c_str(), &context)) {
         return std::nullopt;
     }
     return ParameterParts{context.GroupText(0), context.GroupText(1), context.GroupText(2).front(),
@@ -58,9 +50,9 @@ std::optional<ParameterParts> SplitParameterLine(const std::wstring& line) {
 }
 
 int PlaceholderNumber(const std::wstring& text) {
-    static const CPatternMatcher matcher = Compiled(kPlaceholderPattern);
-    CMatchContext context;
-    return MatchesPattern(matcher, text, context) ? LeadingInt(context.GroupText(0)) : 0;
+    static const pattern::CPatternMatcher matcher = Compiled(kPlaceholderPattern);
+    pattern::CMatchContext context;
+    return matcher.Match(text.c_str(), &context) ? LeadingInt(context.GroupText(0)) : 0;
 }
 
 std::wstring ResourceText(int number, const TextLookup& lookup) {
@@ -133,3 +125,5 @@ std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t
     FillRow(*parameter, line, lineIndex, scale, mode, lookup, *row);
     return row;
 }
+
+}  // namespace tavrin::itemdlg

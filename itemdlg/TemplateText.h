@@ -5,14 +5,14 @@
 //   index 1    the title, perhaps as a placeholder: <<2001>>
 //   VAR        opens a parameter block (see CBlockTracker)
 //   $3 = "Leaves: <<1503>>"I 2
-//              in a block a parameter: number, label, type letter, value; blanks may stand around the "="
+//              in a block a parameter: number, label, type letter, value; blanks are allowed around the "="
 //   END_VAR    closes the block
 //
 // Any other line means nothing and is kept. A placeholder, two less-than signs, a number and two greater-than
-// signs, stands for a text of the resource module, so that labels can be translated without touching the
+// signs, means a text of the resource module, so that labels can be translated without touching the
 // files.
 //
-// A line is one text without its line end. It may hold null characters: the patterns see what stands before
+// A line is one text without its line end. It may hold null characters: the patterns see the text before
 // the first one, while a line that is written back unchanged keeps all of it. Running out of memory shows as
 // std::bad_alloc.
 #pragma once
@@ -24,6 +24,8 @@
 #include <string_view>
 
 #include "itemdlg/ParamRecord.h"
+
+namespace tavrin::itemdlg {
 
 // Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
 // 1 to 65535 only.
@@ -37,12 +39,12 @@ struct ParameterLine {
     std::wstring value;          // all behind the type letter, blanks included
 };
 
-// The parts of a line if it has the form of a parameter line. Its label ends at the last quote that stands
+// The parts of a line if it has the form of a parameter line. Its label ends at the last quote that is
 // directly before a type letter, so that a label may hold quotes. Small type letters have the form as well,
 // though they are no valid types: ReadParameter gives them type 'U'. Does not look at blocks.
 std::optional<ParameterLine> ParseParameterLine(const std::wstring& line);
 
-// The same parts as views into the line, for those who need not keep them.
+// The same parts as views into the line, for callers that do not keep them.
 struct ParameterParts {
     std::wstring_view number;
     std::wstring_view label;
@@ -67,12 +69,12 @@ constexpr int kHighestTextNumber = 0xFFFF;
 // the lookup is not asked, since the system would cut the number off to 16 bits and find a wrong text.
 std::wstring ResourceText(int number, const TextLookup& lookup);
 
-// The title that a line stands for: the text that its placeholder names, in place of the whole line, or the
+// The title that a line means: the text that its placeholder names, instead of the whole line, or the
 // line itself.
 std::wstring TitleText(const std::wstring& line, const TextLookup& lookup,
                        const PlaceholderLookup& placeholder = PlaceholderNumber);
 
-// The parts of a label around its placeholder, as views into it, to put the label together again: what stands
+// The parts of a label around its placeholder, as views into it, to put the label together again: the text
 // before the first "<<" (nothing when there is none), and the last (length - position of the first ">>" - 2)
 // characters. Without ">>" that position counts as -1, so that the suffix is the label without its first
 // character: the files are meant to use a placeholder in every label.
@@ -101,3 +103,5 @@ void FillRow(const ParameterParts& parameter, const std::wstring& line, std::int
 // The same from the line alone; nothing when it is no parameter.
 std::optional<ParameterRow> ReadParameter(const std::wstring& line, std::int32_t lineIndex, double scale,
                                           int mode, const TextLookup& lookup);
+
+}  // namespace tavrin::itemdlg

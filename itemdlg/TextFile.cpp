@@ -8,6 +8,8 @@
 
 #include "itemdlg/LocaleText.h"
 
+namespace tavrin::itemdlg {
+
 namespace {
 
 constexpr std::size_t kBufferSize = 0x10000;  // bytes
@@ -143,3 +145,5 @@ bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& li
         return false;
     }
 }
+
+}  // namespace tavrin::itemdlg

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+namespace tavrin::itemdlg {
+
 // Appends the lines of the file `path` to `lines`, without their line ends. False when the file cannot be
 // opened or reading fails; `lines` then holds what was read before. A file of 2 GB or more is not opened.
 bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines);
@@ -17,3 +19,5 @@ bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines);
 // opened, writing fails, or a line has a character that the locale cannot express; it then holds what was
 // written before.
 bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& lines);
+
+}  // namespace tavrin::itemdlg

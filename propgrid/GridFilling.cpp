@@ -176,7 +176,6 @@ UINT CGridFilling::AddCustomItem(UINT section, const std::wstring& name, ICustom
 }
 
 void CGridFilling::ResetContents() {
-    LeaveEditor();
     m_model.Clear();
     Relayout();
 }

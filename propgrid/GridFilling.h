@@ -71,7 +71,8 @@ public:
     UINT AddCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable = true);
 
     // Removes all sections and items; ids start at 0 again. Deliberately leaves the focused ids alone: a
-    // new row that gets the id of the focused one has the focus.
+    // new row that gets the id of the focused one has the focus. It leaves an open editor alone too, whose
+    // result is dropped when it ends.
     void ResetContents();
 
 protected:

@@ -19,7 +19,7 @@ bool CGridRows::SetItemEditable(UINT id, bool editable) {
     if (item == nullptr) {
         return false;
     }
-    m_model.SetEditable(*item, editable);
+    item->SetEditable(editable);
     Repaint();
     return true;
 }

@@ -425,15 +425,20 @@ void CPropertyGrid::LeaveEditor() {
     }
 }
 
+// The item that an editor's result is for. A new item with the id of a removed one does not get its text.
+UINT CPropertyGrid::FindEditedItem() const {
+    return m_editors.HasLostItsItem() ? NO_ID : GetFocusedItem();
+}
+
 // The list closed with a choice.
 LRESULT CPropertyGrid::OnChoiceMade(WPARAM index, LPARAM /*zero*/) {
-    TakeResult(TakeListChoice(m_model, GetFocusedItem(), static_cast<int>(static_cast<INT_PTR>(index))));
+    TakeResult(TakeListChoice(m_model, FindEditedItem(), static_cast<int>(static_cast<INT_PTR>(index))));
     return 0;
 }
 
 // The in-place edit ended.
 LRESULT CPropertyGrid::OnEditDone(WPARAM text, LPARAM /*zero*/) {
-    TakeResult(TakeEditText(m_model, GetFocusedItem(), reinterpret_cast<const wchar_t*>(text),
+    TakeResult(TakeEditText(m_model, FindEditedItem(), reinterpret_cast<const wchar_t*>(text),
                             !m_editors.IsTextUntouched()));
     return 0;
 }
@@ -441,7 +446,7 @@ LRESULT CPropertyGrid::OnEditDone(WPARAM text, LPARAM /*zero*/) {
 // A date of the calendar was chosen.
 LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
     if (const std::optional<DateValue> date = m_editors.GetCalendarDate()) {
-        TakeResult(TakeCalendarDate(m_model, GetFocusedItem(), *date));
+        TakeResult(TakeCalendarDate(m_model, FindEditedItem(), *date));
     }
     return 0;
 }
@@ -450,7 +455,7 @@ LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
 // first and destroys it last: the owner's handler, or a custom item's, runs in between and may lead to
 // anything, another editor included.
 void CPropertyGrid::TakeResult(const Actions& actions) {
-    if (!actions.empty()) {
+    if (!actions.empty() || m_editors.HasLostItsItem()) {
         const EditorPointer ended = m_editors.Take();
         m_actions.Run(actions);
     }

@@ -82,13 +82,14 @@ public:
     //   SetItemValue                        of its item; the new value is the one that stays
     //   SetItemEditable, SetItemUndefined   of its item, for the other state
     //   AddSection, AddItem, typed adds     in any section; the new row is complete before
-    //   ResetContents, SetDisplayMode       always
+    //   SetDisplayMode                      always
     //   SetSectionCollapsed                 of any section
     //   SetGutterWidth                      for another position
     //   another size or place of the grid's window, and its end
     //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
     //
-    // All else leaves it open on its cell: whatever is refused or sets what is set already, the values and
+    // ResetContents leaves it open; what it edits is gone then, and its result is dropped when it ends. All
+    // else leaves it open on its cell: whatever is refused or sets what is set already, the values and
     // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
 
     // Whether an in-place edit, a list or a calendar is open.
@@ -146,6 +147,7 @@ private:
     bool ScrollTo(std::optional<int> position);
     void TurnWheel(int delta);
     bool SetFocusedRow(const RowId& row);
+    UINT FindEditedItem() const;
     void TakeResult(const Actions& actions);
 
     CMouseController m_mouse{m_model, m_layout};

@@ -1,5 +1,7 @@
 #include "res/TextLibrary.h"
 
+namespace tavrin::res {
+
 namespace {
 
 // Makes `resources` the module's resource handle until the end of the scope.
@@ -31,3 +33,5 @@ CString CTextLibrary::Load(unsigned id) {
     const int length = LoadStringW(m_library, id, text, 256);
     return {text, length};
 }
+
+}  // namespace tavrin::res

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+namespace tavrin::res {
+
 // Loads texts from TavrinRes.dll. The library is loaded by its bare name at the first text that is
 // asked for and then kept for the life of the process, so an object of this class is a static one.
 class CTextLibrary {
@@ -14,3 +16,5 @@ public:
 private:
     HINSTANCE m_library = nullptr;
 };
+
+}  // namespace tavrin::res

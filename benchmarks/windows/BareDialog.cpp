@@ -4,6 +4,8 @@
 // After objidl.h.
 #include <gdiplus.h>
 
+namespace tavrin::benchmarks {
+
 using namespace Gdiplus::DllExports;
 
 namespace {
@@ -58,3 +60,5 @@ INT_PTR ShowBareDialog(HMODULE resources, int id, int pictureId, const std::wstr
     Gdiplus::GdiplusShutdown(token);
     return result;
 }
+
+}  // namespace tavrin::benchmarks

@@ -20,9 +20,11 @@
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::benchmarks;
+
 namespace {
 
-constexpr int rounds = 31;
+constexpr int kRounds = 31;
 
 double Nanoseconds() {
     LARGE_INTEGER frequency, now;
@@ -31,7 +33,7 @@ double Nanoseconds() {
     return static_cast<double>(now.QuadPart) * (1e9 / static_cast<double>(frequency.QuadPart));
 }
 
-struct STimes {
+struct Times {
     std::vector<double> opening;
     std::vector<double> closing;
 };
@@ -44,7 +46,7 @@ void HandleMessages() {
 }
 
 // Times one dialog that `show` opens and that ends when it is confirmed.
-void Time(CPaintedSentinel& sentinel, STimes& times, const std::function<void()>& show) {
+void Time(CPaintedSentinel& sentinel, Times& times, const std::function<void()>& show) {
     HandleMessages();
     double painted = 0;
     sentinel.Expect([&] {
@@ -59,17 +61,17 @@ void Time(CPaintedSentinel& sentinel, STimes& times, const std::function<void()>
 }
 
 double Median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + rounds / 2, values.end());
-    return values[rounds / 2];
+    std::nth_element(values.begin(), values.begin() + kRounds / 2, values.end());
+    return values[kRounds / 2];
 }
 
 // `rewrite`, if any, does to the files what any program must do that leaves values in them.
 void Measure(const char* name, CPaintedSentinel& sentinel, const std::function<void()>& prepare,
              const std::function<void()>& ours, const std::function<void()>& bare,
              const std::function<void()>& rewrite) {
-    STimes our, their, theirWithFiles;
-    for (int round = 0; round <= rounds; ++round) {
-        STimes warmUp;
+    Times our, their, theirWithFiles;
+    for (int round = 0; round <= kRounds; ++round) {
+        Times warmUp;
         prepare();
         Time(sentinel, round > 0 ? our : warmUp, ours);
         Time(sentinel, round > 0 ? their : warmUp, bare);

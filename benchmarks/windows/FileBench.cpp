@@ -9,6 +9,9 @@
 #include "itemdlg/TextFile.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::benchmarks;
+using namespace tavrin::itemdlg;
+
 namespace {
 
 // Each row has a label of its own, as in an item.

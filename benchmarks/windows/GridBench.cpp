@@ -10,16 +10,18 @@
 #include "benchmarks/windows/Turns.h"
 #include "propgrid/PropertyGrid.h"
 
+using namespace tavrin::benchmarks;
+
 namespace {
 
 using tavrin::propgrid::CPropertyGrid;
 
-constexpr int width = 400;  // pixels
-constexpr int height = 500;
-constexpr int scrollBarId = 1000;
-constexpr std::size_t blockOverhead = 16;  // what a heap adds to a block on 64-bit Windows
-constexpr const char* area = "grid";
-constexpr const char* listView = "list view";
+constexpr int kWidth = 400;  // pixels
+constexpr int kHeight = 500;
+constexpr int kScrollBarId = 1000;
+constexpr std::size_t kBlockOverhead = 16;  // what a heap adds to a block on 64-bit Windows
+constexpr const char* kArea = "grid";
+constexpr const char* kListView = "list view";
 
 std::wstring NameOf(std::size_t row) {
     return L"Parameter " + std::to_wstring(row);
@@ -34,7 +36,7 @@ public:
     CFrame() {
         const LPCTSTR name =
             AfxRegisterWndClass(0, nullptr, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-        CreateEx(0, name, L"bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, 2 * width, height), nullptr, 0);
+        CreateEx(0, name, L"bench", WS_POPUP | WS_VISIBLE, CRect(0, 0, 2 * kWidth, kHeight), nullptr, 0);
     }
     ~CFrame() override { DestroyWindow(); }
 };
@@ -43,7 +45,7 @@ class CFilledGrid {
 public:
     explicit CFilledGrid(CWnd& frame) {
         const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
-        m_grid.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &frame, 1);
+        m_grid.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &frame, 1);
         m_grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
     }
 
@@ -62,22 +64,22 @@ public:
         m_grid.UpdateWindow();
     }
     void ScrollPage(bool down) {
-        const HWND bar = ::GetDlgItem(m_grid, scrollBarId);
+        const HWND bar = ::GetDlgItem(m_grid, kScrollBarId);
         m_grid.SendMessage(WM_VSCROLL, down ? SB_PAGEDOWN : SB_PAGEUP, reinterpret_cast<LPARAM>(bar));
         m_grid.UpdateWindow();
     }
 
     // To the end of the rows, where a search from the first row on takes longest.
     void ScrollToEnd() {
-        const HWND bar = ::GetDlgItem(m_grid, scrollBarId);
+        const HWND bar = ::GetDlgItem(m_grid, kScrollBarId);
         m_grid.SendMessage(WM_VSCROLL, SB_BOTTOM, reinterpret_cast<LPARAM>(bar));
     }
     void FocusRow(std::size_t row) { m_grid.SetFocusedItem(static_cast<UINT>(row)); }
     void PressDown() { m_grid.SendMessage(WM_KEYDOWN, VK_DOWN, 1); }
-    void Hover() { m_grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(width / 4, height / 2)); }
+    void Hover() { m_grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(kWidth / 4, kHeight / 2)); }
     void ClickName() {
-        m_grid.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(width / 4, height / 2));
-        m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(width / 4, height / 2));
+        m_grid.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(kWidth / 4, kHeight / 2));
+        m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(kWidth / 4, kHeight / 2));
     }
 
 private:
@@ -88,11 +90,11 @@ class CFilledList {
 public:
     explicit CFilledList(CWnd& frame)
         : m_list(::CreateWindowExW(0, WC_LISTVIEWW, L"",
-                                   WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER, width, 0, width,
-                                   height, frame, nullptr, nullptr, nullptr)) {
+                                   WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_NOCOLUMNHEADER, kWidth, 0, kWidth,
+                                   kHeight, frame, nullptr, nullptr, nullptr)) {
         LVCOLUMNW column = {};
         column.mask = LVCF_WIDTH | LVCF_FMT;
-        column.cx = width / 2 - ::GetSystemMetrics(SM_CXVSCROLL);
+        column.cx = kWidth / 2 - ::GetSystemMetrics(SM_CXVSCROLL);
         for (int index = 0; index < 2; ++index) {
             ::SendMessageW(m_list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(index),
                            reinterpret_cast<LPARAM>(&column));
@@ -140,7 +142,7 @@ void HandleMessages() {
 
 void Row(const char* what, const std::string& size, double ours, const char* unit, const char* peer,
          double theirs, double bar) {
-    PrintRow({area, what, size, ours, unit, peer, theirs, bar});
+    PrintRow({kArea, what, size, ours, unit, peer, theirs, bar});
 }
 
 // What the heap holds, with what each block costs the heap itself.
@@ -150,7 +152,7 @@ std::size_t HeapSize() {
     const auto count = [library](const char* name) {
         return reinterpret_cast<FCount>(reinterpret_cast<void*>(::GetProcAddress(library, name)))();
     };
-    return count("td_live_bytes") + blockOverhead * count("td_live_blocks");
+    return count("td_live_bytes") + kBlockOverhead * count("td_live_blocks");
 }
 
 void MeasureMemory(CFilledGrid& grid, std::size_t rows) {
@@ -212,7 +214,7 @@ void MeasureRows(CFilledGrid& grid, CFilledList& list) {
                                                         {[&] { list.Clear(); }, [&] { list.Fill(rows); }}},
                                                        rounds);
         Row("adding a row", size, perRow(adding[0]), "ns", "limit", 1000, 1);
-        Row("adding a row", size, perRow(adding[0]), "ns", listView, perRow(adding[1]), 0.2);
+        Row("adding a row", size, perRow(adding[0]), "ns", kListView, perRow(adding[1]), 0.2);
         if (rows == 1000) {
             addingFew = perRow(adding[0]);
         } else if (rows > 1000) {
@@ -223,7 +225,7 @@ void MeasureRows(CFilledGrid& grid, CFilledList& list) {
         list.Paint();
         const std::vector<double> painting = MedianTurns(
             {{HandleMessages, [&] { grid.Paint(); }}, {HandleMessages, [&] { list.Paint(); }}}, 31);
-        Row("full paint", size, painting[0], "ns", listView, painting[1], 0.5);
+        Row("full paint", size, painting[0], "ns", kListView, painting[1], 0.5);
         if (rows == 100) {
             paintingFew = painting[0];
         } else if (rows > 100) {
@@ -235,7 +237,7 @@ void MeasureRows(CFilledGrid& grid, CFilledList& list) {
                 MedianTurns({{[&] { PageUp(grid); }, [&] { grid.ScrollPage(true); }},
                              {[&] { PageUp(list); }, [&] { list.ScrollPage(true); }}},
                             31);
-            Row("scrolling by a page", size, scrolling[0], "ns", listView, scrolling[1], 0);
+            Row("scrolling by a page", size, scrolling[0], "ns", kListView, scrolling[1], 0);
         }
 
         grid.Sort(true);

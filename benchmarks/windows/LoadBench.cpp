@@ -6,6 +6,8 @@
 #include "benchmarks/BenchTable.h"
 #include "benchmarks/windows/Turns.h"
 
+using namespace tavrin::benchmarks;
+
 namespace {
 
 void LoadAndFree(const wchar_t* library) {

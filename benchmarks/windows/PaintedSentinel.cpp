@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace tavrin::benchmarks {
+
 CPaintedSentinel* CPaintedSentinel::s_active = nullptr;
 
 CPaintedSentinel::CPaintedSentinel() {
@@ -44,3 +46,5 @@ LRESULT CALLBACK CPaintedSentinel::Procedure(HWND window, UINT message, WPARAM w
     }
     return 0;
 }
+
+}  // namespace tavrin::benchmarks

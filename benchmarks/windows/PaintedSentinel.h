@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace tavrin::benchmarks {
+
 // One at a time.
 class CPaintedSentinel {
 public:
@@ -29,3 +31,5 @@ private:
     std::function<void()> m_painted;
     bool m_dialogShows = false;
 };
+
+}  // namespace tavrin::benchmarks

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tavrin::benchmarks {
+
 namespace {
 
 double Nanoseconds() {
@@ -19,7 +21,7 @@ double Nanoseconds() {
 
 }  // namespace
 
-std::vector<double> MedianTurns(const std::vector<STurn>& turns, std::size_t rounds) {
+std::vector<double> MedianTurns(const std::vector<Turn>& turns, std::size_t rounds) {
     std::vector<std::vector<double>> times(turns.size());
     for (std::size_t round = 0; round <= rounds; ++round) {
         for (std::size_t index = 0; index < turns.size(); ++index) {
@@ -41,3 +43,5 @@ std::vector<double> MedianTurns(const std::vector<STurn>& turns, std::size_t rou
     }
     return medians;
 }
+
+}  // namespace tavrin::benchmarks

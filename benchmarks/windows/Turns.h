@@ -5,11 +5,15 @@
 #include <functional>
 #include <vector>
 
-struct STurn {
+namespace tavrin::benchmarks {
+
+struct Turn {
     std::function<void()> prepare;
     std::function<void()> work;
 };
 
 // The median time of each piece of work, in nanoseconds. The pieces take turns, so that what else the machine
 // does meets all of them alike; a first round warms up and does not count.
-std::vector<double> MedianTurns(const std::vector<STurn>& turns, std::size_t rounds);
+std::vector<double> MedianTurns(const std::vector<Turn>& turns, std::size_t rounds);
+
+}  // namespace tavrin::benchmarks

@@ -14,8 +14,8 @@
 
 #include "devhost/drawing/Drawing.h"
 #include "devhost/drawing/ViewTransform.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/Scale.h"
+#include "handles/GdiScopes.h"
 
 namespace devhost {
 
@@ -76,7 +76,7 @@ private:
     HWND m_window = nullptr;
     CScale m_scale;
     CViewTransform m_view;
-    GdiObject m_scene;  // the painted drawing; empty when it must be repainted
+    tavrin::handles::GdiOwner m_scene;  // the painted drawing; empty when it must be repainted
 
     std::function<void(Point)> m_onMove;
     std::function<void(Point)> m_onPicked;  // empty: not picking

@@ -8,6 +8,8 @@
 
 namespace devhost {
 
+namespace handles = tavrin::handles;
+
 namespace {
 
 // Pixels.
@@ -38,7 +40,7 @@ void DrawCross(HDC dc, POINT middle, int arm) {
 }  // namespace
 
 void CDrawingView::Paint() {
-    const CBufferedPaint paint(m_window);
+    const handles::CBufferedPaint paint(m_window);
     PaintScene(paint.Dc(), paint.Client());
     PaintRubberLine(paint.Dc(), paint.Client());
     PaintCrosshair(paint.Dc());
@@ -51,7 +53,7 @@ void CDrawingView::PaintScene(HDC dc, const RECT& client) {
     if (isNew) {
         m_scene.reset(CreateCompatibleBitmap(dc, client.right, client.bottom));
     }
-    const CBitmapDc scene(dc, m_scene.get());
+    const handles::CBitmapDc scene(dc, m_scene.get());
     if (isNew) {
         devhost::PaintScene(scene.Get(), client, m_drawing, m_view);
     }
@@ -67,8 +69,8 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
     if (!line) {
         return;
     }
-    const GdiObject pen(CreatePen(PS_DOT, 1, kRubberLine));
-    const CSelection selection(dc, pen);
+    const handles::GdiOwner pen(CreatePen(PS_DOT, 1, kRubberLine));
+    const handles::CSelectedObject selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
     DrawLine(dc, Rounded(line->from), Rounded(line->to));
 }
@@ -77,8 +79,8 @@ void CDrawingView::PaintCrosshair(HDC dc) const {
     if (!m_isMouseInside || m_isPanning) {
         return;
     }
-    const GdiObject pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
-    const CSelection selection(dc, pen);
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), m_onPicked ? kCrosshair : kIdleCrosshair));
+    const handles::CSelectedObject selection(dc, pen);
     DrawCross(dc, m_mouse, m_scale(kCrosshairArm));
 }
 
@@ -86,17 +88,17 @@ void CDrawingView::PaintSnapMark(HDC dc) const {
     if (!m_snapped) {
         return;
     }
-    const GdiObject pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
-    const CSelection penSelection(dc, pen);
-    const CSelection brushSelection(dc, GetStockObject(NULL_BRUSH));
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2), kSnapMark));
+    const handles::CSelectedObject penSelection(dc, pen);
+    const handles::CSelectedObject brushSelection(dc, GetStockObject(NULL_BRUSH));
     const POINT middle = ToPixel(*m_snapped);
     const int arm = m_scale(kSnapArm);
     Rectangle(dc, middle.x - arm, middle.y - arm, middle.x + arm + 1, middle.y + arm + 1);
 }
 
 void CDrawingView::PaintCrosses(HDC dc) const {
-    const GdiObject pen(CreatePen(PS_SOLID, m_scale(1), kCross));
-    const CSelection selection(dc, pen);
+    const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), kCross));
+    const handles::CSelectedObject selection(dc, pen);
     for (const Point& cross : m_crosses) {
         DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
     }

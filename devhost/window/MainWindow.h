@@ -17,13 +17,13 @@
 #include <vector>
 
 #include "devhost/window/DrawingView.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/MainMenu.h"
 #include "devhost/window/OutputList.h"
 #include "devhost/window/PromptHistory.h"
 #include "devhost/window/PromptPaste.h"
 #include "devhost/window/Scale.h"
 #include "devhost/window/StatusLine.h"
+#include "handles/GdiScopes.h"
 
 namespace devhost {
 
@@ -133,8 +133,8 @@ private:
     HWND m_label = nullptr;
     HWND m_prompt = nullptr;
     CScale m_scale;
-    GdiObject m_textFont;
-    GdiObject m_codeFont;
+    tavrin::handles::GdiOwner m_textFont;
+    tavrin::handles::GdiOwner m_codeFont;
     CDrawing& m_shown;
     std::unique_ptr<CMainMenu> m_menu;
     std::unique_ptr<CDrawingView> m_drawing;

@@ -12,6 +12,8 @@
 
 namespace devhost {
 
+namespace handles = tavrin::handles;
+
 namespace {
 
 // Pixels.
@@ -42,24 +44,24 @@ HGDIOBJ CreateTextFont() {
     return CreateFontIndirectW(&metrics.lfStatusFont);
 }
 
-void SetFont(HWND control, const GdiObject& font) {
+void SetFont(HWND control, const handles::GdiOwner& font) {
     SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
 }
 
-SIZE TextSize(HWND control, const GdiObject& font) {
+SIZE TextSize(HWND control, const handles::GdiOwner& font) {
     wchar_t text[256];
     const int length = GetWindowTextW(control, text, 256);
-    const CWindowDc dc(control);
-    const CSelection selection(dc.Get(), font);
+    const handles::CClientDc dc(control);
+    const handles::CSelectedObject selection(dc.Get(), font);
     SIZE size = {};
     GetTextExtentPoint32W(dc.Get(), text, length, &size);
     return size;
 }
 
 // The height of a line in the font.
-int LineHeight(HWND control, const GdiObject& font) {
-    const CWindowDc dc(control);
-    const CSelection selection(dc.Get(), font);
+int LineHeight(HWND control, const handles::GdiOwner& font) {
+    const handles::CClientDc dc(control);
+    const handles::CSelectedObject selection(dc.Get(), font);
     TEXTMETRICW metrics = {};
     GetTextMetricsW(dc.Get(), &metrics);
     return metrics.tmHeight;

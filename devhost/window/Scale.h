@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "devhost/window/GdiScope.h"
+#include "handles/GdiScopes.h"
 
 namespace devhost {
 
@@ -11,7 +11,7 @@ namespace devhost {
 class CScale {
 public:
     CScale() {
-        const CWindowDc screen(nullptr);
+        const tavrin::handles::CClientDc screen(nullptr);
         m_dots = GetDeviceCaps(screen.Get(), LOGPIXELSY);
     }
 

@@ -6,10 +6,12 @@
 
 #include "devhost/drawing/Grid.h"
 #include "devhost/drawing/Outline.h"
-#include "devhost/window/GdiScope.h"
 #include "devhost/window/Scale.h"
+#include "handles/GdiScopes.h"
 
 namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
@@ -45,7 +47,7 @@ public:
           m_limits({{-20.0, -20.0}, {client.right + 20.0, client.bottom + 20.0}}) {}
 
     void Sheet() {
-        const GdiObject brush(CreateSolidBrush(kSheet));
+        const handles::GdiOwner brush(CreateSolidBrush(kSheet));
         FillRect(m_dc, &m_client, static_cast<HBRUSH>(brush.get()));
     }
 
@@ -73,8 +75,8 @@ public:
 
     void Entities(const CDrawing& drawing) {
         // Rounded down, so that details stay apart.
-        const GdiObject pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
-        const CSelection selection(m_dc, pen);
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
+        const handles::CSelectedObject selection(m_dc, pen);
         for (const Entity& entity : drawing.Entities()) {
             if (const auto* text = std::get_if<TextEntity>(&entity)) {
                 Text(*text);
@@ -92,8 +94,8 @@ private:
     }
 
     void Stroke(COLORREF colour, POINT from, POINT to) {
-        const GdiObject pen(CreatePen(PS_SOLID, m_scale(1), colour));
-        const CSelection selection(m_dc, pen);
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), colour));
+        const handles::CSelectedObject selection(m_dc, pen);
         MoveToEx(m_dc, from.x, from.y, nullptr);
         LineTo(m_dc, to.x, to.y);
     }
@@ -140,10 +142,10 @@ private:
         }
         const int tenths =
             int(std::lround(std::fmod(text.angle, 2 * std::numbers::pi) * 1800 / std::numbers::pi));
-        const GdiObject font(CreateFontW(-int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE,
-                                         FALSE, DEFAULT_CHARSET, OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS,
-                                         ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
-        const CSelection selection(m_dc, font);
+        const handles::GdiOwner font(CreateFontW(
+            -int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+            OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
+        const handles::CSelectedObject selection(m_dc, font);
         SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
         SetBkMode(m_dc, TRANSPARENT);
         SetTextColor(m_dc, kInk);

@@ -8,10 +8,12 @@
 #include "devhost/Libraries.h"
 #include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
-#include "devhost/window/GdiScope.h"
+#include "handles/GdiScopes.h"
 #include "units/LinearUnits.h"
 
 namespace devhost {
+
+namespace handles = tavrin::handles;
 
 namespace {
 
@@ -125,8 +127,8 @@ void CStatusLine::DrawPart(const DRAWITEMSTRUCT& item) const {
     SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
     DrawTextW(item.hDC, text.c_str(), int(text.size()), &rectangle,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-    const CSelection brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
-    const CSelection pen(item.hDC, GetStockObject(NULL_PEN));
+    const handles::CSelectedObject brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
+    const handles::CSelectedObject pen(item.hDC, GetStockObject(NULL_PEN));
     const POINT corners[] = {
         {right - arrow, middle}, {right, middle}, {right - arrow / 2, middle + arrow / 2}};
     Polygon(item.hDC, corners, int(std::size(corners)));

@@ -14,35 +14,35 @@ Actions ReportChange(Id item) {
 
 }  // namespace
 
-Actions TakeEditText(CGridModel& model, Id id, const std::wstring& text, bool typed) {
-    GridItem* const item = model.FindItem(id);
-    if (item == nullptr || !IsEditedAsText(*item)) {
+Actions TakeEditText(CGridModel& model, Id item, const std::wstring& text, bool typed) {
+    GridItem* const record = model.FindItem(item);
+    if (record == nullptr || !IsEditedAsText(*record)) {
         return {};
     }
-    if (item->kind == IT_CUSTOM) {
-        return {action::GiveText{id, text, typed}, action::Repaint{}};
+    if (record->kind == IT_CUSTOM) {
+        return {action::GiveText{item, text, typed}, action::Repaint{}};
     }
-    return TakeText(*item, text, typed) ? ReportChange(id) : Actions{action::Repaint{}};
+    return TakeText(*record, text, typed) ? ReportChange(item) : Actions{action::Repaint{}};
 }
 
-Actions TakeListChoice(CGridModel& model, Id id, int index) {
-    GridItem* const item = model.FindItem(id);
-    return item != nullptr && TakeChoice(*item, index) ? ReportChange(id) : Actions();
+Actions TakeListChoice(CGridModel& model, Id item, int index) {
+    GridItem* const record = model.FindItem(item);
+    return record != nullptr && TakeChoice(*record, index) ? ReportChange(item) : Actions();
 }
 
-Actions TakeCalendarDate(CGridModel& model, Id id, const DateValue& date) {
-    GridItem* const item = model.FindItem(id);
-    return item != nullptr && TakeDate(*item, date) ? ReportChange(id) : Actions();
+Actions TakeCalendarDate(CGridModel& model, Id item, const DateValue& date) {
+    GridItem* const record = model.FindItem(item);
+    return record != nullptr && TakeDate(*record, date) ? ReportChange(item) : Actions();
 }
 
-Actions TakeDialogValue(CGridModel& model, Id id, EItemType kind, Value value) {
-    GridItem* const item = model.FindItem(id);
-    if (item == nullptr || item->kind != kind) {
+Actions TakeDialogValue(CGridModel& model, Id item, EItemType kind, Value value) {
+    GridItem* const record = model.FindItem(item);
+    if (record == nullptr || record->kind != kind) {
         return {};
     }
-    item->value = std::move(value);
-    item->undefined = false;
-    return ReportChange(id);
+    record->value = std::move(value);
+    record->undefined = false;
+    return ReportChange(item);
 }
 
 }  // namespace tavrin::propgrid

@@ -1,8 +1,8 @@
 // What the mouse means to the grid: focusing rows, the edit button, the divider, custom items, double clicks.
 //
 // Hit tests go by the rectangles that the last paint recorded, so the window paints what is still to be
-// painted before it hands on a press or an awaited release: two messages of the mouse may come without a paint
-// between them.
+// painted before it hands on a press or an awaited release: two messages of the mouse may come without a
+// paint between them.
 #pragma once
 
 #include "propgrid/controller/Action.h"

@@ -19,13 +19,13 @@ constexpr DWORD kDateStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | DTS_RIGHTALIGN
 constexpr DWORD kTimeStyle = kDateStyle | DTS_TIMEFORMAT;
 static_assert(kTextStyle == 0x503110C4 && kDateStyle == 0x50010020 && kTimeStyle == 0x50010029);
 
-void SetLook(CDynDialogEx& dialog, const GridDialogLook& look, const std::wstring& title) {
+void SetLook(dyndlg::CDynDialogEx& dialog, const GridDialogLook& look, const std::wstring& title) {
     dialog.SetUseSystemButtons(false);
     dialog.SetWindowTitle(title.c_str());
     dialog.SetFont(look.font);
 }
 
-void AddControl(CDynDialogEx& dialog, LPCTSTR className, const std::wstring& caption, DWORD style,
+void AddControl(dyndlg::CDynDialogEx& dialog, LPCTSTR className, const std::wstring& caption, DWORD style,
                 const CRect& units, void* data = nullptr, UINT id = 0, DWORD exStyle = 0) {
     dialog.AddDlgControl(className, caption.c_str(), style, exStyle, &units, data, id);
 }
@@ -44,7 +44,7 @@ CTime TimeOfDay(const COleDateTime& date) {
 
 // A text of several lines, ended by CR LF each.
 bool AskForText(const GridDialogLook& look, const std::wstring& title, std::wstring& text) {
-    CDynDialogEx dialog(look.parent);
+    dyndlg::CDynDialogEx dialog(look.parent);
     SetLook(dialog, look, title);
     CString edited = text.c_str();
     AddControl(dialog, L"EDIT", L"", kTextStyle, CRect(7, 7, 200, 100), &edited, 0, WS_EX_CLIENTEDGE);
@@ -60,7 +60,7 @@ bool AskForText(const GridDialogLook& look, const std::wstring& title, std::wstr
 
 // A choice that does not make a date and a time leaves the old date with the status invalid.
 bool AskForDateTime(const GridDialogLook& look, const std::wstring& title, COleDateTime& date) {
-    CDynDialogEx dialog(look.parent);
+    dyndlg::CDynDialogEx dialog(look.parent);
     SetLook(dialog, look, title);
     COleDateTime day = date;
     CTime time = TimeOfDay(date);

@@ -57,7 +57,7 @@ void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text) {
     edit->SetColors(colors.back, colors.text);
     edit->SetFont(&m_fonts.normal);
     edit->ShowWindow(SW_SHOW);
-    m_editor.reset(edit.release());
+    Own(edit.release());
 }
 
 void CGridEditors::OpenList(const GridItem& item, const Rect& cell) {
@@ -70,7 +70,7 @@ void CGridEditors::OpenList(const GridItem& item, const Rect& cell) {
     list->SetColors(colors.back, colors.text, colors.focus, colors.focusText);
     list->SetFont(&m_fonts.normal);
     AddChoices(*list, item, m_model.settings.texts);
-    m_editor.reset(list.release());
+    Own(list.release());
     m_editor->ShowWindow(SW_SHOW);
 }
 
@@ -89,9 +89,14 @@ void CGridEditors::OpenCalendar(const DateValue& date, const Rect& cell) {
     calendar->SizeMinReq(TRUE);
     CRect window;
     calendar->GetWindowRect(&window);
-    m_editor.reset(calendar.release());
+    Own(calendar.release());
     m_editor->SetWindowPos(nullptr, area.right - window.Width(), area.top, 0, 0,
                            SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
+}
+
+void CGridEditors::Own(CWnd* editor) {
+    m_editor.reset(editor);
+    m_generation = m_model.GetGeneration();
 }
 
 bool CGridEditors::IsTextUntouched() const {

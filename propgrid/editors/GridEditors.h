@@ -43,16 +43,23 @@ public:
     void Close() { Take(); }
     EditorPointer Take() { return std::move(m_editor); }
 
+    // Whether the rows were removed since the editor was opened: its item is gone, even when a new one has
+    // the id.
+    bool HasLostItsItem() const { return m_editor != nullptr && m_generation != m_model.GetGeneration(); }
+
     // Whether the open text edit still has the text that it was opened with and the user never touched it.
     bool IsTextUntouched() const;
     // What is selected in the open calendar; nothing when no calendar is open.
     std::optional<DateValue> GetCalendarDate() const;
 
 private:
+    void Own(CWnd* editor);
+
     CWnd& m_grid;
     const CGridModel& m_model;
     GridFonts& m_fonts;
     EditorPointer m_editor;
+    unsigned m_generation = 0;  // of the model, when the editor was opened
 };
 
 }  // namespace tavrin::propgrid

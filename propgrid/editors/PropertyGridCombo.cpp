@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
+#include "handles/GdiScopes.h"
 #include "propgrid/editors/GridMessages.h"
-#include "propgrid/painter/GdiScope.h"
 
 namespace tavrin::propgrid {
 
@@ -78,7 +78,7 @@ void CPropertyGridCombo::FitHeight() {
     {
         CClientDC dc(this);
         const CFont none;
-        const CSelectedObject font(dc, FindFont(none));
+        const handles::CSelectedObject font(dc, FindFont(none));
         m_rowHeight = dc.GetTextExtent(L"Gg", 2).cy + 4;
     }
     CRect window;
@@ -100,9 +100,9 @@ void CPropertyGridCombo::OnPaint() {
     CBrush brush;
     brush.CreateSolidBrush(m_background);
     const CFont none;
-    const CSelectedObject selectedPen(dc, pen);
-    const CSelectedObject selectedBrush(dc, brush);
-    const CSelectedObject selectedFont(dc, FindFont(none));
+    const handles::CSelectedObject selectedPen(dc, pen);
+    const handles::CSelectedObject selectedBrush(dc, brush);
+    const handles::CSelectedObject selectedFont(dc, FindFont(none));
     dc.Rectangle(&client);
     dc.SetBkMode(TRANSPARENT);
 

@@ -79,23 +79,27 @@ Rect CGridLayout::FindPaintedRow(const GridItem& item) const {
     return row < list.rows ? list.GetRow(row) : Rect();
 }
 
+bool CGridLayout::IsInSight(const GridItem& item) const {
+    const SectionRecord* const record = FindRecord(*item.section);
+    return record != nullptr && record->items.IsVisible(FindPaintedRow(item));
+}
+
 Rect CGridLayout::GetNameRect(const GridItem& item) const {
     Rect rect = FindPaintedRow(item);
-    const SectionRecord* const record = FindRecord(*item.section);
-    if (record != nullptr && record->items.IsVisible(rect)) {
-        rect.right = record->items.gutter;
+    if (IsInSight(item)) {
+        rect.right = FindRecord(*item.section)->items.gutter;
     }
     return rect;
 }
 
 Rect CGridLayout::GetValueRect(const GridItem& item) const {
-    Rect rect = FindPaintedRow(item);
-    const SectionRecord* const record = FindRecord(*item.section);
-    if (record == nullptr || !record->items.IsVisible(rect)) {
+    if (!IsInSight(item)) {
         return {};
     }
-    rect.left = record->items.gutter;
-    rect.right -= record->items.buttonItem == item.id ? record->items.rowHeight : 0;
+    Rect rect = FindPaintedRow(item);
+    const RowList& list = FindRecord(*item.section)->items;
+    rect.left = list.gutter;
+    rect.right -= list.buttonItem == item.id ? list.rowHeight : 0;
     return rect;
 }
 
@@ -132,8 +136,8 @@ bool CGridLayout::IsOnDivider(Point point) const {
 // button.
 bool CGridLayout::IsOnEditButton(Point point) const {
     const GridItem* const item = m_model.FindItem(m_model.GetFocus().item);
-    return item != nullptr && item->editable && m_model.ShowsItemsOf(*item->section) &&
-           !GetValueRect(*item).IsEmpty() && m_editButton.Contains(point);
+    return item != nullptr && item->editable && m_model.ShowsItemsOf(*item->section) && IsInSight(*item) &&
+           m_editButton.Contains(point);
 }
 
 bool CGridLayout::HitSection(Point point, Hit& hit) const {

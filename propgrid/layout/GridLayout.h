@@ -102,6 +102,7 @@ private:
     SectionRecord& MakeRecord(const GridSection& section);
     void ForgetRows();
     Rect FindPaintedRow(const GridItem& item) const;
+    bool IsInSight(const GridItem& item) const;
     bool IsOnEditButton(Point point) const;
     bool HitSection(Point point, Hit& hit) const;
     bool HitItem(const GridSection& section, Point point, Hit& hit) const;

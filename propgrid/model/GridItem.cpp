@@ -1,8 +1,24 @@
 #include "propgrid/model/GridItem.h"
 
+#include <algorithm>
+
 #include "propgrid/model/ICustomItem.h"
 
 namespace tavrin::propgrid {
+
+void GridItem::SetEditable(bool newEditable) {
+    if (editable == newEditable) {
+        return;
+    }
+    editable = newEditable;
+    std::vector<std::uint32_t>& rows = section->editableRows;
+    const auto position = std::lower_bound(rows.begin(), rows.end(), row);
+    if (editable) {
+        rows.insert(position, row);
+    } else {
+        rows.erase(position);
+    }
+}
 
 void GridItem::TakeSavedCopy() {
     savedUndefined = undefined;

@@ -27,6 +27,9 @@ struct GridItem {
     Value value;
     Value saved;  // what `value` is compared with to mark it as modified
 
+    // The section's list of editable rows follows.
+    void SetEditable(bool newEditable);
+
     // Takes the saved copy of the value and of the undefined flag; a custom item is told to accept its value,
     // which is its own to compare.
     void TakeSavedCopy();

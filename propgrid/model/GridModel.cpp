@@ -1,6 +1,5 @@
 #include "propgrid/model/GridModel.h"
 
-#include <algorithm>
 #include <functional>
 #include <string_view>
 #include <utility>
@@ -100,20 +99,6 @@ void CGridModel::SetCollapsed(GridSection& section, bool collapsed) {
         m_expandedItems -= section.items.size();
     } else {
         m_expandedItems += section.items.size();
-    }
-}
-
-void CGridModel::SetEditable(GridItem& item, bool editable) {
-    if (item.editable == editable) {
-        return;
-    }
-    item.editable = editable;
-    std::vector<std::uint32_t>& rows = item.section->editableRows;
-    const auto position = std::lower_bound(rows.begin(), rows.end(), item.row);
-    if (editable) {
-        rows.insert(position, item.row);
-    } else {
-        rows.erase(position);
     }
 }
 

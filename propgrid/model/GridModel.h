@@ -54,7 +54,6 @@ public:
     std::size_t GetItemCount() const { return m_items.size(); }
 
     void SetCollapsed(GridSection& section, bool collapsed);
-    void SetEditable(GridItem& item, bool editable);
 
     // Whether the item may have the focus, and whether the display shows the items of a section.
     bool CanFocus(const GridItem& item) const { return item.editable || settings.focusNonEditable; }

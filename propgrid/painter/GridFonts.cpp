@@ -1,6 +1,6 @@
 #include "propgrid/painter/GridFonts.h"
 
-#include "propgrid/painter/GdiScope.h"
+#include "handles/GdiScopes.h"
 
 namespace tavrin::propgrid {
 
@@ -26,7 +26,7 @@ void GridFonts::Create(const CWnd* parent) {
 int GridFonts::MeasureRowHeight(CWnd& window) const {
     constexpr int kRowMargin = 4;
     CClientDC dc(&window);
-    const CSelectedObject font(dc, normal);
+    const handles::CSelectedObject font(dc, normal);
     return dc.GetTextExtent(L"Gg", 2).cy + kRowMargin;
 }
 

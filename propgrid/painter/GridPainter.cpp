@@ -8,6 +8,7 @@
 #include <string_view>
 #include <utility>
 
+#include "handles/GdiScopes.h"
 #include "propgrid/model/ICustomItem.h"
 #include "propgrid/painter/FrameworkTypes.h"
 #include "propgrid/painter/SystemText.h"
@@ -101,9 +102,9 @@ void CGridPainter::Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools) 
         shadePen.CreatePen(PS_SOLID, 1, colors.shade);
         CBrush textBrush;
         textBrush.CreateSolidBrush(colors.text);
-        const CSelectedObject pen(tools.dc, shadePen);
-        const CSelectedObject brush(tools.dc, textBrush);
-        const CSelectedObject font(tools.dc, m_fonts.normal);
+        const handles::CSelectedObject pen(tools.dc, shadePen);
+        const handles::CSelectedObject brush(tools.dc, textBrush);
+        const handles::CSelectedObject font(tools.dc, m_fonts.normal);
         const bool isEmpty = m_model.GetSections().empty();
         if (!isEmpty) {
             const int rowsBottom = m_layout.GetTotalHeight() - view.scrollPosition + kOverhang;
@@ -118,7 +119,7 @@ void CGridPainter::Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools) 
     }
     canvas.CopyTo(target, tools.picture.bottom);
     if (tools.picture.bottom < view.client.height) {
-        const CSavedDcState state(target);
+        const handles::CSavedDcState state(target);
         target.FillSolidRect(0, tools.picture.bottom, view.client.width,
                              view.client.height - tools.picture.bottom, colors.back);
     }
@@ -160,7 +161,7 @@ void CGridPainter::PaintHeader(PaintTools& tools, const Rect& row, const GridSec
         DrawLine(dc, 0, row.top, row.right + 1, row.top);
     }
     PaintGlyph(tools, row.top, section.collapsed);
-    const CSelectedObject font(dc, m_fonts.bold);
+    const handles::CSelectedObject font(dc, m_fonts.bold);
     dc.SetTextColor(m_model.settings.colors.title);
     if (section.id == m_model.GetFocus().section) {
         const std::size_t length = std::min(section.name.size(), kLongestDrawnText);
@@ -181,7 +182,7 @@ void CGridPainter::PaintGlyph(PaintTools& tools, int top, bool collapsed) {
     tools.dc.FrameRect(&frame, &brush);
     CPen titlePen;
     titlePen.CreatePen(PS_SOLID, 1, color);
-    const CSelectedObject pen(tools.dc, titlePen);
+    const handles::CSelectedObject pen(tools.dc, titlePen);
     DrawLine(tools.dc, 4, top + 8, 9, top + 8);
     if (collapsed) {
         DrawLine(tools.dc, 6, top + 6, 6, top + 11);
@@ -218,7 +219,7 @@ void CGridPainter::PaintEditButton(PaintTools& tools, const ItemParts& parts) {
     } else if (parts.editMode == EM_MODAL || parts.editMode == EM_INPLACE_BUTTON) {
         const UINT flat = parts.editMode == EM_INPLACE_BUTTON ? DFCS_FLAT : 0;
         dc.DrawFrameControl(&button, DFC_BUTTON, DFCS_BUTTONPUSH | flat | pushed);
-        const CSelectedObject font(dc, m_fonts.bold);
+        const handles::CSelectedObject font(dc, m_fonts.bold);
         dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
         DrawTextIn(dc, L"...", button, kOneLine | DT_CENTER);
     }
@@ -255,7 +256,7 @@ void CGridPainter::PaintValue(PaintTools& tools, const Rect& value, const GridIt
 void CGridPainter::PaintCustomValue(PaintTools& tools, const Rect& value, const GridItem& item) {
     PaintBelowRows(tools);
     tools.customItemDrew = true;
-    const CSavedDcState state(tools.dc);
+    const handles::CSavedDcState state(tools.dc);
     item.GetCustomItem()->DrawItem(tools.dc, ToCRect(value), item.id == m_model.GetFocus().item);
 }
 
@@ -265,7 +266,7 @@ void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const CRec
     const bool modified = item.IsModified();
     const bool changed = modified || item.undefined != item.savedUndefined;
     const bool bold = (settings.boldEditable && item.editable) || (settings.boldModified && changed);
-    std::optional<CSelectedObject> font;
+    std::optional<handles::CSelectedObject> font;
     if (bold) {
         font.emplace(dc, m_fonts.bold);
     }

@@ -10,8 +10,8 @@
 #include <string>
 
 #include "propgrid/layout/PaintPass.h"
-#include "propgrid/painter/GdiScope.h"
 #include "propgrid/painter/GridFonts.h"
+#include "propgrid/painter/MemoryCanvas.h"
 
 namespace tavrin::propgrid {
 

@@ -10,6 +10,8 @@
 #include "dyndlg/DialogTemplate.h"
 #include "tests/fuzz/Fuzz.h"
 
+using namespace tavrin::dyndlg;
+
 namespace {
 
 // Reads what a template holds, low byte first.

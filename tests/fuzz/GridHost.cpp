@@ -64,7 +64,7 @@ void CGridHost::SetCollapsed(Id id, bool collapsed) {
 
 void CGridHost::SetEditable(Id id, bool editable) {
     if (GridItem* const item = m_model.FindItem(id)) {
-        m_model.SetEditable(*item, editable);
+        item->SetEditable(editable);
         Repaint();
     }
 }

@@ -10,6 +10,8 @@
 
 using namespace tavrin::tools;
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 CItemPreview PreviewOf(const std::vector<FileLine>& lines, const CTextTable& texts, int mode) {

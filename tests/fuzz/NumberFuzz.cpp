@@ -6,6 +6,8 @@
 #include "itemdlg/NumberText.h"
 #include "tests/fuzz/Fuzz.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 bool Same(double one, double other) {

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <map>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -52,7 +51,7 @@ public:
         } catch (const STranslationError& failure) {
             result.error = failure.error;
         }
-        result.groupCount = static_cast<unsigned>(m_groupOpen.size());
+        result.groupCount = static_cast<unsigned>(m_groupCount);
         return result;
     }
 
@@ -148,13 +147,11 @@ private:
     }
 
     Part CapturingGroup() {
-        const std::size_t group = m_groupOpen.size();
-        m_groupOpen.push_back(true);
+        ++m_groupCount;
         const Part inside = Sequence();
         if (!TakeIf(L'}')) {
             throw STranslationError{BraceExpected};
         }
-        m_groupOpen[group] = false;
         return {"(" + inside.text + ")", inside.canBeEmpty};
     }
 
@@ -176,12 +173,10 @@ private:
         for (; Peek() >= L'0' && Peek() <= L'9'; Take()) {
             number = number > 1000 ? number : number * 10 + static_cast<std::uint64_t>(Peek() - L'0');
         }
-        if (number >= m_groupOpen.size()) {
+        if (number >= m_groupCount) {
             throw STranslationError{BadReference};
         }
-        // Inside its own group it is the empty text; PCRE2 would take what the group captured the time
-        // before.
-        return {m_groupOpen[number] ? "" : "\\g{" + std::to_string(number + 1) + "}", true};
+        return {"\\g{" + std::to_string(number + 1) + "}", true};
     }
 
     std::string Set() {
@@ -215,7 +210,7 @@ private:
 
     const std::wstring& m_pattern;
     std::size_t m_next = 0;
-    std::vector<bool> m_groupOpen;
+    std::size_t m_groupCount = 0;
 };
 
 }  // namespace

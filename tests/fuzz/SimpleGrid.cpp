@@ -337,7 +337,8 @@ void CSimpleGrid::PaintItem(SimpleItem& item, int y, int width) {
     const Rect row = {0, y, width, y + m_rowHeight};
     item.nameRect = row;
     item.valueRect = {};
-    if (!IsInSight(row)) {
+    item.drawn = IsInSight(row);
+    if (!item.drawn) {
         return;
     }
     DrawnRow drawn = {.item = item.id, .row = row};
@@ -363,7 +364,7 @@ void CSimpleGrid::PaintItem(SimpleItem& item, int y, int width) {
 // The focused item's, as long as its value is to be seen and may be edited.
 bool CSimpleGrid::IsOnButton(Point point) const {
     const SimpleItem* const item = FindFocusedItem();
-    if (item == nullptr || !item->editable || item->valueRect.left >= item->valueRect.right) {
+    if (item == nullptr || !item->editable || !item->drawn) {
         return false;
     }
     const bool hidden = IsCategorized() && FindSectionOf(item->id)->collapsed;

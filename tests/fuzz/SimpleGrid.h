@@ -20,6 +20,7 @@ struct SimpleItem {
     SlotValue saved;
     bool savedUndefined = false;
     int choices = 0;
+    bool drawn = false;  // by the last paint that came by
     Rect nameRect;
     Rect valueRect;
 };

@@ -9,6 +9,8 @@
 #include "itemdlg/TemplateText.h"
 #include "tests/fuzz/Fuzz.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 TextLines Lines(std::string_view bytes) {

@@ -31,8 +31,8 @@ std::vector<FileLine> SplitLines(std::string_view bytes) {
     return lines;
 }
 
-TextLines TextsOf(const std::vector<FileLine>& lines) {
-    TextLines texts;
+itemdlg::TextLines TextsOf(const std::vector<FileLine>& lines) {
+    itemdlg::TextLines texts;
     texts.reserve(lines.size());
     for (const FileLine& line : lines) {
         texts.push_back(line.text);
@@ -49,7 +49,7 @@ std::string BytesOf(std::wstring_view text) {
     return bytes;
 }
 
-std::string WrittenFile(const TextLines& lines) {
+std::string WrittenFile(const itemdlg::TextLines& lines) {
     std::string bytes;
     for (const std::wstring& line : lines) {
         bytes += BytesOf(line) + "\r\n";

@@ -126,14 +126,14 @@ void CBlockRules::TakeOutside(const ItemLine& line) {
         m_hasBlock = true;
         m_openingWasMisspelt = ReportMisspelt(line, true);
     } else if (letters == L"ENDVAR") {
-        if (line.text != CBlockTracker::kClosingLine) {
+        if (line.text != itemdlg::CBlockTracker::kClosingLine) {
             ReportMisspelt(line, false);
         } else if (!m_openingWasMisspelt) {
             Findings().Add(kBlockCloseStray, line, 0, line.text.size(), "no block is open here");
         }
         m_openingWasMisspelt = false;
-    } else if (line.index != kTitleLine && !m_openingWasMisspelt && line.text.starts_with(L'$') &&
-               ParseParameterLine(line.text)) {
+    } else if (line.index != itemdlg::kTitleLine && !m_openingWasMisspelt && line.text.starts_with(L'$') &&
+               itemdlg::ParseParameterLine(line.text)) {
         Findings().Add(kParameterOutside, line, 0, line.text.size(),
                        "this parameter is outside of any block and is not read");
     }

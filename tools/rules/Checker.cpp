@@ -23,14 +23,14 @@ public:
     void TakeLine(const ItemLine& line) override {
         if (line.parameter != nullptr) {
             Add(line.parameter->placeholder);
-        } else if (line.index == kTitleLine) {
-            Add(PlaceholderNumber(line.text));
+        } else if (line.index == itemdlg::kTitleLine) {
+            Add(itemdlg::PlaceholderNumber(line.text));
         }
     }
 
 private:
     void Add(int number) {
-        if (number <= kHighestTextNumber) {
+        if (number <= itemdlg::kHighestTextNumber) {
             m_numbers.set(static_cast<std::size_t>(number));
         }
     }

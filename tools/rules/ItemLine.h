@@ -12,9 +12,9 @@ namespace tavrin::tools {
 
 // A line that the reader accepts as a parameter.
 struct Parameter {
-    ParameterLine parts;
-    ParamRecord record;   // at scale 1, with "<<N>>" as the text of placeholder N
-    int placeholder = 0;  // the number of the label's placeholder; 0 when it has none
+    itemdlg::ParameterLine parts;
+    itemdlg::ParamRecord record;  // at scale 1, with "<<N>>" as the text of placeholder N
+    int placeholder = 0;          // the number of the label's placeholder; 0 when it has none
     std::size_t labelStart = 0;
     std::size_t letterStart = 0;
     std::size_t valueStart = 0;

@@ -78,14 +78,14 @@ const std::wstring& LabelOf(const ItemLine& line) {
 }
 
 // The label that OK writes.
-std::wstring RewrittenLabel(const ParamRecord& record) {
+std::wstring RewrittenLabel(const itemdlg::ParamRecord& record) {
     return record.labelPrefix + L"<<" + WideNumber(record.resourceId) + L">>" + record.labelSuffix;
 }
 
 // The line that OK writes into the template when the value stays as it is.
 std::wstring RewrittenLine(const ItemLine& line) {
-    const ParamRecord& record = line.parameter->record;
-    return TemplateFileLine(record, ValueText(record, 1.0));
+    const itemdlg::ParamRecord& record = line.parameter->record;
+    return itemdlg::TemplateFileLine(record, itemdlg::ValueText(record, 1.0));
 }
 
 }  // namespace
@@ -133,7 +133,7 @@ void CLabelRules::CheckForm(const ItemLine& line) {
 }
 
 void CLabelRules::CheckPlaceholder(const ItemLine& line, int number) {
-    const ParamRecord& record = line.parameter->record;
+    const itemdlg::ParamRecord& record = line.parameter->record;
     CheckPlaceholderNumber(Findings(), line, line.parameter->labelStart + record.labelPrefix.size(), number);
     if (record.labelSuffix.find(L"<<") != std::wstring::npos &&
         record.labelPrefix.find(L">>") == std::wstring::npos) {
@@ -152,14 +152,14 @@ void CLabelRules::CheckPlaceholder(const ItemLine& line, int number) {
     } else {
         CheckRewritten(line);
     }
-    if (m_texts != nullptr && number <= kHighestTextNumber &&
+    if (m_texts != nullptr && number <= itemdlg::kHighestTextNumber &&
         m_texts->Find(static_cast<unsigned>(number)) == nullptr) {
         ReportAtLabel(kTextUnknown, line, "there is no text " + std::to_string(number));
     }
 }
 
 void CLabelRules::CheckRewritten(const ItemLine& line) {
-    const ParamRecord& record = line.parameter->record;
+    const itemdlg::ParamRecord& record = line.parameter->record;
     const std::wstring label = RewrittenLabel(record);
     if (label != LabelOf(line)) {
         ReportAtLabel(kLabelRewritten, line, "after the first OK the label is " + Quoted(label));
@@ -189,13 +189,14 @@ void CLabelRules::CheckMark(const ItemLine& line) {
 
 // The row with the texts of a language, as mode 1 shows it. Missing texts, which are reported elsewhere, are
 // shown as their placeholders.
-ParameterRow CLabelRules::ShownRow(const ItemLine& line, std::size_t language) const {
+itemdlg::ParameterRow CLabelRules::ShownRow(const ItemLine& line, std::size_t language) const {
     const auto lookup = [&](unsigned number) {
         const TextEntry* const text = m_texts->Find(number, language);
         return text != nullptr ? text->text.substr(0, CTextTable::kLongestText)
                                : L"<<" + WideNumber(static_cast<int>(number)) + L">>";
     };
-    return *ReadParameter(line.text, line.parameter->record.lineIndex, 1.0, kReadOnlyMode, lookup);
+    return *itemdlg::ReadParameter(line.text, line.parameter->record.lineIndex, 1.0, itemdlg::kReadOnlyMode,
+                                   lookup);
 }
 
 void CLabelRules::CheckShown(const ItemLine& line) {
@@ -203,12 +204,12 @@ void CLabelRules::CheckShown(const ItemLine& line) {
     const bool hasPlaceholder = line.parameter->placeholder != 0;
     const bool hasTexts = m_texts != nullptr && hasPlaceholder;
     // Without the text: the length of the rest of the label.
-    const ParamRecord& record = line.parameter->record;
+    const itemdlg::ParamRecord& record = line.parameter->record;
     const std::size_t literal =
         record.labelPrefix.size() + record.labelSuffix.size() - (record.labelSuffix.ends_with(L'%') ? 1 : 0);
     ShownLabel shown;
     for (CTextIndex& labels : m_shown) {
-        ParameterRow row;
+        itemdlg::ParameterRow row;
         if (hasTexts) {
             row = ShownRow(line, static_cast<std::size_t>(&labels - m_shown.data()));
         }

@@ -33,7 +33,7 @@ private:
     void CheckRewritten(const ItemLine& line);
     void CheckShown(const ItemLine& line);
     void ReportShown(const ItemLine& line, const ShownLabel& shown);
-    ParameterRow ShownRow(const ItemLine& line, std::size_t language) const;
+    itemdlg::ParameterRow ShownRow(const ItemLine& line, std::size_t language) const;
     void ReportAtLabel(const Rule& rule, const ItemLine& line, std::string message);
 
     const CTextTable* m_texts;

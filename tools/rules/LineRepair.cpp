@@ -132,7 +132,9 @@ private:
         return Accepts(rest) || TakeForeignClosing(rest) || TakeLetter(rest) || TakeMissingClosing(rest);
     }
 
-    bool Accepts(const std::wstring& rest) const { return ParseParameterLine(m_repaired + rest).has_value(); }
+    bool Accepts(const std::wstring& rest) const {
+        return itemdlg::ParseParameterLine(m_repaired + rest).has_value();
+    }
 
     bool TakeForeignClosing(std::wstring rest) {
         for (std::size_t position = rest.size(); position-- > 0;) {

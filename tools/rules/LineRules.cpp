@@ -73,7 +73,7 @@ constexpr RepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNum
 // Whether the reader would accept the line with "$" instead of its first `signs` characters.
 bool LacksDollar(const std::wstring& line, std::size_t signs) {
     return line.size() > signs && IsDigit(line[signs]) &&
-           ParseParameterLine(L'$' + line.substr(signs)).has_value();
+           itemdlg::ParseParameterLine(L'$' + line.substr(signs)).has_value();
 }
 
 // Other lines are taken for remarks.
@@ -98,7 +98,7 @@ bool IsAssignment(const std::wstring& line) {
         return false;
     }
     const std::wstring_view value = std::wstring_view(line).substr(end + kSign.size());
-    return value.empty() || ReadLeadingNumber(value).end == value.size();
+    return value.empty() || itemdlg::ReadLeadingNumber(value).end == value.size();
 }
 
 void CLineRules::TakeLine(const ItemLine& line) {

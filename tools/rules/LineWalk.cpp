@@ -11,7 +11,7 @@ namespace tavrin::tools {
 
 namespace {
 
-ELineKind KindOf(const std::wstring& line, CBlockTracker& block) {
+ELineKind KindOf(const std::wstring& line, itemdlg::CBlockTracker& block) {
     const bool wasOpen = block.IsOpen();
     const bool mayBeParameter = block.TakeLine(line);
     if (wasOpen != block.IsOpen()) {
@@ -26,7 +26,7 @@ std::wstring PlaceholderAsText(unsigned number) {
 
 // False when the line is not a parameter.
 bool ReadAsParameter(const ItemLine& line, Parameter& parameter) {
-    const std::optional<ParameterParts> parts = SplitParameterLine(line.text);
+    const std::optional<itemdlg::ParameterParts> parts = itemdlg::SplitParameterLine(line.text);
     if (!parts) {
         return false;
     }
@@ -35,12 +35,14 @@ bool ReadAsParameter(const ItemLine& line, Parameter& parameter) {
     parameter.parts.label = parts->label;
     parameter.parts.typeLetter = parts->typeLetter;
     parameter.parts.value = parts->value;
-    ParameterRow row;
-    FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderAsText, row);
+    itemdlg::ParameterRow row;
+    itemdlg::FillRow(*parts, line.text, static_cast<std::int32_t>(line.index), 1.0, 0, PlaceholderAsText,
+                     row);
     parameter.record = std::move(row.record);
     // The record has the number of the line's last placeholder, which may be in the value.
     const bool inValue = parts->value.find(L"<<") != std::wstring_view::npos;
-    parameter.placeholder = inValue ? PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
+    parameter.placeholder =
+        inValue ? itemdlg::PlaceholderNumber(parameter.parts.label) : parameter.record.resourceId;
     // The patterns see a line up to its first null character, and the value is its end.
     const std::size_t end = std::min(line.text.find(L'\0'), line.text.size());
     parameter.valueStart = end - parameter.parts.value.size();
@@ -52,7 +54,7 @@ bool ReadAsParameter(const ItemLine& line, Parameter& parameter) {
 }  // namespace
 
 void WalkLines(std::string_view bytes, std::span<CRuleGroup* const> groups) {
-    CBlockTracker block;
+    itemdlg::CBlockTracker block;
     ItemLine line;
     Parameter parameter;
     for (; !bytes.empty(); ++line.index) {

@@ -47,7 +47,7 @@ public:
         : m_context(context), m_item(context.templateFile), m_routine(context.routineFile) {}
 
     std::vector<Finding> Run() {
-        const std::string picture = m_context.baseName + encoding::EncodeUtf8(kPictureEnding);
+        const std::string picture = m_context.baseName + encoding::EncodeUtf8(itemdlg::kPictureEnding);
         if (!m_context.exists(picture)) {
             m_item.Add(kPictureMissing, "the item's picture " + picture + " is not beside it");
         }
@@ -80,7 +80,7 @@ private:
     }
 
     void CheckPreview(const RoutineName& name) {
-        const std::string picture = encoding::EncodeUtf8(name.text + kPictureEnding);
+        const std::string picture = encoding::EncodeUtf8(name.text + itemdlg::kPictureEnding);
         if (!m_context.exists(picture)) {
             AddAt(kPictureMissing, name, "the picture " + picture + " is not beside the routine");
         }
@@ -89,8 +89,8 @@ private:
     void CheckChoice(const RoutineCall& call) {
         std::size_t count = 0;
         for (const RoutineName& name : call.names) {
-            const std::string flat = encoding::EncodeUtf8(name.text + FLAT_SLIDE_ENDING);
-            const std::string inSpace = encoding::EncodeUtf8(name.text + SPACE_SLIDE_ENDING);
+            const std::string flat = encoding::EncodeUtf8(name.text + imagedlg::kFlatSlideEnding);
+            const std::string inSpace = encoding::EncodeUtf8(name.text + imagedlg::kSpaceSlideEnding);
             if (m_context.exists(flat) || (!call.isFlatOnly && m_context.exists(inSpace))) {
                 ++count;
                 continue;
@@ -99,10 +99,10 @@ private:
                   "the choice " + Quoted(name.text) + " has no slide " + flat +
                       (call.isFlatOnly ? "" : " or " + inSpace) + " and is left out");
         }
-        if (count > MAX_CHOICES) {
+        if (count > imagedlg::kMaxChoices) {
             AddAt(kChoiceCount, call.names.front(),
                   std::to_string(count) + " choices have a slide; with more than " +
-                      std::to_string(MAX_CHOICES) + " the dialog closes at once");
+                      std::to_string(imagedlg::kMaxChoices) + " the dialog closes at once");
         }
     }
 

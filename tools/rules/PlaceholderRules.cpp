@@ -31,7 +31,7 @@ constexpr const Rule* kRules[] = {&kPlaceholderZero, &kPlaceholderTooLarge, &kPl
 // Whether the text has the form of a placeholder but without a valid number: with a digit inserted, the
 // reader accepts it.
 bool HasFormOfPlaceholder(const std::wstring& text, std::size_t opening) {
-    return PlaceholderNumber(std::wstring(text).insert(opening + 2, L"1")) != 0;
+    return itemdlg::PlaceholderNumber(std::wstring(text).insert(opening + 2, L"1")) != 0;
 }
 
 }  // namespace
@@ -73,13 +73,13 @@ bool CheckPlaceholderForm(CFindingList& findings, const ItemLine& line, std::siz
 }
 
 void CheckPlaceholderNumber(CFindingList& findings, const ItemLine& line, std::size_t start, int number) {
-    if (number <= kHighestTextNumber) {
+    if (number <= itemdlg::kHighestTextNumber) {
         return;
     }
     const std::size_t end = line.text.find(L">>", start);
-    findings.Add(
-        kPlaceholderTooLarge, line, start, end + 2 - start,
-        "the placeholder is empty: the highest number of a text is " + std::to_string(kHighestTextNumber));
+    findings.Add(kPlaceholderTooLarge, line, start, end + 2 - start,
+                 "the placeholder is empty: the highest number of a text is " +
+                     std::to_string(itemdlg::kHighestTextNumber));
 }
 
 }  // namespace tavrin::tools

@@ -29,7 +29,7 @@ constexpr Rule kTextUnused = {
 constexpr const Rule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
 
 // The texts that the module itself uses.
-constexpr unsigned kModuleTexts[] = {kHeaderPrefixText, NO_SLIDE_TEXT};
+constexpr unsigned kModuleTexts[] = {itemdlg::kHeaderPrefixText, imagedlg::kNoSlideText};
 
 // The excerpt is the text as it was read, since a module has no lines.
 Finding AtText(const CTextTable& texts, const TextEntry& text, const Rule& rule, const std::string& message) {

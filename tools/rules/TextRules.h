@@ -12,7 +12,7 @@ namespace tavrin::tools {
 RuleList TextRules();
 
 // The numbers of the texts that files use.
-using TextNumbers = std::bitset<kHighestTextNumber + 1>;
+using TextNumbers = std::bitset<itemdlg::kHighestTextNumber + 1>;
 
 // Checks the texts themselves and against the numbers that the checked files use.
 std::vector<Finding> CheckTexts(const CTextTable& texts, const TextNumbers& used);

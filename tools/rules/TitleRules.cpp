@@ -48,11 +48,11 @@ RuleList TitleRules() {
 
 void CTitleRules::TakeLine(const ItemLine& line) {
     ++m_lineCount;
-    if (line.index != kTitleLine) {
+    if (line.index != itemdlg::kTitleLine) {
         return;
     }
     CheckForm(line);
-    const int number = PlaceholderNumber(line.text);
+    const int number = itemdlg::PlaceholderNumber(line.text);
     if (number != 0) {
         CheckPlaceholder(line, number);
     } else {
@@ -65,15 +65,15 @@ void CTitleRules::CheckForm(const ItemLine& line) {
     const std::wstring& text = line.text;
     if (std::all_of(text.begin(), text.end(), IsBlank)) {
         Findings().Add(kTitleMissing, line, 0, text.size(), "the second line, the dialog's title, is empty");
-    } else if (line.kind != LK_OUTSIDE || ParseParameterLine(text)) {
+    } else if (line.kind != LK_OUTSIDE || itemdlg::ParseParameterLine(text)) {
         Findings().Add(kTitleMissing, line, 0, text.size(),
                        "the second line is the dialog's title, not a part of the parameter block");
     }
 }
 
 void CTitleRules::CheckPlaceholder(const ItemLine& line, int number) {
-    const std::wstring_view before = LabelPrefix(line.text);
-    const std::wstring_view after = LabelSuffix(line.text);
+    const std::wstring_view before = itemdlg::LabelPrefix(line.text);
+    const std::wstring_view after = itemdlg::LabelSuffix(line.text);
     if (!before.empty() || !after.empty()) {
         const std::size_t start = before.empty() ? line.text.size() - after.size() : 0;
         Findings().Add(kTitleTextLost, line, start, before.empty() ? after.size() : before.size(),
@@ -81,7 +81,7 @@ void CTitleRules::CheckPlaceholder(const ItemLine& line, int number) {
                            " is not shown: a title with a placeholder is the placeholder's text alone");
     }
     CheckPlaceholderNumber(Findings(), line, before.size(), number);
-    if (m_texts != nullptr && number <= kHighestTextNumber &&
+    if (m_texts != nullptr && number <= itemdlg::kHighestTextNumber &&
         m_texts->Find(static_cast<unsigned>(number)) == nullptr) {
         Findings().Add(kTitleTextUnknown, line, before.size(),
                        line.text.size() - before.size() - after.size(),
@@ -93,7 +93,7 @@ void CTitleRules::CheckLength(const ItemLine& line, int number) {
     std::size_t prefix = 0;
     std::size_t longest = number == 0 ? line.text.size() : 0;
     for (std::size_t language = 0; m_texts != nullptr && language < m_texts->Languages().size(); ++language) {
-        const TextEntry* const header = m_texts->Find(kHeaderPrefixText, language);
+        const TextEntry* const header = m_texts->Find(itemdlg::kHeaderPrefixText, language);
         prefix = std::max(prefix, header != nullptr ? header->text.size() : 0);
         const TextEntry* const title =
             number != 0 ? m_texts->Find(static_cast<unsigned>(number), language) : nullptr;
@@ -109,7 +109,7 @@ void CTitleRules::CheckLength(const ItemLine& line, int number) {
 }
 
 void CTitleRules::Finish() {
-    if (m_lineCount <= kTitleLine) {
+    if (m_lineCount <= itemdlg::kTitleLine) {
         Findings().Add(kTitleMissing, m_lineCount == 0
                                           ? "the file is empty: its second line is the dialog's title"
                                           : "the file ends before its second line, the dialog's title");

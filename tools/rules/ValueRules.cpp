@@ -86,7 +86,7 @@ void CValueRules::TakeLine(const ItemLine& line) {
         Findings().Add(kValueMissing, line, parameter.letterStart, 1, "the value is missing and counts as 0");
         return;
     }
-    const LeadingNumber number = ReadLeadingNumber(value);
+    const itemdlg::LeadingNumber number = itemdlg::ReadLeadingNumber(value);
     if (ReportNoNumber(line, value, number.end)) {
         return;
     }
@@ -125,7 +125,7 @@ void CValueRules::CheckNumber(const ItemLine& line, std::size_t start, std::size
     if (HasVanished(written, value)) {
         report(kValueOutOfRange, " is too close to zero and becomes 0");
     } else if (letter == L'I' || letter == L'i') {  // the small one will be made a capital
-        const int whole = FloorToInt(value);
+        const int whole = itemdlg::FloorToInt(value);
         const std::string becomes = " becomes " + std::to_string(whole);
         if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max()) {
             report(kValueOutOfRange, becomes + ", the nearest whole number of 32 bits");
@@ -134,7 +134,7 @@ void CValueRules::CheckNumber(const ItemLine& line, std::size_t start, std::size
         }
     } else if (std::isinf(value)) {
         report(kValueOutOfRange, " is too large and becomes an infinity");
-    } else if (const std::wstring kept = GeneralText(value); DecimalValue(kept) != value) {
+    } else if (const std::wstring kept = itemdlg::GeneralText(value); itemdlg::DecimalValue(kept) != value) {
         report(kValueDigitsLost, " is " + Quoted(kept) + " after the first OK");
     }
 }

@@ -88,7 +88,8 @@ private:
     // Compares each pair once, with the first of its two files.
     void ComparePairOf(const ItemFile& file, const std::string& bytes) {
         const std::string other =
-            file.item + encoding::EncodeUtf8(file.isWorkingFile ? kTemplateFileEnding : kWorkingFileEnding);
+            file.item + encoding::EncodeUtf8(file.isWorkingFile ? itemdlg::kTemplateFileEnding
+                                                                : itemdlg::kWorkingFileEnding);
         if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
             return;
         }

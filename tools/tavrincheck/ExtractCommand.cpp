@@ -43,7 +43,7 @@ struct Options {
 Options ParseOptions(const std::vector<std::string>& arguments) {
     Options options;
     CCommandLine commandLine;
-    commandLine.AddNumber("--from", 1501, {1, kHighestTextNumber}, options.firstNumber);
+    commandLine.AddNumber("--from", 1501, {1, itemdlg::kHighestTextNumber}, options.firstNumber);
     commandLine.AddOption("--rc", "TavrinRes.rc", [&](const std::string& value) { options.script = value; });
     commandLine.AddFlag("--write", options.write);
     commandLine.AddExitFlag("--help", options.help);

@@ -17,10 +17,10 @@ namespace {
 namespace fs = std::filesystem;
 
 ItemFile ItemFileOf(const std::string& name) {
-    if (const std::optional<std::string> item = WithoutEnding(name, kWorkingFileEnding)) {
+    if (const std::optional<std::string> item = WithoutEnding(name, itemdlg::kWorkingFileEnding)) {
         return {name, true, *item};
     }
-    return {name, false, WithoutEnding(name, kTemplateFileEnding).value_or("")};
+    return {name, false, WithoutEnding(name, itemdlg::kTemplateFileEnding).value_or("")};
 }
 
 // A broken link counts as a file, so that it is reported.
@@ -29,7 +29,7 @@ bool IsFile(const fs::directory_entry& entry) {
 }
 
 void AppendFolder(const std::string& folder, std::vector<std::string>& names, FileList& list) {
-    const std::string ending = encoding::EncodeUtf8(kTemplateFileEnding);
+    const std::string ending = encoding::EncodeUtf8(itemdlg::kTemplateFileEnding);
     std::vector<std::string> found;
     bool isRead = true;
     try {

@@ -19,33 +19,33 @@ std::string Quoted(const std::wstring& text) {
 
 }  // namespace
 
-CItemPreview::CItemPreview(const TextLines& workingFile, PreviewSettings settings)
+CItemPreview::CItemPreview(const itemdlg::TextLines& workingFile, PreviewSettings settings)
     : m_settings(std::move(settings)),
-      m_contents(ReadItem(workingFile, m_settings.scale, m_settings.mode, m_settings.texts)) {}
+      m_contents(itemdlg::ReadItem(workingFile, m_settings.scale, m_settings.mode, m_settings.texts)) {}
 
-std::wstring CItemPreview::ValueTextOf(const ItemParameter& parameter) const {
-    const ParamRecord& record = parameter.record;
+std::wstring CItemPreview::ValueTextOf(const itemdlg::ItemParameter& parameter) const {
+    const itemdlg::ParamRecord& record = parameter.record;
     switch (record.type) {
         case 'D':
             return m_settings.distanceText(record.realValue);
         case 'I':
-            return IntText(record.intValue);
+            return itemdlg::IntText(record.intValue);
         case 'R':
-            return GeneralText(record.realValue);
+            return itemdlg::GeneralText(record.realValue);
         default:
             return {};
     }
 }
 
-ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
-    ItemParameter* found = nullptr;
+itemdlg::ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
+    itemdlg::ItemParameter* found = nullptr;
     bool hasParameter = false;
-    for (ItemParameter& parameter : m_contents.parameters) {
+    for (itemdlg::ItemParameter& parameter : m_contents.parameters) {
         if (parameter.record.number != number) {
             continue;
         }
         hasParameter = true;
-        if (parameter.row != PR_SHOWN) {
+        if (parameter.row != itemdlg::PR_SHOWN) {
             continue;
         }
         if (found != nullptr) {
@@ -63,11 +63,11 @@ ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
 }
 
 void CItemPreview::SetValue(const std::wstring& number, const std::wstring& value) {
-    ItemParameter& parameter = FindRow(number);
+    itemdlg::ItemParameter& parameter = FindRow(number);
     if (!parameter.editable) {
         throw CToolError("parameter " + Quoted(number) + " is read-only in this mode");
     }
-    ParamRecord& record = parameter.record;
+    itemdlg::ParamRecord& record = parameter.record;
     if (record.type == 'I') {
         const std::optional<int> whole = cmdline::ParseNumber<int>(encoding::EncodeUtf8(value));
         if (!whole) {
@@ -87,22 +87,23 @@ void CItemPreview::SetValue(const std::wstring& number, const std::wstring& valu
     record.realValue = *real;
 }
 
-TextLines CItemPreview::WorkingFileAfter(TextLines lines) const {
-    return Rewritten(std::move(lines), RewriteWorkingFile);
+itemdlg::TextLines CItemPreview::WorkingFileAfter(itemdlg::TextLines lines) const {
+    return Rewritten(std::move(lines), itemdlg::RewriteWorkingFile);
 }
 
-TextLines CItemPreview::TemplateFileAfter(TextLines lines) const {
-    return Rewritten(std::move(lines), RewriteTemplateFile);
+itemdlg::TextLines CItemPreview::TemplateFileAfter(itemdlg::TextLines lines) const {
+    return Rewritten(std::move(lines), itemdlg::RewriteTemplateFile);
 }
 
 // Parameters without a row keep the value that was read.
-TextLines CItemPreview::Rewritten(TextLines lines, Rewriter rewrite) const {
-    ParamRecordMap records;
-    for (const ItemParameter& parameter : m_contents.parameters) {
+itemdlg::TextLines CItemPreview::Rewritten(itemdlg::TextLines lines, Rewriter rewrite) const {
+    itemdlg::ParamRecordMap records;
+    for (const itemdlg::ItemParameter& parameter : m_contents.parameters) {
         records[parameter.record.lineIndex] = parameter.record;
     }
-    rewrite(lines, records,
-            [this](const ParamRecord& record) { return ValueText(record, m_settings.scale); });
+    rewrite(lines, records, [this](const itemdlg::ParamRecord& record) {
+        return itemdlg::ValueText(record, m_settings.scale);
+    });
     return lines;
 }
 

@@ -13,18 +13,18 @@ namespace tavrin::tools {
 struct PreviewSettings {
     double scale = 1.0;                                // between the values in the files and those shown
     int mode = 0;                                      // 1 makes marked rows read-only
-    TextLookup texts;                                  // the texts of placeholders
+    itemdlg::TextLookup texts;                         // the texts of placeholders
     std::function<std::wstring(double)> distanceText;  // as the host shows a distance
 };
 
 class CItemPreview {
 public:
-    CItemPreview(const TextLines& workingFile, PreviewSettings settings);
+    CItemPreview(const itemdlg::TextLines& workingFile, PreviewSettings settings);
 
-    const ItemContents& Contents() const { return m_contents; }
+    const itemdlg::ItemContents& Contents() const { return m_contents; }
 
     // The text of a parameter's value in the grid; empty for an invalid type.
-    std::wstring ValueTextOf(const ItemParameter& parameter) const;
+    std::wstring ValueTextOf(const itemdlg::ItemParameter& parameter) const;
 
     // Types a value into the row of the parameter with that number: a whole number, a real number, or a
     // distance in any of the host's formats. Throws CToolError when there is no such row or more than one,
@@ -32,17 +32,18 @@ public:
     void SetValue(const std::wstring& number, const std::wstring& value);
 
     // The lines of the two files as OK would write them. The working file is the one that was read.
-    TextLines WorkingFileAfter(TextLines lines) const;
-    TextLines TemplateFileAfter(TextLines lines) const;
+    itemdlg::TextLines WorkingFileAfter(itemdlg::TextLines lines) const;
+    itemdlg::TextLines TemplateFileAfter(itemdlg::TextLines lines) const;
 
 private:
-    using Rewriter = void (*)(TextLines&, const ParamRecordMap&, const ::ValueTextOf&);
+    using Rewriter = void (*)(itemdlg::TextLines&, const itemdlg::ParamRecordMap&,
+                              const itemdlg::ValueTextOf&);
 
-    ItemParameter& FindRow(const std::wstring& number);
-    TextLines Rewritten(TextLines lines, Rewriter rewrite) const;
+    itemdlg::ItemParameter& FindRow(const std::wstring& number);
+    itemdlg::TextLines Rewritten(itemdlg::TextLines lines, Rewriter rewrite) const;
 
     PreviewSettings m_settings;
-    ItemContents m_contents;
+    itemdlg::ItemContents m_contents;
 };
 
 }  // namespace tavrin::tools

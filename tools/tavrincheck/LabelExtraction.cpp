@@ -14,7 +14,7 @@ namespace tavrin::tools {
 
 namespace {
 
-constexpr std::size_t kTitleIndex = kTitleLine;
+constexpr std::size_t kTitleIndex = itemdlg::kTitleLine;
 
 // The reason why a literal cannot be moved.
 struct Refusal {
@@ -32,11 +32,11 @@ public:
     }
 
     Extraction Run() {
-        CBlockTracker block;
+        itemdlg::CBlockTracker block;
         const std::vector<FileLine>& lines = m_extraction.lines;
         for (std::size_t index = 0; index < lines.size(); ++index) {
             const bool isInBlock = block.TakeLine(lines[index].text);
-            const bool isParameter = isInBlock && ParseParameterLine(lines[index].text);
+            const bool isParameter = isInBlock && itemdlg::ParseParameterLine(lines[index].text);
             if (index != kTitleIndex && !isParameter) {
                 continue;
             }
@@ -58,7 +58,7 @@ private:
             if (end == std::wstring::npos || line.compare(end, 2, L">>") != 0) {
                 continue;
             }
-            const int number = PlaceholderNumber(line.substr(at, end + 2 - at));
+            const int number = itemdlg::PlaceholderNumber(line.substr(at, end + 2 - at));
             if (number > 0) {
                 m_known.taken.insert(static_cast<unsigned>(number));
             }
@@ -74,10 +74,10 @@ private:
     }
 
     std::wstring MovedTitle(const std::wstring& line) {
-        if (line.empty() || PlaceholderNumber(line) != 0) {
+        if (line.empty() || itemdlg::PlaceholderNumber(line) != 0) {
             return line;
         }
-        if (line == CBlockTracker::kOpeningLine || line == CBlockTracker::kClosingLine) {
+        if (line == itemdlg::CBlockTracker::kOpeningLine || line == itemdlg::CBlockTracker::kClosingLine) {
             throw Refusal{"it is the title and bounds a block, give the file a title line"};
         }
         if (line.find(L'\0') != std::wstring::npos) {
@@ -87,17 +87,17 @@ private:
     }
 
     std::wstring MovedLabel(const std::wstring& line) {
-        const ParameterLine parameter = *ParseParameterLine(line);
-        if (PlaceholderNumber(parameter.label) != 0) {
+        const itemdlg::ParameterLine parameter = *itemdlg::ParseParameterLine(line);
+        if (itemdlg::PlaceholderNumber(parameter.label) != 0) {
             return line;
         }
         std::wstring text = parameter.label;
-        const bool isMarked = TakeReadOnlyMark(text);
+        const bool isMarked = itemdlg::TakeReadOnlyMark(text);
         if (text.empty()) {
             throw Refusal{"its label is empty, write one"};
         }
         // Placeholders in the value would be used instead of the label's.
-        if (PlaceholderNumber(WithLabel(line, parameter, L"<<1>>")) != 1) {
+        if (itemdlg::PlaceholderNumber(WithLabel(line, parameter, L"<<1>>")) != 1) {
             throw Refusal{"its value contains a placeholder, which OK would write into the label"};
         }
         const std::wstring number = std::to_wstring(NumberOf(text));
@@ -105,7 +105,7 @@ private:
     }
 
     // There is no quote before the label's.
-    static std::wstring WithLabel(std::wstring line, const ParameterLine& parameter,
+    static std::wstring WithLabel(std::wstring line, const itemdlg::ParameterLine& parameter,
                                   const std::wstring& label) {
         return line.replace(line.find(L'"') + 1, parameter.label.size(), label);
     }
@@ -123,9 +123,9 @@ private:
         while (m_known.taken.count(m_next) != 0) {
             ++m_next;
         }
-        if (m_next > kHighestTextNumber) {
+        if (m_next > itemdlg::kHighestTextNumber) {
             throw CToolError("there is no unused number left for a text: the highest is " +
-                             std::to_string(kHighestTextNumber) + ", give a lower one with --from");
+                             std::to_string(itemdlg::kHighestTextNumber) + ", give a lower one with --from");
         }
         m_known.taken.insert(m_next);
         m_known.texts[text] = m_next;

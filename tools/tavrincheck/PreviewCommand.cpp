@@ -102,20 +102,21 @@ PreviewFile ReadLines(const std::string& name) {
 PreviewInput ReadInput(const std::string& file) {
     PreviewInput input;
     std::string base;
-    if (const std::optional<std::string> item = WithoutEnding(file, kWorkingFileEnding)) {
+    if (const std::optional<std::string> item = WithoutEnding(file, itemdlg::kWorkingFileEnding)) {
         base = *item;
         input.workingFile = ReadLines(file);
-        input.templateName = base + encoding::EncodeUtf8(kTemplateFileEnding);
+        input.templateName = base + encoding::EncodeUtf8(itemdlg::kTemplateFileEnding);
         if (std::filesystem::is_regular_file(PathOf(input.templateName))) {
             input.templateFile = ReadLines(input.templateName);
         }
     } else {
-        base = WithoutEnding(file, kTemplateFileEnding).value_or(file);
+        base = WithoutEnding(file, itemdlg::kTemplateFileEnding).value_or(file);
         input.templateName = file;
         input.templateFile = ReadLines(file);
-        input.workingFile = {base + encoding::EncodeUtf8(kWorkingFileEnding), input.templateFile->lines};
+        input.workingFile = {base + encoding::EncodeUtf8(itemdlg::kWorkingFileEnding),
+                             input.templateFile->lines};
     }
-    const std::string picture = base + encoding::EncodeUtf8(kPictureEnding);
+    const std::string picture = base + encoding::EncodeUtf8(itemdlg::kPictureEnding);
     if (std::filesystem::is_regular_file(PathOf(picture))) {
         input.picture = picture;
     }
@@ -123,10 +124,11 @@ PreviewInput ReadInput(const std::string& file) {
 }
 
 // The texts of placeholders; collects the numbers that no file has.
-TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
+itemdlg::TextLookup Lookup(const CTextTable& texts, std::set<unsigned>& missing) {
     if (texts.Files().empty()) {
         return [](unsigned number) {
-            return number == kHeaderPrefixText ? std::wstring() : L"<<" + std::to_wstring(number) + L">>";
+            return number == itemdlg::kHeaderPrefixText ? std::wstring()
+                                                        : L"<<" + std::to_wstring(number) + L">>";
         };
     }
     return [&texts, &missing](unsigned number) {

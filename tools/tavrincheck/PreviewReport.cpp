@@ -29,7 +29,7 @@ std::wstring Printable(std::wstring text) {
     return text;
 }
 
-std::wstring KindText(const ParamRecord& record) {
+std::wstring KindText(const itemdlg::ParamRecord& record) {
     switch (record.type) {
         case 'D':
             return L"distance";
@@ -42,17 +42,17 @@ std::wstring KindText(const ParamRecord& record) {
     }
 }
 
-std::wstring RemarkText(const ItemParameter& parameter) {
+std::wstring RemarkText(const itemdlg::ItemParameter& parameter) {
     switch (parameter.row) {
-        case PR_LABEL_TAKEN:
-        case PR_INVALID_TYPE:
+        case itemdlg::PR_LABEL_TAKEN:
+        case itemdlg::PR_INVALID_TYPE:
             return L"NO ROW";
         default:
             return parameter.editable ? L"" : L"read-only";
     }
 }
 
-std::string LineText(const ParamRecord& record) {
+std::string LineText(const itemdlg::ParamRecord& record) {
     return "line " + std::to_string(record.lineIndex + 1) + ": ";
 }
 
@@ -79,8 +79,8 @@ std::string TableText(const std::vector<Cells>& rows) {
 
 std::string RowsText(const CItemPreview& preview) {
     std::vector<Cells> rows = {{L"line", L"number", L"kind", L"label", L"value", L""}};
-    for (const ItemParameter& parameter : preview.Contents().parameters) {
-        const ParamRecord& record = parameter.record;
+    for (const itemdlg::ItemParameter& parameter : preview.Contents().parameters) {
+        const itemdlg::ParamRecord& record = parameter.record;
         rows.push_back({std::to_wstring(record.lineIndex + 1), L"$" + record.number, KindText(record),
                         Printable(record.label), Printable(preview.ValueTextOf(parameter)),
                         RemarkText(parameter)});
@@ -90,14 +90,14 @@ std::string RowsText(const CItemPreview& preview) {
 
 // The dialog's messages, and remarks on rows that are missing.
 std::string MessagesText(const PreviewInput& input, const CItemPreview& preview) {
-    const std::string box = encoding::EncodeUtf8(kInvalidTypeMessage);
+    const std::string box = encoding::EncodeUtf8(itemdlg::kInvalidTypeMessage);
     std::string text;
-    std::map<std::wstring, const ParamRecord*> shown;
-    for (const ItemParameter& parameter : preview.Contents().parameters) {
-        const ParamRecord& record = parameter.record;
-        if (parameter.row == PR_SHOWN) {
+    std::map<std::wstring, const itemdlg::ParamRecord*> shown;
+    for (const itemdlg::ItemParameter& parameter : preview.Contents().parameters) {
+        const itemdlg::ParamRecord& record = parameter.record;
+        if (parameter.row == itemdlg::PR_SHOWN) {
             shown[record.label] = &record;
-        } else if (parameter.row == PR_INVALID_TYPE) {
+        } else if (parameter.row == itemdlg::PR_INVALID_TYPE) {
             text += LineText(record) + "a box says \"" + box +
                     "\"; there is no row, OK assigns nothing to the number and leaves the template's line\n";
         } else {
@@ -107,13 +107,13 @@ std::string MessagesText(const PreviewInput& input, const CItemPreview& preview)
         }
     }
     if (!input.templateFile) {
-        text += "after OK a box says \"" + encoding::EncodeUtf8(kFileNotFoundMessage) + "\": there is no " +
-                input.templateName + "\n";
+        text += "after OK a box says \"" + encoding::EncodeUtf8(itemdlg::kFileNotFoundMessage) +
+                "\": there is no " + input.templateName + "\n";
     }
     return text;
 }
 
-std::vector<std::string> DiffLines(const TextLines& lines) {
+std::vector<std::string> DiffLines(const itemdlg::TextLines& lines) {
     std::vector<std::string> result;
     result.reserve(lines.size());
     for (const std::wstring& line : lines) {
@@ -132,7 +132,7 @@ std::string LineEndsText(const PreviewFile& file) {
            std::to_string(file.lines.size()) + " do not\n";
 }
 
-std::string ChangesText(const PreviewFile& file, const TextLines& after) {
+std::string ChangesText(const PreviewFile& file, const itemdlg::TextLines& after) {
     const std::vector<std::string> before = DiffLines(TextsOf(file.lines));
     const std::string diff =
         UnifiedDiff(file.name, file.name + " after OK", before, EditsBetween(before, DiffLines(after)));
@@ -142,7 +142,7 @@ std::string ChangesText(const PreviewFile& file, const TextLines& after) {
 }  // namespace
 
 std::string PreviewReport(const PreviewInput& input, const CItemPreview& preview) {
-    const ItemContents& contents = preview.Contents();
+    const itemdlg::ItemContents& contents = preview.Contents();
     const auto shown = [](const std::wstring& text) { return encoding::EncodeUtf8(Printable(text)); };
     std::string text = "Title:    " + shown(contents.title.value_or(L"(the item's base name)")) + "\n";
     text += "Header:   " + shown(contents.title ? contents.header : L"  Parametri") + "\n";

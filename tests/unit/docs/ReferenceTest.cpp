@@ -9,27 +9,28 @@
 #include "imagedlg/ChoiceLayout.h"
 #include "tests/unit/docs/Pages.h"
 
+using namespace tavrin::imagedlg;
 using namespace tests;
 
 namespace {
 
 // What the page on pictures calls the content of a cell: a choice by its number, counted from 1.
 std::string NameOf(int content) {
-    if (content == CELL_EMPTY) {
+    if (content == kCellEmpty) {
         return "empty";
     }
-    return content == CELL_LOGO ? "`logo.png`" : std::to_string(content + 1);
+    return content == kCellLogo ? "`logo.png`" : std::to_string(content + 1);
 }
 
 TEST(Documentation, TellsWhereEachChoiceStands) {
     int countsSeen = 0;
     for (const std::vector<std::string>& row : ReadPage("docs/authors/pictures.md").rows) {
-        if (row.size() != 1 + CHOICE_CELLS || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6') {
+        if (row.size() != 1 + kChoiceCells || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6') {
             continue;
         }
         ++countsSeen;
         const auto count = static_cast<unsigned>(row[0][0] - '0');
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
             EXPECT_EQ(row[static_cast<std::size_t>(cell)], NameOf(GetCellContent(count, cell)))
                 << count << " choices, cell " << cell;
         }

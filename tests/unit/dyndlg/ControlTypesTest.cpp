@@ -5,6 +5,8 @@
 
 #include <string>
 
+using namespace tavrin::dyndlg;
+
 namespace {
 
 struct ClassCase {

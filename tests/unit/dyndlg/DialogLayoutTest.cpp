@@ -6,6 +6,8 @@
 #include <limits>
 #include <ostream>
 
+using namespace tavrin::dyndlg;
+
 void PrintTo(const DialogRect& rect, std::ostream* out) {
     *out << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom;
 }
@@ -42,21 +44,20 @@ TEST(DialogLayout, StandardButtonsStandSideBySideBelowTheRows) {
     EXPECT_EQ(buttons.cancel, (DialogRect{65, 52, 115, 66}));
     layout.Place(&buttons.ok, 120);
     layout.Place(&buttons.cancel, 120);
-    EXPECT_EQ(layout.NextRow(), 76);
     EXPECT_EQ(layout.Extent(), (DialogExtent{0, 0, 275, 71}));
+    EXPECT_EQ(layout.Place(nullptr, 120).top, 76);
 }
 
 TEST(DialogLayout, AControlWithARectangleUsesUpARowToo) {
     CDialogLayout layout;
     const DialogRect rect = {7, 7, 200, 100};
     EXPECT_EQ(layout.Place(&rect, 270), rect);
-    EXPECT_EQ(layout.NextRow(), 22);
     EXPECT_EQ(layout.Place(nullptr, 120), (DialogRect{10, 22, 120, 34}));
 }
 
 TEST(DialogLayout, AnEmptyDialogHasNoExtent) {
     EXPECT_EQ(CDialogLayout().Extent(), (DialogExtent{0, 0, 0, 0}));
-    EXPECT_EQ(CDialogLayout().NextRow(), 10);
+    EXPECT_EQ(CDialogLayout().Place(nullptr, 120).top, 10);
 }
 
 TEST(DialogLayout, TheExtentReachesFiveBeyondTheControls) {

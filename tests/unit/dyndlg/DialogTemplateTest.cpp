@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+using namespace tavrin::dyndlg;
+
 namespace {
 
 using Bytes = std::vector<unsigned>;

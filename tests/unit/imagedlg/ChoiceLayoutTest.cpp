@@ -4,13 +4,15 @@
 
 #include <string>
 
+using namespace tavrin::imagedlg;
+
 namespace {
 
 // One character per cell, 1 to 6.
 template <typename Character>
 std::string PerCell(Character character) {
     std::string text;
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         text += character(cell);
     }
     return text;
@@ -19,7 +21,7 @@ std::string PerCell(Character character) {
 std::string Contents(unsigned count) {
     return PerCell([&](int cell) {
         const int content = GetCellContent(count, cell);
-        return content == CELL_EMPTY ? '.' : content == CELL_LOGO ? 'L' : static_cast<char>('0' + content);
+        return content == kCellEmpty ? '.' : content == kCellLogo ? 'L' : static_cast<char>('0' + content);
     });
 }
 
@@ -82,7 +84,7 @@ TEST(ChoiceLayout, EachCellStandsForItsChoice) {
 
 TEST(ChoiceLayout, SelectingStepsBackForACountThatItDoesNotKnow) {
     for (const unsigned count : {0U, 7U, 8U}) {
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
             EXPECT_EQ(GetChoiceOfCell(count, cell, 5), 4) << count << " " << cell;
             EXPECT_EQ(GetChoiceOfCell(count, cell, -1), -2) << count << " " << cell;
         }
@@ -104,7 +106,7 @@ TEST(ChoiceLayout, EveryCellHasAFrameForEveryOtherCount) {
 TEST(ChoiceLayout, ACellThatDoesNotExistIsNothing) {
     for (unsigned count = 0; count <= 8; ++count) {
         for (const int cell : {-1, 0, 7, 1000}) {
-            EXPECT_EQ(GetCellContent(count, cell), CELL_EMPTY) << count << " " << cell;
+            EXPECT_EQ(GetCellContent(count, cell), kCellEmpty) << count << " " << cell;
             EXPECT_FALSE(IsChoiceCellSelectable(count, cell)) << count << " " << cell;
             EXPECT_FALSE(HasChoiceFrame(count, cell)) << count << " " << cell;
         }

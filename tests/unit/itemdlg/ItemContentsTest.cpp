@@ -7,6 +7,8 @@
 
 #include "itemdlg/ItemFiles.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 std::wstring Lookup(unsigned number) {

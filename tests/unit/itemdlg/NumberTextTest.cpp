@@ -11,6 +11,8 @@
 #include <random>
 #include <string>
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();

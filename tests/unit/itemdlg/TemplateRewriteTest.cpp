@@ -6,6 +6,8 @@
 #include "itemdlg/BlockTracker.h"
 #include "itemdlg/TemplateText.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 std::wstring NoTexts(unsigned) {

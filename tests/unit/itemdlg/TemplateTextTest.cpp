@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "itemdlg/BlockTracker.h"
-#include "tests/unit/itemdlg/FailingMemory.h"
+#include "tests/unit/support/FailingMemory.h"
+
+using namespace tavrin::itemdlg;
 
 namespace {
 

@@ -44,7 +44,7 @@ protected:
     }
     void Lock(std::initializer_list<Id> items) {
         for (const Id id : items) {
-            model.SetEditable(Item(id), false);
+            Item(id).SetEditable(false);
         }
     }
 };

@@ -197,10 +197,10 @@ TEST(GridModel, KeepsTheEditableRowsOfEachSection) {
     }
     using Rows = std::vector<std::uint32_t>;
     EXPECT_EQ(model.FindSection(0)->editableRows, (Rows{0, 2, 3}));
-    model.SetEditable(*model.FindItem(2), false);
-    model.SetEditable(*model.FindItem(2), false);
-    model.SetEditable(*model.FindItem(1), true);
-    model.SetEditable(*model.FindItem(1), true);
+    model.FindItem(2)->SetEditable(false);
+    model.FindItem(2)->SetEditable(false);
+    model.FindItem(1)->SetEditable(true);
+    model.FindItem(1)->SetEditable(true);
     EXPECT_EQ(model.FindSection(0)->editableRows, (Rows{0, 1, 3}));
     EXPECT_FALSE(model.FindItem(2)->editable);
     EXPECT_TRUE(model.FindItem(1)->editable);

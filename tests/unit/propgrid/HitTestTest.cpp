@@ -119,9 +119,9 @@ TEST_F(HitTest, FindsNoEditButtonOfARowThatLostIt) {
     model.SetCollapsed(Section(0), true);
     EXPECT_FALSE(layout.HitTest({290, 25}).onEditButton) << "its section is collapsed";
     model.SetCollapsed(Section(0), false);
-    model.SetEditable(Item(0), false);
+    Item(0).SetEditable(false);
     EXPECT_FALSE(layout.HitTest({290, 25}).onEditButton) << "it is not editable";
-    model.SetEditable(Item(0), true);
+    Item(0).SetEditable(true);
     EXPECT_TRUE(layout.HitTest({290, 25}).onEditButton);
     model.Clear();
     EXPECT_FALSE(layout.HitTest({290, 25}).onEditButton) << "it is removed";

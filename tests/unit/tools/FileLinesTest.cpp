@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 using namespace tavrin::tools;

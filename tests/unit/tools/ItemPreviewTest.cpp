@@ -9,6 +9,8 @@
 
 using namespace tavrin::tools;
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 const std::string kTemplate =

@@ -8,6 +8,7 @@
 #include "tools/files/Files.h"
 #include "tools/texts/ScriptEdit.h"
 
+using namespace tavrin::itemdlg;
 using namespace tavrin::tools;
 
 namespace {

@@ -14,6 +14,8 @@
 #include "tests/windows/support/ModalHands.h"
 #include "tests/windows/support/Pixels.h"
 
+using namespace tavrin::dyndlg;
+
 constexpr DWORD plain = WS_CHILD | WS_VISIBLE;
 constexpr DWORD tabbed = plain | WS_TABSTOP;
 

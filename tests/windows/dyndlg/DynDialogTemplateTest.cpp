@@ -3,6 +3,8 @@
 
 #include "tests/windows/dyndlg/DynDialogFixture.h"
 
+using namespace tavrin::dyndlg;
+
 namespace {
 
 class CPaintedStatic : public CStatic {

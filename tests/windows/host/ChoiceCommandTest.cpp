@@ -18,6 +18,8 @@
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
+using namespace tavrin::host;
+
 namespace {
 
 using Results = std::vector<std::string>;

@@ -11,6 +11,8 @@
 #include "tests/windows/support/ModalHands.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::host;
+
 namespace {
 
 TEST(ItemArguments, NeedAStringFirst) {

@@ -5,6 +5,8 @@
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/FakeHost.h"
 
+using namespace tavrin::host;
+
 extern "C" int icrxEntryPoint(unsigned request, void* packet);
 
 namespace {

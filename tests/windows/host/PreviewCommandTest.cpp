@@ -15,6 +15,8 @@
 #include "tests/windows/support/NoGdiPlus.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::host;
+
 namespace {
 
 using Results = std::vector<std::string>;

@@ -169,7 +169,7 @@ TEST_F(ChoiceDialog, CancelEscapeAndTheCloseBoxEndWithCancel) {
 
 TEST_F(ChoiceDialog, ADoubleClickChoosesEveryCellThatShowsAChoice) {
     for (const unsigned count : {1U, 2U, 3U, 4U, 5U, 6U}) {
-        for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
             const int choice = GetCellContent(count, cell);
             if (choice < 0) {
                 continue;

@@ -138,7 +138,7 @@ RECT PlaceOf(HWND dialog, HWND control) {
 std::string ShownIn(HWND dialog) {
     const CClientPixels pixels(dialog);
     std::string shown;
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         // A point that is in the window whenever a part of the cell is, and where no button stands.
         const RECT place = PlaceOf(dialog, CellOf(dialog, cell));
         shown += NameOf(pixels.At(place.left + (place.right - place.left) / 8, place.top + 12));
@@ -149,7 +149,7 @@ std::string ShownIn(HWND dialog) {
 std::string FramesIn(HWND dialog, COLORREF background) {
     const CClientPixels pixels(dialog);
     std::string frames;
-    for (int cell = 1; cell <= CHOICE_CELLS; ++cell) {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
         frames += FrameAround(pixels, PlaceOf(dialog, CellOf(dialog, cell)), background);
     }
     return frames;

@@ -11,6 +11,8 @@
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::imagedlg;
+
 class CChoiceFixture : public testing::Test {
 protected:
     // Files in a folder of the test's own that the host searches. Choice N is called "cN".

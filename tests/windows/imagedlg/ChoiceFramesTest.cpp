@@ -53,7 +53,7 @@ TEST_F(ChoiceFrames, TheOtherCellsHaveWhiteOnesAndSkippedCellsNone) {
 
 TEST_F(ChoiceFrames, MoveWithTheSelection) {
     RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
-        for (int cell = CHOICE_CELLS; cell >= 1; --cell) {
+        for (int cell = kChoiceCells; cell >= 1; --cell) {
             Click(CellOf(dialog, cell));
             EXPECT_TRUE(WaitForFrame(dialog, cell)) << cell;
             std::string expected = "------";

@@ -12,6 +12,8 @@
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::imagedlg;
+
 extern "C" {
 extern HRESULT(WINAPI* __imp_CreateStreamOnHGlobal)(HGLOBAL memory, BOOL deleted, IStream** stream)
     IMPORT_ENTRY(CreateStreamOnHGlobal, 12);

@@ -10,6 +10,8 @@
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::imagedlg;
+
 namespace {
 
 constexpr COLORREF red = RGB(255, 0, 0);

@@ -14,6 +14,7 @@
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
+using namespace tavrin::itemdlg;
 using namespace tavrin::propgrid;
 
 class ItemDialogFixture : public testing::Test {

@@ -6,6 +6,8 @@
 #include "itemdlg/TextFile.h"
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 // Every byte, followed by each of a few that some code pages would take as the second half of a character.

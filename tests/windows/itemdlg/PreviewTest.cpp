@@ -13,8 +13,9 @@
 #include "tools/texts/TextTable.h"
 #include "units/LinearUnits.h"
 
-using namespace tavrin::units;
+using namespace tavrin::itemdlg;
 using namespace tavrin::tools;
+using namespace tavrin::units;
 
 namespace {
 

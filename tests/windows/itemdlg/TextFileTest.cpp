@@ -7,6 +7,8 @@
 
 #include "tests/windows/support/TempFolder.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 using Lines = std::vector<std::wstring>;

@@ -626,21 +626,6 @@ TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenItHearsOfTheChange) {
     EXPECT_EQ(Value<std::wstring>(item), L"c");
 }
 
-TEST_F(GridEdit, RemovingTheRowsStoresTheTextFirst) {
-    const UINT item = grid.AddStringItem(section, L"a", L"b");
-    ClickOn(ValueOf(item));
-    TypeInEdit(L"typed");
-    grid.ResetContents();
-    ExpectNoEditorLeft();
-    EXPECT_EQ(parent.changedItems, Ids{item});
-    EXPECT_EQ(parent.changedValues, Texts{L"typed"});
-    // The focus stays with the id; the text does not.
-    const UINT again = grid.AddStringItem(grid.AddSection(L""), L"z", L"new");
-    ASSERT_EQ(again, item);
-    EXPECT_EQ(grid.GetFocusedItem(), again);
-    EXPECT_EQ(Value<std::wstring>(again), L"new");
-}
-
 TEST_F(GridEdit, ATextForAnotherKindIsIgnored) {
     const UINT first = AddAllKinds(L"kinds");
     for (const EItemType kind :

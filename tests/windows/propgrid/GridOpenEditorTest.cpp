@@ -95,7 +95,6 @@ const Operation endings[] = {
     {"AddACombo", [](auto&, auto& grid) { grid.AddComboItem(secondSection, L"new", {L"a"}, 0); }},
     {"AddACustomItem",
      [](auto& test, auto& grid) { grid.AddCustomItem(secondSection, L"new", &test.custom); }},
-    {"RemoveAll", [](auto&, auto& grid) { grid.ResetContents(); }},
     {"Sort", [](auto&, auto& grid) { grid.SetDisplayMode(DM_SORTED); }},
     {"Flatten", [](auto&, auto& grid) { grid.SetDisplayMode(DM_FLAT); }},
     {"MoveTheDivider", [](auto&, auto& grid) { grid.SetGutterWidth(100); }},
@@ -195,6 +194,29 @@ TEST_F(GridOpenEditor, EndsBeforeItsRowGetsAnotherCustomItem) {
     EXPECT_EQ(custom.text, L"typed");
     EXPECT_EQ(other.text, L"custom");
     EXPECT_EQ(Value<ICustomItem*>(item), &other);
+}
+
+// Deliberately: the client that removes the rows has done with them.
+TEST_F(GridOpenEditor, StaysWhenTheRowsAreRemovedAndItsTextIsDropped) {
+    OpenEdit();
+    grid.ResetContents();
+    EXPECT_TRUE(grid.IsEditing());
+    grid.EndEditing();
+    ExpectNoEditorLeft();
+    EXPECT_TRUE(parent.changedItems.empty());
+}
+
+TEST_F(GridOpenEditor, GivesNothingToANewRowWithTheIdOfTheRemovedOne) {
+    OpenEdit();
+    grid.ResetContents();
+    const UINT again = grid.AddSection(L"again");
+    ExpectNoEditorLeft();
+    grid.AddIntegerItem(again, L"before", 1);
+    const UINT same = grid.AddIntegerItem(again, L"number", 2);
+    EXPECT_EQ(same, number);
+    EXPECT_EQ(grid.GetFocusedItem(), same);
+    EXPECT_EQ(Value<int>(same), 2);
+    EXPECT_TRUE(parent.changedItems.empty());
 }
 
 // The rows that bring the scroll bar narrow the cells.
@@ -340,7 +362,6 @@ TEST_F(GridOpenEditorAndItsOwner, MayDestroyTheWindowUnderAnyOperation) {
         [&] { Type(L'/'); },
         [&] { Turn(-120); },
         [&] { Scroll(SB_LINEDOWN); },
-        [&] { grid.ResetContents(); },
     };
     for (const auto& operation : operations) {
         AddRows(30);  // so that there is something to scroll

@@ -1,5 +1,5 @@
-// What of a row only the system knows: the texts of dates, the formats of its runtime, its memory; and the order of the
-// operations that other modules were compiled for.
+// What of a row only the system knows: the texts of dates, the formats of its runtime, its memory; and the
+// order of the operations that other modules were compiled for.
 #include <gtest/gtest.h>
 
 #include <clocale>

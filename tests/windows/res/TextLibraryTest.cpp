@@ -7,6 +7,8 @@
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
+using namespace tavrin::res;
+
 namespace {
 
 class TextLibrary : public testing::Test {

@@ -6,6 +6,8 @@
 #include "itemdlg/BlockTracker.h"
 #include "itemdlg/TemplateRewrite.h"
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 // The files hold ASCII alone here, so a byte is a character.

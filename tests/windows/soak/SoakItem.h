@@ -9,6 +9,8 @@
 #include "itemdlg/ParamRecord.h"
 #include "itemdlg/TemplateText.h"
 
+using namespace tavrin::itemdlg;
+
 // Chooses among so many; the same seed chooses the same on every system.
 class CChoices {
 public:

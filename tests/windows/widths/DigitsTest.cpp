@@ -11,6 +11,8 @@
 
 using namespace tavrin::units;
 
+using namespace tavrin::itemdlg;
+
 namespace {
 
 // Sets the precision of the old floating-point unit while it lives. The standard library's own code may use

@@ -4,7 +4,9 @@
 #include <functional>
 #include <string>
 
-#include "itemdlg/PatternMatcher.h"
+#include "pattern/PatternMatcher.h"
+
+using namespace tavrin::pattern;
 
 namespace {
 
@@ -29,11 +31,11 @@ std::size_t StackOf(const std::function<void()>& work) {
     const volatile unsigned char* const top = StackHere();
     PaintStack();
     work();
-    const volatile unsigned char* place = top - kPainted + 4096;
-    while (place < top && *place == kPaint) {
-        ++place;
+    const volatile unsigned char* touched = top - kPainted + 4096;
+    while (touched < top && *touched == kPaint) {
+        ++touched;
     }
-    return static_cast<std::size_t>(top - place);
+    return static_cast<std::size_t>(top - touched);
 }
 
 std::wstring Repeated(const std::wstring& text, int count) {

@@ -1,4 +1,4 @@
-#include "tests/unit/itemdlg/PatternGenerator.h"
+#include "tests/unit/pattern/PatternGenerator.h"
 
 void ForEachText(const std::wstring& alphabet, std::size_t longest,
                  const std::function<void(const std::wstring&)>& use) {

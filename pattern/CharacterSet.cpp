@@ -1,9 +1,10 @@
-// The members of a set of characters.
-#include "itemdlg/CharacterSet.h"
+#include "pattern/CharacterSet.h"
 
 #include <algorithm>
 
-#include "itemdlg/LetterCase.h"
+#include "pattern/LetterCase.h"
+
+namespace tavrin::pattern {
 
 void CCharacterSet::Add(wchar_t first, wchar_t last) {
     const auto from = static_cast<std::uint32_t>(first);
@@ -22,13 +23,11 @@ void CCharacterSet::Negate() {
     m_negated = !m_negated;
 }
 
-bool CCharacterSet::FoldCapitals() {
-    const LowSet before = m_low;
+void CCharacterSet::FoldCapitals() {
     for (std::uint32_t code = 0; code < kLowCount; ++code) {
         const wchar_t lower = LowerForm(static_cast<wchar_t>(code));
         m_low[code] = m_low[static_cast<std::uint32_t>(lower)];
     }
-    return m_low != before;
 }
 
 bool CCharacterSet::ContainsHigh(std::uint32_t code) const {
@@ -37,3 +36,5 @@ bool CCharacterSet::ContainsHigh(std::uint32_t code) const {
     });
     return listed != m_negated;
 }
+
+}  // namespace tavrin::pattern

@@ -1,4 +1,4 @@
-#include "tests/unit/itemdlg/PatternReference.h"
+#include "tests/unit/pattern/PatternReference.h"
 
 #include <functional>
 #include <utility>
@@ -141,9 +141,7 @@ private:
         if (character == L'{') {
             NodePointer capture = Make(Node::Capture);
             capture->group = m_groups++;
-            m_open.push_back(capture->group);
             capture->children.push_back(ParseSequence());
-            m_open.pop_back();
             if (!Take(L'}')) {
                 throw ParseError{2};
             }
@@ -246,16 +244,12 @@ private:
     std::wstring m_text;
     std::size_t m_at = 0;
     std::size_t& m_groups;
-    std::vector<std::size_t> m_open;
 };
 
 class CRun {
 public:
     using Next = std::function<bool(std::size_t)>;
-    struct Capture {
-        bool open = false;
-        std::optional<ReferenceSpan> span;
-    };
+    using Capture = std::optional<ReferenceSpan>;
 
     CRun(const std::wstring& text, std::size_t groups) : captures(groups), m_text(text) {}
 
@@ -325,31 +319,22 @@ private:
     }
 
     bool MatchCapture(const Node& node, std::size_t at, const Next& next) {
-        const Capture before = captures[node.group];
-        captures[node.group] = {true, std::nullopt};
         const auto close = [&](std::size_t after) {
-            const Capture inside = captures[node.group];
-            captures[node.group] = {false, ReferenceSpan{at, after}};
+            const Capture before = captures[node.group];
+            captures[node.group] = ReferenceSpan{at, after};
             if (next(after)) {
                 return true;
             }
-            captures[node.group] = inside;
+            captures[node.group] = before;
             return false;
         };
-        if (Match(*node.children[0], at, close)) {
-            return true;
-        }
-        captures[node.group] = before;
-        return false;
+        return Match(*node.children[0], at, close);
     }
 
     bool MatchReference(const Node& node, std::size_t at, const Next& next) {
         const Capture& capture = captures[node.group];
-        if (capture.open || !capture.span) {
-            return next(at);
-        }
         const std::wstring captured =
-            m_text.substr(capture.span->begin, capture.span->end - capture.span->begin);
+            capture ? m_text.substr(capture->begin, capture->end - capture->begin) : std::wstring();
         return m_text.compare(at, captured.size(), captured) == 0 && next(at + captured.size());
     }
 
@@ -384,9 +369,7 @@ ReferenceResult CPatternReference::Match(const std::wstring& input) const {
                 return true;
             };
             if (run.Match(*m_root, start, end)) {
-                for (const CRun::Capture& capture : run.captures) {
-                    result.groups.push_back(capture.span);
-                }
+                result.groups = run.captures;
             }
         }
     } catch (const TooMuchWork&) {

@@ -5,10 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "itemdlg/PatternMatcher.h"
-#include "tests/unit/itemdlg/ExactText.h"
-#include "tests/unit/itemdlg/PatternGenerator.h"
-#include "tests/unit/itemdlg/PatternReference.h"
+#include "pattern/PatternMatcher.h"
+#include "tests/unit/pattern/ExactText.h"
+#include "tests/unit/pattern/PatternGenerator.h"
+#include "tests/unit/pattern/PatternReference.h"
+
+using namespace tavrin::pattern;
 
 namespace {
 
@@ -153,6 +155,19 @@ TEST(PatternCompare, EverySmallRepeatedGroupAgreesWithTheReference) {
         ForEachText(L"{}ab|?!", 5, [&](const std::wstring& inside) {
             if (inside.find(L'{') != std::wstring::npos) {
                 Compare(L"(" + inside + ending, true, inputs, tally);
+            }
+        });
+    }
+    EXPECT_GT(tally.matched, 1000u);
+}
+
+TEST(PatternCompare, EverySmallRepeatedGroupThatRefersToItselfAgreesWithTheReference) {
+    const std::vector<Input> inputs = Inputs(AllTexts(L"ab", 6));
+    Tally tally;
+    for (const wchar_t* ending : {L"}*", L"}+b", L"}*?$", L"}+\\0"}) {
+        ForEachText(L"ab.|?\\0{}", 4, [&](const std::wstring& inside) {
+            if (inside.find(L"\\0") != std::wstring::npos) {
+                Compare(L"^{" + inside + ending, true, inputs, tally);
             }
         });
     }

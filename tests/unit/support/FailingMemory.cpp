@@ -1,4 +1,4 @@
-#include "tests/unit/itemdlg/FailingMemory.h"
+#include "tests/unit/support/FailingMemory.h"
 
 #include <cstdlib>
 #include <new>

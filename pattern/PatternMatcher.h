@@ -11,8 +11,8 @@
 //   (...)      a group that captures nothing
 //   \N         a back-reference: the text that group N captured, under the pattern's case rule. N is read
 //              greedily and must be below the number of groups opened so far. A group that captured nothing
-//              matches the empty text, and so does a group referred to from its own inside, where it has
-//              captured nothing yet.
+//              matches the empty text. Inside its own group it matches what the group captured in the round
+//              before, if the group is repeated.
 //   \a \b \c \d \h \n \q \w \z
 //              abbreviations: letter or digit, blank or tab, letter, digit, hexadecimal digit, line break,
 //              text in double quotes, word of letters, run of digits. In a case-insensitive pattern the
@@ -28,14 +28,14 @@
 //
 //   "ab|cd"    is a, then b or c, then d: it matches "abd" and "acd", neither "ab" nor "cd". Chains group
 //              to the right, the left side is tried first.
-//   "abc)def"  a closing "}", "]" or ")" without partner quietly ends the pattern: this is "abc".
+//   "abc)def"  a closing "}", "]" or ")" without partner ends the pattern without an error: this is "abc".
 //   "a**"      a quantifier or a bar where an element must begin is a literal: this is "a*", then a star.
 //   "!a*"      the quantifier belongs to the look-ahead, not to the a.
 //   "a|", "!"  an operand that is missing at the end of the pattern or before a closer is the empty text.
 //   "\q*"      a quantifier behind an abbreviation applies to all of it; "\w+" is a repetition of words.
-//   "x*$"      does not match "ab": the place behind the last character is tried only in an empty input.
+//   "x*$"      does not match "ab": the position behind the last character is tried only in an empty input.
 //   "(a*)*"    is an error: what can match the empty text cannot be repeated without bound. Look-aheads and
-//              back-references count as able to match it, wherever they stand.
+//              back-references always count as able to match it.
 //
 // MATCHING is a backtracking search from each start position in turn; the first path that reaches the end of
 // the pattern wins. After a match each group reports the capture of that path: its last one if the group is
@@ -45,46 +45,42 @@
 // CASE. A case-insensitive pattern behaves as if pattern and input were lower-cased first, character for
 // character and in no locale (see LetterCase.h); captured text keeps the case that it has in the input.
 //
-// MEMORY. Neither pattern nor input makes the matcher use more of the call stack: what it must remember lies
-// on stacks that grow by doubling. Nothing beyond the input's terminating null is read. Runs of one
-// character, set or "." take one instruction and one remembered choice, however long they are.
+// MEMORY. The depth of the call stack does not depend on pattern or input: compiler and search keep stacks of
+// their own, which grow by doubling. Nothing behind the input's terminating null is read. A greedy repetition
+// of one character, set or "." takes one entry of the search's stack, however long it is, and ends only where
+// the literal behind it, if there is one, can match.
 #pragma once
 
-#include <string_view>
+#include "pattern/MatchContext.h"
+#include "pattern/PatternError.h"
+#include "pattern/PatternProgram.h"
 
-#include "itemdlg/MatchContext.h"
-#include "itemdlg/PatternError.h"
-#include "itemdlg/PatternProgram.h"
+namespace tavrin::pattern {
 
 class CPatternMatcher {
 public:
     // Compiles a pattern in place of the one before. Returns an EPatternError, PE_NONE on success.
     unsigned Parse(const wchar_t* pattern, bool caseSensitive);
 
-    // Searches the input for the pattern and fills the context. False when input or context is null, when
-    // nothing matches, when memory runs out, or when no pattern was parsed with success; the context then
-    // holds no pair that is not null. The pattern is only read, so that it may be shared; the context may
-    // not.
+    // Searches the input for the pattern and fills the context. False if input or context is null, if nothing
+    // matches, if no pattern was parsed successfully, or out of memory, which leaves the context without
+    // groups; all pairs of the context are then null. The pattern is only read and may be shared; the context
+    // may not.
     //
-    // endOut may be null. Otherwise it receives the place in the input where the matching stopped: the end
-    // of the match, or after a failure the start position that was tried last. It stays as it is when the
-    // input or the context is null, when memory runs out, or when there is no pattern.
+    // endOut may be null. Otherwise it receives the position in the input where matching stopped: the end of
+    // the match, or after a failure the start position that was tried last. It is left alone if input or
+    // context is null, if there is no pattern, and out of memory.
     bool Match(const wchar_t* input, CMatchContext* context, const wchar_t** endOut = nullptr) const;
 
-    // The same for an input whose length is known, which spares the search for its end. The input must hold
-    // no null character, and one must stand right behind it.
-    bool Match(std::wstring_view input, CMatchContext* context, const wchar_t** endOut = nullptr) const;
-
-    // The answer of the last Parse.
+    // The result of the last Parse.
     unsigned LastError() const { return m_error; }
 
     // The number of capturing groups of the pattern.
     unsigned GroupCount() const { return m_program.groupCount; }
 
 private:
-    bool MatchUpTo(const wchar_t* input, const wchar_t* inputEnd, CMatchContext* context,
-                   const wchar_t** endOut) const;
-
     PatternProgram m_program;  // without instructions unless the last Parse succeeded
     unsigned m_error = PE_NONE;
 };
+
+}  // namespace tavrin::pattern

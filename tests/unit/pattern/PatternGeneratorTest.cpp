@@ -1,12 +1,14 @@
 // The makers of patterns and inputs have tests of their own: a generator that leaves something out would
 // leave it untested without a sign.
-#include "tests/unit/itemdlg/PatternGenerator.h"
+#include "tests/unit/pattern/PatternGenerator.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "itemdlg/PatternMatcher.h"
+#include "pattern/PatternMatcher.h"
+
+using namespace tavrin::pattern;
 
 TEST(PatternGenerator, MakesEveryTextOverAnAlphabetExactlyOnce) {
     const std::vector<std::wstring> texts = AllTexts(L"xyz", 4);

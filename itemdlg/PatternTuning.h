@@ -1,8 +1,0 @@
-// Finds out what the search of a finished program need not do: lengths of a run that need no try because of
-// what follows, groups that need no note of what they held before. It changes how much work a match takes,
-// never its result.
-#pragma once
-
-#include "itemdlg/PatternProgram.h"
-
-void TunePattern(PatternProgram& program);
