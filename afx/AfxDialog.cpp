@@ -136,12 +136,7 @@ BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* 
 }
 
 HWND CDialog::FindOwner() const {
-    HWND owner = nullptr;
-    if (m_pParentWnd != nullptr) {
-        owner = m_pParentWnd->m_hWnd;
-    } else if (const CWnd* const main = AfxGetMainWnd(); main != nullptr && main->m_hWnd != nullptr) {
-        owner = ::GetLastActivePopup(main->m_hWnd);
-    }
+    HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : AfxFindMainPopUp();
     while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD) != 0) {
         owner = ::GetParent(owner);
     }

@@ -20,13 +20,20 @@ AFX_MODULE_STATE* GetProgramState() {
 }
 
 HWND GetMessageBoxOwner() {
-    if (const CWnd* const main = AfxGetMainWnd()) {
-        return ::GetLastActivePopup(main->m_hWnd);
-    }
-    return ::GetActiveWindow();
+    const HWND owner = AfxFindMainPopUp();
+    return owner != nullptr ? owner : ::GetActiveWindow();
 }
 
 }  // namespace
+
+HWND AfxFindMainPopUp() {
+    if (application == nullptr) {
+        return nullptr;
+    }
+    const CWnd* const main = application->m_pMainWnd;
+    const HWND window = main != nullptr ? main->m_hWnd : ::GetActiveWindow();
+    return window != nullptr ? ::GetLastActivePopup(window) : nullptr;
+}
 
 AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState() {
     const auto instance = reinterpret_cast<HINSTANCE>(&__ImageBase);

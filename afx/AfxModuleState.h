@@ -50,6 +50,10 @@ LPCTSTR AFXAPI AfxGetAppName();
 // The application object's main window, or the active window when it names none; null without such an object.
 CWnd* AFXAPI AfxGetMainWnd();
 
+// The last active pop-up of what AfxGetMainWnd gives; null for null. Takes no memory, as the report of a want
+// of it must not.
+HWND AfxFindMainPopUp();
+
 // Without an icon among the flags the exclamation mark is shown. The box is owned by the last active
 // pop-up of the main window, else by the active window.
 int AFXAPI AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
