@@ -22,8 +22,8 @@ bool AllWhole(const CArguments& arguments) {
 }
 
 CValue Whole(const CArguments& arguments, std::int64_t result) {
-    using limits = std::numeric_limits<std::int32_t>;
-    if (result < limits::min() || result > limits::max()) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (result < Limits::min() || result > Limits::max()) {
         arguments.Fail(L"the whole number " + std::to_wstring(result) +
                        L" does not fit 32 bits: calculate with reals, 1.0 instead of 1");
     }

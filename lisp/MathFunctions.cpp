@@ -21,8 +21,8 @@ LispResult Fix(const CArguments& arguments) {
         return arguments[0];
     }
     const double whole = std::trunc(arguments.Number(0));
-    using limits = std::numeric_limits<std::int32_t>;
-    if (!(whole >= limits::min() && whole <= limits::max())) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (!(whole >= Limits::min() && whole <= Limits::max())) {
         arguments.Refuse(0, L"a number that fits 32 bits");
     }
     return CValue::Integer(std::int32_t(whole));
@@ -72,8 +72,8 @@ LispResult Power(const CArguments& arguments) {
         return Real(arguments, result);
     }
     // Exact, since every whole number of 32 bits is a real.
-    using limits = std::numeric_limits<std::int32_t>;
-    if (!(result >= limits::min() && result <= limits::max())) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (!(result >= Limits::min() && result <= Limits::max())) {
         arguments.Fail(L"the result does not fit 32 bits: calculate with reals, 2.0 instead of 2");
     }
     return CValue::Integer(std::int32_t(result));

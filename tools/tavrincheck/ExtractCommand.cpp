@@ -125,7 +125,7 @@ int RunExtract(const std::vector<std::string>& arguments) {
     const Extraction extraction =
         ExtractLabels(lines, static_cast<unsigned>(options.firstNumber), KnownTexts(table));
     for (const std::string& note : extraction.notes) {
-        Print(file + ": " + note + "\n");
+        Print(std::string(file).append(": ").append(note).append("\n"));
     }
     const std::vector<std::string> before = Bytes(lines);
     const Change templateChange = {file, false, before, EditsBetween(before, Bytes(extraction.lines))};
