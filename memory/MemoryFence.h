@@ -1,5 +1,5 @@
-// A want of memory on its way to the framework. The framework's window procedures end what derives from its
-// own CException there; a std::bad_alloc would go on into the system.
+// Keeps std::bad_alloc inside the module. The framework's window procedures catch what derives from its own
+// CException; a std::bad_alloc would go on into the system.
 #pragma once
 
 #include <afxwin.h>

@@ -167,7 +167,7 @@ TEST_F(ExceptionFence, MakesUpdateDataFail) {
     EXPECT_EQ(hands.messages[0].text, L"An unsupported operation was attempted.");
 }
 
-// What the module's windows do with a want of memory: under the framework itself nothing else would be
+// What the module's windows do when an allocation fails: under the framework itself nothing else would be
 // caught.
 TEST(MemoryFence, TurnsAWantOfMemoryIntoTheFrameworksException) {
     EXPECT_THROW(tavrin::memory::FenceMemory([]() -> LRESULT { throw std::bad_alloc(); }), CMemoryException*);
