@@ -12,6 +12,8 @@ namespace tavrin::cmdline {
 template <class Number>
 std::optional<Number> ParseNumber(std::string_view text) {
     Number number{};
+    // cppcheck takes a caller's temporary for gone although the call is part of its full expression.
+    // cppcheck-suppress danglingTemporaryLifetime
     const char* const end = text.data() + text.size();
     const auto [last, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && last == end ? std::optional(number) : std::nullopt;

@@ -41,8 +41,8 @@ std::optional<std::string> EncodeCharacter(char32_t character, unsigned codePage
     if (character < 0x80) {
         return std::string(1, static_cast<char>(character));
     }
-    std::string bytes;
     if (codePage == kUtf8 && !IsSurrogate(character)) {
+        std::string bytes;
         encoding::AppendUtf8(bytes, character);
         return bytes;
     }
