@@ -1,4 +1,5 @@
-# Hands and eyes on the X display for the scripts that drive a program, and waiting with a bound: source it.
+# Mouse, keyboard and screenshots on the X display for the scripts that drive a program; waiting with a time
+# limit. To be sourced.
 
 # wait_for SECONDS WHAT COMMAND...: asks again and again until the command succeeds.
 wait_for() {

@@ -53,15 +53,15 @@ TEST_F(DynDialog, TakesAnUnknownNameForAnActiveXControlThatDoesNotExist) {
     int data = 5;
     const UINT id = dialog.AddDlgControl(L"Button", L"", tabbed, 0, nullptr, &data, 0);
     dialog.AddDlgControl(L"", L"", tabbed, 0, nullptr, nullptr, 0);
-    m_hands->ThenPressOk();
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(
         RunWithOk(dialog,
                   [id](HWND window) { EXPECT_EQ(::GetDlgItem(window, static_cast<int>(id)), nullptr); }),
         IDOK);
-    ASSERT_EQ(m_hands->messages.size(), 2U);
-    EXPECT_EQ(m_hands->messages[0].text, L"Failed SetWindowPos for control Button.");
-    EXPECT_EQ(m_hands->messages[1].text, L"Failed SetWindowPos for control .");
+    ASSERT_EQ(m_driver->messages.size(), 2U);
+    EXPECT_EQ(m_driver->messages[0].text, L"Failed SetWindowPos for control Button.");
+    EXPECT_EQ(m_driver->messages[1].text, L"Failed SetWindowPos for control .");
     EXPECT_EQ(data, 5);
 }
 

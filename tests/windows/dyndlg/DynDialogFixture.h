@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "dyndlg/DynDialogEx.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 
 using namespace tavrin::dyndlg;
@@ -95,25 +95,25 @@ public:
 class DynDialog : public testing::Test {
 protected:
     // Runs the dialog, gives it to `look` when it is up, then ends it with OK.
-    INT_PTR RunWithOk(CDynDialogEx& dialog, CModalHands::Step look = {}) {
+    INT_PTR RunWithOk(CDynDialogEx& dialog, CModalDriver::Step look = {}) {
         return RunAndPress(dialog, IDOK, std::move(look));
     }
-    INT_PTR RunAndPress(CDynDialogEx& dialog, int button, CModalHands::Step look) {
-        m_hands->Then([look = std::move(look), button](HWND window) {
+    INT_PTR RunAndPress(CDynDialogEx& dialog, int button, CModalDriver::Step look) {
+        m_driver->Then([look = std::move(look), button](HWND window) {
             if (look) {
                 look(window);
             }
             ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
         const INT_PTR result = dialog.DoModal();
-        EXPECT_EQ(m_hands->StepsLeft(), 0U) << "a window that was expected did not come up";
+        EXPECT_EQ(m_driver->StepsLeft(), 0U) << "a window that was expected did not come up";
         return result;
     }
 
     // Lets go of the steps that were done, which count as blocks of the heap.
-    void ForgetSteps() { m_hands.emplace(); }
+    void ForgetSteps() { m_driver.emplace(); }
 
-    std::optional<CModalHands> m_hands{std::in_place};
+    std::optional<CModalDriver> m_driver{std::in_place};
     CParentWindow m_parent;
 };
 

@@ -36,10 +36,10 @@ END_MESSAGE_MAP()
 class DynDialogMessages : public DynDialog {
 protected:
     // Runs a dialog with one edit control that shows "before"; `act` has to end it.
-    INT_PTR Run(CModalHands::Step act) {
+    INT_PTR Run(CModalDriver::Step act) {
         CDynDialogEx dialog(&m_parent);
         dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, nullptr, &m_text, editId);
-        m_hands->Then([act](HWND window) {
+        m_driver->Then([act](HWND window) {
             ::SetDlgItemTextW(window, editId, L"after");
             act(window);
         });

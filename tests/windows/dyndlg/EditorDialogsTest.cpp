@@ -32,7 +32,7 @@ protected:
         dialog.AddDlgControl(L"BUTTON", caption, 0x50010000, 0, &rect, nullptr, id);
     }
 
-    INT_PTR RunTextEditor(CString& text, int button, CModalHands::Step look) {
+    INT_PTR RunTextEditor(CString& text, int button, CModalDriver::Step look) {
         CDynDialogEx dialog(&m_parent);
         Prepare(dialog, L"Note");
         const CRect edit(7, 7, 200, 100);
@@ -43,7 +43,7 @@ protected:
         return RunAndPress(dialog, button, std::move(look));
     }
 
-    INT_PTR RunDateEditor(COleDateTime& date, CTime& time, int button, CModalHands::Step look) {
+    INT_PTR RunDateEditor(COleDateTime& date, CTime& time, int button, CModalDriver::Step look) {
         CDynDialogEx dialog(&m_parent);
         Prepare(dialog, L"Data e ora");
         const CRect dateLabel(7, 3, 60, 12), timeLabel(67, 3, 120, 12);
@@ -85,7 +85,7 @@ TEST_F(EditorDialogs, ATextIsTypedOverSeveralLines) {
 
 TEST_F(EditorDialogs, EnterBelongsToTheTextAndEscapeEndsTheEditor) {
     CString text = L"a";
-    m_hands->Then([this](HWND window) {
+    m_driver->Then([this](HWND window) {
         const HWND edit = ::GetDlgItem(window, m_editId);
         ::SendMessageW(edit, EM_SETSEL, 1, 1);
         ::PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);

@@ -108,9 +108,9 @@ void CChoiceFixture::Fill(CTavrinSelMaskDlg& dialog, int count) {
     dialog.LoadSlides();
 }
 
-INT_PTR CChoiceFixture::Run(CTavrinSelMaskDlg& dialog, int count, const CModalHands::Step& step) {
+INT_PTR CChoiceFixture::Run(CTavrinSelMaskDlg& dialog, int count, const CModalDriver::Step& step) {
     Fill(dialog, count);
-    m_hands.Then(step);
+    m_driver.Then(step);
     return dialog.DoModal();
 }
 

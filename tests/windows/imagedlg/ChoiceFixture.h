@@ -7,7 +7,7 @@
 #include <string>
 
 #include "imagedlg/TavrinSelMaskDlg.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
@@ -27,13 +27,13 @@ protected:
     static void Fill(CTavrinSelMaskDlg& dialog, int count);
 
     // Fills a dialog and runs it while `step` acts on it. What DoModal returned.
-    INT_PTR Run(CTavrinSelMaskDlg& dialog, int count, const CModalHands::Step& step);
+    INT_PTR Run(CTavrinSelMaskDlg& dialog, int count, const CModalDriver::Step& step);
 
     // Runs a dialog with `count` choices and their slides until `look` has seen it painted.
     void RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look);
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 // The control of a cell, 1 to 6.

@@ -29,7 +29,7 @@ protected:
         dialog.SetArguments(L"", 0);
         ASSERT_TRUE(dialog.AddChoice(L"p"));
         dialog.LoadSlides();
-        m_hands.Then([&](HWND window) {
+        m_driver.Then([&](HWND window) {
             EXPECT_TRUE(WaitForFrame(window, 1));
             PumpMessages();
             look(CClientPixels(CellOf(window, 1)));

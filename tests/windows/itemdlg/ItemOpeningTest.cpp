@@ -41,7 +41,7 @@ TEST_F(ItemOpening, AWorkingFileThatVanishesMeanwhileIsReportedAndTheDialogStays
     FindWorkingFile([this](int search) {
         return search == 1 ? std::optional(folder.Path(L"item_TMP.TXT")) : std::nullopt;
     });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     InDialog(
         [](HWND dialog, CPropertyGrid& grid) {
             EXPECT_EQ(grid.GetSectionCount(), 1U);
@@ -52,16 +52,16 @@ TEST_F(ItemOpening, AWorkingFileThatVanishesMeanwhileIsReportedAndTheDialogStays
         },
         IDCANCEL);
     EXPECT_EQ(Run(), IDCANCEL);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"File not found!");
-    EXPECT_EQ(hands.messages[0].caption, L"Error!");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"File not found!");
+    EXPECT_EQ(driver.messages[0].caption, L"Error!");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
     CBreakingFile file("first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R 1\r\n$2 = \"<<1502>>\"I 2");
     FindWorkingFile([](int) { return std::wstring(CBreakingFile::Path()); });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     InDialog(
         [](HWND dialog, CPropertyGrid& grid) {
             EXPECT_EQ(Rows(grid), L"Larghezza anta = 1 *\n");
@@ -69,10 +69,10 @@ TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
         },
         IDCANCEL);
     EXPECT_EQ(Run(), IDCANCEL);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-    EXPECT_EQ(hands.messages[0].caption, L"Error");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"Error - unable to open file");
+    EXPECT_EQ(driver.messages[0].caption, L"Error");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
@@ -93,7 +93,7 @@ TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
     EXPECT_FALSE(greyOfPicture());
     const CFileLock lock(folder.Path(L"item.png"));
     EXPECT_TRUE(greyOfPicture());
-    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_TRUE(driver.messages.empty());
 }
 
 TEST_F(ItemOpening, FillingItOnceMoreForgetsTheRowsBefore) {

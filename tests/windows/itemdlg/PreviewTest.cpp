@@ -156,12 +156,12 @@ protected:
         }
         m_messagesForetold = foretold;
         for (size_t i = 0; i < foretold.size(); ++i) {
-            hands.ThenPressOk();
+            driver.ThenPressOk();
         }
     }
 
     void Compare(const SGeneratedItem& item, bool changeValues) {
-        hands.Forget();
+        driver.Forget();
         fakeHost.searched.clear();
         PutFiles(item);
         CItemPreview preview = PreviewOf(item);
@@ -177,7 +177,7 @@ protected:
         };
         EXPECT_EQ(dialog.DoModal(), IDOK);
         std::vector<std::wstring> messages;
-        for (const MessageBoxSeen& message : hands.messages) {
+        for (const MessageBoxSeen& message : driver.messages) {
             messages.push_back(message.text);
         }
         EXPECT_EQ(messages, m_messagesForetold);

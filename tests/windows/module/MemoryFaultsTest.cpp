@@ -4,14 +4,14 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/CommandDriver.h"
 #include "tests/windows/module/LoadedModule.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/Bitmap.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
@@ -49,13 +49,13 @@ protected:
         m_folder.Write(L"item.TXT", item);
         fakeHost.results.clear();
         fakeHost.arguments = arguments.List();
-        CCommandHands hands(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
-                                      : std::function<void(HWND)>());
+        CCommandDriver driver(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
+                                        : std::function<void(HWND)>());
         const size_t before = m_heap.allocations();
         m_heap.failAfter(failing);
         EXPECT_EQ(module.Invoke(code), 0);
         m_heap.failAfter(0);
-        return {fakeHost.results, hands.messages, m_heap.allocations() - before,
+        return {fakeHost.results, driver.messages, m_heap.allocations() - before,
                 m_folder.Read(L"item_TMP.TXT"), m_folder.Read(L"item.TXT")};
     }
 
@@ -182,7 +182,7 @@ TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
         size_t before = 0;
         {
             const CLoadedModule module;
-            CCommandHands hands([&](HWND dialog) {
+            CCommandDriver driver([&](HWND dialog) {
                 before = m_heap.allocations();
                 m_heap.failAfter(failing);
                 TypeInRow(dialog, 0, L"33");
@@ -197,7 +197,7 @@ TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
                 EXPECT_EQ(working, item);
                 EXPECT_EQ(m_folder.Read(L"item.TXT"), item);
             }
-            EXPECT_TRUE(working == allAssigned || !hands.messages.empty()) << working;
+            EXPECT_TRUE(working == allAssigned || !driver.messages.empty()) << working;
             if (failing == 0) {
                 EXPECT_EQ(working, allAssigned);
             }

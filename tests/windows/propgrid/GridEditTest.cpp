@@ -6,7 +6,7 @@
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
@@ -496,14 +496,14 @@ TEST_F(GridEdit, AMessageBoxThatEndsTheEditEndsThePressToo) {
     const int divider = grid.GetGutterWidth();
     for (const CPoint point :
          {ValueOf(other), NameOf(other), ButtonOf(item), ValueOf(item), CPoint(divider, 190)}) {
-        CModalHands hands;
-        hands.ThenPressOk();
+        CModalDriver driver;
+        driver.ThenPressOk();
         custom.during = [] { ::MessageBox(nullptr, L"invalid", L"Invalid value", MB_OK); };
         ClickOn(ValueOf(item));
         custom.calls.clear();
         Press(point);
         custom.during = nullptr;
-        EXPECT_EQ(hands.messages.size(), 1U);
+        EXPECT_EQ(driver.messages.size(), 1U);
         EXPECT_EQ(custom.calls.size(), 1U) << "the text, and no button";
         ExpectNoEditorLeft();
         EXPECT_EQ(::GetCapture(), nullptr);

@@ -1,4 +1,4 @@
-// What the tests of the grid's input share: a grid with mouse and keyboard in the test's hands, rows of every
+// What the tests of the grid's input share: a grid driven by mouse and keyboard messages, rows of every
 // kind, a custom item that follows a script, and a look at the editor that is open.
 #pragma once
 

@@ -6,7 +6,7 @@
 #include "propgrid/editors/FolderBrowser.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 
 namespace {
@@ -24,14 +24,14 @@ protected:
         grid.SetTimeText(L"Ora");
     }
     ~GridModalEdit() override {
-        EXPECT_EQ(hands.StepsLeft(), 0U) << "a dialog that was expected did not come up";
+        EXPECT_EQ(driver.StepsLeft(), 0U) << "a dialog that was expected did not come up";
         EXPECT_TRUE(parent.IsWindowEnabled());
         FolderBrowseTitle() = L"Choose a directory";
     }
 
     // Opens the item's dialog with its button; `act` works in it and then a button is pressed.
-    void Edit(UINT item, int button, CModalHands::Step act = {}) {
-        hands.Then([this, button, act](HWND dialog) {
+    void Edit(UINT item, int button, CModalDriver::Step act = {}) {
+        driver.Then([this, button, act](HWND dialog) {
             EXPECT_EQ(::GetWindow(dialog, GW_OWNER), parent.m_hWnd);
             if (act) {
                 act(dialog);
@@ -73,7 +73,7 @@ protected:
     }
     void ExpectNotTold() { EXPECT_TRUE(parent.changedItems.empty()); }
 
-    CModalHands hands;
+    CModalDriver driver;
 };
 
 // ---- Texts
@@ -126,7 +126,7 @@ TEST_F(GridModalEdit, ATextOf100000CharactersComesBackWhole) {
 
 TEST_F(GridModalEdit, OpensByADoubleClickToo) {
     const UINT item = grid.AddTextItem(section, L"Note", L"one");
-    hands.Then([](HWND dialog) { PressButton(dialog, IDOK); });
+    driver.Then([](HWND dialog) { PressButton(dialog, IDOK); });
     DoubleClickOn(NameOf(item));
     ExpectTold(item);
 }
@@ -388,7 +388,7 @@ TEST_F(GridModalEdit, TheGridMayBeDestroyedWhileADialogRuns) {
 TEST_F(GridModalEdit, EscapeAndTheCloseBoxCancel) {
     const UINT item = grid.AddTextItem(section, L"Note", L"one");
     for (const bool closeBox : {false, true}) {
-        hands.Then([=](HWND dialog) {
+        driver.Then([=](HWND dialog) {
             const HWND edit = ChildOf(dialog, L"Edit");
             ::SetWindowText(edit, L"two");
             if (closeBox) {
@@ -411,7 +411,7 @@ TEST_F(GridModalEdit, LeavesNothingBehind) {
         for (const EItemType kind : {IT_TEXT, IT_DATETIME, IT_FILE, IT_COLOR, IT_FONT}) {
             Edit(first + kind, button);
         }
-        hands.Forget();
+        driver.Forget();
         parent.ForgetChanges();
         PumpMessages();
     };
