@@ -12,7 +12,7 @@ class CDialog : public CWnd {
     CDialog() = default;
     explicit CDialog(LPCTSTR templateName, CWnd* parent = nullptr);
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
-    // For DoModal with a template in memory, which must live until DoModal returns; it takes the place of one
+    // For DoModal with a template in memory, which must live until DoModal returns; it replaces one
     // that was given before. FALSE when the dialog comes from a resource.
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* initData = nullptr);
 

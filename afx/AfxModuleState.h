@@ -12,8 +12,8 @@ struct AFX_MODULE_STATE {
 
 // The state of the module (DLL or program) that this code is linked into.
 AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
-// The state at work: the program's, until an AFX_MAINTAIN_STATE2 puts another in its place. Window
-// procedures of the framework do so by themselves.
+// The current state: the program's, until an AFX_MAINTAIN_STATE2 replaces it. The window procedures of the
+// framework do so automatically.
 AFX_MODULE_STATE* AFXAPI AfxGetModuleState();
 
 // Puts a module state to work until the end of the scope; the one before comes back on every way out.

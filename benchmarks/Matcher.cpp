@@ -65,9 +65,10 @@ public:
         const std::string text = pattern.theirs;
         const std::u16string wide(text.begin(), text.end());
         int error = 0;
-        PCRE2_SIZE place = 0;
+        PCRE2_SIZE errorOffset = 0;
         m_code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(wide.c_str()), wide.size(),
-                               PCRE2_CASELESS | PCRE2_DOTALL | PCRE2_DOLLAR_ENDONLY, &error, &place, nullptr);
+                               PCRE2_CASELESS | PCRE2_DOTALL | PCRE2_DOLLAR_ENDONLY, &error, &errorOffset,
+                               nullptr);
         if (m_code == nullptr || (jit && pcre2_jit_compile(m_code, PCRE2_JIT_COMPLETE) != 0)) {
             Refuse("PCRE2");
         }

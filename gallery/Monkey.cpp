@@ -148,9 +148,9 @@ void CMonkey::OpenNextEditor() {
     CRect value;
     if (grid.GetItemRects(m_nextItem++, name, value) && !value.IsRectEmpty()) {
         const CPoint middle = value.CenterPoint();
-        const LPARAM place = MAKELPARAM(middle.x, middle.y);
+        const LPARAM position = MAKELPARAM(middle.x, middle.y);
         for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-            grid.PostMessage(message, 0, place);
+            grid.PostMessage(message, 0, position);
         }
     }
 }

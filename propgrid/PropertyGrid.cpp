@@ -91,8 +91,8 @@ void CPropertyGrid::Initialize() {
                       .scrollPosition = 0,
                       .rowHeight = m_fonts.MeasureRowHeight(*this)});
     ModifyStyle(0, WS_CLIPCHILDREN);
-    // A static control lets the mouse through to its dialog unless it notifies, and no placeholder is a
-    // tab stop; a grid in its place wants both mouse and keyboard.
+    // A static control without SS_NOTIFY passes the mouse on to its dialog and is no tab stop. A grid that
+    // replaces one needs both mouse and keyboard.
     wchar_t windowClass[16] = {};
     ::GetClassName(m_hWnd, windowClass, 16);
     if (_wcsicmp(windowClass, L"Static") == 0) {
@@ -191,7 +191,7 @@ void CPropertyGrid::OnSize(UINT type, int width, int height) {
     }
 }
 
-LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*place*/) {
+LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*position*/) {
     LeaveEditor();
     return Default();
 }

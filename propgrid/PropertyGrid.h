@@ -85,7 +85,7 @@ public:
     //   SetDisplayMode                      always
     //   SetSectionCollapsed                 of any section
     //   SetGutterWidth                      for another position
-    //   another size or place of the grid's window, and its end
+    //   another size or position of the grid's window, and its end
     //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
     //
     // ResetContents leaves it open; what it edits is gone then, and its result is dropped when it ends. All
@@ -112,7 +112,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
-    afx_msg LRESULT OnMove(WPARAM zero, LPARAM place);
+    afx_msg LRESULT OnMove(WPARAM zero, LPARAM position);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

@@ -48,7 +48,7 @@
         (setq item-file nil)
         T)))
 
-; The place of the last double quote in a text, 0 when it has none.
+; The position of the last double quote in a text, 0 when it has none.
 (defun item-last-quote (text / at)
   (setq at (strlen text))
   (while (and (> at 0) (/= (substr text at 1) "\""))

@@ -43,14 +43,14 @@ look() {
 # picture FILE WHAT: waits until $window is painted and keeps the picture.
 picture() { wait_for 20 "$2 to be painted" look "$1"; }
 
-# frame_of WINDOW: where its inside stands on the screen, as WIDTHxHEIGHT+X+Y. (xdotool's place counts the
+# frame_of WINDOW: where its inside stands on the screen, as WIDTHxHEIGHT+X+Y. (xdotool's position counts the
 # window manager's frame twice.)
 frame_of() {
     xwininfo -id "$1" | awk '/Absolute upper-left X:/ { x = $NF } /Absolute upper-left Y:/ { y = $NF }
         /Width:/ { w = $NF } /Height:/ { h = $NF } END { print w "x" h "+" x "+" y }'
 }
 
-# screen_picture FILE WHAT: a picture of what the screen shows in the place of $window, with menus above it.
+# screen_picture FILE WHAT: a screenshot of $window's rectangle, including menus above it.
 screen_picture() {
     wait_for 20 "$2 to be painted" look "$1" root
     convert "$1" -crop "$(frame_of "$window")" +repage -strip -define png:exclude-chunk=date,time "png:$1.new"

@@ -14,17 +14,17 @@
 class GalleryWindow : public testing::Test {
 protected:
     // A value's cell, in pixels of the gallery's client area.
-    struct Place {
+    struct Cell {
         int left, top, right, bottom;
         int MiddleX() const { return (left + right) / 2; }
         int MiddleY() const { return (top + bottom) / 2; }
     };
 
     GalleryWindow();
-    // Opens the gallery and learns where its values are shown.
+    // Opens the gallery and reads the rectangles of its values.
     void Open();
-    // Asks the gallery again where its values are shown.
-    void ReadPlaces();
+    // Reads the rectangles of the gallery's values again.
+    void ReadRectangles();
 
     void ClickValue(const std::string& name) const;
     void DoubleClickValue(const std::string& name) const;
@@ -44,13 +44,13 @@ protected:
     // Closes the gallery with Escape; it must end well, with no changes but these.
     void CloseExpecting(const std::vector<std::string>& changes);
 
-    // What the gallery has printed, but for the places.
+    // What the gallery has printed, except for the rectangles.
     std::vector<std::string> Changes() const;
 
     HostRun run;
     Window gallery;
-    std::map<std::string, Place> places;
-    std::vector<std::string> placeOrder;  // the names of `places` from the top down
+    std::map<std::string, Cell> cells;
+    std::vector<std::string> cellOrder;  // the names of `cells` from the top down
 
 private:
     std::vector<std::string> Lines() const;

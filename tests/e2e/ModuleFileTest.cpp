@@ -110,7 +110,7 @@ TEST_P(ModuleFile, IsProtectedLikeItsCompanions) {
 }
 
 // What would differ from one build to the next, or from one checkout to another.
-TEST_P(ModuleFile, HoldsNeitherTimeNorPlaceOfItsBuild) {
+TEST_P(ModuleFile, ContainsNeitherBuildTimeNorBuildPath) {
     for (const char* file :
          {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe", "tavrincheck.exe"}) {
         EXPECT_NE(Headers(file).find("Thu Jan  1 00:00:00 1970"), std::string::npos) << file;

@@ -1,4 +1,4 @@
-// LISP text: reading it ends in values or in a mistake with its place, and a value that is printed reads as
+// LISP text: reading it ends in values or in an error with its position, and a value that is printed reads as
 // it was.
 #include <optional>
 #include <vector>

@@ -252,7 +252,7 @@ void CSimpleGrid::DropDown(const SimpleItem& item) {
     }
 }
 
-// While a dialog is open the client may do away with the item, or put another in its place.
+// While a dialog is open the client may remove the item or replace it.
 void CSimpleGrid::EditInDialog(Id id, unsigned answer) {
     window.editor = ED_NONE;
     const SimpleItem* const item = FindItem(id);

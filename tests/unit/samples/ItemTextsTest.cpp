@@ -54,7 +54,7 @@ protected:
     std::map<unsigned, std::wstring> texts = TextsIn(GetParam());
 };
 
-TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheirPlace) {
+TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheDialog) {
     for (const SampleItem& item : SampleItems()) {
         const std::vector<unsigned> numbers = PlaceholdersOf(item.name);
         ASSERT_GT(numbers.size(), 10u) << item.name;

@@ -96,11 +96,11 @@ TEST(TextTable, AFileWithoutTextsIsRefused) {
 TEST(TextTable, TheColumnOfATextIsThatOfItsNumber) {
     CTextTable table;
     table.ReadBytes("a.rc", "\xEF\xBB\xBFSTRINGTABLE {1 \"a\\\nb\" 2 \"c\"\n\t3 \"d\" }");
-    std::vector<std::size_t> places;
+    std::vector<std::size_t> positions;
     for (const TextEntry& text : table.Texts()) {
-        places.insert(places.end(), {text.line, text.column});
+        positions.insert(positions.end(), {text.line, text.column});
     }
-    EXPECT_EQ(places, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));
+    EXPECT_EQ(positions, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));
 }
 
 }  // namespace

@@ -165,7 +165,7 @@ TEST(Window, CentresAPopUpOverItsOwnerButInsideTheWorkArea) {
     EXPECT_TRUE(rect.TopLeft() == CPoint(0, 0));
 }
 
-TEST(Window, PlacesItselfAmongTheOthers) {
+TEST(Window, ChangesItsZOrder) {
     CWnd window;
     window.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
     EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));

@@ -18,14 +18,14 @@ TEST_F(DynDialog, HostsAnActiveXControlInItsRectangle) {
                             const HWND control = ::GetDlgItem(window, static_cast<int>(id));
                             ASSERT_NE(control, nullptr);
                             EXPECT_EQ(dialog.GetItem(0)->m_hWnd, control);
-                            EXPECT_EQ(PlaceOf(control), ToPixels(window, rect));
+                            EXPECT_EQ(ClientRectOf(control), ToPixels(window, rect));
                             EXPECT_EQ(TextOf(control), L"caption");
                             EXPECT_NE(::GetWindowLong(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
                             const HWND browser = ::GetWindow(control, GW_CHILD);
                             ASSERT_NE(browser, nullptr);
                             CRect client;
                             ::GetClientRect(control, &client);
-                            EXPECT_EQ(PlaceOf(browser), client);
+                            EXPECT_EQ(ClientRectOf(browser), client);
                         }),
               IDOK);
     EXPECT_EQ(dialog.GetItem(0)->m_hWnd, nullptr);

@@ -130,7 +130,7 @@ inline std::wstring ClassOf(HWND window) {
 }
 
 // The child's rectangle in client coordinates of its parent.
-inline CRect PlaceOf(HWND child) {
+inline CRect ClientRectOf(HWND child) {
     CRect rect;
     ::GetWindowRect(child, &rect);
     ::MapWindowPoints(nullptr, ::GetParent(child), reinterpret_cast<POINT*>(&rect), 2);

@@ -71,7 +71,7 @@ TEST_F(EditorDialogs, ATextIsTypedOverSeveralLines) {
                                 EXPECT_EQ(TextOf(window), L"Note");
                                 EXPECT_EQ(TextOf(edit), L"one\r\ntwo");
                                 EXPECT_EQ(::GetFocus(), edit);
-                                EXPECT_EQ(PlaceOf(edit), ToPixels(window, CRect(7, 7, 200, 100)));
+                                EXPECT_EQ(ClientRectOf(edit), ToPixels(window, CRect(7, 7, 200, 100)));
                                 EXPECT_EQ(FontOf(edit).lfHeight, -11);
                                 EXPECT_NE(::GetWindowLong(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
                                 ::SendMessageW(edit, EM_SETSEL, 3, 3);
@@ -192,7 +192,7 @@ TEST_F(EditorDialogs, BothFitTheirControls) {
         for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT)) {
             CRect outside;
-            ::SubtractRect(&outside, PlaceOf(child), client);
+            ::SubtractRect(&outside, ClientRectOf(child), client);
             EXPECT_TRUE(outside.IsRectEmpty()) << testing::PrintToString(ClassOf(child));
         }
     };

@@ -40,7 +40,7 @@ protected:
 HWND CellOf(HWND dialog, int cell);
 
 // A control's window rectangle in the dialog's client coordinates.
-RECT PlaceOf(HWND dialog, HWND control);
+RECT RectOf(HWND dialog, HWND control);
 
 // What cells 1 to 6 show: the number of the choice whose colour it is, 'L' the logo, 'E' the stand-in for a
 // missing slide, '.' nothing (white), '?' anything else; ' ' for a cell outside the window.

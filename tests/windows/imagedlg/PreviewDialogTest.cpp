@@ -1,4 +1,4 @@
-// The preview dialog: its place, its picture, how it ends.
+// The preview dialog: its position, its picture, how it ends.
 #include <gtest/gtest.h>
 
 #include "imagedlg/TavrinPreviewDlg.h"
@@ -52,10 +52,10 @@ bool IsEmpty(HWND window) {
 
 TEST_F(PreviewDialog, StandsInTheCornerOfTheScreenInItsOwnSize) {
     Run(L"two", [](HWND window) {
-        RECT place;
-        GetWindowRect(window, &place);
-        EXPECT_EQ(place.left, 100);
-        EXPECT_EQ(place.top, 5);
+        RECT rect;
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(rect.left, 100);
+        EXPECT_EQ(rect.top, 5);
         RECT size = {0, 0, 467, 304};
         MapDialogRect(window, &size);
         RECT client;
@@ -72,10 +72,10 @@ TEST_F(PreviewDialog, StandsThereWhateverOwnsIt) {
                    nullptr, 0);
     CTavrinPreviewDlg dialog(&owner);
     m_driver.Then([](HWND window) {
-        RECT place;
-        GetWindowRect(window, &place);
-        EXPECT_EQ(place.left, 100);
-        EXPECT_EQ(place.top, 5);
+        RECT rect;
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(rect.left, 100);
+        EXPECT_EQ(rect.top, 5);
         PressCloseBox(window);
     });
     dialog.DoModal();

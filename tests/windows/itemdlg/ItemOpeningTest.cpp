@@ -17,15 +17,15 @@ protected:
         OfferTextModule();
     }
 
-    // From here on the host finds the working file, searched for the n-th time, where `place` says; nothing
-    // is not at all. The dialog searches for it once to see whether it is there and once to read it.
-    void FindWorkingFile(std::function<std::optional<std::wstring>(int search)> place) {
-        fakeHost.findFile = [this, place = std::move(place), searches = 0](const wchar_t* name,
-                                                                           wchar_t* result, size_t) mutable {
+    // From here on the host answers the n-th search for the working file with the path from `find`; without
+    // one the file is not found. The dialog searches once to check that the file exists and once to read it.
+    void FindWorkingFile(std::function<std::optional<std::wstring>(int search)> find) {
+        fakeHost.findFile = [this, find = std::move(find), searches = 0](const wchar_t* name, wchar_t* result,
+                                                                         size_t) mutable {
             if (std::wcscmp(name, L"item_TMP.TXT") != 0) {
                 return FakeHost::RtNorm - 1;
             }
-            const std::optional<std::wstring> path = place(++searches);
+            const std::optional<std::wstring> path = find(++searches);
             std::wcscpy(result, path.value_or(L"").c_str());
             return path ? FakeHost::RtNorm : FakeHost::RtNorm - 1;
         };

@@ -78,7 +78,7 @@ protected:
 
 // ---- The window
 
-TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheScreenPlaceOfTheRectangle) {
+TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheRectanglesScreenPosition) {
     CPropertyGridCombo list;
     ASSERT_TRUE(list.Create(WS_CHILD, Under(), &grid, 0));
     EXPECT_EQ(list.GetStyle() & (WS_CHILD | WS_POPUP | WS_VISIBLE), static_cast<DWORD>(WS_CHILD | WS_POPUP));
@@ -87,10 +87,10 @@ TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheScreenPlaceOfTheRectangle) {
     EXPECT_EQ(::GetAncestor(list.m_hWnd, GA_PARENT), ::GetDesktopWindow());
     EXPECT_EQ(list.GetOwner(), &grid);
     EXPECT_EQ(::GetWindowTextLength(list), 0);
-    CRect place;
-    list.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, Under());
+    CRect rect;
+    list.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, Under());
 }
 
 TEST_F(ComboList, HasAPlainWindowClass) {
@@ -115,10 +115,10 @@ TEST_F(ComboList, HasNothingSelectedAtTheStart) {
 
 TEST_F(ComboList, IsAsHighAsItsStringsWhenShownAndHasTheFocus) {
     const CPropertyGridCombo& list = Open();
-    CRect place;
-    list.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, CRect(150, 36, 300, 36 + 3 * RowHeight() + 2));
+    CRect rect;
+    list.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(150, 36, 300, 36 + 3 * RowHeight() + 2));
     EXPECT_EQ(::GetFocus(), list.m_hWnd);
     EXPECT_TRUE(list.IsWindowVisible());
     EXPECT_TRUE(grid.reports.empty());
@@ -396,9 +396,8 @@ TEST_F(ComboListPaint, UsesTheSystemsColorsAtTheStart) {
 }
 
 TEST_F(ComboListPaint, NeedsNoRoom) {
-    for (const CRect& place :
-         {CRect(0, 0, 0, 0), CRect(5, 5, 6, 6), CRect(5, 5, 2, 2), CRect(0, 0, 3, 100)}) {
-        OpenList(grid, Three(), 0, place, &parent.font);
+    for (const CRect& rect : {CRect(0, 0, 0, 0), CRect(5, 5, 6, 6), CRect(5, 5, 2, 2), CRect(0, 0, 3, 100)}) {
+        OpenList(grid, Three(), 0, rect, &parent.font);
         Paint();
         // Smaller than a row.
         List().SetWindowPos(nullptr, 0, 0, 40, 3, SWP_NOMOVE | SWP_NOZORDER);

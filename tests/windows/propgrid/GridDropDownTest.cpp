@@ -257,7 +257,7 @@ TEST_F(GridDropDown, AListIsDestroyedAfterTheNotificationOfItsChoice) {
         const HWND editor = List() != nullptr ? List() : Calendar();
         ASSERT_NE(editor, nullptr);
         bool wasThere = false;
-        owner.heard = [&](UINT) { wasThere = ::IsWindow(editor) != FALSE; };
+        owner.onChanged = [&](UINT) { wasThere = ::IsWindow(editor) != FALSE; };
         ::SendMessage(editor, WM_KEYDOWN, VK_RETURN, 1);
         EXPECT_TRUE(wasThere);
         EXPECT_FALSE(::IsWindow(editor));
@@ -279,7 +279,7 @@ TEST_F(GridDropDown, AClickOnAnotherValueClosesTheListAndOpensTheNext) {
 TEST_F(GridDropDown, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChoice) {
     CListeningOwner owner;
     grid.SetOwner(&owner);
-    owner.heard = [&](UINT) { grid.ResetContents(); };
+    owner.onChanged = [&](UINT) { grid.ResetContents(); };
     const UINT item = AddCombo();
     ClickOn(ValueOf(item));
     ::SendMessage(List(), WM_KEYDOWN, VK_RETURN, 1);

@@ -12,7 +12,7 @@ namespace {
 
 class GridEdit : public GridInputTest {
 protected:
-    // The edit's place in client coordinates of the grid.
+    // The edit's rectangle in client coordinates of the grid.
     CRect EditRect() {
         CRect rect;
         ::GetWindowRect(Edit(), &rect);
@@ -596,7 +596,7 @@ TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChange) {
     for (const EItemType kind : {IT_STRING, IT_INTEGER, IT_DOUBLE, IT_CUSTOM}) {
         custom.mode = EM_INPLACE;
         int heard = 0;
-        owner.heard = [&](UINT) {
+        owner.onChanged = [&](UINT) {
             ++heard;
             grid.ResetContents();
         };
@@ -617,7 +617,7 @@ TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChange) {
 TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenItHearsOfTheChange) {
     CListeningOwner owner;
     grid.SetOwner(&owner);
-    owner.heard = [&](UINT) { grid.DestroyWindow(); };
+    owner.onChanged = [&](UINT) { grid.DestroyWindow(); };
     const UINT item = grid.AddStringItem(section, L"a", L"b");
     ClickOn(ValueOf(item));
     ::SetWindowText(Edit(), L"c");

@@ -49,13 +49,13 @@ protected:
         return child;
     }
     static std::wstring Caption(HWND dialog, int id) { return TextOf(::GetDlgItem(dialog, id)); }
-    // The place of a control in dialog units.
+    // The rectangle of a control in dialog units.
     static void ExpectAt(HWND dialog, HWND control, CRect units) {
         ::MapDialogRect(dialog, units);
-        CRect place;
-        ::GetWindowRect(control, &place);
-        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<LPPOINT>(&place), 2);
-        EXPECT_EQ(place, units);
+        CRect rect;
+        ::GetWindowRect(control, &rect);
+        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<LPPOINT>(&rect), 2);
+        EXPECT_EQ(rect, units);
     }
     static SYSTEMTIME TimeOf(HWND picker) {
         SYSTEMTIME time = {};

@@ -110,9 +110,9 @@ protected:
         if (popUp == nullptr) {
             return;
         }
-        const LPARAM place = MAKELPARAM(Below(200), Below(160));
-        ::PostMessage(popUp, WM_LBUTTONDOWN, 0, place);
-        ::PostMessage(popUp, WM_LBUTTONUP, 0, place);
+        const LPARAM position = MAKELPARAM(Below(200), Below(160));
+        ::PostMessage(popUp, WM_LBUTTONDOWN, 0, position);
+        ::PostMessage(popUp, WM_LBUTTONUP, 0, position);
         PumpMessages();
     }
     // Back to what it was: no editor, no scrolling, no focus, nothing captured, the values of the start.

@@ -46,7 +46,7 @@ protected:
     CPropertyGridInPlaceEdit& Open(const std::wstring& text) {
         return OpenEdit(grid, text, Cell(), &parent.font);
     }
-    // The selection's start and end; both are the caret's place when nothing is selected.
+    // The selection's start and end; both are the caret's position when nothing is selected.
     static CPoint Selection(HWND edit) {
         DWORD start = 0;
         DWORD end = 0;
@@ -55,16 +55,16 @@ protected:
     }
 };
 
-TEST_F(InPlaceEdit, IsAHiddenChildOfTheGridAtThePlaceGiven) {
+TEST_F(InPlaceEdit, IsAHiddenChildOfTheGridInTheGivenRectangle) {
     CPropertyGridInPlaceEdit edit(&grid, CRect(11, 22, 133, 44), 0, 1000, L"x");
     ASSERT_NE(edit.m_hWnd, nullptr);
     EXPECT_EQ(::GetParent(edit.m_hWnd), grid.m_hWnd);
     EXPECT_EQ(edit.GetDlgCtrlID(), 1000);
     EXPECT_EQ(edit.GetStyle(), static_cast<DWORD>(WS_CHILD | ES_AUTOHSCROLL));
-    CRect place;
-    edit.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, CRect(11, 22, 133, 44));
+    CRect rect;
+    edit.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(11, 22, 133, 44));
     EXPECT_EQ(edit.GetPosition(), CRect(11, 22, 133, 44));
 }
 
@@ -120,10 +120,10 @@ TEST_F(InPlaceEdit, HasNoWindowAndDoesNothingElseWhenItCannotBeCreated) {
     edit.SetColors(back, textColor);
 }
 
-TEST_F(InPlaceEdit, TakesTheSmallestAndStrangestPlaces) {
-    for (const CRect& place : {CRect(0, 0, 0, 0), CRect(50, 50, 40, 40), CRect(-900, 5, -800, 9),
-                               CRect(0, 0, 30000, 30000), CRect(5, 5, 6, 6)}) {
-        const HWND edit = OpenEdit(grid, L"text", place, &parent.font).m_hWnd;
+TEST_F(InPlaceEdit, TakesEmptyInvertedHugeAndOffScreenRectangles) {
+    for (const CRect& rect : {CRect(0, 0, 0, 0), CRect(50, 50, 40, 40), CRect(-900, 5, -800, 9),
+                              CRect(0, 0, 30000, 30000), CRect(5, 5, 6, 6)}) {
+        const HWND edit = OpenEdit(grid, L"text", rect, &parent.font).m_hWnd;
         ::UpdateWindow(edit);
         Type(edit, L"!\r");
         EXPECT_EQ(grid.reports, std::vector{Done(L"text!")});

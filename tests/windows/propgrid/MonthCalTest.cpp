@@ -22,9 +22,9 @@ CPropertyGridMonthCalCtrl& OpenCalendar(CEditorGrid& grid, const COleDateTime& d
     calendar->SetCurSel(date);
     calendar->SetOwner(&grid);
     calendar->SizeMinReq(TRUE);
-    CRect place;
-    calendar->GetWindowRect(&place);
-    calendar->SetWindowPos(nullptr, cell.right - place.Width(), place.top, 0, 0,
+    CRect rect;
+    calendar->GetWindowRect(&rect);
+    calendar->SetWindowPos(nullptr, cell.right - rect.Width(), rect.top, 0, 0,
                            SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
     CPropertyGridMonthCalCtrl& opened = *calendar;
     grid.editor = std::move(calendar);
@@ -64,9 +64,9 @@ protected:
         return {0, 0};
     }
     static void Press(HWND calendar, POINT point) {
-        const LPARAM place = MAKELPARAM(point.x, point.y);
-        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, place);
-        ::SendMessage(calendar, WM_LBUTTONUP, 0, place);
+        const LPARAM rect = MAKELPARAM(point.x, point.y);
+        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, rect);
+        ::SendMessage(calendar, WM_LBUTTONUP, 0, rect);
     }
     static void PressDay(HWND calendar, int day) { Press(calendar, Find(calendar, MCHT_CALENDARDATE, day)); }
 };
@@ -80,13 +80,13 @@ TEST_F(MonthCal, IsAPopUpUnderTheCellThatAlignsWithItsRightEdge) {
     EXPECT_EQ(calendar.GetOwner(), &grid);
     CRect cell = Cell();
     grid.ClientToScreen(&cell);
-    CRect place;
-    calendar.GetWindowRect(&place);
-    EXPECT_EQ(place.top, cell.bottom);
-    EXPECT_EQ(place.right, cell.right);
+    CRect rect;
+    calendar.GetWindowRect(&rect);
+    EXPECT_EQ(rect.top, cell.bottom);
+    EXPECT_EQ(rect.right, cell.right);
     CRect smallest;
     calendar.GetMinReqRect(smallest);
-    EXPECT_EQ(place.Size(), smallest.Size());
+    EXPECT_EQ(rect.Size(), smallest.Size());
 }
 
 TEST_F(MonthCal, ShowsTheDateAndHasTheFocus) {
@@ -192,12 +192,12 @@ TEST_F(MonthCal, StaysWhileAChildOfItsOwnHasTheFocus) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-// The year is edited in an edit that has the focus in place of the calendar.
+// The year is edited in an edit that has the focus instead of the calendar.
 class MonthCalYear : public MonthCal {
 protected:
     HWND OpenYear() {
         const HWND calendar = Open().m_hWnd;
-        ::UpdateWindow(calendar);  // places the year
+        ::UpdateWindow(calendar);  // positions the year
         MonthCal::Press(calendar, Find(calendar, MCHT_TITLEYEAR));
         m_edit = ::GetFocus();
         EXPECT_EQ(::GetParent(m_edit), calendar);

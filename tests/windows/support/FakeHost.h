@@ -38,7 +38,7 @@ struct FakeHost {
     std::function<void()> duringPick;  // called inside sds_getpoint
     std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
 
-    // A real host's formats of distances in place of "U2:900.0000"; nothing for what has no format.
+    // A real host's formats of distances instead of "U2:900.0000"; nothing for what has no format.
     std::function<std::optional<std::wstring>(double value, int units, int precision)> distanceText;
     std::function<std::optional<double>(const std::wstring& text)> distanceOf;
 
