@@ -178,7 +178,7 @@ INT_PTR CDialog::DoModal() {
         ::SetActiveWindow(owner);
     }
     DestroyWindow();
-    // A dialog brings the focus back to its control by itself, other windows keep it.
+    // A dialog restores the focus to its control, other windows keep it.
     if (owner != nullptr && ::GetFocus() == owner && ::IsChild(owner, focus)) {
         ::SetFocus(focus);
     }
@@ -197,7 +197,7 @@ void CDialog::RunModalLoop() {
         } else if (::GetMessage(&message, nullptr, 0, 0) > 0) {
             Pump(message);
         } else {
-            // The program is to end: its own loop must hear of it too.
+            // WM_QUIT: posted again, for the program's own message loop.
             ::PostQuitMessage(static_cast<int>(message.wParam));
             m_ended = true;
         }

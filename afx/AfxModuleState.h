@@ -16,9 +16,9 @@ AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
 // framework do so automatically.
 AFX_MODULE_STATE* AFXAPI AfxGetModuleState();
 
-// Puts a module state to work until the end of the scope; the one before comes back on every way out.
+// Makes a module state the current one until the end of the scope, which restores the previous one.
 // The outermost code of every entry into the module needs one. Temporary objects (CWnd::FromHandle and
-// its like) made in the scope end with it.
+// the like) that are made in the scope are deleted with it.
 struct AFX_MAINTAIN_STATE2 {
     explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state);
     ~AFX_MAINTAIN_STATE2();

@@ -157,7 +157,7 @@ BOOL CWnd::DestroyWindow() {
     }
     const HWND window = m_hWnd;
     const BOOL destroyed = ::DestroyWindow(window);
-    // An object that never got the window's messages has not heard of its end.
+    // An object that never got the window's messages did not get WM_NCDESTROY either.
     if (FromHandlePermanent(window) == this) {
         Detach();
     }

@@ -56,7 +56,7 @@ class CWnd : public CCmdTarget {
     // May change what the window is created with; FALSE ends the creation.
     virtual BOOL PreCreateWindow(CREATESTRUCT& create);
     virtual BOOL DestroyWindow();
-    // The last thing that an object hears of its window; by then it has none.
+    // Called last, when the window no longer exists.
     virtual void PostNcDestroy() {}
 
     // Messages.
@@ -69,7 +69,7 @@ class CWnd : public CCmdTarget {
     static const MSG* PASCAL GetCurrentMessage();
     virtual BOOL PreTranslateMessage(MSG* message);
 
-    // Relatives. An owner that was set hears the notifications that the parent would hear otherwise.
+    // Parent and owner. An owner that was set gets the notifications instead of the parent.
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetOwner() const { return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent(); }
     void SetOwner(CWnd* owner) { m_hWndOwner = owner != nullptr ? owner->m_hWnd : nullptr; }
@@ -156,7 +156,7 @@ class CWnd : public CCmdTarget {
     }
 
     // Data exchange between controls and members. FALSE when a DDX operation gave up. Meanwhile the window
-    // hears no notification of its controls.
+    // gets no notifications from its controls.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
 protected:

@@ -41,7 +41,7 @@ bool ReadFontOf(const CWnd* window, LOGFONT& font) {
     return handle != nullptr && ::GetObject(handle, sizeof(font), &font) != 0;
 }
 
-// The classes of the newer common controls exist only once they have been asked for.
+// The window classes of the newer common controls must be registered before they can be used.
 void RegisterCommonControls() {
     INITCOMMONCONTROLSEX classes = {
         sizeof(classes), ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_USEREX_CLASSES | ICC_INTERNET_CLASSES};

@@ -74,7 +74,7 @@ public:
     virtual UINT AddSubclassedDlgControl(LPCTSTR className, LPCTSTR caption, DWORD style, DWORD exStyle,
                                          const RECT* rect, UINT id);
 
-    // The user asks for help (F1).
+    // The user requests help (F1).
     virtual BOOL OnHelpInfo(HELPINFO* help);
 
     BOOL OnInitDialog() override;
@@ -84,7 +84,7 @@ protected:
         return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
     }
     void DoDataExchange(CDataExchange* pDX) override;
-    // OK and Cancel end the dialog; every other command is the parent's to hear first.
+    // OK and Cancel end the dialog; every other command goes to the parent first.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override;
     void OnCancel() override;

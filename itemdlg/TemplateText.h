@@ -27,7 +27,7 @@
 
 namespace tavrin::itemdlg {
 
-// Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
+// Gives the text with a number in the resource module; empty when there is none. Called with numbers from
 // 1 to 65535 only.
 using TextLookup = std::function<std::wstring(unsigned id)>;
 

@@ -26,8 +26,8 @@ protected:
     // gets.
     virtual void Relayout() = 0;
     virtual void RelayoutLater() = 0;
-    // Ends an open editor with its result, before something becomes of its row. Whoever hears of the result
-    // may do anything to the grid.
+    // Ends an open editor with its result, before its row changes. The owner's handler of the result may do
+    // anything to the grid.
     virtual void LeaveEditor() = 0;
 
     template <class T>

@@ -170,7 +170,7 @@ void CPropertyGrid::SettleLayout() {
     }
 }
 
-// Tells the layout what the window is like now. The scroll bar is the one that knows the position.
+// Gives the layout the window's current size and scroll position; the scroll bar holds the position.
 void CPropertyGrid::UpdateView() {
     CRect client;
     GetClientRect(&client);
@@ -204,7 +204,7 @@ void CPropertyGrid::Repaint() {
     }
 }
 
-// The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
+// The whole window counts as painted, whatever a custom item did to it.
 void CPropertyGrid::OnPaint() {
     CPaintDC dc(this);
     UpdateView();
@@ -237,7 +237,7 @@ bool CPropertyGrid::IsReadyForHitTest() {
     return true;
 }
 
-// Ends an open editor with its result. False when whoever heard of the result took the window away.
+// Ends an open editor with its result. False when the owner's handler of the result destroyed the window.
 bool CPropertyGrid::TakeFocus() {
     SetFocus();
     m_editors.Close();

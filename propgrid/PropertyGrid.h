@@ -47,8 +47,8 @@ public:
     CPropertyGrid();
     ~CPropertyGrid() override;
 
-    // Tells the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
-    // their value from a window of their own; all other changes the grid notifies by itself.
+    // Notifies the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
+    // their value from a window of their own; the grid notifies of all other changes.
     void NotifyChanged(UINT item) override;
 
     // The focused row: an item or a section, at most one of the two. Focusing one takes the focus from

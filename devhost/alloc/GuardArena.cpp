@@ -93,8 +93,8 @@ unsigned char* CGuardArena::PageAt(std::size_t page) const {
 // guard page.
 unsigned char* CGuardArena::DataOf(std::size_t page) const {
     const Record& record = m_records[page];
-    const std::size_t room = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
-    return PageAt(page + record.pages) - room;
+    const std::size_t size = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
+    return PageAt(page + record.pages) - size;
 }
 
 const CGuardArena::Record* CGuardArena::RecordAt(const void* address) const {

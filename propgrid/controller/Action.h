@@ -70,15 +70,15 @@ struct EditInDialog {
     Id item;
 };
 
-// Gives a custom item the text of its edit, which the user typed or left as it was: calls
-// ICustomItem::SetStringValue, and notifies when that is true.
+// Passes the text of its edit to a custom item; `typed` when the user changed it. Calls
+// ICustomItem::SetStringValue, and notifies the owner when that returns true.
 struct GiveText {
     Id item;
     std::wstring text;
     bool typed;
 };
 
-// Tells the owner that the user changed the item. Sent even when the item is gone by then.
+// Notifies the owner that the user changed the item. Sent even when the item no longer exists.
 struct Notify {
     Id item;
 };

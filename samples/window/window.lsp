@@ -199,7 +199,7 @@
             (atan drop half) (- item-pi (atan drop half)))
   (item-line origin (- (* 0.5 (item-of values 1)) half) spring (+ (* 0.5 (item-of values 1)) half) spring))
 
-; A sash with its glass, bars, handle and the lines that tell how it opens: they meet at the hinges' side.
+; A sash with its glass, bars, handle and the lines that show how it opens: they meet at the hinges' side.
 (defun window-sash (variant values origin x y index / sash high stile way)
   (setq sash  (window-sash-width variant values)
         high  (window-sash-height variant values)

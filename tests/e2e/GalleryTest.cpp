@@ -270,7 +270,7 @@ TEST_F(Gallery, TheCloseBoxWhileAnEditIsOpenTakesTheTextOnce) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ClickValue("Name");
     TypeOver("Ash door");
-    // The window manager asks for the close beside the keyboard's queue and would overtake keys that wait
+    // The window manager's close request bypasses the keyboard's queue and would overtake keys that wait
     // there: the gallery prints the positions once all earlier input has been handled.
     ASSERT_NO_FATAL_FAILURE(ReadRectangles());
     PressKeys("alt+F4");

@@ -33,16 +33,16 @@ void GalleryWindow::ReadRectangles() {
         return std::count(lines.begin(), lines.end(), "rectangles end");
     };
     // A key may come before Wine knows that the window has the focus: it is pressed again. Not soon: the
-    // first one may only be late, and a second telling would be taken for a later one.
+    // first one may only be late, and a second list would be taken for a later one.
     const auto before = ends();
     ASSERT_TRUE(WaitUntil([&] {
         PressKeys("F1");
         return WaitUntil([&] { return ends() > before; }, 8);
-    })) << "the gallery did not print its positions";
+    })) << "the gallery did not print its rectangles";
     cells.clear();
     cellOrder.clear();
     const std::vector<std::string> all = Lines();
-    // The last telling counts.
+    // The last list counts.
     const auto last = std::find(std::next(all.rbegin()), all.rend(), "rectangles end").base();
     for (const std::string& line : std::vector<std::string>(last, all.end())) {
         std::istringstream words(line);

@@ -49,7 +49,7 @@ void ItemDialogWindow::Type(int row, const std::string& text) const {
 
 Window ItemDialogWindow::WaitForQuestion() const {
     EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }))
-        << "the dialog did not make room for the drawing";
+        << "the dialog was not hidden for picking in the drawing";
     const Window main = Window::WithTitle("DevHost");
     // The question is longer than the idle prompt's label, which has its colour.
     const auto isAsked = [&] {

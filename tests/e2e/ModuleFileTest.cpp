@@ -150,7 +150,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     EXPECT_EQ(host.Answer(), "0");
 }
 
-TEST(AnyHost, IsToldWhichFunctionItLacks) {
+TEST(AnyHost, GetsAMessageThatNamesAMissingFunction) {
     HostRun host;
     host.UseProgram(ArchitectureFolder() / "tests" / "IncompleteHost.exe");
     host.Start({});
@@ -164,7 +164,7 @@ TEST(AnyHost, IsToldWhichFunctionItLacks) {
 }
 
 // Pictures need GDI+, which every supported Windows has.
-TEST(AnyHost, IsToldThatALibraryIsMissing) {
+TEST(AnyHost, GetsAMessageWhenALibraryIsMissing) {
     const std::string overrides = std::getenv("WINEDLLOVERRIDES");
     setenv("WINEDLLOVERRIDES", (overrides + ";gdiplus=").c_str(), 1);
     HostRun host;

@@ -1,5 +1,5 @@
-// The bytes of a dialog template: they fill exactly the room that was asked for, and reading them field by
-// field gives back what went in.
+// The bytes of a dialog template: they have exactly the computed size, and reading them field by field gives
+// back the input.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <memory>
@@ -154,14 +154,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     dialog.extent = layout.Extent();
 
-    const std::size_t room = TemplateSize(dialog);
-    const auto memory = std::make_unique<std::byte[]>(room);
-    WriteTemplate(dialog, {memory.get(), room});
-    CFieldReader reader({memory.get(), room});
+    const std::size_t size = TemplateSize(dialog);
+    const auto memory = std::make_unique<std::byte[]>(size);
+    WriteTemplate(dialog, {memory.get(), size});
+    CFieldReader reader({memory.get(), size});
     RequireHead(reader, dialog);
     for (const DialogTemplateItem& item : dialog.items) {
         RequireItem(reader, item);
     }
-    Require(reader.AtEnd(), "the template fills its room");
+    Require(reader.AtEnd(), "the template fills its buffer");
     return 0;
 }

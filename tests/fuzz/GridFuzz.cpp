@@ -182,8 +182,8 @@ public:
             const GridItem& item = *m_model.FindItem(id);
             const bool changed =
                 !IsSameValue(item.value, m_before[id].first) || item.undefined != m_before[id].second;
-            proof.Holds(notified[id] <= 1, "the owner hears of a change once");
-            proof.Holds(!changed || notified[id] == 1, "the owner hears of every change");
+            proof.Holds(notified[id] <= 1, "the owner is notified of a change once");
+            proof.Holds(!changed || notified[id] == 1, "the owner is notified of every change");
         }
     }
 

@@ -1,5 +1,5 @@
 // The property grid under test, model, layout and controllers, in a window that is none: carries out what the
-// controllers ask for and records it.
+// controllers return and records it.
 #pragma once
 
 #include <memory>

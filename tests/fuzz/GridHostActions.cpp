@@ -1,4 +1,4 @@
-// The host: what the controllers ask for.
+// The host: carries out the controllers' actions.
 #include <utility>
 #include <variant>
 
@@ -36,8 +36,8 @@ Id CGridHost::FindNamedItem(const Action& asked) {
         asked);
 }
 
-// Every item that is named is there when it is asked for. By the turn of its action it may be gone; the owner
-// alone hears of it even then.
+// Every item that an action names exists when the actions are returned. It may be gone when its action runs;
+// only the owner's notification is sent even then.
 void CGridHost::Run(const Actions& actions) {
     int editors = 0;
     for (const Action& asked : actions) {
@@ -45,7 +45,7 @@ void CGridHost::Run(const Actions& actions) {
         Require(item == kNoId || m_model.FindItem(item) != nullptr, "an action is for an item that is there");
         editors += OpensEditor(asked) ? 1 : 0;
     }
-    Require(editors <= 1, "one editor at a time is asked for");
+    Require(editors <= 1, "the actions open at most one editor");
     for (const Action& asked : actions) {
         const Id item = FindNamedItem(asked);
         if (item == kNoId || m_model.FindItem(item) != nullptr ||
@@ -96,7 +96,7 @@ void CGridHost::Do(const action::AskCustomItem& question) {
 
 void CGridHost::Do(const action::TellCustomItem& event) {
     ICustomItem* const custom = m_model.FindItem(event.item)->GetCustomItem();
-    Require(custom != nullptr, "a custom item is told");
+    Require(custom != nullptr, "a custom item is notified");
     const bool isMove = event.event == CE_MOVE;
     Record({.kind = isMove ? DD_CUSTOM_MOVE : DD_CUSTOM_UP,
             .item = event.item,
@@ -132,7 +132,7 @@ void CGridHost::Do(const action::DropDown& list) {
     }
 }
 
-// A dialog is for an editable item alone, however it was asked for.
+// A dialog is for an editable item alone, whichever action requests it.
 void CGridHost::Do(const action::EditInDialog& dialog) {
     window.editor = ED_NONE;
     const GridItem& item = *m_model.FindItem(dialog.item);

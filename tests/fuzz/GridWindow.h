@@ -40,7 +40,7 @@ struct Deed {
     bool operator==(const Deed&) const = default;
 };
 
-// The system's scroll bar, which keeps its position between its ends by itself.
+// The system's scroll bar, which clamps its position to its range.
 struct ScrollBar {
     static constexpr int kWidth = 17;
 

@@ -29,7 +29,7 @@ std::vector<CValue> ReadAll(const std::wstring& text) {
             values.push_back(*std::move(value));
         }
     } catch (const CLispError& mistake) {
-        Require(!mistake.Text().empty(), "a mistake is told");
+        Require(!mistake.Text().empty(), "an error has a text");
     }
     return values;
 }

@@ -127,7 +127,7 @@ void CSimpleGrid::SetChoices(Id id, int count) {
     }
 }
 
-// A custom item that is told so may remove rows.
+// A custom item's handler may remove rows.
 void CSimpleGrid::AcceptValues() {
     for (Id id = 0; id < m_nextItem; ++id) {
         TakeSavedCopy(id);

@@ -117,7 +117,7 @@ void CSimpleGrid::Capture(ECapture use) {
     Repaint();
 }
 
-// Returns what the mouse was captured for. Whoever took the capture away has it already.
+// Returns what the mouse was captured for. A window that took the capture away has it already.
 CSimpleGrid::ECapture CSimpleGrid::EndCapture() {
     const ECapture use = std::exchange(m_use, CP_NONE);
     if (use != CP_NONE) {
@@ -343,7 +343,7 @@ void CSimpleGrid::TakeText(const std::wstring& text, bool typed) {
     } else if (isNumber && text.empty()) {
         Repaint();
     } else if (isNumber || item->kind == IT_STRING) {
-        // What nobody typed keeps its value: a number the digits that its text does not have.
+        // Text that was not typed keeps its value: a number the digits that its text does not have.
         if (typed) {
             item->value.text = text;
             item->value.number = ReadInteger(text);

@@ -36,7 +36,7 @@ TEST_F(LispErrors, TheSilentResultOfPrincIsNamed) {
     EXPECT_EQ(Mistake(L"(+ 1 (princ))"), L"line 1: + needs a number as argument 2, not what (princ) gives");
 }
 
-TEST_F(LispErrors, TheUsersOwnErrorFunctionHearsOfAMistakeOnce) {
+TEST_F(LispErrors, TheUsersOwnErrorFunctionIsCalledOnce) {
     Evaluate(
         L"(defun *error* (text) (princ (strcat \"[\" text \"]\")))(defun f (x) (g x)) (defun g (x) (car x))");
     try {
@@ -70,7 +70,7 @@ TEST_F(LispErrors, AnErrorFunctionMayBeALocalAndSeesTheLocals) {
     ExpectValues({{L"saved", L"1"}, {L"*error*", L"nil"}});
 }
 
-TEST_F(LispErrors, AMistakeInTheErrorFunctionIsToldInstead) {
+TEST_F(LispErrors, AnErrorInTheErrorFunctionIsReportedInstead) {
     Evaluate(L"(defun *error* (text) (cdr 6))");
     try {
         Evaluate(L"(car 5)");

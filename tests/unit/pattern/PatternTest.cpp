@@ -522,7 +522,7 @@ TEST(Match, PointsIntoTheCallersInput) {
     EXPECT_EQ(context.GroupText(0), L"B");
 }
 
-TEST(Match, TellsWhereItStoppedWhenItFails) {
+TEST(Match, ReturnsWhereItStoppedWhenItFails) {
     CPatternMatcher matcher;
     CMatchContext context;
     const wchar_t input[] = L"abc";

@@ -16,7 +16,7 @@ using namespace tavrin::tools;
 
 namespace {
 
-// What the dialogs have room for, in letters of usual width.
+// The longest texts that the dialogs show in full, in letters of average width.
 constexpr std::size_t kLabelLetters = 34;
 constexpr std::size_t kTitleLetters = 18;
 

@@ -85,7 +85,7 @@ TEST(ModuleState, OfTheProgramIsItsOwn) {
     EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr));
 }
 
-TEST(ModuleState, TakesTheResourcesFromWhereItIsTold) {
+TEST(ModuleState, TakesTheResourcesFromTheHandleThatIsSet) {
     AFX_MODULE_STATE other = {AfxGetInstanceHandle(), AfxGetResourceHandle()};
     {
         AFX_MAINTAIN_STATE2 state(&other);

@@ -1,4 +1,4 @@
-// What the user is told when something cannot be made, and that the rest goes on.
+// The message when something cannot be created; everything else still works.
 #include "tests/windows/dyndlg/DynDialogFixture.h"
 #include "tests/windows/dyndlg/LocalMemoryHook.h"
 #include "tests/windows/support/HandleCount.h"

@@ -1,5 +1,5 @@
-// What the tests of the run-time dialogs share: a parent window that notes what it is told, and a dialog that
-// shows its insides.
+// What the tests of the run-time dialogs share: a parent window that records its commands, and a dialog that
+// exposes its internals.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,12 +20,12 @@ constexpr DWORD plain = WS_CHILD | WS_VISIBLE;
 constexpr DWORD tabbed = plain | WS_TABSTOP;
 
 struct Command {
-    HWND window;  // who was told
+    HWND window;  // the one that got the message
     WPARAM wParam;
     LPARAM lParam;
 };
 
-// An overlapped window that answers WM_GETFONT with `font` and notes its commands.
+// An overlapped window that answers WM_GETFONT with `font` and records its commands.
 class CParentWindow : public CWnd {
 public:
     explicit CParentWindow(HFONT ownFont = nullptr) : font(ownFont) {
@@ -38,7 +38,7 @@ public:
 
     HFONT font;
     std::vector<Command> commands;
-    std::vector<Command>* log = nullptr;  // shared with a dialog, to see who is told first
+    std::vector<Command>* log = nullptr;  // shared with a dialog, to see which gets a command first
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {

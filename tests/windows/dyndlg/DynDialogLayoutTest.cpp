@@ -30,7 +30,7 @@ TEST_F(DynDialog, PlacesControlsWithoutARectangleInRowsAboveTheStandardButtons) 
     EXPECT_EQ(RectInUnitsOf(dialog, 5), CRect(10, 76, 270, 88));
 }
 
-TEST_F(DynDialog, HasNoButtonsOfItsOwnWhenToldSo) {
+TEST_F(DynDialog, HasNoStandardButtonsOnRequest) {
     CDynDialogEx dialog(&m_parent);
     dialog.SetUseSystemButtons(false);
     RunWithOk(dialog, [](HWND window) { EXPECT_EQ(::GetWindow(window, GW_CHILD), nullptr); });

@@ -1,4 +1,4 @@
-// How a dialog ends, whom it tells of its commands, and the messages that it answers.
+// How a dialog ends, which windows its commands go to, and the messages that it answers.
 #include <algorithm>
 #include <memory>
 
@@ -226,7 +226,7 @@ TEST_F(DynDialogModeless, CancelDestroysTheWindow) {
     EXPECT_EQ(m_dialog.m_hWnd, nullptr);
 }
 
-// The ids of the children that a window was told the end of, in that order.
+// The ids of the children whose end a window was notified of, in order.
 std::vector<UINT> endedChildren;
 WNDPROC listenedWindow = nullptr;
 

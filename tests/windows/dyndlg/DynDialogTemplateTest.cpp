@@ -62,7 +62,7 @@ TEST_F(DynDialog, CannotBeMadeWithAClassThatHasNoOrdinalInItsTemplate) {
     EXPECT_TRUE(m_parent.IsWindowEnabled());
 }
 
-TEST_F(DynDialog, WritesWhatItWasToldIntoTheTemplate) {
+TEST_F(DynDialog, WritesItsSettingsIntoTheTemplate) {
     const LOGFONT description = MakeLogFont(L"Tahoma", 9);
     CFont font;
     font.CreateFontIndirect(&description);

@@ -56,7 +56,7 @@ HWND CellOf(HWND dialog, int cell) {
     return GetDlgItem(dialog, IDC_CHOICE_CELL1 + cell - 1);
 }
 
-// As the cell tells the dialog of a click or a double-click.
+// As the cell notifies the dialog of a click or a double-click.
 void Notify(HWND dialog, int cell, int code) {
     PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(MAKELONG(IDC_CHOICE_CELL1 + cell - 1, code)),
                  reinterpret_cast<LPARAM>(CellOf(dialog, cell)));
@@ -151,7 +151,7 @@ TEST_F(ChoiceCommand, MoreThanSixChoicesAnswerNilUnseen) {
     EXPECT_EQ(m_driver.StepsLeft(), 1U);
 }
 
-// Which cells hold a choice shows in the name that each gives; by the window's size it could not be told
+// Which cells hold a choice shows in the name that each gives; the window's size would not show it
 // while the window manager still moves it.
 TEST_F(ChoiceCommand, CountsSlidesInSpaceUnlessTheFlagLeavesThemOut) {
     WriteSlide(L"A_t.png");

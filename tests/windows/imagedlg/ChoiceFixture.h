@@ -48,7 +48,7 @@ std::string ShownIn(HWND dialog);
 
 // Around cells 1 to 6: 'B' for a black band of three pixels, 'W' a white one, '-' none, '?' anything else;
 // ' ' for a cell outside the window. `background` is the colour of the dialog's surface around them; on a
-// white one a white band cannot be told and counts as none.
+// white one a white band cannot be detected and counts as none.
 std::string FramesIn(HWND dialog, COLORREF background);
 
 // Handles messages until the black frame stands around the cell; false when it does not get there.

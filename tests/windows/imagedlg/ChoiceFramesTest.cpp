@@ -20,7 +20,7 @@ constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- "
 
 using ChoiceFrames = CChoiceFixture;
 
-// Paints over all that the dialog shows, so that white frames can be told from its white surface.
+// Paints over all that the dialog shows, so that white frames can be distinguished from its white surface.
 void CoverWithGrey(HWND window) {
     RECT client;
     GetClientRect(window, &client);

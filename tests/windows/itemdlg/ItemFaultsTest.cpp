@@ -1,4 +1,4 @@
-// What the item dialog tells and leaves behind where its files, folders and paths fail.
+// The messages of the item dialog, and the files it leaves, when files, folders or paths fail.
 #include <filesystem>
 #include <memory>
 
@@ -134,8 +134,8 @@ TEST_F(ItemFaults, AFullVolumeIsReportedForEachFileWhichHoldsWhatWasWrittenBefor
 
 TEST_F(ItemFaults, AVolumeThatHasRoomForOneFileLeavesTheOtherEmpty) {
     std::unique_ptr<CFullVolume> volume;
-    const size_t room = std::string(withAssignment).size();
-    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(room); }, 1),
+    const size_t capacity = std::string(withAssignment).size();
+    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(capacity); }, 1),
               L"Error - unable to write file / Error\n");
     volume.reset();
     EXPECT_EQ(folder.Read(working), withAssignment);
@@ -212,7 +212,7 @@ TEST_F(ItemFaults, LongerPathsCountAsNotFoundAndTheFilesAreKept) {
     }
 }
 
-// Nothing keeps a host from finding more than it was asked for.
+// A host may return a path longer than the capacity it was given.
 TEST_F(ItemFaults, ALongerPathThatTheHostFindsAllTheSameIsOpened) {
     for (const size_t length : {254U, 255U}) {
         const std::wstring name = BaseNameFor(length, folder);

@@ -1,4 +1,4 @@
-// A host whose functions fail, each in turn: what the module then answers, tells and writes.
+// A host whose functions fail, each in turn: the module's results, messages and files.
 #include <gtest/gtest.h>
 
 #include <map>

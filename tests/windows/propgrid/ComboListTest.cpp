@@ -1,5 +1,5 @@
 // The drop-down list: how it opens and looks, what mouse and keys do, each of its endings, and that nothing
-// of it is touched once the grid has been told.
+// of it is touched after its message to the grid.
 #include <climits>
 #include <ostream>
 
@@ -178,12 +178,12 @@ TEST_F(ComboList, UsesTheFontThatItsWindowAnswersWhenNoneWasSet) {
     EXPECT_EQ(client.Height(), HeightOfGg(list.font) + 4 + 2);
 }
 
-TEST_F(ComboList, TellsItsWindowTheFont) {
-    struct CHearing : CPropertyGridCombo {
-        std::vector<std::pair<WPARAM, LPARAM>> heard;
+TEST_F(ComboList, PassesTheFontToItsWindow) {
+    struct CRecordingList : CPropertyGridCombo {
+        std::vector<std::pair<WPARAM, LPARAM>> fonts;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message == WM_SETFONT) {
-                heard.emplace_back(wParam, lParam);
+                fonts.emplace_back(wParam, lParam);
             }
             return CPropertyGridCombo::WindowProc(message, wParam, lParam);
         }
@@ -191,7 +191,7 @@ TEST_F(ComboList, TellsItsWindowTheFont) {
     list.Create(WS_CHILD, Under(), &grid, 0);
     list.SetFont(&parent.font, FALSE);
     const std::pair<WPARAM, LPARAM> expected(reinterpret_cast<WPARAM>(parent.font.GetSafeHandle()), FALSE);
-    EXPECT_EQ(list.heard, std::vector{expected});
+    EXPECT_EQ(list.fonts, std::vector{expected});
 }
 
 TEST_F(ComboList, WantsAllKeysOfADialog) {
@@ -474,7 +474,7 @@ TEST_F(ComboList, FollowsTheMouseWhileTheButtonIsDownAlone) {
     EXPECT_TRUE(IsPaintDue());
 }
 
-TEST_F(ComboList, HasLetGoOfTheMouseWhenItTells) {
+TEST_F(ComboList, HasReleasedTheMouseWhenItReports) {
     HWND capture = grid.m_hWnd;
     grid.beforeClosing = [&] { capture = ::GetCapture(); };
     Open();
@@ -483,7 +483,7 @@ TEST_F(ComboList, HasLetGoOfTheMouseWhenItTells) {
     EXPECT_EQ(capture, nullptr);
 }
 
-TEST_F(ComboList, TellsAnIndexBelowTheListAsItIs) {
+TEST_F(ComboList, ReportsAnIndexBelowTheListUnchanged) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3 * RowHeight());  // the bottom border
     Mouse(WM_LBUTTONUP, 3 * RowHeight());
@@ -494,7 +494,7 @@ TEST_F(ComboList, TellsAnIndexBelowTheListAsItIs) {
     EXPECT_EQ(grid.reports, (std::vector{Chosen(3), Chosen(9)}));
 }
 
-TEST_F(ComboList, TellsAnIndexAboveTheListAsItIs) {
+TEST_F(ComboList, ReportsAnIndexAboveTheListUnchanged) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3);
     Mouse(WM_MOUSEMOVE, -2 * RowHeight());
@@ -506,7 +506,7 @@ TEST_F(ComboList, TellsAnIndexAboveTheListAsItIs) {
     EXPECT_EQ(grid.reports, (std::vector{Chosen(-2), Chosen(0)}));
 }
 
-TEST_F(ComboList, TellsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
+TEST_F(ComboList, ReportsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3);
     Mouse(WM_MOUSEMOVE, 9 * RowHeight());
@@ -515,7 +515,7 @@ TEST_F(ComboList, TellsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
     EXPECT_EQ(grid.reports, std::vector{Chosen(2)});
 }
 
-TEST_F(ComboList, TellsItsSelectionWhenAButtonPressedElsewhereIsReleasedInIt) {
+TEST_F(ComboList, ReportsItsSelectionWhenAButtonPressedElsewhereIsReleasedInIt) {
     Open(1);
     Mouse(WM_LBUTTONUP, 2 * RowHeight() + 3);
     EXPECT_EQ(grid.reports, std::vector{Chosen(1)});
@@ -629,7 +629,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, ComboListEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(ComboListEnding, TellsAChoiceOnceToAGridThatDeletesIt) {
+TEST_P(ComboListEnding, ReportsAChoiceOnceToAGridThatDeletesIt) {
     const HWND list = Open(2).m_hWnd;
     End(list);
     EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{Chosen(2)} : std::vector<SReport>());
@@ -696,7 +696,7 @@ TEST_F(ComboList, EndsWithTheWholeDialog) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-TEST_F(ComboList, TellsItsParentWhenItHasNoOwner) {
+TEST_F(ComboList, ReportsToItsParentWhenItHasNoOwner) {
     CEditorGrid top;
     top.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
     CEditorGrid inside;

@@ -132,7 +132,7 @@ TEST_F(DistanceItem, StaysHighlightedWhenTheGridAcceptsItsValues) {
     EXPECT_TRUE(Highlighted());
 }
 
-TEST_F(DistanceItem, LeavesItToTheConversionsWhatUnitsAreWhereTheHostTellsNone) {
+TEST_F(DistanceItem, LeavesTheUnitsToTheConversionsWhenTheHostGivesNone) {
     fakeHost.failing = "sds_getvar";
     EXPECT_EQ(item.GetStringValue(), L"U0:2.0000");
     EXPECT_TRUE(item.SetStringValue(L"U0:3"));

@@ -8,7 +8,7 @@
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/Pixels.h"
 
-// A custom item that keeps what the grid tells it and answers as it is told.
+// A custom item that records the grid's calls and returns what the test sets.
 class CScriptedItem final : public ICustomItem {
 public:
     int mode = EM_CUSTOM;

@@ -170,8 +170,8 @@ TEST_F(GridMouse, AnyMoveOfTheFocusEmptiesTheEditButtonUntilTheNextPaint) {
     }
 }
 
-// A press on the value has focused the item, or was not captured: its release is nobody's.
-TEST_F(GridMouse, ACustomItemThatDoesNotCaptureHearsOfNoRelease) {
+// A press on the value has focused the item, or was not captured: its release does nothing.
+TEST_F(GridMouse, ACustomItemThatDoesNotCaptureGetsNoRelease) {
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
     ClickOn(ValueOf(item));
     EXPECT_TRUE(custom.calls.empty()) << "the press that focuses";

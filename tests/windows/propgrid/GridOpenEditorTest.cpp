@@ -288,7 +288,7 @@ TEST_P(GridOpenEditorStays, OnItsCellWithItsText) {
     EXPECT_EQ(parent.changedItems, Ids{number});
 }
 
-// ---- The owner, which hears of the text before the operation goes on
+// ---- The owner, which is notified of the text before the operation goes on
 
 class GridOpenEditorAndItsOwner : public GridOpenEditor {
 protected:
@@ -297,7 +297,7 @@ protected:
         owner.onChanged = [](UINT) {};
         grid.SetOwner(nullptr);
     }
-    // The edit is open, and the owner does this when it hears of its text.
+    // Runs `act` in the owner's handler when the open edit ends.
     void OpenEdit(std::function<void()> act) {
         owner.onChanged = [this, act = std::move(act)](UINT) {
             const auto once = act;

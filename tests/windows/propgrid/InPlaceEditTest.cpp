@@ -1,5 +1,5 @@
 // The in-place edit: how it opens, what its keys do, each of its endings, and that nothing of it is touched
-// once the grid has been told.
+// after its message to the grid.
 #include "propgrid/editors/PropertyGridInPlaceEdit.h"
 
 #include <ostream>
@@ -91,7 +91,7 @@ TEST_F(InPlaceEdit, ScrollsTheEndOfALongTextIntoView) {
     EXPECT_LT(end, Cell().Width());
 }
 
-TEST_F(InPlaceEdit, HasTheFocusAndTellsNothingWhenItOpens) {
+TEST_F(InPlaceEdit, HasTheFocusAndReportsNothingWhenItOpens) {
     const HWND edit = Open(L"x").m_hWnd;
     EXPECT_EQ(::GetFocus(), edit);
     EXPECT_TRUE(grid.reports.empty());
@@ -296,7 +296,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, InPlaceEditEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(InPlaceEditEnding, TellsTheTextOnceToAGridThatDeletesIt) {
+TEST_P(InPlaceEditEnding, ReportsTheTextOnceToAGridThatDeletesIt) {
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
     End(edit);
@@ -306,7 +306,7 @@ TEST_P(InPlaceEditEnding, TellsTheTextOnceToAGridThatDeletesIt) {
 }
 
 // As a grid does that has no focused item any more: it leaves the edit to itself.
-TEST_P(InPlaceEditEnding, TellsTheTextOnceAndGoesByItselfWhenTheGridKeepsIt) {
+TEST_P(InPlaceEditEnding, ReportsTheTextOnceAndDestroysItselfWhenTheGridKeepsIt) {
     grid.keepsEditor = true;
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
@@ -326,7 +326,7 @@ TEST_P(InPlaceEditEnding, LeavesTheNextEditToEndLikeTheFirst) {
     EXPECT_EQ(grid.reports.back(), Expected());
 }
 
-TEST_P(InPlaceEditEnding, TellsTheTextToAnOwnerThatIsNotTheParent) {
+TEST_P(InPlaceEditEnding, ReportsTheTextToAnOwnerThatIsNotTheParent) {
     CEditorGrid owner;
     owner.Create(AfxRegisterWndClass(0), L"", WS_CHILD, CRect(0, 0, 10, 10), &parent, 102);
     CPropertyGridInPlaceEdit& edit = Open(L"12.5");
@@ -390,7 +390,7 @@ TEST_F(InPlaceEdit, EndsWithTheWholeDialogAlsoWhenTheGridKeepsIt) {
     EXPECT_FALSE(::IsWindow(edit));
 }
 
-TEST_F(InPlaceEdit, LeavesByPlainNavigationKeysWhenToldTo) {
+TEST_F(InPlaceEdit, EndsByPlainNavigationKeysWhenSetTo) {
     for (const UINT key : {VK_PRIOR, VK_NEXT, VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
         CPropertyGridInPlaceEdit& edit = Open(L"12.5");
         edit.SetExitOnNavigation(true);

@@ -1,5 +1,5 @@
 // The month calendar: how it opens, what mouse and keys do, each of its endings, and that nothing of it is
-// touched once the grid has been told.
+// touched after its message to the grid.
 #include <ostream>
 
 #include "propgrid/editors/PropertyGridMonthCalCtrl.h"
@@ -121,7 +121,7 @@ TEST_F(MonthCal, OpensWithoutAValidDate) {
 
 // ---- Mouse and keys
 
-TEST_F(MonthCal, TellsOnceThatADayWasClicked) {
+TEST_F(MonthCal, ReportsOnceThatADayWasClicked) {
     int day = 0;
     grid.beforeClosing = [&] { day = SelectedDay(); };
     const HWND calendar = Open().m_hWnd;
@@ -131,7 +131,7 @@ TEST_F(MonthCal, TellsOnceThatADayWasClicked) {
     EXPECT_FALSE(::IsWindow(calendar));
 }
 
-TEST_F(MonthCal, TellsThatTheSelectedDayWasClicked) {
+TEST_F(MonthCal, ReportsThatTheSelectedDayWasClicked) {
     PressDay(Open().m_hWnd, 14);
     EXPECT_EQ(grid.reports, std::vector{dateChosen});
 }
@@ -144,14 +144,14 @@ TEST_F(MonthCal, AnswersTheNotificationOfAClickWithNothing) {
     EXPECT_EQ(grid.reports.size(), 1U);
 }
 
-TEST_F(MonthCal, TellsNothingOfAClickThatOnlyTurnsTheMonth) {
+TEST_F(MonthCal, ReportsNoClickThatOnlyTurnsTheMonth) {
     const HWND calendar = Open().m_hWnd;
     Press(calendar, Find(calendar, MCHT_TITLEBTNNEXT));
     EXPECT_TRUE(grid.reports.empty());
     EXPECT_TRUE(::IsWindow(calendar));
 }
 
-TEST_F(MonthCal, TellsThatADayWasClickedAfterTheMonthWasTurned) {
+TEST_F(MonthCal, ReportsThatADayWasClickedAfterTheMonthWasTurned) {
     COleDateTime chosen;
     grid.beforeClosing = [&] { Calendar().GetCurSel(chosen); };
     const HWND calendar = Open().m_hWnd;
@@ -297,7 +297,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, MonthCalEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(MonthCalEnding, TellsADateOnceToAGridThatDeletesIt) {
+TEST_P(MonthCalEnding, ReportsADateOnceToAGridThatDeletesIt) {
     const HWND calendar = Open().m_hWnd;
     End(calendar);
     EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{dateChosen} : std::vector<SReport>());
@@ -371,7 +371,7 @@ TEST_F(MonthCal, EndsWithTheWholeDialog) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-TEST_F(MonthCal, TellsItsParentWhenItHasNoOwner) {
+TEST_F(MonthCal, ReportsToItsParentWhenItHasNoOwner) {
     CEditorGrid top;
     top.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
     CPropertyGridMonthCalCtrl calendar;

@@ -38,7 +38,7 @@ void ShowBox(UINT kind) {
     MessageBoxW(nullptr, L"What it says", L"Its caption", kind);
 }
 
-TEST(UnexpectedBoxes, ABoxThatNobodyClosesIsNamedAndClosedAndFailsItsTest) {
+TEST(UnexpectedBoxes, ABoxLeftOpenIsNamedAndClosedAndFailsItsTest) {
     EXPECT_NONFATAL_FAILURE_ON_ALL_THREADS(ShowBox(MB_OK),
                                            "unexpected message box \"Its caption\": What it says");
     // Without Cancel it cannot be closed otherwise than by a button.

@@ -33,7 +33,7 @@ TEST(BoundaryLayout, HasCharactersOfTwoBytesAndWholeNumbersOfFour) {
     EXPECT_EQ(sizeof(HWND), sizeof(void*));
 }
 
-// Calls the entry with a stack pointer that is `offset` bytes below a multiple of 16, and tells in `taken`
+// Calls the entry with a stack pointer that is `offset` bytes below a multiple of 16, and sets `taken`
 // how many bytes of the arguments the entry took from the stack. In 64-bit programs the convention leaves
 // nothing to differ.
 #ifdef _WIN64
