@@ -451,9 +451,9 @@ LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
     return 0;
 }
 
-// An item that takes no such result deliberately leaves the editor alone. Else the grid lets go of the editor
-// first and destroys it last: the owner's handler, or a custom item's, runs in between and may lead to
-// anything, another editor included.
+// An item that takes no such result deliberately leaves the editor alone. Otherwise the grid takes the editor
+// out of m_editors first and destroys it last: the owner's handler, or a custom item's, runs in between and
+// may re-enter, for example open another editor.
 void CPropertyGrid::TakeResult(const Actions& actions) {
     if (!actions.empty() || m_editors.HasLostItsItem()) {
         const EditorPointer ended = m_editors.Take();

@@ -1,13 +1,13 @@
 # Mouse, keyboard and screenshots on the X display for the scripts that drive a program; waiting with a time
 # limit. To be sourced.
 
-# wait_for SECONDS WHAT COMMAND...: asks again and again until the command succeeds.
+# wait_for SECONDS WHAT COMMAND...: repeats the command until it succeeds or the time is up.
 wait_for() {
     local deadline=$((SECONDS + $1)) what=$2
     shift 2
     until "$@" >/dev/null 2>&1; do
         if [ "$SECONDS" -ge "$deadline" ]; then
-            echo "waited in vain for $what" >&2
+            echo "timed out waiting for $what" >&2
             return 1
         fi
         sleep 0.05

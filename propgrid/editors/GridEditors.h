@@ -39,7 +39,7 @@ public:
     void OpenList(const GridItem& item, const Rect& cell);
     void OpenCalendar(const DateValue& date, const Rect& cell);
 
-    // Closes what is open. The grid has let go of the editor by then.
+    // Closes what is open. The grid no longer owns the editor by then.
     void Close() { Take(); }
     EditorPointer Take() { return std::move(m_editor); }
 

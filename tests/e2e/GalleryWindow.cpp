@@ -21,7 +21,7 @@ void GalleryWindow::Open() {
     run.StartProgram({});
     gallery = Window::WithTitle("Grid gallery");
     ASSERT_TRUE(gallery.IsValid()) << run.Errors();
-    // The window manager gives it the focus some time after it has come up.
+    // The window manager gives it the focus some time after it was shown.
     ASSERT_TRUE(gallery.Activate());
     gallery.LookWhenStill();
     ReadRectangles();

@@ -30,7 +30,7 @@ protected:
     void DoubleClickValue(const std::string& name) const;
     // A double click opens the dialog of a value; its title.
     Window OpenDialog(const std::string& name, const std::string& title) const;
-    // A click opens the list or the calendar of a value: the window that came up.
+    // Opens the list or the calendar of a value by a click; its window.
     Window DropDown(const std::string& name) const;
 
     // Presses keys in whatever window has the focus; types a text there.

@@ -25,7 +25,7 @@ void ItemDialogWindow::LookWhenPainted() {
         screen = dialog.Look();
         m_rowHeight = FindRowHeight();
         return screen.At(X(643), Y(9)) == headerGrey && m_rowHeight > 0;
-    })) << "the header or the grid's rows never came up";
+    })) << "the header or the grid's rows were never drawn";
 }
 
 bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {

@@ -58,7 +58,7 @@ protected:
 
     fs::path Example() const { return examples / GetParam(); }
 
-    // Acts when a window comes up, until the dialog itself did: notes what it shows and presses OK.
+    // Handles each window that opens, up to the dialog itself: records what it shows and presses OK.
     void ExpectWindow() {
         driver.Then([this](HWND window) {
             if (::GetDlgItem(window, IDC_ITEM_GRID) == nullptr) {

@@ -106,11 +106,11 @@ protected:
             ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
         const INT_PTR result = dialog.DoModal();
-        EXPECT_EQ(m_driver->StepsLeft(), 0U) << "a window that was expected did not come up";
+        EXPECT_EQ(m_driver->StepsLeft(), 0U) << "an expected window did not open";
         return result;
     }
 
-    // Lets go of the steps that were done, which count as blocks of the heap.
+    // Frees the steps that were run: they count as blocks of the heap.
     void ForgetSteps() { m_driver.emplace(); }
 
     std::optional<CModalDriver> m_driver{std::in_place};

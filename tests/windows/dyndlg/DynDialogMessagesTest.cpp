@@ -8,7 +8,7 @@ namespace {
 
 constexpr UINT editId = 300;
 
-// A dialog that notes which of its hooks ran.
+// A dialog that records which of its hooks ran.
 class CListeningDialog : public CTestDialog {
 public:
     using CTestDialog::CTestDialog;

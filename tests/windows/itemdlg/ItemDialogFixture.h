@@ -51,7 +51,7 @@ protected:
         CTavrinWndDlg dialog(nullptr);
         dialog.SetArguments(baseName, scale, mode);
         const INT_PTR result = dialog.DoModal();
-        EXPECT_EQ(driver.StepsLeft(), 0U) << "a dialog or message box that was expected did not come up";
+        EXPECT_EQ(driver.StepsLeft(), 0U) << "an expected dialog or message box did not open";
         return result;
     }
 

@@ -46,7 +46,7 @@ protected:
         return calls;
     }
 
-    // Opens the dialog and presses OK, in which a call fails and so many messages come up.
+    // Opens the dialog and presses OK; during that a call fails and `messages` boxes open.
     std::vector<FileCall> Confirm(EFileOperation operation, size_t failing, bool forGood, size_t messages) {
         folder.Write(kWorking, m_before);
         folder.Write(kDefaults, m_before);

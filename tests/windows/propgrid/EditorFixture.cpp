@@ -57,7 +57,7 @@ void CEditorGrid::Take(const SReport& report) {
     }
 }
 
-// Lets go of the pointer first: destroying the window may bring a message about its end.
+// Clears the pointer first: destroying the window may send a message about its end.
 void CEditorGrid::CloseEditor() {
     const std::unique_ptr<CWnd> closing = std::move(editor);
     if (closing != nullptr && closing->m_hWnd != nullptr) {

@@ -24,7 +24,7 @@ protected:
         grid.SetTimeText(L"Ora");
     }
     ~GridModalEdit() override {
-        EXPECT_EQ(driver.StepsLeft(), 0U) << "a dialog that was expected did not come up";
+        EXPECT_EQ(driver.StepsLeft(), 0U) << "an expected dialog did not open";
         EXPECT_TRUE(parent.IsWindowEnabled());
         FolderBrowseTitle() = L"Choose a directory";
     }

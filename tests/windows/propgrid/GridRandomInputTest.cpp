@@ -16,7 +16,7 @@ unsigned ChooseSeed() {
     return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : 1;
 }
 
-// Dismisses every dialog that comes up, one way or another, while the test's thread runs its loop; and every
+// Closes every dialog that opens, by OK or Cancel, while the test's thread runs its loop; and every
 // menu: a click on a calendar's month opens one, which else waits for ever.
 class CDismisser {
 public:

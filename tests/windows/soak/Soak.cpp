@@ -99,7 +99,7 @@ private:
         callStarted = GetTickCount64();
         m_module.Invoke(code);
         ++m_calls[static_cast<std::size_t>(code)];
-        // What the host notes is not the module's to keep.
+        // The host's records are not the module's memory.
         fakeHost.searched.clear();
         fakeHost.prompts.clear();
         fakeHost.alerts.clear();

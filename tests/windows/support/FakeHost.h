@@ -36,7 +36,7 @@ struct FakeHost {
     int distanceStatus = RtNorm;
     double distance = 0;               // the point is 1, 2, 3
     std::function<void()> duringPick;  // called inside sds_getpoint
-    std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
+    std::string failing;               // the function ("sds_rtos") that records its arguments and fails
 
     // A real host's formats of distances instead of "U2:900.0000"; nothing for what has no format.
     std::function<std::optional<std::wstring>(double value, int units, int precision)> distanceText;
