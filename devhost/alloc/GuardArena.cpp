@@ -58,8 +58,8 @@ bool CGuardArena::Reserve() {
     return m_base != nullptr;
 }
 
-// The first of `pages` free pages in a row. The search cycles through the arena, so that pages are reused as
-// late as possible.
+// The first of `pages` consecutive free pages. The search cycles through the arena, so that pages are reused
+// as late as possible.
 std::size_t CGuardArena::FindRun(std::size_t pages) {
     std::size_t run = 0;
     std::size_t page = m_cursor;
