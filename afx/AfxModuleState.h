@@ -30,7 +30,7 @@ private:
     size_t m_temporaries;
 };
 
-// Of the state at work.
+// Of the current state.
 HINSTANCE AFXAPI AfxGetInstanceHandle();
 HINSTANCE AFXAPI AfxGetResourceHandle();
 void AFXAPI AfxSetResourceHandle(HINSTANCE instance);

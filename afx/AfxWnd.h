@@ -17,7 +17,7 @@ struct CCreateContext;
 
 // An object that a window is attached to is that window's permanent one: it gets the window's messages,
 // FromHandle finds it, and its destructor destroys the window. FromHandle makes a temporary object for any
-// other window; that one lives until the message or command at work ends.
+// other window; that one lives until the current message or command ends.
 class CWnd : public CCmdTarget {
     DECLARE_DYNAMIC(CWnd)
 

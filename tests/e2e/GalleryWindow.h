@@ -41,7 +41,7 @@ protected:
 
     // Waits until the gallery has printed exactly these changes from the start on.
     void ExpectChanges(const std::vector<std::string>& changes) const;
-    // Closes the gallery with Escape; it must end well, with no changes but these.
+    // Closes the gallery with Escape; its exit status must be 0, and these the only changes.
     void CloseExpecting(const std::vector<std::string>& changes);
 
     // What the gallery has printed, except for the rectangles.

@@ -156,7 +156,7 @@ void CSimpleGrid::TakeSavedCopy(Id id) {
     item->saved = item->value;
     item->savedUndefined = item->undefined;
     if (item->kind == IT_CUSTOM) {
-        Record({.kind = DD_CUSTOM_ACCEPT, .item = item->value.custom});
+        Record({.kind = WC_CUSTOM_ACCEPT, .item = item->value.custom});
         React();
     }
 }

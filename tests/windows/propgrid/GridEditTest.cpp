@@ -588,7 +588,7 @@ TEST_F(GridEdit, AnEditThatOpensDuringTheEndOfAnotherStaysOpen) {
     ExpectNoEditorLeft();
 }
 
-// ---- The owner's ear
+// ---- The owner's handler of a change, which may re-enter
 
 TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenNotifiedOfTheChange) {
     CListeningOwner owner;

@@ -4,7 +4,7 @@
 //
 //     soak [SECONDS [SEED]]
 //
-// Ends with status 0 when all was well, else 1.
+// Exits with status 0 when it passed, otherwise 1.
 #include <windows.h>
 
 #include <array>
@@ -273,7 +273,7 @@ int main(int argc, char** argv) {
         failures = soak.Failures();
     }
     grown |= PrintGrowth("blocks left", 0, static_cast<long long>(heap.liveBlocks()));
-    const bool well = !grown && failures == 0;
-    std::printf(well ? "soak: all well\n" : "soak: FAILED; again with: soak %d %u\n", seconds, seed);
-    return well ? 0 : 1;
+    const bool passed = !grown && failures == 0;
+    std::printf(passed ? "soak: passed\n" : "soak: FAILED; repeat with: soak %d %u\n", seconds, seed);
+    return passed ? 0 : 1;
 }

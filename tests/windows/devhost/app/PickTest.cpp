@@ -44,7 +44,7 @@ protected:
 
     void Press(WPARAM key) const { PostMessageW(m_drawing, WM_KEYDOWN, key, 0); }
 
-    // What the call gave, after DevHost has ended well.
+    // The result of the call, after DevHost has exited with status 0.
     std::string Result() const {
         const Outcome outcome = m_host->Wait();
         EXPECT_EQ(outcome.status, 0u);
