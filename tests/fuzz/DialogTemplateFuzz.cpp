@@ -154,10 +154,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     dialog.extent = layout.Extent();
 
-    const std::size_t size = TemplateSize(dialog);
-    const auto memory = std::make_unique<std::byte[]>(size);
-    WriteTemplate(dialog, {memory.get(), size});
-    CFieldReader reader({memory.get(), size});
+    const std::size_t templateSize = TemplateSize(dialog);
+    const auto memory = std::make_unique<std::byte[]>(templateSize);
+    WriteTemplate(dialog, {memory.get(), templateSize});
+    CFieldReader reader({memory.get(), templateSize});
     RequireHead(reader, dialog);
     for (const DialogTemplateItem& item : dialog.items) {
         RequireItem(reader, item);
