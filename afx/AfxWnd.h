@@ -1,4 +1,4 @@
-// CWnd: a window, its messages and what can be asked of it.
+// CWnd: a window, its messages and its functions.
 //
 // Coordinates are pixels: of the window's client area where nothing else is said, of the screen or of the
 // parent's client area where Windows means those.
@@ -162,8 +162,8 @@ class CWnd : public CCmdTarget {
 protected:
     DECLARE_MESSAGE_MAP()
 
-    // The way of a message: WindowProc asks OnWndMsg (commands, notifications, then the map) and gives
-    // what is left to DefWindowProc, which calls the procedure that the window had before.
+    // The path of a message: WindowProc calls OnWndMsg (commands, notifications, then the map) and passes
+    // what is left to DefWindowProc, which calls the window's previous procedure.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);

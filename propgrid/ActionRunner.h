@@ -12,7 +12,7 @@
 
 namespace tavrin::propgrid {
 
-// What the actions ask of the window.
+// The window's functions that actions call.
 class IGridWindow {
 public:
     virtual CWnd& GetWindow() = 0;

@@ -1,4 +1,4 @@
-// The base of the grid's client interface: the state that its parts work on, and what they ask of the window.
+// The base of the grid's client interface: the state that its parts share, and their calls to the window.
 //
 // The interface is one chain of classes, each with a topic of its own: CGridColoring, CGridWording,
 // CGridLook, CGridFilling, CGridRows, CGridValues, and at its end CPropertyGrid, the window.

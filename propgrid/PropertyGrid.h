@@ -21,8 +21,8 @@
 // under it, or in a dialog, see EItemType and EEditMode. The grid owns the one editor that may be open; it
 // ends when the grid or another window takes the focus.
 //
-// This class is the window alone: its handlers hand their messages on to the controllers and carry out what
-// these ask.
+// This class is only the window: its handlers pass their messages to the controllers and carry out the
+// actions that these return.
 #pragma once
 
 #include <afxwin.h>

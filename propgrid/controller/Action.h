@@ -1,8 +1,8 @@
-// What input asks the window to do. The controllers change the model and the layout themselves and return the
-// rest as a list of actions, which the window carries out in their order.
+// What the window has to do after input. The controllers change the model and the layout themselves and
+// return the rest as a list of actions, which the window carries out in order.
 //
 // Actions name items by their ids: carrying one out may run the client's code, which may remove rows. An
-// action whose item is gone by its turn is dropped.
+// action whose item no longer exists is skipped.
 #pragma once
 
 #include <string>
