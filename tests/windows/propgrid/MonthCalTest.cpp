@@ -64,9 +64,9 @@ protected:
         return {0, 0};
     }
     static void Press(HWND calendar, POINT point) {
-        const LPARAM rect = MAKELPARAM(point.x, point.y);
-        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, rect);
-        ::SendMessage(calendar, WM_LBUTTONUP, 0, rect);
+        const LPARAM position = MAKELPARAM(point.x, point.y);
+        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, position);
+        ::SendMessage(calendar, WM_LBUTTONUP, 0, position);
     }
     static void PressDay(HWND calendar, int day) { Press(calendar, Find(calendar, MCHT_CALENDARDATE, day)); }
 };
