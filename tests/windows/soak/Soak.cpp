@@ -4,7 +4,7 @@
 //
 //     soak [SECONDS [SEED]]
 //
-// Ends with status 0 when all was well, else 1.
+// Exits with status 0 when it passed, otherwise 1.
 #include <windows.h>
 
 #include <array>
@@ -17,7 +17,7 @@
 #include "sds/HostBinding.h"
 #include "tests/windows/module/LoadedModule.h"
 #include "tests/windows/soak/ProcessState.h"
-#include "tests/windows/soak/SoakHands.h"
+#include "tests/windows/soak/SoakDriver.h"
 #include "tests/windows/soak/SoakItem.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/Bitmap.h"
@@ -57,7 +57,7 @@ std::wstring TextOfModule(unsigned id) {
 class CSoak {
 public:
     CSoak(const CLoadedModule& module, unsigned seed)
-        : m_module(module), m_choices(seed), m_hands(m_choices) {
+        : m_module(module), m_choices(seed), m_driver(m_choices) {
         fakeHost.searchFolders = {m_folder.Path(L"")};
         for (const wchar_t* picture : {L"item.png", L"a_t.png", L"b_t.png", L"c_t_3d.png", L"empty.png"}) {
             m_folder.Write(picture, BitmapFile(8, 8, std::vector<unsigned>(64, 0x3060C0)));
@@ -87,7 +87,7 @@ public:
         std::printf("soak: %d calls of tavrinwnd, %d of tavrinselmask, %d of tavrinprevmask\n", m_calls[0],
                     m_calls[1], m_calls[2]);
         std::printf("soak: %d values typed, %lld random events, %lld message boxes\n", m_typed,
-                    m_hands.Events(), m_hands.Boxes());
+                    m_driver.Events(), m_driver.Boxes());
         std::printf("soak: %d pairs of files compared, %d of them rewritten; %d differences\n", m_calls[0],
                     m_rewritten, m_failures);
     }
@@ -99,7 +99,7 @@ private:
         callStarted = GetTickCount64();
         m_module.Invoke(code);
         ++m_calls[static_cast<std::size_t>(code)];
-        // What the host notes is not the module's to keep.
+        // The host's records are not the module's memory.
         fakeHost.searched.clear();
         fakeHost.prompts.clear();
         fakeHost.alerts.clear();
@@ -114,19 +114,19 @@ private:
         m_folder.Write(L"item_TMP.TXT", item.WorkingFile());
         m_folder.Write(L"item.TXT", item.TemplateFile());
         const bool wild = m_choices.OneIn(2);
-        std::deque<CSoakHands::Step> steps;
+        std::deque<CSoakDriver::Step> steps;
         if (wild) {
             PlanInput(steps);
         } else {
             PlanTyping(item, steps);
         }
-        m_hands.Plan(std::move(steps));
+        m_driver.Plan(std::move(steps));
         CArguments arguments;
         arguments.String(L"item").Real(item.Scale()).Short(static_cast<short>(item.Mode()));
         Check(item, Invoke(0, arguments), wild);
     }
 
-    void PlanTyping(CSoakItem& item, std::deque<CSoakHands::Step>& steps) {
+    void PlanTyping(CSoakItem& item, std::deque<CSoakDriver::Step>& steps) {
         constexpr int rowsInSight = 12;
         for (int typing = m_choices.Below(4); typing > 0 && !item.EditableRows().empty(); --typing) {
             const CSoakItem::SRow& row = item.EditableRows()[static_cast<std::size_t>(
@@ -138,15 +138,15 @@ private:
             const double number = row.type == L'I' ? quarters : quarters / 4.0;
             wchar_t text[32];
             std::swprintf(text, 32, L"%.10g", number);
-            CSoakHands::AddTyping(steps, row.row, text);
+            CSoakDriver::AddTyping(steps, row.row, text);
             item.Type(row.lineIndex, number);
             ++m_typed;
         }
     }
 
-    void PlanInput(std::deque<CSoakHands::Step>& steps) {
+    void PlanInput(std::deque<CSoakDriver::Step>& steps) {
         for (int input = m_choices.Below(12); input > 0; --input) {
-            steps.push_back(m_hands.RandomInput());
+            steps.push_back(m_driver.RandomInput());
         }
     }
 
@@ -176,9 +176,9 @@ private:
             const wchar_t* const names[] = {L"a", L"b", L"c", L"missing"};
             arguments.String(names[m_choices.Below(4)]);
         }
-        std::deque<CSoakHands::Step> steps;
+        std::deque<CSoakDriver::Step> steps;
         PlanInput(steps);
-        m_hands.Plan(std::move(steps));
+        m_driver.Plan(std::move(steps));
         const std::string result = Invoke(1, arguments);
         if (result != "nil" && result.rfind("(100 \"", 0) != 0 && result.rfind("(1000 \"", 0) != 0) {
             Fail("tavrinselmask answered " + result);
@@ -188,9 +188,9 @@ private:
     void CallPreview() {
         CArguments arguments;
         arguments.String(m_choices.OneIn(4) ? L"missing" : L"item");
-        std::deque<CSoakHands::Step> steps;
+        std::deque<CSoakDriver::Step> steps;
         PlanInput(steps);
-        m_hands.Plan(std::move(steps));
+        m_driver.Plan(std::move(steps));
         const std::string result = Invoke(2, arguments);
         if (result != "nil" && result != "0") {
             Fail("tavrinprevmask answered " + result);
@@ -211,7 +211,7 @@ private:
 
     const CLoadedModule& m_module;
     CChoices m_choices;
-    CSoakHands m_hands;
+    CSoakDriver m_driver;
     CTempFolder m_folder;
     std::array<int, 3> m_calls = {};
     int m_typed = 0;
@@ -273,7 +273,7 @@ int main(int argc, char** argv) {
         failures = soak.Failures();
     }
     grown |= PrintGrowth("blocks left", 0, static_cast<long long>(heap.liveBlocks()));
-    const bool well = !grown && failures == 0;
-    std::printf(well ? "soak: all well\n" : "soak: FAILED; again with: soak %d %u\n", seconds, seed);
-    return well ? 0 : 1;
+    const bool passed = !grown && failures == 0;
+    std::printf(passed ? "soak: passed\n" : "soak: FAILED; repeat with: soak %d %u\n", seconds, seed);
+    return passed ? 0 : 1;
 }

@@ -92,7 +92,7 @@ TEST_F(Menu, SnapIsTicked) {
     EXPECT_FALSE(StateOf(IDM_SNAP) & MF_CHECKED);
 }
 
-TEST_F(Menu, ChoosingUnitsOrPrecisionTellsBoth) {
+TEST_F(Menu, ChoosingUnitsOrPrecisionReportsBoth) {
     std::vector<std::pair<int, int>> formats;
     m_window.SetFormat(2, 3);
     m_window.SetFormatHandler([&](int lunits, int luprec) { formats.emplace_back(lunits, luprec); });
