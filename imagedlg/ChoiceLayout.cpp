@@ -103,6 +103,10 @@ bool IsChoiceCellSelectable(unsigned count, int cell) {
     }
 }
 
+bool IsChoiceCellTypeable(unsigned count, int cell) {
+    return GetCellContent(count, cell) >= 0;
+}
+
 int GetChoiceOfCell(unsigned count, int cell, int previous) {
     // A quirk that is kept: with a count that the dialog does not show, each selection steps back by one.
     if (count == 0 || count > kMaxChoices) {

@@ -75,6 +75,17 @@ BOOL CTavrinSelMaskDlg::OnInitDialog() {
     return TRUE;
 }
 
+// The digits, which mean nothing to the buttons.
+BOOL CTavrinSelMaskDlg::PreTranslateMessage(MSG* message) {
+    const bool isDigit = message->message == WM_CHAR && message->wParam >= L'1' && message->wParam <= L'9';
+    const int cell = isDigit ? static_cast<int>(message->wParam - L'0') : 0;
+    if (!IsChoiceCellTypeable(m_count, cell)) {
+        return CDialog::PreTranslateMessage(message);
+    }
+    SelectCell(cell);
+    return TRUE;
+}
+
 HBRUSH CTavrinSelMaskDlg::OnCtlColor(CDC*, CWnd*, UINT) {
     return GetBackgroundBrush();
 }

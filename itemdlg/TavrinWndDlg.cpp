@@ -74,6 +74,7 @@ BOOL CTavrinWndDlg::Initialize() {
     m_header.SetFont(&m_headerFont, TRUE);
     m_grid.SetBackColor(kBackColor);
     m_grid.SetShadeColor(kHeaderColor);
+    m_grid.SetKeyboardEditing(true);
     LoadTemplate();
     return TRUE;
 }

@@ -61,6 +61,7 @@ private:
     void Do(const action::DefaultHandling& handling);
 
     HWND Window() const { return m_parts.window.GetWindow().GetSafeHwnd(); }
+    const GridItem* FindEditableItem(Id item) const;
     ICustomItem* FindCustomItem(Id item) const;
     void ReportCustomChange(Id item, const ICustomItem* custom);
 

@@ -10,6 +10,8 @@ namespace tavrin::propgrid {
 
 // The controllers know keys and scroll codes by the system's numbers.
 static_assert(KEY_LEFT == VK_LEFT && KEY_UP == VK_UP && KEY_RIGHT == VK_RIGHT && KEY_DOWN == VK_DOWN);
+static_assert(KEY_RETURN == VK_RETURN && KEY_PAGE_UP == VK_PRIOR && KEY_PAGE_DOWN == VK_NEXT &&
+              KEY_END == VK_END && KEY_HOME == VK_HOME && KEY_F2 == VK_F2 && KEY_F4 == VK_F4);
 static_assert(SC_LINE_UP == SB_LINEUP && SC_LINE_DOWN == SB_LINEDOWN && SC_PAGE_UP == SB_PAGEUP &&
               SC_PAGE_DOWN == SB_PAGEDOWN && SC_THUMB_POSITION == SB_THUMBPOSITION &&
               SC_THUMB_TRACK == SB_THUMBTRACK && SC_TOP == SB_TOP && SC_BOTTOM == SB_BOTTOM &&
@@ -33,6 +35,8 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_WM_MOUSEWHEEL()
     ON_WM_VSCROLL()
     ON_WM_KEYDOWN()
+    ON_MESSAGE(WM_SYSKEYDOWN, &CPropertyGrid::OnSysKeyDown)
+    ON_MESSAGE(WM_SYSCHAR, &CPropertyGrid::OnSysChar)
     ON_WM_CHAR()
     ON_WM_GETDLGCODE()
     ON_MESSAGE(WM_GRID_CHOICE_MADE, &CPropertyGrid::OnChoiceMade)
@@ -323,19 +327,55 @@ bool CPropertyGrid::ScrollTo(std::optional<int> position) {
 
 // ---- The keyboard
 
-void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (!CKeyController::IsGridKey(key)) {
-        CWnd::OnKeyDown(key, repeat, flags);
-        return;
-    }
+// Ends an open editor; false when that took the window away.
+bool CPropertyGrid::IsReadyForKey() {
     LeaveEditor();
-    if (GetSafeHwnd() != nullptr && IsReadyForHitTest()) {
-        m_actions.Run(m_keys.PressKey(key, m_scrollBar.GetState()));
+    return GetSafeHwnd() != nullptr && IsReadyForHitTest();
+}
+
+void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    const bool isEditKey = m_editKeys.TakesKey(key);
+    if (!isEditKey && !CKeyController::IsGridKey(key)) {
+        CWnd::OnKeyDown(key, repeat, flags);
+    } else if (IsReadyForKey()) {
+        m_actions.Run(isEditKey ? m_editKeys.PressKey(key) : m_keys.PressKey(key, m_scrollBar.GetState()));
+    }
+}
+
+// The default handling comes first, always: it notes that Alt is not pressed alone, which would open a menu.
+LRESULT CPropertyGrid::OnSysKeyDown(WPARAM key, LPARAM /*flags*/) {
+    const LRESULT result = Default();
+    if (m_editKeys.TakesAltKey(static_cast<unsigned>(key)) && IsReadyForKey()) {
+        m_actions.Run(m_editKeys.PressAltKey(static_cast<unsigned>(key)));
+    }
+    return result;
+}
+
+// The character of Alt+Enter has no other meaning; the default handling would beep.
+LRESULT CPropertyGrid::OnSysChar(WPARAM character, LPARAM /*flags*/) {
+    return character == VK_RETURN && m_editKeys.TakesAltKey(KEY_RETURN) ? 0 : Default();
+}
+
+void CPropertyGrid::EditFocusedItem() {
+    if (IsReadyForKey()) {
+        m_actions.Run(m_editKeys.EditFocusedItem());
+    }
+}
+
+void CPropertyGrid::PressFocusedButton() {
+    if (IsReadyForKey()) {
+        m_actions.Run(m_editKeys.PressFocusedButton());
     }
 }
 
 void CPropertyGrid::OnChar(UINT character, UINT repeat, UINT flags) {
     const auto typed = static_cast<wchar_t>(character);
+    if (m_editKeys.TakesCharacter(typed)) {
+        if (IsReadyForKey()) {
+            m_actions.Run(m_editKeys.TypeCharacter(typed));
+        }
+        return;
+    }
     if (m_keys.ChangesSections(typed)) {
         LeaveEditor();
     }

@@ -32,6 +32,7 @@
 #include "propgrid/ActionRunner.h"
 #include "propgrid/GridScrollBar.h"
 #include "propgrid/GridValues.h"
+#include "propgrid/controller/EditKeyController.h"
 #include "propgrid/controller/KeyController.h"
 #include "propgrid/controller/MouseController.h"
 #include "propgrid/editors/GridEditors.h"
@@ -92,6 +93,20 @@ public:
     // else leaves it open on its cell: whatever is refused or sets what is set already, the values and
     // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
 
+    // Whether the grid can be worked with the keyboard alone (false at the start). Then, on the focused row,
+    //   F2, F4, Alt+Down            open its editor: the edit with its text, the list, the calendar, the
+    //   dialog a printable character       opens an in-place edit with it in place of the text Alt+Enter
+    //   presses the "..." button: the dialog, a custom item's OnButtonClicked Space inverts a Boolean Home,
+    //   End, Page Up/Down     focus the first or last row, or one a page away, and bring it into view
+    // "*", "/" and, for a focused section, "+" and "-" keep their meaning. A row that is not editable answers
+    // none of the first four.
+    void SetKeyboardEditing(bool on) { m_model.settings.keyboardEditing = on; }
+    bool GetKeyboardEditing() const { return m_model.settings.keyboardEditing; }
+    // What F2 and Alt+Enter do, whether keyboard editing is on or not: for a client's own keys, and for
+    // assistive technology. The focused row is scrolled into view for an editor that stands on it.
+    void EditFocusedItem();
+    void PressFocusedButton();
+
     // Whether an in-place edit, a list or a calendar is open.
     bool IsEditing() const { return m_editors.IsOpen(); }
     // Ends it: the typed text becomes the value, a list or a calendar closes without a choice. For a client
@@ -123,6 +138,8 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg LRESULT OnSysKeyDown(WPARAM key, LPARAM flags);
+    afx_msg LRESULT OnSysChar(WPARAM character, LPARAM flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg UINT OnGetDlgCode();
     afx_msg LRESULT OnChoiceMade(WPARAM index, LPARAM zero);
@@ -142,6 +159,7 @@ private:
     void SettleLayout();
     void UpdateView();
     bool IsReadyForHitTest();
+    bool IsReadyForKey();
     bool TakeFocus();
     bool BeginPress();
     bool ScrollTo(std::optional<int> position);
@@ -152,6 +170,7 @@ private:
 
     CMouseController m_mouse{m_model, m_layout};
     CKeyController m_keys{m_model, m_layout};
+    CEditKeyController m_editKeys{m_model, m_layout};
     GridFonts m_fonts;
     CGridPainter m_painter{m_model, m_layout, m_fonts};
     CGridEditors m_editors{*this, m_model, m_fonts};

@@ -12,6 +12,8 @@ enum ECommand {
     IDM_CLEAR,
     IDM_ABOUT,
     IDM_EXIT,
+    IDM_OPEN_UNITS,
+    IDM_OPEN_PRECISION,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
     IDM_ITEM = 1000,      // plus the item's index

@@ -17,7 +17,7 @@ constexpr int kCrossArm = 5;
 constexpr int kCrosshairArm = 18;
 constexpr int kSnapArm = 6;
 
-constexpr COLORREF kCross = RGB(0, 60, 160);
+constexpr COLORREF kCross = RGB(0, 60, 160);  // and the frame of the focus
 constexpr COLORREF kCrosshair = RGB(40, 40, 40);
 constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
 constexpr COLORREF kRubberLine = RGB(120, 120, 120);
@@ -46,6 +46,7 @@ void CDrawingView::Paint() {
     PaintCrosshair(paint.Dc());
     PaintSnapMark(paint.Dc());
     PaintCrosses(paint.Dc());
+    PaintFocus(paint.Dc(), paint.Client());
 }
 
 void CDrawingView::PaintScene(HDC dc, const RECT& client) {
@@ -101,6 +102,18 @@ void CDrawingView::PaintCrosses(HDC dc) const {
     const handles::CSelectedObject selection(dc, pen);
     for (const Point& cross : m_crosses) {
         DrawCross(dc, ToPixel(cross), m_scale(kCrossArm));
+    }
+}
+
+void CDrawingView::PaintFocus(HDC dc, const RECT& client) const {
+    if (!m_showsFocus) {
+        return;
+    }
+    const handles::GdiOwner brush(CreateSolidBrush(kCross));
+    RECT frame = client;
+    for (int line = 0; line < m_scale(2); ++line) {
+        FrameRect(dc, &frame, static_cast<HBRUSH>(brush.get()));
+        InflateRect(&frame, -1, -1);
     }
 }
 

@@ -22,7 +22,7 @@ public:
     // Sets the window's menu, which the window owns.
     explicit CMainMenu(HWND window);
 
-    // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9.
+    // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9, the others mnemonics.
     void SetItems(const std::vector<std::wstring>& titles);
 
     // To be called before the menu opens and before TranslateAccelerator, which ignores disabled commands:

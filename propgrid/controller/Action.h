@@ -52,10 +52,12 @@ struct TellCustomItem {
     Point point;
 };
 
-// Opens the in-place edit over a rectangle.
+// Opens the in-place edit over a rectangle, with the item's text; `typed` then replaces the text as if it
+// were typed there, unless it is 0.
 struct OpenTextEdit {
     Id item;
     Rect rect;
+    wchar_t typed = 0;
 };
 
 // Drops the item's list or calendar down under a cell, which reaches from the divider to the row's right

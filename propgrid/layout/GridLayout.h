@@ -78,6 +78,8 @@ public:
     Rect GetValueRect(const GridItem& item) const;
     Rect GetGlyphRect(const GridSection& section) const;
     Rect GetHeaderRect(const GridSection& section) const;
+    // The header or the name of the focused row; empty without one.
+    Rect GetFocusedRow() const;
     // Where a press counts as one on the focused item's edit button: empty from any move of the focus to the
     // next paint.
     const Rect& GetEditButton() const { return m_editButton; }

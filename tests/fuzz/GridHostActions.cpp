@@ -132,13 +132,10 @@ void CGridHost::Do(const action::DropDown& list) {
     }
 }
 
-// A dialog is for an editable item alone, whichever action requests it.
 void CGridHost::Do(const action::EditInDialog& dialog) {
     window.editor = ED_NONE;
     const GridItem& item = *m_model.FindItem(dialog.item);
-    if (!item.editable) {
-        return;
-    }
+    Require(item.editable, "a dialog is for an editable item alone");
     if (ICustomItem* const custom = item.GetCustomItem()) {
         Record({.kind = WC_CUSTOM_BUTTON, .item = dialog.item});
         if (custom->OnButtonClicked()) {

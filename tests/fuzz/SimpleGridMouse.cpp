@@ -196,7 +196,7 @@ void CSimpleGrid::DoubleClick(unsigned answer) {
         const int next = static_cast<int>((item->value.number + 1LL) % item->choices);
         item->value.number = next < 0 ? next + item->choices : next;
         Notify(item->id);
-    } else if (EditModeOf(*item) == EM_MODAL) {
+    } else if (item->editable && EditModeOf(*item) == EM_MODAL) {
         EditInDialog(item->id, answer);
     }
 }
@@ -256,9 +256,6 @@ void CSimpleGrid::DropDown(const SimpleItem& item) {
 void CSimpleGrid::EditInDialog(Id id, unsigned answer) {
     window.editor = ED_NONE;
     const SimpleItem* const item = FindItem(id);
-    if (!item->editable) {
-        return;
-    }
     if (item->kind == IT_CUSTOM) {
         PressCustomButton(id);
         return;

@@ -380,6 +380,13 @@ TEST_F(MouseController, ADoubleClickRunsADialog) {
     EXPECT_TRUE(HasAction<action::EditInDialog>(mouse.DoubleClick()));
 }
 
+TEST_F(MouseController, ADoubleClickRunsNoDialogForAnItemThatIsNotEditable) {
+    AddSection();
+    AddItem(0, L"colour", IT_COLOR, Color{1}, false);
+    Focus({.item = 0});
+    EXPECT_TRUE(mouse.DoubleClick().empty());
+}
+
 TEST_F(MouseController, ADoubleClickOnAnythingElseDoesNothing) {
     EXPECT_TRUE(mouse.DoubleClick().empty());
     AddSection();

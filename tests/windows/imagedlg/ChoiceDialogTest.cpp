@@ -1,6 +1,8 @@
 // What the choice dialog shows and how it ends.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/windows/imagedlg/ChoiceFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
@@ -97,6 +99,32 @@ TEST_F(ChoiceDialog, EnterChoosesTheSelectedCell) {
                            PressKey(window, VK_RETURN);
                        }),
               (Chosen{100, L"c1"}));
+}
+
+TEST_F(ChoiceDialog, ADigitSelectsTheCellWithItsNumber) {
+    for (const unsigned count : {1U, 2U, 3U, 4U, 5U, 6U}) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
+            const int choice = GetCellContent(count, cell);
+            EXPECT_EQ(ChosenBy(static_cast<int>(count),
+                               [&](HWND window) {
+                                   TypeCharacter(window, static_cast<wchar_t>(L'0' + cell));
+                                   PressKey(window, VK_RETURN);
+                               }),
+                      (Chosen{100, L"c" + std::to_wstring(std::max(choice, 0))}))
+                << count << " " << cell;
+        }
+    }
+}
+
+TEST_F(ChoiceDialog, OtherDigitsAndLettersSelectNothing) {
+    EXPECT_EQ(ChosenBy(6,
+                       [](HWND window) {
+                           for (const wchar_t character : {L'3', L'0', L'7', L'9', L'a', L' '}) {
+                               TypeCharacter(window, character);
+                           }
+                           PressKey(window, VK_RETURN);
+                       }),
+              (Chosen{100, L"c2"}));
 }
 
 TEST_F(ChoiceDialog, OkChoosesTheSelectedCell) {

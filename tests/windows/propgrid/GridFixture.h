@@ -29,11 +29,13 @@ public:
     // What the items of `grid` showed at the moment of each: a notification comes after the value is stored.
     std::vector<std::wstring> changedValues;
     const CPropertyGrid* grid = nullptr;
-    CFont font;  // answered to WM_GETFONT; none when it has no handle
+    bool wasAskedForMenu = false;  // by Alt alone, or Alt with a letter
+    CFont font;                    // answered to WM_GETFONT; none when it has no handle
 
 protected:
     afx_msg LRESULT OnGridItemChanged(WPARAM item, LPARAM zero);
     afx_msg LRESULT OnAskedForFont(WPARAM, LPARAM);
+    afx_msg LRESULT OnSysCommand(WPARAM command, LPARAM);
     DECLARE_MESSAGE_MAP()
 };
 

@@ -75,6 +75,25 @@ TEST_F(PromptRow, WhatIsTypedElsewhereLandsThere) {
     EXPECT_EQ(Shown(), L"(a");
 }
 
+TEST_F(PromptRow, F6GoesToTheDrawingAndBack) {
+    ASSERT_EQ(GetFocus(), Part(IDC_PROMPT));
+    PostKey(VK_F6);
+    Handle();
+    EXPECT_EQ(GetFocus(), Area());
+    PostKey(VK_F6, IDC_DRAWING);
+    Handle();
+    EXPECT_EQ(GetFocus(), Part(IDC_PROMPT));
+}
+
+TEST_F(PromptRow, WhileItIsDisabledF6StaysInTheDrawing) {
+    m_window.SetBusy(true);
+    PostKey(VK_F6, IDC_DRAWING);
+    Handle();
+    EXPECT_EQ(GetFocus(), Area());
+    m_window.SetBusy(false);
+    EXPECT_EQ(GetFocus(), Part(IDC_PROMPT));
+}
+
 TEST_F(PromptRow, TheListOfOutputsTakesLinesAndPieces) {
     m_window.AddText(L"one\ntwo\n");
     EXPECT_EQ(Output(), L"one\r\ntwo");
