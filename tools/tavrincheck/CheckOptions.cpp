@@ -58,6 +58,7 @@ const char* CheckHelp() {
   tavrincheck [OPTIONS] FILE|FOLDER...
   tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
   tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
+  tavrincheck texts ...     makes TavrinRes.dll from its script (see tavrincheck texts --help)
 
 NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared if both exist. In
 folders all *.TXT are checked. The picture NAME.png and the slides that NAME.lsp offers must exist beside NAME.TXT.

@@ -19,6 +19,7 @@
 #include "tools/tavrincheck/CheckCommand.h"
 #include "tools/tavrincheck/ExtractCommand.h"
 #include "tools/tavrincheck/PreviewCommand.h"
+#include "tools/tavrincheck/TextsCommand.h"
 
 namespace tavrin::tools {
 
@@ -61,6 +62,7 @@ int Run(std::vector<std::string> arguments) {
     static const std::map<std::string_view, Command> commands = {
         {"extract", RunExtract},
         {"preview", RunPreview},
+        {"texts", RunTexts},
     };
     const auto command = arguments.empty() ? commands.end() : commands.find(arguments.front());
     if (command == commands.end()) {
