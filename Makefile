@@ -1,7 +1,7 @@
 # The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
 
 BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
-  nlohmann-json3-dev libcli11-dev libutfcpp-dev
+  nlohmann-json3-dev libcli11-dev libstb-dev libutfcpp-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev

@@ -56,6 +56,7 @@ const char* CheckHelp() {
     return R"(tavrincheck: checks item files as the module reads them
 
   tavrincheck [OPTIONS] FILE|FOLDER...
+  tavrincheck new ...       writes the files of a new item (see tavrincheck new --help)
   tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
   tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
   tavrincheck texts ...     makes TavrinRes.dll from its script (see tavrincheck texts --help)
