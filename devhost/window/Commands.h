@@ -14,6 +14,7 @@ enum ECommand {
     IDM_EXIT,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
+    IDM_LANGUAGE = 400,   // plus the language's index
     IDM_ITEM = 1000,      // plus the item's index
 };
 

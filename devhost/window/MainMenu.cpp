@@ -30,6 +30,12 @@ void AddPopup(HMENU menu, HMENU popup, const wchar_t* title) {
     AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), title);
 }
 
+void Clear(HMENU menu) {
+    while (GetMenuItemCount(menu) > 0) {
+        RemoveMenu(menu, 0, MF_BYPOSITION);
+    }
+}
+
 // Doubles ampersands, which would underline the next letter.
 std::wstring Shown(const std::wstring& title) {
     std::wstring shown;
@@ -44,11 +50,13 @@ std::wstring Shown(const std::wstring& title) {
 CMainMenu::CMainMenu(HWND window)
     : m_menu(CreateMenu()),
       m_items(CreatePopupMenu()),
+      m_languages(CreatePopupMenu()),
       m_keys(CreateAcceleratorTableW(kKeys, int(std::size(kKeys)))) {
     AddPopup(m_menu, m_items, L"&Items");
     const HMENU plugIn = CreatePopupMenu();
     AppendMenuW(plugIn, MF_STRING, IDM_RELOAD, L"&Reload\tF5");
     AddPopup(m_menu, plugIn, L"&Plug-in");
+    AddPopup(m_menu, m_languages, L"&Language");
     const HMENU view = CreatePopupMenu();
     AppendMenuW(view, MF_STRING, IDM_FIT, L"&Fit\tCtrl+0");
     AppendMenuW(view, MF_STRING, IDM_SNAP, L"&Snap to end points\tF3");
@@ -59,13 +67,12 @@ CMainMenu::CMainMenu(HWND window)
     AppendMenuW(help, MF_STRING, IDM_ABOUT, L"&About DevHost\tF1");
     AddPopup(m_menu, help, L"&Help");
     SetItems({});
+    SetLanguages({});
     SetMenu(window, m_menu);
 }
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
-    while (GetMenuItemCount(m_items) > 0) {
-        RemoveMenu(m_items, 0, MF_BYPOSITION);
-    }
+    Clear(m_items);
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const std::wstring key = i < kItemKeys ? L"\tCtrl+" + std::to_wstring(i + 1) : L"";
         AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, (Shown(titles[i]) + key).c_str());
@@ -78,12 +85,30 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     m_itemCount = titles.size();
 }
 
+void CMainMenu::SetLanguages(const std::vector<std::wstring>& titles) {
+    Clear(m_languages);
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        AppendMenuW(m_languages, MF_STRING, IDM_LANGUAGE + i, Shown(titles[i]).c_str());
+    }
+    if (titles.empty()) {
+        AppendMenuW(m_languages, MF_STRING | MF_GRAYED, 0, L"No TavrinRes.dll found");
+    }
+    m_languageCount = titles.size();
+}
+
 void CMainMenu::Update(const MenuState& state) const {
     const auto enable = [&](UINT command, bool enabled) {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
     for (std::size_t i = 0; i < m_itemCount; ++i) {
         enable(UINT(IDM_ITEM + i), state.isIdle);
+    }
+    for (std::size_t i = 0; i < m_languageCount; ++i) {
+        enable(UINT(IDM_LANGUAGE + i), state.isIdle);
+    }
+    if (state.language) {
+        CheckMenuRadioItem(m_languages, IDM_LANGUAGE, UINT(IDM_LANGUAGE + m_languageCount - 1),
+                           UINT(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
     }
     enable(IDM_EXIT, state.isIdle);
     enable(IDM_RELOAD, state.isIdle && state.canReload);

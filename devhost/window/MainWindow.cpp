@@ -96,6 +96,13 @@ void CMainWindow::SetItems(const std::vector<std::wstring>& titles, std::functio
     m_menu->SetItems(titles);
 }
 
+void CMainWindow::SetLanguages(const std::vector<std::wstring>& titles,
+                               std::function<void(std::size_t)> onLanguage) {
+    m_languageCount = titles.size();
+    m_onLanguage = std::move(onLanguage);
+    m_menu->SetLanguages(titles);
+}
+
 void CMainWindow::SetReloadHandler(std::function<void()> onReload) {
     m_onReload = std::move(onReload);
 }
@@ -224,12 +231,20 @@ void CMainWindow::OnCommand(int command) {
         OnClose();
     } else if (command >= IDM_ITEM) {
         OnItem(std::size_t(command - IDM_ITEM));
+    } else if (command >= IDM_LANGUAGE) {
+        OnLanguage(std::size_t(command - IDM_LANGUAGE));
     }
 }
 
 void CMainWindow::OnItem(std::size_t index) {
     if (index < m_itemCount && m_onItem) {
         m_onItem(index);
+    }
+}
+
+void CMainWindow::OnLanguage(std::size_t index) {
+    if (index < m_languageCount && m_onLanguage) {
+        m_onLanguage(index);
     }
 }
 
@@ -256,6 +271,7 @@ void CMainWindow::UpdateMenu() {
     state.canReload = m_onReload != nullptr;
     state.hasDrawing = !m_shown.Entities().empty();
     state.hasSnap = m_drawing->HasSnap();
+    state.language = m_language;
     m_menu->Update(state);
 }
 

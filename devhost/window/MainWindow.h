@@ -61,6 +61,10 @@ public:
     void SetPasteHandler(JoinLines join) { m_joinLines = std::move(join); }
     // The entries of the menu Items, and the handler, which gets the index of the chosen one.
     void SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem);
+    // The entries of the menu Language, and the handler, which gets the index of the chosen one.
+    void SetLanguages(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onLanguage);
+    // The entry of the menu Language that is marked; nothing initially.
+    void SetLanguage(std::optional<std::size_t> index) { m_language = index; }
     // The handler of Plug-in > Reload, which is disabled without one.
     void SetReloadHandler(std::function<void()> onReload);
 
@@ -99,6 +103,7 @@ private:
     void OnClose();
     void OnCommand(int command);
     void OnItem(std::size_t index);
+    void OnLanguage(std::size_t index);
     void ChooseFormat(int lunits, int luprec);
     void ClearDrawing();
     void ShowAbout();
@@ -149,7 +154,10 @@ private:
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
     std::function<void(int, int)> m_onFormat;
+    std::function<void(std::size_t)> m_onLanguage;
     std::size_t m_itemCount = 0;
+    std::size_t m_languageCount = 0;
+    std::optional<std::size_t> m_language;
 
     int m_busy = 0;  // nesting level
     bool m_isEscapePressed = false;
