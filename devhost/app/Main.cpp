@@ -2,6 +2,8 @@
 // did not free.
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -196,6 +198,18 @@ void OfferLanguages(const std::vector<std::wstring>& itemFolders, CChosenTexts& 
         IndexOfPath(modules, texts.Path().empty() ? ProgramFolder() + L"\\TavrinRes.dll" : texts.Path()));
 }
 
+// The start page of the documentation is in the archive that users unpack, beside the program.
+void OpenDocumentation(CTextOutput& output) {
+    const std::wstring page = ProgramFolder() + L"\\README.html";
+    if (!IsFile(page)) {
+        output.Error(L"the documentation '" + page +
+                     L"' does not exist: it comes with the archive for users");
+    } else if (reinterpret_cast<INT_PTR>(
+                   ShellExecuteW(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) <= 32) {
+        output.Error(L"no program opens '" + page + L"': open it in a browser");
+    }
+}
+
 bool IsScriptsAlone(const std::vector<PreparedTask>& tasks) {
     for (const PreparedTask& task : tasks) {
         if (!task.isScript) {
@@ -236,6 +250,7 @@ int Run(const Options& options, CTextOutput& output) {
     window.SetPasteHandler(lisp::OnOneLine);
     OfferLanguages(itemFolders, texts, plugIn, output, window);
     window.SetReloadHandler([&] { Reload(plugIn, output, [&] { texts.Reload(); }); });
+    window.SetHelpHandler([&] { OpenDocumentation(output); });
     window.Show();
     const int status = session.RunTasks(tasks);
     if (tasks.empty() || options.stay) {

@@ -10,6 +10,7 @@ enum ECommand {
     IDM_FIT,
     IDM_SNAP,
     IDM_CLEAR,
+    IDM_HELP,
     IDM_ABOUT,
     IDM_EXIT,
     IDM_UNITS = 300,      // plus a value of LUNITS

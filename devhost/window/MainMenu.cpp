@@ -13,7 +13,7 @@ ACCEL kKeys[] = {
     {FVIRTKEY, VK_F5, IDM_RELOAD},
     {FVIRTKEY, VK_F3, IDM_SNAP},
     {FVIRTKEY | FCONTROL, '0', IDM_FIT},
-    {FVIRTKEY, VK_F1, IDM_ABOUT},
+    {FVIRTKEY, VK_F1, IDM_HELP},
     {FVIRTKEY | FCONTROL, '1', IDM_ITEM},
     {FVIRTKEY | FCONTROL, '2', IDM_ITEM + 1},
     {FVIRTKEY | FCONTROL, '3', IDM_ITEM + 2},
@@ -64,7 +64,8 @@ CMainMenu::CMainMenu(HWND window)
     AppendMenuW(view, MF_STRING, IDM_CLEAR, L"&Clear drawing");
     AddPopup(m_menu, view, L"&View");
     const HMENU help = CreatePopupMenu();
-    AppendMenuW(help, MF_STRING, IDM_ABOUT, L"&About DevHost\tF1");
+    AppendMenuW(help, MF_STRING, IDM_HELP, L"&Documentation\tF1");
+    AppendMenuW(help, MF_STRING, IDM_ABOUT, L"&About DevHost");
     AddPopup(m_menu, help, L"&Help");
     SetItems({});
     SetLanguages({});

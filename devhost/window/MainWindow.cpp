@@ -219,6 +219,8 @@ void CMainWindow::OnCommand(int command) {
         ChooseFormat(command - IDM_UNITS, m_status->Precision());
     } else if (command >= IDM_PRECISION && command <= IDM_PRECISION + units::kMaxLinearPrecision) {
         ChooseFormat(m_status->Units(), command - IDM_PRECISION);
+    } else if (command == IDM_HELP) {
+        ShowHelp();
     } else if (!IsIdle()) {
         MessageBeep(MB_ICONWARNING);
     } else if (command == IDM_RELOAD && m_onReload) {
@@ -258,6 +260,12 @@ void CMainWindow::ChooseFormat(int lunits, int luprec) {
 void CMainWindow::ClearDrawing() {
     m_drawing->ClearMarks();
     m_shown.Clear();
+}
+
+void CMainWindow::ShowHelp() {
+    if (m_onHelp) {
+        m_onHelp();
+    }
 }
 
 void CMainWindow::ShowAbout() {

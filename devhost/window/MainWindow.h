@@ -68,6 +68,9 @@ public:
     // The handler of Plug-in > Reload, which is disabled without one.
     void SetReloadHandler(std::function<void()> onReload);
 
+    // The handler of Help > Documentation, which may come at any time.
+    void SetHelpHandler(std::function<void()> onHelp) { m_onHelp = std::move(onHelp); }
+
     // The unit format of the status line, as values of LUNITS and LUPREC; initially 2 and 4.
     void SetFormat(int lunits, int luprec);
     // Called after the user has chosen another format in the status line.
@@ -106,6 +109,7 @@ private:
     void OnLanguage(std::size_t index);
     void ChooseFormat(int lunits, int luprec);
     void ClearDrawing();
+    void ShowHelp();
     void ShowAbout();
     void UpdateMenu();
     // Sets the focus to the prompt, or to the drawing while the prompt is disabled.
@@ -153,6 +157,7 @@ private:
     JoinLines m_joinLines;
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
+    std::function<void()> m_onHelp;
     std::function<void(int, int)> m_onFormat;
     std::function<void(std::size_t)> m_onLanguage;
     std::size_t m_itemCount = 0;

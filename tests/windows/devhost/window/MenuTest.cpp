@@ -80,6 +80,18 @@ TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
     EXPECT_EQ(reloads, 1);
 }
 
+TEST_F(Menu, F1AsksForHelpAtAnyTime) {
+    int calls = 0;
+    m_window.SetHelpHandler([&] { ++calls; });
+    PostKey(VK_F1);
+    Handle();
+    m_window.SetBusy(true);
+    PostKey(VK_F1);
+    Handle();
+    m_window.SetBusy(false);
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
     m_window.SetItems({L"Door"}, [](std::size_t) {});
     m_window.SetLanguages({L"English"}, [](std::size_t) {});
