@@ -60,11 +60,11 @@ test-x86: packages
 	@scripts/test-x86
 
 run: packages
-	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TavrinRes_en TD_Alloc TD_Alloc_checked
 	@scripts/run-door
 
 screenshots: packages
-	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TavrinRes_en TD_Alloc TD_Alloc_checked
 	@scripts/make-screenshots
 
 gallery: packages
