@@ -16,6 +16,11 @@ Unicode true
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}-${ARCHITECTURE}"
 !define UNINSTALLER "uninstall.exe"
 !define FAILED 2
+!if "${ARCHITECTURE}" == "x64"
+  !define BITS 64
+!else
+  !define BITS 32
+!endif
 
 Name "${NAME} ${VERSION} (${ARCHITECTURE})"
 OutFile "${OUTPUT}"
@@ -35,6 +40,8 @@ Var HostBrowse
 !define MUI_WELCOMEPAGE_TEXT "This installs DevHost with its sample items and documentation for you alone. No \
 administrator is needed.$\r$\n$\r$\nThe plug-in itself can be copied into the folder of a host application as well."
 !insertmacro MUI_PAGE_WELCOME
+!define MUI_PAGE_HEADER_TEXT "Licence"
+!define MUI_PAGE_HEADER_SUBTEXT "What you may do with ${NAME}."
 !define MUI_LICENSEPAGE_TEXT_TOP "About the licence:"
 !define MUI_LICENSEPAGE_TEXT_BOTTOM "Click Next to continue."
 !define MUI_LICENSEPAGE_BUTTON "&Next >"
@@ -88,7 +95,7 @@ Function ShowHostPage
   ${NSD_CreateBrowseButton} 80% 17u 20% 15u "B&rowse..."
   Pop $HostBrowse
   ${NSD_OnClick} $HostBrowse BrowseForHost
-  ${NSD_CreateLabel} 0 42u 100% 40u "It must be a ${ARCHITECTURE} host. Its texts, TavrinRes.dll, are copied as well \
+  ${NSD_CreateLabel} 0 42u 100% 40u "It must be a ${BITS}-bit host. Its texts, TavrinRes.dll, are copied as well \
 unless there are some already. Close the host application first."
   Pop $0
   ${If} $HostFolder != ""
