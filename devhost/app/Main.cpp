@@ -190,7 +190,10 @@ void OfferLanguages(const std::vector<std::wstring>& itemFolders, CChosenTexts& 
         titles.push_back(module.title);
     }
     window.SetLanguages(titles, [=, &texts, &plugIn, &output, &window](std::size_t index) {
-        Reload(plugIn, output, [&] { texts.Use(modules[index].path); });
+        Reload(plugIn, output, [&] {
+            texts.Use(modules[index].path);
+            output.Line(L"; texts: " + modules[index].path);
+        });
         window.SetLanguage(IndexOfPath(modules, texts.Path()));
     });
     // What the system finds first is beside the program.
