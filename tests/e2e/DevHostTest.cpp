@@ -132,8 +132,10 @@ TEST_F(DevHostWindow, UnitsAndPrecisionAreChosenInTheStatusLine) {
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
-TEST_F(DevHostWindow, F1OpensTheAboutBox) {
-    window.Press("F1");
+TEST_F(DevHostWindow, AboutTellsWhatItIs) {
+    const Window menu = Window::OpenedBy([&] { window.Press("alt+h"); }, "devhost.exe");
+    ASSERT_TRUE(menu.IsValid());
+    PressKeys("a");
     const Window about = Window::WithTitle("About DevHost");
     ASSERT_TRUE(about.IsValid());
     EXPECT_TRUE(about.PressUntilClosed("Return"));

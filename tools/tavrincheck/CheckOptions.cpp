@@ -56,8 +56,10 @@ const char* CheckHelp() {
     return R"(tavrincheck: checks item files for errors, reading them as TavrinWnd.dll does
 
   tavrincheck [OPTIONS] FILE|FOLDER...
+  tavrincheck new ...       writes the files of a new item (see tavrincheck new --help)
   tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
   tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
+  tavrincheck texts ...     makes TavrinRes.dll from its script (see tavrincheck texts --help)
 
 NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared if both exist. In
 folders all *.TXT are checked. The picture NAME.png and the slides (pictures of variants) that NAME.lsp offers must
