@@ -93,13 +93,16 @@ public:
     // else leaves it open on its cell: whatever is refused or sets what is set already, the values and
     // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
 
-    // Whether the grid can be worked with the keyboard alone (false at the start). Then, on the focused row,
-    //   F2, F4, Alt+Down            open its editor: the edit with its text, the list, the calendar, the
-    //   dialog a printable character       opens an in-place edit with it in place of the text Alt+Enter
-    //   presses the "..." button: the dialog, a custom item's OnButtonClicked Space inverts a Boolean Home,
-    //   End, Page Up/Down     focus the first or last row, or one a page away, and bring it into view
-    // "*", "/" and, for a focused section, "+" and "-" keep their meaning. A row that is not editable answers
-    // none of the first four.
+    // Whether every value can be edited with the keyboard alone; false at construction. Then, on the focused
+    // row:
+    // - F2, F4 and Alt+Down open its editor: the edit with its text, the list, the calendar, the dialog;
+    // - a printable character opens an in-place edit with that character in place of the text;
+    // - Alt+Enter presses the "..." button: the dialog, or a custom item's OnButtonClicked;
+    // - Space inverts a Boolean;
+    // - Home, End, Page Up and Page Down focus the first or last row, or one a page away, and bring it into
+    // view.
+    // "*", "/" and, for a focused section, "+" and "-" keep their meaning. The first four do nothing on a row
+    // that is not editable.
     void SetKeyboardEditing(bool on) { m_model.settings.keyboardEditing = on; }
     bool GetKeyboardEditing() const { return m_model.settings.keyboardEditing; }
     // What F2 and Alt+Enter do, whether keyboard editing is on or not: for a client's own keys, and for
