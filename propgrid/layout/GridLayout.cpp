@@ -64,6 +64,7 @@ void CGridLayout::ForgetRows() {
     m_records = {};
     m_sorted = {};
     m_sortedRows = {};
+    m_sortedRevision = kNeverSorted;
     m_generation = m_model.GetGeneration();
 }
 

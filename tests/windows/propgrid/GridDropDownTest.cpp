@@ -85,11 +85,6 @@ TEST_F(GridDropDown, AListHasTheGridsColours) {
     EXPECT_GT(pixels.Count({2, RowHeight() + 3, 30, 2 * RowHeight()}, focusText), 3);
 }
 
-TEST_F(GridDropDown, AListHasTheRowsFont) {
-    ClickOn(ValueOf(AddCombo()));
-    EXPECT_EQ(CClientPixels(List()).Height(), 3 * RowHeight() + 2);
-}
-
 TEST_F(GridDropDown, AListHasTheItemsIndexSelected) {
     const UINT combo = AddCombo(2);
     const UINT yes = grid.AddBooleanItem(section, L"yes", true);

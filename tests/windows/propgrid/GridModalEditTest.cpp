@@ -65,14 +65,6 @@ protected:
     static void SetTime(HWND picker, const SYSTEMTIME& time) {
         ::SendMessage(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
     }
-    // The time of day, give or take what a slow machine takes to open a dialog.
-    static void ExpectTimeOfNow(const SYSTEMTIME& time) {
-        constexpr int kDay = 24 * 60;  // minutes
-        SYSTEMTIME now = {};
-        ::GetLocalTime(&now);
-        const int passed = (now.wHour - time.wHour) * 60 + now.wMinute - time.wMinute;
-        EXPECT_LE((passed + kDay) % kDay, 3) << time.wHour << ':' << time.wMinute;
-    }
     // Whether the last edit was told of once, when its value was stored already, or not at all.
     void ExpectTold(UINT item) {
         EXPECT_EQ(parent.changedItems, Ids{item});
@@ -92,7 +84,6 @@ TEST_F(GridModalEdit, ATextIsEditedInADialogOfItsOwn) {
         EXPECT_EQ(TextOf(dialog), L"Note");
         EXPECT_EQ(Caption(dialog, IDOK), L"Va bene");
         EXPECT_EQ(Caption(dialog, IDCANCEL), L"Annulla");
-        EXPECT_EQ(ChildOf(dialog, L"Button", 2), nullptr);
         const HWND edit = ChildOf(dialog, L"Edit");
         EXPECT_EQ(TextOf(edit), L"one\r\ntwo");
         EXPECT_EQ(static_cast<DWORD>(::GetWindowLong(edit, GWL_STYLE)), 0x503110C4U);
@@ -172,7 +163,6 @@ TEST_F(GridModalEdit, ADateAndTimeAreEditedWithTwoPickers) {
         EXPECT_EQ(TextOf(ChildOf(dialog, L"Static", 1)), L"Ora");
         const HWND day = ChildOf(dialog, DATETIMEPICK_CLASS, 0);
         const HWND time = ChildOf(dialog, DATETIMEPICK_CLASS, 1);
-        EXPECT_EQ(ChildOf(dialog, L"Button", 2), nullptr);
         EXPECT_EQ(static_cast<DWORD>(::GetWindowLong(day, GWL_STYLE)) & 0xFFFF00FFU, 0x50010020U);
         EXPECT_EQ(static_cast<DWORD>(::GetWindowLong(time, GWL_STYLE)) & 0xFFFF00FFU, 0x50010029U);
         ExpectAt(dialog, ChildOf(dialog, L"Static", 0), CRect(7, 3, 60, 12));
@@ -233,7 +223,6 @@ TEST_F(GridModalEdit, ADateThatIsNoneBecomesOne) {
         const UINT item = grid.AddDateTimeItem(section, std::to_wstring(status), none, L"%Y-%m-%d %H:%M:%S");
         Edit(item, IDOK, [](HWND dialog) {
             SYSTEMTIME chosen = TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, 0));
-            ExpectTimeOfNow(TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, 1)));
             chosen.wYear = 1999;
             chosen.wMonth = 12;
             chosen.wDay = 31;

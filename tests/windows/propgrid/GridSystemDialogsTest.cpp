@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
-#include <algorithm>
 #include <cwchar>
 
 #include "propgrid/editors/FolderBrowser.h"
@@ -109,19 +108,6 @@ TEST_F(GridSystemDialogs, AFontIsAskedForAmongThoseOfTheScreenWithEffects) {
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(initialHeight, -12);
     EXPECT_EQ(flags & ~DWORD{CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK}, DWORD{CF_SCREENFONTS | CF_EFFECTS});
-}
-
-TEST_F(GridSystemDialogs, AFaceNameThatFillsItsFieldIsCutOff) {
-    static std::wstring face;
-    const CImportHook choose(
-        __imp_ChooseFontW, +[](LPCHOOSEFONTW dialog) WINAPI {
-            face.assign(dialog->lpLogFont->lfFaceName, LF_FACESIZE);
-            return FALSE;
-        });
-    FontValue font;
-    std::fill(std::begin(font.faceName), std::end(font.faceName), u'x');
-    EXPECT_FALSE(Ask(IT_FONT, std::make_shared<const FontValue>(font)));
-    EXPECT_EQ(face, std::wstring(LF_FACESIZE - 1, L'x') + L'\0');
 }
 
 // A window that plays the browser's and notes what it is told.
