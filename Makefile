@@ -9,7 +9,9 @@ FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 X86_PACKAGES = debootstrap
 LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 
-.PHONY: help build check test test-x86 run screenshots gallery lint coverage bench fuzz soak rules dist packages
+MUTANT_PACKAGES = python3
+
+.PHONY: help build check test test-x86 run screenshots gallery lint coverage mutants bench fuzz soak rules dist packages
 .DEFAULT_GOAL := help
 
 help:
@@ -27,6 +29,8 @@ help:
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
 	@echo "make lint     the format of all sources, compiler warnings, clang-tidy, cppcheck, shellcheck"
 	@echo "make coverage what the tests run of the code; the figures go to docs/reliability.md"
+	@echo "make mutants  plant small faults one at a time, and see that a test notices each; the figures go to"
+	@echo "              docs/reliability.md"
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make rules    write what tavrincheck says of its rules into docs/tavrincheck.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
@@ -97,3 +101,7 @@ coverage: packages
 	@scripts/install-packages $(FUZZ_PACKAGES) llvm
 	@scripts/coverage
 	@scripts/coverage-windows
+
+mutants: packages
+	@scripts/install-packages $(MUTANT_PACKAGES)
+	@scripts/mutants

@@ -115,9 +115,10 @@ std::optional<double> TakeFraction(CCursor& cursor, const Decimal& whole, const 
     const auto w = ToDouble(whole);
     const auto n = ToDouble(numerator);
     const auto d = ToDouble(Decimal{cursor.TakeDigits(), ""});
-    if (!w || !n || !d || *d == 0) {
+    if (!w || !n || !d) {
         return std::nullopt;
     }
+    // Not finite for a denominator of 0 either.
     const double value = (*w * *d + *n) / *d;
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }

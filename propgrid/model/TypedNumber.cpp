@@ -26,24 +26,15 @@ std::size_t SkipSign(const std::wstring& text, std::size_t position) {
     return position + (isSign ? 1 : 0);
 }
 
-// Where the decimal number ends that begins at `start`: the conversion function of the library would also
-// read hexadecimal numbers, infinity and NaN. `start` when there is none.
+// Where the characters of a decimal number end that begins at `start`: the conversion function of the library
+// would also read hexadecimal numbers, infinity and NaN. It ignores an incomplete exponent at the end.
 std::size_t FindRealEnd(const std::wstring& text, std::size_t start, wchar_t point) {
-    const std::size_t whole = SkipSign(text, start);
-    std::size_t end = SkipDigits(text, whole);
-    std::size_t digits = end - whole;
+    std::size_t end = SkipDigits(text, SkipSign(text, start));
     if (end < text.size() && text[end] == point) {
-        const std::size_t fraction = end + 1;
-        end = SkipDigits(text, fraction);
-        digits += end - fraction;
-    }
-    if (digits == 0) {
-        return start;
+        end = SkipDigits(text, end + 1);
     }
     if (end < text.size() && (text[end] == L'e' || text[end] == L'E')) {
-        const std::size_t exponent = SkipSign(text, end + 1);
-        const std::size_t exponentEnd = SkipDigits(text, exponent);
-        end = exponentEnd > exponent ? exponentEnd : end;
+        end = SkipDigits(text, SkipSign(text, end + 1));
     }
     return end;
 }
@@ -64,7 +55,7 @@ double ReadTypedReal(const std::wstring& text) {
         ++start;
     }
     const std::size_t end = FindRealEnd(number, start, point);
-    return end > start ? std::wcstod(number.substr(start, end - start).c_str(), nullptr) : 0.0;
+    return std::wcstod(number.substr(start, end - start).c_str(), nullptr);
 }
 
 }  // namespace tavrin::propgrid

@@ -133,11 +133,17 @@ TEST(ValueText, RoundsPointSizesToTheNearest) {
 
 TEST(ValueText, IsTheUndefinedTextForEveryUndefinedItem) {
     GridTexts texts;
-    GridItem item = Item(IT_INTEGER, 5);
-    item.undefined = true;
-    EXPECT_EQ(GetValueText(item, texts, CTestSystemText()), L"");
     texts.undefined = L"(unknown)";
-    EXPECT_EQ(GetValueText(item, texts, CTestSystemText()), L"(unknown)");
+    const std::wstring text = L"text";
+    for (GridItem item :
+         {Item(IT_STRING, text), Item(IT_TEXT, text), Item(IT_FILE, text), Item(IT_FOLDER, text),
+          Item(IT_INTEGER, 5), Item(IT_DOUBLE, 5.0), Item(IT_COMBO, 0, {L"choice"}), Item(IT_BOOLEAN, true),
+          Item(IT_DATE, DateValue()), Item(IT_DATETIME, DateValue()), Item(IT_COLOR, Color()),
+          Item(IT_FONT, Font(u"F", -12))}) {
+        item.undefined = true;
+        EXPECT_EQ(GetValueText(item, texts, CTestSystemText()), L"(unknown)") << item.kind;
+        EXPECT_EQ(GetValueText(item, GridTexts(), CTestSystemText()), L"") << item.kind;
+    }
 }
 
 TEST(ValueText, IsEmptyForACustomItemWhichDrawsItself) {
