@@ -13,9 +13,9 @@ LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 .DEFAULT_GOAL := help
 
 help:
-	@echo "make run      DevHost with the sample items (without a display: driven by itself, from choosing a door"
+	@echo "make run      DevHost with the sample items (without a display: unattended, from choosing a door"
 	@echo "              to its drawing; the results printed, screenshots in out/)"
-	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
+	@echo "make gallery  open the property grid with every kind of value (without a display: unattended,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make screenshots  make the pictures of the documentation from the running programs"
 	@echo "make check    build and run the native tests: the quick loop while writing code without windows"

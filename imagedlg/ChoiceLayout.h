@@ -23,6 +23,9 @@ int GetCellContent(unsigned count, int cell);
 // shows nothing: the window is narrowed so that those cells are outside it.
 bool IsChoiceCellSelectable(unsigned count, int cell);
 
+// Whether typing the cell's number selects it: only where there is a choice in sight.
+bool IsChoiceCellTypeable(unsigned count, int cell);
+
 // The choice that selecting the (selectable) cell means; `previous` is the one selected before.
 int GetChoiceOfCell(unsigned count, int cell, int previous);
 

@@ -35,8 +35,8 @@ void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
 }
 
 // To a position in the client area of its parent, keeping its size.
-void MoveButton(CWnd& button, PixelPoint place) {
-    button.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+void MoveButton(CWnd& button, PixelPoint position) {
+    button.SetWindowPos(nullptr, position.x, position.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
 
 }  // namespace
@@ -72,6 +72,17 @@ BOOL CTavrinSelMaskDlg::OnInitDialog() {
     }
     ArrangeForCount();
     m_replaceButton.SetWindowText(m_replaceText);
+    return TRUE;
+}
+
+// The digits, which mean nothing to the buttons.
+BOOL CTavrinSelMaskDlg::PreTranslateMessage(MSG* message) {
+    const bool isDigit = message->message == WM_CHAR && message->wParam >= L'1' && message->wParam <= L'9';
+    const int cell = isDigit ? static_cast<int>(message->wParam - L'0') : 0;
+    if (!IsChoiceCellTypeable(m_count, cell)) {
+        return CDialog::PreTranslateMessage(message);
+    }
+    SelectCell(cell);
     return TRUE;
 }
 

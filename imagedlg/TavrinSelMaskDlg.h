@@ -1,5 +1,6 @@
-// The choice dialog: up to six named choices, each a picture (a slide) in a cell. One cell is selected and
-// has a black frame; OK, Enter and a double-click choose it. ChoiceLayout.h defines the layout.
+// The choice dialog: up to six named choices, each a picture (a slide) in a cell. One cell is selected, by a
+// click or by typing its number, and has a black frame; OK, Enter and a double-click choose it.
+// ChoiceLayout.h defines the layout.
 //
 // Fill it, load the slides, then run it:
 //
@@ -87,6 +88,7 @@ protected:
     }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
     HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     void OnPaint();

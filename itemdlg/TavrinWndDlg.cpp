@@ -74,6 +74,7 @@ BOOL CTavrinWndDlg::Initialize() {
     m_header.SetFont(&m_headerFont, TRUE);
     m_grid.SetBackColor(kBackColor);
     m_grid.SetShadeColor(kHeaderColor);
+    m_grid.SetKeyboardEditing(true);
     LoadTemplate();
     return TRUE;
 }
@@ -190,7 +191,7 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
     RewriteFile(kTemplateFileEnding, RewriteTemplateFile);
 }
 
-// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written all the same
+// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written nevertheless
 // and then ends where reading failed. Out of memory is reported as a failure of the step that it interrupted;
 // the file stays as it is unless it was being written.
 void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {

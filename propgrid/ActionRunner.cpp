@@ -70,14 +70,14 @@ void CActionRunner::Do(const action::TellCustomItem& event) {
 
 void CActionRunner::Do(const action::OpenTextEdit& edit) {
     m_parts.editors.Close();
-    if (const GridItem* const item = m_parts.model.FindItem(edit.item)) {
-        m_parts.editors.OpenTextEdit(edit.rect, GetEditText(*item));
+    if (const GridItem* const item = FindEditableItem(edit.item)) {
+        m_parts.editors.OpenTextEdit(edit.rect, GetEditText(*item), edit.typed);
     }
 }
 
 void CActionRunner::Do(const action::DropDown& list) {
     m_parts.editors.Close();
-    const GridItem* const item = m_parts.model.FindItem(list.item);
+    const GridItem* const item = FindEditableItem(list.item);
     if (item == nullptr) {
         return;
     }
@@ -92,8 +92,8 @@ void CActionRunner::Do(const action::DropDown& list) {
 
 void CActionRunner::Do(const action::EditInDialog& dialog) {
     m_parts.editors.Close();
-    const GridItem* const item = m_parts.model.FindItem(dialog.item);
-    if (item == nullptr || !item->editable) {
+    const GridItem* const item = FindEditableItem(dialog.item);
+    if (item == nullptr) {
         return;
     }
     if (ICustomItem* const custom = item->GetCustomItem()) {
@@ -131,6 +131,12 @@ void CActionRunner::Do(const action::Notify& change) {
 
 void CActionRunner::Do(const action::DefaultHandling& /*handling*/) {
     m_defaultFollows = true;
+}
+
+// Null when the end of the last editor led to the removal of the item, or to its protection.
+const GridItem* CActionRunner::FindEditableItem(Id id) const {
+    const GridItem* const item = m_parts.model.FindItem(id);
+    return item != nullptr && item->editable ? item : nullptr;
 }
 
 ICustomItem* CActionRunner::FindCustomItem(Id id) const {

@@ -10,6 +10,8 @@ namespace tavrin::propgrid {
 
 // The controllers know keys and scroll codes by the system's numbers.
 static_assert(KEY_LEFT == VK_LEFT && KEY_UP == VK_UP && KEY_RIGHT == VK_RIGHT && KEY_DOWN == VK_DOWN);
+static_assert(KEY_RETURN == VK_RETURN && KEY_PAGE_UP == VK_PRIOR && KEY_PAGE_DOWN == VK_NEXT &&
+              KEY_END == VK_END && KEY_HOME == VK_HOME && KEY_F2 == VK_F2 && KEY_F4 == VK_F4);
 static_assert(SC_LINE_UP == SB_LINEUP && SC_LINE_DOWN == SB_LINEDOWN && SC_PAGE_UP == SB_PAGEUP &&
               SC_PAGE_DOWN == SB_PAGEDOWN && SC_THUMB_POSITION == SB_THUMBPOSITION &&
               SC_THUMB_TRACK == SB_THUMBTRACK && SC_TOP == SB_TOP && SC_BOTTOM == SB_BOTTOM &&
@@ -33,6 +35,8 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_WM_MOUSEWHEEL()
     ON_WM_VSCROLL()
     ON_WM_KEYDOWN()
+    ON_MESSAGE(WM_SYSKEYDOWN, &CPropertyGrid::OnSysKeyDown)
+    ON_MESSAGE(WM_SYSCHAR, &CPropertyGrid::OnSysChar)
     ON_WM_CHAR()
     ON_WM_GETDLGCODE()
     ON_MESSAGE(WM_GRID_CHOICE_MADE, &CPropertyGrid::OnChoiceMade)
@@ -91,8 +95,8 @@ void CPropertyGrid::Initialize() {
                       .scrollPosition = 0,
                       .rowHeight = m_fonts.MeasureRowHeight(*this)});
     ModifyStyle(0, WS_CLIPCHILDREN);
-    // A static control lets the mouse through to its dialog unless it notifies, and no placeholder is a
-    // tab stop; a grid in its place wants both mouse and keyboard.
+    // A static control without SS_NOTIFY passes the mouse on to its dialog and is no tab stop. A grid that
+    // replaces one needs both mouse and keyboard.
     wchar_t windowClass[16] = {};
     ::GetClassName(m_hWnd, windowClass, 16);
     if (_wcsicmp(windowClass, L"Static") == 0) {
@@ -170,7 +174,7 @@ void CPropertyGrid::SettleLayout() {
     }
 }
 
-// Tells the layout what the window is like now. The scroll bar is the one that knows the position.
+// Gives the layout the window's current size and scroll position; the scroll bar holds the position.
 void CPropertyGrid::UpdateView() {
     CRect client;
     GetClientRect(&client);
@@ -191,7 +195,7 @@ void CPropertyGrid::OnSize(UINT type, int width, int height) {
     }
 }
 
-LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*place*/) {
+LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*position*/) {
     LeaveEditor();
     return Default();
 }
@@ -204,7 +208,7 @@ void CPropertyGrid::Repaint() {
     }
 }
 
-// The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
+// The whole window counts as painted, whatever a custom item did to it.
 void CPropertyGrid::OnPaint() {
     CPaintDC dc(this);
     UpdateView();
@@ -237,7 +241,7 @@ bool CPropertyGrid::IsReadyForHitTest() {
     return true;
 }
 
-// Ends an open editor with its result. False when whoever heard of the result took the window away.
+// Ends an open editor with its result. False when the owner's handler of the result destroyed the window.
 bool CPropertyGrid::TakeFocus() {
     SetFocus();
     m_editors.Close();
@@ -323,19 +327,55 @@ bool CPropertyGrid::ScrollTo(std::optional<int> position) {
 
 // ---- The keyboard
 
-void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
-    if (!CKeyController::IsGridKey(key)) {
-        CWnd::OnKeyDown(key, repeat, flags);
-        return;
-    }
+// Ends an open editor; false when that took the window away.
+bool CPropertyGrid::IsReadyForKey() {
     LeaveEditor();
-    if (GetSafeHwnd() != nullptr && IsReadyForHitTest()) {
-        m_actions.Run(m_keys.PressKey(key, m_scrollBar.GetState()));
+    return GetSafeHwnd() != nullptr && IsReadyForHitTest();
+}
+
+void CPropertyGrid::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    const bool isEditKey = m_editKeys.TakesKey(key);
+    if (!isEditKey && !CKeyController::IsGridKey(key)) {
+        CWnd::OnKeyDown(key, repeat, flags);
+    } else if (IsReadyForKey()) {
+        m_actions.Run(isEditKey ? m_editKeys.PressKey(key) : m_keys.PressKey(key, m_scrollBar.GetState()));
+    }
+}
+
+// The default handling comes first, always: it notes that Alt is not pressed alone, which would open a menu.
+LRESULT CPropertyGrid::OnSysKeyDown(WPARAM key, LPARAM /*flags*/) {
+    const LRESULT result = Default();
+    if (m_editKeys.TakesAltKey(static_cast<unsigned>(key)) && IsReadyForKey()) {
+        m_actions.Run(m_editKeys.PressAltKey(static_cast<unsigned>(key)));
+    }
+    return result;
+}
+
+// The character of Alt+Enter has no other meaning; the default handling would beep.
+LRESULT CPropertyGrid::OnSysChar(WPARAM character, LPARAM /*flags*/) {
+    return character == VK_RETURN && m_editKeys.TakesAltKey(KEY_RETURN) ? 0 : Default();
+}
+
+void CPropertyGrid::EditFocusedItem() {
+    if (IsReadyForKey()) {
+        m_actions.Run(m_editKeys.EditFocusedItem());
+    }
+}
+
+void CPropertyGrid::PressFocusedButton() {
+    if (IsReadyForKey()) {
+        m_actions.Run(m_editKeys.PressFocusedButton());
     }
 }
 
 void CPropertyGrid::OnChar(UINT character, UINT repeat, UINT flags) {
     const auto typed = static_cast<wchar_t>(character);
+    if (m_editKeys.TakesCharacter(typed)) {
+        if (IsReadyForKey()) {
+            m_actions.Run(m_editKeys.TypeCharacter(typed));
+        }
+        return;
+    }
     if (m_keys.ChangesSections(typed)) {
         LeaveEditor();
     }
@@ -451,9 +491,9 @@ LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
     return 0;
 }
 
-// An item that takes no such result deliberately leaves the editor alone. Else the grid lets go of the editor
-// first and destroys it last: the owner's handler, or a custom item's, runs in between and may lead to
-// anything, another editor included.
+// An item that takes no such result deliberately leaves the editor alone. Otherwise the grid takes the editor
+// out of m_editors first and destroys it last: the owner's handler, or a custom item's, runs in between and
+// may re-enter, for example open another editor.
 void CPropertyGrid::TakeResult(const Actions& actions) {
     if (!actions.empty() || m_editors.HasLostItsItem()) {
         const EditorPointer ended = m_editors.Take();

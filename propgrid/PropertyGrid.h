@@ -21,8 +21,8 @@
 // under it, or in a dialog, see EItemType and EEditMode. The grid owns the one editor that may be open; it
 // ends when the grid or another window takes the focus.
 //
-// This class is the window alone: its handlers hand their messages on to the controllers and carry out what
-// these ask.
+// This class is only the window: its handlers pass their messages to the controllers and carry out the
+// actions that these return.
 #pragma once
 
 #include <afxwin.h>
@@ -32,6 +32,7 @@
 #include "propgrid/ActionRunner.h"
 #include "propgrid/GridScrollBar.h"
 #include "propgrid/GridValues.h"
+#include "propgrid/controller/EditKeyController.h"
 #include "propgrid/controller/KeyController.h"
 #include "propgrid/controller/MouseController.h"
 #include "propgrid/editors/GridEditors.h"
@@ -47,8 +48,8 @@ public:
     CPropertyGrid();
     ~CPropertyGrid() override;
 
-    // Tells the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
-    // their value from a window of their own; all other changes the grid notifies by itself.
+    // Notifies the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
+    // their value from a window of their own; the grid notifies of all other changes.
     void NotifyChanged(UINT item) override;
 
     // The focused row: an item or a section, at most one of the two. Focusing one takes the focus from
@@ -85,12 +86,26 @@ public:
     //   SetDisplayMode                      always
     //   SetSectionCollapsed                 of any section
     //   SetGutterWidth                      for another position
-    //   another size or place of the grid's window, and its end
+    //   another size or position of the grid's window, and its end
     //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
     //
     // ResetContents leaves it open; what it edits is gone then, and its result is dropped when it ends. All
     // else leaves it open on its cell: whatever is refused or sets what is set already, the values and
     // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
+
+    // Whether the grid can be worked with the keyboard alone (false at the start). Then, on the focused row,
+    //   F2, F4, Alt+Down            open its editor: the edit with its text, the list, the calendar, the
+    //   dialog a printable character       opens an in-place edit with it in place of the text Alt+Enter
+    //   presses the "..." button: the dialog, a custom item's OnButtonClicked Space inverts a Boolean Home,
+    //   End, Page Up/Down     focus the first or last row, or one a page away, and bring it into view
+    // "*", "/" and, for a focused section, "+" and "-" keep their meaning. A row that is not editable answers
+    // none of the first four.
+    void SetKeyboardEditing(bool on) { m_model.settings.keyboardEditing = on; }
+    bool GetKeyboardEditing() const { return m_model.settings.keyboardEditing; }
+    // What F2 and Alt+Enter do, whether keyboard editing is on or not: for a client's own keys, and for
+    // assistive technology. The focused row is scrolled into view for an editor that stands on it.
+    void EditFocusedItem();
+    void PressFocusedButton();
 
     // Whether an in-place edit, a list or a calendar is open.
     bool IsEditing() const { return m_editors.IsOpen(); }
@@ -112,7 +127,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
-    afx_msg LRESULT OnMove(WPARAM zero, LPARAM place);
+    afx_msg LRESULT OnMove(WPARAM zero, LPARAM position);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
@@ -123,6 +138,8 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg LRESULT OnSysKeyDown(WPARAM key, LPARAM flags);
+    afx_msg LRESULT OnSysChar(WPARAM character, LPARAM flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg UINT OnGetDlgCode();
     afx_msg LRESULT OnChoiceMade(WPARAM index, LPARAM zero);
@@ -142,6 +159,7 @@ private:
     void SettleLayout();
     void UpdateView();
     bool IsReadyForHitTest();
+    bool IsReadyForKey();
     bool TakeFocus();
     bool BeginPress();
     bool ScrollTo(std::optional<int> position);
@@ -152,6 +170,7 @@ private:
 
     CMouseController m_mouse{m_model, m_layout};
     CKeyController m_keys{m_model, m_layout};
+    CEditKeyController m_editKeys{m_model, m_layout};
     GridFonts m_fonts;
     CGridPainter m_painter{m_model, m_layout, m_fonts};
     CGridEditors m_editors{*this, m_model, m_fonts};

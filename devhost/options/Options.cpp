@@ -81,15 +81,15 @@ const wchar_t* HelpText() {
   --version       print the version
   -h, --help      print this help
 
-Scripts and expressions run in the order given. Without any, and with --stay, DevHost stays open; its prompt
+Scripts and expressions run in the order given. With none of them, or with --stay, DevHost stays open; its prompt
 accepts LISP calls such as (tavrinwnd "door" 1.0 1).
 
 Values are printed in LISP notation, or "; no result". The first failure ends the run: a LISP error, an error that
-the plug-in reports, a call that cannot be made. After unloading the plug-in, DevHost counts the blocks of the
-host's heap that it has not freed.
+the plug-in reports, or a call that cannot be made. After unloading the plug-in, DevHost reports the memory blocks
+that the plug-in has not freed.
 
 Exit status: 0 success; 1 failure, or the plug-in has not freed all memory; 3 the plug-in or DevHost crashed;
-4 the checking allocator detected heap misuse; any other as (exit N) says.
+4 the checking allocator detected heap misuse; N after a call of (exit N).
 )";
 }
 

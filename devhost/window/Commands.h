@@ -13,6 +13,8 @@ enum ECommand {
     IDM_HELP,
     IDM_ABOUT,
     IDM_EXIT,
+    IDM_OPEN_UNITS,
+    IDM_OPEN_PRECISION,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
     IDM_LANGUAGE = 400,   // plus the language's index

@@ -93,6 +93,12 @@ void CDrawingView::EndPick() {
     MoveMouse(m_mouse);
 }
 
+void CDrawingView::FocusByKey() {
+    SetFocus(m_window);
+    m_showsFocus = true;
+    Invalidate();
+}
+
 LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_SIZE:
@@ -122,6 +128,10 @@ LRESULT CDrawingView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_MOUSEWHEEL:
             OnWheel(PointOf(lParam), GET_WHEEL_DELTA_WPARAM(wParam));
+            return 0;
+        case WM_KILLFOCUS:
+            m_showsFocus = false;
+            Invalidate();
             return 0;
         case WM_SETCURSOR:
             if (LOWORD(lParam) != HTCLIENT) {

@@ -30,6 +30,9 @@ public:
 
     HWND Handle() const { return m_window; }
 
+    // Takes the keyboard focus and shows that it has it.
+    void FocusByKey();
+
     // Called with the mouse's position in the drawing when it changes.
     void SetMoveHandler(std::function<void(Point)> onMove) { m_onMove = std::move(onMove); }
     // The mouse's position in the drawing, or the end point that a pick has snapped to.
@@ -70,6 +73,7 @@ private:
     void PaintCrosshair(HDC dc) const;
     void PaintSnapMark(HDC dc) const;
     void PaintCrosses(HDC dc) const;
+    void PaintFocus(HDC dc, const RECT& client) const;
     POINT ToPixel(Point point) const;
 
     CDrawing& m_drawing;
@@ -88,6 +92,7 @@ private:
     POINT m_mouse = {};
     bool m_isMouseInside = false;
     bool m_isPanning = false;
+    bool m_showsFocus = false;
 };
 
 }  // namespace devhost

@@ -1,4 +1,4 @@
-// Painting of the drawing area: the cached drawing, and above it what moves with the mouse.
+// Painting of the drawing area: the cached drawing, and over it the marks that move with the mouse.
 #include <algorithm>
 #include <cmath>
 
@@ -17,7 +17,7 @@ constexpr int kCrossArm = 5;
 constexpr int kCrosshairArm = 18;
 constexpr int kSnapArm = 6;
 
-constexpr COLORREF kCross = RGB(0, 60, 160);
+constexpr COLORREF kCross = RGB(0, 60, 160);  // and the frame of the focus
 constexpr COLORREF kCrosshair = RGB(40, 40, 40);
 constexpr COLORREF kIdleCrosshair = RGB(150, 150, 150);
 constexpr COLORREF kRubberLine = RGB(120, 120, 120);
@@ -46,6 +46,7 @@ void CDrawingView::Paint() {
     PaintCrosshair(paint.Dc());
     PaintSnapMark(paint.Dc());
     PaintCrosses(paint.Dc());
+    PaintFocus(paint.Dc(), paint.Client());
 }
 
 void CDrawingView::PaintScene(HDC dc, const RECT& client) {
@@ -104,8 +105,20 @@ void CDrawingView::PaintCrosses(HDC dc) const {
     }
 }
 
+void CDrawingView::PaintFocus(HDC dc, const RECT& client) const {
+    if (!m_showsFocus) {
+        return;
+    }
+    const handles::GdiOwner brush(CreateSolidBrush(kCross));
+    RECT frame = client;
+    for (int line = 0; line < m_scale(2); ++line) {
+        FrameRect(dc, &frame, static_cast<HBRUSH>(brush.get()));
+        InflateRect(&frame, -1, -1);
+    }
+}
+
 POINT CDrawingView::ToPixel(Point point) const {
-    // Such points are invisible, and larger coordinates overflow in GDI.
+    // Clamped: points this far away are invisible, and larger coordinates overflow in GDI.
     constexpr double kFar = 1e6;
     const Point pixel = m_view.ToPixel(point);
     return Rounded({std::clamp(pixel.x, -kFar, kFar), std::clamp(pixel.y, -kFar, kFar)});

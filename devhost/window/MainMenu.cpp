@@ -30,6 +30,11 @@ void AddPopup(HMENU menu, HMENU popup, const wchar_t* title) {
     AppendMenuW(menu, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), title);
 }
 
+wchar_t UpperCase(wchar_t letter) {
+    CharUpperBuffW(&letter, 1);
+    return letter;
+}
+
 void Clear(HMENU menu) {
     while (GetMenuItemCount(menu) > 0) {
         RemoveMenu(menu, 0, MF_BYPOSITION);
@@ -43,6 +48,20 @@ std::wstring Shown(const std::wstring& title) {
         shown.append(letter == L'&' ? 2 : 1, letter);
     }
     return shown;
+}
+
+// Marks the first letter or digit of a title that no other item has as its mnemonic; the title's first
+// character when all are taken, which then selects one item after the other.
+std::wstring WithMnemonic(const std::wstring& title, std::wstring& taken) {
+    const auto isFree = [&](wchar_t letter) {
+        return IsCharAlphaNumericW(letter) != 0 && taken.find(UpperCase(letter)) == taken.npos;
+    };
+    const auto found = std::find_if(title.begin(), title.end(), isFree);
+    if (found == title.end()) {
+        return L'&' + Shown(title);
+    }
+    taken += UpperCase(*found);
+    return Shown({title.begin(), found}) + L'&' + Shown({found, title.end()});
 }
 
 }  // namespace
@@ -60,6 +79,8 @@ CMainMenu::CMainMenu(HWND window)
     const HMENU view = CreatePopupMenu();
     AppendMenuW(view, MF_STRING, IDM_FIT, L"&Fit\tCtrl+0");
     AppendMenuW(view, MF_STRING, IDM_SNAP, L"&Snap to end points\tF3");
+    AppendMenuW(view, MF_STRING, IDM_OPEN_UNITS, L"&Units...");
+    AppendMenuW(view, MF_STRING, IDM_OPEN_PRECISION, L"&Precision...");
     AppendMenuW(view, MF_SEPARATOR, 0, nullptr);
     AppendMenuW(view, MF_STRING, IDM_CLEAR, L"&Clear drawing");
     AddPopup(m_menu, view, L"&View");
@@ -74,9 +95,11 @@ CMainMenu::CMainMenu(HWND window)
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     Clear(m_items);
+    std::wstring taken = L"X";  // Exit's
     for (std::size_t i = 0; i < titles.size(); ++i) {
-        const std::wstring key = i < kItemKeys ? L"\tCtrl+" + std::to_wstring(i + 1) : L"";
-        AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, (Shown(titles[i]) + key).c_str());
+        const std::wstring text = i < kItemKeys ? Shown(titles[i]) + L"\tCtrl+" + std::to_wstring(i + 1)
+                                                : WithMnemonic(titles[i], taken);
+        AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, text.c_str());
     }
     if (titles.empty()) {
         AppendMenuW(m_items, MF_STRING | MF_GRAYED, 0, L"No items found");
@@ -88,8 +111,9 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
 
 void CMainMenu::SetLanguages(const std::vector<std::wstring>& titles) {
     Clear(m_languages);
+    std::wstring taken;
     for (std::size_t i = 0; i < titles.size(); ++i) {
-        AppendMenuW(m_languages, MF_STRING, IDM_LANGUAGE + i, Shown(titles[i]).c_str());
+        AppendMenuW(m_languages, MF_STRING, IDM_LANGUAGE + i, WithMnemonic(titles[i], taken).c_str());
     }
     if (titles.empty()) {
         AppendMenuW(m_languages, MF_STRING | MF_GRAYED, 0, L"No TavrinRes.dll found");

@@ -24,7 +24,7 @@ public:
     // Sets the window's menu, which the window owns.
     explicit CMainMenu(HWND window);
 
-    // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9.
+    // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9, the others mnemonics.
     void SetItems(const std::vector<std::wstring>& titles);
 
     // The entries of the menu Language.

@@ -219,6 +219,10 @@ void CMainWindow::OnCommand(int command) {
         ChooseFormat(command - IDM_UNITS, m_status->Precision());
     } else if (command >= IDM_PRECISION && command <= IDM_PRECISION + units::kMaxLinearPrecision) {
         ChooseFormat(m_status->Units(), command - IDM_PRECISION);
+    } else if (command == IDM_OPEN_UNITS) {
+        m_status->OpenUnitsMenu();
+    } else if (command == IDM_OPEN_PRECISION) {
+        m_status->OpenPrecisionMenu();
     } else if (command == IDM_HELP) {
         ShowHelp();
     } else if (!IsIdle()) {
@@ -286,6 +290,14 @@ void CMainWindow::UpdateMenu() {
 void CMainWindow::Focus() {
     if (GetActiveWindow() == m_window) {
         SetFocus(IsWindowEnabled(m_prompt) ? m_prompt : m_drawing->Handle());
+    }
+}
+
+void CMainWindow::SwitchFocus() {
+    if (GetFocus() == m_prompt) {
+        m_drawing->FocusByKey();
+    } else {
+        Focus();
     }
 }
 

@@ -114,6 +114,8 @@ private:
     void UpdateMenu();
     // Sets the focus to the prompt, or to the drawing while the prompt is disabled.
     void Focus();
+    // From the prompt to the drawing, and back.
+    void SwitchFocus();
     // Shows the label of the prompt, the hint in the status line, and the example in the empty prompt.
     void ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example);
     // The prompt without a question.

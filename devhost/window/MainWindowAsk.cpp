@@ -177,6 +177,9 @@ bool CMainWindow::TakeKey(const MSG& message) {
                 ShowInPrompt(m_prompt, m_history.Newer(TextOf(m_prompt)));
             }
             return isInPrompt;
+        case VK_F6:
+            SwitchFocus();
+            return true;
         case VK_PRIOR:
         case VK_NEXT:
             m_output->ScrollPages(message.wParam == VK_PRIOR ? -1 : 1);

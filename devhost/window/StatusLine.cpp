@@ -144,6 +144,14 @@ void CStatusLine::OnNotify(const NMHDR& header) const {
     }
 }
 
+void CStatusLine::OpenUnitsMenu() const {
+    OpenMenu(PART_UNITS);
+}
+
+void CStatusLine::OpenPrecisionMenu() const {
+    OpenMenu(PART_PRECISION);
+}
+
 void CStatusLine::OpenMenu(int part) const {
     const HMENU menu = CreatePopupMenu();
     UINT chosen = 0;
@@ -151,12 +159,14 @@ void CStatusLine::OpenMenu(int part) const {
         for (const UnitsName& units : kUnits) {
             const std::wstring example = units::FormatLinear(15.5, units.lunits, m_precision).value_or(L"");
             AppendMenuW(menu, MF_STRING, UINT(IDM_UNITS + units.lunits),
-                        (units.name + (L'\t' + example)).c_str());
+                        (L'&' + (units.name + (L'\t' + example))).c_str());
         }
         chosen = UINT(IDM_UNITS + m_units);
     } else {
         for (int precision = 0; precision <= units::kMaxLinearPrecision; ++precision) {
-            AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), StepOf(m_units, precision).c_str());
+            // The mnemonic is the number of decimals, or the power of two.
+            const std::wstring text = StepOf(m_units, precision) + L"\t&" + std::to_wstring(precision);
+            AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), text.c_str());
         }
         chosen = UINT(IDM_PRECISION + m_precision);
     }

@@ -30,8 +30,11 @@ public:
     int Units() const { return m_units; }
     int Precision() const { return m_precision; }
 
-    // For WM_NOTIFY of the parent: a click on the units or the precision opens the menu. Its command
-    // (IDM_UNITS plus the units, IDM_PRECISION plus the precision) goes to the parent.
+    // Each opens its menu. The command (IDM_UNITS plus the units, IDM_PRECISION plus the precision) goes to
+    // the parent.
+    void OpenUnitsMenu() const;
+    void OpenPrecisionMenu() const;
+    // For WM_NOTIFY of the parent: a click on the units or the precision opens the menu.
     void OnNotify(const NMHDR& header) const;
     // For WM_DRAWITEM of the parent.
     void DrawPart(const DRAWITEMSTRUCT& item) const;

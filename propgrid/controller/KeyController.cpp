@@ -47,8 +47,8 @@ Actions CKeyController::TypeCharacter(wchar_t character) {
     }
 }
 
-// Scrolls when the row is not visible in full. The thumb deliberately goes to the row's place in the window,
-// not to its place in the list: in a list that is scrolled far the row may stay out of sight.
+// Scrolls when the row is not visible in full. The thumb deliberately goes to the row's position in the
+// window, not to its position in the list: in a list that is scrolled far the row may stay out of sight.
 Actions CKeyController::FocusRow(const RowId& row, const ScrollState& scroll) {
     if (row == RowId()) {
         return {};
@@ -56,7 +56,7 @@ Actions CKeyController::FocusRow(const RowId& row, const ScrollState& scroll) {
     MoveFocus(m_model, m_layout, row);
     Actions actions = {action::Repaint{}};
     const GridView& view = m_layout.GetView();
-    const Rect rect = GetFocusedRow();
+    const Rect rect = m_layout.GetFocusedRow();
     const Rect visible = Intersect(rect, {0, 0, view.client.width, view.client.height});
     if (rect.IsEmpty() || visible.GetHeight() == view.rowHeight || view.scrollBarWidth == 0) {
         return actions;
@@ -66,15 +66,6 @@ Actions CKeyController::FocusRow(const RowId& row, const ScrollState& scroll) {
         actions.push_back(action::ScrollTo{*target});
     }
     return actions;
-}
-
-Rect CKeyController::GetFocusedRow() const {
-    const RowId& focus = m_model.GetFocus();
-    if (const GridSection* const section = m_model.FindSection(focus.section)) {
-        return m_layout.GetHeaderRect(*section);
-    }
-    const GridItem* const item = m_model.FindItem(focus.item);
-    return item != nullptr ? m_layout.GetNameRect(*item) : Rect();
 }
 
 GridSection* CKeyController::FindFocusedSection(bool collapsed) {

@@ -35,7 +35,6 @@ private:
     Actions CollapseAll(bool collapse);
     Actions CollapseFocused(bool collapse);
     GridSection* FindFocusedSection(bool collapsed);
-    Rect GetFocusedRow() const;
 
     CGridModel& m_model;
     CGridLayout& m_layout;

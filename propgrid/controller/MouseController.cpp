@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "propgrid/controller/EditorOpening.h"
 #include "propgrid/controller/Focus.h"
 #include "propgrid/model/ValueEdit.h"
 
@@ -153,15 +154,12 @@ void CMouseController::OpenEditor(Point point, Actions& actions) {
     if (item == nullptr || !item->editable) {
         return;
     }
-    const Rect& button = m_layout.GetEditButton();
     switch (item->GetEditMode()) {
         case EM_INPLACE:
-            actions.push_back(action::OpenTextEdit{
-                item->id, {button.left + 1, button.top + 2, button.right, button.bottom}});
+            actions.push_back(PlaceTextEdit(*item, GetEditCell(), m_layout.GetView().rowHeight));
             break;
         case EM_DROPDOWN:
-            actions.push_back(action::DropDown{
-                item->id, {m_model.settings.gutter, button.top, button.right, button.bottom}});
+            actions.push_back(action::DropDown{item->id, GetEditCell()});
             break;
         case EM_MODAL:
             actions.push_back(action::EditInDialog{item->id});
@@ -180,14 +178,19 @@ void CMouseController::OpenEditor(Point point, Actions& actions) {
 // The button works once the item has been focused: the release that follows the focusing press on the button
 // deliberately opens the edit.
 Action CMouseController::OpenTextOrDialog(const GridItem& item, Point point) {
-    const Rect& button = m_layout.GetEditButton();
+    const Rect cell = GetEditCell();
     const int rowHeight = m_layout.GetView().rowHeight;
-    const bool onText = point.x < button.right - rowHeight;
+    const bool onText = point.x < cell.right - rowHeight;
     if (std::exchange(m_textPartPressed, true) && !onText) {
         return action::EditInDialog{item.id};
     }
-    return action::OpenTextEdit{item.id,
-                                {button.left + 2, button.top + 2, button.right - rowHeight, button.bottom}};
+    return PlaceTextEdit(item, cell, rowHeight);
+}
+
+// From the divider to the right edge of the focused item's row.
+Rect CMouseController::GetEditCell() const {
+    const Rect& button = m_layout.GetEditButton();
+    return {m_model.settings.gutter, button.top, button.right, button.bottom};
 }
 
 Actions CMouseController::DoubleClick() {
@@ -203,10 +206,8 @@ Actions CMouseController::DoubleClick() {
     if (AdvanceValue(*item)) {
         return {action::Notify{item->id}, action::Repaint{}};
     }
-    if (item->GetEditMode() == EM_MODAL) {
-        return {action::EditInDialog{item->id}};
-    }
-    return {};
+    return item->editable && item->GetEditMode() == EM_MODAL ? Actions{action::EditInDialog{item->id}}
+                                                             : Actions();
 }
 
 void CMouseController::TellCustomItem(ECustomEvent event, Point point, Actions& actions) const {

@@ -47,6 +47,7 @@ private:
     void PressItem(const Hit& hit, Point point);
     void MoveDivider(int x);
     void OpenEditor(Point point, Actions& actions);
+    Rect GetEditCell() const;
     Action OpenTextOrDialog(const GridItem& item, Point point);
     void TellCustomItem(ECustomEvent event, Point point, Actions& actions) const;
     const GridItem* FindFocusedItem() const { return m_model.FindItem(m_model.GetFocus().item); }

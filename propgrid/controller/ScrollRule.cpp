@@ -39,6 +39,11 @@ std::optional<int> FindScrollTarget(const ScrollState& scroll, unsigned code, in
     }
 }
 
+int FindRevealTarget(const ScrollState& scroll, int top, int rowHeight) {
+    const int lowest = top + rowHeight - scroll.page;
+    return std::min(std::max(scroll.position, lowest), top);
+}
+
 std::optional<int> FindWheelTarget(const ScrollState& scroll, int delta, int rowHeight) {
     constexpr int kNotch = 120;
     constexpr int kRowsPerNotch = 3;

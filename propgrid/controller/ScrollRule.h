@@ -33,6 +33,10 @@ enum EScrollCode : unsigned {
 std::optional<int> FindScrollTarget(const ScrollState& scroll, unsigned code, int thumb, int rowHeight,
                                     int clientHeight);
 
+// The position nearest to the present one that shows a row in full, or its top where the page is lower than
+// it. `top` is the row's, from the top of the rows.
+int FindRevealTarget(const ScrollState& scroll, int top, int rowHeight);
+
 // The position that a turn of the wheel leads to: three rows for each notch, up when `delta` is positive.
 // Nothing for less than a notch.
 std::optional<int> FindWheelTarget(const ScrollState& scroll, int delta, int rowHeight);

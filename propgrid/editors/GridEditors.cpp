@@ -46,7 +46,7 @@ void EditorDeleter::operator()(CWnd* editor) const {
     delete editor;
 }
 
-void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text) {
+void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text, wchar_t typed) {
     Close();
     auto edit =
         std::make_unique<CPropertyGridInPlaceEdit>(&m_grid, ToCRect(rect), WS_CHILD, kTextEditId, text);
@@ -57,6 +57,10 @@ void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text) {
     edit->SetColors(colors.back, colors.text);
     edit->SetFont(&m_fonts.normal);
     edit->ShowWindow(SW_SHOW);
+    if (typed != 0) {
+        edit->SetSel(0, -1);
+        edit->SendMessage(WM_CHAR, typed, 1);
+    }
     Own(edit.release());
 }
 

@@ -13,16 +13,19 @@ struct Slot {
     std::size_t row;
 };
 
-std::optional<Slot> FindFocusedSlot(const CGridModel& model) {
-    const RowId& focus = model.GetFocus();
-    if (const GridSection* const section = model.FindSection(focus.section)) {
+std::optional<Slot> FindSlot(const CGridModel& model, const RowId& row) {
+    if (const GridSection* const section = model.FindSection(row.section)) {
         return model.settings.IsCategorized() ? std::optional(Slot{section->position, 0}) : std::nullopt;
     }
-    const GridItem* const item = model.FindItem(focus.item);
+    const GridItem* const item = model.FindItem(row.item);
     if (item == nullptr || !model.ShowsItemsOf(*item->section)) {
         return std::nullopt;
     }
     return Slot{item->section->position, item->row + std::size_t{1}};
+}
+
+std::optional<Slot> FindFocusedSlot(const CGridModel& model) {
+    return FindSlot(model, model.GetFocus());
 }
 
 // The first item from `row` on that can have the focus, the last one before `row`; null when there is none.
@@ -94,7 +97,7 @@ RowId FindNextRow(const CGridModel& model) {
             return next;
         }
     }
-    return FindRowFrom(model, {0, 0});
+    return FindFirstRow(model);
 }
 
 RowId FindPreviousRow(const CGridModel& model) {
@@ -103,7 +106,40 @@ RowId FindPreviousRow(const CGridModel& model) {
         return {};
     }
     const RowId previous = FindRowBefore(model, *focused);
-    return previous != RowId() ? previous : FindRowBefore(model, {model.GetSections().size(), 0});
+    return previous != RowId() ? previous : FindLastRow(model);
+}
+
+RowId FindFirstRow(const CGridModel& model) {
+    return FindRowFrom(model, {0, 0});
+}
+
+RowId FindLastRow(const CGridModel& model) {
+    return FindRowBefore(model, {model.GetSections().size(), 0});
+}
+
+RowId FindRowAhead(const CGridModel& model, int count) {
+    std::optional<Slot> slot = FindFocusedSlot(model);
+    if (!slot) {
+        return FindFirstRow(model);
+    }
+    RowId reached = model.GetFocus();
+    for (; slot && count > 0; --count) {
+        const RowId next = FindRowFrom(model, {slot->section, slot->row + 1});
+        slot = FindSlot(model, next);
+        reached = slot ? next : reached;
+    }
+    return reached;
+}
+
+RowId FindRowBack(const CGridModel& model, int count) {
+    std::optional<Slot> slot = FindFocusedSlot(model);
+    RowId reached = slot ? model.GetFocus() : RowId();
+    for (; slot && count > 0; --count) {
+        const RowId previous = FindRowBefore(model, *slot);
+        slot = FindSlot(model, previous);
+        reached = slot ? previous : reached;
+    }
+    return reached;
 }
 
 }  // namespace tavrin::propgrid

@@ -15,4 +15,13 @@ RowId FindNextRow(const CGridModel& model);
 // is deliberately none before it.
 RowId FindPreviousRow(const CGridModel& model);
 
+// The ends of the walk. No row when there is none that can have the focus.
+RowId FindFirstRow(const CGridModel& model);
+RowId FindLastRow(const CGridModel& model);
+
+// The row `count` rows after or before the focused one; the last or the first when there are fewer. When the
+// focus is on none of the rows the first one, and none before it.
+RowId FindRowAhead(const CGridModel& model, int count);
+RowId FindRowBack(const CGridModel& model, int count);
+
 }  // namespace tavrin::propgrid

@@ -113,6 +113,15 @@ Rect CGridLayout::GetHeaderRect(const GridSection& section) const {
     return record != nullptr ? record->header : Rect();
 }
 
+Rect CGridLayout::GetFocusedRow() const {
+    const RowId& focus = m_model.GetFocus();
+    if (const GridSection* const section = m_model.FindSection(focus.section)) {
+        return GetHeaderRect(*section);
+    }
+    const GridItem* const item = m_model.FindItem(focus.item);
+    return item != nullptr ? GetNameRect(*item) : Rect();
+}
+
 Hit CGridLayout::HitTest(Point point) const {
     Hit hit;
     hit.onEditButton = IsOnEditButton(point);

@@ -30,7 +30,7 @@ struct RowList {
     int gutter = 0;
     std::uint32_t rows = 0;  // those behind them were added since and never painted
     bool sorted = false;     // all items by name, not those of one section
-    Id buttonItem = kNoId;   // the item with room for an edit button beside its value
+    Id buttonItem = kNoId;   // the item with an edit button beside its value
 
     Rect GetRow(std::uint32_t row) const;
     // The row at the upper edge of the window, or behind the last one.
@@ -78,6 +78,8 @@ public:
     Rect GetValueRect(const GridItem& item) const;
     Rect GetGlyphRect(const GridSection& section) const;
     Rect GetHeaderRect(const GridSection& section) const;
+    // The header or the name of the focused row; empty without one.
+    Rect GetFocusedRow() const;
     // Where a press counts as one on the focused item's edit button: empty from any move of the focus to the
     // next paint.
     const Rect& GetEditButton() const { return m_editButton; }

@@ -40,6 +40,7 @@ struct GridSettings {
     bool drawLines = true;
     bool drawDivider = true;
     bool focusNonEditable = true;
+    bool keyboardEditing = false;
     bool boldModified = false;
     bool boldEditable = false;
     int gutter = 0;  // x of the divider, in pixels

@@ -56,6 +56,21 @@ TEST(ChoiceLayout, ShowsNothingForACountThatItDoesNotKnow) {
     }
 }
 
+TEST(ChoiceLayout, TheNumberOfACellWithAChoiceCanBeTyped) {
+    const auto typeable = [](unsigned count) {
+        return PerCell([&](int cell) { return IsChoiceCellTypeable(count, cell) ? 'y' : 'n'; });
+    };
+    EXPECT_EQ(typeable(0), "nnnnnn");
+    EXPECT_EQ(typeable(1), "ynnnnn");
+    EXPECT_EQ(typeable(2), "yynnnn");
+    EXPECT_EQ(typeable(3), "yyynnn");
+    EXPECT_EQ(typeable(4), "yynyyn");
+    EXPECT_EQ(typeable(5), "yyyyny");
+    EXPECT_EQ(typeable(6), "yyyyyy");
+    EXPECT_EQ(typeable(7), "nnnnnn");
+    EXPECT_FALSE(IsChoiceCellTypeable(6, 0) || IsChoiceCellTypeable(6, 7));
+}
+
 TEST(ChoiceLayout, TheWholeTopRowCanBeSelectedWithUpToThreeChoices) {
     EXPECT_EQ(Selectable(1), "yyynnn");
     EXPECT_EQ(Selectable(2), "yyynnn");

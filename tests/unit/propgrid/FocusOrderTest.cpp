@@ -53,6 +53,42 @@ TEST_F(FocusOrder, GoesThroughAllRowsAndAroundTheEnd) {
     EXPECT_EQ(Next(8), L"SabTcdSa");
 }
 
+TEST_F(FocusOrder, HasTwoEnds) {
+    EXPECT_EQ(FindFirstRow(model), (RowId{.section = 0}));
+    EXPECT_EQ(FindLastRow(model), (RowId{.item = 3}));
+    Section(1).collapsed = true;
+    EXPECT_EQ(FindLastRow(model), (RowId{.section = 1}));
+    model.settings.displayMode = DM_SORTED;
+    model.settings.focusNonEditable = false;
+    Lock({0, 3});
+    EXPECT_EQ(FindFirstRow(model), (RowId{.item = 1})) << "a row that can have the focus";
+    EXPECT_EQ(FindLastRow(model), (RowId{.item = 2}));
+    Lock({1, 2});
+    EXPECT_EQ(FindFirstRow(model), RowId());
+    EXPECT_EQ(FindLastRow(model), RowId());
+}
+
+TEST_F(FocusOrder, GoesManyRowsAtOnceAndStopsAtTheEnds) {
+    FocusOn(L"a");
+    EXPECT_EQ(FindRowAhead(model, 3), (RowId{.item = 2}));
+    EXPECT_EQ(FindRowAhead(model, 4), (RowId{.item = 3}));
+    EXPECT_EQ(FindRowAhead(model, 5), (RowId{.item = 3}));
+    EXPECT_EQ(FindRowBack(model, 1), (RowId{.section = 0}));
+    EXPECT_EQ(FindRowBack(model, 9), (RowId{.section = 0}));
+    Lock({1});
+    model.settings.focusNonEditable = false;
+    EXPECT_EQ(FindRowAhead(model, 1), (RowId{.section = 1}));
+}
+
+TEST_F(FocusOrder, GoesManyRowsFromNoneToTheFirstOrNowhere) {
+    EXPECT_EQ(FindRowAhead(model, 3), (RowId{.section = 0}));
+    EXPECT_EQ(FindRowBack(model, 3), RowId());
+    FocusOn(L"b");
+    Section(0).collapsed = true;
+    EXPECT_EQ(FindRowAhead(model, 3), (RowId{.section = 0}));
+    EXPECT_EQ(FindRowBack(model, 3), RowId());
+}
+
 TEST_F(FocusOrder, GoesBackAndAroundTheStart) {
     FocusOn(L"b");
     EXPECT_EQ(Previous(8), L"aSdcTbaS");

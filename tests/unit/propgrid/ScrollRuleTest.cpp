@@ -77,4 +77,25 @@ TEST(ScrollRule, TheWheelStopsAtBothEnds) {
     EXPECT_EQ(Wheel(100, -32768), kLast);
 }
 
+int Reveal(int position, int top, int page = kPage) {
+    return FindRevealTarget({.first = 0, .end = kEnd, .page = page, .position = position}, top, kRow);
+}
+
+TEST(ScrollRule, ARowInSightIsRevealedWhereItIs) {
+    EXPECT_EQ(Reveal(100, 100), 100);
+    EXPECT_EQ(Reveal(100, 280), 100);
+}
+
+TEST(ScrollRule, ARowOutOfSightIsRevealedAtTheNearestEdge) {
+    EXPECT_EQ(Reveal(100, 99), 99);
+    EXPECT_EQ(Reveal(100, 281), 101);
+    EXPECT_EQ(Reveal(300, 0), 0);
+    EXPECT_EQ(Reveal(0, kEnd - kRow), kLast);
+}
+
+TEST(ScrollRule, APageLowerThanARowShowsItsTop) {
+    EXPECT_EQ(Reveal(0, 300, 5), 300);
+    EXPECT_EQ(Reveal(400, 300, 5), 300);
+}
+
 }  // namespace

@@ -1,6 +1,8 @@
 // What the choice dialog shows and how it ends.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/windows/imagedlg/ChoiceFixture.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
@@ -20,7 +22,7 @@ protected:
     }
 
     // Runs a dialog with `count` choices; `step` ends it with IDOK. The code and the name chosen.
-    std::pair<int, std::wstring> ChosenBy(int count, const CModalHands::Step& step) {
+    std::pair<int, std::wstring> ChosenBy(int count, const CModalDriver::Step& step) {
         WriteSlides(count);
         CTavrinSelMaskDlg dialog;
         EXPECT_EQ(Run(dialog, count, step), IDOK);
@@ -62,7 +64,7 @@ TEST_F(ChoiceDialog, ClosesUnseenWithMoreThanSixChoices) {
         EXPECT_EQ(Run(dialog, count, [&](HWND) { seen = true; }), IDCANCEL);
         PumpMessages();
         EXPECT_FALSE(seen);
-        m_hands.Forget();
+        m_driver.Forget();
     }
 }
 
@@ -97,6 +99,32 @@ TEST_F(ChoiceDialog, EnterChoosesTheSelectedCell) {
                            PressKey(window, VK_RETURN);
                        }),
               (Chosen{100, L"c1"}));
+}
+
+TEST_F(ChoiceDialog, ADigitSelectsTheCellWithItsNumber) {
+    for (const unsigned count : {1U, 2U, 3U, 4U, 5U, 6U}) {
+        for (int cell = 1; cell <= kChoiceCells; ++cell) {
+            const int choice = GetCellContent(count, cell);
+            EXPECT_EQ(ChosenBy(static_cast<int>(count),
+                               [&](HWND window) {
+                                   TypeCharacter(window, static_cast<wchar_t>(L'0' + cell));
+                                   PressKey(window, VK_RETURN);
+                               }),
+                      (Chosen{100, L"c" + std::to_wstring(std::max(choice, 0))}))
+                << count << " " << cell;
+        }
+    }
+}
+
+TEST_F(ChoiceDialog, OtherDigitsAndLettersSelectNothing) {
+    EXPECT_EQ(ChosenBy(6,
+                       [](HWND window) {
+                           for (const wchar_t character : {L'3', L'0', L'7', L'9', L'a', L' '}) {
+                               TypeCharacter(window, character);
+                           }
+                           PressKey(window, VK_RETURN);
+                       }),
+              (Chosen{100, L"c2"}));
 }
 
 TEST_F(ChoiceDialog, OkChoosesTheSelectedCell) {
@@ -158,10 +186,10 @@ TEST_F(ChoiceDialog, ReplaceHasTheCallersCaptionAndIsNotShown) {
 
 TEST_F(ChoiceDialog, CancelEscapeAndTheCloseBoxEndWithCancel) {
     WriteSlides(2);
-    const std::vector<CModalHands::Step> ways = {[](HWND window) { PressButton(window, IDCANCEL); },
-                                                 [](HWND window) { PressKey(window, VK_ESCAPE); },
-                                                 [](HWND window) { PressCloseBox(window); }};
-    for (const CModalHands::Step& way : ways) {
+    const std::vector<CModalDriver::Step> ways = {[](HWND window) { PressButton(window, IDCANCEL); },
+                                                  [](HWND window) { PressKey(window, VK_ESCAPE); },
+                                                  [](HWND window) { PressCloseBox(window); }};
+    for (const CModalDriver::Step& way : ways) {
         CTavrinSelMaskDlg dialog;
         EXPECT_EQ(Run(dialog, 2, way), IDCANCEL);
     }
@@ -299,7 +327,7 @@ TEST_F(ChoiceDialog, TheStandInIsShownForASlideThatVanished) {
     WriteSlides(2);
     CTavrinSelMaskDlg dialog;
     std::string shown;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
@@ -324,18 +352,18 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedForEachCellBeforeTheDialogShows) {
     }
     DeleteFileW(m_folder.Path(L"c0_t.png").c_str());
     DeleteFileW(m_folder.Path(L"c2_t.png").c_str());
-    m_hands.ThenPressOk();
-    m_hands.ThenPressOk();
+    m_driver.ThenPressOk();
+    m_driver.ThenPressOk();
     dialog.LoadSlides();
-    ASSERT_EQ(m_hands.messages.size(), 2U);
-    for (const MessageBoxSeen& message : m_hands.messages) {
+    ASSERT_EQ(m_driver.messages.size(), 2U);
+    for (const MessageBoxSeen& message : m_driver.messages) {
         EXPECT_EQ(message.text, L"Missing slide file! Unable to load correctly!");
         EXPECT_EQ(message.caption, L"Error!");
         EXPECT_EQ(message.buttons, 1);
         EXPECT_EQ(message.owner, nullptr);
     }
     std::string shown;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
@@ -350,16 +378,16 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedOverTheOpenDialog) {
     CTavrinSelMaskDlg dialog;
     Fill(dialog, 1);
     HWND shownDialog = nullptr;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         shownDialog = window;
         DeleteFileW(m_folder.Path(L"c0_t.png").c_str());
-        m_hands.ThenPressOk();
+        m_driver.ThenPressOk();
         dialog.RefreshSlides();
         PressButton(window, IDOK);
     });
     EXPECT_EQ(dialog.DoModal(), IDOK);
-    ASSERT_EQ(m_hands.messages.size(), 1U);
-    EXPECT_EQ(m_hands.messages[0].owner, shownDialog);
+    ASSERT_EQ(m_driver.messages.size(), 1U);
+    EXPECT_EQ(m_driver.messages[0].owner, shownDialog);
 }
 
 TEST_F(ChoiceDialog, AMissingLogoLeavesItsCellEmptyWithoutAMessage) {
@@ -374,7 +402,7 @@ TEST_F(ChoiceDialog, AMissingLogoLeavesItsCellEmptyWithoutAMessage) {
         PressCloseBox(window);
     });
     EXPECT_EQ(shown, "0123.4");
-    EXPECT_EQ(m_hands.StepsLeft(), 0U);
+    EXPECT_EQ(m_driver.StepsLeft(), 0U);
 }
 
 TEST_F(ChoiceDialog, RefreshingShowsTheSlidesAsTheyAreNowAndSelectsTheFirst) {
@@ -427,7 +455,7 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
     const auto cycle = [&](int count) {
         WriteSlides(count);
         CTavrinSelMaskDlg dialog;
-        m_hands.Forget();
+        m_driver.Forget();
         Run(dialog, count, [&](HWND window) {
             PumpMessages();
             SendMessageW(window, WM_COMMAND, MAKELONG(IDC_CHOICE_CELL1 + 1, STN_CLICKED), 0);
@@ -435,7 +463,7 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
             PressButton(window, count % 2 == 0 ? IDOK : IDCANCEL);
         });
         dialog.GetSelectedName();
-        m_hands.Forget();
+        m_driver.Forget();
         fakeHost.searched = {};
     };
     for (const int count : {1, 4, 5, 6}) {

@@ -10,6 +10,7 @@ std::wstring ShownValue(const CPropertyGrid& grid, UINT item) {
 BEGIN_MESSAGE_MAP(CGridParent, CWnd)
     ON_MESSAGE(WM_GRID_ITEM_CHANGED, &CGridParent::OnGridItemChanged)
     ON_MESSAGE(WM_GETFONT, &CGridParent::OnAskedForFont)
+    ON_MESSAGE(WM_SYSCOMMAND, &CGridParent::OnSysCommand)
 END_MESSAGE_MAP()
 
 CGridParent::CGridParent() {
@@ -42,6 +43,14 @@ void CGridParent::ForgetChanges() {
 
 LRESULT CGridParent::OnAskedForFont(WPARAM, LPARAM) {
     return reinterpret_cast<LRESULT>(font.GetSafeHandle());
+}
+
+LRESULT CGridParent::OnSysCommand(WPARAM command, LPARAM) {
+    if ((command & 0xFFF0) == SC_KEYMENU) {
+        wasAskedForMenu = true;
+        return 0;
+    }
+    return Default();
 }
 
 CGridPicture::CGridPicture(CWnd& window) {

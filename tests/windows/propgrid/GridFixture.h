@@ -1,4 +1,4 @@
-// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a
+// What the grid's tests share: a parent window that records the grid's notifications, and a picture of what a
 // grid paints.
 #pragma once
 
@@ -29,11 +29,13 @@ public:
     // What the items of `grid` showed at the moment of each: a notification comes after the value is stored.
     std::vector<std::wstring> changedValues;
     const CPropertyGrid* grid = nullptr;
-    CFont font;  // answered to WM_GETFONT; none when it has no handle
+    bool wasAskedForMenu = false;  // by Alt alone, or Alt with a letter
+    CFont font;                    // answered to WM_GETFONT; none when it has no handle
 
 protected:
     afx_msg LRESULT OnGridItemChanged(WPARAM item, LPARAM zero);
     afx_msg LRESULT OnAskedForFont(WPARAM, LPARAM);
+    afx_msg LRESULT OnSysCommand(WPARAM command, LPARAM);
     DECLARE_MESSAGE_MAP()
 };
 

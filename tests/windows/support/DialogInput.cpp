@@ -20,6 +20,11 @@ void PressMouse(HWND window, POINT point, int times) {
     }
 }
 
+void PostToFocus(HWND dialog, UINT message, WPARAM wParam) {
+    const HWND focus = GetFocus();
+    PostMessageW(focus != nullptr ? focus : dialog, message, wParam, 0);
+}
+
 }  // namespace
 
 void Click(HWND control) {
@@ -35,8 +40,11 @@ void DoubleClick(HWND control) {
 }
 
 void PressKey(HWND dialog, WPARAM key) {
-    const HWND focus = GetFocus();
-    PostMessageW(focus != nullptr ? focus : dialog, WM_KEYDOWN, key, 0);
+    PostToFocus(dialog, WM_KEYDOWN, key);
+}
+
+void TypeCharacter(HWND dialog, wchar_t character) {
+    PostToFocus(dialog, WM_CHAR, character);
 }
 
 void PressCloseBox(HWND dialog) {

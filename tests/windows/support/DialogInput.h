@@ -12,5 +12,8 @@ void DoubleClick(HWND control);
 // Posts the key to the window that has the focus; the dialog's message loop gets it.
 void PressKey(HWND dialog, WPARAM key);
 
+// Posts the character alike, as the translation of a key does.
+void TypeCharacter(HWND dialog, wchar_t character);
+
 // As the close box does.
 void PressCloseBox(HWND dialog);

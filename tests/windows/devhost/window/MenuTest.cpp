@@ -46,6 +46,46 @@ TEST_F(Menu, AnItemIsChosenByItsCommandOrItsKey) {
     EXPECT_EQ(chosen.size(), 2u) << "there is no third item";
 }
 
+// The letters that are underlined in a menu, and '-' for an entry that can be reached by none and has no key.
+std::wstring MnemonicsOf(HMENU menu) {
+    std::wstring letters;
+    for (int entry = 0; entry < GetMenuItemCount(menu); ++entry) {
+        wchar_t text[100] = L"";
+        if (GetMenuStringW(menu, UINT(entry), text, 100, MF_BYPOSITION) == 0) {
+            continue;  // a separator
+        }
+        std::wstring title = text;
+        for (std::size_t at = 0; (at = title.find(L"&&", at)) != title.npos;) {
+            title.erase(at, 2);
+        }
+        const std::size_t mark = title.find(L'&');
+        letters += mark != title.npos ? title[mark + 1] : title.find(L'\t') != title.npos ? L'k' : L'-';
+    }
+    return letters;
+}
+
+TEST_F(Menu, EveryEntryHasAKeyOrALetter) {
+    const HMENU menu = GetMenu(m_window.Handle());
+    EXPECT_EQ(MnemonicsOf(menu), L"IPVH");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 1)), L"R");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 2)), L"FSUPC");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 3)), L"A");
+}
+
+TEST_F(Menu, ItemsWithoutAKeyHaveDifferentLetters) {
+    std::vector<std::wstring> titles(9, L"Door");
+    for (const wchar_t* const title : {L"Stairs", L"Shelf", L"S & T", L"Xylophone", L"Sh"}) {
+        titles.emplace_back(title);
+    }
+    m_window.SetItems(titles, nullptr);
+    EXPECT_EQ(Title(IDM_ITEM + 9), L"&Stairs");
+    EXPECT_EQ(Title(IDM_ITEM + 10), L"S&helf");
+    EXPECT_EQ(Title(IDM_ITEM + 11), L"S && &T");
+    EXPECT_EQ(Title(IDM_ITEM + 12), L"X&ylophone") << "Exit has the X";
+    EXPECT_EQ(Title(IDM_ITEM + 13), L"&Sh") << "both are taken";
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(GetMenu(m_window.Handle()), 0)), L"kkkkkkkkkShTySx");
+}
+
 TEST_F(Menu, NewItemsReplaceTheOldOnes) {
     m_window.SetItems({L"Door", L"Window"}, nullptr);
     m_window.SetItems({L"Stairs"}, nullptr);
@@ -122,7 +162,7 @@ TEST_F(Menu, SnapIsTicked) {
     EXPECT_FALSE(StateOf(IDM_SNAP) & MF_CHECKED);
 }
 
-TEST_F(Menu, ChoosingUnitsOrPrecisionTellsBoth) {
+TEST_F(Menu, ChoosingUnitsOrPrecisionReportsBoth) {
     std::vector<std::pair<int, int>> formats;
     m_window.SetFormat(2, 3);
     m_window.SetFormatHandler([&](int lunits, int luprec) { formats.emplace_back(lunits, luprec); });

@@ -35,6 +35,21 @@ TEST_F(Paint, LinesAreOnePixelOfInkWhereTheirUnitsSay) {
     EXPECT_EQ(pixels.At(150, Y(109)), kSheet);
 }
 
+TEST_F(Paint, AFrameShowsTheFocusThatAKeyGave) {
+    constexpr COLORREF frame = RGB(0, 60, 160);
+    EXPECT_EQ(Look().At(0, 0), kSheet);
+    PostKey(VK_F6);
+    const CClientPixels focused = Look();
+    EXPECT_EQ(focused.At(0, 0), frame);
+    EXPECT_EQ(focused.At(focused.Width() - 1, focused.Height() - 1), frame);
+    EXPECT_EQ(focused.At(10, 10), kSheet);
+    PostKey(VK_F6, IDC_DRAWING);
+    EXPECT_EQ(Look().At(0, 0), kSheet);
+    m_window.SetBusy(true);
+    EXPECT_EQ(Look().At(0, 0), kSheet) << "the focus that no key gave";
+    m_window.SetBusy(false);
+}
+
 TEST_F(Paint, EveryKindOfEntityShows) {
     m_drawing.Add(PolylineEntity{{{30, 30}, {70, 30}, {70, 70}}, true});
     m_drawing.Add(CircleEntity{{150, 150}, 35});
@@ -67,7 +82,7 @@ TEST_F(Paint, FollowsTheDrawing) {
     EXPECT_NE(Look().At(75, Y(75)), kInk);
 }
 
-TEST_F(Paint, ALineKeepsItsPlaceHoweverFarItIsZoomed) {
+TEST_F(Paint, ALineKeepsItsPositionHoweverFarItIsZoomed) {
     // Through the middle of a pixel that stays where it is.
     m_drawing.Add(LineEntity{{50, 60}, {250, 160}});
     Wheel(150, Y(110), 80);
@@ -120,7 +135,7 @@ TEST_F(Paint, ALineFollowsTheMouseFromABaseHoweverFarAway) {
     EXPECT_EQ(Look().Count(area, rubber), 0);
 }
 
-TEST_F(Paint, CrossesStayAtTheirPlaceInTheDrawingUntilItIsCleared) {
+TEST_F(Paint, CrossesKeepTheirPositionInTheDrawingUntilItIsCleared) {
     constexpr COLORREF cross = RGB(0, 60, 160);
     PickAt(150, Y(110));
     EXPECT_EQ(Look().At(155, Y(110)), cross);

@@ -27,7 +27,7 @@ protected:
     std::vector<std::wstring> m_commands;
 };
 
-TEST_F(PromptRow, EnterHandsTheLineOn) {
+TEST_F(PromptRow, EnterPassesTheLineOn) {
     PostLine(L"(door)");
     Handle();
     EXPECT_EQ(m_commands, std::vector<std::wstring>{L"(door)"});
@@ -73,6 +73,25 @@ TEST_F(PromptRow, WhatIsTypedElsewhereLandsThere) {
     PostMessageW(Part(IDC_DRAWING), WM_CHAR, L'a', 0);
     Handle();
     EXPECT_EQ(Shown(), L"(a");
+}
+
+TEST_F(PromptRow, F6GoesToTheDrawingAndBack) {
+    ASSERT_EQ(GetFocus(), Part(IDC_PROMPT));
+    PostKey(VK_F6);
+    Handle();
+    EXPECT_EQ(GetFocus(), Area());
+    PostKey(VK_F6, IDC_DRAWING);
+    Handle();
+    EXPECT_EQ(GetFocus(), Part(IDC_PROMPT));
+}
+
+TEST_F(PromptRow, WhileItIsDisabledF6StaysInTheDrawing) {
+    m_window.SetBusy(true);
+    PostKey(VK_F6, IDC_DRAWING);
+    Handle();
+    EXPECT_EQ(GetFocus(), Area());
+    m_window.SetBusy(false);
+    EXPECT_EQ(GetFocus(), Part(IDC_PROMPT));
 }
 
 TEST_F(PromptRow, TheListOfOutputsTakesLinesAndPieces) {
