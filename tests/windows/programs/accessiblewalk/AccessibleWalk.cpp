@@ -4,10 +4,10 @@
 //     AccessibleWalk.exe TITLE CONTROL do NAME      runs the default action of the element with the name
 //     AccessibleWalk.exe TITLE CONTROL select NAME  gives it focus and selection
 //
-// TITLE is a top-level window's, CONTROL the id of a child window, or "popup" for the window without a title
-// that stands in front of it, such as a drop-down list. What an element says that contradicts another answer
-// is printed in a line that begins with "!". Exit status 1 when there is no such window or element, 2 for a
-// wrong call. Texts are UTF-8.
+// TITLE is a top-level window's. CONTROL is the id of a child window, "edit" for the first edit that is shown
+// in it, or "popup" for the window without a title that stands in front of it, such as a drop-down list. What
+// an element says that contradicts another answer is printed in a line that begins with "!". Exit status 1
+// when there is no such window or element, 2 for a wrong call. Texts are UTF-8.
 #include <cstdio>
 #include <cwchar>
 
