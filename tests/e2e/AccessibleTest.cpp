@@ -13,7 +13,7 @@ constexpr const char* theEdit = "edit";
 constexpr const char* theList = "popup";
 
 // What the rows say when the gallery opens, in the display with section headers.
-constexpr const char* initialRows = R"(outline "Values" [focused]
+constexpr const char* initialRows = R"rows(outline "Values" [focused]
   outline item "Basics" [expanded] -> Collapse (-)
   outline item "Name" = "Oak door" -> Edit
   outline item "Notes" = "Two coats of paint¶Key at the office" -> Edit
@@ -42,7 +42,7 @@ constexpr const char* initialRows = R"(outline "Values" [focused]
   outline item "Rating" = "(not given)" -> Edit
   outline item "Empty" [expanded] -> Collapse (-)
   outline item "Many rows" [collapsed] -> Expand (+)
-)";
+)rows";
 
 class Accessible : public GalleryWindow {
 protected:
@@ -91,8 +91,9 @@ TEST_F(Accessible, WhatTheUserChangesIsTold) {
     PressKeys("Return");
     ExpectChanges({"Name = Ash door", "Maker = Miller"});
     std::string rows = Replaced(initialRows, "Oak door", "Ash door");
-    rows = Replaced(rows, R"("Maker" = "(not given)") ", R"("Maker" = "Miller"[selected, focused]) ");
-        EXPECT_EQ(Walk(), rows);
+    rows =
+        Replaced(rows, R"row("Maker" = "(not given)")row", R"row("Maker" = "Miller" [selected, focused])row");
+    EXPECT_EQ(Walk(), rows);
     CloseExpecting({"Name = Ash door", "Maker = Miller"});
 }
 
