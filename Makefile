@@ -1,8 +1,9 @@
 # The one entrance: `make help` lists the targets. Each works on a fresh Debian machine.
 
 BUILD_PACKAGES = cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest zip \
-  nlohmann-json3-dev libcli11-dev libutfcpp-dev
+  nlohmann-json3-dev libcli11-dev libstb-dev libutfcpp-dev
 WINDOW_PACKAGES = wine wine64 fonts-wine fonts-liberation xvfb openbox xdotool imagemagick x11-utils librsvg2-bin
+DIST_PACKAGES = nsis pandoc
 BENCH_PACKAGES = pkgconf libboost-regex-dev libpcre2-dev libre2-dev
 FUZZ_PACKAGES = clang libclang-rt-14-dev pkgconf libpcre2-dev
 X86_PACKAGES = debootstrap
@@ -12,9 +13,9 @@ LINT_PACKAGES = clang-format-16 clang-tidy cppcheck shellcheck python3-yaml
 .DEFAULT_GOAL := help
 
 help:
-	@echo "make run      DevHost with the sample items (without a display: driven by itself, from choosing a door"
+	@echo "make run      DevHost with the sample items (without a display: unattended, from choosing a door"
 	@echo "              to its drawing; the results printed, screenshots in out/)"
-	@echo "make gallery  open the property grid with every kind of value (without a display: driven by itself,"
+	@echo "make gallery  open the property grid with every kind of value (without a display: unattended,"
 	@echo "              screenshots of its modes and editors in out/)"
 	@echo "make screenshots  make the pictures of the documentation from the running programs"
 	@echo "make check    build and run the native tests: the quick loop while writing code without windows"
@@ -29,7 +30,8 @@ help:
 	@echo "make bench    measure, beside other libraries; the figures go to docs/performance.md"
 	@echo "make rules    write what tavrincheck says of its rules into docs/tavrincheck.md"
 	@echo "make build    build/x64/bin, build/x86/bin (the module and the stand-in host), build/native/bin"
-	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip: what users install, the same bytes each time"
+	@echo "make dist     dist/TavrinWnd-VERSION-x64.zip and -x86.zip and their setup programs: what users install, the same"
+	@echo "              bytes each time"
 	@echo "make help     this list"
 
 packages:
@@ -47,22 +49,22 @@ check:
 	    --label-exclude exhaustive --progress
 
 test: build
-	@scripts/install-packages $(FUZZ_PACKAGES)
+	@scripts/install-packages $(FUZZ_PACKAGES) $(DIST_PACKAGES)
 	@scripts/build fuzz
 	@printf 'subdirs("x64" "native" "fuzz")\n' > build/CTestTestfile.cmake
 	@scripts/with-wine ctest --test-dir build --output-on-failure --parallel $$(nproc)
 
 test-x86: packages
 	@scripts/x86-root --possible
-	@scripts/install-packages $(X86_PACKAGES)
+	@scripts/install-packages $(X86_PACKAGES) $(DIST_PACKAGES)
 	@scripts/test-x86
 
 run: packages
-	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TavrinRes_en TD_Alloc TD_Alloc_checked
 	@scripts/run-door
 
 screenshots: packages
-	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TD_Alloc TD_Alloc_checked
+	@scripts/build x64 DevHost TavrinWnd TavrinRes_it TavrinRes_en TD_Alloc TD_Alloc_checked
 	@scripts/make-screenshots
 
 gallery: packages
@@ -70,6 +72,7 @@ gallery: packages
 	@scripts/run-gallery
 
 dist: packages
+	@scripts/install-packages $(DIST_PACKAGES)
 	@scripts/make-dist
 
 bench: packages

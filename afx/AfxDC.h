@@ -12,7 +12,7 @@ class CDC : public CObject {
     CDC() = default;
     ~CDC() override;
 
-    // The object that owns the handle, or one that lives until the message or command at work ends.
+    // The object that owns the handle, or one that lives until the current message or command ends.
     static CDC* PASCAL FromHandle(HDC handle);
 
     HDC GetSafeHdc() const { return m_hDC; }

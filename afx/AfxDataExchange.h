@@ -13,7 +13,7 @@ public:
     HWND PrepareCtrl(int id);
     // As above, for a control whose text the user types: Fail brings the focus back to it.
     HWND PrepareEditCtrl(int id);
-    // Ends the exchange with a CUserException*, after the user has been told why.
+    // Ends the exchange with a CUserException*, after a message box has given the user the reason.
     [[noreturn]] void Fail();
 
     BOOL m_bSaveAndValidate;  // TRUE: from the controls into the members

@@ -35,8 +35,9 @@ LPCDLGTEMPLATE LoadDialogTemplate(LPCTSTR name) {
     return static_cast<LPCDLGTEMPLATE>(memory != nullptr ? ::LockResource(memory) : nullptr);
 }
 
-// A template at 0, 0 that asks for no particular place is centred over its owner.
-bool LeavesPlaceOpen(LPCDLGTEMPLATE dialogTemplate) {
+// Whether the template gives no position: 0, 0 without a style that makes it one. Such a dialog is centred
+// over its owner.
+bool HasNoPosition(LPCDLGTEMPLATE dialogTemplate) {
     const auto* const extended = reinterpret_cast<const DLGTEMPLATEEX*>(dialogTemplate);
     const bool isExtended = extended->signature == 0xFFFF;
     const DWORD style = isExtended ? extended->style : dialogTemplate->style;
@@ -144,7 +145,7 @@ HWND CDialog::FindOwner() const {
 }
 
 BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner, void* initData) {
-    m_centre = LeavesPlaceOpen(dialogTemplate);
+    m_centre = HasNoPosition(dialogTemplate);
     const CAfxWindowHook hook(this);
     const HWND window = ::CreateDialogIndirectParam(AfxGetResourceHandle(), dialogTemplate, owner,
                                                     DialogProcedure, reinterpret_cast<LPARAM>(initData));
@@ -177,7 +178,7 @@ INT_PTR CDialog::DoModal() {
         ::SetActiveWindow(owner);
     }
     DestroyWindow();
-    // A dialog brings the focus back to its control by itself, other windows keep it.
+    // A dialog restores the focus to its control, other windows keep it.
     if (owner != nullptr && ::GetFocus() == owner && ::IsChild(owner, focus)) {
         ::SetFocus(focus);
     }
@@ -196,7 +197,7 @@ void CDialog::RunModalLoop() {
         } else if (::GetMessage(&message, nullptr, 0, 0) > 0) {
             Pump(message);
         } else {
-            // The program is to end: its own loop must hear of it too.
+            // WM_QUIT: posted again, for the program's own message loop.
             ::PostQuitMessage(static_cast<int>(message.wParam));
             m_ended = true;
         }

@@ -12,7 +12,7 @@ class CDialog : public CWnd {
     CDialog() = default;
     explicit CDialog(LPCTSTR templateName, CWnd* parent = nullptr);
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
-    // For DoModal with a template in memory, which must live until DoModal returns; it takes the place of one
+    // For DoModal with a template in memory, which must live until DoModal returns; it replaces one
     // that was given before. FALSE when the dialog comes from a resource.
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr, void* initData = nullptr);
 
@@ -25,8 +25,8 @@ class CDialog : public CWnd {
     // The result given to EndDialog; -1 when the dialog could not be made. The dialog appears when no
     // message waits any more, so that one that ends at once is never seen.
     virtual INT_PTR DoModal();
-    // Ends DoModal with this result as soon as the message at work has been handled; may be called from
-    // OnInitDialog. The owner is enabled before the dialog goes away.
+    // Ends DoModal with this result as soon as the current message has been handled; may be called from
+    // OnInitDialog. The owner is enabled before the dialog is destroyed.
     void EndDialog(int result);
 
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }

@@ -1,4 +1,4 @@
-// The framework's exceptions: thrown as pointers, deleted with Delete by whoever ends their way.
+// The framework's exceptions: thrown as pointers; the code that catches one for good deletes it with Delete.
 #pragma once
 
 #include "afx/AfxObject.h"
@@ -51,7 +51,7 @@ class CResourceException : public CSimpleException {
     CResourceException() : CSimpleException(TRUE, L"A required resource was unavailable.") {}
 };
 
-// Ends an operation whose reason the user has been told already.
+// Ends an operation after the user has already seen the reason.
 class CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
     CUserException() : CSimpleException(TRUE, L"") {}

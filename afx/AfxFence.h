@@ -5,8 +5,8 @@
 
 #include "afx/AfxException.h"
 
-// Tells the user of an exception that nobody caught, unless it says that he knows already, and frees it.
-// Call from a catch block alone. isCommand: a command of the user's failed.
+// Reports an uncaught exception in a message box and frees it. A CUserException is only freed: the user has
+// already seen its reason. To be called inside a catch block. isCommand: whether a user's command failed.
 void AfxReportCaught(bool isCommand);
 
 // Runs the work; false when it threw.

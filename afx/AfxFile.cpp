@@ -1,4 +1,4 @@
-// CFile: bytes.
+// CFile: unbuffered reading and writing of a file's bytes.
 #include "afx/AfxFile.h"
 
 #include <utility>

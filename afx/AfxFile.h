@@ -7,8 +7,8 @@
 class CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
 
-    // As documented, an Open that names no sharing shares nothing: while the file is open nobody else,
-    // this process included, can open it, and an Open fails where somebody has it open.
+    // As documented, an Open that names no sharing shares nothing: while the file is open no other open
+    // succeeds, not even in this process, and an Open fails where the file is already open.
     enum OpenFlags {
         modeRead = 0x0000,
         modeWrite = 0x0001,
@@ -27,8 +27,8 @@ class CFile : public CObject {
     CFile(LPCTSTR fileName, UINT openFlags);  // throws when the file cannot be opened
     ~CFile() override;                        // closes an open file
 
-    // FALSE when the file cannot be opened; error, when given, then tells why: badPath for a name of MAX_PATH
-    // characters or more.
+    // FALSE when the file cannot be opened; error, when given, then has the cause: badPath for a name of
+    // MAX_PATH characters or more.
     virtual BOOL Open(LPCTSTR fileName, UINT openFlags, CFileException* error = nullptr);
     // Up to count bytes; fewer only at the end of the file, where the result is 0.
     virtual UINT Read(void* buffer, UINT count);

@@ -1,7 +1,7 @@
 // GDI objects: pens, brushes, fonts, bitmaps. Each owns its handle and deletes it in its destructor.
 //
-// FromHandle gives the object that owns a handle, or a temporary one that lives until the message or
-// command at work ends and owns nothing.
+// FromHandle returns the object that owns the handle, or a temporary one that owns nothing and is deleted
+// when the current message or command ends.
 #pragma once
 
 #include "afx/AfxObject.h"
@@ -19,7 +19,7 @@ class CGdiObject : public CObject {
     static CGdiObject* PASCAL FromHandle(HGDIOBJ handle);
 
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
-    // Takes the handle over. FALSE for a null one.
+    // Takes ownership of the handle. FALSE when it is null.
     BOOL Attach(HGDIOBJ handle);
     HGDIOBJ Detach();
     BOOL DeleteObject();

@@ -12,13 +12,13 @@ struct AFX_MODULE_STATE {
 
 // The state of the module (DLL or program) that this code is linked into.
 AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
-// The state at work: the program's, until an AFX_MAINTAIN_STATE2 puts another in its place. Window
-// procedures of the framework do so by themselves.
+// The current state: the program's, until an AFX_MAINTAIN_STATE2 replaces it. The window procedures of the
+// framework do so automatically.
 AFX_MODULE_STATE* AFXAPI AfxGetModuleState();
 
-// Puts a module state to work until the end of the scope; the one before comes back on every way out.
+// Makes a module state the current one until the end of the scope, which restores the previous one.
 // The outermost code of every entry into the module needs one. Temporary objects (CWnd::FromHandle and
-// its like) made in the scope end with it.
+// the like) that are made in the scope are deleted with it.
 struct AFX_MAINTAIN_STATE2 {
     explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state);
     ~AFX_MAINTAIN_STATE2();
@@ -30,7 +30,7 @@ private:
     size_t m_temporaries;
 };
 
-// Of the state at work.
+// Of the current state.
 HINSTANCE AFXAPI AfxGetInstanceHandle();
 HINSTANCE AFXAPI AfxGetResourceHandle();
 void AFXAPI AfxSetResourceHandle(HINSTANCE instance);

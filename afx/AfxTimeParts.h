@@ -1,4 +1,4 @@
-// The parts of a date and time, as the C runtime has them, in the form of Windows.
+// Converts a date and time from the C runtime's std::tm to SYSTEMTIME.
 #pragma once
 
 #include <ctime>

@@ -49,7 +49,8 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH backg
     windowClass.hIcon = icon;
     windowClass.hCursor = cursor;
     windowClass.hbrBackground = background;
-    // Noted first: a class that no memory is left to note would stay registered, and nobody would know it.
+    // Recorded first: if recording failed for lack of memory after registering, the class would stay
+    // registered.
     windowClass.lpszClassName = classes.Add(name);
     if (::RegisterClass(&windowClass) == 0) {
         classes.RemoveLast();

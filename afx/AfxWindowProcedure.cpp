@@ -21,13 +21,13 @@ private:
     MSG m_previous;
 };
 
-// What Windows is told of a message whose handling ended with an exception.
+// The result that Windows gets for a message whose handler threw an exception.
 LRESULT GetResultOfFailure(HWND window, UINT message) {
     switch (message) {
         case WM_CREATE:
             return -1;
         case WM_PAINT:
-            ::ValidateRect(window, nullptr);  // else Windows would ask for it again at once, for ever
+            ::ValidateRect(window, nullptr);  // else Windows would send WM_PAINT again and again
             return 0;
         default:
             return message == WM_COMMAND;
@@ -36,14 +36,14 @@ LRESULT GetResultOfFailure(HWND window, UINT message) {
 
 }  // namespace
 
-// Without memory of the heap: the want of that may be what is reported.
+// Allocates nothing: an allocation failure may be what is reported.
 void AfxReportCaught(bool isCommand) {
     constexpr int size = 1024;
     TCHAR text[size];
     ::lstrcpyn(text, isCommand ? L"Command failed." : L"Internal application error.", size);
     const int length = ::lstrlen(text);
     TCHAR* const reason = text + length + 1;
-    const int room = size - length - 1;
+    const int capacity = size - length - 1;
     reason[0] = L'\0';
     try {
         throw;
@@ -51,11 +51,11 @@ void AfxReportCaught(bool isCommand) {
         error->Delete();
         return;
     } catch (CException* error) {
-        error->GetErrorMessage(reason, static_cast<UINT>(room));
+        error->GetErrorMessage(reason, static_cast<UINT>(capacity));
         error->Delete();
     } catch (const std::exception& error) {
-        ::MultiByteToWideChar(CP_ACP, 0, error.what(), -1, reason, room);
-        reason[room - 1] = L'\0';
+        ::MultiByteToWideChar(CP_ACP, 0, error.what(), -1, reason, capacity);
+        reason[capacity - 1] = L'\0';
     } catch (...) {
     }
     if (reason[0] != L'\0') {

@@ -11,14 +11,14 @@ namespace {
 
 using CWndMap = CAfxHandleMap<CWnd, HWND, &CWnd::m_hWnd>;
 
-// One of the special values that SetWindowPos takes for a window.
-class CPlace : public CWnd {
+// One of the special values of SetWindowPos's parameter hWndInsertAfter.
+class CInsertAfter : public CWnd {
 public:
-    explicit CPlace(HWND place) { m_hWnd = place; }
-    ~CPlace() override { m_hWnd = nullptr; }
+    explicit CInsertAfter(HWND insertAfter) { m_hWnd = insertAfter; }
+    ~CInsertAfter() override { m_hWnd = nullptr; }
 };
 
-const CPlace top(HWND_TOP), bottom(HWND_BOTTOM), topMost(HWND_TOPMOST), noTopMost(HWND_NOTOPMOST);
+const CInsertAfter top(HWND_TOP), bottom(HWND_BOTTOM), topMost(HWND_TOPMOST), noTopMost(HWND_NOTOPMOST);
 
 // Moves the rectangle into the other one, to its left and top edges where it is too large.
 void MoveInside(CRect& rect, const CRect& area) {
@@ -157,7 +157,7 @@ BOOL CWnd::DestroyWindow() {
     }
     const HWND window = m_hWnd;
     const BOOL destroyed = ::DestroyWindow(window);
-    // An object that never got the window's messages has not heard of its end.
+    // An object that never got the window's messages did not get WM_NCDESTROY either.
     if (FromHandlePermanent(window) == this) {
         Detach();
     }

@@ -1,4 +1,4 @@
-// CWnd: a window, its messages and what can be asked of it.
+// CWnd: a window, its messages and its functions.
 //
 // Coordinates are pixels: of the window's client area where nothing else is said, of the screen or of the
 // parent's client area where Windows means those.
@@ -17,7 +17,7 @@ struct CCreateContext;
 
 // An object that a window is attached to is that window's permanent one: it gets the window's messages,
 // FromHandle finds it, and its destructor destroys the window. FromHandle makes a temporary object for any
-// other window; that one lives until the message or command at work ends.
+// other window; that one lives until the current message or command ends.
 class CWnd : public CCmdTarget {
     DECLARE_DYNAMIC(CWnd)
 
@@ -56,7 +56,7 @@ class CWnd : public CCmdTarget {
     // May change what the window is created with; FALSE ends the creation.
     virtual BOOL PreCreateWindow(CREATESTRUCT& create);
     virtual BOOL DestroyWindow();
-    // The last thing that an object hears of its window; by then it has none.
+    // Called last, when the window no longer exists.
     virtual void PostNcDestroy() {}
 
     // Messages.
@@ -69,7 +69,7 @@ class CWnd : public CCmdTarget {
     static const MSG* PASCAL GetCurrentMessage();
     virtual BOOL PreTranslateMessage(MSG* message);
 
-    // Relatives. An owner that was set hears the notifications that the parent would hear otherwise.
+    // Parent and owner. An owner that was set gets the notifications instead of the parent.
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetOwner() const { return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent(); }
     void SetOwner(CWnd* owner) { m_hWndOwner = owner != nullptr ? owner->m_hWnd : nullptr; }
@@ -156,14 +156,14 @@ class CWnd : public CCmdTarget {
     }
 
     // Data exchange between controls and members. FALSE when a DDX operation gave up. Meanwhile the window
-    // hears no notification of its controls.
+    // gets no notifications from its controls.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
 protected:
     DECLARE_MESSAGE_MAP()
 
-    // The way of a message: WindowProc asks OnWndMsg (commands, notifications, then the map) and gives
-    // what is left to DefWindowProc, which calls the procedure that the window had before.
+    // The path of a message: WindowProc calls OnWndMsg (commands, notifications, then the map) and passes
+    // what is left to DefWindowProc, which calls the window's previous procedure.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,5 +1,5 @@
-// Our matcher and the peers. The peers' patterns are compiled so that a dot is any character and the dollar
-// sign the end alone, which is what ours mean and the fastest reading too.
+// Our matcher and its peers, the other libraries. The peers' patterns are compiled so that a dot matches any
+// character and a dollar sign only the end of the text, as in our patterns; this is also their fastest mode.
 #define PCRE2_CODE_UNIT_WIDTH 16
 #include "benchmarks/Matcher.h"
 
@@ -18,15 +18,15 @@ using namespace tavrin::pattern;
 
 namespace {
 
-[[noreturn]] void Refuse(const char* library) {
-    throw std::runtime_error(std::string(library) + " does not take the pattern");
+[[noreturn]] void ThrowRejected(const char* library) {
+    throw std::runtime_error(std::string(library) + " rejects the pattern");
 }
 
 class COurs : public IMatcher {
 public:
     explicit COurs(const BenchPattern& pattern) {
         if (m_matcher.Parse(pattern.ours, false) != PE_NONE) {
-            Refuse("our matcher");
+            ThrowRejected("our matcher");
         }
     }
 
@@ -58,18 +58,19 @@ private:
     Lines m_lines;
 };
 
-// PCRE2 over 16-bit characters, which is what the module's are.
+// PCRE2 for 16-bit characters, as the module uses them.
 class CPcre2 : public IMatcher {
 public:
     CPcre2(const BenchPattern& pattern, bool jit) : m_jit(jit) {
         const std::string text = pattern.theirs;
         const std::u16string wide(text.begin(), text.end());
         int error = 0;
-        PCRE2_SIZE place = 0;
+        PCRE2_SIZE errorOffset = 0;
         m_code = pcre2_compile(reinterpret_cast<PCRE2_SPTR>(wide.c_str()), wide.size(),
-                               PCRE2_CASELESS | PCRE2_DOTALL | PCRE2_DOLLAR_ENDONLY, &error, &place, nullptr);
+                               PCRE2_CASELESS | PCRE2_DOTALL | PCRE2_DOLLAR_ENDONLY, &error, &errorOffset,
+                               nullptr);
         if (m_code == nullptr || (jit && pcre2_jit_compile(m_code, PCRE2_JIT_COMPLETE) != 0)) {
-            Refuse("PCRE2");
+            ThrowRejected("PCRE2");
         }
         m_data = pcre2_match_data_create_from_pattern(m_code, nullptr);
     }
@@ -111,7 +112,7 @@ public:
 private:
     bool Match(const std::u16string& line) {
         const auto* text = reinterpret_cast<PCRE2_SPTR>(line.data());
-        // The compiled code is called in its quickest way, without the checks of the ordinary one.
+        // pcre2_jit_match leaves out the argument checks of pcre2_match.
         return (m_jit ? pcre2_jit_match(m_code, text, line.size(), 0, 0, m_data, nullptr)
                       : pcre2_match(m_code, text, line.size(), 0, 0, m_data, nullptr)) > 0;
     }
@@ -122,12 +123,12 @@ private:
     std::vector<std::u16string> m_lines;
 };
 
-// RE2 knows single-byte and UTF-8 text; single bytes are the quicker ones.
+// RE2 matches Latin-1 or UTF-8 text; Latin-1 is faster.
 class CRe2 : public IMatcher {
 public:
     explicit CRe2(const BenchPattern& pattern) : m_regex(pattern.theirs, Options()) {
         if (!m_regex.ok()) {
-            Refuse("RE2");
+            ThrowRejected("RE2");
         }
         m_groups.resize(static_cast<std::size_t>(m_regex.NumberOfCapturingGroups()) + 1);
     }
@@ -182,7 +183,7 @@ private:
     std::vector<std::string> m_lines;
 };
 
-// Boost.Regex and the standard library's have one interface.
+// Boost.Regex and std::wregex have the same interface.
 template <class TRegex, class TResults, bool (*search)(const std::wstring&, TResults&, const TRegex&)>
 class CIteratorRegex : public IMatcher {
 public:

@@ -15,4 +15,5 @@ endfunction()
 
 add_header_library(cli11 CLI)
 add_header_library(json nlohmann)
+add_header_library(stb stb)
 add_header_library(utfcpp utf8 utf8.h)

@@ -52,7 +52,7 @@ enum EExchange {
     EX_CONTROL         // CWnd, or a class derived from it: the object of the control itself
 };
 
-// The style's low bits tell buttons and pickers apart. They are tested as patterns, so that styles which
+// The style's low bits distinguish buttons and pickers. They are tested as patterns, so that styles which
 // merely contain a pattern count too: an owner-drawn button (0xB) is a radio button, a group box (7) a check
 // box.
 EExchange ExchangeOf(std::uint32_t typeCode, std::uint32_t style);

@@ -41,7 +41,7 @@ bool ReadFontOf(const CWnd* window, LOGFONT& font) {
     return handle != nullptr && ::GetObject(handle, sizeof(font), &font) != 0;
 }
 
-// The classes of the newer common controls exist only once they have been asked for.
+// The window classes of the newer common controls must be registered before they can be used.
 void RegisterCommonControls() {
     INITCOMMONCONTROLSEX classes = {
         sizeof(classes), ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_USEREX_CLASSES | ICC_INTERNET_CLASSES};
@@ -126,8 +126,8 @@ UINT CDynDialogEx::Add(DynControl control, const RECT* rect, int defaultRight) {
 void CDynDialogEx::AddSystemButtons() {
     constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     const auto add = [this](LPCTSTR caption, const DialogRect& rect, UINT id) {
-        const CRect place(rect.left, rect.top, rect.right, rect.bottom);
-        AddDlgControl(CT_BUTTON, caption, style, 0, &place, nullptr, id);
+        const CRect area(rect.left, rect.top, rect.right, rect.bottom);
+        AddDlgControl(CT_BUTTON, caption, style, 0, &area, nullptr, id);
     };
     const StandardButtonRects rects = m_layout.StartStandardButtons();
     add(_T("OK"), rects.ok, IDOK);

@@ -62,8 +62,8 @@ public:
     // ProgID of an ActiveX control, a code that is none of the 19 makes a control that cannot be created. The
     // styles are taken as they are: WS_CHILD and WS_VISIBLE are the caller's to give. A null rectangle is the
     // next row, 12 high, from x 10 to 270 (by name) or 120 (by code). `data` is the variable to exchange the
-    // value with, or null; what it must point to follows from class and style, see EExchange. An id of 0 asks
-    // for one that no other control has had.
+    // value with, or null; what it must point to follows from class and style, see EExchange. With id 0 the
+    // control gets an unused one.
     virtual UINT AddDlgControl(LPCTSTR className, LPCTSTR caption, DWORD style, DWORD exStyle,
                                const RECT* rect, void* data, UINT id);
     virtual UINT AddDlgControl(UINT typeCode, LPCTSTR caption, DWORD style, DWORD exStyle, const RECT* rect,
@@ -74,7 +74,7 @@ public:
     virtual UINT AddSubclassedDlgControl(LPCTSTR className, LPCTSTR caption, DWORD style, DWORD exStyle,
                                          const RECT* rect, UINT id);
 
-    // The user asks for help (F1).
+    // The user requests help (F1).
     virtual BOOL OnHelpInfo(HELPINFO* help);
 
     BOOL OnInitDialog() override;
@@ -84,7 +84,7 @@ protected:
         return tavrin::memory::FenceMemory([&] { return CDialog::WindowProc(message, wParam, lParam); });
     }
     void DoDataExchange(CDataExchange* pDX) override;
-    // OK and Cancel end the dialog; every other command is the parent's to hear first.
+    // OK and Cancel end the dialog; every other command goes to the parent first.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnOK() override;
     void OnCancel() override;

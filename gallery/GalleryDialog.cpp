@@ -93,7 +93,7 @@ void CGalleryDialog::Fill() {
     FillBasics();
     FillChoices();
     FillDates();
-    FillPlaces();
+    FillPaths();
     FillLooks();
     FillStates();
     m_grid.AddSection(L"Empty");
@@ -125,8 +125,8 @@ void CGalleryDialog::FillDates() {
     m_grid.AddDateItem(section, L"Paid", none);
 }
 
-void CGalleryDialog::FillPlaces() {
-    const UINT section = m_grid.AddSection(L"Places");
+void CGalleryDialog::FillPaths() {
+    const UINT section = m_grid.AddSection(L"Paths");
     m_grid.AddFileItem(section, L"Drawing", L"C:\\windows\\win.ini",
                        L"Settings (*.ini)|*.ini|All files (*.*)|*.*||");
     m_grid.AddFolderItem(section, L"Archive", L"C:\\windows", L"Where the drawings are kept:");
@@ -255,11 +255,11 @@ LRESULT CGalleryDialog::OnGetMinMaxInfo(WPARAM /*zero*/, LPARAM info) {
 }
 
 BOOL CGalleryDialog::OnHelpInfo(HELPINFO* /*info*/) {
-    PrintPlaces();
+    PrintRectangles();
     return TRUE;
 }
 
-void CGalleryDialog::PrintPlaces() {
+void CGalleryDialog::PrintRectangles() {
     m_grid.UpdateWindow();
     for (UINT id = 0; id < m_grid.GetItemCount(); ++id) {
         CRect name;
@@ -268,11 +268,11 @@ void CGalleryDialog::PrintPlaces() {
             continue;
         }
         m_grid.MapWindowPoints(this, &value);
-        PrintLine(L"place " + std::to_wstring(value.left) + L' ' + std::to_wstring(value.top) + L' ' +
+        PrintLine(L"rectangle " + std::to_wstring(value.left) + L' ' + std::to_wstring(value.top) + L' ' +
                   std::to_wstring(value.right) + L' ' + std::to_wstring(value.bottom) + L' ' +
                   m_grid.GetItemName(id));
     }
-    PrintLine(L"places end");
+    PrintLine(L"rectangles end");
 }
 
 }  // namespace tavrin::gallery

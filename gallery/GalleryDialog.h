@@ -1,9 +1,9 @@
 // The gallery: one property grid that holds every kind of value, the switches of its appearance, and a log
-// of what the user changed. An example for whoever puts the grid on a dialog.
+// of what the user changed. An example for developers who put the grid on a dialog.
 //
-// Each change is written to standard output too, as a line "Width = 12.5" in UTF-8. F1 writes where the
-// values are shown, for programs that drive the mouse: a line "place LEFT TOP RIGHT BOTTOM NAME" for each
-// value (where it was last shown, in pixels of the dialog's client area), then the line "places end".
+// Each change is also written to standard output, as a line "Width = 12.5" in UTF-8. F1 writes the rectangles
+// of the values, for programs that drive the mouse: a line "rectangle LEFT TOP RIGHT BOTTOM NAME" for each
+// value (as last painted, in pixels of the dialog's client area), then the line "rectangles end".
 #pragma once
 
 #include <vector>
@@ -40,13 +40,13 @@ private:
     void FillBasics();
     void FillChoices();
     void FillDates();
-    void FillPlaces();
+    void FillPaths();
     void FillLooks();
     void FillStates();
     void FillManyRows();
     void ShowFlags();
     void RememberLayout();
-    void PrintPlaces();
+    void PrintRectangles();
 
     CPercentItem m_gloss;  // custom items outlive the grid that holds them
     propgrid::CPropertyGrid m_grid;

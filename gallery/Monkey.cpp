@@ -51,7 +51,7 @@ bool IsDialog(HWND window) {
     return std::wstring(name) == L"#32770";
 }
 
-// The checking heap can tell what is left.
+// The checking heap can print the blocks that are still allocated.
 void PrintBlocks() {
     using PrintLive = void (*)(std::size_t most);
     const auto print = reinterpret_cast<PrintLive>(
@@ -124,7 +124,7 @@ void CMonkey::Act() {
     }
 }
 
-// Whether a dialog is up in front of the gallery; it is told to end, one way or the other.
+// Whether a dialog is open in front of the gallery; it is confirmed or cancelled.
 bool CMonkey::EndDialogs() {
     for (const HWND window : UsableWindows()) {
         if (window == m_gallery->GetSafeHwnd() || !IsDialog(window)) {
@@ -148,9 +148,9 @@ void CMonkey::OpenNextEditor() {
     CRect value;
     if (grid.GetItemRects(m_nextItem++, name, value) && !value.IsRectEmpty()) {
         const CPoint middle = value.CenterPoint();
-        const LPARAM place = MAKELPARAM(middle.x, middle.y);
+        const LPARAM position = MAKELPARAM(middle.x, middle.y);
         for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-            grid.PostMessage(message, 0, place);
+            grid.PostMessage(message, 0, position);
         }
     }
 }

@@ -1,8 +1,8 @@
-// Random input for the gallery, and the proof that it leaves nothing behind.
+// Random input for the gallery, with a check for leaks afterwards.
 //
-// The input is the system's own (SendInput), so it takes the way that a person's takes; whoever uses the
-// mouse meanwhile disturbs it. It stays inside the gallery's windows. A dialog that comes up for a value is
-// confirmed or cancelled; a gallery that was closed is opened again.
+// The input is sent with SendInput, so it takes the same path as a person's; using the mouse meanwhile
+// disturbs it. It stays inside the gallery's windows. A dialog that opens for a value is confirmed or
+// cancelled; a gallery that was closed is opened again.
 #pragma once
 
 #include <afxwin.h>

@@ -10,7 +10,7 @@ public:
     // `percent` is from 0 to 100.
     explicit CPercentItem(int percent) : m_percent(percent) {}
 
-    // The id that the grid gave the item, for telling it about changes.
+    // The id that the grid gave the item, for notifying the grid of changes.
     void SetId(UINT id) { m_id = id; }
     int GetPercent() const { return m_percent; }
     void SetPercent(int percent) { m_percent = percent; }
@@ -22,10 +22,10 @@ public:
     void AcceptValue() override {}
     bool OnLButtonDown(CRect rect, CPoint point) override;
     void OnMouseMove(CRect rect, CPoint point) override;
-    // Tells the grid when the drag has changed the share.
+    // Notifies the grid when the drag has changed the percentage.
     void OnLButtonUp(CRect rect, CPoint point) override;
     std::wstring GetStringValue() override { return std::to_wstring(m_percent) + L"%"; }
-    // The rest is asked of other edit modes.
+    // The grid calls the rest for other edit modes only.
     bool SetStringValue(std::wstring /*text*/) override { return false; }
     void ShowDropDown(CRect /*rect*/) override {}
     bool OnButtonClicked() override { return false; }

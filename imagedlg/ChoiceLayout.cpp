@@ -61,11 +61,11 @@ ChoiceArrangement ArrangeOneRow(unsigned count, const PixelRect& window, const P
     const int half = (window.bottom - window.top) / 2;
     const int cut = CutColumns(count, width);
     const auto yOf = [&](const PixelRect& button) { return button.top - half - window.top + 2; };
-    const auto place = [&](const PixelRect& button) {
+    const auto positionOf = [&](const PixelRect& button) {
         return PixelPoint{button.left - cut - window.left, yOf(button)};
     };
     // Deliberate: the horizontal position of Replace is its screen position; the window's is not subtracted.
-    return {KeptColumns(count, width), half + 28, place(ok), place(cancel),
+    return {KeptColumns(count, width), half + 28, positionOf(ok), positionOf(cancel),
             PixelPoint{replace.left, yOf(replace)}};
 }
 

@@ -35,8 +35,8 @@ void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
 }
 
 // To a position in the client area of its parent, keeping its size.
-void MoveButton(CWnd& button, PixelPoint place) {
-    button.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+void MoveButton(CWnd& button, PixelPoint position) {
+    button.SetWindowPos(nullptr, position.x, position.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
 
 }  // namespace

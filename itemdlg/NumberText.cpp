@@ -92,8 +92,8 @@ double ScaledValue(const std::string& whole, const std::string& fraction, std::i
     if (result.ec != std::errc::result_out_of_range) {
         return value;
     }
-    // The conversion does not tell too large from too small; the position of the first digit other than 0
-    // does.
+    // The conversion does not distinguish too large from too small; the position of the first digit other
+    // than 0 does.
     const std::size_t leading = std::min((whole + fraction).find_first_not_of('0'), text.size());
     const auto magnitude = static_cast<std::int64_t>(whole.size()) - static_cast<std::int64_t>(leading);
     return magnitude + exponent > 0 ? std::numeric_limits<double>::infinity() : 0.0;

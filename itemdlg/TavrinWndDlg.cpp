@@ -204,7 +204,7 @@ void CTavrinWndDlg::UpdateTemplateDefaults() {
     RewriteFile(kTemplateFileEnding, RewriteTemplateFile);
 }
 
-// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written all the same
+// Reads a file, rewrites its lines and writes it. Deliberate: after a failed read it is written nevertheless
 // and then ends where reading failed. Out of memory is reported as a failure of the step that it interrupted;
 // the file stays as it is unless it was being written.
 void CTavrinWndDlg::RewriteFile(std::wstring_view ending, Rewriter rewrite) {

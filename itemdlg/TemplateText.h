@@ -27,7 +27,7 @@
 
 namespace tavrin::itemdlg {
 
-// Gives the text with a number in the resource module; empty when there is none. It is asked for numbers from
+// Gives the text with a number in the resource module; empty when there is none. Called with numbers from
 // 1 to 65535 only.
 using TextLookup = std::function<std::wstring(unsigned id)>;
 
@@ -66,7 +66,7 @@ using PlaceholderLookup = std::function<int(const std::wstring& text)>;
 constexpr int kHighestTextNumber = 0xFFFF;
 
 // The text with that number. A number that cannot name a text, above 65535 or below 1, gives an empty text:
-// the lookup is not asked, since the system would cut the number off to 16 bits and find a wrong text.
+// the lookup is not called, since the system would truncate the number to 16 bits and find a wrong text.
 std::wstring ResourceText(int number, const TextLookup& lookup);
 
 // The title that a line means: the text that its placeholder names, instead of the whole line, or the

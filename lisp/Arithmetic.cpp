@@ -1,5 +1,5 @@
-// Arithmetic. Whole numbers give whole numbers; a result that does not fit 32 bits is an error, since nobody
-// would notice a length or count that wrapped around.
+// Arithmetic. Whole numbers give whole numbers; a result that does not fit 32 bits is an error, since a
+// wrapped length or count would go unnoticed.
 #include <cmath>
 #include <cstdlib>
 #include <limits>

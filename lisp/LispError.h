@@ -66,7 +66,7 @@ private:
 };
 
 // The user pressed Escape, while LISP ran or in answer to a question. Its text is always "cancelled", without
-// a location, so that an *error* function can tell it from other errors.
+// a location, so that an *error* function can distinguish it from other errors.
 class CLispCancelled : public CLispError {
 public:
     CLispCancelled() : CLispError(L"cancelled") { m_needsLocation = false; }

@@ -59,7 +59,7 @@ namespace tavrin::pattern {
 
 class CPatternMatcher {
 public:
-    // Compiles a pattern in place of the one before. Returns an EPatternError, PE_NONE on success.
+    // Compiles a pattern, replacing the previous one. Returns an EPatternError, PE_NONE on success.
     unsigned Parse(const wchar_t* pattern, bool caseSensitive);
 
     // Searches the input for the pattern and fills the context. False if input or context is null, if nothing

@@ -1,6 +1,6 @@
-// Carries out what the controllers ask of a property grid's window.
+// Carries out the actions that the controllers return, in a property grid's window.
 //
-// Custom items, dialogs and the owner that hears of a change may do anything meanwhile: remove rows, destroy
+// Custom items, dialogs and the owner's handler of a change may do anything meanwhile: remove rows, destroy
 // the window. Each action looks its item up anew.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace tavrin::propgrid {
 
-// What the actions ask of the window.
+// The window's functions that actions call.
 class IGridWindow {
 public:
     virtual CWnd& GetWindow() = 0;

@@ -1,4 +1,4 @@
-// The base of the grid's client interface: the state that its parts work on, and what they ask of the window.
+// The base of the grid's client interface: the state that its parts share, and their calls to the window.
 //
 // The interface is one chain of classes, each with a topic of its own: CGridColoring, CGridWording,
 // CGridLook, CGridFilling, CGridRows, CGridValues, and at its end CPropertyGrid, the window.
@@ -26,8 +26,8 @@ protected:
     // gets.
     virtual void Relayout() = 0;
     virtual void RelayoutLater() = 0;
-    // Ends an open editor with its result, before something becomes of its row. Whoever hears of the result
-    // may do anything to the grid.
+    // Ends an open editor with its result, before its row changes. The owner's handler of the result may do
+    // anything to the grid.
     virtual void LeaveEditor() = 0;
     // An item has another value, or another state; reported to assistive technology with the next paint.
     virtual void ValueChanged(Id item) = 0;

@@ -29,7 +29,7 @@ public:
     // unknown or when `value` is null.
     //
     // An item that is not editable is displayed in a colour of its own and opens no editor. An undefined one
-    // displays the grid's undefined text in place of its value, and GetItemValue fails for it; a custom item
+    // displays the grid's undefined text instead of its value, and GetItemValue fails for it; a custom item
     // never is undefined.
     UINT AddItem(UINT section, EItemType kind, const std::wstring& name, const void* value,
                  bool editable = true, bool undefined = false);

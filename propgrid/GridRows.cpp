@@ -2,8 +2,8 @@
 
 namespace tavrin::propgrid {
 
-// The result of an open editor goes to the focused item. Looks for the item again afterwards: whoever hears
-// of the result may have removed it.
+// The result of an open editor goes to the focused item. Looks for the item again afterwards: the owner's
+// handler of the result may have removed it.
 GridItem* CGridRows::LeaveEditorOf(Id item) {
     if (item == m_model.GetFocus().item) {
         LeaveEditor();

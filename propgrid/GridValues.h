@@ -40,7 +40,7 @@ public:
     std::wstring GetItemText(UINT item) const;
 
     // Takes the saved copies of all items anew, so that nothing is modified any more; custom items are
-    // told to accept their values.
+    // notified by ICustomItem::AcceptValue.
     void AcceptValues();
     // False also when no item has that id. A custom item marks its changes itself and never counts.
     bool IsItemModified(UINT item) const;

@@ -99,8 +99,8 @@ void CPropertyGrid::Initialize() {
                       .scrollPosition = 0,
                       .rowHeight = m_fonts.MeasureRowHeight(*this)});
     ModifyStyle(0, WS_CLIPCHILDREN);
-    // A static control lets the mouse through to its dialog unless it notifies, and no placeholder is a
-    // tab stop; a grid in its place wants both mouse and keyboard.
+    // A static control without SS_NOTIFY passes the mouse on to its dialog and is no tab stop. A grid that
+    // replaces one needs both mouse and keyboard.
     wchar_t windowClass[16] = {};
     ::GetClassName(m_hWnd, windowClass, 16);
     if (_wcsicmp(windowClass, L"Static") == 0) {
@@ -179,7 +179,7 @@ void CPropertyGrid::SettleLayout() {
     }
 }
 
-// Tells the layout what the window is like now. The scroll bar is the one that knows the position.
+// Gives the layout the window's current size and scroll position; the scroll bar holds the position.
 void CPropertyGrid::UpdateView() {
     CRect client;
     GetClientRect(&client);
@@ -205,7 +205,7 @@ void CPropertyGrid::OnSize(UINT type, int width, int height) {
     }
 }
 
-LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*place*/) {
+LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*position*/) {
     LeaveEditor();
     return Default();
 }
@@ -218,7 +218,7 @@ void CPropertyGrid::Repaint() {
     }
 }
 
-// The whole window counts as painted, whatever a custom item did to it. Nobody else can have.
+// The whole window counts as painted, whatever a custom item did to it.
 void CPropertyGrid::OnPaint() {
     {
         CPaintDC dc(this);
@@ -256,7 +256,7 @@ bool CPropertyGrid::IsReadyForHitTest() {
     return true;
 }
 
-// Ends an open editor with its result. False when whoever heard of the result took the window away.
+// Ends an open editor with its result. False when the owner's handler of the result destroyed the window.
 bool CPropertyGrid::TakeFocus() {
     SetFocus();
     m_editors.Close();
@@ -546,9 +546,9 @@ LRESULT CPropertyGrid::OnDateChosen(WPARAM /*alsoZero*/, LPARAM /*zero*/) {
     return 0;
 }
 
-// An item that takes no such result deliberately leaves the editor alone. Else the grid lets go of the editor
-// first and destroys it last: the owner's handler, or a custom item's, runs in between and may lead to
-// anything, another editor included.
+// An item that takes no such result deliberately leaves the editor alone. Otherwise the grid takes the editor
+// out of m_editors first and destroys it last: the owner's handler, or a custom item's, runs in between and
+// may re-enter, for example open another editor.
 void CPropertyGrid::TakeResult(const Actions& actions) {
     if (!actions.empty() || m_editors.HasLostItsItem()) {
         const EditorPointer ended = m_editors.Take();

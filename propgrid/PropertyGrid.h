@@ -21,8 +21,8 @@
 // under it, or in a dialog, see EItemType and EEditMode. The grid owns the one editor that may be open; it
 // ends when the grid or another window takes the focus.
 //
-// This class is the window alone: its handlers hand their messages on to the controllers and carry out what
-// these ask.
+// This class is only the window: its handlers pass their messages to the controllers and carry out the
+// actions that these return.
 #pragma once
 
 #include <afxwin.h>
@@ -49,8 +49,8 @@ public:
     CPropertyGrid();
     ~CPropertyGrid() override;
 
-    // Tells the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
-    // their value from a window of their own; all other changes the grid notifies by itself.
+    // Notifies the owner that the user changed an item (WM_GRID_ITEM_CHANGED). For custom items that take
+    // their value from a window of their own; the grid notifies of all other changes.
     void NotifyChanged(UINT item) override;
 
     // The focused row: an item or a section, at most one of the two. Focusing one takes the focus from
@@ -92,7 +92,7 @@ public:
     //   SetDisplayMode                      always
     //   SetSectionCollapsed                 of any section
     //   SetGutterWidth                      for another position
-    //   another size or place of the grid's window, and its end
+    //   another size or position of the grid's window, and its end
     //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
     //
     // ResetContents leaves it open; what it edits is gone then, and its result is dropped when it ends. All
@@ -133,7 +133,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
-    afx_msg LRESULT OnMove(WPARAM zero, LPARAM place);
+    afx_msg LRESULT OnMove(WPARAM zero, LPARAM position);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

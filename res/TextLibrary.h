@@ -5,8 +5,8 @@
 
 namespace tavrin::res {
 
-// Loads texts from TavrinRes.dll. The library is loaded by its bare name at the first text that is
-// asked for and then kept for the life of the process, so an object of this class is a static one.
+// Loads texts from TavrinRes.dll. The library is loaded by its bare name when the first text is requested,
+// and stays loaded for the life of the process; an object of this class is therefore static.
 class CTextLibrary {
 public:
     // Text `id`, at most 255 characters. An empty text when the library cannot be loaded (the next

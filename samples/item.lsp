@@ -10,13 +10,13 @@
 
 (setq item-pi (* 4.0 (atan 1.0)))
 
-; Tells the user why the routine ends. nil.
+; Shows the user why the routine ends. nil.
 (defun item-stop (text)
   (alert text)
   nil)
 
-; What a routine's own *error* is to be. Escape is no mistake; any other error is told, and the file that may
-; have been open at that moment is closed.
+; A routine's own *error* handler. Escape is not an error; any other error is shown, and a file that is still
+; open is closed.
 (defun item-error (text)
   (if item-file
       (close item-file))
@@ -48,7 +48,7 @@
         (setq item-file nil)
         T)))
 
-; The place of the last double quote in a text, 0 when it has none.
+; The position of the last double quote in a text, 0 when it has none.
 (defun item-last-quote (text / at)
   (setq at (strlen text))
   (while (and (> at 0) (/= (substr text at 1) "\""))

@@ -1,12 +1,13 @@
-# Hands and eyes on the X display for the scripts that drive a program, and waiting with a bound: source it.
+# Mouse, keyboard and screenshots on the X display for the scripts that drive a program; waiting with a time
+# limit. To be sourced.
 
-# wait_for SECONDS WHAT COMMAND...: asks again and again until the command succeeds.
+# wait_for SECONDS WHAT COMMAND...: repeats the command until it succeeds or the time is up.
 wait_for() {
     local deadline=$((SECONDS + $1)) what=$2
     shift 2
     until "$@" >/dev/null 2>&1; do
         if [ "$SECONDS" -ge "$deadline" ]; then
-            echo "waited in vain for $what" >&2
+            echo "timed out waiting for $what" >&2
             return 1
         fi
         sleep 0.05
@@ -42,14 +43,14 @@ look() {
 # picture FILE WHAT: waits until $window is painted and keeps the picture.
 picture() { wait_for 20 "$2 to be painted" look "$1"; }
 
-# frame_of WINDOW: where its inside stands on the screen, as WIDTHxHEIGHT+X+Y. (xdotool's place counts the
+# frame_of WINDOW: where its inside stands on the screen, as WIDTHxHEIGHT+X+Y. (xdotool's position counts the
 # window manager's frame twice.)
 frame_of() {
     xwininfo -id "$1" | awk '/Absolute upper-left X:/ { x = $NF } /Absolute upper-left Y:/ { y = $NF }
         /Width:/ { w = $NF } /Height:/ { h = $NF } END { print w "x" h "+" x "+" y }'
 }
 
-# screen_picture FILE WHAT: a picture of what the screen shows in the place of $window, with menus above it.
+# screen_picture FILE WHAT: a screenshot of $window's rectangle, including menus above it.
 screen_picture() {
     wait_for 20 "$2 to be painted" look "$1" root
     convert "$1" -crop "$(frame_of "$window")" +repage -strip -define png:exclude-chunk=date,time "png:$1.new"

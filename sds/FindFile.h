@@ -5,5 +5,5 @@
 #include <string>
 
 // The full path that the host finds for `name` on its search path; nothing when it finds none.
-// The host is told a capacity of 254 characters, so a longer path counts as not found.
+// The host is given a capacity of 254 characters, so a longer path counts as not found.
 std::optional<std::wstring> FindFile(const std::wstring& name);

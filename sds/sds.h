@@ -20,7 +20,7 @@ using HWND = HWND__*;
 #define SDS_API extern "C" __declspec(dllimport)
 #endif
 
-// Status of a call that did what it was asked for.
+// Status of a call that succeeded.
 inline constexpr int RTNORM = 5100;
 
 // Type codes of the values in the host's lists.
@@ -73,7 +73,7 @@ SDS_API int sds_alert(const wchar_t* message);
 SDS_API HWND sds_getmainhwnd(void);
 
 // Looks for a file on the host's search path. On RTNORM `result` holds its full path; the buffer must
-// have room for more than `capacity` characters.
+// hold more than `capacity` characters.
 SDS_API int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity);
 
 // Reads a system variable; on RTNORM `result` holds its value (LUNITS and LUPREC: RTSHORT).
@@ -81,7 +81,7 @@ SDS_API int sds_getvar(const wchar_t* name, sds_resbuf* result);
 
 // A number in the drawing's linear format and back. `units` is a value of LUNITS (1 scientific, 2
 // decimal, 3 engineering, 4 architectural, 5 fractional), `precision` a value of LUPREC or -1 for the
-// drawing's own. `text` must have room for 256 characters.
+// drawing's own. `text` must hold 256 characters.
 SDS_API int sds_rtos(double value, int units, int precision, wchar_t* text);
 SDS_API int sds_distof(const wchar_t* text, int units, double* result);
 

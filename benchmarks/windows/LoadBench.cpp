@@ -1,4 +1,4 @@
-// How large the module's file is and how long it takes to load, beside the largest library that it needs.
+// The size of the module's file and the time to load it, compared with the largest library that it imports.
 #include <windows.h>
 
 #include <filesystem>
@@ -34,6 +34,6 @@ int main() {
     PrintRow({"module", "size of TavrinWnd.dll", "", SizeOf(module), "KB", "gdiplus.dll", SizeOf(peer), 0});
     const std::vector<double> times = MedianTurns(
         {{{}, [&] { LoadAndFree(module.c_str()); }}, {{}, [&] { LoadAndFree(peer.c_str()); }}}, 31);
-    PrintRow({"module", "loading it, with what it needs", "", times[0], "ns", "gdiplus.dll", times[1], 0});
+    PrintRow({"module", "loading it and its imports", "", times[0], "ns", "gdiplus.dll", times[1], 0});
     return 0;
 }

@@ -1,5 +1,5 @@
-// Tells when a dialog has been painted whole: a window of the whole screen that owns the dialog. Paints come
-// from the front to the back, so the owner's own, asked for when the dialog shows, comes last.
+// Detects when a dialog has been painted completely: a full-screen window that owns the dialog. Windows sends
+// WM_PAINT from the front window to the back, so the owner's, requested when the dialog shows, comes last.
 #pragma once
 
 #include <windows.h>

@@ -58,8 +58,8 @@ bool CGuardArena::Reserve() {
     return m_base != nullptr;
 }
 
-// The first of `pages` free pages in a row. The search cycles through the arena, so that pages are reused as
-// late as possible.
+// The first of `pages` consecutive free pages. The search cycles through the arena, so that pages are reused
+// as late as possible.
 std::size_t CGuardArena::FindRun(std::size_t pages) {
     std::size_t run = 0;
     std::size_t page = m_cursor;
@@ -93,8 +93,8 @@ unsigned char* CGuardArena::PageAt(std::size_t page) const {
 // guard page.
 unsigned char* CGuardArena::DataOf(std::size_t page) const {
     const Record& record = m_records[page];
-    const std::size_t room = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
-    return PageAt(page + record.pages) - room;
+    const std::size_t size = RoundUp(std::max<std::size_t>(1, record.block.size), kBlockAlignment);
+    return PageAt(page + record.pages) - size;
 }
 
 const CGuardArena::Record* CGuardArena::RecordAt(const void* address) const {

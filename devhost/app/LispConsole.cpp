@@ -13,7 +13,7 @@ lisp::LispAnswer CLispConsole::TypedAnswer(const std::wstring& text, std::option
     lisp::LispAnswer answer;
     answer.kind = lisp::ANSWER_TEXT;
     answer.text = text;
-    // A length alone is a distance where one is asked for, and otherwise a point on the rubber band.
+    // A number alone is the distance in a question for one, and otherwise a point on the rubber band.
     const bool mayBePoint =
         question == lisp::Q_POINT || (question == lisp::Q_DISTANCE && text.find(L',') != std::wstring::npos);
     const auto point = mayBePoint ? ParsePoint(text, base, m_window.MousePoint()) : std::nullopt;

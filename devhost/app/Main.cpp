@@ -2,8 +2,11 @@
 // did not free.
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,6 +20,7 @@
 #include "devhost/app/LispConsole.h"
 #include "devhost/app/PlugIn.h"
 #include "devhost/app/Session.h"
+#include "devhost/app/TextModules.h"
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
 #include "devhost/options/Options.h"
@@ -37,12 +41,16 @@ std::wstring ProgramFolder() {
     return path.substr(0, path.find_last_of(L'\\'));
 }
 
+std::vector<std::wstring> ItemFolders(const Options& options) {
+    if (options.itemFolders.empty() && IsFolder(ProgramFolder() + L"\\samples")) {
+        return {ProgramFolder() + L"\\samples"};
+    }
+    return options.itemFolders;
+}
+
 // Finds the items of all folders and adds them to the search path: first each item's folder, then their
 // parent.
-std::vector<Item> TakeItems(std::vector<std::wstring> folders, CSearchPath& searchPath) {
-    if (folders.empty() && IsFolder(ProgramFolder() + L"\\samples")) {
-        folders.push_back(ProgramFolder() + L"\\samples");
-    }
+std::vector<Item> TakeItems(const std::vector<std::wstring>& folders, CSearchPath& searchPath) {
     std::vector<Item> items;
     for (const std::wstring& folder : folders) {
         for (const Item& item : FindItems(folder)) {
@@ -138,12 +146,71 @@ void OfferItems(const std::vector<Item>& items, CSession& session, CMainWindow& 
     window.SetItems(names, [&session, names](std::size_t index) { session.RunItem(names[index]); });
 }
 
-void Reload(CPlugIn& plugIn, CTextOutput& output) {
+void Reload(CPlugIn& plugIn, CTextOutput& output, const std::function<void()>& changeTexts) {
     try {
-        plugIn.Reload();
+        plugIn.Reload(changeTexts);
         output.Line(L"; the plug-in has been loaded again");
     } catch (const CUserError& error) {
         output.Error(error.Text());
+    }
+}
+
+// The folders of texts that belong to the items.
+std::vector<std::wstring> TextFolders(const std::vector<std::wstring>& itemFolders) {
+    std::vector<std::wstring> folders;
+    for (const std::wstring& folder : itemFolders) {
+        folders.push_back(FullPath(folder + L"\\texts"));
+    }
+    return folders;
+}
+
+// Without the option the texts that an author keeps with the items come first, otherwise the system's choice.
+void ChooseTexts(const Options& options, const std::vector<std::wstring>& itemFolders, CChosenTexts& texts,
+                 CTextOutput& output) {
+    if (!options.texts.empty()) {
+        texts.Use(options.texts);
+        return;
+    }
+    const std::vector<TextModule> modules = FindTextModules(L"", TextFolders(itemFolders));
+    try {
+        if (!modules.empty()) {
+            texts.Use(modules[IndexOfUserLanguage(modules)].path);
+        }
+    } catch (const CUserError& error) {
+        output.Error(error.Text());
+    }
+}
+
+void OfferLanguages(const std::vector<std::wstring>& itemFolders, CChosenTexts& texts, CPlugIn& plugIn,
+                    CTextOutput& output, CMainWindow& window) {
+    std::vector<std::wstring> folders = TextFolders(itemFolders);
+    folders.push_back(ProgramFolder());
+    const std::vector<TextModule> modules = FindTextModules(texts.Path(), folders);
+    std::vector<std::wstring> titles;
+    for (const TextModule& module : modules) {
+        titles.push_back(module.title);
+    }
+    window.SetLanguages(titles, [=, &texts, &plugIn, &output, &window](std::size_t index) {
+        Reload(plugIn, output, [&] {
+            texts.Use(modules[index].path);
+            output.Line(L"; texts: " + modules[index].path);
+        });
+        window.SetLanguage(IndexOfPath(modules, texts.Path()));
+    });
+    // What the system finds first is beside the program.
+    window.SetLanguage(
+        IndexOfPath(modules, texts.Path().empty() ? ProgramFolder() + L"\\TavrinRes.dll" : texts.Path()));
+}
+
+// The start page of the documentation is in the archive that users unpack, beside the program.
+void OpenDocumentation(CTextOutput& output) {
+    const std::wstring page = ProgramFolder() + L"\\README.html";
+    if (!IsFile(page)) {
+        output.Error(L"the documentation '" + page +
+                     L"' does not exist: it comes with the archive for users");
+    } else if (reinterpret_cast<INT_PTR>(
+                   ShellExecuteW(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) <= 32) {
+        output.Error(L"no program opens '" + page + L"': open it in a browser");
     }
 }
 
@@ -162,7 +229,8 @@ int Run(const Options& options, CTextOutput& output) {
         tasks.push_back(Prepare(task));
     }
     CSearchPath searchPath(options.searchFolders);
-    const std::vector<Item> items = TakeItems(options.itemFolders, searchPath);
+    const std::vector<std::wstring> itemFolders = ItemFolders(options);
+    const std::vector<Item> items = TakeItems(itemFolders, searchPath);
     const std::wstring drawingPath = options.drawingFile.empty() ? L"" : DrawingPath(options.drawingFile);
     const std::wstring folder = ProgramFolder();
 
@@ -175,6 +243,8 @@ int Run(const Options& options, CTextOutput& output) {
     DefineDrawFunctions(evaluator, drawing);
     DefineFit(evaluator, window);
     CHost host(window, output, searchPath, variables, evaluator);
+    CChosenTexts texts;
+    ChooseTexts(options, itemFolders, texts, output);
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
     CSession session(evaluator, output, window);
 
@@ -182,7 +252,9 @@ int Run(const Options& options, CTextOutput& output) {
     ShareFormat(variables, window);
     OfferItems(items, session, window);
     window.SetPasteHandler(lisp::OnOneLine);
-    window.SetReloadHandler([&] { Reload(plugIn, output); });
+    OfferLanguages(itemFolders, texts, plugIn, output, window);
+    window.SetReloadHandler([&] { Reload(plugIn, output, [&] { texts.Reload(); }); });
+    window.SetHelpHandler([&] { OpenDocumentation(output); });
     window.Show();
     const int status = session.RunTasks(tasks);
     if (tasks.empty() || options.stay) {

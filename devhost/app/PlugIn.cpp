@@ -71,17 +71,19 @@ CPlugIn::~CPlugIn() {
     }
 }
 
-void CPlugIn::Reload() {
-    // An error of unloading is reported after loading.
-    std::optional<CUserError> unloadError;
-    try {
-        Unload();
-    } catch (const CUserError& error) {
-        unloadError = error;
+void CPlugIn::Reload(const std::function<void()>& whileUnloaded) {
+    // The first error is reported after loading.
+    std::optional<CUserError> firstError;
+    for (const std::function<void()>& step : {std::function<void()>([this] { Unload(); }), whileUnloaded}) {
+        try {
+            step();
+        } catch (const CUserError& error) {
+            firstError = firstError ? firstError : error;
+        }
     }
     Load();
-    if (unloadError) {
-        throw *unloadError;
+    if (firstError) {
+        throw *firstError;
     }
 }
 

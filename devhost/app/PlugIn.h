@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "devhost/app/Host.h"
@@ -18,9 +19,10 @@ public:
     CPlugIn(const CPlugIn&) = delete;
     CPlugIn& operator=(const CPlugIn&) = delete;
 
-    // Unloads it, if it is loaded, and loads the file again. Throws CUserError when either fails; after a
-    // failed load no plug-in is loaded until the next try.
-    void Reload();
+    // Unloads it, if it is loaded, calls `whileUnloaded`, which may throw CUserError, and loads the file
+    // again. Throws CUserError when one of the three fails; after a failed load no plug-in is loaded until
+    // the next try.
+    void Reload(const std::function<void()>& whileUnloaded = [] {});
 
     // Sends the unload request and unloads the library. Throws CUserError when the plug-in refuses or leaves
     // functions defined; it is unloaded nevertheless. Does nothing when it is not loaded.

@@ -52,11 +52,11 @@ std::optional<LineEntity> Clip(const LineEntity& line, const Box& box) {
     // The line is from + t * (dx, dy); each side of the box leaves a part of the t between 0 and 1.
     double enter = 0;
     double leave = 1;
-    const auto keep = [&](double step, double room) {
+    const auto keep = [&](double step, double distance) {
         if (step == 0) {
-            return room >= 0;
+            return distance >= 0;
         }
-        const double t = room / step;
+        const double t = distance / step;
         if (step > 0) {
             leave = std::min(leave, t);
         } else {

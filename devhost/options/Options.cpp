@@ -40,6 +40,7 @@ Options ParseOptions(std::span<const std::wstring> arguments) {
     commandLine.AddOption("--plugin", "TavrinWnd.dll", Into(options.plugIn));
     commandLine.AddOption("--search", "C:\\Items", Into(options.searchFolders));
     commandLine.AddOption("--items", "samples", Into(options.itemFolders));
+    commandLine.AddOption("--texts", "en\\TavrinRes.dll", Into(options.texts));
     commandLine.AddNumber("--lunits", 4, {units::LU_SCIENTIFIC, units::LU_FRACTIONAL}, options.lunits);
     commandLine.AddNumber("--luprec", 2, {0, units::kMaxLinearPrecision}, options.luprec);
     commandLine.AddOption("--script", "door.lsp", Into(options.tasks, true));
@@ -68,6 +69,8 @@ const wchar_t* HelpText() {
   --plugin FILE   the plug-in to load (default: TavrinWnd.dll beside DevHost.exe)
   --search DIR    search files in DIR before the current folder; repeatable, in order
   --items DIR     a folder of items, DIR\NAME\NAME.lsp; repeatable (default: samples beside DevHost.exe)
+  --texts FILE    the TavrinRes.dll with titles and labels (default: from the folder texts of the items, otherwise
+                  the one that the system finds, such as that beside DevHost.exe)
   --lunits N      LUNITS: 1 scientific, 2 decimal (default), 3 engineering, 4 architectural, 5 fractional
   --luprec N      LUPREC, 0 to 8: decimal places, or the exponent of the largest denominator (default: 4)
   --script FILE   run the LISP file, print only its own output, and exit; repeatable
@@ -78,15 +81,15 @@ const wchar_t* HelpText() {
   --version       print the version
   -h, --help      print this help
 
-Scripts and expressions run in the order given. Without any, and with --stay, DevHost stays open; its prompt
+Scripts and expressions run in the order given. With none of them, or with --stay, DevHost stays open; its prompt
 accepts LISP calls such as (tavrinwnd "door" 1.0 1).
 
 Values are printed in LISP notation, or "; no result". The first failure ends the run: a LISP error, an error that
-the plug-in reports, a call that cannot be made. After unloading the plug-in, DevHost counts the blocks of the
-host's heap that it has not freed.
+the plug-in reports, or a call that cannot be made. After unloading the plug-in, DevHost reports the memory blocks
+that the plug-in has not freed.
 
 Exit status: 0 success; 1 failure, or the plug-in has not freed all memory; 3 the plug-in or DevHost crashed;
-4 the checking allocator detected heap misuse; any other as (exit N) says.
+4 the checking allocator detected heap misuse; N after a call of (exit N).
 )";
 }
 

@@ -23,6 +23,7 @@ struct Options {
     std::wstring plugIn;  // empty: TavrinWnd.dll beside the executable
     std::vector<std::wstring> searchFolders;
     std::vector<std::wstring> itemFolders;  // empty: samples beside the executable, if there is such a folder
+    std::wstring texts;                     // empty: those of the items, or what the system finds
     std::vector<Task> tasks;                // in the order given
     std::wstring drawingFile;               // empty: the drawing is not kept
     int lunits = units::LU_DECIMAL;

@@ -10,12 +10,14 @@ enum ECommand {
     IDM_FIT,
     IDM_SNAP,
     IDM_CLEAR,
+    IDM_HELP,
     IDM_ABOUT,
     IDM_EXIT,
     IDM_OPEN_UNITS,
     IDM_OPEN_PRECISION,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
+    IDM_LANGUAGE = 400,   // plus the language's index
     IDM_ITEM = 1000,      // plus the item's index
 };
 

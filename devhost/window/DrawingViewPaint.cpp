@@ -1,4 +1,4 @@
-// Painting of the drawing area: the cached drawing, and above it what moves with the mouse.
+// Painting of the drawing area: the cached drawing, and over it the marks that move with the mouse.
 #include <algorithm>
 #include <cmath>
 
@@ -118,7 +118,7 @@ void CDrawingView::PaintFocus(HDC dc, const RECT& client) const {
 }
 
 POINT CDrawingView::ToPixel(Point point) const {
-    // Such points are invisible, and larger coordinates overflow in GDI.
+    // Clamped: points this far away are invisible, and larger coordinates overflow in GDI.
     constexpr double kFar = 1e6;
     const Point pixel = m_view.ToPixel(point);
     return Rounded({std::clamp(pixel.x, -kFar, kFar), std::clamp(pixel.y, -kFar, kFar)});

@@ -13,7 +13,7 @@ ACCEL kKeys[] = {
     {FVIRTKEY, VK_F5, IDM_RELOAD},
     {FVIRTKEY, VK_F3, IDM_SNAP},
     {FVIRTKEY | FCONTROL, '0', IDM_FIT},
-    {FVIRTKEY, VK_F1, IDM_ABOUT},
+    {FVIRTKEY, VK_F1, IDM_HELP},
     {FVIRTKEY | FCONTROL, '1', IDM_ITEM},
     {FVIRTKEY | FCONTROL, '2', IDM_ITEM + 1},
     {FVIRTKEY | FCONTROL, '3', IDM_ITEM + 2},
@@ -33,6 +33,12 @@ void AddPopup(HMENU menu, HMENU popup, const wchar_t* title) {
 wchar_t UpperCase(wchar_t letter) {
     CharUpperBuffW(&letter, 1);
     return letter;
+}
+
+void Clear(HMENU menu) {
+    while (GetMenuItemCount(menu) > 0) {
+        RemoveMenu(menu, 0, MF_BYPOSITION);
+    }
 }
 
 // Doubles ampersands, which would underline the next letter.
@@ -63,11 +69,13 @@ std::wstring WithMnemonic(const std::wstring& title, std::wstring& taken) {
 CMainMenu::CMainMenu(HWND window)
     : m_menu(CreateMenu()),
       m_items(CreatePopupMenu()),
+      m_languages(CreatePopupMenu()),
       m_keys(CreateAcceleratorTableW(kKeys, int(std::size(kKeys)))) {
     AddPopup(m_menu, m_items, L"&Items");
     const HMENU plugIn = CreatePopupMenu();
     AppendMenuW(plugIn, MF_STRING, IDM_RELOAD, L"&Reload\tF5");
     AddPopup(m_menu, plugIn, L"&Plug-in");
+    AddPopup(m_menu, m_languages, L"&Language");
     const HMENU view = CreatePopupMenu();
     AppendMenuW(view, MF_STRING, IDM_FIT, L"&Fit\tCtrl+0");
     AppendMenuW(view, MF_STRING, IDM_SNAP, L"&Snap to end points\tF3");
@@ -77,16 +85,16 @@ CMainMenu::CMainMenu(HWND window)
     AppendMenuW(view, MF_STRING, IDM_CLEAR, L"&Clear drawing");
     AddPopup(m_menu, view, L"&View");
     const HMENU help = CreatePopupMenu();
-    AppendMenuW(help, MF_STRING, IDM_ABOUT, L"&About DevHost\tF1");
+    AppendMenuW(help, MF_STRING, IDM_HELP, L"&Documentation\tF1");
+    AppendMenuW(help, MF_STRING, IDM_ABOUT, L"&About DevHost");
     AddPopup(m_menu, help, L"&Help");
     SetItems({});
+    SetLanguages({});
     SetMenu(window, m_menu);
 }
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
-    while (GetMenuItemCount(m_items) > 0) {
-        RemoveMenu(m_items, 0, MF_BYPOSITION);
-    }
+    Clear(m_items);
     std::wstring taken = L"X";  // Exit's
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const std::wstring text = i < kItemKeys ? Shown(titles[i]) + L"\tCtrl+" + std::to_wstring(i + 1)
@@ -101,12 +109,31 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     m_itemCount = titles.size();
 }
 
+void CMainMenu::SetLanguages(const std::vector<std::wstring>& titles) {
+    Clear(m_languages);
+    std::wstring taken;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        AppendMenuW(m_languages, MF_STRING, IDM_LANGUAGE + i, WithMnemonic(titles[i], taken).c_str());
+    }
+    if (titles.empty()) {
+        AppendMenuW(m_languages, MF_STRING | MF_GRAYED, 0, L"No TavrinRes.dll found");
+    }
+    m_languageCount = titles.size();
+}
+
 void CMainMenu::Update(const MenuState& state) const {
     const auto enable = [&](UINT command, bool enabled) {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
     for (std::size_t i = 0; i < m_itemCount; ++i) {
         enable(UINT(IDM_ITEM + i), state.isIdle);
+    }
+    for (std::size_t i = 0; i < m_languageCount; ++i) {
+        enable(UINT(IDM_LANGUAGE + i), state.isIdle);
+    }
+    if (state.language) {
+        CheckMenuRadioItem(m_languages, IDM_LANGUAGE, UINT(IDM_LANGUAGE + m_languageCount - 1),
+                           UINT(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
     }
     enable(IDM_EXIT, state.isIdle);
     enable(IDM_RELOAD, state.isIdle && state.canReload);

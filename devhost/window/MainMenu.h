@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@ struct MenuState {
     bool canReload = false;
     bool hasDrawing = false;
     bool hasSnap = false;
+    std::optional<std::size_t> language;  // the index of the current one
 };
 
 class CMainMenu {
@@ -24,6 +26,9 @@ public:
 
     // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9, the others mnemonics.
     void SetItems(const std::vector<std::wstring>& titles);
+
+    // The entries of the menu Language.
+    void SetLanguages(const std::vector<std::wstring>& titles);
 
     // To be called before the menu opens and before TranslateAccelerator, which ignores disabled commands:
     // enables and disables the commands.
@@ -39,7 +44,9 @@ private:
 
     HMENU m_menu;
     HMENU m_items;
+    HMENU m_languages;
     std::size_t m_itemCount = 0;
+    std::size_t m_languageCount = 0;
     std::unique_ptr<HACCEL, KeysDeleter> m_keys;
 };
 

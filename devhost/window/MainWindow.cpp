@@ -96,6 +96,13 @@ void CMainWindow::SetItems(const std::vector<std::wstring>& titles, std::functio
     m_menu->SetItems(titles);
 }
 
+void CMainWindow::SetLanguages(const std::vector<std::wstring>& titles,
+                               std::function<void(std::size_t)> onLanguage) {
+    m_languageCount = titles.size();
+    m_onLanguage = std::move(onLanguage);
+    m_menu->SetLanguages(titles);
+}
+
 void CMainWindow::SetReloadHandler(std::function<void()> onReload) {
     m_onReload = std::move(onReload);
 }
@@ -216,6 +223,8 @@ void CMainWindow::OnCommand(int command) {
         m_status->OpenUnitsMenu();
     } else if (command == IDM_OPEN_PRECISION) {
         m_status->OpenPrecisionMenu();
+    } else if (command == IDM_HELP) {
+        ShowHelp();
     } else if (!IsIdle()) {
         MessageBeep(MB_ICONWARNING);
     } else if (command == IDM_RELOAD && m_onReload) {
@@ -228,12 +237,20 @@ void CMainWindow::OnCommand(int command) {
         OnClose();
     } else if (command >= IDM_ITEM) {
         OnItem(std::size_t(command - IDM_ITEM));
+    } else if (command >= IDM_LANGUAGE) {
+        OnLanguage(std::size_t(command - IDM_LANGUAGE));
     }
 }
 
 void CMainWindow::OnItem(std::size_t index) {
     if (index < m_itemCount && m_onItem) {
         m_onItem(index);
+    }
+}
+
+void CMainWindow::OnLanguage(std::size_t index) {
+    if (index < m_languageCount && m_onLanguage) {
+        m_onLanguage(index);
     }
 }
 
@@ -249,6 +266,12 @@ void CMainWindow::ClearDrawing() {
     m_shown.Clear();
 }
 
+void CMainWindow::ShowHelp() {
+    if (m_onHelp) {
+        m_onHelp();
+    }
+}
+
 void CMainWindow::ShowAbout() {
     const std::wstring text = kTitle + (L"\n\n" + ProgramVersion());
     MessageBoxW(m_window, text.c_str(), L"About DevHost", MB_OK | MB_ICONINFORMATION);
@@ -260,6 +283,7 @@ void CMainWindow::UpdateMenu() {
     state.canReload = m_onReload != nullptr;
     state.hasDrawing = !m_shown.Entities().empty();
     state.hasSnap = m_drawing->HasSnap();
+    state.language = m_language;
     m_menu->Update(state);
 }
 

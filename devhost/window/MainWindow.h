@@ -61,8 +61,15 @@ public:
     void SetPasteHandler(JoinLines join) { m_joinLines = std::move(join); }
     // The entries of the menu Items, and the handler, which gets the index of the chosen one.
     void SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem);
+    // The entries of the menu Language, and the handler, which gets the index of the chosen one.
+    void SetLanguages(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onLanguage);
+    // The entry of the menu Language that is marked; nothing initially.
+    void SetLanguage(std::optional<std::size_t> index) { m_language = index; }
     // The handler of Plug-in > Reload, which is disabled without one.
     void SetReloadHandler(std::function<void()> onReload);
+
+    // The handler of Help > Documentation, which may come at any time.
+    void SetHelpHandler(std::function<void()> onHelp) { m_onHelp = std::move(onHelp); }
 
     // The unit format of the status line, as values of LUNITS and LUPREC; initially 2 and 4.
     void SetFormat(int lunits, int luprec);
@@ -99,8 +106,10 @@ private:
     void OnClose();
     void OnCommand(int command);
     void OnItem(std::size_t index);
+    void OnLanguage(std::size_t index);
     void ChooseFormat(int lunits, int luprec);
     void ClearDrawing();
+    void ShowHelp();
     void ShowAbout();
     void UpdateMenu();
     // Sets the focus to the prompt, or to the drawing while the prompt is disabled.
@@ -150,8 +159,12 @@ private:
     JoinLines m_joinLines;
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
+    std::function<void()> m_onHelp;
     std::function<void(int, int)> m_onFormat;
+    std::function<void(std::size_t)> m_onLanguage;
     std::size_t m_itemCount = 0;
+    std::size_t m_languageCount = 0;
+    std::optional<std::size_t> m_language;
 
     int m_busy = 0;  // nesting level
     bool m_isEscapePressed = false;

@@ -124,9 +124,10 @@ void CMainWindow::Layout() {
 RECT CMainWindow::Splitter() const {
     RECT client;
     GetClientRect(m_window, &client);
-    const int room = client.bottom - m_status->Height() - m_scale(kPromptHeight) - m_scale(kSplitterHeight);
-    const int output = std::min(m_outputHeight, std::max(room - m_scale(kLeastDrawing), 0));
-    const int top = std::max(room - output, 0);
+    const int available =
+        client.bottom - m_status->Height() - m_scale(kPromptHeight) - m_scale(kSplitterHeight);
+    const int output = std::min(m_outputHeight, std::max(available - m_scale(kLeastDrawing), 0));
+    const int top = std::max(available - output, 0);
     return {0, top, client.right, top + m_scale(kSplitterHeight)};
 }
 

@@ -12,8 +12,8 @@ namespace devhost {
 // Joins several lines.
 using JoinLines = std::function<std::wstring(std::wstring_view)>;
 
-// Makes the edit control join the lines of a pasted text with `join`; by itself it would paste only the first
-// line. `join`, which may be empty, must outlive the control.
+// Makes the edit control join the lines of a pasted text with `join`; without this it would paste only the
+// first line. `join`, which may be empty, must outlive the control.
 void JoinPastedLines(HWND edit, const JoinLines& join);
 
 }  // namespace devhost

@@ -1,8 +1,8 @@
-// What input asks the window to do. The controllers change the model and the layout themselves and return the
-// rest as a list of actions, which the window carries out in their order.
+// What the window has to do after input. The controllers change the model and the layout themselves and
+// return the rest as a list of actions, which the window carries out in order.
 //
 // Actions name items by their ids: carrying one out may run the client's code, which may remove rows. An
-// action whose item is gone by its turn is dropped.
+// action whose item no longer exists is skipped.
 #pragma once
 
 #include <string>
@@ -72,15 +72,15 @@ struct EditInDialog {
     Id item;
 };
 
-// Gives a custom item the text of its edit, which the user typed or left as it was: calls
-// ICustomItem::SetStringValue, and notifies when that is true.
+// Passes the text of its edit to a custom item; `typed` when the user changed it. Calls
+// ICustomItem::SetStringValue, and notifies the owner when that returns true.
 struct GiveText {
     Id item;
     std::wstring text;
     bool typed;
 };
 
-// Tells the owner that the user changed the item. Sent even when the item is gone by then.
+// Notifies the owner that the user changed the item. Sent even when the item no longer exists.
 struct Notify {
     Id item;
 };

@@ -47,8 +47,8 @@ Actions CKeyController::TypeCharacter(wchar_t character) {
     }
 }
 
-// Scrolls when the row is not visible in full. The thumb deliberately goes to the row's place in the window,
-// not to its place in the list: in a list that is scrolled far the row may stay out of sight.
+// Scrolls when the row is not visible in full. The thumb deliberately goes to the row's position in the
+// window, not to its position in the list: in a list that is scrolled far the row may stay out of sight.
 Actions CKeyController::FocusRow(const RowId& row, const ScrollState& scroll) {
     if (row == RowId()) {
         return {};

@@ -7,7 +7,7 @@
 
 namespace tavrin::propgrid {
 
-// The text over the browser's tree: one for the whole module, "Choose a directory" until somebody writes
+// The text over the browser's tree: one for the whole module, "Choose a directory" until client code writes
 // another one here.
 std::wstring& FolderBrowseTitle();
 

@@ -1,8 +1,8 @@
 // The one editor that may be open in a property grid: a text edit, a list or a calendar.
 //
 // It ends in one of two ways. An editor that has a result sends the grid its message (GridMessages.h); the
-// grid takes it out of here with Take and lets it go when the result is dealt with. Or the grid closes it. An
-// editor that closed by itself without a result leaves its object here, which the next Close frees.
+// grid takes it out of here with Take and frees it when the result is handled. Or the grid closes it. An
+// editor that closed on its own without a result leaves its object here, which the next Close frees.
 #pragma once
 
 #include <afxwin.h>
@@ -40,7 +40,7 @@ public:
     void OpenList(const GridItem& item, const Rect& cell);
     void OpenCalendar(const DateValue& date, const Rect& cell);
 
-    // Closes what is open. The grid has let go of the editor by then.
+    // Closes what is open. The grid no longer owns the editor by then.
     void Close() { Take(); }
     EditorPointer Take() { return std::move(m_editor); }
 

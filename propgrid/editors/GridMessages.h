@@ -1,5 +1,5 @@
-// The window messages of the property grid: its notification to the outside, and what the editors that it
-// opens tell it. All are sent synchronously; their numbers are fixed.
+// The window messages of the property grid: its notification to its owner, and those that its editors send
+// to it. All are sent synchronously; their numbers are fixed.
 //
 // An editor sends its message to its owner window, to its parent when it has no owner: to the grid. The
 // grid may destroy the editor's window and delete its object before the message returns.

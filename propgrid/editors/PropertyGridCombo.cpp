@@ -39,10 +39,10 @@ constexpr std::size_t kLongestDrawnText = 8192;
 }  // namespace
 
 BOOL CPropertyGridCombo::Create(DWORD style, const RECT& rect, CWnd* grid, UINT id) {
-    CRect place(rect);
-    grid->ClientToScreen(&place);
+    CRect screenRect(rect);
+    grid->ClientToScreen(&screenRect);
     // With the grid's WS_CHILD it is deliberately a child and a pop-up at the same time.
-    if (!CreateEx(0, AfxRegisterWndClass(CS_VREDRAW | CS_HREDRAW), nullptr, style | WS_POPUP, place,
+    if (!CreateEx(0, AfxRegisterWndClass(CS_VREDRAW | CS_HREDRAW), nullptr, style | WS_POPUP, screenRect,
                   grid->GetParent(), id)) {
         return FALSE;
     }
@@ -180,7 +180,7 @@ void CPropertyGridCombo::OnKeyDown(UINT key, UINT repeat, UINT flags) {
             Select(m_contents.selection < GetLast() ? m_contents.selection + 1 : GetLast());
             break;
         case VK_RETURN:
-        case VK_EXECUTE:  // deliberately: some keyboards have it in Enter's place
+        case VK_EXECUTE:  // deliberately: some keyboards send it for Enter
             ReportChoice();
             break;
         case VK_ESCAPE:

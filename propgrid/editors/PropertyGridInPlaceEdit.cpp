@@ -52,7 +52,7 @@ CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWO
     }
     SetColors(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT));
     SendMessage(WM_SETFONT, static_cast<WPARAM>(parent->SendMessage(WM_GETFONT)), TRUE);
-    // An edit takes some 30 000 typed characters unless told otherwise; values may be longer.
+    // The default limit of an edit is about 30 000 typed characters; values may be longer.
     LimitText(0);
     SetWindowText(m_initialText.c_str());
     GetWindowText(m_shownText);
@@ -126,7 +126,7 @@ void CPropertyGridInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     }
 }
 
-// The rows are what scrolls. An edit of one line would hand the wheel on by itself on Windows, but not under
+// The wheel scrolls the rows. On Windows a single-line edit passes the wheel on to its parent, but not under
 // Wine.
 BOOL CPropertyGridInPlaceEdit::OnMouseWheel(UINT flags, short delta, CPoint point) {
     const auto turn = MAKEWPARAM(flags, static_cast<WORD>(delta));

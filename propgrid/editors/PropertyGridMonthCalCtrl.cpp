@@ -37,7 +37,7 @@ void CPropertyGridMonthCalCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
             DestroyWindow();
             break;
         case VK_RETURN:
-        case VK_EXECUTE:  // deliberately: some keyboards have it in Enter's place
+        case VK_EXECUTE:  // deliberately: some keyboards send it for Enter
             ReportDate();
             break;
         default:
@@ -50,8 +50,8 @@ void CPropertyGridMonthCalCtrl::OnKillFocus(CWnd* newFocus) {
     LoseFocusTo(newFocus);
 }
 
-// The calendar's own edit of the year may take the focus, and then has to be watched in its place; whatever
-// else takes it closes the calendar.
+// The calendar's own edit of the year may take the focus, and must then be watched instead of the
+// calendar. The calendar closes when any other window takes the focus.
 void CPropertyGridMonthCalCtrl::LoseFocusTo(CWnd* window) {
     if (!IsOwnChild(window)) {
         DestroyWindow();

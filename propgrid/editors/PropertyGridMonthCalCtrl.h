@@ -38,7 +38,7 @@ private:
         return tavrin::memory::FenceMemory(
             [&] { return CMonthCalCtrl::WindowProc(message, wParam, lParam); });
     }
-    // The edit that the calendar opens when its year is clicked: a child that has the focus in its place.
+    // The edit that the calendar opens when its year is clicked: a child that has the focus instead of it.
     class CYearEdit : public CWnd {
     public:
         explicit CYearEdit(CPropertyGridMonthCalCtrl& calendar) : m_calendar(calendar) {}

@@ -30,7 +30,7 @@ struct RowList {
     int gutter = 0;
     std::uint32_t rows = 0;  // those behind them were added since and never painted
     bool sorted = false;     // all items by name, not those of one section
-    Id buttonItem = kNoId;   // the item with room for an edit button beside its value
+    Id buttonItem = kNoId;   // the item with an edit button beside its value
 
     Rect GetRow(std::uint32_t row) const;
     // The row at the upper edge of the window, or behind the last one.

@@ -30,8 +30,8 @@ struct GridItem {
     // The section's list of editable rows follows.
     void SetEditable(bool newEditable);
 
-    // Takes the saved copy of the value and of the undefined flag; a custom item is told to accept its value,
-    // which is its own to compare.
+    // Takes the saved copy of the value and of the undefined flag. For a custom item, which compares its
+    // value itself, calls AcceptValue.
     void TakeSavedCopy();
 
     // Whether the value differs from the saved copy. Never for a custom item.

@@ -1,8 +1,8 @@
-// What the property grid asks of an item whose value, drawing and editing are its own affair.
+// The interface of an item that stores, draws and edits its value itself.
 //
 // All rectangles and points are in client coordinates of the grid, in pixels. The framework's classes are
-// only named here, so that the parts of the grid without windows can hold custom items; whoever implements
-// one includes the framework.
+// only declared here, so that the parts of the grid without windows can hold custom items; an implementation
+// includes the framework.
 #pragma once
 
 #include <string>
@@ -21,7 +21,7 @@ class CPropertyGrid;
 // item: its creator owns it and keeps it alive for as long as the grid holds the row.
 //
 // The order of the virtual operations is part of the interface and stays as it is; for that reason, and
-// because nobody deletes through this interface, there is no virtual destructor.
+// because nothing is deleted through this interface, there is no virtual destructor.
 class ICustomItem {
 public:
     // One of EEditMode; asked whenever the grid needs it.

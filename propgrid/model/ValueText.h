@@ -26,8 +26,8 @@ protected:
 // The text of the value column: the undefined text while the item is undefined, else the value as its kind
 // displays it. Paths are not shortened here. Empty for a custom item, which draws itself.
 //
-// An Integer is formatted as by swprintf with an int, a Double with a double. It is the client's contract
-// that its format asks for exactly that: nothing checks it.
+// An Integer is formatted as by swprintf with an int, a Double with a double. The client must give a format
+// for exactly that argument: nothing checks it.
 std::wstring GetValueText(const GridItem& item, const GridTexts& texts, const ISystemText& system);
 
 // The text that the in-place edit opens with: deliberately not in the item's display format, and empty for a

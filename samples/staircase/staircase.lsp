@@ -63,7 +63,7 @@
 (defun staircase-run (values risers)
   (* (1- risers) (item-of values 3)))
 
-; The landing along the first flight. A quarter turn needs room for the second flight's width.
+; The landing along the first flight. A quarter turn needs space for the second flight's width.
 (defun staircase-landing (variant values)
   (if (= variant "quarter")
       (max (item-of values 6) (item-of values 4))

@@ -199,7 +199,7 @@
             (atan drop half) (- item-pi (atan drop half)))
   (item-line origin (- (* 0.5 (item-of values 1)) half) spring (+ (* 0.5 (item-of values 1)) half) spring))
 
-; A sash with its glass, bars, handle and the lines that tell how it opens: they meet at the hinges' side.
+; A sash with its glass, bars, handle and the lines that show how it opens: they meet at the hinges' side.
 (defun window-sash (variant values origin x y index / sash high stile way)
   (setq sash  (window-sash-width variant values)
         high  (window-sash-height variant values)
@@ -243,12 +243,12 @@
     (item-line origin x (+ y at) (+ x width) (+ y at))
     (item-line origin x (+ y at bar) (+ x width) (+ y at bar))))
 
-; Where COUNT bars begin that part ROOM into equal panes.
-(defun window-spread (count room bar / pane at places)
-  (setq pane (/ (- room (* count bar)) (1+ count))
+; Where COUNT bars begin that divide EXTENT into equal panes.
+(defun window-spread (count extent bar / pane at starts)
+  (setq pane (/ (- extent (* count bar)) (1+ count))
         at   0.0)
   (repeat count
     (setq at     (+ at pane)
-          places (cons at places)
+          starts (cons at starts)
           at     (+ at bar)))
-  (reverse places))
+  (reverse starts))

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 
 #include "tests/e2e/Desktop.h"
@@ -40,9 +41,16 @@ protected:
         const fs::path folder = packed->Folder() / name;
         OutputOf(SCRIPTS_DIR "/pack-dist " + ArchitectureName() + " '" + folder.string() + "'");
         for (const fs::directory_entry& file : fs::directory_iterator(folder)) {
-            return file.path();
+            if (file.path().extension() == ".zip") {
+                return file.path();
+            }
         }
         return {};
+    }
+
+    // The setup program beside an archive.
+    static fs::path SetupOf(const fs::path& zip) {
+        return zip.parent_path() / (zip.stem().string() + "-setup.exe");
     }
 
     static inline HostRun* packed = nullptr;  // its folder holds the archives
@@ -71,7 +79,76 @@ TEST_F(Archive, HoldsTheSumsOfAllItsFiles) {
 }
 
 TEST_F(Archive, IsTheSamePackedTwice) {
-    EXPECT_EQ(BytesOf(archive), BytesOf(Pack("again")));
+    const fs::path again = Pack("again");
+    EXPECT_EQ(BytesOf(archive), BytesOf(again));
+    EXPECT_EQ(BytesOf(SetupOf(archive)), BytesOf(SetupOf(again)));
+}
+
+// The values of an attribute in a page: `start` is its name with the blank before and the quote behind it.
+std::set<std::string> ValuesOf(const std::string& page, const std::string& start) {
+    std::set<std::string> values;
+    for (std::size_t at = 0; (at = page.find(start, at)) != std::string::npos;) {
+        at += start.size();
+        values.insert(page.substr(at, page.find('"', at) - at));
+    }
+    return values;
+}
+
+std::set<std::string> LinksOf(const std::string& page) {
+    std::set<std::string> links = ValuesOf(page, " href=\"");
+    links.merge(ValuesOf(page, " src=\""));
+    return links;
+}
+
+TEST_F(Archive, ItsPagesAreHtmlAndLeadToWhatIsThere) {
+    int pages = 0;
+    for (const fs::directory_entry& file : fs::recursive_directory_iterator(unpacked)) {
+        EXPECT_NE(file.path().extension(), ".md") << file.path();
+        if (file.path().extension() != ".html") {
+            continue;
+        }
+        ++pages;
+        for (const std::string& link : LinksOf(BytesOf(file.path()))) {
+            const std::size_t mark = link.find('#');
+            const fs::path target =
+                mark == 0 ? file.path() : file.path().parent_path() / link.substr(0, mark);
+            EXPECT_TRUE(fs::exists(target)) << file.path() << " leads to " << link;
+            if (mark != std::string::npos) {
+                EXPECT_TRUE(ValuesOf(BytesOf(target), " id=\"").contains(link.substr(mark + 1)))
+                    << file.path() << " leads to " << link;
+            }
+        }
+    }
+    EXPECT_GT(pages, 10);
+}
+
+TEST_F(Archive, ItsStartPageNeedsNoMakeAndNamesTheLicence) {
+    const std::string page = BytesOf(unpacked / "README.html");
+    EXPECT_EQ(page.find("make "), std::string::npos);
+    EXPECT_NE(page.find("href=\"LICENSE.txt\""), std::string::npos);
+    EXPECT_NE(BytesOf(unpacked / "LICENSE.txt").find("has not chosen a licence yet"), std::string::npos);
+}
+
+// Wine hands pages to the programs that its registry lists.
+TEST_F(Archive, HelpInDevHostOpensItsStartPage) {
+    const fs::path browser = host.Folder() / "browser";
+    host.Write("browser", "#!/bin/sh\nprintf %s \"$1\" >'" + (host.Folder() / "opened").string() + "'\n");
+    fs::permissions(browser, fs::perms::owner_all);
+    OutputOf("'" SCRIPTS_DIR "/wine' reg add 'HKCU\\Software\\Wine\\WineBrowser' /v Browsers /d '" +
+             browser.string() + "' /f");
+    host.UseProgram(unpacked / "DevHost.exe");
+    host.StartProgram({});
+    const Window main = Window::WithTitle("DevHost");
+    ASSERT_TRUE(main.IsValid()) << host.Errors();
+    main.LookWhenStill();
+    ASSERT_TRUE(main.Activate());
+    main.Press("F1");
+    EXPECT_TRUE(WaitUntil([&] { return BytesOf(host.Folder() / "opened").ends_with("/README.html"); }))
+        << host.Errors();
+    EXPECT_NE(BytesOf(host.Folder() / "opened").find(unpacked.filename().string()), std::string::npos);
+    EXPECT_TRUE(main.PressUntilClosed("alt+F4"));
+    EXPECT_EQ(host.Wait(), 0) << host.Errors();
+    OutputOf("'" SCRIPTS_DIR "/wine' reg delete 'HKCU\\Software\\Wine\\WineBrowser' /v Browsers /f");
 }
 
 TEST_F(Archive, IsNamedAfterTheVersionThatTheModuleShows) {

@@ -42,7 +42,7 @@ private:
 // A top-level window. Coordinates are pixels from the upper left of its client area.
 class Window {
 public:
-    // The visible window with exactly this title, once it is there. When it does not come up the test fails
+    // The visible window with exactly this title, once it exists. When it does not open the test fails
     // with a picture of the screen, and the window is an invalid one.
     static Window WithTitle(const std::string& title);
 

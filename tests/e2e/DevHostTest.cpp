@@ -57,7 +57,7 @@ protected:
         return result;
     }
 
-    // The point that a click gives, asked for by LISP.
+    // The point that a click gives, requested by LISP.
     Point Pick(int x, int y) {
         const std::string line = "(getpoint \"" + std::to_string(++picks) + "\")";
         Type(line);
@@ -113,7 +113,7 @@ TEST_F(DevHostWindow, WhatLispDrawsCanBeZoomedPannedAndPicked) {
     EXPECT_NEAR(dragged.x, 500, 1e-6);
     EXPECT_NEAR(dragged.y, bottom - 300, 1e-6);
 
-    // Fitted, the line's middle is the window's, and there is little room beside its ends.
+    // Fitted, the line's middle is the window's, and there is little space beside its ends.
     EXPECT_EQ(Evaluate("(draw-fit)"), "T");
     EXPECT_NEAR(Pick((screen.Width() - 1) / 2, 200).x, 250.25, 1);
     EXPECT_LT(Pick(29, 200).x, 100.25);
@@ -132,8 +132,10 @@ TEST_F(DevHostWindow, UnitsAndPrecisionAreChosenInTheStatusLine) {
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
-TEST_F(DevHostWindow, F1TellsWhatItIs) {
-    window.Press("F1");
+TEST_F(DevHostWindow, AboutTellsWhatItIs) {
+    const Window menu = Window::OpenedBy([&] { window.Press("alt+h"); }, "devhost.exe");
+    ASSERT_TRUE(menu.IsValid());
+    PressKeys("a");
     const Window about = Window::WithTitle("About DevHost");
     ASSERT_TRUE(about.IsValid());
     EXPECT_TRUE(about.PressUntilClosed("Return"));

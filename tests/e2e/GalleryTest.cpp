@@ -20,8 +20,8 @@ protected:
 
     // The colour left of a value, behind its name: the focused row's is another one.
     bool IsFocused(const std::string& name) const {
-        const Place& place = places.at(name);
-        return gallery.Look().At(place.left - 8, place.MiddleY()) != Rgb{255, 255, 255};
+        const Cell& cell = cells.at(name);
+        return gallery.Look().At(cell.left - 8, cell.MiddleY()) != Rgb{255, 255, 255};
     }
     void ExpectFocus(const std::string& name) const {
         EXPECT_TRUE(WaitUntil([&] { return IsFocused(name); })) << name;
@@ -84,7 +84,7 @@ TEST_F(Gallery, ADoubleClickTakesTheNextChoice) {
     ASSERT_NO_FATAL_FAILURE(Open());
     // The name's cell: nothing opens between the two clicks.
     const auto doubleClickName = [this](const std::string& name) {
-        gallery.DoubleClick(places.at(name).left - 40, places.at(name).MiddleY());
+        gallery.DoubleClick(cells.at(name).left - 40, cells.at(name).MiddleY());
     };
     doubleClickName("Glazed");
     ExpectChanges({"Glazed = False"});
@@ -203,9 +203,9 @@ TEST_F(Gallery, AFontIsChosenInTheSystemsDialog) {
 
 TEST_F(Gallery, ACustomItemFollowsTheMouse) {
     ASSERT_NO_FATAL_FAILURE(Open());
-    const Place& gloss = places.at("Gloss");
+    const Cell& gloss = cells.at("Gloss");
     const int y = gloss.MiddleY();
-    // The first click gives it the focus; another one at the same place would be a double click.
+    // The first click gives it the focus; another one at the same point would be a double click.
     ClickValue("Gloss");
     gallery.Drag(gloss.left + 10, y, gloss.right + 30, y);
     ExpectChanges({"Gloss = 100%"});
@@ -240,11 +240,11 @@ TEST_F(Gallery, TabLeavesTheGridAndEntersIt) {
     ExpectFocus("Name");
     // From the grid to the display modes, where an arrow key chooses.
     PressKeys("Tab Down");
-    ReadPlaces();
-    EXPECT_EQ(placeOrder.front(), "Archive");
+    ReadRectangles();
+    EXPECT_EQ(cellOrder.front(), "Archive");
     PressKeys("Up shift+Tab Down");
-    ReadPlaces();
-    EXPECT_EQ(placeOrder.front(), "Name");
+    ReadRectangles();
+    EXPECT_EQ(cellOrder.front(), "Name");
     ExpectFocus("Notes");
     CloseExpecting({});
 }
@@ -252,11 +252,11 @@ TEST_F(Gallery, TabLeavesTheGridAndEntersIt) {
 TEST_F(Gallery, MnemonicsWork) {
     ASSERT_NO_FATAL_FAILURE(Open());
     gallery.Press("alt+s");
-    ReadPlaces();
-    EXPECT_EQ(placeOrder.front(), "Archive");
+    ReadRectangles();
+    EXPECT_EQ(cellOrder.front(), "Archive");
     gallery.Press("alt+f");
-    ReadPlaces();
-    EXPECT_EQ(placeOrder.front(), "Name");
+    ReadRectangles();
+    EXPECT_EQ(cellOrder.front(), "Name");
     CloseExpecting({});
 }
 
@@ -270,9 +270,9 @@ TEST_F(Gallery, TheCloseBoxWhileAnEditIsOpenTakesTheTextOnce) {
     ASSERT_NO_FATAL_FAILURE(Open());
     ClickValue("Name");
     TypeOver("Ash door");
-    // The window manager asks for the close beside the keyboard's queue and would overtake keys that wait
+    // The window manager's close request bypasses the keyboard's queue and would overtake keys that wait
     // there: the gallery prints the positions once all earlier input has been handled.
-    ASSERT_NO_FATAL_FAILURE(ReadPlaces());
+    ASSERT_NO_FATAL_FAILURE(ReadRectangles());
     PressKeys("alt+F4");
     EXPECT_EQ(run.Wait(), 0) << run.Errors();
     EXPECT_EQ(Changes(), std::vector<std::string>{"Name = Ash door"});

@@ -21,54 +21,54 @@ void GalleryWindow::Open() {
     run.StartProgram({});
     gallery = Window::WithTitle("Grid gallery");
     ASSERT_TRUE(gallery.IsValid()) << run.Errors();
-    // The window manager gives it the focus some time after it has come up.
+    // The window manager gives it the focus some time after it was shown.
     ASSERT_TRUE(gallery.Activate());
     gallery.LookWhenStill();
-    ReadPlaces();
+    ReadRectangles();
 }
 
-void GalleryWindow::ReadPlaces() {
+void GalleryWindow::ReadRectangles() {
     const auto ends = [this] {
         const std::vector<std::string> lines = Lines();
-        return std::count(lines.begin(), lines.end(), "places end");
+        return std::count(lines.begin(), lines.end(), "rectangles end");
     };
     // A key may come before Wine knows that the window has the focus: it is pressed again. Not soon: the
-    // first one may only be late, and a second telling would be taken for a later one.
+    // first one may only be late, and a second list would be taken for a later one.
     const auto before = ends();
     ASSERT_TRUE(WaitUntil([&] {
         PressKeys("F1");
         return WaitUntil([&] { return ends() > before; }, 8);
-    })) << "the gallery did not print its positions";
-    places.clear();
-    placeOrder.clear();
+    })) << "the gallery did not print its rectangles";
+    cells.clear();
+    cellOrder.clear();
     const std::vector<std::string> all = Lines();
-    // The last telling counts.
-    const auto last = std::find(std::next(all.rbegin()), all.rend(), "places end").base();
+    // The last list counts.
+    const auto last = std::find(std::next(all.rbegin()), all.rend(), "rectangles end").base();
     for (const std::string& line : std::vector<std::string>(last, all.end())) {
         std::istringstream words(line);
         std::string word;
         words >> word;
-        Place place{};
-        if (word == "place" && words >> place.left >> place.top >> place.right >> place.bottom) {
+        Cell cell{};
+        if (word == "rectangle" && words >> cell.left >> cell.top >> cell.right >> cell.bottom) {
             std::getline(words >> std::ws, word);
-            places[word] = place;
+            cells[word] = cell;
         }
     }
-    for (const auto& [name, place] : places) {
-        placeOrder.push_back(name);
+    for (const auto& [name, cell] : cells) {
+        cellOrder.push_back(name);
     }
-    std::sort(placeOrder.begin(), placeOrder.end(),
-              [this](const auto& one, const auto& other) { return places[one].top < places[other].top; });
+    std::sort(cellOrder.begin(), cellOrder.end(),
+              [this](const auto& one, const auto& other) { return cells[one].top < cells[other].top; });
 }
 
 void GalleryWindow::ClickValue(const std::string& name) const {
-    const Place& place = places.at(name);
-    gallery.Click(place.MiddleX(), place.MiddleY());
+    const Cell& cell = cells.at(name);
+    gallery.Click(cell.MiddleX(), cell.MiddleY());
 }
 
 void GalleryWindow::DoubleClickValue(const std::string& name) const {
-    const Place& place = places.at(name);
-    gallery.DoubleClick(place.MiddleX(), place.MiddleY());
+    const Cell& cell = cells.at(name);
+    gallery.DoubleClick(cell.MiddleX(), cell.MiddleY());
 }
 
 Window GalleryWindow::OpenDialog(const std::string& name, const std::string& title) const {
@@ -113,7 +113,7 @@ std::vector<std::string> GalleryWindow::Lines() const {
 
 std::vector<std::string> GalleryWindow::Changes() const {
     std::vector<std::string> lines = Lines();
-    std::erase_if(lines, [](const std::string& line) { return line.starts_with("place"); });
+    std::erase_if(lines, [](const std::string& line) { return line.starts_with("rectangle"); });
     return lines;
 }
 

@@ -14,23 +14,23 @@
 class GalleryWindow : public testing::Test {
 protected:
     // A value's cell, in pixels of the gallery's client area.
-    struct Place {
+    struct Cell {
         int left, top, right, bottom;
         int MiddleX() const { return (left + right) / 2; }
         int MiddleY() const { return (top + bottom) / 2; }
     };
 
     GalleryWindow();
-    // Opens the gallery and learns where its values are shown.
+    // Opens the gallery and reads the rectangles of its values.
     void Open();
-    // Asks the gallery again where its values are shown.
-    void ReadPlaces();
+    // Reads the rectangles of the gallery's values again.
+    void ReadRectangles();
 
     void ClickValue(const std::string& name) const;
     void DoubleClickValue(const std::string& name) const;
     // A double click opens the dialog of a value; its title.
     Window OpenDialog(const std::string& name, const std::string& title) const;
-    // A click opens the list or the calendar of a value: the window that came up.
+    // Opens the list or the calendar of a value by a click; its window.
     Window DropDown(const std::string& name) const;
 
     // Presses keys in whatever window has the focus; types a text there.
@@ -41,16 +41,16 @@ protected:
 
     // Waits until the gallery has printed exactly these changes from the start on.
     void ExpectChanges(const std::vector<std::string>& changes) const;
-    // Closes the gallery with Escape; it must end well, with no changes but these.
+    // Closes the gallery with Escape; its exit status must be 0, and these the only changes.
     void CloseExpecting(const std::vector<std::string>& changes);
 
-    // What the gallery has printed, but for the places.
+    // What the gallery has printed, except for the rectangles.
     std::vector<std::string> Changes() const;
 
     HostRun run;
     Window gallery;
-    std::map<std::string, Place> places;
-    std::vector<std::string> placeOrder;  // the names of `places` from the top down
+    std::map<std::string, Cell> cells;
+    std::vector<std::string> cellOrder;  // the names of `cells` from the top down
 
 private:
     std::vector<std::string> Lines() const;

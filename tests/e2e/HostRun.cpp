@@ -33,7 +33,7 @@ HostRun::HostRun() : m_program(ProgramFolder() / "DevHost.exe") {
 
 HostRun::~HostRun() {
     if (m_wasStarted && testing::Test::HasFailure()) {
-        Tell();
+        PrintState();
     }
     if (m_process > 0) {
         kill(m_process, SIGKILL);
@@ -111,7 +111,7 @@ int HostRun::Wait(int seconds) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }
 
-void HostRun::Tell() const {
+void HostRun::PrintState() const {
     int status = 0;
     const bool runs = m_process > 0 && waitpid(m_process, &status, WNOHANG) == 0;
     std::cout << m_program.filename().string() << (runs ? " still runs" : " has ended");

@@ -10,8 +10,8 @@
 class HostRun {
 public:
     HostRun();
-    ~HostRun();  // ends the program if it still runs, removes the folder; first tells of it when the test
-                 // failed
+    // Ends the program if it still runs and removes the folder. Prints the state first when the test failed.
+    ~HostRun();
     HostRun(const HostRun&) = delete;
     HostRun& operator=(const HostRun&) = delete;
 
@@ -45,7 +45,7 @@ public:
 
 private:
     // Prints whether it still runs and what it printed.
-    void Tell() const;
+    void PrintState() const;
     // Makes this process the program, with `argv` that ends with a null; ends it when that fails.
     [[noreturn]] void Become(const std::vector<char*>& argv) const noexcept;
 

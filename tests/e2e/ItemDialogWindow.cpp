@@ -25,7 +25,7 @@ void ItemDialogWindow::LookWhenPainted() {
         screen = dialog.Look();
         m_rowHeight = FindRowHeight();
         return screen.At(X(643), Y(9)) == headerGrey && m_rowHeight > 0;
-    })) << "the header or the grid's rows never came up";
+    })) << "the header or the grid's rows were never drawn";
 }
 
 bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
@@ -49,7 +49,7 @@ void ItemDialogWindow::Type(int row, const std::string& text) const {
 
 Window ItemDialogWindow::WaitForQuestion() const {
     EXPECT_TRUE(WaitUntil([this] { return !dialog.IsOpen(); }))
-        << "the dialog did not make room for the drawing";
+        << "the dialog was not hidden for picking in the drawing";
     const Window main = Window::WithTitle("DevHost");
     // The question is longer than the idle prompt's label, which has its colour.
     const auto isAsked = [&] {

@@ -42,8 +42,8 @@ protected:
     // A click on the value opens its edit with the caret behind the text; the text is replaced.
     void Type(int row, const std::string& text) const;
 
-    // The host's window once the dialog has made room for it and a question stands at its prompt: before that
-    // it drops what is typed.
+    // The host's window, once the dialog is hidden and the host shows a prompt: before that it ignores typed
+    // text.
     Window WaitForQuestion() const;
 
     // Waits for the host's end, which must be a good one, and gives LISP's answer.

@@ -13,7 +13,7 @@ constexpr int angleRow = 8;
 
 class ItemEditing : public ItemDialogWindow {
 protected:
-    // The line of a file that begins like this, without its line end; nothing when there is none.
+    // The line of a file that begins with `start`, without its line end; empty when there is none.
     std::string Line(const std::string& file, const std::string& start) const {
         const std::string text = "\n" + host.Read(file);
         const std::size_t at = text.find("\n" + start);
@@ -45,7 +45,7 @@ TEST_F(ItemEditing, ATypedWholeNumberReachesBothFiles) {
     EXPECT_EQ(Template("$7"), "$7 = \"<<1507>>\"I2");
 }
 
-TEST_F(ItemEditing, OkTakesWhatIsBeingTyped) {
+TEST_F(ItemEditing, OkTakesTextThatIsStillBeingTyped) {
     Open();
     Type(angleRow, "33");
     PressOk();
@@ -53,7 +53,7 @@ TEST_F(ItemEditing, OkTakesWhatIsBeingTyped) {
     EXPECT_EQ(Working("#9"), "#9 = 33");
 }
 
-TEST_F(ItemEditing, EscapeInTheEditGivesTheValueBack) {
+TEST_F(ItemEditing, EscapeInTheEditRestoresTheValue) {
     Open();
     Type(angleRow, "33");
     PressKeys("Escape");
@@ -62,7 +62,7 @@ TEST_F(ItemEditing, EscapeInTheEditGivesTheValueBack) {
     EXPECT_EQ(Working("#9"), "#9 = 75");
 }
 
-TEST_F(ItemEditing, CancelDropsWhatIsBeingTyped) {
+TEST_F(ItemEditing, CancelDiscardsTextThatIsBeingTyped) {
     Open();
     Type(angleRow, "33");
     PressCancel();
@@ -78,7 +78,7 @@ TEST_F(ItemEditing, AReadOnlyRowOpensNoEdit) {
     EXPECT_EQ(Working("#2"), "#2 = 2100");
 }
 
-TEST_F(ItemEditing, TextThatIsNoDistanceIsRefusedAndTheValueKept) {
+TEST_F(ItemEditing, TextThatIsNoDistanceIsRejectedAndTheValueKept) {
     Open();
     Type(widthRow, "wide");
     PressKeys("Return");
@@ -97,7 +97,7 @@ TEST_F(ItemEditing, ADistanceIsPickedWithTwoClicksInTheDrawing) {
     const Window drawing = WaitForQuestion();
     drawing.Click(100, 80);
     drawing.Click(400, 480);
-    EXPECT_TRUE(WaitUntil([this] { return dialog.IsOpen(); })) << "the dialog did not come back";
+    EXPECT_TRUE(WaitUntil([this] { return dialog.IsOpen(); })) << "the dialog did not reappear";
     LookWhenPainted();
     EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
     PressOk();

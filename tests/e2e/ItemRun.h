@@ -17,7 +17,7 @@ protected:
 
     // Double-clicks a slide: its column and row in the choice dialog, from 0, and how many columns there are.
     void Choose(int column, int row, int columns, int rows) const;
-    // The item dialog, which must come up under this title.
+    // The item dialog, which must open with this title.
     void ExpectDialog(const std::string& title);
     // Presses OK and answers the question for the insertion point.
     void PlaceAt(const std::string& point);

@@ -110,7 +110,7 @@ TEST_P(ModuleFile, IsProtectedLikeItsCompanions) {
 }
 
 // What would differ from one build to the next, or from one checkout to another.
-TEST_P(ModuleFile, HoldsNeitherTimeNorPlaceOfItsBuild) {
+TEST_P(ModuleFile, ContainsNeitherBuildTimeNorBuildPath) {
     for (const char* file :
          {"TavrinWnd.dll", "TavrinRes.dll", "TD_Alloc.dll", "DevHost.exe", "tavrincheck.exe"}) {
         EXPECT_NE(Headers(file).find("Thu Jan  1 00:00:00 1970"), std::string::npos) << file;
@@ -150,7 +150,7 @@ TEST(AnyHost, RunsTheModuleWhateverItsFileIsCalled) {
     EXPECT_EQ(host.Answer(), "0");
 }
 
-TEST(AnyHost, IsToldWhichFunctionItLacks) {
+TEST(AnyHost, GetsAMessageThatNamesAMissingFunction) {
     HostRun host;
     host.UseProgram(ArchitectureFolder() / "tests" / "IncompleteHost.exe");
     host.Start({});
@@ -164,7 +164,7 @@ TEST(AnyHost, IsToldWhichFunctionItLacks) {
 }
 
 // Pictures need GDI+, which every supported Windows has.
-TEST(AnyHost, IsToldThatALibraryIsMissing) {
+TEST(AnyHost, GetsAMessageWhenALibraryIsMissing) {
     const std::string overrides = std::getenv("WINEDLLOVERRIDES");
     setenv("WINEDLLOVERRIDES", (overrides + ";gdiplus=").c_str(), 1);
     HostRun host;

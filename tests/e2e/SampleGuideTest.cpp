@@ -55,8 +55,9 @@ protected:
             }
         }
         Run("rsvg-convert");
-        Run("x86_64-w64-mingw32-windres");
-        ASSERT_TRUE(fs::exists(host.Folder() / "TavrinRes.dll"));
+        fs::create_directory(host.Folder() / "en");
+        Run("tavrincheck texts texts/TavrinRes.it.rc -o");
+        ASSERT_TRUE(fs::exists(host.Folder() / "en/TavrinRes.dll"));
     }
 
     fs::path Samples() const { return host.Folder() / "samples"; }

@@ -23,28 +23,28 @@ std::vector<std::size_t> LineLengths(std::string_view bytes) {
     return lengths;
 }
 
-void RequirePlaces(const std::vector<Finding>& findings, std::string_view bytes) {
+void RequirePositions(const std::vector<Finding>& findings, std::string_view bytes) {
     const std::vector<std::size_t> lengths = LineLengths(bytes);
     for (const Finding& finding : findings) {
         Require(finding.rule != nullptr && FindRule(finding.rule->id) == finding.rule,
                 "each finding is of a rule that is listed");
         Require(!finding.message.empty() && finding.message.find('\n') == std::string::npos,
                 "a finding has a message of one line");
-        Require((finding.line == 0) == (finding.column == 0), "a place is a line and a column");
+        Require((finding.line == 0) == (finding.column == 0), "a position is a line and a column");
         if (finding.line == 0) {
             continue;
         }
         Require(finding.line <= lengths.size(), "a finding's line is in the file");
-        // Where something is missing at the end of a line, the place is the one behind it.
+        // Where something is missing at the end of a line, the position is the one after it.
         Require(finding.column - 1 + finding.length <= lengths[finding.line - 1] + 1,
-                "a finding's place is in its line");
+                "a finding's position is in its line");
         Require(finding.excerpt.start + finding.excerpt.length <= finding.excerpt.text.size() + 1,
                 "what is underlined is shown");
     }
     const auto before = [](const Finding& one, const Finding& other) {
         return std::tie(one.line, one.column) < std::tie(other.line, other.column);
     };
-    Require(std::is_sorted(findings.begin(), findings.end(), before), "findings come in the order of places");
+    Require(std::is_sorted(findings.begin(), findings.end(), before), "findings are sorted by position");
 }
 
 }  // namespace
@@ -72,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     context.texts = data[0] / 2 % 2 != 0 ? &texts : nullptr;
     context.usedTexts = data[0] / 4 % 2 != 0 ? &used : nullptr;
     const std::vector<Finding> findings = CheckText(first, context);
-    RequirePlaces(findings, first);
+    RequirePositions(findings, first);
     Require(TextReport(findings).empty() == findings.empty() && !JsonReport(findings).empty(),
             "findings can be printed");
     Require(CheckText(first, context).size() == findings.size(), "a second time finds the same");

@@ -1,5 +1,5 @@
-// The bytes of a dialog template: they fill exactly the room that was asked for, and reading them field by
-// field gives back what went in.
+// The bytes of a dialog template: they have exactly the computed size, and reading them field by field gives
+// back the input.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <memory>
@@ -89,7 +89,7 @@ void RequireHead(CFieldReader& reader, const DialogTemplate& dialog) {
     Require(reader.DoubleWord() == dialog.style && reader.DoubleWord() == dialog.exStyle, "styles are kept");
     Require(reader.Word() == Low(static_cast<std::int64_t>(dialog.items.size())), "the items are counted");
     for (const std::int16_t field : {dialog.extent.x, dialog.extent.y, dialog.extent.cx, dialog.extent.cy}) {
-        Require(reader.Word() == Low(field), "the dialog keeps its place and size");
+        Require(reader.Word() == Low(field), "the dialog keeps its position and size");
     }
     Require(reader.Word() == 0 && reader.Word() == 0, "there is no menu and no class");
     Require(reader.Text() == Units(dialog.caption), "the dialog keeps its caption");
@@ -104,7 +104,7 @@ void RequireItem(CFieldReader& reader, const DialogTemplateItem& item) {
     for (const std::int64_t field :
          {std::int64_t{rect.left}, std::int64_t{rect.top}, std::int64_t{rect.right} - rect.left,
           std::int64_t{rect.bottom} - rect.top}) {
-        Require(reader.Word() == Low(field), "an item keeps its place and size");
+        Require(reader.Word() == Low(field), "an item keeps its position and size");
     }
     Require(reader.Word() == Low(item.id), "an item keeps its id");
     Require(reader.Word() == 0xFFFF && reader.Word() == Low(item.typeCode), "an item keeps its class");
@@ -154,14 +154,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     dialog.extent = layout.Extent();
 
-    const std::size_t room = TemplateSize(dialog);
-    const auto memory = std::make_unique<std::byte[]>(room);
-    WriteTemplate(dialog, {memory.get(), room});
-    CFieldReader reader({memory.get(), room});
+    const std::size_t templateSize = TemplateSize(dialog);
+    const auto memory = std::make_unique<std::byte[]>(templateSize);
+    WriteTemplate(dialog, {memory.get(), templateSize});
+    CFieldReader reader({memory.get(), templateSize});
     RequireHead(reader, dialog);
     for (const DialogTemplateItem& item : dialog.items) {
         RequireItem(reader, item);
     }
-    Require(reader.AtEnd(), "the template fills its room");
+    Require(reader.AtEnd(), "the template fills its buffer");
     return 0;
 }

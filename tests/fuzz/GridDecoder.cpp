@@ -63,8 +63,8 @@ Id CGridDecoder::DecodeSection() {
 
 // On one of the edges, beside them, or in the middle.
 int CGridDecoder::DecodeNear(int low, int high) {
-    const int places[] = {(low + high) / 2, low, low - 1, high - 1, high};
-    return places[m_bytes.Below(std::size(places))];
+    const int values[] = {(low + high) / 2, low, low - 1, high - 1, high};
+    return values[m_bytes.Below(std::size(values))];
 }
 
 // Something that was painted.

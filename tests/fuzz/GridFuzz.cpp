@@ -114,7 +114,7 @@ void CompareRows(const CGridHost& grid, const CSimpleGrid& simple, const CProof&
 void CompareWindows(const CGridHost& grid, const CSimpleGrid& simple, const CProof& proof) {
     const GridWindow& window = grid.window;
     const GridWindow& other = simple.window;
-    proof.Holds(window.deeds == other.deeds, "the same is asked of the system and the client");
+    proof.Holds(window.calls == other.calls, "the system and the client get the same calls");
     proof.Holds(window.drawn == other.drawn, "the same rows are drawn");
     proof.Holds(window.bar == other.bar, "the scroll bar is the same");
     proof.Holds(window.editor == other.editor, "the same editor is open");
@@ -173,17 +173,17 @@ public:
             m_before.emplace_back(model.FindItem(id)->value, model.FindItem(id)->undefined);
         }
     }
-    void Check(const std::vector<Deed>& deeds, const CProof& proof) const {
+    void Check(const std::vector<WindowCall>& calls, const CProof& proof) const {
         std::map<Id, int> notified;
-        for (const Deed& deed : deeds) {
-            notified[deed.item] += deed.kind == DD_NOTIFY ? 1 : 0;
+        for (const WindowCall& call : calls) {
+            notified[call.item] += call.kind == WC_NOTIFY ? 1 : 0;
         }
         for (Id id = 0; id < m_before.size(); ++id) {
             const GridItem& item = *m_model.FindItem(id);
             const bool changed =
                 !IsSameValue(item.value, m_before[id].first) || item.undefined != m_before[id].second;
-            proof.Holds(notified[id] <= 1, "the owner hears of a change once");
-            proof.Holds(!changed || notified[id] == 1, "the owner hears of every change");
+            proof.Holds(notified[id] <= 1, "the owner is notified of a change once");
+            proof.Holds(!changed || notified[id] == 1, "the owner is notified of every change");
         }
     }
 
@@ -229,8 +229,8 @@ void CTwoGrids::Run(CBytes& bytes) {
 
 void CTwoGrids::RunStep(const Step& step, const Reaction& reaction) {
     m_proof.Add(step, reaction);
-    m_grid.window.deeds.clear();
-    m_simple.window.deeds.clear();
+    m_grid.window.calls.clear();
+    m_simple.window.calls.clear();
     m_grid.asksForPaint = false;
     m_simple.asksForPaint = false;
     m_grid.reaction = reaction;
@@ -243,7 +243,7 @@ void CTwoGrids::RunStep(const Step& step, const Reaction& reaction) {
         RunUserStep(m_grid, step);
         RunUserStep(m_simple, step);
         if (!reaction) {
-            watch.Check(m_grid.window.deeds, m_proof);
+            watch.Check(m_grid.window.calls, m_proof);
         }
     }
     m_buttonDown =

@@ -1,5 +1,5 @@
 // The property grid under test, model, layout and controllers, in a window that is none: carries out what the
-// controllers ask for and records it.
+// controllers return and records it.
 #pragma once
 
 #include <memory>
@@ -74,7 +74,7 @@ private:
     void Relayout();
     void UpdateView();
     void React();
-    void Record(const Deed& deed) { window.deeds.push_back(deed); }
+    void Record(const WindowCall& call) { window.calls.push_back(call); }
     void FocusRow(const RowId& row);
     Value MakeValueOf(EItemType kind, const SlotValue& slots);
     ScrollState GetScroll() const;

@@ -1,4 +1,4 @@
-// The host: what the controllers ask for.
+// The host: carries out the controllers' actions.
 #include <utility>
 #include <variant>
 
@@ -36,8 +36,8 @@ Id CGridHost::FindNamedItem(const Action& asked) {
         asked);
 }
 
-// Every item that is named is there when it is asked for. By the turn of its action it may be gone; the owner
-// alone hears of it even then.
+// Every item that an action names exists when the actions are returned. It may be gone when its action runs;
+// only the owner's notification is sent even then.
 void CGridHost::Run(const Actions& actions) {
     int editors = 0;
     for (const Action& asked : actions) {
@@ -45,7 +45,7 @@ void CGridHost::Run(const Actions& actions) {
         Require(item == kNoId || m_model.FindItem(item) != nullptr, "an action is for an item that is there");
         editors += OpensEditor(asked) ? 1 : 0;
     }
-    Require(editors <= 1, "one editor at a time is asked for");
+    Require(editors <= 1, "the actions open at most one editor");
     for (const Action& asked : actions) {
         const Id item = FindNamedItem(asked);
         if (item == kNoId || m_model.FindItem(item) != nullptr ||
@@ -58,12 +58,12 @@ void CGridHost::Run(const Actions& actions) {
 void CGridHost::Do(const action::BeginCapture& /*capture*/) {
     Require(!window.captured, "the mouse is captured once");
     window.captured = true;
-    Record({.kind = DD_CAPTURE});
+    Record({.kind = WC_CAPTURE});
 }
 
 void CGridHost::Do(const action::EndCapture& /*capture*/) {
     if (std::exchange(window.captured, false)) {
-        Record({.kind = DD_END_CAPTURE});
+        Record({.kind = WC_END_CAPTURE});
     }
 }
 
@@ -87,7 +87,7 @@ void CGridHost::Do(const action::ScrollTo& scroll) {
 }
 
 void CGridHost::Do(const action::AskCustomItem& question) {
-    Record({.kind = DD_CUSTOM_PRESS, .item = question.item, .rect = question.value, .point = question.point});
+    Record({.kind = WC_CUSTOM_PRESS, .item = question.item, .rect = question.value, .point = question.point});
     ICustomItem* const custom = m_model.FindItem(question.item)->GetCustomItem();
     Require(custom != nullptr, "a custom item is asked");
     const bool taken = custom->OnLButtonDown({}, {});
@@ -96,9 +96,9 @@ void CGridHost::Do(const action::AskCustomItem& question) {
 
 void CGridHost::Do(const action::TellCustomItem& event) {
     ICustomItem* const custom = m_model.FindItem(event.item)->GetCustomItem();
-    Require(custom != nullptr, "a custom item is told");
+    Require(custom != nullptr, "a custom item is notified");
     const bool isMove = event.event == CE_MOVE;
-    Record({.kind = isMove ? DD_CUSTOM_MOVE : DD_CUSTOM_UP,
+    Record({.kind = isMove ? WC_CUSTOM_MOVE : WC_CUSTOM_UP,
             .item = event.item,
             .rect = event.value,
             .point = event.point});
@@ -114,21 +114,21 @@ void CGridHost::Do(const action::OpenTextEdit& edit) {
     window.openedText = GetEditText(*m_model.FindItem(edit.item));
     window.text = window.openedText;
     window.typed = false;
-    Record({.kind = DD_OPEN_TEXT, .item = edit.item, .rect = edit.rect, .text = window.text});
+    Record({.kind = WC_OPEN_TEXT, .item = edit.item, .rect = edit.rect, .text = window.text});
 }
 
 void CGridHost::Do(const action::DropDown& list) {
     window.editor = ED_NONE;
     const GridItem& item = *m_model.FindItem(list.item);
     if (ICustomItem* const custom = item.GetCustomItem()) {
-        Record({.kind = DD_CUSTOM_DROP_DOWN, .item = list.item, .rect = list.cell});
+        Record({.kind = WC_CUSTOM_DROP_DOWN, .item = list.item, .rect = list.cell});
         custom->ShowDropDown({});
     } else if (item.kind == IT_DATE) {
         window.editor = ED_CALENDAR;
-        Record({.kind = DD_OPEN_CALENDAR, .item = list.item, .rect = list.cell});
+        Record({.kind = WC_OPEN_CALENDAR, .item = list.item, .rect = list.cell});
     } else {
         window.editor = ED_LIST;
-        Record({.kind = DD_OPEN_LIST, .item = list.item, .rect = list.cell});
+        Record({.kind = WC_OPEN_LIST, .item = list.item, .rect = list.cell});
     }
 }
 
@@ -137,14 +137,14 @@ void CGridHost::Do(const action::EditInDialog& dialog) {
     const GridItem& item = *m_model.FindItem(dialog.item);
     Require(item.editable, "a dialog is for an editable item alone");
     if (ICustomItem* const custom = item.GetCustomItem()) {
-        Record({.kind = DD_CUSTOM_BUTTON, .item = dialog.item});
+        Record({.kind = WC_CUSTOM_BUTTON, .item = dialog.item});
         if (custom->OnButtonClicked()) {
             ReportCustomChange(dialog.item, custom);
         }
         return;
     }
     const EItemType kind = item.kind;
-    Record({.kind = DD_DIALOG, .item = dialog.item});
+    Record({.kind = WC_DIALOG, .item = dialog.item});
     React();
     if (m_answer % 2 == 1) {
         Run(TakeDialogValue(m_model, dialog.item, kind, MakeValueOf(kind, MakeValue(m_answer / 2))));
@@ -154,7 +154,7 @@ void CGridHost::Do(const action::EditInDialog& dialog) {
 void CGridHost::Do(const action::GiveText& text) {
     ICustomItem* const custom = m_model.FindItem(text.item)->GetCustomItem();
     Require(custom != nullptr, "a custom item takes the text");
-    Record({.kind = DD_CUSTOM_TEXT, .item = text.item, .text = text.text});
+    Record({.kind = WC_CUSTOM_TEXT, .item = text.item, .text = text.text});
     if (custom->SetStringValue(text.text)) {
         ReportCustomChange(text.item, custom);
     }
@@ -172,12 +172,12 @@ void CGridHost::ReportCustomChange(Id item, const ICustomItem* custom) {
 }
 
 void CGridHost::Do(const action::Notify& change) {
-    Record({.kind = DD_NOTIFY, .item = change.item});
+    Record({.kind = WC_NOTIFY, .item = change.item});
     React();
 }
 
 void CGridHost::Do(const action::DefaultHandling& /*handling*/) {
-    Record({.kind = DD_DEFAULT});
+    Record({.kind = WC_DEFAULT});
 }
 
 }  // namespace tests

@@ -13,34 +13,35 @@
 
 namespace tests {
 
-enum EDeed {
-    DD_CAPTURE,
-    DD_END_CAPTURE,
-    DD_OPEN_TEXT,
-    DD_OPEN_LIST,
-    DD_OPEN_CALENDAR,
-    DD_DIALOG,
-    DD_CUSTOM_PRESS,
-    DD_CUSTOM_MOVE,
-    DD_CUSTOM_UP,
-    DD_CUSTOM_TEXT,
-    DD_CUSTOM_DROP_DOWN,
-    DD_CUSTOM_BUTTON,
-    DD_CUSTOM_ACCEPT,
-    DD_NOTIFY,
-    DD_DEFAULT,
+enum EWindowCall {
+    WC_CAPTURE,
+    WC_END_CAPTURE,
+    WC_OPEN_TEXT,
+    WC_OPEN_LIST,
+    WC_OPEN_CALENDAR,
+    WC_DIALOG,
+    WC_CUSTOM_PRESS,
+    WC_CUSTOM_MOVE,
+    WC_CUSTOM_UP,
+    WC_CUSTOM_TEXT,
+    WC_CUSTOM_DROP_DOWN,
+    WC_CUSTOM_BUTTON,
+    WC_CUSTOM_ACCEPT,
+    WC_NOTIFY,
+    WC_DEFAULT,
 };
 
-struct Deed {
-    EDeed kind;
+// A call to the system, the owner or a custom item.
+struct WindowCall {
+    EWindowCall kind;
     Id item = kNoId;
     Rect rect = {};
     Point point = {};
     std::wstring text = {};
-    bool operator==(const Deed&) const = default;
+    bool operator==(const WindowCall&) const = default;
 };
 
-// The system's scroll bar, which keeps its position between its ends by itself.
+// The system's scroll bar, which clamps its position to its range.
 struct ScrollBar {
     static constexpr int kWidth = 17;
 
@@ -86,7 +87,7 @@ struct GridWindow {
     bool captured = false;
     EShownCursor cursor = SC_ARROW;
     std::array<CustomState, kCustomItems> customs;
-    std::vector<Deed> deeds;
+    std::vector<WindowCall> calls;
     std::vector<DrawnRow> drawn;  // by the last paint
     bool operator==(const GridWindow&) const = default;
 };

@@ -27,7 +27,7 @@ public:
     int GetEditMode() override { return GetState().mode; }
     void DrawItem(CDC& /*dc*/, CRect /*rect*/, bool /*focused*/) override {}
     void AcceptValue() override {
-        m_host.Record({.kind = DD_CUSTOM_ACCEPT, .item = m_index});
+        m_host.Record({.kind = WC_CUSTOM_ACCEPT, .item = m_index});
         m_host.React();
     }
     bool OnLButtonDown(CRect /*rect*/, CPoint /*point*/) override {

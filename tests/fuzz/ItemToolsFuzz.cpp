@@ -1,4 +1,4 @@
-// Foretelling the dialog on a file, and moving its literals into a script.
+// Previewing the dialog on a file, and moving its literals into a script.
 #include <cstdint>
 #include <string>
 

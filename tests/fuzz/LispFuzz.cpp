@@ -1,4 +1,4 @@
-// LISP text: reading it ends in values or in a mistake with its place, and a value that is printed reads as
+// LISP text: reading it ends in values or in an error with its position, and a value that is printed reads as
 // it was.
 #include <optional>
 #include <vector>
@@ -29,7 +29,7 @@ std::vector<CValue> ReadAll(const std::wstring& text) {
             values.push_back(*std::move(value));
         }
     } catch (const CLispError& mistake) {
-        Require(!mistake.Text().empty(), "a mistake is told");
+        Require(!mistake.Text().empty(), "an error has a text");
     }
     return values;
 }

@@ -21,11 +21,11 @@ constexpr std::size_t kLongestInput = 60;
 constexpr std::uint32_t kMostWork = 20'000;
 
 struct Result {
-    std::size_t start = 0;                          // of the match; without one the place that was tried last
-    std::optional<std::vector<PCRE2_SIZE>> places;  // begin and end of the match and of each group
+    std::size_t start = 0;                           // of the match; without one, the start tried last
+    std::optional<std::vector<PCRE2_SIZE>> offsets;  // begin and end of the match and of each group
 };
 
-// PCRE2 with as many attempts as our matcher makes, each at one place. Its shortcuts are off: a pattern that
+// PCRE2 with as many attempts as our matcher makes, each at one start. Its shortcuts are off: a pattern that
 // takes it too long takes us too long as well.
 class CPeer {
 public:
@@ -33,9 +33,9 @@ public:
         constexpr std::uint32_t options = PCRE2_DOTALL | PCRE2_MATCH_UNSET_BACKREF | PCRE2_NO_AUTO_POSSESS |
                                           PCRE2_NO_START_OPTIMIZE | PCRE2_NO_DOTSTAR_ANCHOR;
         int error = 0;
-        PCRE2_SIZE place = 0;
+        PCRE2_SIZE errorOffset = 0;
         m_code.reset(pcre2_compile(reinterpret_cast<PCRE2_SPTR>(pattern.pattern.data()),
-                                   pattern.pattern.size(), options, &error, &place, nullptr));
+                                   pattern.pattern.size(), options, &error, &errorOffset, nullptr));
         Require(m_code != nullptr, "PCRE2 takes the translation");
         m_data.reset(pcre2_match_data_create_from_pattern(m_code.get(), nullptr));
         m_context.reset(pcre2_match_context_create(nullptr));
@@ -51,15 +51,15 @@ public:
                 pcre2_match(m_code.get(), reinterpret_cast<PCRE2_SPTR>(text.data()), text.size(),
                             result.start, PCRE2_ANCHORED, m_data.get(), m_context.get());
             if (status > 0) {
-                const PCRE2_SIZE* places = pcre2_get_ovector_pointer(m_data.get());
-                result.places.emplace(places,
-                                      places + std::size_t{2} * pcre2_get_ovector_count(m_data.get()));
+                const PCRE2_SIZE* offsets = pcre2_get_ovector_pointer(m_data.get());
+                result.offsets.emplace(offsets,
+                                       offsets + std::size_t{2} * pcre2_get_ovector_count(m_data.get()));
                 return result;
             }
             if (status != PCRE2_ERROR_NOMATCH) {
                 return std::nullopt;
             }
-            // The place behind the last character is tried in an empty input alone.
+            // The end of the input is tried as a start only when the input is empty.
             if (m_anchored || result.start + 1 >= text.size()) {
                 return result;
             }
@@ -79,17 +79,17 @@ private:
     std::unique_ptr<pcre2_match_context, Free> m_context;
 };
 
-void RequireSame(const CMatchContext& context, const wchar_t* input, const std::vector<PCRE2_SIZE>& places) {
+void RequireSame(const CMatchContext& context, const wchar_t* input, const std::vector<PCRE2_SIZE>& offsets) {
     const auto same = [input](const wchar_t* ours, PCRE2_SIZE theirs) {
         return theirs == PCRE2_UNSET ? ours == nullptr
                                      : ours != nullptr && static_cast<PCRE2_SIZE>(ours - input) == theirs;
     };
-    Require(same(context.MatchStart(), places[0]) && same(context.MatchEnd(), places[1]),
+    Require(same(context.MatchStart(), offsets[0]) && same(context.MatchEnd(), offsets[1]),
             "the match is PCRE2's");
-    Require(places.size() == 2 * (context.GroupCount() + 1), "there are as many groups as in PCRE2");
+    Require(offsets.size() == 2 * (context.GroupCount() + 1), "there are as many groups as in PCRE2");
     for (std::size_t group = 0; group < context.GroupCount(); ++group) {
-        Require(same(context.Group(group).start, places[2 * group + 2]) &&
-                    same(context.Group(group).end, places[2 * group + 3]),
+        Require(same(context.Group(group).start, offsets[2 * group + 2]) &&
+                    same(context.Group(group).end, offsets[2 * group + 3]),
                 "each group is PCRE2's");
     }
 }
@@ -125,12 +125,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CMatchContext context;
     const wchar_t* end = nullptr;
     const bool matched = matcher.Match(tightInput.Get(), &context, &end);
-    Require(matched == expected->places.has_value(), "there is a match exactly when PCRE2 finds one");
+    Require(matched == expected->offsets.has_value(), "there is a match exactly when PCRE2 finds one");
     if (matched) {
-        RequireSame(context, tightInput.Get(), *expected->places);
+        RequireSame(context, tightInput.Get(), *expected->offsets);
         Require(end == context.MatchEnd(), "the matching stops at the end of the match");
     } else {
-        Require(end == tightInput.Get() + expected->start, "a failure stops at the place tried last");
+        Require(end == tightInput.Get() + expected->start, "a failure stops at the start tried last");
     }
     return 0;
 }

@@ -127,7 +127,7 @@ void CSimpleGrid::SetChoices(Id id, int count) {
     }
 }
 
-// A custom item that is told so may remove rows.
+// A custom item's handler may remove rows.
 void CSimpleGrid::AcceptValues() {
     for (Id id = 0; id < m_nextItem; ++id) {
         TakeSavedCopy(id);
@@ -156,7 +156,7 @@ void CSimpleGrid::TakeSavedCopy(Id id) {
     item->saved = item->value;
     item->savedUndefined = item->undefined;
     if (item->kind == IT_CUSTOM) {
-        Record({.kind = DD_CUSTOM_ACCEPT, .item = item->value.custom});
+        Record({.kind = WC_CUSTOM_ACCEPT, .item = item->value.custom});
         React();
     }
 }

@@ -123,7 +123,7 @@ private:
     void MoveFocus(const SimpleRow& row);
     void TakeSavedCopy(Id id);
     void React();
-    void Record(const Deed& deed) { window.deeds.push_back(deed); }
+    void Record(const WindowCall& call) { window.calls.push_back(call); }
 
     void PaintItem(SimpleItem& item, int y, int width);
     bool IsInSight(const Rect& row) const;
@@ -132,7 +132,7 @@ private:
     void PressItem(const SimpleItem& item, Point point);
     void Capture(ECapture use);
     ECapture EndCapture();
-    void TellCustomItem(EDeed event, Point point);
+    void TellCustomItem(EWindowCall event, Point point);
     void OpenEditor(Point point, unsigned answer);
     void OpenText(const SimpleItem& item, const Rect& rect);
     void DropDown(const SimpleItem& item);

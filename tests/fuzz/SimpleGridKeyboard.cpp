@@ -60,7 +60,7 @@ SimpleRow CSimpleGrid::FindPreviousRow() const {
 void CSimpleGrid::PressKey(unsigned key) {
     enum EKey : unsigned { LEFT = 37, UP, RIGHT, DOWN };
     if (key < LEFT || key > DOWN) {
-        Record({.kind = DD_DEFAULT});
+        Record({.kind = WC_DEFAULT});
         return;
     }
     EndEditor();
@@ -98,7 +98,7 @@ void CSimpleGrid::TypeCharacter(wchar_t character) {
         case L'-':
             return SetCollapsed(focus.section, true);
         default:
-            return Record({.kind = DD_DEFAULT});
+            return Record({.kind = WC_DEFAULT});
     }
 }
 

@@ -71,7 +71,7 @@ void CSimpleGrid::Press(Point point) {
     const SimpleItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM && EditModeOf(*item) == EM_CUSTOM) {
         const bool takes = window.customs[item->value.custom].takesPress;
-        TellCustomItem(DD_CUSTOM_PRESS, point);
+        TellCustomItem(WC_CUSTOM_PRESS, point);
         if (takes) {
             Capture(CP_CUSTOM);
             return;
@@ -96,7 +96,7 @@ void CSimpleGrid::PressRow(Point point) {
     } else if (const SimpleItem* const item = FindItemAt(point)) {
         PressItem(*item, point);
     } else {
-        Record({.kind = DD_DEFAULT});
+        Record({.kind = WC_DEFAULT});
     }
 }
 
@@ -113,11 +113,11 @@ void CSimpleGrid::PressItem(const SimpleItem& item, Point point) {
 void CSimpleGrid::Capture(ECapture use) {
     m_use = use;
     window.captured = true;
-    Record({.kind = DD_CAPTURE});
+    Record({.kind = WC_CAPTURE});
     Repaint();
 }
 
-// Returns what the mouse was captured for. Whoever took the capture away has it already.
+// Returns what the mouse was captured for. A window that took the capture away has it already.
 CSimpleGrid::ECapture CSimpleGrid::EndCapture() {
     const ECapture use = std::exchange(m_use, CP_NONE);
     if (use != CP_NONE) {
@@ -125,7 +125,7 @@ CSimpleGrid::ECapture CSimpleGrid::EndCapture() {
         Repaint();
     }
     if (std::exchange(window.captured, false)) {
-        Record({.kind = DD_END_CAPTURE});
+        Record({.kind = WC_END_CAPTURE});
     }
     return use;
 }
@@ -135,7 +135,7 @@ void CSimpleGrid::LoseCapture() {
     EndCapture();
 }
 
-void CSimpleGrid::TellCustomItem(EDeed event, Point point) {
+void CSimpleGrid::TellCustomItem(EWindowCall event, Point point) {
     const SimpleItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM) {
         Record({.kind = event, .item = item->id, .rect = item->valueRect, .point = point});
@@ -145,7 +145,7 @@ void CSimpleGrid::TellCustomItem(EDeed event, Point point) {
 
 void CSimpleGrid::Move(Point point) {
     if (m_use == CP_CUSTOM) {
-        TellCustomItem(DD_CUSTOM_MOVE, point);
+        TellCustomItem(WC_CUSTOM_MOVE, point);
     } else if (m_use == CP_BUTTON) {
         asksForPaint = asksForPaint || buttonPressed != IsOnButton(point);
         buttonPressed = IsOnButton(point);
@@ -166,7 +166,7 @@ void CSimpleGrid::Release(Point point, unsigned answer) {
     const bool edit = std::exchange(m_editOnRelease, false);
     const ECapture use = EndCapture();
     if (use == CP_CUSTOM) {
-        TellCustomItem(DD_CUSTOM_UP, point);
+        TellCustomItem(WC_CUSTOM_UP, point);
         return;
     }
     if (use == CP_DIVIDER) {
@@ -217,7 +217,7 @@ void CSimpleGrid::OpenEditor(Point point, unsigned answer) {
     } else if (mode == EM_MODAL) {
         EditInDialog(item->id, answer);
     } else if (mode == EM_CUSTOM) {
-        TellCustomItem(DD_CUSTOM_UP, point);
+        TellCustomItem(WC_CUSTOM_UP, point);
     } else if (mode == EM_INPLACE_BUTTON) {
         const bool onText = point.x < button.right - m_rowHeight;
         if (onText || !m_textPart) {
@@ -234,25 +234,25 @@ void CSimpleGrid::OpenText(const SimpleItem& item, const Rect& rect) {
     window.openedText = EditTextOf(item);
     window.text = window.openedText;
     window.typed = false;
-    Record({.kind = DD_OPEN_TEXT, .item = item.id, .rect = rect, .text = window.text});
+    Record({.kind = WC_OPEN_TEXT, .item = item.id, .rect = rect, .text = window.text});
 }
 
 void CSimpleGrid::DropDown(const SimpleItem& item) {
     const Rect cell = {gutter, editButton.top, editButton.right, editButton.bottom};
     window.editor = ED_NONE;
     if (item.kind == IT_CUSTOM) {
-        Record({.kind = DD_CUSTOM_DROP_DOWN, .item = item.id, .rect = cell});
+        Record({.kind = WC_CUSTOM_DROP_DOWN, .item = item.id, .rect = cell});
         React();
     } else if (item.kind == IT_DATE) {
         window.editor = ED_CALENDAR;
-        Record({.kind = DD_OPEN_CALENDAR, .item = item.id, .rect = cell});
+        Record({.kind = WC_OPEN_CALENDAR, .item = item.id, .rect = cell});
     } else {
         window.editor = ED_LIST;
-        Record({.kind = DD_OPEN_LIST, .item = item.id, .rect = cell});
+        Record({.kind = WC_OPEN_LIST, .item = item.id, .rect = cell});
     }
 }
 
-// While a dialog is open the client may do away with the item, or put another in its place.
+// While a dialog is open the client may remove the item or replace it.
 void CSimpleGrid::EditInDialog(Id id, unsigned answer) {
     window.editor = ED_NONE;
     const SimpleItem* const item = FindItem(id);
@@ -261,7 +261,7 @@ void CSimpleGrid::EditInDialog(Id id, unsigned answer) {
         return;
     }
     const EItemType kind = item->kind;
-    Record({.kind = DD_DIALOG, .item = id});
+    Record({.kind = WC_DIALOG, .item = id});
     React();
     SimpleItem* const edited = FindItem(id);
     const bool confirmed = answer % 2 == 1;
@@ -275,7 +275,7 @@ void CSimpleGrid::EditInDialog(Id id, unsigned answer) {
 void CSimpleGrid::PressCustomButton(Id id) {
     const unsigned custom = FindItem(id)->value.custom;
     const bool changes = window.customs[custom].changes;
-    Record({.kind = DD_CUSTOM_BUTTON, .item = id});
+    Record({.kind = WC_CUSTOM_BUTTON, .item = id});
     React();
     if (changes) {
         ReportCustomChange(id, custom);
@@ -292,7 +292,7 @@ void CSimpleGrid::ReportCustomChange(Id id, unsigned custom) {
 
 void CSimpleGrid::Notify(Id id) {
     Repaint();
-    Record({.kind = DD_NOTIFY, .item = id});
+    Record({.kind = WC_NOTIFY, .item = id});
     React();
     Repaint();
 }
@@ -340,7 +340,7 @@ void CSimpleGrid::TakeText(const std::wstring& text, bool typed) {
     } else if (isNumber && text.empty()) {
         Repaint();
     } else if (isNumber || item->kind == IT_STRING) {
-        // What nobody typed keeps its value: a number the digits that its text does not have.
+        // Text that was not typed keeps its value: a number the digits that its text does not have.
         if (typed) {
             item->value.text = text;
             item->value.number = ReadInteger(text);
@@ -354,7 +354,7 @@ void CSimpleGrid::TakeText(const std::wstring& text, bool typed) {
 void CSimpleGrid::GiveCustomText(Id id, const std::wstring& text) {
     const unsigned custom = FindItem(id)->value.custom;
     const bool changes = window.customs[custom].changes;
-    Record({.kind = DD_CUSTOM_TEXT, .item = id, .text = text});
+    Record({.kind = WC_CUSTOM_TEXT, .item = id, .text = text});
     React();
     if (changes) {
         ReportCustomChange(id, custom);

@@ -22,7 +22,7 @@ TextLines Lines(std::string_view bytes) {
 }
 
 std::wstring Lookup(unsigned id) {
-    Require(id >= 1 && id <= 0xFFFF, "a text is asked for by a number that names one");
+    Require(id >= 1 && id <= 0xFFFF, "a text is requested by a valid number");
     return id % 2 == 0 ? std::wstring() : L"Text " + std::to_wstring(id) + (id % 3 == 0 ? L"%" : L"");
 }
 

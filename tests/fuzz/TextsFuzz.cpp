@@ -55,7 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(table.Texts().empty() && table.Files().empty(), "a file that is refused adds nothing");
     }
     for (const TextEntry& text : table.Texts()) {
-        Require(text.number <= 0xFFFF && text.language < table.Languages().size(), "texts have a place");
+        Require(text.number <= 0xFFFF && text.language < table.Languages().size(),
+                "texts have a valid number and language");
         Require(table.Load(text.number).size() <= CTextTable::kLongestText, "a loaded text is cut");
     }
     if (!bytes.starts_with("MZ")) {

@@ -34,7 +34,7 @@ constexpr Rule kBlockNested = {
     "VAR\n$1 = \"<<1501>>\"D 900\nVAR\n$2 = \"<<1502>>\"D 2100\nEND_VAR\nEND_VAR"};
 
 constexpr Rule kBlockEmpty = {"block-empty", SV_WARNING, "a block without parameters",
-                              "Nothing between VAR and END_VAR is a parameter.", "VAR\nEND_VAR"};
+                              "There is no parameter between VAR and END_VAR.", "VAR\nEND_VAR"};
 
 constexpr Rule kBlockCloseStray = {"block-close-stray", SV_NOTE, "END_VAR where no block is open",
                                    "The line has no effect. Perhaps the VAR that belongs to it is missing.",
@@ -53,7 +53,8 @@ bool IsInvisible(wchar_t character) {
     return character <= L' ' || IsBlank(character);
 }
 
-// The letters of a line in capitals; nothing when there are too many for a line that opens or closes a block.
+// The letters of a line, in capitals. Empty when the line is no misspelt VAR or END_VAR: it has more letters,
+// or other characters.
 std::wstring Letters(const std::wstring& text) {
     constexpr std::size_t kMost = 6;
     std::wstring letters;
@@ -85,7 +86,7 @@ void CBlockRules::TakeLine(const ItemLine& line) {
             m_unclosed = Findings().Make(kBlockUnclosed, line, 0, line.text.size(),
                                          "this block is not closed: END_VAR is missing");
             m_empty =
-                Findings().Make(kBlockEmpty, line, 0, line.text.size(), "this block holds no parameter");
+                Findings().Make(kBlockEmpty, line, 0, line.text.size(), "this block contains no parameter");
             break;
         case LK_CLOSING:
             m_unclosed.reset();

@@ -100,11 +100,11 @@ void CTitleRules::CheckLength(const ItemLine& line, int number) {
         longest = std::max(longest, title != nullptr ? title->text.size() : 0);
     }
     if (prefix + longest > kLongestHeader) {
-        const std::string room = std::to_string(kLongestHeader);
+        const std::string capacity = std::to_string(kLongestHeader);
         Findings().Add(kTitleTooLong, line, 0, line.text.size(),
                        "the title has " + std::to_string(longest) + " characters" +
                            (prefix != 0 ? " after the " + std::to_string(prefix) + " of text 1363" : "") +
-                           ", the header shows about " + room);
+                           ", the header shows about " + capacity);
     }
 }
 

@@ -53,20 +53,23 @@ CheckOptions ParseCheckOptions(const std::vector<std::string>& arguments) {
 }
 
 const char* CheckHelp() {
-    return R"(tavrincheck: checks item files as the module reads them
+    return R"(tavrincheck: checks item files for errors, reading them as TavrinWnd.dll does
 
   tavrincheck [OPTIONS] FILE|FOLDER...
+  tavrincheck new ...       writes the files of a new item (see tavrincheck new --help)
   tavrincheck preview ...   shows the item dialog as text (see tavrincheck preview --help)
   tavrincheck extract ...   moves labels into a string table (see tavrincheck extract --help)
+  tavrincheck texts ...     makes TavrinRes.dll from its script (see tavrincheck texts --help)
 
 NAME.TXT is checked as a template, NAME_TMP.TXT as a working file, and the two are compared if both exist. In
-folders all *.TXT are checked. The picture NAME.png and the slides that NAME.lsp offers must exist beside NAME.TXT.
+folders all *.TXT are checked. The picture NAME.png and the slides (pictures of variants) that NAME.lsp offers must
+exist beside NAME.TXT.
 
   --texts FILE       the texts of placeholders: a string table script or a TavrinRes.dll; repeatable, one per
                      language
   --format FORMAT    text (default), json or sarif
   --disable RULES    disable a rule, or several separated by commas; repeatable
-  --strict           notes count for the exit status too
+  --strict           findings of severity note lead to exit status 1 too
   --rules            print all rules, each with an explanation and an example
   --version          print the version
   -h, --help         print this help

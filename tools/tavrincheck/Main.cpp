@@ -18,7 +18,9 @@
 #include "tools/files/Files.h"
 #include "tools/tavrincheck/CheckCommand.h"
 #include "tools/tavrincheck/ExtractCommand.h"
+#include "tools/tavrincheck/NewCommand.h"
 #include "tools/tavrincheck/PreviewCommand.h"
+#include "tools/tavrincheck/TextsCommand.h"
 
 namespace tavrin::tools {
 
@@ -60,7 +62,9 @@ using Command = int (*)(const std::vector<std::string>& arguments);
 int Run(std::vector<std::string> arguments) {
     static const std::map<std::string_view, Command> commands = {
         {"extract", RunExtract},
+        {"new", RunNew},
         {"preview", RunPreview},
+        {"texts", RunTexts},
     };
     const auto command = arguments.empty() ? commands.end() : commands.find(arguments.front());
     if (command == commands.end()) {

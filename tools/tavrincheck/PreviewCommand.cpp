@@ -32,13 +32,13 @@ constexpr const char* kHelp = R"(tavrincheck preview: shows the item dialog as t
 
   tavrincheck preview [OPTIONS] FILE
 
-If FILE is NAME_TMP.TXT, the dialog shows that working file, and OK writes NAME.TXT beside it too. Any other file is
-a template; the working file is assumed to be a copy of it, as item routines write it.
+NAME_TMP.TXT is a working file: the dialog shows it, and OK also updates the template NAME.TXT beside it. Any other
+FILE is a template; its working file is assumed to be a copy of it, which is what item routines write.
 
   --texts FILE         the texts of placeholders: a string table script or a TavrinRes.dll; repeatable, the
                        first language is shown. Without this option placeholders are shown as they are
-  --scale X            the factor between the values in the files and in the dialog (default: 1)
-  --mode N             the mode; 1 makes labels with the mark % read-only (default: 0)
+  --scale X            the scale of the call: the dialog shows the values of the file times X (default: 1)
+  --mode N             the mode of the call; with 1, rows whose label ends in % are read-only (default: 0)
   --lunits N           the drawing's LUNITS for distances, 1 to 5 (default: 2)
   --luprec N           the drawing's LUPREC for distances, 0 to 8 (default: 4)
   --set NUMBER=VALUE   type a value into the row of the parameter with that number; repeatable

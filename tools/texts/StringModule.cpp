@@ -144,7 +144,7 @@ private:
                 Fail("text " + std::to_string(number) + " is longer than its block");
             }
             if (length > 0) {
-                m_texts.push_back({number, Units(at, length), LanguageName(language)});
+                m_texts.push_back({number, Units(at, length), language, LanguageName(language)});
             }
             at += length * 2;
         }

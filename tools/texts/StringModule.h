@@ -1,4 +1,5 @@
-// The string tables of a compiled module: a DLL or EXE file, 32 or 64 bit, whatever machine it is for.
+// The string tables of a compiled module: a DLL or EXE file, 32 or 64 bit, whatever machine it is for. What
+// writes such a module is in StringModuleWriter.h.
 #pragma once
 
 #include <string>
@@ -10,7 +11,8 @@ namespace tavrin::tools {
 struct ModuleText {
     unsigned number = 0;
     std::wstring text;  // UTF-16 units
-    std::string language;
+    unsigned languageId = 0;
+    std::string language;  // its name
 };
 
 // Whether the bytes begin like a Windows program file.

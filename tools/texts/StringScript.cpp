@@ -349,6 +349,11 @@ private:
     std::wstring m_text;
 };
 
+struct ScriptLanguage {
+    std::string name;  // empty before any LANGUAGE
+    std::optional<unsigned> id = kDefaultLanguage;
+};
+
 class CParser {
 public:
     CParser(const std::string& name, std::string_view bytes) : m_name(name), m_lexer(name, bytes) {}
@@ -382,7 +387,7 @@ private:
         throw LineError(m_name, m_token.line, message);
     }
 
-    std::string TakeLanguage() {
+    ScriptLanguage TakeLanguage() {
         Advance();
         const std::string_view primary = TakeWord();
         if (!IsSign(m_token, ',')) {
@@ -392,10 +397,16 @@ private:
         const std::string_view secondary = TakeWord();
         const std::optional<unsigned> major = NumberOf(primary);
         const std::optional<unsigned> minor = NumberOf(secondary);
+        ScriptLanguage language{std::string(primary) + ", " + std::string(secondary), std::nullopt};
         if (major && minor) {
-            return LanguageName(*major | *minor << 10);
+            language.name = LanguageName(LanguageId(*major, *minor));
         }
-        return std::string(primary) + ", " + std::string(secondary);
+        const std::optional<unsigned> high = major ? major : PrimaryLanguage(primary);
+        const std::optional<unsigned> low = minor ? minor : Sublanguage(secondary);
+        if (high && low) {
+            language.id = LanguageId(*high, *low) & 0xFFFFU;
+        }
+        return language;
     }
 
     std::string_view TakeWord() {
@@ -409,7 +420,7 @@ private:
 
     void TakeTable() {
         const std::size_t start = m_token.line;
-        std::string language = m_language;
+        ScriptLanguage language = m_language;
         Advance();
         while (!IsOpening(m_token)) {
             if (IsWord(m_token, "LANGUAGE")) {
@@ -428,11 +439,11 @@ private:
             }
             TakeText(language);
         }
-        m_script.tables.push_back({language, m_token.codePage, m_token.offset});
+        m_script.tables.push_back({language.name, m_token.codePage, m_token.offset});
         Advance();
     }
 
-    void TakeText(const std::string& language) {
+    void TakeText(const ScriptLanguage& language) {
         const std::optional<unsigned> number =
             m_token.kind == TK_WORD ? NumberOf(m_token.text) : std::nullopt;
         if (!number || *number > kHighestNumber) {
@@ -441,7 +452,8 @@ private:
         }
         ScriptText text;
         text.number = *number;
-        text.language = language;
+        text.language = language.name;
+        text.languageId = language.id;
         text.line = m_token.line;
         text.column = m_token.column;
         Advance();
@@ -460,7 +472,7 @@ private:
     const std::string& m_name;
     CLexer m_lexer;
     Token m_token;
-    std::string m_language;
+    ScriptLanguage m_language;
     StringScript m_script;
 };
 

@@ -20,18 +20,22 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "tools/texts/LanguageId.h"
 
 namespace tavrin::tools {
 
 struct ScriptText {
     unsigned number = 0;
-    std::wstring text;       // UTF-16 units
-    std::string language;    // empty before any LANGUAGE
-    std::size_t line = 0;    // of its number, from 1
-    std::size_t column = 0;  // in bytes, from 1
+    std::wstring text;                                      // UTF-16 units
+    std::string language;                                   // empty before any LANGUAGE
+    std::optional<unsigned> languageId = kDefaultLanguage;  // nothing for an unknown name
+    std::size_t line = 0;                                   // of its number, from 1
+    std::size_t column = 0;                                 // in bytes, from 1
 };
 
 // A string table, as far as needed to add texts to it.

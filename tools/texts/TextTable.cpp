@@ -14,6 +14,7 @@ struct CTextTable::Reading {
         unsigned number;
         std::wstring text;
         std::string language;
+        std::optional<unsigned> languageId;
         std::size_t line;
         std::size_t column;
     };
@@ -33,12 +34,13 @@ void CTextTable::ReadBytes(const std::string& name, std::string_view bytes) {
     Reading reading{name, {}};
     if (LooksLikeModule(bytes)) {
         for (ModuleText& text : ReadStringModule(name, bytes)) {
-            reading.entries.push_back({text.number, std::move(text.text), std::move(text.language), 0, 0});
+            reading.entries.push_back(
+                {text.number, std::move(text.text), std::move(text.language), text.languageId, 0, 0});
         }
     } else {
         for (ScriptText& text : ReadStringScript(name, bytes).texts) {
-            reading.entries.push_back(
-                {text.number, std::move(text.text), std::move(text.language), text.line, text.column});
+            reading.entries.push_back({text.number, std::move(text.text), std::move(text.language),
+                                       text.languageId, text.line, text.column});
         }
     }
     Add(std::move(reading));
@@ -58,6 +60,7 @@ void CTextTable::Add(Reading reading) {
         const auto [language, isNew] = languages.try_emplace(entry.language, languages.size());
         if (isNew) {
             whole.m_languages.push_back(entry.language);
+            whole.m_languageIds.push_back(entry.languageId);
         }
         const auto [index, isFirst] =
             whole.m_indices.try_emplace({entry.number, language->second}, whole.m_texts.size());

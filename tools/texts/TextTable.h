@@ -12,6 +12,7 @@
 
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -49,6 +50,8 @@ public:
     // given by number; each script without LANGUAGE has a language of its own.
     const std::vector<std::string>& Files() const { return m_files; }
     const std::vector<std::string>& Languages() const { return m_languages; }
+    // The number of a language in resources; nothing when its name is not known.
+    std::optional<unsigned> LanguageIdOf(std::size_t language) const { return m_languageIds[language]; }
 
     // All texts, in the order in which the files hold them.
     const std::vector<TextEntry>& Texts() const { return m_texts; }
@@ -70,6 +73,7 @@ private:
 
     std::vector<std::string> m_files;
     std::vector<std::string> m_languages;
+    std::vector<std::optional<unsigned>> m_languageIds;
     std::vector<TextEntry> m_texts;
     std::map<Key, std::size_t> m_indices;  // in m_texts
 };

@@ -14,8 +14,8 @@
     (write-line line file))
   (close file))
 
-; The place behind the first " = " in a line; nil when there is none.
-(defun value-place (line / at)
+; The position after the first " = " in a line; nil when there is none.
+(defun value-position (line / at)
   (setq at 1)
   (while (and (< at (strlen line)) (/= (substr line at 3) " = "))
     (setq at (1+ at)))
@@ -23,13 +23,13 @@
       (+ at 3)))
 
 ; #1 = 900 as (1 . 900.0), $3 = 6 as (3 . 6); nil for a line that is no assignment.
-(defun assignment (line / sign place)
-  (setq sign  (substr line 1 1)
-        place (value-place line))
+(defun assignment (line / sign position)
+  (setq sign     (substr line 1 1)
+        position (value-position line))
   (cond
-    ((not place) nil)
-    ((= sign "#") (cons (atoi (substr line 2)) (atof (substr line place))))
-    ((= sign "$") (cons (atoi (substr line 2)) (atoi (substr line place))))))
+    ((not position) nil)
+    ((= sign "#") (cons (atoi (substr line 2)) (atof (substr line position))))
+    ((= sign "$") (cons (atoi (substr line 2)) (atoi (substr line position))))))
 
 ; The values after OK, nil otherwise.
 (defun edit-item (name / template base values)

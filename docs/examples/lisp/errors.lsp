@@ -1,4 +1,4 @@
-; An error ends everything that runs. *error* is told first.
+; An error ends the whole evaluation. *error* is called first.
 
 (defun *error* (text)
   (princ (strcat "stopped: " text))

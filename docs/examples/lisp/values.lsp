@@ -17,7 +17,7 @@
   product)
 
 (say (area width 2100))
-(say product)                    ; nobody knows it here
+(say product)                    ; not defined here
 
 (defun count-down (from)
   (while (> from 0)

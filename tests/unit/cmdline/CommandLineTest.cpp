@@ -9,7 +9,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// A program with options of every kind. What it is given is noted in order: "[--text=a] [--number=2] strict
+// A program with options of every kind. Its values are recorded in order: "[--text=a] [--number=2] strict
 // file".
 class CommandLine : public testing::Test {
 protected:

@@ -45,7 +45,7 @@ TEST_F(DrawFunctions, CirclesAndArcsHaveACentreAndARadius) {
     EXPECT_EQ(Only<ArcEntity>().end, 1.5);
 }
 
-TEST_F(DrawFunctions, ATextHasAPlaceAHeightAndAnAngle) {
+TEST_F(DrawFunctions, ATextHasAPositionAHeightAndAnAngle) {
     ExpectValues({{L"(draw-text '(1 2) 2.5 0.5 \"porta\")", L"T"}});
     EXPECT_EQ(Only<TextEntity>().position, (Point{1, 2}));
     EXPECT_EQ(Only<TextEntity>().height, 2.5);

@@ -105,7 +105,7 @@ TEST(Drawing, TakesNothingThatCannotBeShown) {
     EXPECT_TRUE(drawing.Entities().empty());
 }
 
-TEST(Drawing, TellsItsListenerOfEachChange) {
+TEST(Drawing, NotifiesItsListenerOfEachChange) {
     CDrawing drawing;
     int changes = 0;
     drawing.SetListener([&] { ++changes; });

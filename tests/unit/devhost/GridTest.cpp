@@ -29,7 +29,7 @@ TEST(Grid, StepsAreTheWholeMultiplesInBetween) {
     EXPECT_EQ(GridSteps(1, 19, 20), std::vector<double>());
 }
 
-TEST(Grid, WhereStepsCannotBeToldApartThereAreNone) {
+TEST(Grid, WhereStepsCannotBeDistinguishedThereAreNone) {
     EXPECT_EQ(GridSteps(1e12, 1e12 + 1e-3, 2e-8), std::vector<double>());
     EXPECT_EQ(GridSteps(-1e12 - 1e-3, -1e12, 2e-8), std::vector<double>());
     EXPECT_EQ(GridSteps(1e12, 1e12 + 40, 20), (std::vector<double>{5e10, 5e10 + 1, 5e10 + 2}));

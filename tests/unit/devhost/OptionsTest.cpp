@@ -27,6 +27,7 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
     EXPECT_TRUE(options.searchFolders.empty());
     EXPECT_TRUE(options.itemFolders.empty());
     EXPECT_TRUE(options.tasks.empty());
+    EXPECT_EQ(options.texts, L"");
     EXPECT_EQ(options.drawingFile, L"");
     EXPECT_FALSE(options.stay);
     EXPECT_FALSE(options.version);
@@ -37,10 +38,12 @@ TEST(Options, WithoutArgumentsTheDefaultsHold) {
 }
 
 TEST(Options, EachOptionIsTakenAndRepeatedOnesKeepTheirOrder) {
-    const Options options = Parse(
-        {L"--search", L"a",     L"--plugin", L"p.dll", L"--search",  L"b c",   L"--eval",   L"(f 1)",
-         L"--script", L"s.lsp", L"--eval",   L"-1",    L"--lunits",  L"5",     L"--luprec", L"0",
-         L"--items",  L"i",     L"--items",  L"j",     L"--drawing", L"d.svg", L"--stay",   L"--check-heap"});
+    const Options options =
+        Parse({L"--search", L"a",        L"--plugin",     L"p.dll",   L"--search", L"b c",      L"--eval",
+               L"(f 1)",    L"--script", L"s.lsp",        L"--eval",  L"-1",       L"--lunits", L"5",
+               L"--luprec", L"0",        L"--items",      L"i",       L"--items",  L"j",        L"--drawing",
+               L"d.svg",    L"--stay",   L"--check-heap", L"--texts", L"t.dll"});
+    EXPECT_EQ(options.texts, L"t.dll");
     EXPECT_EQ(options.plugIn, L"p.dll");
     EXPECT_EQ(options.searchFolders, (std::vector<std::wstring>{L"a", L"b c"}));
     EXPECT_EQ(options.itemFolders, (std::vector<std::wstring>{L"i", L"j"}));
@@ -90,7 +93,7 @@ TEST(Options, TheHelpNamesEveryOption) {
     const std::wstring help = HelpText();
     for (const wchar_t* option :
          {L"--plugin", L"--search", L"--lunits", L"--luprec", L"--eval", L"--check-heap", L"--help",
-          L"--items", L"--script", L"--drawing", L"--stay", L"--version"}) {
+          L"--items", L"--texts", L"--script", L"--drawing", L"--stay", L"--version"}) {
         EXPECT_NE(help.find(option), std::wstring::npos) << testing::PrintToString(option);
     }
 }

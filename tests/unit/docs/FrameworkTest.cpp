@@ -30,7 +30,7 @@ std::string NameIn(const std::string& declaration) {
     return {};
 }
 
-// Goes through a header without comments and macros and notes the members that a class shows.
+// Goes through a header without comments and macros and records the public members of a class.
 class CHeaderReader {
 public:
     explicit CHeaderReader(Names& names) : m_names(names) {}

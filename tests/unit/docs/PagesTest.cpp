@@ -1,4 +1,5 @@
-// The documentation is right in what can be checked by itself: examples, links, names of files and targets.
+// The documentation is right in what can be checked automatically: examples, links, names of files and
+// targets.
 #include <gtest/gtest.h>
 
 #include <regex>

@@ -22,7 +22,7 @@ std::string NameOf(int content) {
     return content == kCellLogo ? "`logo.png`" : std::to_string(content + 1);
 }
 
-TEST(Documentation, TellsWhereEachChoiceStands) {
+TEST(Documentation, SaysWhereEachChoiceStands) {
     int countsSeen = 0;
     for (const std::vector<std::string>& row : ReadPage("docs/authors/pictures.md").rows) {
         if (row.size() != 1 + kChoiceCells || row[0].size() != 1 || row[0][0] < '1' || row[0][0] > '6') {

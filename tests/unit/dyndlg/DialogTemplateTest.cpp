@@ -129,7 +129,7 @@ TEST(DialogTemplate, TakesTwentySixBytesAndTwoPerCharacterForAnItem) {
     }
 }
 
-TEST(DialogTemplate, CutsAnItemsPlaceAndIdToSixteenBits) {
+TEST(DialogTemplate, CutsAnItemsRectangleAndIdToSixteenBits) {
     DialogTemplate dialog;
     dialog.items.push_back(
         {.rect = {-1, 0x12345, 0x7FFFFFFF, -0x7FFFFFFF - 1}, .id = 0xABCD1234, .typeCode = 0x00050081});

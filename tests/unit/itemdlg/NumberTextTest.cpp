@@ -38,7 +38,7 @@ std::string Narrow(const std::wstring& text) {
 
 }  // namespace
 
-TEST(ReadLeadingNumber, TellsWhereTheNumberEnds) {
+TEST(ReadLeadingNumber, ReturnsTheEndOfTheNumber) {
     const auto end = [](const wchar_t* text) { return ReadLeadingNumber(text).end; };
     EXPECT_EQ(end(L"900"), 3u);
     EXPECT_EQ(end(L" 900 mm"), 4u);

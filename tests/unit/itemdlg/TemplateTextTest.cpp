@@ -13,7 +13,7 @@ using namespace tavrin::itemdlg;
 
 namespace {
 
-// A lookup in a fixed table that notes what it was asked for.
+// A lookup in a fixed table that records the requested numbers.
 class CTexts {
 public:
     TextLookup Lookup() {
@@ -69,7 +69,7 @@ TEST(BlockTracker, FindsTheLinesBetweenVarAndEndVar) {
     EXPECT_TRUE(LinesInBlocks({}).empty());
 }
 
-TEST(BlockTracker, TellsWhetherABlockIsOpen) {
+TEST(BlockTracker, SaysWhetherABlockIsOpen) {
     CBlockTracker block;
     EXPECT_FALSE(block.IsOpen());
     block.TakeLine(CBlockTracker::kOpeningLine);
@@ -355,24 +355,24 @@ TEST(ReadParameter, ReadsALineOfAMegabyte) {
     EXPECT_EQ(record.intValue, 2147483647);
 }
 
-TEST(TemplateText, TellsAWantOfMemoryAndRecovers) {
+TEST(TemplateText, ReportsAFailingAllocationAndRecovers) {
     const std::wstring line =
         L"$1 = \"<<1501>> and a rather long label behind it\"D 900 and a rather long value";
     bool failed = true;
     for (std::size_t allocations = 0; failed; ++allocations) {
-        bool told = false;
+        bool reported = false;
         bool recognised = false;
         {
             const CFailingMemory memory(allocations);
             try {
                 recognised = ParseParameterLine(line).has_value() && PlaceholderNumber(line) == 1501;
             } catch (const std::bad_alloc&) {
-                told = true;
+                reported = true;
             }
             failed = memory.HasFailed();
         }
         EXPECT_EQ(recognised, !failed);
-        EXPECT_EQ(told, failed);
+        EXPECT_EQ(reported, failed);
         EXPECT_EQ(ParseParameterLine(line)->number, L"1");
         EXPECT_EQ(PlaceholderNumber(line), 1501);
     }

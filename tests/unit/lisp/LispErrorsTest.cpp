@@ -1,4 +1,4 @@
-// Errors of evaluations: their location, *error*, Escape, and the limits.
+// Evaluation errors: their location, the *error* function, Escape, and the limits on recursion and memory.
 #include "tests/unit/lisp/LispFixture.h"
 
 using namespace tests;
@@ -20,7 +20,7 @@ TEST_F(LispErrors, TheInnermostFunctionAndItsLineAreNamed) {
               L"line 3: in LAMBDA: CAR needs a list as argument 1, not 1");
 }
 
-TEST_F(LispErrors, ACallMadeAtRunTimeHasTheLineAroundIt) {
+TEST_F(LispErrors, ACallBuiltAtRunTimeHasTheEnclosingLine) {
     EXPECT_EQ(Mistake(L"\n(eval (list 'car 5))"), L"line 2: CAR needs a list as argument 1, not 5");
     EXPECT_EQ(Mistake(L"(defun f ()\n 1)\n(defun g ()\n (f)\n (apply 'car '(5)))\n(g)"),
               L"line 5: in G: CAR needs a list as argument 1, not 5");
@@ -36,7 +36,7 @@ TEST_F(LispErrors, TheSilentResultOfPrincIsNamed) {
     EXPECT_EQ(Mistake(L"(+ 1 (princ))"), L"line 1: + needs a number as argument 2, not what (princ) gives");
 }
 
-TEST_F(LispErrors, TheUsersOwnErrorFunctionHearsOfAMistakeOnce) {
+TEST_F(LispErrors, TheUsersOwnErrorFunctionIsCalledOnce) {
     Evaluate(
         L"(defun *error* (text) (princ (strcat \"[\" text \"]\")))(defun f (x) (g x)) (defun g (x) (car x))");
     try {
@@ -48,7 +48,7 @@ TEST_F(LispErrors, TheUsersOwnErrorFunctionHearsOfAMistakeOnce) {
     EXPECT_EQ(m_host.output, L"[line 1: in G: CAR needs a list as argument 1, not 5]");
 }
 
-TEST_F(LispErrors, WithoutOneTheMistakeIsTheHosts) {
+TEST_F(LispErrors, WithoutAnErrorFunctionTheHostReportsTheError) {
     try {
         Evaluate(L"(car 5)");
         FAIL();
@@ -70,7 +70,7 @@ TEST_F(LispErrors, AnErrorFunctionMayBeALocalAndSeesTheLocals) {
     ExpectValues({{L"saved", L"1"}, {L"*error*", L"nil"}});
 }
 
-TEST_F(LispErrors, AMistakeInTheErrorFunctionIsToldInstead) {
+TEST_F(LispErrors, AnErrorInTheErrorFunctionIsReportedInstead) {
     Evaluate(L"(defun *error* (text) (cdr 6))");
     try {
         Evaluate(L"(car 5)");
@@ -92,7 +92,7 @@ TEST_F(LispErrors, AnErrorFunctionMayExit) {
     EXPECT_THROW(Evaluate(L"(car 5)"), LispExit);
 }
 
-TEST_F(LispErrors, AfterAnErrorEverythingGoesOn) {
+TEST_F(LispErrors, EvaluationContinuesAfterAnError) {
     Mistake(L"(defun f (x) (f x)) (f 1)");
     ExpectValues({{L"(+ 1 2)", L"3"}, {L"x", L"nil"}});
 }
@@ -114,7 +114,7 @@ TEST_F(LispErrors, TheErrorFunctionIsCalledForEscape) {
     EXPECT_EQ(m_host.output, L"cancelled");
 }
 
-TEST_F(LispErrors, ListElementsCountAsStepsTowardsEscape) {
+TEST_F(LispErrors, EscapeIsPolledWhileListsAreBuilt) {
     m_host.escapeAt = 3;
     EXPECT_EQ(Mistake(L"(setq l '(1)) (while T (setq l (append l l)))"), L"cancelled");
     ExpectValues({{L"(+ 1 2)", L"3"}});
@@ -129,11 +129,11 @@ TEST_F(LispErrors, RecursionWithoutEndIsAnError) {
     EXPECT_EQ(Mistake(L"(setq e '(eval e)) (eval e)"), std::wstring(L"line 1: ") + kTooDeep);
 }
 
-TEST_F(LispErrors, ReasonableRecursionIsNone) {
+TEST_F(LispErrors, ModerateRecursionIsNoError) {
     ExpectValues({{L"(defun count (n) (if (= n 0) 0 (1+ (count (1- n))))) (count 400)", L"400"}});
 }
 
-TEST_F(LispErrors, TheErrorFunctionRunsWhereTheStackIsUsedUp) {
+TEST_F(LispErrors, TheErrorFunctionRunsAfterTooDeepRecursion) {
     Evaluate(L"(defun *error* (text) (princ (strcat \"[\" (substr text 1 12) \"]\")))");
     Mistake(L"(defun f (x) (1+ (f x))) (f 1)");
     EXPECT_EQ(m_host.output, L"[line 1: in F]");
@@ -144,7 +144,7 @@ TEST_F(LispErrors, ARecursiveErrorFunctionEndsToo) {
               std::wstring(L"line 1: in *ERROR*: ") + kTooDeep);
 }
 
-TEST_F(LispErrors, DataNestedDeepIsHandledOrRefused) {
+TEST_F(LispErrors, DeeplyNestedDataIsHandledOrRefused) {
     constexpr wchar_t kMake[] = L"(setq a nil b nil) (repeat 300000 (setq a (list a) b (list b)))";
     Evaluate(kMake);
     ExpectValues({{L"(equal a b)", L"T"}, {L"(equal a (list b))", L"nil"}, {L"(type a)", L"LIST"}});
@@ -158,7 +158,7 @@ TEST_F(LispErrors, DeeplyNestedFunctionsAreDestroyed) {
     ExpectValues({{L"(setq f 1) (repeat 100000 (setq f (eval (list 'lambda nil f)))) (setq f nil)", L"nil"}});
 }
 
-TEST_F(LispErrors, SharedListsAreNotPrintedWithoutEnd) {
+TEST_F(LispErrors, ListsWithSharedPartsArePrintedUpToALimit) {
     Evaluate(L"(setq a '(1)) (repeat 60 (setq a (list a a))) nil");
     EXPECT_TRUE(Mistake(L"(princ a)").starts_with(L"line 1: a value is too long to be printed: (((("));
     m_host.escapeAt = 25;
@@ -167,7 +167,7 @@ TEST_F(LispErrors, SharedListsAreNotPrintedWithoutEnd) {
 
 constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
 
-TEST_F(LispErrors, ValuesDoNotTakeMemoryWithoutEnd) {
+TEST_F(LispErrors, TheMemoryOfValuesIsLimited) {
     m_evaluator.SetMemoryLimit(16 * kMegabyte);
     constexpr wchar_t kTooMuch[] =
         L"line 1: the values take more than 16 MB of memory: does a loop collect them without end?";
@@ -182,14 +182,14 @@ TEST_F(LispErrors, ValuesDoNotTakeMemoryWithoutEnd) {
     EXPECT_LT(CValue::HeldBytes(), kMegabyte) << "released memory is not counted";
 }
 
-TEST_F(LispErrors, TheErrorFunctionHasMemoryWhenAllIsTaken) {
+TEST_F(LispErrors, TheErrorFunctionHasMemoryAfterTheLimitIsReached) {
     m_evaluator.SetMemoryLimit(kMegabyte);
     Evaluate(L"(defun *error* (text) (setq all nil) (princ (substr text 1 26)))");
     Mistake(L"(while T (setq all (cons 1 all)))");
     EXPECT_EQ(m_host.output, L"line 1: the values take mo");
 }
 
-TEST_F(LispErrors, ATextDoesNotGrowWithoutEnd) {
+TEST_F(LispErrors, TheLengthOfATextIsLimited) {
     EXPECT_EQ(Mistake(L"(setq s \"x\") (while T (setq s (strcat s s)))"),
               L"line 1: STRCAT: the text would be longer than 4000000 characters");
 }

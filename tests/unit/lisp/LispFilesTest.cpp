@@ -105,7 +105,7 @@ TEST_F(LispFiles, WhatCannotBeOpenedIsNil) {
          {L"(close 5)", L"CLOSE needs an open file as argument 1, not 5"},
          {L"(read-line 5)", L"READ-LINE needs an open file as argument 1, not 5"},
          {L"(read-line (open \"none\" \"r\"))", L"READ-LINE needs an open file as argument 1, not nil"}});
-    EXPECT_TRUE(m_host.asked.empty()) << "the lines of a file that was not opened must not be asked for";
+    EXPECT_TRUE(m_host.asked.empty()) << "the lines of a file that was not opened must not be requested";
 }
 
 TEST_F(LispFiles, AFileIsUsedAsItWasOpened) {

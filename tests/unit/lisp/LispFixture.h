@@ -1,4 +1,4 @@
-// A test fixture with an evaluator. Its host records output and answers questions as the test says.
+// A test fixture with an evaluator. Its host records output and gives the test's answers to questions.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -66,7 +66,7 @@ protected:
         return result ? Print(*result) : L"; no result";
     }
 
-    // The text of the error that ends the evaluation.
+    // The text of the error that ends the evaluation; "gave VALUE" when there is no error.
     std::wstring Mistake(std::wstring_view text) {
         try {
             return L"gave " + Evaluate(text);
@@ -86,7 +86,7 @@ protected:
         }
     }
 
-    // Without the location, which is line 1 of typed text.
+    // Expects errors at line 1; `expected` is the text after the location.
     void ExpectMistakes(std::initializer_list<Case> cases) {
         for (const Case& c : cases) {
             EXPECT_EQ(Mistake(c.text), std::wstring(L"line 1: ") + c.expected)

@@ -88,7 +88,7 @@ TEST_F(LispQuestions, ATextIsTakenAsItIs) {
     ExpectValues({{L"(read-line)", L"\"line\""}});
 }
 
-TEST_F(LispQuestions, EscapeEndsWhatRunsWithoutAPlace) {
+TEST_F(LispQuestions, EscapeCancelsTheEvaluationWithoutAPosition) {
     for (const wchar_t* question :
          {L"(getpoint)", L"(getdist)", L"(getreal)", L"(getint)", L"(getstring)", L"(read-line)"}) {
         EXPECT_EQ(Mistake(std::wstring(L"(defun ask () ") + question + L" (princ \"after\")) (ask)"),

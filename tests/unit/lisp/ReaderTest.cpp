@@ -1,5 +1,5 @@
-// LISP text to values: each kind of expression, through what it prints as, and each mistake with the
-// place where it is found.
+// LISP text to values: each kind of expression, compared as printed, and each error with its
+// position.
 #include "lisp/Reader.h"
 
 #include <gtest/gtest.h>

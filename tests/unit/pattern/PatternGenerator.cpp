@@ -11,10 +11,10 @@ void ForEachText(const std::wstring& alphabet, std::size_t longest,
             }
             use(text);
             more = false;
-            for (std::size_t place = length; place > 0 && !more; --place) {
-                more = ++digits[place - 1] < alphabet.size();
+            for (std::size_t digit = length; digit > 0 && !more; --digit) {
+                more = ++digits[digit - 1] < alphabet.size();
                 if (!more) {
-                    digits[place - 1] = 0;
+                    digits[digit - 1] = 0;
                 }
             }
         }

@@ -335,7 +335,7 @@ TEST(PatternQuantifier, GivesBackUntilTheRestMatches) {
     EXPECT_EQ(Find(L"^(ab)*abc$", L"ababc"), L"ababc");
 }
 
-TEST(PatternQuantifier, GivesBackFromALongRunToThePlaceThatFits) {
+TEST(PatternQuantifier, BacktracksThroughALongRunToTheMatchingPosition) {
     const std::wstring filler(200, L'x');
     for (std::size_t before : {0u, 1u, 30u, 31u, 32u, 33u, 64u, 100u}) {
         const std::wstring head(before, L'y');
@@ -522,7 +522,7 @@ TEST(Match, PointsIntoTheCallersInput) {
     EXPECT_EQ(context.GroupText(0), L"B");
 }
 
-TEST(Match, TellsWhereItStoppedWhenItFails) {
+TEST(Match, ReturnsWhereItStoppedWhenItFails) {
     CPatternMatcher matcher;
     CMatchContext context;
     const wchar_t input[] = L"abc";
@@ -648,7 +648,7 @@ TEST(Parse, KeepsItsLastAnswer) {
     EXPECT_EQ(matcher.LastError(), PE_NONE);
 }
 
-TEST(Parse, TakesThePlaceOfThePatternBefore) {
+TEST(Parse, ReplacesThePreviousPattern) {
     CPatternMatcher matcher;
     CMatchContext context;
     ASSERT_EQ(matcher.Parse(L"{a}{b}", true), PE_NONE);

@@ -25,7 +25,7 @@ TEST_F(EditResult, ATypedTextIsStoredAndNotified) {
     EXPECT_EQ(std::get<std::wstring>(Item(id).value), L"new");
 }
 
-TEST_F(EditResult, NoTextForANumberNotifiesNobody) {
+TEST_F(EditResult, NoTextForANumberSendsNoNotification) {
     const Id id = AddItem(0, L"integer", IT_INTEGER, 5);
     const Actions actions = TakeEditText(model, id, L"", true);
     EXPECT_FALSE(HasAction<action::Notify>(actions));

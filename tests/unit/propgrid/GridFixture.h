@@ -1,5 +1,5 @@
-// What the tests of the grid's layout and input share: a model of rows of one height in a view of 300 x 200
-// pixels, a paint that draws nothing, and short names for the actions.
+// What the tests of the grid's layout and input share: a model whose rows are 20 pixels high in a view of
+// 300 x 200 pixels, a paint that draws nothing, and functions that search a list of actions.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -134,7 +134,7 @@ TEST_F(RevealedRow, ThatIsVisibleInFullScrollsNothing) {
     EXPECT_EQ(ScrollsTo(KEY_UP, 0, 9), -1);
 }
 
-TEST_F(RevealedRow, BelowTheWindowScrollsToItsPlaceInTheWindowNotInTheList) {
+TEST_F(RevealedRow, BelowTheWindowScrollsToItsPositionInTheWindowNotInTheList) {
     EXPECT_EQ(ScrollsTo(KEY_DOWN, 0, 9), 200);
     EXPECT_EQ(ScrollsTo(KEY_DOWN, 600, 39), 200);
     EXPECT_EQ(ScrollsTo(KEY_DOWN, 5, 8), -1);

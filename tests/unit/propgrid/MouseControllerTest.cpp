@@ -250,7 +250,7 @@ TEST_F(CustomMouse, AnItemThatTakesThePressGetsTheMouse) {
     ASSERT_TRUE(HasAction<action::TellCustomItem>(release));
     EXPECT_EQ(FindAction<action::TellCustomItem>(release)->event, CE_UP);
     EXPECT_EQ(FindAction<action::TellCustomItem>(release)->point, (Point{1, 2}));
-    // The capture is given back and the repaint asked for before the item hears of it.
+    // The capture is released and the repaint requested before the item is called.
     EXPECT_TRUE(std::holds_alternative<action::EndCapture>(release.front()));
     EXPECT_TRUE(std::holds_alternative<action::TellCustomItem>(release.back()));
     EXPECT_FALSE(HasAction<action::TellCustomItem>(mouse.Move({1, 1}, false)));

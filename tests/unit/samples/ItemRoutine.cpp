@@ -126,11 +126,11 @@ bool ItemRoutine::HasText(const std::wstring& text) const {
 
 std::optional<std::wstring> ItemRoutine::FindFile(const std::wstring& name) {
     const std::filesystem::path samples(SAMPLES_DIR);
-    for (const auto& place : {folder, samples / m_item, samples}) {
+    for (const auto& directory : {folder, samples / m_item, samples}) {
         // The template alone is there to be written to.
         const bool isTemplate = name.ends_with(L".TXT");
-        if (isTemplate == (place == folder) && std::filesystem::exists(place / name)) {
-            return (place / name).wstring();
+        if (isTemplate == (directory == folder) && std::filesystem::exists(directory / name)) {
+            return (directory / name).wstring();
         }
     }
     return std::nullopt;

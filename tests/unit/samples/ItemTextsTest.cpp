@@ -16,7 +16,7 @@ using namespace tavrin::tools;
 
 namespace {
 
-// What the dialogs have room for, in letters of usual width.
+// The longest texts that the dialogs show in full, in letters of average width.
 constexpr std::size_t kLabelLetters = 34;
 constexpr std::size_t kTitleLetters = 18;
 
@@ -54,7 +54,7 @@ protected:
     std::map<unsigned, std::wstring> texts = TextsIn(GetParam());
 };
 
-TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheirPlace) {
+TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheDialog) {
     for (const SampleItem& item : SampleItems()) {
         const std::vector<unsigned> numbers = PlaceholdersOf(item.name);
         ASSERT_GT(numbers.size(), 10u) << item.name;

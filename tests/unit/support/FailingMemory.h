@@ -1,5 +1,5 @@
-// Lets the test program run out of memory on purpose: its operator new is replaced by one that can be told
-// after how many more allocations to fail.
+// Lets the test program run out of memory on purpose: its operator new is
+// replaced by one that fails after a given number of further allocations.
 #pragma once
 
 #include <cstddef>

@@ -149,10 +149,10 @@ TEST_F(CheckCommandLine, AllRulesAreListedWithWhatTheyMeanAndAnExample) {
     EXPECT_EQ(run.status, 0);
     for (const Rule* rule : AllRules()) {
         const std::string heading = "\n### " + std::string(rule->id) + "\n\n";
-        const std::size_t place = run.output.find(heading);
-        ASSERT_NE(place, std::string::npos) << rule->id;
-        EXPECT_EQ(run.output.find(heading, place + 1), std::string::npos) << rule->id;
-        EXPECT_NE(run.output.find(rule->explanation, place), std::string::npos) << rule->id;
+        const std::size_t start = run.output.find(heading);
+        ASSERT_NE(start, std::string::npos) << rule->id;
+        EXPECT_EQ(run.output.find(heading, start + 1), std::string::npos) << rule->id;
+        EXPECT_NE(run.output.find(rule->explanation, start), std::string::npos) << rule->id;
         EXPECT_FALSE(rule->example.empty()) << rule->id;
     }
 }

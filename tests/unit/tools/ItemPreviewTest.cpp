@@ -78,7 +78,7 @@ TEST(ItemPreview, AnInfiniteValueCannotBeTyped) {
     EXPECT_EQ(ErrorOf(preview, L"2", L"inf"), "parameter '2' takes a real number, not 'inf'");
 }
 
-TEST(PreviewReport, TellsTitleRowsMessagesAndChanges) {
+TEST(PreviewReport, ShowsTitleRowsMessagesAndChanges) {
     PreviewInput input;
     input.workingFile = {"door_TMP.TXT", SplitLines(kTemplate)};
     input.templateFile = {"door.TXT", SplitLines("VAR\r\n$1 = \"<<1501>>\"D900\r\n")};
@@ -119,7 +119,7 @@ TEST(PreviewReport, TellsTitleRowsMessagesAndChanges) {
               "door.TXT: OK changes no line\n");
 }
 
-TEST(PreviewReport, TellsOfATemplateThatIsMissing) {
+TEST(PreviewReport, SaysThatTheTemplateIsMissing) {
     PreviewInput input;
     input.workingFile = {"a_TMP.TXT", SplitLines("x\r\n")};
     input.templateName = "a.TXT";

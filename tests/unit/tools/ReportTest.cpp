@@ -41,8 +41,9 @@ protected:
     static std::string Line(const std::string& file, std::size_t line, std::size_t column,
                             const std::string& severity, const std::string& message,
                             const std::string& rule) {
-        const std::string place = line == 0 ? "" : ":" + std::to_string(line) + ":" + std::to_string(column);
-        return file + place + ": " + severity + ": " + message + " [" + rule + "]";
+        const std::string position =
+            line == 0 ? "" : ":" + std::to_string(line) + ":" + std::to_string(column);
+        return file + position + ": " + severity + ": " + message + " [" + rule + "]";
     }
 };
 
@@ -136,7 +137,7 @@ TEST(Report, ANameThatIsNoUtf8DoesNotBreakJson) {
     EXPECT_EQ(Json::parse(JsonReport({&finding, 1})).at("findings")[0].at("file"), "\xEF\xBF\xBD.TXT");
 }
 
-TEST(Report, AnExcerptShowsEveryCharacterInOnePlace) {
+TEST(Report, AnExcerptShowsEveryCharacterInOneColumn) {
     const std::wstring line = L"a\x7F\t\x00E0\x0093\x0081z";
     const Excerpt excerpt = MakeExcerpt(line, 6, 1);
     EXPECT_EQ(excerpt.text, "a\xE2\x90\xA1\xE2\x90\x89\xC3\xA0\xE2\x80\x9C\xEF\xBF\xBDz");

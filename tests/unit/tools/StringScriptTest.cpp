@@ -95,7 +95,7 @@ TEST(StringScript, ALanguageHoldsForTheTablesBehindItAndInATablesHeadForThatOne)
     EXPECT_EQ(script.texts[3].language, "LANG_ITALIAN, SUBLANG_ITALIAN");
 }
 
-TEST(StringScript, TextsAndTablesKnowTheirPlaces) {
+TEST(StringScript, TextsAndTablesRecordTheirPositions) {
     const std::string text =
         "// one\n/* two\nthree */\nSTRINGTABLE\nBEGIN\n    1 \"a\\\nb\"\n    2 \"c\"\nEND\n";
     const StringScript script = ReadStringScript("a.rc", text);

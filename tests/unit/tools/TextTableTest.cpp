@@ -1,4 +1,4 @@
-// The texts by number and language.
+// CTextTable: texts by number and language, from scripts and modules.
 #include "tools/texts/TextTable.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ std::string ErrorOf(CTextTable& table, const std::string& name, const std::strin
     }
 }
 
-TEST(TextTable, TheSamplesTextsAreThereInBothLanguages) {
+TEST(TextTable, TheSampleTextsExistInBothLanguages) {
     CTextTable table;
     table.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes.it.rc");
     table.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes.en.rc");
@@ -49,7 +49,7 @@ TEST(TextTable, AMissingTextIsEmpty) {
     EXPECT_EQ(table.Find(7), nullptr);
 }
 
-TEST(TextTable, AnUnwantedLanguageFindsNothing) {
+TEST(TextTable, ATextIsNotFoundInALanguageThatLacksIt) {
     CTextTable table;
     table.ReadBytes("a.rc", "LANGUAGE 1, 1 STRINGTABLE { 1 \"a\" } LANGUAGE 2, 1 STRINGTABLE { 2 \"b\" }");
     EXPECT_EQ(table.Find(2, 0), nullptr);
@@ -57,7 +57,7 @@ TEST(TextTable, AnUnwantedLanguageFindsNothing) {
     EXPECT_EQ(table.Find(2)->language, 1U);
 }
 
-TEST(TextTable, ALoadedTextEndsWhereTheModuleEndsIt) {
+TEST(TextTable, ALoadedTextIsCutAsInTheModule) {
     CTextTable table;
     table.ReadBytes("a.rc", "STRINGTABLE { 1 \"" + std::string(256, 'x') + "\" 2 \"a\\0b\" }");
     EXPECT_EQ(table.Load(1), std::wstring(255, L'x'));
@@ -65,7 +65,7 @@ TEST(TextTable, ALoadedTextEndsWhereTheModuleEndsIt) {
     EXPECT_EQ(table.Load(2), L"a");
 }
 
-TEST(TextTable, ATextThatIsThereAlreadyIsRefusedAndNothingIsAdded) {
+TEST(TextTable, ADuplicateTextIsRefusedAndNothingIsAdded) {
     CTextTable table;
     table.ReadBytes("a.rc", "LANGUAGE 1, 1\nSTRINGTABLE { 1 \"a\" }");
     EXPECT_EQ(ErrorOf(table, "b.rc", "LANGUAGE 1, 1\nSTRINGTABLE {\n2 \"b\"\n1 \"c\" }"),
@@ -76,14 +76,14 @@ TEST(TextTable, ATextThatIsThereAlreadyIsRefusedAndNothingIsAdded) {
     EXPECT_EQ(table.Files().size(), 1U);
 }
 
-TEST(TextTable, ScriptsWithoutALanguageAreLanguagesOfTheirOwn) {
+TEST(TextTable, EachScriptWithoutALanguageCountsAsALanguage) {
     CTextTable table;
     table.ReadBytes("a.rc", "STRINGTABLE { 1 \"a\" }");
     table.ReadBytes("b.rc", "STRINGTABLE { 1 \"b\" }");
     EXPECT_EQ(table.Languages(), (std::vector<std::string>{"the language of a.rc", "the language of b.rc"}));
 }
 
-TEST(TextTable, AFileThatIsNotThereIsNamed) {
+TEST(TextTable, AMissingFileIsRefused) {
     CTextTable table;
     EXPECT_THROW(table.ReadFile("no such file.rc"), CToolError);
 }
@@ -93,14 +93,14 @@ TEST(TextTable, AFileWithoutTextsIsRefused) {
     EXPECT_THROW(table.ReadFile("/dev/null"), CToolError);
 }
 
-TEST(TextTable, TheColumnOfATextIsThatOfItsNumber) {
+TEST(TextTable, TheColumnOfATextIsTheColumnOfItsNumber) {
     CTextTable table;
     table.ReadBytes("a.rc", "\xEF\xBB\xBFSTRINGTABLE {1 \"a\\\nb\" 2 \"c\"\n\t3 \"d\" }");
-    std::vector<std::size_t> places;
+    std::vector<std::size_t> positions;
     for (const TextEntry& text : table.Texts()) {
-        places.insert(places.end(), {text.line, text.column});
+        positions.insert(positions.end(), {text.line, text.column});
     }
-    EXPECT_EQ(places, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));
+    EXPECT_EQ(positions, (std::vector<std::size_t>{1, 14, 2, 4, 3, 2}));
 }
 
 }  // namespace

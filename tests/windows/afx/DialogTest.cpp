@@ -5,6 +5,9 @@
 #include <string>
 
 #include "tests/windows/afx/DialogTemplate.h"
+#include "tests/windows/support/ImportHook.h"
+
+extern "C" HWND(WINAPI* __imp_SetActiveWindow)(HWND window) IMPORT_ENTRY(SetActiveWindow, 4);
 
 namespace {
 
@@ -189,6 +192,29 @@ TEST_F(Dialog, DisablesTheTopOfItsChainOfOwnersToo) {
     dialog.DoModal();
     EXPECT_TRUE(popup.IsWindowEnabled());
     EXPECT_TRUE(m_owner.IsWindowEnabled());
+}
+
+// Without an owner there is no window to activate: SetActiveWindow(nullptr) would take the activation from
+// the thread's other windows.
+TEST_F(Dialog, ActivatesNothingWhenItHasNoOwner) {
+    m_owner.DestroyWindow();
+    static int calls;
+    calls = 0;
+    const CImportHook activate(
+        __imp_SetActiveWindow, +[](HWND) WINAPI -> HWND {
+            ++calls;
+            return nullptr;
+        });
+    CSteppedDialog dialog(m_empty, nullptr);
+    HWND active = nullptr;
+    dialog.m_onShown = [&] {
+        EXPECT_EQ(::GetWindow(dialog.m_hWnd, GW_OWNER), nullptr);
+        active = ::GetActiveWindow();
+        dialog.EndDialog(4711);
+    };
+    EXPECT_EQ(dialog.DoModal(), 4711);
+    EXPECT_NE(active, nullptr);
+    EXPECT_EQ(calls, 0);
 }
 
 TEST_F(Dialog, GivesActivationAndFocusBack) {

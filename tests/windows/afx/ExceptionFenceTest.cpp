@@ -7,7 +7,7 @@
 #include "memory/MemoryFence.h"
 #include "tests/windows/afx/DialogTemplate.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
@@ -68,10 +68,10 @@ protected:
         m_window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr);
     }
     std::wstring SendAndReadBox(UINT message, WPARAM wParam = 0) {
-        CModalHands hands;
-        hands.ThenPressOk();
+        CModalDriver driver;
+        driver.ThenPressOk();
         m_result = m_window.SendMessage(message, wParam);
-        return hands.messages.empty() ? L"(no box)" : hands.messages[0].text;
+        return driver.messages.empty() ? L"(no box)" : driver.messages[0].text;
     }
 
     CThrowingWnd m_window;
@@ -112,10 +112,10 @@ TEST_F(ExceptionFence, EndsACreationThatFails) {
 
 TEST_F(ExceptionFence, EndsACreationThatFailsBeforeItsFirstMessage) {
     m_window.m_throwOnSubclass = true;
-    CModalHands hands;
-    hands.ThenPressOk();
+    CModalDriver driver;
+    driver.ThenPressOk();
     Create();
-    EXPECT_EQ(hands.messages.size(), 1u);
+    EXPECT_EQ(driver.messages.size(), 1u);
     EXPECT_EQ(m_window.m_hWnd, nullptr);
 }
 
@@ -160,11 +160,11 @@ TEST_F(ExceptionFence, MakesUpdateDataFail) {
     dialog.CreateIndirect(empty.Get());
     EXPECT_FALSE(dialog.UpdateData());
     dialog.m_missing = 5;
-    CModalHands hands;
-    hands.ThenPressOk();
+    CModalDriver driver;
+    driver.ThenPressOk();
     EXPECT_FALSE(dialog.UpdateData());
-    ASSERT_EQ(hands.messages.size(), 1u);
-    EXPECT_EQ(hands.messages[0].text, L"An unsupported operation was attempted.");
+    ASSERT_EQ(driver.messages.size(), 1u);
+    EXPECT_EQ(driver.messages[0].text, L"An unsupported operation was attempted.");
 }
 
 // What the module's windows do when an allocation fails: under the framework itself nothing else would be

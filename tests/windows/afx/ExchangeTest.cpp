@@ -97,14 +97,14 @@ TEST_F(Exchange, LeavesTheSelectionAloneWhenTheTextIsEqual) {
 }
 
 // The notifications that come while it runs would find the members half exchanged.
-class CHearingDialog : public CDialog {
+class CListeningDialog : public CDialog {
 public:
     void Fill() {
         CDialogTemplate made;
         made.Add(editClass, 10, L"", childStyle, 0, 0, 50, 12);
         ASSERT_TRUE(CreateIndirect(made.Get()));
     }
-    int m_heard = 0, m_told = 0;
+    int m_changes = 0, m_notifications = 0;
 
 protected:
     DECLARE_MESSAGE_MAP()
@@ -114,23 +114,23 @@ protected:
         NMHDR header = {GetDlgItem(10)->m_hWnd, 10, 7u};
         SendMessage(WM_NOTIFY, 10, reinterpret_cast<LPARAM>(&header));
     }
-    void OnChange() { ++m_heard; }
-    void OnTold(NMHDR*, LRESULT*) { ++m_told; }
+    void OnChange() { ++m_changes; }
+    void OnNotification(NMHDR*, LRESULT*) { ++m_notifications; }
 };
 
-BEGIN_MESSAGE_MAP(CHearingDialog, CDialog)
-    ON_EN_CHANGE(10, &CHearingDialog::OnChange)
-    ON_NOTIFY(7, 10, &CHearingDialog::OnTold)
+BEGIN_MESSAGE_MAP(CListeningDialog, CDialog)
+    ON_EN_CHANGE(10, &CListeningDialog::OnChange)
+    ON_NOTIFY(7, 10, &CListeningDialog::OnNotification)
 END_MESSAGE_MAP()
 
 TEST(ExchangeNotifications, AreLockedOutWhileItRuns) {
-    CHearingDialog dialog;
+    CListeningDialog dialog;
     dialog.Fill();
     ASSERT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(dialog.m_heard, 0);
-    EXPECT_EQ(dialog.m_told, 0);
+    EXPECT_EQ(dialog.m_changes, 0);
+    EXPECT_EQ(dialog.m_notifications, 0);
     dialog.GetDlgItem(10)->SetWindowText(L"newer");
-    EXPECT_EQ(dialog.m_heard, 1);
+    EXPECT_EQ(dialog.m_changes, 1);
 }
 
 }  // namespace

@@ -73,7 +73,7 @@ TEST_F(File, ThrowsWhatKeepsItFromReadingWritingAndClosing) {
     EXPECT_THROW(file.Read(&byte, 1), CFileException*);
     EXPECT_THROW(file.GetLength(), CFileException*);
     EXPECT_THROW(file.Close(), CFileException*);
-    EXPECT_EQ(file.m_hFile, INVALID_HANDLE_VALUE) << "closed all the same";
+    EXPECT_EQ(file.m_hFile, INVALID_HANDLE_VALUE) << "closed nevertheless";
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
@@ -85,7 +85,7 @@ TEST(ModuleState, OfTheProgramIsItsOwn) {
     EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr));
 }
 
-TEST(ModuleState, TakesTheResourcesFromWhereItIsTold) {
+TEST(ModuleState, TakesTheResourcesFromTheHandleThatIsSet) {
     AFX_MODULE_STATE other = {AfxGetInstanceHandle(), AfxGetResourceHandle()};
     {
         AFX_MAINTAIN_STATE2 state(&other);
@@ -131,16 +131,16 @@ TEST(MessageBoxes, AreOwnedByTheMainWindowAndCarryTheProgramsName) {
     main.CreateEx(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr);
     application.m_pMainWnd = &main;
     EXPECT_EQ(AfxGetMainWnd(), &main);
-    CModalHands hands;
-    hands.ThenPressOk();
+    CModalDriver driver;
+    driver.ThenPressOk();
     EXPECT_EQ(AfxMessageBox(L"text"), IDOK);
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(AfxMessageBox(100), IDOK);
-    ASSERT_EQ(hands.messages.size(), 2u);
-    EXPECT_EQ(hands.messages[0].text, L"text");
-    EXPECT_EQ(hands.messages[0].caption, L"Some name");
-    EXPECT_EQ(hands.messages[0].owner, main.m_hWnd);
-    EXPECT_EQ(hands.messages[1].text, L"TavrinWnd");
+    ASSERT_EQ(driver.messages.size(), 2u);
+    EXPECT_EQ(driver.messages[0].text, L"text");
+    EXPECT_EQ(driver.messages[0].caption, L"Some name");
+    EXPECT_EQ(driver.messages[0].owner, main.m_hWnd);
+    EXPECT_EQ(driver.messages[1].text, L"TavrinWnd");
 }
 
 TEST(MessageBoxes, CarryTheFilesNameWithoutAnApplicationObject) {

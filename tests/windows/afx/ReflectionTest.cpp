@@ -10,21 +10,21 @@ class CAskedEdit : public CEdit {
 public:
     CBrush m_brush{RGB(1, 2, 3)};
     bool m_leaveColour = false;
-    std::string m_heard;
+    std::string m_messages;
 
 protected:
     DECLARE_MESSAGE_MAP()
     HBRUSH CtlColor(CDC* dc, UINT kind) {
-        m_heard += "colour " + std::to_string(kind) + ";";
+        m_messages += "colour " + std::to_string(kind) + ";";
         if (m_leaveColour) {
             return nullptr;
         }
         dc->SetBkColor(RGB(1, 2, 3));
         return m_brush;
     }
-    void OnChanged() { m_heard += "changed;"; }
+    void OnChanged() { m_messages += "changed;"; }
     void OnNotification(NMHDR*, LRESULT* result) {
-        m_heard += "notify;";
+        m_messages += "notify;";
         *result = 9;
     }
 };
@@ -47,15 +47,16 @@ public:
 
 class CAskingWnd : public CWnd {
 public:
-    std::string m_heard;
+    std::string m_messages;
     HBRUSH m_brush = nullptr;
 
 protected:
     DECLARE_MESSAGE_MAP()
-    void OnEditChanged() { m_heard += "changed;"; }
-    void OnNotification(NMHDR*, LRESULT*) { m_heard += "notify;"; }
+    void OnEditChanged() { m_messages += "changed;"; }
+    void OnNotification(NMHDR*, LRESULT*) { m_messages += "notify;"; }
     HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind) {
-        m_heard += "colour " + std::to_string(kind) + " of " + std::to_string(control->GetDlgCtrlID()) + ";";
+        m_messages +=
+            "colour " + std::to_string(kind) + " of " + std::to_string(control->GetDlgCtrlID()) + ";";
         return m_brush != nullptr ? m_brush : CWnd::OnCtlColor(dc, control, kind);
     }
 };
@@ -71,8 +72,8 @@ protected:
     void SetUp() override {
         m_parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 100, 50, nullptr, nullptr);
         m_edit.Create(WS_CHILD, CRect(0, 0, 50, 20), &m_parent, 5);
-        m_parent.m_heard.clear();
-        m_edit.m_heard.clear();
+        m_parent.m_messages.clear();
+        m_edit.m_messages.clear();
     }
     LRESULT AskColour(UINT message, const CWnd& control) {
         CClientDC dc(&m_parent);
@@ -86,14 +87,14 @@ protected:
 
 TEST_F(Reflection, AsksTheControlForItsColoursWhenTheParentCallsItsBase) {
     EXPECT_EQ(AskColour(WM_CTLCOLOREDIT, m_edit), reinterpret_cast<LRESULT>(m_edit.m_brush.m_hObject));
-    EXPECT_EQ(m_parent.m_heard, "colour 1 of 5;");
-    EXPECT_EQ(m_edit.m_heard, "colour 1;");
+    EXPECT_EQ(m_parent.m_messages, "colour 1 of 5;");
+    EXPECT_EQ(m_edit.m_messages, "colour 1;");
 }
 
 TEST_F(Reflection, LeavesTheColoursToTheParentWhenTheControlGivesNoBrush) {
     m_edit.m_leaveColour = true;
     const LRESULT brush = AskColour(WM_CTLCOLOREDIT, m_edit);
-    EXPECT_EQ(m_edit.m_heard, "colour 1;");
+    EXPECT_EQ(m_edit.m_messages, "colour 1;");
     EXPECT_NE(brush, 0) << "the system's brush";
     EXPECT_NE(brush, reinterpret_cast<LRESULT>(m_edit.m_brush.m_hObject));
 }
@@ -102,29 +103,29 @@ TEST_F(Reflection, DoesNotAskTheControlWhenTheParentDecides) {
     CBrush own(RGB(9, 9, 9));
     m_parent.m_brush = own;
     EXPECT_EQ(AskColour(WM_CTLCOLORSTATIC, m_edit), reinterpret_cast<LRESULT>(own.m_hObject));
-    EXPECT_EQ(m_edit.m_heard, "");
+    EXPECT_EQ(m_edit.m_messages, "");
     m_parent.m_brush = nullptr;
 }
 
 TEST_F(Reflection, OffersCommandsToTheControlFirst) {
     m_edit.SetWindowText(L"x");
-    EXPECT_EQ(m_edit.m_heard, "changed;");
-    EXPECT_EQ(m_parent.m_heard, "");
+    EXPECT_EQ(m_edit.m_messages, "changed;");
+    EXPECT_EQ(m_parent.m_messages, "");
     CEdit plain;
     m_edit.DestroyWindow();
     plain.Create(WS_CHILD, CRect(0, 0, 50, 20), &m_parent, 5);
     plain.SetWindowText(L"x");
-    EXPECT_EQ(m_parent.m_heard, "changed;");
+    EXPECT_EQ(m_parent.m_messages, "changed;");
 }
 
 TEST_F(Reflection, OffersNotificationsToTheControlFirst) {
     NMHDR header = {m_edit.m_hWnd, 5, static_cast<UINT>(NM_CLICK)};
     EXPECT_EQ(m_parent.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&header)), 9);
-    EXPECT_EQ(m_edit.m_heard, "notify;");
-    EXPECT_EQ(m_parent.m_heard, "");
+    EXPECT_EQ(m_edit.m_messages, "notify;");
+    EXPECT_EQ(m_parent.m_messages, "");
     header.hwndFrom = m_parent.m_hWnd;
     m_parent.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&header));
-    EXPECT_EQ(m_parent.m_heard, "notify;");
+    EXPECT_EQ(m_parent.m_messages, "notify;");
 }
 
 TEST_F(Reflection, LetsAnOwnerDrawnStaticDrawItself) {

@@ -10,19 +10,19 @@ constexpr UINT commandId = 7, buttonId = 8, editId = 9, notifyId = 10;
 
 class CBaseWnd : public CWnd {
     DECLARE_DYNAMIC(CBaseWnd)
-    std::string m_heard;
+    std::string m_messages;
 
 protected:
     DECLARE_MESSAGE_MAP()
     void OnSize(UINT, int width, int height) {
-        m_heard += "size " + std::to_string(width) + "x" + std::to_string(height) + ";";
+        m_messages += "size " + std::to_string(width) + "x" + std::to_string(height) + ";";
     }
     LRESULT OnApp(WPARAM wParam, LPARAM) {
-        m_heard += "base;";
+        m_messages += "base;";
         return static_cast<LRESULT>(wParam) + 1;
     }
     LRESULT OnOther(WPARAM, LPARAM) {
-        m_heard += "other;";
+        m_messages += "other;";
         return 5;
     }
 };
@@ -49,31 +49,32 @@ protected:
         return CBaseWnd::OnWndMsg(message, wParam, lParam, result);
     }
     LRESULT OnApp(WPARAM wParam, LPARAM lParam) {
-        m_heard += "derived;";
+        m_messages += "derived;";
         return CBaseWnd::OnApp(wParam, lParam) * 10;
     }
-    void OnCommandSeven() { m_heard += "seven;"; }
-    void OnButton() { m_heard += "button;"; }
-    void OnEditChanged() { m_heard += "edit;"; }
-    void OnRange(UINT id) { m_heard += "range " + std::to_string(id) + ";"; }
+    void OnCommandSeven() { m_messages += "seven;"; }
+    void OnButton() { m_messages += "button;"; }
+    void OnEditChanged() { m_messages += "edit;"; }
+    void OnRange(UINT id) { m_messages += "range " + std::to_string(id) + ";"; }
     void OnNotification(NMHDR* header, LRESULT* result) {
-        m_heard += "notify " + std::to_string(static_cast<int>(header->code)) + ";";
+        m_messages += "notify " + std::to_string(static_cast<int>(header->code)) + ";";
         *result = 33;
     }
     void OnKeyDown(UINT key, UINT repeat, UINT flags) {
-        m_heard += "key " + std::to_string(key) + " " + std::to_string(repeat) + ";";
+        m_messages += "key " + std::to_string(key) + " " + std::to_string(repeat) + ";";
         CWnd::OnKeyDown(key, repeat, flags);
     }
     void OnLButtonDown(UINT, CPoint point) {
-        m_heard += "down " + std::to_string(point.x) + "," + std::to_string(point.y) + ";";
+        m_messages += "down " + std::to_string(point.x) + "," + std::to_string(point.y) + ";";
     }
     BOOL OnMouseWheel(UINT, short delta, CPoint) {
-        m_heard += "wheel " + std::to_string(delta) + ";";
+        m_messages += "wheel " + std::to_string(delta) + ";";
         return TRUE;
     }
     UINT OnGetDlgCode() { return CBaseWnd::OnGetDlgCode() | DLGC_WANTARROWS; }
     void OnVScroll(UINT code, UINT position, CScrollBar* bar) {
-        m_heard += "scroll " + std::to_string(code) + " " + std::to_string(position) + (bar ? " bar;" : ";");
+        m_messages +=
+            "scroll " + std::to_string(code) + " " + std::to_string(position) + (bar ? " bar;" : ";");
     }
 };
 
@@ -98,18 +99,18 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(
             m_window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 100, 50, nullptr, nullptr));
-        m_window.m_heard.clear();
+        m_window.m_messages.clear();
     }
-    std::string Heard() { return std::exchange(m_window.m_heard, {}); }
+    std::string TakeMessages() { return std::exchange(m_window.m_messages, {}); }
 
     CDerivedWnd m_window;
 };
 
 TEST_F(Routing, AsksTheDerivedMapBeforeTheBaseMap) {
     EXPECT_EQ(m_window.SendMessage(WM_APP, 4), 50);
-    EXPECT_EQ(Heard(), "derived;base;");
+    EXPECT_EQ(TakeMessages(), "derived;base;");
     EXPECT_EQ(m_window.SendMessage(WM_APP + 1), 5);
-    EXPECT_EQ(Heard(), "other;");
+    EXPECT_EQ(TakeMessages(), "other;");
 }
 
 TEST_F(Routing, GivesWhatNoMapKnowsToTheDefaultProcedure) {
@@ -123,38 +124,38 @@ TEST_F(Routing, GivesWhatNoMapKnowsToTheDefaultProcedure) {
 TEST_F(Routing, CanBeTakenOverBeforeTheMap) {
     m_window.m_swallow = true;
     EXPECT_EQ(m_window.SendMessage(WM_APP, 4), 77);
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(TakeMessages(), "");
 }
 
 TEST_F(Routing, UnpacksTheParametersOfMessages) {
     m_window.SetWindowPos(nullptr, 0, 0, 120, 60, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(Heard(), "size 120x60;");
+    EXPECT_EQ(TakeMessages(), "size 120x60;");
     m_window.SendMessage(WM_KEYDOWN, VK_F5, MAKELPARAM(3, 0));
-    EXPECT_EQ(Heard(), "key 116 3;");
+    EXPECT_EQ(TakeMessages(), "key 116 3;");
     m_window.SendMessage(WM_LBUTTONDOWN, 0, MAKELPARAM(-5, 6));
-    EXPECT_EQ(Heard(), "down -5,6;");
+    EXPECT_EQ(TakeMessages(), "down -5,6;");
     EXPECT_EQ(m_window.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -120)), 1);
-    EXPECT_EQ(Heard(), "wheel -120;");
+    EXPECT_EQ(TakeMessages(), "wheel -120;");
     EXPECT_EQ(m_window.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
     m_window.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 40));
-    EXPECT_EQ(Heard(), "scroll 4 40;");
+    EXPECT_EQ(TakeMessages(), "scroll 4 40;");
 }
 
 TEST_F(Routing, LeadsCommandsByIdAndCode) {
     EXPECT_EQ(m_window.SendMessage(WM_COMMAND, commandId), 1);
     EXPECT_EQ(m_window.SendMessage(WM_COMMAND, MAKEWPARAM(commandId, 1)), 1)
         << "an accelerator's code says nothing";
-    EXPECT_EQ(Heard(), "seven;seven;");
+    EXPECT_EQ(TakeMessages(), "seven;seven;");
     CEdit edit;
     edit.Create(WS_CHILD, CRect(0, 0, 10, 10), &m_window, editId);
     edit.SetWindowText(L"x");
-    EXPECT_EQ(Heard(), "edit;");
+    EXPECT_EQ(TakeMessages(), "edit;");
     m_window.SendMessage(WM_COMMAND, MAKEWPARAM(editId, EN_SETFOCUS), reinterpret_cast<LPARAM>(edit.m_hWnd));
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(TakeMessages(), "");
     CButton button;
     button.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), &m_window, buttonId);
     button.SendMessage(BM_CLICK);
-    EXPECT_EQ(Heard(), "button;");
+    EXPECT_EQ(TakeMessages(), "button;");
     EXPECT_EQ(m_window.SendMessage(WM_COMMAND, 12345), 0);
 }
 
@@ -162,16 +163,16 @@ TEST_F(Routing, LeadsARangeOfControlsToOneOperation) {
     CStatic control;
     control.Create(L"", WS_CHILD | SS_NOTIFY, CRect(0, 0, 10, 10), &m_window, 21);
     m_window.SendMessage(WM_COMMAND, MAKEWPARAM(21, STN_CLICKED), reinterpret_cast<LPARAM>(control.m_hWnd));
-    EXPECT_EQ(Heard(), "range 21;");
+    EXPECT_EQ(TakeMessages(), "range 21;");
 }
 
 TEST_F(Routing, LeadsNotificationsByIdAndCode) {
     NMHDR header = {m_window.m_hWnd, notifyId, static_cast<UINT>(NM_CLICK)};
     EXPECT_EQ(m_window.SendMessage(WM_NOTIFY, notifyId, reinterpret_cast<LPARAM>(&header)), 33);
-    EXPECT_EQ(Heard(), "notify -2;");
+    EXPECT_EQ(TakeMessages(), "notify -2;");
     header.code = static_cast<UINT>(NM_DBLCLK);
     EXPECT_EQ(m_window.SendMessage(WM_NOTIFY, notifyId, reinterpret_cast<LPARAM>(&header)), 0);
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(TakeMessages(), "");
 }
 
 TEST_F(Routing, KnowsTheClassesOfItsObjects) {

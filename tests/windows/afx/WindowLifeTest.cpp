@@ -8,14 +8,15 @@ namespace {
 
 class CRecordingWnd : public CWnd {
 public:
-    std::string m_heard;
+    std::string m_messages;
     int m_createResult = 0;
     bool m_refuse = false;
 
     void PreSubclassWindow() override {
-        m_heard += m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this ? "presubclass;" : "no window;";
+        m_messages +=
+            m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this ? "presubclass;" : "no window;";
     }
-    void PostNcDestroy() override { m_heard += m_hWnd == nullptr ? "gone;" : "still there;"; }
+    void PostNcDestroy() override { m_messages += m_hWnd == nullptr ? "gone;" : "still there;"; }
     BOOL PreCreateWindow(CREATESTRUCT& create) override {
         create.lpszName = L"changed";
         return !m_refuse && CWnd::PreCreateWindow(create);
@@ -24,15 +25,15 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
     BOOL OnNcCreate(LPCREATESTRUCT create) {
-        m_heard += "nccreate;";
+        m_messages += "nccreate;";
         return CWnd::OnNcCreate(create);
     }
     int OnCreate(LPCREATESTRUCT create) {
-        m_heard += "create;";
+        m_messages += "create;";
         return m_createResult != 0 ? m_createResult : CWnd::OnCreate(create);
     }
     void OnDestroy() {
-        m_heard += "destroy;";
+        m_messages += "destroy;";
         CWnd::OnDestroy();
     }
 };
@@ -46,10 +47,10 @@ END_MESSAGE_MAP()
 TEST(WindowLife, ReachesTheMapFromTheFirstMessageToTheLast) {
     CRecordingWnd window;
     ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
-    EXPECT_EQ(window.m_heard, "presubclass;nccreate;create;");
+    EXPECT_EQ(window.m_messages, "presubclass;nccreate;create;");
     const HWND handle = window.m_hWnd;
     EXPECT_TRUE(window.DestroyWindow());
-    EXPECT_EQ(window.m_heard, "presubclass;nccreate;create;destroy;gone;");
+    EXPECT_EQ(window.m_messages, "presubclass;nccreate;create;destroy;gone;");
     EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
     EXPECT_FALSE(window.DestroyWindow()) << "it has none any more";
 }
@@ -58,12 +59,12 @@ TEST(WindowLife, ReachesTheMapForSystemClassesToo) {
     CRecordingWnd parent, child;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
     ASSERT_TRUE(child.Create(L"EDIT", L"", 0, CRect(1, 2, 11, 22), &parent, 3));
-    EXPECT_EQ(child.m_heard, "presubclass;nccreate;create;");
+    EXPECT_EQ(child.m_messages, "presubclass;nccreate;create;");
     EXPECT_EQ(child.GetDlgCtrlID(), 3);
     EXPECT_TRUE(child.GetStyle() & WS_CHILD);
     EXPECT_EQ(::GetParent(child.m_hWnd), parent.m_hWnd);
     parent.DestroyWindow();
-    EXPECT_EQ(child.m_heard, "presubclass;nccreate;create;destroy;gone;") << "it ends with its parent";
+    EXPECT_EQ(child.m_messages, "presubclass;nccreate;create;destroy;gone;") << "it ends with its parent";
     EXPECT_EQ(child.m_hWnd, nullptr);
 }
 
@@ -72,17 +73,17 @@ TEST(WindowLife, EndsWhenCreationIsRefused) {
     window.m_createResult = -1;
     EXPECT_FALSE(window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_TRUE(window.m_heard.ends_with("gone;")) << window.m_heard;
+    EXPECT_TRUE(window.m_messages.ends_with("gone;")) << window.m_messages;
 }
 
 TEST(WindowLife, EndsWhenThereIsNoSuchClass) {
     CRecordingWnd window;
     EXPECT_FALSE(window.CreateEx(0, L"No such class", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
-    EXPECT_EQ(window.m_heard, "gone;");
+    EXPECT_EQ(window.m_messages, "gone;");
     CRecordingWnd refused;
     refused.m_refuse = true;
     EXPECT_FALSE(refused.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
-    EXPECT_EQ(refused.m_heard, "gone;");
+    EXPECT_EQ(refused.m_messages, "gone;");
 }
 
 TEST(WindowLife, MayChangeWhatItIsCreatedWith) {
@@ -99,14 +100,14 @@ TEST(WindowLife, TakesOverAWindowThatExistsAndGivesItBack) {
     const auto before = ::GetWindowLongPtr(edit, GWLP_WNDPROC);
     CRecordingWnd window;
     ASSERT_TRUE(window.SubclassWindow(edit));
-    EXPECT_EQ(window.m_heard, "presubclass;");
+    EXPECT_EQ(window.m_messages, "presubclass;");
     EXPECT_NE(::GetWindowLongPtr(edit, GWLP_WNDPROC), before);
     EXPECT_EQ(::GetWindowTextLength(edit), 4) << "the edit still answers what the object leaves alone";
     EXPECT_EQ(window.UnsubclassWindow(), edit);
     EXPECT_EQ(::GetWindowLongPtr(edit, GWLP_WNDPROC), before);
     EXPECT_EQ(window.m_hWnd, nullptr);
     ::DestroyWindow(edit);
-    EXPECT_EQ(window.m_heard, "presubclass;");
+    EXPECT_EQ(window.m_messages, "presubclass;");
 }
 
 TEST(WindowLife, SubclassesADialogsControlById) {
@@ -165,7 +166,7 @@ TEST(Window, CentresAPopUpOverItsOwnerButInsideTheWorkArea) {
     EXPECT_TRUE(rect.TopLeft() == CPoint(0, 0));
 }
 
-TEST(Window, PlacesItselfAmongTheOthers) {
+TEST(Window, ChangesItsZOrder) {
     CWnd window;
     window.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
     EXPECT_TRUE(window.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE));

@@ -58,9 +58,9 @@ protected:
 
     fs::path Example() const { return examples / GetParam(); }
 
-    // Acts when a window comes up, until the dialog itself did: notes what it shows and presses OK.
+    // Handles each window that opens, up to the dialog itself: records what it shows and presses OK.
     void ExpectWindow() {
-        hands.Then([this](HWND window) {
+        driver.Then([this](HWND window) {
             if (::GetDlgItem(window, IDC_ITEM_GRID) == nullptr) {
                 const MessageBoxSeen box = ReadMessageBox(window);
                 shown += L"Message \"" + box.caption + L"\": " + box.text + L"\n";

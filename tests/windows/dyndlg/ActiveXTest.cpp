@@ -18,14 +18,14 @@ TEST_F(DynDialog, HostsAnActiveXControlInItsRectangle) {
                             const HWND control = ::GetDlgItem(window, static_cast<int>(id));
                             ASSERT_NE(control, nullptr);
                             EXPECT_EQ(dialog.GetItem(0)->m_hWnd, control);
-                            EXPECT_EQ(PlaceOf(control), ToPixels(window, rect));
+                            EXPECT_EQ(ClientRectOf(control), ToPixels(window, rect));
                             EXPECT_EQ(TextOf(control), L"caption");
                             EXPECT_NE(::GetWindowLong(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
                             const HWND browser = ::GetWindow(control, GW_CHILD);
                             ASSERT_NE(browser, nullptr);
                             CRect client;
                             ::GetClientRect(control, &client);
-                            EXPECT_EQ(PlaceOf(browser), client);
+                            EXPECT_EQ(ClientRectOf(browser), client);
                         }),
               IDOK);
     EXPECT_EQ(dialog.GetItem(0)->m_hWnd, nullptr);
@@ -53,15 +53,15 @@ TEST_F(DynDialog, TakesAnUnknownNameForAnActiveXControlThatDoesNotExist) {
     int data = 5;
     const UINT id = dialog.AddDlgControl(L"Button", L"", tabbed, 0, nullptr, &data, 0);
     dialog.AddDlgControl(L"", L"", tabbed, 0, nullptr, nullptr, 0);
-    m_hands->ThenPressOk();
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(
         RunWithOk(dialog,
                   [id](HWND window) { EXPECT_EQ(::GetDlgItem(window, static_cast<int>(id)), nullptr); }),
         IDOK);
-    ASSERT_EQ(m_hands->messages.size(), 2U);
-    EXPECT_EQ(m_hands->messages[0].text, L"Failed SetWindowPos for control Button.");
-    EXPECT_EQ(m_hands->messages[1].text, L"Failed SetWindowPos for control .");
+    ASSERT_EQ(m_driver->messages.size(), 2U);
+    EXPECT_EQ(m_driver->messages[0].text, L"Failed SetWindowPos for control Button.");
+    EXPECT_EQ(m_driver->messages[1].text, L"Failed SetWindowPos for control .");
     EXPECT_EQ(data, 5);
 }
 

@@ -1,4 +1,4 @@
-// What the user is told when something cannot be made, and that the rest goes on.
+// The message when something cannot be created; everything else still works.
 #include "tests/windows/dyndlg/DynDialogFixture.h"
 #include "tests/windows/dyndlg/LocalMemoryHook.h"
 #include "tests/windows/support/HandleCount.h"
@@ -8,11 +8,11 @@ namespace {
 class DynDialogFailure : public DynDialog {
 protected:
     void ExpectMessages(std::initializer_list<const wchar_t*> texts) {
-        ASSERT_EQ(m_hands->messages.size(), texts.size());
+        ASSERT_EQ(m_driver->messages.size(), texts.size());
         size_t index = 0;
         for (const wchar_t* text : texts) {
-            EXPECT_EQ(m_hands->messages[index].text, text);
-            EXPECT_EQ(m_hands->messages[index].buttons, 1);
+            EXPECT_EQ(m_driver->messages[index].text, text);
+            EXPECT_EQ(m_driver->messages[index].buttons, 1);
             ++index;
         }
     }
@@ -24,8 +24,8 @@ TEST_F(DynDialogFailure, AControlThatCannotBeCreatedIsLeftOut) {
     CString other = L"before";
     dialog.AddDlgControl(L"EDITX", L"", tabbed, 0, nullptr, &text, 500);
     dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, nullptr, &other, 501);
-    m_hands->ThenPressOk();
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(RunWithOk(dialog,
                         [](HWND window) {
                             EXPECT_EQ(::GetDlgItem(window, 500), nullptr);
@@ -42,8 +42,8 @@ TEST_F(DynDialogFailure, AnObjectWhoseControlCannotBeCreatedStaysWithoutWindow) 
     CDynDialogEx dialog(&m_parent);
     CWnd object;
     dialog.AddDlgControl(L"LISTLESS", L"", tabbed, 0, nullptr, &object, 500);
-    m_hands->ThenPressOk();
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(RunWithOk(dialog), IDOK);
     ExpectMessages({L"Failed to create DlgItem.", L"Failed SetWindowPos for control LISTLESS."});
     EXPECT_EQ(object.m_hWnd, nullptr);
@@ -53,8 +53,8 @@ TEST_F(DynDialogFailure, ACodeThatIsNoneOfTheClassesCannotBeCreated) {
     CDynDialogEx dialog(&m_parent);
     int data = 5;
     dialog.AddDlgControl(147U, L"", tabbed, 0, nullptr, &data, 500);
-    m_hands->ThenPressOk();
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(RunWithOk(dialog), IDOK);
     ExpectMessages({L"Failed to create DlgItem.", L"Failed SetWindowPos for control ."});
     EXPECT_EQ(data, 5);
@@ -65,7 +65,7 @@ TEST_F(DynDialogFailure, EachControlThatCannotBeCreatedIsReported) {
     dialog.AddDlgControl(L"EDIT-A", L"", tabbed, 0, nullptr, nullptr, 0);
     dialog.AddDlgControl(L"EDIT-B", L"", tabbed, 0, nullptr, nullptr, 0);
     for (int message = 0; message < 4; ++message) {
-        m_hands->ThenPressOk();
+        m_driver->ThenPressOk();
     }
     EXPECT_EQ(RunWithOk(dialog), IDOK);
     ExpectMessages({L"Failed to create DlgItem.", L"Failed to create DlgItem.",
@@ -76,7 +76,7 @@ TEST_F(DynDialogFailure, WithoutMemoryForTheTemplateThereIsNoDialog) {
     CLocalMemoryHook memory;
     memory.failAlloc = true;
     CDynDialogEx dialog(&m_parent);
-    m_hands->ThenPressOk();
+    m_driver->ThenPressOk();
     EXPECT_EQ(dialog.DoModal(), -1);
     ExpectMessages({L"CDynDialogEx::DoModal() : LocalAllock Failed"});
     EXPECT_EQ(memory.freed, 0);
@@ -87,9 +87,9 @@ TEST_F(DynDialogFailure, MemoryThatCannotBeLockedIsFreed) {
     memory.failLock = true;
     CDynDialogEx dialog(&m_parent);
     int freedBefore = -1;
-    m_hands->Then([&](HWND box) {
+    m_driver->Then([&](HWND box) {
         freedBefore = memory.freed;
-        m_hands->messages.push_back(ReadMessageBox(box));
+        m_driver->messages.push_back(ReadMessageBox(box));
         ::PostMessageW(box, WM_COMMAND, IDOK, 0);
     });
     EXPECT_EQ(dialog.DoModal(), -1);
@@ -105,7 +105,7 @@ TEST_F(DynDialogFailure, TheTemplatesMemoryIsMovableZeroFilledAndGivenBack) {
     // 24 bytes, "Title" and "MS Sans Serif" with their zeros, and one button with its caption from byte 64
     // on.
     dialog.AddSubclassedDlgControl(L"BUTTON", L"in", tabbed, 0, nullptr, 0);
-    m_hands->Then([&](HWND window) {
+    m_driver->Then([&](HWND window) {
         EXPECT_EQ(memory.alive, 1);
         EXPECT_EQ(memory.locked, 1);
         PressButton(window, IDOK);

@@ -1,5 +1,5 @@
-// What the tests of the run-time dialogs share: a parent window that notes what it is told, and a dialog that
-// shows its insides.
+// What the tests of the run-time dialogs share: a parent window that records its commands, and a dialog that
+// exposes its internals.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "dyndlg/DynDialogEx.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 
 using namespace tavrin::dyndlg;
@@ -20,12 +20,12 @@ constexpr DWORD plain = WS_CHILD | WS_VISIBLE;
 constexpr DWORD tabbed = plain | WS_TABSTOP;
 
 struct Command {
-    HWND window;  // who was told
+    HWND window;  // the one that got the message
     WPARAM wParam;
     LPARAM lParam;
 };
 
-// An overlapped window that answers WM_GETFONT with `font` and notes its commands.
+// An overlapped window that answers WM_GETFONT with `font` and records its commands.
 class CParentWindow : public CWnd {
 public:
     explicit CParentWindow(HFONT ownFont = nullptr) : font(ownFont) {
@@ -38,7 +38,7 @@ public:
 
     HFONT font;
     std::vector<Command> commands;
-    std::vector<Command>* log = nullptr;  // shared with a dialog, to see who is told first
+    std::vector<Command>* log = nullptr;  // shared with a dialog, to see which gets a command first
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -95,25 +95,25 @@ public:
 class DynDialog : public testing::Test {
 protected:
     // Runs the dialog, gives it to `look` when it is up, then ends it with OK.
-    INT_PTR RunWithOk(CDynDialogEx& dialog, CModalHands::Step look = {}) {
+    INT_PTR RunWithOk(CDynDialogEx& dialog, CModalDriver::Step look = {}) {
         return RunAndPress(dialog, IDOK, std::move(look));
     }
-    INT_PTR RunAndPress(CDynDialogEx& dialog, int button, CModalHands::Step look) {
-        m_hands->Then([look = std::move(look), button](HWND window) {
+    INT_PTR RunAndPress(CDynDialogEx& dialog, int button, CModalDriver::Step look) {
+        m_driver->Then([look = std::move(look), button](HWND window) {
             if (look) {
                 look(window);
             }
             ::PostMessageW(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
         const INT_PTR result = dialog.DoModal();
-        EXPECT_EQ(m_hands->StepsLeft(), 0U) << "a window that was expected did not come up";
+        EXPECT_EQ(m_driver->StepsLeft(), 0U) << "an expected window did not open";
         return result;
     }
 
-    // Lets go of the steps that were done, which count as blocks of the heap.
-    void ForgetSteps() { m_hands.emplace(); }
+    // Frees the steps that were run: they count as blocks of the heap.
+    void ForgetSteps() { m_driver.emplace(); }
 
-    std::optional<CModalHands> m_hands{std::in_place};
+    std::optional<CModalDriver> m_driver{std::in_place};
     CParentWindow m_parent;
 };
 
@@ -130,7 +130,7 @@ inline std::wstring ClassOf(HWND window) {
 }
 
 // The child's rectangle in client coordinates of its parent.
-inline CRect PlaceOf(HWND child) {
+inline CRect ClientRectOf(HWND child) {
     CRect rect;
     ::GetWindowRect(child, &rect);
     ::MapWindowPoints(nullptr, ::GetParent(child), reinterpret_cast<POINT*>(&rect), 2);

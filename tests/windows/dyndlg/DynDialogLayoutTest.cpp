@@ -3,7 +3,7 @@
 
 namespace {
 
-CRect RectOf(const CDynDialogEx& dialog, INT_PTR index) {
+CRect RectInUnitsOf(const CDynDialogEx& dialog, INT_PTR index) {
     const DialogRect& rect = dialog.GetItem(index)->Control().rect;
     return {rect.left, rect.top, rect.right, rect.bottom};
 }
@@ -13,12 +13,12 @@ TEST_F(DynDialog, PlacesControlsWithoutARectangleInRowsAboveTheStandardButtons) 
     dialog.AddDlgControl(L"STATIC", L"by name", plain, 0, nullptr, nullptr, 0);
     dialog.AddDlgControl(CT_EDIT, L"by code", tabbed, 0, nullptr, nullptr, 0);
     dialog.AddSubclassedDlgControl(L"BUTTON", L"in the template", tabbed, 0, nullptr, 0);
-    EXPECT_EQ(RectOf(dialog, 0), CRect(10, 10, 270, 22));
-    EXPECT_EQ(RectOf(dialog, 1), CRect(10, 22, 120, 34));
-    EXPECT_EQ(RectOf(dialog, 2), CRect(10, 34, 270, 46));
+    EXPECT_EQ(RectInUnitsOf(dialog, 0), CRect(10, 10, 270, 22));
+    EXPECT_EQ(RectInUnitsOf(dialog, 1), CRect(10, 22, 120, 34));
+    EXPECT_EQ(RectInUnitsOf(dialog, 2), CRect(10, 34, 270, 46));
     RunWithOk(dialog, [&](HWND window) {
-        EXPECT_EQ(PlaceOf(::GetDlgItem(window, IDOK)), ToPixels(window, CRect(10, 52, 60, 66)));
-        EXPECT_EQ(PlaceOf(::GetDlgItem(window, IDCANCEL)), ToPixels(window, CRect(65, 52, 115, 66)));
+        EXPECT_EQ(ClientRectOf(::GetDlgItem(window, IDOK)), ToPixels(window, CRect(10, 52, 60, 66)));
+        EXPECT_EQ(ClientRectOf(::GetDlgItem(window, IDCANCEL)), ToPixels(window, CRect(65, 52, 115, 66)));
         EXPECT_EQ(TextOf(::GetDlgItem(window, IDOK)), L"OK");
         EXPECT_EQ(TextOf(::GetDlgItem(window, IDCANCEL)), L"Annuleren");
         for (const int id : {IDOK, IDCANCEL}) {
@@ -27,10 +27,10 @@ TEST_F(DynDialog, PlacesControlsWithoutARectangleInRowsAboveTheStandardButtons) 
         }
     });
     dialog.AddDlgControl(L"STATIC", L"", plain, 0, nullptr, nullptr, 0);
-    EXPECT_EQ(RectOf(dialog, 5), CRect(10, 76, 270, 88));
+    EXPECT_EQ(RectInUnitsOf(dialog, 5), CRect(10, 76, 270, 88));
 }
 
-TEST_F(DynDialog, HasNoButtonsOfItsOwnWhenToldSo) {
+TEST_F(DynDialog, HasNoStandardButtonsOnRequest) {
     CDynDialogEx dialog(&m_parent);
     dialog.SetUseSystemButtons(false);
     RunWithOk(dialog, [](HWND window) { EXPECT_EQ(::GetWindow(window, GW_CHILD), nullptr); });
@@ -52,8 +52,8 @@ TEST_F(DynDialog, AddsTheStandardButtonsAgainWhenItRunsAgain) {
                           }),
               IDCANCEL);
     EXPECT_EQ(dialog.GetItemCount(), 4);
-    EXPECT_EQ(RectOf(dialog, 0).top, 16);
-    EXPECT_EQ(RectOf(dialog, 2).top, 46);
+    EXPECT_EQ(RectInUnitsOf(dialog, 0).top, 16);
+    EXPECT_EQ(RectInUnitsOf(dialog, 2).top, 46);
 }
 
 TEST_F(DynDialog, IsAsLargeAsItsControlsAndAMargin) {
@@ -75,14 +75,14 @@ TEST_F(DynDialog, TakesRectanglesAsPixelsUntilItsUnitsAreKnown) {
     bool looked = false;
     dialog.beforeInit = [&] {
         looked = true;
-        EXPECT_EQ(PlaceOf(::GetDlgItem(dialog, static_cast<int>(id))), rect);
+        EXPECT_EQ(ClientRectOf(::GetDlgItem(dialog, static_cast<int>(id))), rect);
     };
     RunWithOk(dialog, [&](HWND window) {
-        EXPECT_EQ(PlaceOf(::GetDlgItem(window, static_cast<int>(id))), ToPixels(window, rect));
+        EXPECT_EQ(ClientRectOf(::GetDlgItem(window, static_cast<int>(id))), ToPixels(window, rect));
         EXPECT_NE(ToPixels(window, rect), rect);
     });
     EXPECT_TRUE(looked);
-    EXPECT_EQ(RectOf(dialog, 0), rect);
+    EXPECT_EQ(RectInUnitsOf(dialog, 0), rect);
 }
 
 TEST_F(DynDialog, ShowsItsCaptionInACaptionBarWithASystemMenu) {
@@ -103,21 +103,21 @@ struct CCentres {
     CPoint parent;
 };
 
-class DynDialogPlace : public DynDialog {
+class DynDialogPosition : public DynDialog {
 protected:
     template <typename AddControls>
     CCentres OpenInTheMiddle(AddControls addControls) {
         CCentres centres;
         for (int attempt = 0; attempt < 5; ++attempt) {
-            CRect before, now, place;
+            CRect before, now, rect;
             m_parent.GetWindowRect(&before);
             CDynDialogEx dialog(&m_parent);
             addControls(dialog);
             RunWithOk(dialog, [&](HWND window) {
                 m_parent.GetWindowRect(&now);
-                ::GetWindowRect(window, &place);
+                ::GetWindowRect(window, &rect);
             });
-            centres = {place.CenterPoint(), now.CenterPoint()};
+            centres = {rect.CenterPoint(), now.CenterPoint()};
             if (now == before) {
                 break;
             }
@@ -126,7 +126,7 @@ protected:
     }
 };
 
-TEST_F(DynDialogPlace, StandsInTheMiddleOfItsParent) {
+TEST_F(DynDialogPosition, StandsInTheMiddleOfItsParent) {
     const CCentres centres = OpenInTheMiddle([](CDynDialogEx&) {});
     EXPECT_NEAR(centres.dialog.x, centres.parent.x, 2);
     EXPECT_NEAR(centres.dialog.y, centres.parent.y, 2);
@@ -141,7 +141,7 @@ TEST_F(DynDialog, IsOwnedByItsParentWhichIsDisabledMeanwhile) {
     EXPECT_TRUE(m_parent.IsWindowEnabled());
 }
 
-TEST_F(DynDialogPlace, StandsInTheMiddleWhereverItsControlsBegin) {
+TEST_F(DynDialogPosition, StandsInTheMiddleWhereverItsControlsBegin) {
     const CCentres centres = OpenInTheMiddle([](CDynDialogEx& dialog) {
         const CRect rect(-20, -10, 100, 30);
         dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, &rect, nullptr, 0);

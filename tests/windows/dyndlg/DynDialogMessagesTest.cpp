@@ -1,4 +1,4 @@
-// How a dialog ends, whom it tells of its commands, and the messages that it answers.
+// How a dialog ends, which windows its commands go to, and the messages that it answers.
 #include <algorithm>
 #include <memory>
 
@@ -8,7 +8,7 @@ namespace {
 
 constexpr UINT editId = 300;
 
-// A dialog that notes which of its hooks ran.
+// A dialog that records which of its hooks ran.
 class CListeningDialog : public CTestDialog {
 public:
     using CTestDialog::CTestDialog;
@@ -36,10 +36,10 @@ END_MESSAGE_MAP()
 class DynDialogMessages : public DynDialog {
 protected:
     // Runs a dialog with one edit control that shows "before"; `act` has to end it.
-    INT_PTR Run(CModalHands::Step act) {
+    INT_PTR Run(CModalDriver::Step act) {
         CDynDialogEx dialog(&m_parent);
         dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, nullptr, &m_text, editId);
-        m_hands->Then([act](HWND window) {
+        m_driver->Then([act](HWND window) {
             ::SetDlgItemTextW(window, editId, L"after");
             act(window);
         });
@@ -226,7 +226,7 @@ TEST_F(DynDialogModeless, CancelDestroysTheWindow) {
     EXPECT_EQ(m_dialog.m_hWnd, nullptr);
 }
 
-// The ids of the children that a window was told the end of, in that order.
+// The ids of the children whose end a window was notified of, in order.
 std::vector<UINT> endedChildren;
 WNDPROC listenedWindow = nullptr;
 

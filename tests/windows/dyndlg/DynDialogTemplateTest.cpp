@@ -34,7 +34,7 @@ TEST_F(DynDialog, HasTheSubclassedControlsInItsTemplate) {
             ASSERT_NE(control, nullptr) << index;
             EXPECT_EQ(::lstrcmpiW(ClassOf(control).c_str(), names[index]), 0) << index;
             const int y = 10 + 20 * static_cast<int>(index);
-            EXPECT_EQ(PlaceOf(control).TopLeft(), ToPixels(window, CRect(20, y, 90, y + 14)).TopLeft())
+            EXPECT_EQ(ClientRectOf(control).TopLeft(), ToPixels(window, CRect(20, y, 90, y + 14)).TopLeft())
                 << index;
             EXPECT_NE(::GetWindowLong(control, GWL_EXSTYLE) & WS_EX_TRANSPARENT, 0) << index;
         }
@@ -62,7 +62,7 @@ TEST_F(DynDialog, CannotBeMadeWithAClassThatHasNoOrdinalInItsTemplate) {
     EXPECT_TRUE(m_parent.IsWindowEnabled());
 }
 
-TEST_F(DynDialog, WritesWhatItWasToldIntoTheTemplate) {
+TEST_F(DynDialog, WritesItsSettingsIntoTheTemplate) {
     const LOGFONT description = MakeLogFont(L"Tahoma", 9);
     CFont font;
     font.CreateFontIndirect(&description);

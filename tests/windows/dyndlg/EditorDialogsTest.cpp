@@ -32,7 +32,7 @@ protected:
         dialog.AddDlgControl(L"BUTTON", caption, 0x50010000, 0, &rect, nullptr, id);
     }
 
-    INT_PTR RunTextEditor(CString& text, int button, CModalHands::Step look) {
+    INT_PTR RunTextEditor(CString& text, int button, CModalDriver::Step look) {
         CDynDialogEx dialog(&m_parent);
         Prepare(dialog, L"Note");
         const CRect edit(7, 7, 200, 100);
@@ -43,7 +43,7 @@ protected:
         return RunAndPress(dialog, button, std::move(look));
     }
 
-    INT_PTR RunDateEditor(COleDateTime& date, CTime& time, int button, CModalHands::Step look) {
+    INT_PTR RunDateEditor(COleDateTime& date, CTime& time, int button, CModalDriver::Step look) {
         CDynDialogEx dialog(&m_parent);
         Prepare(dialog, L"Data e ora");
         const CRect dateLabel(7, 3, 60, 12), timeLabel(67, 3, 120, 12);
@@ -71,7 +71,7 @@ TEST_F(EditorDialogs, ATextIsTypedOverSeveralLines) {
                                 EXPECT_EQ(TextOf(window), L"Note");
                                 EXPECT_EQ(TextOf(edit), L"one\r\ntwo");
                                 EXPECT_EQ(::GetFocus(), edit);
-                                EXPECT_EQ(PlaceOf(edit), ToPixels(window, CRect(7, 7, 200, 100)));
+                                EXPECT_EQ(ClientRectOf(edit), ToPixels(window, CRect(7, 7, 200, 100)));
                                 EXPECT_EQ(FontOf(edit).lfHeight, -11);
                                 EXPECT_NE(::GetWindowLong(edit, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
                                 ::SendMessageW(edit, EM_SETSEL, 3, 3);
@@ -85,7 +85,7 @@ TEST_F(EditorDialogs, ATextIsTypedOverSeveralLines) {
 
 TEST_F(EditorDialogs, EnterBelongsToTheTextAndEscapeEndsTheEditor) {
     CString text = L"a";
-    m_hands->Then([this](HWND window) {
+    m_driver->Then([this](HWND window) {
         const HWND edit = ::GetDlgItem(window, m_editId);
         ::SendMessageW(edit, EM_SETSEL, 1, 1);
         ::PostMessageW(edit, WM_KEYDOWN, VK_RETURN, 1);
@@ -192,7 +192,7 @@ TEST_F(EditorDialogs, BothFitTheirControls) {
         for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT)) {
             CRect outside;
-            ::SubtractRect(&outside, PlaceOf(child), client);
+            ::SubtractRect(&outside, ClientRectOf(child), client);
             EXPECT_TRUE(outside.IsRectEmpty()) << testing::PrintToString(ClassOf(child));
         }
     };

@@ -13,7 +13,7 @@
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/NoGdiPlus.h"
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
@@ -36,27 +36,27 @@ protected:
     }
 
     // What the function returns and sets for these arguments, while `step` acts on the dialog.
-    int Run(CArguments& arguments, const CModalHands::Step& step) {
-        m_hands.Forget();
+    int Run(CArguments& arguments, const CModalDriver::Step& step) {
+        m_driver.Forget();
         fakeHost.results.clear();
         fakeHost.arguments = arguments.List();
-        m_hands.Then(step);
+        m_driver.Then(step);
         return RunChoiceDialog();
     }
 
-    static CModalHands::Step Press(int button) {
+    static CModalDriver::Step Press(int button) {
         return [button](HWND dialog) { PressButton(dialog, button); };
     }
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 HWND CellOf(HWND dialog, int cell) {
     return GetDlgItem(dialog, IDC_CHOICE_CELL1 + cell - 1);
 }
 
-// As the cell tells the dialog of a click or a double-click.
+// As the cell notifies the dialog of a click or a double-click.
 void Notify(HWND dialog, int cell, int code) {
     PostMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(MAKELONG(IDC_CHOICE_CELL1 + cell - 1, code)),
                  reinterpret_cast<LPARAM>(CellOf(dialog, cell)));
@@ -67,7 +67,7 @@ TEST_F(ChoiceCommand, WithoutArgumentsSetsNoResultAndOpensNothing) {
     EXPECT_EQ(Run(none, Press(IDOK)), 0);
     EXPECT_TRUE(fakeHost.results.empty());
     EXPECT_TRUE(fakeHost.searched.empty());
-    EXPECT_EQ(m_hands.StepsLeft(), 1U);
+    EXPECT_EQ(m_driver.StepsLeft(), 1U);
 }
 
 TEST_F(ChoiceCommand, OkAnswersAHundredAndTheName) {
@@ -104,9 +104,9 @@ TEST_F(ChoiceCommand, CancelEscapeAndTheCloseBoxAnswerNil) {
     WriteSlide(L"A_t.png");
     CArguments list;
     list.String(L"Replace").Short(0).String(L"A");
-    for (const CModalHands::Step& step :
-         {Press(IDCANCEL), CModalHands::Step([](HWND dialog) { PressKey(dialog, VK_ESCAPE); }),
-          CModalHands::Step(PressCloseBox)}) {
+    for (const CModalDriver::Step& step :
+         {Press(IDCANCEL), CModalDriver::Step([](HWND dialog) { PressKey(dialog, VK_ESCAPE); }),
+          CModalDriver::Step(PressCloseBox)}) {
         EXPECT_EQ(Run(list, step), 0);
         EXPECT_EQ(fakeHost.results, Results{"nil"});
     }
@@ -148,10 +148,10 @@ TEST_F(ChoiceCommand, MoreThanSixChoicesAnswerNilUnseen) {
     EXPECT_EQ(Run(list, Press(IDOK)), 0);
     EXPECT_EQ(fakeHost.results, Results{"nil"});
     EXPECT_TRUE(fakeHost.alerts.empty());
-    EXPECT_EQ(m_hands.StepsLeft(), 1U);
+    EXPECT_EQ(m_driver.StepsLeft(), 1U);
 }
 
-// Which cells hold a choice shows in the name that each gives; by the window's size it could not be told
+// Which cells hold a choice shows in the name that each gives; the window's size would not show it
 // while the window manager still moves it.
 TEST_F(ChoiceCommand, CountsSlidesInSpaceUnlessTheFlagLeavesThemOut) {
     WriteSlide(L"A_t.png");
@@ -212,7 +212,7 @@ TEST_F(ChoiceCommand, WithoutAnySlideAlertsAndAnswersNil) {
     EXPECT_EQ(fakeHost.results, Results{"nil"});
     const std::wstring text = L"Nessuna immagine trovata per le varianti indicate.";
     EXPECT_EQ(fakeHost.alerts, (std::vector<std::wstring>{L"", text, text}));
-    EXPECT_EQ(m_hands.StepsLeft(), 1U);
+    EXPECT_EQ(m_driver.StepsLeft(), 1U);
 }
 
 // A caller's error, which must not harm the host: the flag counts as 0.
@@ -262,14 +262,14 @@ TEST_F(ChoiceCommand, ASlideThatVanishesAfterTheSearchKeepsItsChoice) {
     CArguments list;
     list.String(L"Replace").Short(0).String(L"A").String(L"B");
     fakeHost.arguments = list.List();
-    m_hands.ThenPressOk();
-    m_hands.ThenPressOk();
-    m_hands.Then([](HWND dialog) { Notify(dialog, 2, STN_DBLCLK); });
+    m_driver.ThenPressOk();
+    m_driver.ThenPressOk();
+    m_driver.Then([](HWND dialog) { Notify(dialog, 2, STN_DBLCLK); });
     EXPECT_EQ(RunChoiceDialog(), 0);
     EXPECT_EQ(fakeHost.results, Results{"(100 \"B\")"});
-    ASSERT_EQ(m_hands.messages.size(), 2U);
-    EXPECT_EQ(m_hands.messages[1].text, L"Missing slide file! Unable to load correctly!");
-    EXPECT_EQ(m_hands.messages[1].caption, L"Error!");
+    ASSERT_EQ(m_driver.messages.size(), 2U);
+    EXPECT_EQ(m_driver.messages[1].text, L"Missing slide file! Unable to load correctly!");
+    EXPECT_EQ(m_driver.messages[1].caption, L"Error!");
 }
 
 TEST_F(ChoiceCommand, OpensOverTheHostsMainWindow) {
@@ -353,7 +353,7 @@ TEST_F(ChoiceCommand, FiveHundredCallsLeaveNothingBehind) {
                 PressButton(dialog, IDCANCEL);
             }
         });
-        m_hands.Forget();
+        m_driver.Forget();
         fakeHost.searched.clear();
         fakeHost.results.clear();
     };

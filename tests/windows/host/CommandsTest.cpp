@@ -8,7 +8,7 @@
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 
 using namespace tavrin::host;
@@ -72,13 +72,13 @@ protected:
     }
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 TEST_F(ItemCommand, AnswersZeroAfterOk) {
     CArguments list;
     fakeHost.arguments = list.String(L"item").Real(1).Short(0).List();
-    m_hands.Then([](HWND dialog) { PressButton(dialog, IDOK); });
+    m_driver.Then([](HWND dialog) { PressButton(dialog, IDOK); });
     EXPECT_EQ(RunItemDialog(), 0);
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"0"});
 }
@@ -86,7 +86,7 @@ TEST_F(ItemCommand, AnswersZeroAfterOk) {
 TEST_F(ItemCommand, AnswersNilAfterCancel) {
     CArguments list;
     fakeHost.arguments = list.String(L"item").List();
-    m_hands.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
+    m_driver.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
     EXPECT_EQ(RunItemDialog(), 0);
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
 }
@@ -108,7 +108,7 @@ TEST_F(ItemCommand, OpensOverTheHostsMainWindow) {
     fakeHost.arguments = list.String(L"item").List();
     HWND owner = nullptr;
     bool hostEnabled = true;
-    m_hands.Then([&](HWND dialog) {
+    m_driver.Then([&](HWND dialog) {
         owner = ::GetWindow(dialog, GW_OWNER);
         hostEnabled = ::IsWindowEnabled(host) != FALSE;
         PressButton(dialog, IDCANCEL);
@@ -124,7 +124,7 @@ TEST_F(ItemCommand, AnExceptionEndsWithNil) {
     CArguments list;
     fakeHost.arguments = list.String(L"item").List();
     fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
-    m_hands.ThenPressOk();
+    m_driver.ThenPressOk();
     EXPECT_EQ(RunItemDialog(), 0);
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"nil"});
 }
@@ -161,11 +161,11 @@ TEST_F(ItemCommand, RestoresTheModuleStateOnEveryWayOut) {
     AFX_MODULE_STATE* const before = AfxGetModuleState();
     CArguments list;
     fakeHost.arguments = list.String(L"item").List();
-    m_hands.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
+    m_driver.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
     RunItemDialog();
     EXPECT_EQ(AfxGetModuleState(), before);
     fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
-    m_hands.ThenPressOk();
+    m_driver.ThenPressOk();
     RunItemDialog();
     EXPECT_EQ(AfxGetModuleState(), before);
 }

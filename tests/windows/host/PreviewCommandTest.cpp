@@ -11,7 +11,7 @@
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/NoGdiPlus.h"
 #include "tests/windows/support/TempFolder.h"
 
@@ -30,16 +30,16 @@ protected:
         m_folder.Write(L"door.png", BitmapFile(148, 148, std::vector<unsigned>(148 * 148, 0x3060C0)));
     }
 
-    int Run(CArguments& arguments, const CModalHands::Step& step) {
-        m_hands.Forget();
+    int Run(CArguments& arguments, const CModalDriver::Step& step) {
+        m_driver.Forget();
         fakeHost.results.clear();
         fakeHost.arguments = arguments.List();
-        m_hands.Then(step);
+        m_driver.Then(step);
         return RunPreviewDialog();
     }
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 void PressEnter(HWND dialog) {
@@ -60,7 +60,7 @@ TEST_F(PreviewCommand, AnythingButAStringSetsNoResultAndOpensNothing) {
         EXPECT_EQ(Run(*arguments, PressEnter), 0);
         EXPECT_TRUE(fakeHost.results.empty());
         EXPECT_TRUE(fakeHost.searched.empty());
-        EXPECT_EQ(m_hands.StepsLeft(), 1U);
+        EXPECT_EQ(m_driver.StepsLeft(), 1U);
     }
 }
 
@@ -125,9 +125,9 @@ TEST_F(PreviewCommand, AnExceptionEndsWithNilAndTheOldModuleState) {
     fakeHost.findFile = [](const wchar_t*, wchar_t*, size_t) -> int { throw std::runtime_error("host"); };
     CArguments list;
     list.String(L"door");
-    m_hands.Forget();
+    m_driver.Forget();
     fakeHost.arguments = list.List();
-    m_hands.ThenPressOk();
+    m_driver.ThenPressOk();
     EXPECT_EQ(RunPreviewDialog(), 0);
     EXPECT_EQ(fakeHost.results, Results{"nil"});
     EXPECT_EQ(AfxGetModuleState(), before);
@@ -138,7 +138,7 @@ TEST_F(PreviewCommand, FiveHundredCallsLeaveNothingBehind) {
     list.String(L"door");
     const auto call = [&](int round) {
         Run(list, round % 2 == 0 ? PressEnter : PressCloseBox);
-        m_hands.Forget();
+        m_driver.Forget();
         fakeHost.searched.clear();
         fakeHost.results.clear();
     };

@@ -22,7 +22,7 @@ protected:
     }
 
     // Runs a dialog with `count` choices; `step` ends it with IDOK. The code and the name chosen.
-    std::pair<int, std::wstring> ChosenBy(int count, const CModalHands::Step& step) {
+    std::pair<int, std::wstring> ChosenBy(int count, const CModalDriver::Step& step) {
         WriteSlides(count);
         CTavrinSelMaskDlg dialog;
         EXPECT_EQ(Run(dialog, count, step), IDOK);
@@ -64,7 +64,7 @@ TEST_F(ChoiceDialog, ClosesUnseenWithMoreThanSixChoices) {
         EXPECT_EQ(Run(dialog, count, [&](HWND) { seen = true; }), IDCANCEL);
         PumpMessages();
         EXPECT_FALSE(seen);
-        m_hands.Forget();
+        m_driver.Forget();
     }
 }
 
@@ -186,10 +186,10 @@ TEST_F(ChoiceDialog, ReplaceHasTheCallersCaptionAndIsNotShown) {
 
 TEST_F(ChoiceDialog, CancelEscapeAndTheCloseBoxEndWithCancel) {
     WriteSlides(2);
-    const std::vector<CModalHands::Step> ways = {[](HWND window) { PressButton(window, IDCANCEL); },
-                                                 [](HWND window) { PressKey(window, VK_ESCAPE); },
-                                                 [](HWND window) { PressCloseBox(window); }};
-    for (const CModalHands::Step& way : ways) {
+    const std::vector<CModalDriver::Step> ways = {[](HWND window) { PressButton(window, IDCANCEL); },
+                                                  [](HWND window) { PressKey(window, VK_ESCAPE); },
+                                                  [](HWND window) { PressCloseBox(window); }};
+    for (const CModalDriver::Step& way : ways) {
         CTavrinSelMaskDlg dialog;
         EXPECT_EQ(Run(dialog, 2, way), IDCANCEL);
     }
@@ -327,7 +327,7 @@ TEST_F(ChoiceDialog, TheStandInIsShownForASlideThatVanished) {
     WriteSlides(2);
     CTavrinSelMaskDlg dialog;
     std::string shown;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
@@ -352,18 +352,18 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedForEachCellBeforeTheDialogShows) {
     }
     DeleteFileW(m_folder.Path(L"c0_t.png").c_str());
     DeleteFileW(m_folder.Path(L"c2_t.png").c_str());
-    m_hands.ThenPressOk();
-    m_hands.ThenPressOk();
+    m_driver.ThenPressOk();
+    m_driver.ThenPressOk();
     dialog.LoadSlides();
-    ASSERT_EQ(m_hands.messages.size(), 2U);
-    for (const MessageBoxSeen& message : m_hands.messages) {
+    ASSERT_EQ(m_driver.messages.size(), 2U);
+    for (const MessageBoxSeen& message : m_driver.messages) {
         EXPECT_EQ(message.text, L"Missing slide file! Unable to load correctly!");
         EXPECT_EQ(message.caption, L"Error!");
         EXPECT_EQ(message.buttons, 1);
         EXPECT_EQ(message.owner, nullptr);
     }
     std::string shown;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         EXPECT_TRUE(WaitForFrame(window, 1));
         shown = ShownIn(window);
         PressButton(window, IDOK);
@@ -378,16 +378,16 @@ TEST_F(ChoiceDialog, AMissingStandInIsReportedOverTheOpenDialog) {
     CTavrinSelMaskDlg dialog;
     Fill(dialog, 1);
     HWND shownDialog = nullptr;
-    m_hands.Then([&](HWND window) {
+    m_driver.Then([&](HWND window) {
         shownDialog = window;
         DeleteFileW(m_folder.Path(L"c0_t.png").c_str());
-        m_hands.ThenPressOk();
+        m_driver.ThenPressOk();
         dialog.RefreshSlides();
         PressButton(window, IDOK);
     });
     EXPECT_EQ(dialog.DoModal(), IDOK);
-    ASSERT_EQ(m_hands.messages.size(), 1U);
-    EXPECT_EQ(m_hands.messages[0].owner, shownDialog);
+    ASSERT_EQ(m_driver.messages.size(), 1U);
+    EXPECT_EQ(m_driver.messages[0].owner, shownDialog);
 }
 
 TEST_F(ChoiceDialog, AMissingLogoLeavesItsCellEmptyWithoutAMessage) {
@@ -402,7 +402,7 @@ TEST_F(ChoiceDialog, AMissingLogoLeavesItsCellEmptyWithoutAMessage) {
         PressCloseBox(window);
     });
     EXPECT_EQ(shown, "0123.4");
-    EXPECT_EQ(m_hands.StepsLeft(), 0U);
+    EXPECT_EQ(m_driver.StepsLeft(), 0U);
 }
 
 TEST_F(ChoiceDialog, RefreshingShowsTheSlidesAsTheyAreNowAndSelectsTheFirst) {
@@ -455,7 +455,7 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
     const auto cycle = [&](int count) {
         WriteSlides(count);
         CTavrinSelMaskDlg dialog;
-        m_hands.Forget();
+        m_driver.Forget();
         Run(dialog, count, [&](HWND window) {
             PumpMessages();
             SendMessageW(window, WM_COMMAND, MAKELONG(IDC_CHOICE_CELL1 + 1, STN_CLICKED), 0);
@@ -463,7 +463,7 @@ TEST_F(ChoiceDialog, LeavesNoHandleAndNoBlockBehind) {
             PressButton(window, count % 2 == 0 ? IDOK : IDCANCEL);
         });
         dialog.GetSelectedName();
-        m_hands.Forget();
+        m_driver.Forget();
         fakeHost.searched = {};
     };
     for (const int count : {1, 4, 5, 6}) {

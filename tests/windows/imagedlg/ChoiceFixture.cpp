@@ -108,9 +108,9 @@ void CChoiceFixture::Fill(CTavrinSelMaskDlg& dialog, int count) {
     dialog.LoadSlides();
 }
 
-INT_PTR CChoiceFixture::Run(CTavrinSelMaskDlg& dialog, int count, const CModalHands::Step& step) {
+INT_PTR CChoiceFixture::Run(CTavrinSelMaskDlg& dialog, int count, const CModalDriver::Step& step) {
     Fill(dialog, count);
-    m_hands.Then(step);
+    m_driver.Then(step);
     return dialog.DoModal();
 }
 
@@ -128,11 +128,11 @@ HWND CellOf(HWND dialog, int cell) {
     return GetDlgItem(dialog, IDC_CHOICE_CELL1 + cell - 1);
 }
 
-RECT PlaceOf(HWND dialog, HWND control) {
-    RECT place;
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&place), 2);
-    return place;
+RECT RectOf(HWND dialog, HWND control) {
+    RECT rect;
+    GetWindowRect(control, &rect);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
 }
 
 std::string ShownIn(HWND dialog) {
@@ -140,8 +140,8 @@ std::string ShownIn(HWND dialog) {
     std::string shown;
     for (int cell = 1; cell <= kChoiceCells; ++cell) {
         // A point that is in the window whenever a part of the cell is, and where no button stands.
-        const RECT place = PlaceOf(dialog, CellOf(dialog, cell));
-        shown += NameOf(pixels.At(place.left + (place.right - place.left) / 8, place.top + 12));
+        const RECT rect = RectOf(dialog, CellOf(dialog, cell));
+        shown += NameOf(pixels.At(rect.left + (rect.right - rect.left) / 8, rect.top + 12));
     }
     return shown;
 }
@@ -150,7 +150,7 @@ std::string FramesIn(HWND dialog, COLORREF background) {
     const CClientPixels pixels(dialog);
     std::string frames;
     for (int cell = 1; cell <= kChoiceCells; ++cell) {
-        frames += FrameAround(pixels, PlaceOf(dialog, CellOf(dialog, cell)), background);
+        frames += FrameAround(pixels, RectOf(dialog, CellOf(dialog, cell)), background);
     }
     return frames;
 }

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "imagedlg/TavrinSelMaskDlg.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
@@ -27,20 +27,20 @@ protected:
     static void Fill(CTavrinSelMaskDlg& dialog, int count);
 
     // Fills a dialog and runs it while `step` acts on it. What DoModal returned.
-    INT_PTR Run(CTavrinSelMaskDlg& dialog, int count, const CModalHands::Step& step);
+    INT_PTR Run(CTavrinSelMaskDlg& dialog, int count, const CModalDriver::Step& step);
 
     // Runs a dialog with `count` choices and their slides until `look` has seen it painted.
     void RunPainted(int count, const std::function<void(CTavrinSelMaskDlg&)>& look);
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 // The control of a cell, 1 to 6.
 HWND CellOf(HWND dialog, int cell);
 
 // A control's window rectangle in the dialog's client coordinates.
-RECT PlaceOf(HWND dialog, HWND control);
+RECT RectOf(HWND dialog, HWND control);
 
 // What cells 1 to 6 show: the number of the choice whose colour it is, 'L' the logo, 'E' the stand-in for a
 // missing slide, '.' nothing (white), '?' anything else; ' ' for a cell outside the window.
@@ -48,7 +48,7 @@ std::string ShownIn(HWND dialog);
 
 // Around cells 1 to 6: 'B' for a black band of three pixels, 'W' a white one, '-' none, '?' anything else;
 // ' ' for a cell outside the window. `background` is the colour of the dialog's surface around them; on a
-// white one a white band cannot be told and counts as none.
+// white one a white band cannot be detected and counts as none.
 std::string FramesIn(HWND dialog, COLORREF background);
 
 // Handles messages until the black frame stands around the cell; false when it does not get there.

@@ -20,7 +20,7 @@ constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- "
 
 using ChoiceFrames = CChoiceFixture;
 
-// Paints over all that the dialog shows, so that white frames can be told from its white surface.
+// Paints over all that the dialog shows, so that white frames can be distinguished from its white surface.
 void CoverWithGrey(HWND window) {
     RECT client;
     GetClientRect(window, &client);
@@ -133,8 +133,8 @@ TEST_F(ChoiceFrames, NeverRunOverAButton) {
             dialog.PaintFrames();
             const CClientPixels pixels(dialog);
             for (const int button : {IDOK, IDCANCEL}) {
-                const RECT place = PlaceOf(dialog, ::GetDlgItem(dialog, button));
-                EXPECT_EQ(pixels.Count(place, grey), (place.right - place.left) * (place.bottom - place.top))
+                const RECT rect = RectOf(dialog, ::GetDlgItem(dialog, button));
+                EXPECT_EQ(pixels.Count(rect, grey), (rect.right - rect.left) * (rect.bottom - rect.top))
                     << count;
             }
         });

@@ -1,4 +1,4 @@
-// Size and place of the choice dialog and its buttons, in pixels.
+// Size and position of the choice dialog and its buttons, in pixels.
 #include <gtest/gtest.h>
 
 #include "tests/windows/imagedlg/ChoiceFixture.h"
@@ -35,9 +35,9 @@ protected:
         Arranged arranged;
         Run(dialog, count, [&](HWND window) {
             ::GetWindowRect(window, &arranged.window);
-            arranged.ok = PlaceOf(window, ::GetDlgItem(window, IDOK));
-            arranged.cancel = PlaceOf(window, ::GetDlgItem(window, IDCANCEL));
-            arranged.replace = PlaceOf(window, ::GetDlgItem(window, IDC_CHOICE_REPLACE));
+            arranged.ok = RectOf(window, ::GetDlgItem(window, IDOK));
+            arranged.cancel = RectOf(window, ::GetDlgItem(window, IDCANCEL));
+            arranged.replace = RectOf(window, ::GetDlgItem(window, IDC_CHOICE_REPLACE));
             PressCloseBox(window);
         });
         return arranged;
@@ -67,8 +67,8 @@ TEST_F(ChoiceDialogWindow, StartsFromTheLayoutOfItsResource) {
         EXPECT_TRUE(dialog.ok.EqualRect(onScreen(594, 312, 50, 14)));
         EXPECT_TRUE(dialog.cancel.EqualRect(onScreen(653, 312, 50, 14)));
         EXPECT_TRUE(dialog.replace.EqualRect(onScreen(92, 312, 53, 14)));
-        EXPECT_TRUE(CRect(PlaceOf(window, CellOf(window, 1))).EqualRect(Mapped(window, 4, 4, 229, 146)));
-        EXPECT_TRUE(CRect(PlaceOf(window, CellOf(window, 5))).EqualRect(Mapped(window, 240, 159, 229, 148)));
+        EXPECT_TRUE(CRect(RectOf(window, CellOf(window, 1))).EqualRect(Mapped(window, 4, 4, 229, 146)));
+        EXPECT_TRUE(CRect(RectOf(window, CellOf(window, 5))).EqualRect(Mapped(window, 240, 159, 229, 148)));
         PressCloseBox(window);
     });
 }
@@ -113,7 +113,7 @@ TEST_F(ChoiceDialogWindow, LeavesReplaceWhereItIsForFourAndMoreChoices) {
         WriteSlides(count);
         CTavrinSelMaskDlg dialog;
         Run(dialog, count, [&](HWND window) {
-            const CRect replace = PlaceOf(window, ::GetDlgItem(window, IDC_CHOICE_REPLACE));
+            const CRect replace = RectOf(window, ::GetDlgItem(window, IDC_CHOICE_REPLACE));
             EXPECT_TRUE(replace.EqualRect(Mapped(window, 92, 312, 53, 14))) << count;
             PressCloseBox(window);
         });

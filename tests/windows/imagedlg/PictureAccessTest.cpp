@@ -79,7 +79,7 @@ TEST_F(PictureAccess, NamesThePreview) {
     WriteSlides(1);
     CTavrinPreviewDlg preview;
     preview.SetName(L"c0_t");
-    m_hands.Then([](HWND dialog) {
+    m_driver.Then([](HWND dialog) {
         const CAccessibleClient client(::GetDlgItem(dialog, IDC_PREVIEW_PICTURE));
         EXPECT_EQ(client.NameOf(0), L"c0_t");
         EXPECT_EQ(client.RoleOf(0), ROLE_SYSTEM_GRAPHIC);

@@ -273,7 +273,7 @@ TEST_F(PictureCtrl, PaintsTheBackgroundOnRequest) {
     EXPECT_TRUE(picture.OnEraseBkgnd(nullptr));
 }
 
-// A picture control that notes who is asked to erase it.
+// A picture control that records WM_ERASEBKGND.
 class CAskedPicture : public CPictureCtrl {
 public:
     bool defaultAsked = false;

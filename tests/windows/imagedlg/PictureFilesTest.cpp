@@ -29,7 +29,7 @@ protected:
         dialog.SetArguments(L"", 0);
         ASSERT_TRUE(dialog.AddChoice(L"p"));
         dialog.LoadSlides();
-        m_hands.Then([&](HWND window) {
+        m_driver.Then([&](HWND window) {
             EXPECT_TRUE(WaitForFrame(window, 1));
             PumpMessages();
             look(CClientPixels(CellOf(window, 1)));
@@ -75,9 +75,9 @@ TEST_F(PictureFiles, APictureCutOffAnywhereDoesNoHarm) {
 
 TEST_F(PictureFiles, APictureWithDamagedBytesDoesNoHarm) {
     const std::string whole = TwoColours(EPngForm::Palette);
-    for (size_t place = 8; place < whole.size(); place += whole.size() / 7) {
+    for (size_t position = 8; position < whole.size(); position += whole.size() / 7) {
         std::string damaged = whole;
-        damaged[place] = static_cast<char>(~damaged[place]);
+        damaged[position] = static_cast<char>(~damaged[position]);
         Show(damaged, [](const CClientPixels&) {});
     }
 }
@@ -139,13 +139,13 @@ TEST_F(PictureFiles, NamesMayHoldEveryCharacterOfAFileName) {
         if (!halfOfAPair && forbidden.find(static_cast<wchar_t>(character)) == std::wstring::npos) {
             name += static_cast<wchar_t>(character);
         }
-        if (name.size() == 70) {
+        if (name.size() == 140) {
             take();
         }
     }
     name += L"\U0001F6AA";
     take();
-    EXPECT_GT(dialog.GetCount(), 800U);
+    EXPECT_GT(dialog.GetCount(), 400U);
 }
 
 TEST_F(PictureFiles, APathTooLongForTheSearchIsNotFound) {

@@ -1,4 +1,4 @@
-// The preview dialog: its place, its picture, how it ends.
+// The preview dialog: its position, its picture, how it ends.
 #include <gtest/gtest.h>
 
 #include "imagedlg/TavrinPreviewDlg.h"
@@ -6,7 +6,7 @@
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 
@@ -30,15 +30,15 @@ protected:
         m_folder.Write(L"two.png", PngFile(64, 64, pixels));
     }
 
-    INT_PTR Run(const std::wstring& name, const CModalHands::Step& step) {
+    INT_PTR Run(const std::wstring& name, const CModalDriver::Step& step) {
         CTavrinPreviewDlg dialog;
         dialog.SetName(name.c_str());
-        m_hands.Then(step);
+        m_driver.Then(step);
         return dialog.DoModal();
     }
 
     CTempFolder m_folder;
-    CModalHands m_hands;
+    CModalDriver m_driver;
 };
 
 // Waits until the window shows nothing but its background.
@@ -52,10 +52,10 @@ bool IsEmpty(HWND window) {
 
 TEST_F(PreviewDialog, StandsInTheCornerOfTheScreenInItsOwnSize) {
     Run(L"two", [](HWND window) {
-        RECT place;
-        GetWindowRect(window, &place);
-        EXPECT_EQ(place.left, 100);
-        EXPECT_EQ(place.top, 5);
+        RECT rect;
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(rect.left, 100);
+        EXPECT_EQ(rect.top, 5);
         RECT size = {0, 0, 467, 304};
         MapDialogRect(window, &size);
         RECT client;
@@ -71,11 +71,11 @@ TEST_F(PreviewDialog, StandsThereWhateverOwnsIt) {
     owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, CRect(400, 300, 1200, 900),
                    nullptr, 0);
     CTavrinPreviewDlg dialog(&owner);
-    m_hands.Then([](HWND window) {
-        RECT place;
-        GetWindowRect(window, &place);
-        EXPECT_EQ(place.left, 100);
-        EXPECT_EQ(place.top, 5);
+    m_driver.Then([](HWND window) {
+        RECT rect;
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(rect.left, 100);
+        EXPECT_EQ(rect.top, 5);
         PressCloseBox(window);
     });
     dialog.DoModal();
@@ -152,12 +152,12 @@ TEST_F(PreviewDialog, TakesANameOfAnyLength) {
 
 TEST_F(PreviewDialog, LeavesNoHandleAndNoBlockBehind) {
     const auto cycle = [&](const wchar_t* name) {
-        m_hands.Forget();
+        m_driver.Forget();
         Run(name, [](HWND window) {
             PumpMessages();
             PressCloseBox(window);
         });
-        m_hands.Forget();
+        m_driver.Forget();
         fakeHost.searched = {};
     };
     cycle(L"two");

@@ -5,7 +5,7 @@
 
 #include <string>
 
-// Reads the file as long as it lives and lets nobody else do what `sharing` (FILE_SHARE_...) does not say.
+// Keeps the file open for reading; other opens are limited to `sharing` (FILE_SHARE_...).
 class CFileLock {
 public:
     explicit CFileLock(const std::wstring& path, DWORD sharing = 0)

@@ -7,7 +7,7 @@ extern "C" BOOL(WINAPI* __imp_WriteFile)(HANDLE, LPCVOID, DWORD, LPDWORD, LPOVER
 
 CFullVolume* CFullVolume::s_active = nullptr;
 
-CFullVolume::CFullVolume(std::size_t room) : m_room(room), m_hook(__imp_WriteFile, Write) {
+CFullVolume::CFullVolume(std::size_t capacity) : m_capacity(capacity), m_hook(__imp_WriteFile, Write) {
     s_active = this;
 }
 
@@ -15,15 +15,15 @@ CFullVolume::~CFullVolume() {
     s_active = nullptr;
 }
 
-// As the system does: what still fits is written, and only a write that finds no room at all fails.
+// As the system does: writes as much as fits; only a write to a volume that is already full fails.
 BOOL WINAPI CFullVolume::Write(HANDLE file, LPCVOID data, DWORD size, LPDWORD written,
                                LPOVERLAPPED overlapped) {
-    if (s_active->m_room == 0) {
+    if (s_active->m_capacity == 0) {
         *written = 0;
         SetLastError(ERROR_DISK_FULL);
         return FALSE;
     }
-    const auto fitting = static_cast<DWORD>(std::min<std::size_t>(size, s_active->m_room));
-    s_active->m_room -= fitting;
+    const auto fitting = static_cast<DWORD>(std::min<std::size_t>(size, s_active->m_capacity));
+    s_active->m_capacity -= fitting;
     return s_active->m_hook.System()(file, data, fitting, written, overlapped);
 }

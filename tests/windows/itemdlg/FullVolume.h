@@ -1,4 +1,4 @@
-// A volume without room: while an object lives, the files that the program writes take so many bytes more.
+// A full volume: while an object lives, the files that the program writes take `capacity` more bytes.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@
 
 class CFullVolume {
 public:
-    explicit CFullVolume(std::size_t room);
+    explicit CFullVolume(std::size_t capacity);
     ~CFullVolume();
     CFullVolume(const CFullVolume&) = delete;
     CFullVolume& operator=(const CFullVolume&) = delete;
@@ -20,6 +20,6 @@ private:
     static BOOL WINAPI Write(HANDLE file, LPCVOID data, DWORD size, LPDWORD written, LPOVERLAPPED overlapped);
 
     static CFullVolume* s_active;
-    std::size_t m_room;
+    std::size_t m_capacity;
     CImportHook<FWrite> m_hook;
 };

@@ -1,4 +1,4 @@
-// Opens the item dialog on files of a test's own and lets hands act in it.
+// Opens the item dialog on the test's own files and runs the test's steps in it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 #include "itemdlg/TavrinWndDlg.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
@@ -33,7 +33,7 @@ protected:
 
     // Adds a step that acts in the item dialog and then presses OK, or Cancel.
     void InDialog(std::function<void(HWND, CPropertyGrid&)> act, int button = IDOK) {
-        hands.Then([this, act = std::move(act), button](HWND dialog) {
+        driver.Then([this, act = std::move(act), button](HWND dialog) {
             m_dialogsSeen++;
             act(dialog, GridOf(dialog));
             PressButton(dialog, button);
@@ -51,7 +51,7 @@ protected:
         CTavrinWndDlg dialog(nullptr);
         dialog.SetArguments(baseName, scale, mode);
         const INT_PTR result = dialog.DoModal();
-        EXPECT_EQ(hands.StepsLeft(), 0U) << "a dialog or message box that was expected did not come up";
+        EXPECT_EQ(driver.StepsLeft(), 0U) << "an expected dialog or message box did not open";
         return result;
     }
 
@@ -74,6 +74,6 @@ protected:
     }
 
     CTempFolder folder;
-    CModalHands hands;
+    CModalDriver driver;
     int m_dialogsSeen = 0;
 };

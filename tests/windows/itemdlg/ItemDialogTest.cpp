@@ -15,22 +15,22 @@ protected:
 };
 
 TEST_F(ItemDialog, AnEmptyBaseNameIsReportedAndClosesTheDialog) {
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_NE(Run(1.0, 0, L""), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"Please specify a file name!");
-    EXPECT_EQ(hands.messages[0].caption, L"Error!");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"Please specify a file name!");
+    EXPECT_EQ(driver.messages[0].caption, L"Error!");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemDialog, AMissingWorkingFileIsNamedAndClosesTheDialog) {
     folder.Write(L"item.TXT", "");
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_NE(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"File not found 'item_TMP.TXT'!");
-    EXPECT_EQ(hands.messages[0].caption, L"Error!");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"File not found 'item_TMP.TXT'!");
+    EXPECT_EQ(driver.messages[0].caption, L"Error!");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
     EXPECT_EQ(folder.Read(L"item.TXT"), "");
 }
 
@@ -51,7 +51,7 @@ protected:
 };
 
 TEST_F(ItemDialog, IsNotShownWhenItsArgumentsAreUnusable) {
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     CShowWatcher unusable(nullptr);
     unusable.DoModal();
     EXPECT_FALSE(unusable.wasShown);
@@ -144,7 +144,7 @@ TEST_F(ItemDialog, LeavesTheFilesAloneWhenCancelled) {
     WriteItem("$1 = \"<<1501>>\"R 5\n");
     const std::string before = folder.Read(L"item.TXT");
     for (const UINT message : {WM_COMMAND, WM_CLOSE, WM_KEYDOWN}) {
-        hands.Then([=](HWND dialog) {
+        driver.Then([=](HWND dialog) {
             ::PostMessageW(dialog, message, message == WM_COMMAND ? IDCANCEL : VK_ESCAPE, 0);
         });
         EXPECT_EQ(Run(), IDCANCEL);
@@ -167,7 +167,7 @@ TEST_F(ItemDialog, LeavesNothingBehind) {
     const auto cycle = [&](int button) {
         PressInDialog(button);
         Run();
-        hands.Forget();
+        driver.Forget();
         fakeHost.searched.clear();
     };
     cycle(IDOK);

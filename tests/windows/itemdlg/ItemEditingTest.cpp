@@ -19,8 +19,8 @@ protected:
     }
 
     // Runs the dialog; `act` works in it and must lead to its end.
-    INT_PTR Edit(CModalHands::Step act) {
-        hands.Then([this, act](HWND dialog) {
+    INT_PTR Edit(CModalDriver::Step act) {
+        driver.Then([this, act](HWND dialog) {
             PumpMessages();
             act(dialog);
         });
@@ -167,31 +167,31 @@ TEST_F(ItemEditing, TheHostMayDestroyTheDialogWhileAnEditIsOpen) {
 // ---- Distances
 
 TEST_F(ItemEditing, ATextThatIsNoDistanceIsReportedOnceAndTheValueKept) {
-    hands.Then([](HWND dialog) {
+    driver.Then([](HWND dialog) {
         PumpMessages();
         const HWND edit = Type(dialog, width, L"wide");
         ::PostMessage(edit, WM_KEYDOWN, VK_RETURN, 0x1C0001);
     });
-    hands.Then([this](HWND box) {
-        hands.messages.push_back(ReadMessageBox(box));
+    driver.Then([this](HWND box) {
+        driver.messages.push_back(ReadMessageBox(box));
         PressButton(box, IDOK);
         // The dialog has been seen already, so it is ended from here.
         ::PostMessage(::FindWindow(nullptr, L"Item title"), WM_COMMAND, IDOK, 0);
     });
     EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].caption, L"Invalid value");
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].caption, L"Invalid value");
     EXPECT_NE(WorkingFile().find("#3 = 900"), std::string::npos) << WorkingFile();
 }
 
 // The box takes the release of the press that ended the edit.
 TEST_F(ItemEditing, AfterTheBoxAboutAWrongDistanceTheNextClickCounts) {
-    hands.Then([this](HWND dialog) {
+    driver.Then([this](HWND dialog) {
         PumpMessages();
         CPropertyGrid& grid = GridOf(dialog);
         Type(dialog, width, L"zzz");
         Click(grid.m_hWnd, ButtonOf(grid, width));
-        EXPECT_TRUE(PumpUntil([&] { return hands.messages.size() == 1; }));
+        EXPECT_TRUE(PumpUntil([&] { return driver.messages.size() == 1; }));
         EXPECT_EQ(::GetCapture(), nullptr);
         EXPECT_FALSE(grid.IsEditing());
         Click(::GetDlgItem(dialog, IDOK));
@@ -199,10 +199,10 @@ TEST_F(ItemEditing, AfterTheBoxAboutAWrongDistanceTheNextClickCounts) {
         EXPECT_TRUE(PumpUntil([&] { return WorkingFile() != m_before; })) << "the click did nothing";
         ::PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
     });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].caption, L"Invalid value");
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].caption, L"Invalid value");
     EXPECT_TRUE(fakeHost.prompts.empty()) << "nothing is picked";
 }
 
@@ -281,7 +281,7 @@ TEST_F(ItemEditing, TheTabKeyPassesByTheGridsInside) {
 }
 
 TEST_F(ItemEditing, ARowThatIsNotEditableOpensNothing) {
-    hands.Then([](HWND dialog) {
+    driver.Then([](HWND dialog) {
         PumpMessages();
         CPropertyGrid& grid = GridOf(dialog);
         Click(grid.m_hWnd, ValueOf(grid, 3));
@@ -301,7 +301,7 @@ TEST_F(ItemEditing, LeavesNothingBehind) {
             Type(dialog, width, L"43");
             ::PostMessage(dialog, WM_COMMAND, static_cast<WPARAM>(button), 0);
         });
-        hands.Forget();
+        driver.Forget();
         fakeHost.searched.clear();
     };
     for (int warmUp = 0; warmUp < 2; ++warmUp) {

@@ -1,4 +1,4 @@
-// What the item dialog tells and leaves behind where its files, folders and paths fail.
+// The messages of the item dialog, and the files it leaves, when files, folders or paths fail.
 #include <filesystem>
 #include <memory>
 
@@ -31,11 +31,11 @@ protected:
         WriteItem(parameter);
         InDialog([&](HWND, CPropertyGrid&) { fault(); });
         for (size_t message = 0; message < messages; ++message) {
-            hands.ThenPressOk();
+            driver.ThenPressOk();
         }
         EXPECT_EQ(Run(), IDOK);
         std::wstring seen;
-        for (const MessageBoxSeen& message : hands.messages) {
+        for (const MessageBoxSeen& message : driver.messages) {
             EXPECT_EQ(message.buttons, 1);
             seen += message.text + L" / " + message.caption + L"\n";
         }
@@ -134,8 +134,8 @@ TEST_F(ItemFaults, AFullVolumeIsReportedForEachFileWhichHoldsWhatWasWrittenBefor
 
 TEST_F(ItemFaults, AVolumeThatHasRoomForOneFileLeavesTheOtherEmpty) {
     std::unique_ptr<CFullVolume> volume;
-    const size_t room = std::string(withAssignment).size();
-    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(room); }, 1),
+    const size_t capacity = std::string(withAssignment).size();
+    EXPECT_EQ(ConfirmDespite([&] { volume = std::make_unique<CFullVolume>(capacity); }, 1),
               L"Error - unable to write file / Error\n");
     volume.reset();
     EXPECT_EQ(folder.Read(working), withAssignment);
@@ -173,7 +173,7 @@ TEST_F(ItemFaults, WithoutGdiPlusTheDialogHasNoPictureAndWritesItsFiles) {
         middle = picture.At(picture.Width() / 2, picture.Height() / 2);
     });
     EXPECT_EQ(Run(), IDOK);
-    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_TRUE(driver.messages.empty());
     EXPECT_EQ(middle, 0xE1E1E1U);
     EXPECT_EQ(folder.Read(working), withAssignment);
     EXPECT_EQ(folder.Read(defaults), withNewDefault);
@@ -191,7 +191,7 @@ TEST_F(ItemFaults, APathOf253CharactersIsTheLongestThatIsFound) {
     folder.Write(name + L".TXT", asWritten);
     PressInDialog(IDOK);
     EXPECT_EQ(Run(1, 0, name.c_str()), IDOK);
-    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_TRUE(driver.messages.empty());
     EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), withAssignment);
     EXPECT_EQ(folder.Read(name + L".TXT"), withNewDefault);
 }
@@ -201,18 +201,18 @@ TEST_F(ItemFaults, LongerPathsCountAsNotFoundAndTheFilesAreKept) {
         const std::wstring name = BaseNameFor(length, folder);
         folder.Write(name + L"_TMP.TXT", asWritten);
         folder.Write(name + L".TXT", asWritten);
-        hands.Forget();
-        hands.ThenPressOk();
+        driver.Forget();
+        driver.ThenPressOk();
         EXPECT_EQ(Run(1, 0, name.c_str()), IDCANCEL) << length;
-        ASSERT_EQ(hands.messages.size(), 1U) << length;
-        EXPECT_EQ(hands.messages[0].text, L"File not found '" + name + L"_TMP.TXT'!");
-        EXPECT_EQ(hands.messages[0].caption, L"Error!");
+        ASSERT_EQ(driver.messages.size(), 1U) << length;
+        EXPECT_EQ(driver.messages[0].text, L"File not found '" + name + L"_TMP.TXT'!");
+        EXPECT_EQ(driver.messages[0].caption, L"Error!");
         EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), asWritten);
         EXPECT_EQ(folder.Read(name + L".TXT"), asWritten);
     }
 }
 
-// Nothing keeps a host from finding more than it was asked for.
+// A host may return a path longer than the capacity it was given.
 TEST_F(ItemFaults, ALongerPathThatTheHostFindsAllTheSameIsOpened) {
     for (const size_t length : {254U, 255U}) {
         const std::wstring name = BaseNameFor(length, folder);
@@ -223,7 +223,7 @@ TEST_F(ItemFaults, ALongerPathThatTheHostFindsAllTheSameIsOpened) {
             std::wcscpy(result, path.c_str());
             return std::filesystem::exists(path) ? FakeHost::RtNorm : 0;
         };
-        hands.Forget();
+        driver.Forget();
         PressInDialog(IDOK);
         EXPECT_EQ(Run(1, 0, name.c_str()), IDOK) << length;
         EXPECT_EQ(folder.Read(name + L"_TMP.TXT"), withAssignment) << length;

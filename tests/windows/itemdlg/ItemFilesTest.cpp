@@ -87,11 +87,11 @@ TEST_F(ItemFiles, SeveralBlocksFollowEachOther) {
 
 TEST_F(ItemFiles, ALowerCaseTypeLetterIsReportedOnceForEachLine) {
     WriteItem("$7 = \"Width\"d 10\n$8 = \"Height\"i 10\n$9 = \"<<1501>>\"R 1\n");
-    hands.ThenPressOk();
-    hands.ThenPressOk();
+    driver.ThenPressOk();
+    driver.ThenPressOk();
     InDialog([&](HWND dialog, CPropertyGrid& grid) {
         EXPECT_EQ(Rows(grid), L"Larghezza anta = 1 *\n");
-        for (const MessageBoxSeen& message : hands.messages) {
+        for (const MessageBoxSeen& message : driver.messages) {
             EXPECT_EQ(message.text, L"Warning! Found invalid type code.");
             EXPECT_EQ(message.caption, L"Warning!");
             EXPECT_EQ(message.buttons, 1);
@@ -195,11 +195,11 @@ TEST_F(ItemFiles, AnUndefinedRowWritesTheValueThatItWasReadWith) {
 TEST_F(ItemFiles, AWorkingFileThatVanishedIsReportedAndTheTemplateIsStillUpdated) {
     WriteItem("$1 = \"<<1501>>\"R 1\n");
     InDialog([&](HWND, CPropertyGrid&) { ::DeleteFileW(folder.Path(L"item_TMP.TXT").c_str()); });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"File not found!");
-    EXPECT_EQ(hands.messages[0].caption, L"Error!");
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"File not found!");
+    EXPECT_EQ(driver.messages[0].caption, L"Error!");
     EXPECT_EQ(Template(), "$1 = \"<<1501>>\"R1\n");
     EXPECT_EQ(folder.Read(L"item_TMP.TXT"), "(no file)");
 }
@@ -208,10 +208,10 @@ TEST_F(ItemFiles, AMissingTemplateIsReportedAndTheWorkingFileIsWritten) {
     WriteItem("$1 = \"<<1501>>\"R 1\n");
     ::DeleteFileW(folder.Path(L"item.TXT").c_str());
     PressInDialog(IDOK);
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"File not found!");
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"File not found!");
     EXPECT_EQ(Working(), "#1 = 1\n");
 }
 
@@ -228,11 +228,11 @@ TEST_F(ItemFiles, AFileThatVanishesBeforeWritingIsReported) {
             return FakeHost::RtNorm;
         };
     });
-    hands.ThenPressOk();
-    hands.ThenPressOk();
+    driver.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(Run(), IDOK);
-    ASSERT_EQ(hands.messages.size(), 2U);
-    for (const MessageBoxSeen& message : hands.messages) {
+    ASSERT_EQ(driver.messages.size(), 2U);
+    for (const MessageBoxSeen& message : driver.messages) {
         EXPECT_EQ(message.text, L"File not found!");
         EXPECT_EQ(message.caption, L"Error!");
     }
@@ -243,13 +243,13 @@ TEST_F(ItemFiles, AFileThatVanishesBeforeWritingIsReported) {
 TEST_F(ItemFiles, AWorkingFileThatCannotBeOpenedIsReportedAndTheDialogStaysOpen) {
     WriteItem("$1 = \"<<1501>>\"R 1\n");
     const CFileLock lock(folder.Path(L"item_TMP.TXT"));
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     InDialog([](HWND, CPropertyGrid& grid) { EXPECT_EQ(grid.GetItemCount(), 0U); }, IDCANCEL);
     EXPECT_EQ(Run(), IDCANCEL);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-    EXPECT_EQ(hands.messages[0].caption, L"Error");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"Error - unable to open file");
+    EXPECT_EQ(driver.messages[0].caption, L"Error");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemFiles, AFileThatCannotBeReadOrWrittenAtOkIsReportedAndTheDialogCloses) {
@@ -257,15 +257,15 @@ TEST_F(ItemFiles, AFileThatCannotBeReadOrWrittenAtOkIsReportedAndTheDialogCloses
     const std::string before = folder.Read(L"item_TMP.TXT");
     std::unique_ptr<CFileLock> lock;
     InDialog([&](HWND, CPropertyGrid&) { lock = std::make_unique<CFileLock>(folder.Path(L"item_TMP.TXT")); });
-    hands.ThenPressOk();
-    hands.ThenPressOk();
+    driver.ThenPressOk();
+    driver.ThenPressOk();
     EXPECT_EQ(Run(), IDOK);
     lock.reset();
-    ASSERT_EQ(hands.messages.size(), 2U);
-    EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-    EXPECT_EQ(hands.messages[0].caption, L"Error");
-    EXPECT_EQ(hands.messages[1].text, L"Error - unable to write file");
-    EXPECT_EQ(hands.messages[1].caption, L"Error");
+    ASSERT_EQ(driver.messages.size(), 2U);
+    EXPECT_EQ(driver.messages[0].text, L"Error - unable to open file");
+    EXPECT_EQ(driver.messages[0].caption, L"Error");
+    EXPECT_EQ(driver.messages[1].text, L"Error - unable to write file");
+    EXPECT_EQ(driver.messages[1].caption, L"Error");
     EXPECT_EQ(folder.Read(L"item_TMP.TXT"), before);
     EXPECT_EQ(Template(), "$1 = \"<<1501>>\"R1\n");
 }
@@ -276,7 +276,7 @@ TEST_F(ItemFiles, AFileIsCutWhereReadingFailed) {
     for (const int breaking : {1, 3}) {
         SCOPED_TRACE(breaking);
         WriteItem("$1 = \"<<1501>>\"R 1\nafter\n");
-        hands.Forget();
+        driver.Forget();
         std::unique_ptr<CBreakingFile> file;
         int searches = 0;
         InDialog([&](HWND, CPropertyGrid&) {
@@ -287,12 +287,12 @@ TEST_F(ItemFiles, AFileIsCutWhereReadingFailed) {
                 return FakeHost::RtNorm;
             };
         });
-        hands.ThenPressOk();
+        driver.ThenPressOk();
         EXPECT_EQ(Run(), IDOK);
         fakeHost.findFile = nullptr;
-        ASSERT_EQ(hands.messages.size(), 1U);
-        EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-        EXPECT_EQ(hands.messages[0].caption, L"Error");
+        ASSERT_EQ(driver.messages.size(), 1U);
+        EXPECT_EQ(driver.messages[0].text, L"Error - unable to open file");
+        EXPECT_EQ(driver.messages[0].caption, L"Error");
         const std::string assigned = "first line\r\nItem title\r\nVAR\r\n#1 = 1\r\n";
         const std::string updated = "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R1\r\n";
         const std::string rest = "after\r\nEND_VAR\r\n";

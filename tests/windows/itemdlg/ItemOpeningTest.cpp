@@ -17,15 +17,15 @@ protected:
         OfferTextModule();
     }
 
-    // From here on the host finds the working file, searched for the n-th time, where `place` says; nothing
-    // is not at all. The dialog searches for it once to see whether it is there and once to read it.
-    void FindWorkingFile(std::function<std::optional<std::wstring>(int search)> place) {
-        fakeHost.findFile = [this, place = std::move(place), searches = 0](const wchar_t* name,
-                                                                           wchar_t* result, size_t) mutable {
+    // From here on the host answers the n-th search for the working file with the path from `find`; without
+    // one the file is not found. The dialog searches once to check that the file exists and once to read it.
+    void FindWorkingFile(std::function<std::optional<std::wstring>(int search)> find) {
+        fakeHost.findFile = [this, find = std::move(find), searches = 0](const wchar_t* name, wchar_t* result,
+                                                                         size_t) mutable {
             if (std::wcscmp(name, L"item_TMP.TXT") != 0) {
                 return FakeHost::RtNorm - 1;
             }
-            const std::optional<std::wstring> path = place(++searches);
+            const std::optional<std::wstring> path = find(++searches);
             std::wcscpy(result, path.value_or(L"").c_str());
             return path ? FakeHost::RtNorm : FakeHost::RtNorm - 1;
         };
@@ -41,7 +41,7 @@ TEST_F(ItemOpening, AWorkingFileThatVanishesMeanwhileIsReportedAndTheDialogStays
     FindWorkingFile([this](int search) {
         return search == 1 ? std::optional(folder.Path(L"item_TMP.TXT")) : std::nullopt;
     });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     InDialog(
         [](HWND dialog, CPropertyGrid& grid) {
             EXPECT_EQ(grid.GetSectionCount(), 1U);
@@ -52,16 +52,16 @@ TEST_F(ItemOpening, AWorkingFileThatVanishesMeanwhileIsReportedAndTheDialogStays
         },
         IDCANCEL);
     EXPECT_EQ(Run(), IDCANCEL);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"File not found!");
-    EXPECT_EQ(hands.messages[0].caption, L"Error!");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"File not found!");
+    EXPECT_EQ(driver.messages[0].caption, L"Error!");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
     CBreakingFile file("first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R 1\r\n$2 = \"<<1502>>\"I 2");
     FindWorkingFile([](int) { return std::wstring(CBreakingFile::Path()); });
-    hands.ThenPressOk();
+    driver.ThenPressOk();
     InDialog(
         [](HWND dialog, CPropertyGrid& grid) {
             EXPECT_EQ(Rows(grid), L"Larghezza anta = 1 *\n");
@@ -69,10 +69,10 @@ TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
         },
         IDCANCEL);
     EXPECT_EQ(Run(), IDCANCEL);
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].text, L"Error - unable to open file");
-    EXPECT_EQ(hands.messages[0].caption, L"Error");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].text, L"Error - unable to open file");
+    EXPECT_EQ(driver.messages[0].caption, L"Error");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
 }
 
 TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
@@ -93,7 +93,7 @@ TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
     EXPECT_FALSE(greyOfPicture());
     const CFileLock lock(folder.Path(L"item.png"));
     EXPECT_TRUE(greyOfPicture());
-    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_TRUE(driver.messages.empty());
 }
 
 TEST_F(ItemOpening, FillingItOnceMoreForgetsTheRowsBefore) {

@@ -1,4 +1,4 @@
-// What tavrincheck foretells of the item dialog is what the dialog does: rows, title and messages, and both
+// tavrincheck's preview of the item dialog equals what the dialog does: rows, title and messages, and both
 // files byte for byte.
 #include <filesystem>
 #include <optional>
@@ -101,7 +101,7 @@ protected:
         return shown;
     }
 
-    static std::wstring Foretold(const CItemPreview& preview) {
+    static std::wstring Previewed(const CItemPreview& preview) {
         const ItemContents& contents = preview.Contents();
         std::wstring shown = contents.title.value_or(L"item") + L"\n" +
                              (contents.title ? contents.header : L"  Parametri") + L"\n";
@@ -145,23 +145,23 @@ protected:
     }
 
     void ExpectMessages(const CItemPreview& preview, bool templateIsMissing) {
-        std::vector<std::wstring> foretold;
+        std::vector<std::wstring> expected;
         for (const ItemParameter& parameter : preview.Contents().parameters) {
             if (parameter.row == PR_INVALID_TYPE) {
-                foretold.push_back(kInvalidTypeMessage);
+                expected.push_back(kInvalidTypeMessage);
             }
         }
         if (templateIsMissing) {
-            foretold.push_back(kFileNotFoundMessage);
+            expected.push_back(kFileNotFoundMessage);
         }
-        m_messagesForetold = foretold;
-        for (size_t i = 0; i < foretold.size(); ++i) {
-            hands.ThenPressOk();
+        m_expectedMessages = expected;
+        for (size_t i = 0; i < expected.size(); ++i) {
+            driver.ThenPressOk();
         }
     }
 
     void Compare(const SGeneratedItem& item, bool changeValues) {
-        hands.Forget();
+        driver.Forget();
         fakeHost.searched.clear();
         PutFiles(item);
         CItemPreview preview = PreviewOf(item);
@@ -169,18 +169,18 @@ protected:
         CUnseenDialog dialog;
         dialog.SetArguments(L"item", item.scale, item.mode);
         dialog.act = [&](CUnseenDialog& window, CPropertyGrid& grid) {
-            EXPECT_EQ(Shown(window, grid), Foretold(preview));
+            EXPECT_EQ(Shown(window, grid), Previewed(preview));
             if (changeValues) {
                 ChangeValues(preview, grid);
-                EXPECT_EQ(Shown(window, grid), Foretold(preview)) << "with values changed";
+                EXPECT_EQ(Shown(window, grid), Previewed(preview)) << "with values changed";
             }
         };
         EXPECT_EQ(dialog.DoModal(), IDOK);
         std::vector<std::wstring> messages;
-        for (const MessageBoxSeen& message : hands.messages) {
+        for (const MessageBoxSeen& message : driver.messages) {
             messages.push_back(message.text);
         }
-        EXPECT_EQ(messages, m_messagesForetold);
+        EXPECT_EQ(messages, m_expectedMessages);
         EXPECT_EQ(folder.Read(L"item_TMP.TXT"),
                   WrittenFile(preview.WorkingFileAfter(TextsOf(SplitLines(item.workingFile)))));
         EXPECT_EQ(folder.Read(L"item.TXT"), TemplateAfter(item, preview));
@@ -199,12 +199,12 @@ protected:
     }
 
     static CTextTable texts;
-    std::vector<std::wstring> m_messagesForetold;
+    std::vector<std::wstring> m_expectedMessages;
 };
 
 CTextTable Preview::texts;
 
-TEST_F(Preview, ForetellsTheDialogOnEverySample) {
+TEST_F(Preview, EqualsTheDialogOnEverySample) {
     int samples = 0;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(SAMPLES_FOLDER)) {
         const std::string name = NameOf(entry.path());
@@ -231,7 +231,7 @@ TEST_F(Preview, ForetellsTheDialogOnEverySample) {
     EXPECT_GT(samples, 0);
 }
 
-TEST_F(Preview, ForetellsTheDialogOnAThousandGeneratedItems) {
+TEST_F(Preview, EqualsTheDialogOnAThousandGeneratedItems) {
     constexpr unsigned kFirstSeed = 20260101;
     for (unsigned seed = kFirstSeed; seed < kFirstSeed + 1000; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));

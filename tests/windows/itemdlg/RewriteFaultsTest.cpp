@@ -46,16 +46,16 @@ protected:
         return calls;
     }
 
-    // Opens the dialog and presses OK, in which a call fails and so many messages come up.
+    // Opens the dialog and presses OK; during that a call fails and `messages` boxes open.
     std::vector<FileCall> Confirm(EFileOperation operation, size_t failing, bool forGood, size_t messages) {
         folder.Write(kWorking, m_before);
         folder.Write(kDefaults, m_before);
-        hands.Forget();
+        driver.Forget();
         std::unique_ptr<CFileFault> fault;
         InDialog(
             [&](HWND, CPropertyGrid&) { fault = std::make_unique<CFileFault>(operation, failing, forGood); });
         for (size_t message = 0; message < messages; ++message) {
-            hands.ThenPressOk();
+            driver.ThenPressOk();
         }
         EXPECT_EQ(Run(), IDOK);
         return fault->Calls();
@@ -81,7 +81,7 @@ protected:
     }
 
     void ExpectMessages(const wchar_t* text) const {
-        for (const MessageBoxSeen& message : hands.messages) {
+        for (const MessageBoxSeen& message : driver.messages) {
             EXPECT_EQ(message.text, text);
         }
     }

@@ -19,7 +19,7 @@ protected:
             },
             IDCANCEL);
         Run();
-        EXPECT_TRUE(hands.messages.empty());
+        EXPECT_TRUE(driver.messages.empty());
     }
 };
 
@@ -38,7 +38,7 @@ TEST_F(WithoutTexts, OkWritesTheFilesAsWithThem) {
     WriteItem("$1 = \"a <<1501>> b\"R 5\n");
     PressInDialog(IDOK);
     EXPECT_EQ(Run(), IDOK);
-    EXPECT_TRUE(hands.messages.empty());
+    EXPECT_TRUE(driver.messages.empty());
     EXPECT_EQ(folder.Read(L"item_TMP.TXT"), "first line\r\nItem title\r\nVAR\r\n#1 = 5\r\nEND_VAR\r\n");
     EXPECT_EQ(folder.Read(L"item.TXT"),
               "first line\r\nItem title\r\nVAR\r\n$1 = \"a <<1501>> b\"R5\r\nEND_VAR\r\n");

@@ -1,9 +1,9 @@
-// A host whose functions fail, each in turn: what the module then answers, tells and writes.
+// A host whose functions fail, each in turn: the module's results, messages and files.
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/CommandDriver.h"
 #include "tests/windows/module/LoadedModule.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/Bitmap.h"
@@ -44,10 +44,10 @@ protected:
         fakeHost.failures.clear();
         fakeHost.alerts.clear();
         fakeHost.arguments = arguments.List();
-        CCommandHands hands(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
-                                      : std::function<void(HWND)>());
+        CCommandDriver driver(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
+                                        : std::function<void(HWND)>());
         EXPECT_EQ(module.Invoke(code), 0);
-        m_messages = hands.messages;
+        m_messages = driver.messages;
         return fakeHost.results;
     }
 

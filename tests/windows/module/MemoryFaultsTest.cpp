@@ -1,17 +1,17 @@
-// Memory that runs out at each allocation of a call in turn, from a module just loaded: the host hears one
-// result and nothing else, the user is told, the files are whole or told of, nothing stays behind, and the
-// next call works.
+// Each allocation of a call fails in turn, in a module that was just loaded: the host gets exactly one
+// result, the user gets a message, a file is either complete or reported as incomplete, nothing leaks, and
+// the next call works.
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
-#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/CommandDriver.h"
 #include "tests/windows/module/LoadedModule.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/Bitmap.h"
 #include "tests/windows/support/DialogInput.h"
 #include "tests/windows/support/FakeHost.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 #include "tests/windows/support/TextModule.h"
 
@@ -49,13 +49,13 @@ protected:
         m_folder.Write(L"item.TXT", item);
         fakeHost.results.clear();
         fakeHost.arguments = arguments.List();
-        CCommandHands hands(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
-                                      : std::function<void(HWND)>());
+        CCommandDriver driver(code == 2 ? [](HWND dialog) { PressKey(dialog, VK_RETURN); }
+                                        : std::function<void(HWND)>());
         const size_t before = m_heap.allocations();
         m_heap.failAfter(failing);
         EXPECT_EQ(module.Invoke(code), 0);
         m_heap.failAfter(0);
-        return {fakeHost.results, hands.messages, m_heap.allocations() - before,
+        return {fakeHost.results, driver.messages, m_heap.allocations() - before,
                 m_folder.Read(L"item_TMP.TXT"), m_folder.Read(L"item.TXT")};
     }
 
@@ -104,25 +104,25 @@ protected:
     SModuleHeap m_heap;
 };
 
-bool IsTold(const SOutcome& outcome, const wchar_t* text) {
+bool IsReported(const SOutcome& outcome, const wchar_t* text) {
     return std::find(outcome.messages.begin(), outcome.messages.end(), text) != outcome.messages.end();
 }
 
-// A file is as it was or completely new. Where it is new it may also end early, which is told.
+// A file is either unchanged or completely new. A new one may be cut short, which is reported.
 void ExpectWhole(const std::string& now, const std::string& rewritten, const SOutcome& outcome) {
     if (outcome.results[0] == "nil") {
         EXPECT_EQ(now, item);
     } else if (now == item) {
-        EXPECT_TRUE(IsTold(outcome, L"Error - unable to open file") ||
-                    IsTold(outcome, L"Error - unable to write file"));
-    } else if (IsTold(outcome, L"Error - unable to write file")) {
+        EXPECT_TRUE(IsReported(outcome, L"Error - unable to open file") ||
+                    IsReported(outcome, L"Error - unable to write file"));
+    } else if (IsReported(outcome, L"Error - unable to write file")) {
         EXPECT_EQ(now, rewritten.substr(0, now.size()));
     } else {
         EXPECT_EQ(now, rewritten);
     }
 }
 
-TEST_F(MemoryFaults, TheItemDialogWritesWholeFilesOrTells) {
+TEST_F(MemoryFaults, TheItemDialogWritesWholeFilesOrReportsIt) {
     CArguments arguments;
     arguments.String(L"item").Real(1).Short(0);
     FailEachAllocation(0, arguments, "0", [](const SOutcome& outcome) {
@@ -167,8 +167,8 @@ void TypeInRow(HWND dialog, int row, const wchar_t* text) {
     }
 }
 
-// Memory that runs out while the user edits and presses OK.
-TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
+// Allocations fail while the user edits and presses OK.
+TEST_F(MemoryFaults, TypedTextIsWrittenOrItsLossIsReported) {
     CArguments arguments;
     arguments.String(L"item").Real(1).Short(0);
     fakeHost.arguments = arguments.List();
@@ -182,7 +182,7 @@ TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
         size_t before = 0;
         {
             const CLoadedModule module;
-            CCommandHands hands([&](HWND dialog) {
+            CCommandDriver driver([&](HWND dialog) {
                 before = m_heap.allocations();
                 m_heap.failAfter(failing);
                 TypeInRow(dialog, 0, L"33");
@@ -197,7 +197,7 @@ TEST_F(MemoryFaults, WhatIsTypedIsWrittenOrItsLossIsTold) {
                 EXPECT_EQ(working, item);
                 EXPECT_EQ(m_folder.Read(L"item.TXT"), item);
             }
-            EXPECT_TRUE(working == allAssigned || !hands.messages.empty()) << working;
+            EXPECT_TRUE(working == allAssigned || !driver.messages.empty()) << working;
             if (failing == 0) {
                 EXPECT_EQ(working, allAssigned);
             }

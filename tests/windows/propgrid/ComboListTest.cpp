@@ -1,5 +1,5 @@
 // The drop-down list: how it opens and looks, what mouse and keys do, each of its endings, and that nothing
-// of it is touched once the grid has been told.
+// of it is touched after its message to the grid.
 #include <climits>
 #include <ostream>
 
@@ -78,7 +78,7 @@ protected:
 
 // ---- The window
 
-TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheScreenPlaceOfTheRectangle) {
+TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheRectanglesScreenPosition) {
     CPropertyGridCombo list;
     ASSERT_TRUE(list.Create(WS_CHILD, Under(), &grid, 0));
     EXPECT_EQ(list.GetStyle() & (WS_CHILD | WS_POPUP | WS_VISIBLE), static_cast<DWORD>(WS_CHILD | WS_POPUP));
@@ -87,10 +87,10 @@ TEST_F(ComboList, IsAPopUpOfTheGridsParentAtTheScreenPlaceOfTheRectangle) {
     EXPECT_EQ(::GetAncestor(list.m_hWnd, GA_PARENT), ::GetDesktopWindow());
     EXPECT_EQ(list.GetOwner(), &grid);
     EXPECT_EQ(::GetWindowTextLength(list), 0);
-    CRect place;
-    list.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, Under());
+    CRect rect;
+    list.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, Under());
 }
 
 TEST_F(ComboList, HasAPlainWindowClass) {
@@ -115,10 +115,10 @@ TEST_F(ComboList, HasNothingSelectedAtTheStart) {
 
 TEST_F(ComboList, IsAsHighAsItsStringsWhenShownAndHasTheFocus) {
     const CPropertyGridCombo& list = Open();
-    CRect place;
-    list.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, CRect(150, 36, 300, 36 + 3 * RowHeight() + 2));
+    CRect rect;
+    list.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(150, 36, 300, 36 + 3 * RowHeight() + 2));
     EXPECT_EQ(::GetFocus(), list.m_hWnd);
     EXPECT_TRUE(list.IsWindowVisible());
     EXPECT_TRUE(grid.reports.empty());
@@ -178,12 +178,12 @@ TEST_F(ComboList, UsesTheFontThatItsWindowAnswersWhenNoneWasSet) {
     EXPECT_EQ(client.Height(), HeightOfGg(list.font) + 4 + 2);
 }
 
-TEST_F(ComboList, TellsItsWindowTheFont) {
-    struct CHearing : CPropertyGridCombo {
-        std::vector<std::pair<WPARAM, LPARAM>> heard;
+TEST_F(ComboList, PassesTheFontToItsWindow) {
+    struct CRecordingList : CPropertyGridCombo {
+        std::vector<std::pair<WPARAM, LPARAM>> fonts;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message == WM_SETFONT) {
-                heard.emplace_back(wParam, lParam);
+                fonts.emplace_back(wParam, lParam);
             }
             return CPropertyGridCombo::WindowProc(message, wParam, lParam);
         }
@@ -191,7 +191,7 @@ TEST_F(ComboList, TellsItsWindowTheFont) {
     list.Create(WS_CHILD, Under(), &grid, 0);
     list.SetFont(&parent.font, FALSE);
     const std::pair<WPARAM, LPARAM> expected(reinterpret_cast<WPARAM>(parent.font.GetSafeHandle()), FALSE);
-    EXPECT_EQ(list.heard, std::vector{expected});
+    EXPECT_EQ(list.fonts, std::vector{expected});
 }
 
 TEST_F(ComboList, WantsAllKeysOfADialog) {
@@ -396,9 +396,8 @@ TEST_F(ComboListPaint, UsesTheSystemsColorsAtTheStart) {
 }
 
 TEST_F(ComboListPaint, NeedsNoRoom) {
-    for (const CRect& place :
-         {CRect(0, 0, 0, 0), CRect(5, 5, 6, 6), CRect(5, 5, 2, 2), CRect(0, 0, 3, 100)}) {
-        OpenList(grid, Three(), 0, place, &parent.font);
+    for (const CRect& rect : {CRect(0, 0, 0, 0), CRect(5, 5, 6, 6), CRect(5, 5, 2, 2), CRect(0, 0, 3, 100)}) {
+        OpenList(grid, Three(), 0, rect, &parent.font);
         Paint();
         // Smaller than a row.
         List().SetWindowPos(nullptr, 0, 0, 40, 3, SWP_NOMOVE | SWP_NOZORDER);
@@ -475,7 +474,7 @@ TEST_F(ComboList, FollowsTheMouseWhileTheButtonIsDownAlone) {
     EXPECT_TRUE(IsPaintDue());
 }
 
-TEST_F(ComboList, HasLetGoOfTheMouseWhenItTells) {
+TEST_F(ComboList, HasReleasedTheMouseWhenItReports) {
     HWND capture = grid.m_hWnd;
     grid.beforeClosing = [&] { capture = ::GetCapture(); };
     Open();
@@ -484,7 +483,7 @@ TEST_F(ComboList, HasLetGoOfTheMouseWhenItTells) {
     EXPECT_EQ(capture, nullptr);
 }
 
-TEST_F(ComboList, TellsAnIndexBelowTheListAsItIs) {
+TEST_F(ComboList, ReportsAnIndexBelowTheListUnchanged) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3 * RowHeight());  // the bottom border
     Mouse(WM_LBUTTONUP, 3 * RowHeight());
@@ -495,7 +494,7 @@ TEST_F(ComboList, TellsAnIndexBelowTheListAsItIs) {
     EXPECT_EQ(grid.reports, (std::vector{Chosen(3), Chosen(9)}));
 }
 
-TEST_F(ComboList, TellsAnIndexAboveTheListAsItIs) {
+TEST_F(ComboList, ReportsAnIndexAboveTheListUnchanged) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3);
     Mouse(WM_MOUSEMOVE, -2 * RowHeight());
@@ -507,7 +506,7 @@ TEST_F(ComboList, TellsAnIndexAboveTheListAsItIs) {
     EXPECT_EQ(grid.reports, (std::vector{Chosen(-2), Chosen(0)}));
 }
 
-TEST_F(ComboList, TellsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
+TEST_F(ComboList, ReportsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
     Open();
     Mouse(WM_LBUTTONDOWN, 3);
     Mouse(WM_MOUSEMOVE, 9 * RowHeight());
@@ -516,7 +515,7 @@ TEST_F(ComboList, TellsTheNearestStringWhenItHasPaintedBeforeTheRelease) {
     EXPECT_EQ(grid.reports, std::vector{Chosen(2)});
 }
 
-TEST_F(ComboList, TellsItsSelectionWhenAButtonPressedElsewhereIsReleasedInIt) {
+TEST_F(ComboList, ReportsItsSelectionWhenAButtonPressedElsewhereIsReleasedInIt) {
     Open(1);
     Mouse(WM_LBUTTONUP, 2 * RowHeight() + 3);
     EXPECT_EQ(grid.reports, std::vector{Chosen(1)});
@@ -630,7 +629,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, ComboListEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(ComboListEnding, TellsAChoiceOnceToAGridThatDeletesIt) {
+TEST_P(ComboListEnding, ReportsAChoiceOnceToAGridThatDeletesIt) {
     const HWND list = Open(2).m_hWnd;
     End(list);
     EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{Chosen(2)} : std::vector<SReport>());
@@ -697,7 +696,7 @@ TEST_F(ComboList, EndsWithTheWholeDialog) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-TEST_F(ComboList, TellsItsParentWhenItHasNoOwner) {
+TEST_F(ComboList, ReportsToItsParentWhenItHasNoOwner) {
     CEditorGrid top;
     top.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
     CEditorGrid inside;

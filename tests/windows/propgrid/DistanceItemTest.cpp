@@ -5,7 +5,7 @@
 
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/FakeHost.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 
 namespace {
@@ -106,14 +106,14 @@ TEST_F(DistanceItem, ReadsATypedLengthInTheDrawingsUnits) {
 }
 
 TEST_F(DistanceItem, ReportsATextThatIsNoLengthOnceAndKeepsItsValue) {
-    CModalHands hands;
-    hands.ThenPressOk();
+    CModalDriver driver;
+    driver.ThenPressOk();
     EXPECT_FALSE(item.SetStringValue(L"wide"));
-    ASSERT_EQ(hands.messages.size(), 1U);
-    EXPECT_EQ(hands.messages[0].caption, L"Invalid value");
-    EXPECT_EQ(hands.messages[0].text, L"The value you have input is invalid, please specify another one.");
-    EXPECT_EQ(hands.messages[0].buttons, 1);
-    EXPECT_EQ(hands.messages[0].owner, nullptr);
+    ASSERT_EQ(driver.messages.size(), 1U);
+    EXPECT_EQ(driver.messages[0].caption, L"Invalid value");
+    EXPECT_EQ(driver.messages[0].text, L"The value you have input is invalid, please specify another one.");
+    EXPECT_EQ(driver.messages[0].buttons, 1);
+    EXPECT_EQ(driver.messages[0].owner, nullptr);
     EXPECT_EQ(item.GetDistance(), 2.0);
     EXPECT_FALSE(Highlighted());
 }
@@ -132,7 +132,7 @@ TEST_F(DistanceItem, StaysHighlightedWhenTheGridAcceptsItsValues) {
     EXPECT_TRUE(Highlighted());
 }
 
-TEST_F(DistanceItem, LeavesItToTheConversionsWhatUnitsAreWhereTheHostTellsNone) {
+TEST_F(DistanceItem, LeavesTheUnitsToTheConversionsWhenTheHostGivesNone) {
     fakeHost.failing = "sds_getvar";
     EXPECT_EQ(item.GetStringValue(), L"U0:2.0000");
     EXPECT_TRUE(item.SetStringValue(L"U0:3"));

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "tests/windows/support/DialogInput.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 
 std::ostream& operator<<(std::ostream& out, const SReport& report) {
@@ -57,7 +57,7 @@ void CEditorGrid::Take(const SReport& report) {
     }
 }
 
-// Lets go of the pointer first: destroying the window may bring a message about its end.
+// Clears the pointer first: destroying the window may send a message about its end.
 void CEditorGrid::CloseEditor() {
     const std::unique_ptr<CWnd> closing = std::move(editor);
     if (closing != nullptr && closing->m_hWnd != nullptr) {
@@ -125,14 +125,14 @@ void CEditorDialog::Run(std::function<void()> act) {
         WORD noMenu = 0, standardClass = 0, noTitle = 0;
     } dialogTemplate = {{WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_CENTER, 0, 0, 0, 0, 240, 160}};
     ASSERT_TRUE(InitModalIndirect(&dialogTemplate.dialog));
-    CModalHands hands;
-    hands.Then([&](HWND) {
+    CModalDriver driver;
+    driver.Then([&](HWND) {
         act();
         // Handling one posted message may post another.
         PostMessage(WM_SETTLED, 5);
     });
     EXPECT_EQ(DoModal(), IDABORT);
-    EXPECT_EQ(hands.StepsLeft(), 0U);
+    EXPECT_EQ(driver.StepsLeft(), 0U);
 }
 
 BOOL CEditorDialog::OnInitDialog() {

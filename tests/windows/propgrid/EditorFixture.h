@@ -19,8 +19,8 @@ struct SReport {
 };
 std::ostream& operator<<(std::ostream& out, const SReport& report);
 
-// Keeps the editors' messages. Unless told otherwise it destroys and deletes its editor inside the message
-// as the grid does: what the editor then still touches, the checking allocator shows.
+// Keeps the editors' messages. Unless `keepsEditor` is set it destroys and deletes its editor inside the
+// message, as the grid does: the checking allocator then detects any later use by the editor.
 class CEditorGrid : public CPropertyGrid {
 public:
     std::vector<SReport> reports;
@@ -53,7 +53,7 @@ protected:
     // The rectangle of a row's value, in client coordinates of the grid.
     static CRect Cell() { return {150, 20, 300, 36}; }
 
-    // Opens a pop-up editor and clicks with the real mouse on a point of it, until the grid hears of it. A
+    // Opens a pop-up editor and clicks with the real mouse on a point of it, until the grid is notified. A
     // window manager may give the keyboard to an earlier window in the meantime, which closes the editor;
     // then once more.
     void ClickOn(const std::function<HWND()>& open, const std::function<POINT(HWND editor)>& point);

@@ -6,7 +6,7 @@
 
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 
 namespace {
@@ -60,14 +60,14 @@ protected:
 
     // Opens the browser on `path`, lets `act` look and do, and presses a button.
     bool Browse(
-        std::wstring& path, int button, const CModalHands::Step& act = [](HWND) {}) {
-        CModalHands hands;
-        hands.Then([&](HWND dialog) {
+        std::wstring& path, int button, const CModalDriver::Step& act = [](HWND) {}) {
+        CModalDriver driver;
+        driver.Then([&](HWND dialog) {
             act(dialog);
             PressButton(dialog, button);
         });
         const bool chosen = BrowseForFolder(path, parent.m_hWnd);
-        EXPECT_EQ(hands.StepsLeft(), 0U);
+        EXPECT_EQ(driver.StepsLeft(), 0U);
         return chosen;
     }
 
@@ -122,8 +122,8 @@ TEST_F(FolderBrowser, LeavesThePathAloneWhenCancelled) {
 
 TEST_F(FolderBrowser, LeavesThePathAloneWhenClosed) {
     std::wstring path = inner;
-    CModalHands hands;
-    hands.Then([](HWND dialog) { ::PostMessage(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); });
+    CModalDriver driver;
+    driver.Then([](HWND dialog) { ::PostMessage(dialog, WM_SYSCOMMAND, SC_CLOSE, 0); });
     EXPECT_FALSE(BrowseForFolder(path, parent.m_hWnd));
     EXPECT_EQ(path, inner);
 }
@@ -146,8 +146,8 @@ TEST_F(FolderBrowser, OpensWithALongTitle) {
 }
 
 TEST_F(FolderBrowser, NeedsNoOwner) {
-    CModalHands hands;
-    hands.Then([](HWND dialog) { PressButton(dialog, IDOK); });
+    CModalDriver driver;
+    driver.Then([](HWND dialog) { PressButton(dialog, IDOK); });
     std::wstring path = inner;
     EXPECT_TRUE(BrowseForFolder(path, nullptr));
     EXPECT_EQ(path, inner);

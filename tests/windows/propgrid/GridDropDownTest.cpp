@@ -123,7 +123,7 @@ TEST_F(GridDropDown, ABooleanOffersItsTwoTexts) {
     ExpectNoEditorLeft();
 }
 
-TEST_F(GridDropDown, AChoiceByKeyStoresAndTellsOnce) {
+TEST_F(GridDropDown, AChoiceByKeyStoresAndNotifiesOnce) {
     const UINT item = AddCombo(0);
     ClickOn(ValueOf(item));
     ::SendMessage(List(), WM_KEYDOWN, VK_DOWN, 1);
@@ -136,7 +136,7 @@ TEST_F(GridDropDown, AChoiceByKeyStoresAndTellsOnce) {
     ExpectNoEditorLeft();
 }
 
-TEST_F(GridDropDown, AChoiceByMouseStoresAndTellsOnce) {
+TEST_F(GridDropDown, AChoiceByMouseStoresAndNotifiesOnce) {
     const UINT item = AddCombo(0);
     ClickOn(ValueOf(item));
     const LPARAM point = MAKELPARAM(10, 2 * RowHeight() + 4);
@@ -245,7 +245,7 @@ TEST_F(GridDropDown, AChoiceForAnotherKindIsIgnored) {
     EXPECT_TRUE(parent.changedItems.empty());
 }
 
-// The client hears of the choice while the list is still there, so that it may look at it.
+// The client is notified of the choice while the list still exists, so it may look at the list.
 TEST_F(GridDropDown, AListIsDestroyedAfterTheNotificationOfItsChoice) {
     const UINT combo = AddCombo(0);
     const UINT boolean = grid.AddBooleanItem(section, L"bool", true);
@@ -257,7 +257,7 @@ TEST_F(GridDropDown, AListIsDestroyedAfterTheNotificationOfItsChoice) {
         const HWND editor = List() != nullptr ? List() : Calendar();
         ASSERT_NE(editor, nullptr);
         bool wasThere = false;
-        owner.heard = [&](UINT) { wasThere = ::IsWindow(editor) != FALSE; };
+        owner.onChanged = [&](UINT) { wasThere = ::IsWindow(editor) != FALSE; };
         ::SendMessage(editor, WM_KEYDOWN, VK_RETURN, 1);
         EXPECT_TRUE(wasThere);
         EXPECT_FALSE(::IsWindow(editor));
@@ -276,10 +276,10 @@ TEST_F(GridDropDown, AClickOnAnotherValueClosesTheListAndOpensTheNext) {
     EXPECT_EQ(EditorCount(), 1);
 }
 
-TEST_F(GridDropDown, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChoice) {
+TEST_F(GridDropDown, TheOwnerMayRemoveTheRowsWhenNotifiedOfTheChoice) {
     CListeningOwner owner;
     grid.SetOwner(&owner);
-    owner.heard = [&](UINT) { grid.ResetContents(); };
+    owner.onChanged = [&](UINT) { grid.ResetContents(); };
     const UINT item = AddCombo();
     ClickOn(ValueOf(item));
     ::SendMessage(List(), WM_KEYDOWN, VK_RETURN, 1);

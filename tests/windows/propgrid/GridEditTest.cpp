@@ -6,13 +6,13 @@
 #include "tests/windows/propgrid/EditorFixture.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
 class GridEdit : public GridInputTest {
 protected:
-    // The edit's place in client coordinates of the grid.
+    // The edit's rectangle in client coordinates of the grid.
     CRect EditRect() {
         CRect rect;
         ::GetWindowRect(Edit(), &rect);
@@ -139,7 +139,7 @@ TEST_F(GridEdit, TakesATextOf100000Characters) {
 
 // ---- Endings
 
-TEST_F(GridEdit, EachEndingStoresTheTextAndTellsOfItOnce) {
+TEST_F(GridEdit, EachEndingStoresTheTextAndNotifiesOnce) {
     CWnd sibling;
     sibling.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(310, 0, 350, 50), &parent, 101);
     const UINT item = grid.AddStringItem(section, L"name", L"value");
@@ -230,7 +230,7 @@ TEST_F(GridEdit, ANumberTypedExactlyAsItIsShownIsATypedNumber) {
     EXPECT_EQ(parent.changedItems, Ids{real});
 }
 
-TEST_F(GridEdit, AWholeNumberTypedExactlyAsItIsShownIsTakenAndTold) {
+TEST_F(GridEdit, AWholeNumberTypedExactlyAsItIsShownIsTakenAndNotified) {
     const UINT integer = grid.AddIntegerItem(section, L"integer", 42, L"<%d>");
     ClickOn(ValueOf(integer));
     TypeInEdit(L"42\r");
@@ -346,7 +346,7 @@ TEST_F(GridEdit, ADoubleTakesTheLeadingNumber) {
     EXPECT_EQ(parent.changedItems.size(), 4U);
 }
 
-TEST_F(GridEdit, NothingTypedForANumberKeepsItAndTellsNobody) {
+TEST_F(GridEdit, NothingTypedForANumberKeepsItAndSendsNoNotification) {
     const UINT integer = grid.AddIntegerItem(section, L"integer", 7);
     const UINT real = grid.AddDoubleItem(section, L"real", 7.5);
     const UINT undefined = grid.AddIntegerItem(section, L"undefined", 7, L"%d", true, true);
@@ -411,7 +411,7 @@ TEST_F(GridEdit, ACustomItemGivesAndTakesTheText) {
     }
 }
 
-TEST_F(GridEdit, ACustomItemThatDidNotChangeIsNotToldOf) {
+TEST_F(GridEdit, ACustomItemThatDidNotChangeSendsNoNotification) {
     custom.mode = EM_INPLACE;
     custom.takesText = false;
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
@@ -496,14 +496,14 @@ TEST_F(GridEdit, AMessageBoxThatEndsTheEditEndsThePressToo) {
     const int divider = grid.GetGutterWidth();
     for (const CPoint point :
          {ValueOf(other), NameOf(other), ButtonOf(item), ValueOf(item), CPoint(divider, 190)}) {
-        CModalHands hands;
-        hands.ThenPressOk();
+        CModalDriver driver;
+        driver.ThenPressOk();
         custom.during = [] { ::MessageBox(nullptr, L"invalid", L"Invalid value", MB_OK); };
         ClickOn(ValueOf(item));
         custom.calls.clear();
         Press(point);
         custom.during = nullptr;
-        EXPECT_EQ(hands.messages.size(), 1U);
+        EXPECT_EQ(driver.messages.size(), 1U);
         EXPECT_EQ(custom.calls.size(), 1U) << "the text, and no button";
         ExpectNoEditorLeft();
         EXPECT_EQ(::GetCapture(), nullptr);
@@ -588,16 +588,16 @@ TEST_F(GridEdit, AnEditThatOpensDuringTheEndOfAnotherStaysOpen) {
     ExpectNoEditorLeft();
 }
 
-// ---- The owner's ear
+// ---- The owner's handler of a change, which may re-enter
 
-TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChange) {
+TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenNotifiedOfTheChange) {
     CListeningOwner owner;
     grid.SetOwner(&owner);
     for (const EItemType kind : {IT_STRING, IT_INTEGER, IT_DOUBLE, IT_CUSTOM}) {
         custom.mode = EM_INPLACE;
-        int heard = 0;
-        owner.heard = [&](UINT) {
-            ++heard;
+        int notifications = 0;
+        owner.onChanged = [&](UINT) {
+            ++notifications;
             grid.ResetContents();
         };
         const UINT s = grid.AddSection(L"");
@@ -607,17 +607,17 @@ TEST_F(GridEdit, TheOwnerMayRemoveTheRowsWhenItHearsOfTheChange) {
                                                : grid.AddCustomItem(s, L"a", &custom);
         ClickOn(ValueOf(item));
         Enter(L"2");
-        EXPECT_EQ(heard, 1);
+        EXPECT_EQ(notifications, 1);
         EXPECT_EQ(grid.GetItemCount(), 0U);
         ExpectNoEditorLeft();
     }
     grid.SetOwner(nullptr);
 }
 
-TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenItHearsOfTheChange) {
+TEST_F(GridEdit, TheOwnerMayDestroyTheGridWhenNotifiedOfTheChange) {
     CListeningOwner owner;
     grid.SetOwner(&owner);
-    owner.heard = [&](UINT) { grid.DestroyWindow(); };
+    owner.onChanged = [&](UINT) { grid.DestroyWindow(); };
     const UINT item = grid.AddStringItem(section, L"a", L"b");
     ClickOn(ValueOf(item));
     ::SetWindowText(Edit(), L"c");

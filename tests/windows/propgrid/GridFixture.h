@@ -1,4 +1,4 @@
-// What the grid's tests share: a parent window that records what the grid tells it, and a picture of what a
+// What the grid's tests share: a parent window that records the grid's notifications, and a picture of what a
 // grid paints.
 #pragma once
 

@@ -6,8 +6,8 @@
 #include "propgrid/editors/PropertyGridCombo.h"
 #include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 
-bool CScriptedItem::OnLButtonDown(CRect place, CPoint point) {
-    Note("down", place, point);
+bool CScriptedItem::OnLButtonDown(CRect area, CPoint point) {
+    Note("down", area, point);
     return capturesMouse;
 }
 
@@ -31,11 +31,11 @@ bool CScriptedItem::OnButtonClicked() {
     return buttonChanges;
 }
 
-void CScriptedItem::Note(const char* what, CRect place, CPoint point) {
+void CScriptedItem::Note(const char* what, CRect area, CPoint point) {
     std::ostringstream call;
     call << what << ' ' << point.x << ' ' << point.y;
     calls.push_back(call.str());
-    rect = place;
+    rect = area;
     if (during) {
         during();
     }
@@ -50,7 +50,7 @@ CListeningOwner::CListeningOwner() {
 }
 
 LRESULT CListeningOwner::OnItemChanged(WPARAM item, LPARAM /*zero*/) {
-    heard(static_cast<UINT>(item));
+    onChanged(static_cast<UINT>(item));
     return 0;
 }
 

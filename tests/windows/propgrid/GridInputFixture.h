@@ -1,4 +1,4 @@
-// What the tests of the grid's input share: a grid with mouse and keyboard in the test's hands, rows of every
+// What the tests of the grid's input share: a grid driven by mouse and keyboard messages, rows of every
 // kind, a custom item that follows a script, and a look at the editor that is open.
 #pragma once
 
@@ -8,7 +8,7 @@
 #include "tests/windows/propgrid/GridFixture.h"
 #include "tests/windows/support/Pixels.h"
 
-// A custom item that keeps what the grid tells it and answers as it is told.
+// A custom item that records the grid's calls and returns what the test sets.
 class CScriptedItem final : public ICustomItem {
 public:
     int mode = EM_CUSTOM;
@@ -21,24 +21,24 @@ public:
     int GetEditMode() override { return mode; }
     void DrawItem(CDC&, CRect, bool) override {}
     void AcceptValue() override {}
-    bool OnLButtonDown(CRect place, CPoint point) override;
-    void OnMouseMove(CRect place, CPoint point) override { Note("move", place, point); }
-    void OnLButtonUp(CRect place, CPoint point) override { Note("up", place, point); }
+    bool OnLButtonDown(CRect area, CPoint point) override;
+    void OnMouseMove(CRect area, CPoint point) override { Note("move", area, point); }
+    void OnLButtonUp(CRect area, CPoint point) override { Note("up", area, point); }
     std::wstring GetStringValue() override { return text; }
     bool SetStringValue(std::wstring newText) override;
-    void ShowDropDown(CRect place) override { Note("drop", place, CPoint(0, 0)); }
+    void ShowDropDown(CRect area) override { Note("drop", area, CPoint(0, 0)); }
     bool OnButtonClicked() override;
 
 private:
-    void Note(const char* what, CRect place, CPoint point);
+    void Note(const char* what, CRect area, CPoint point);
 };
 
-// Hears of the changes in the place of the grid's parent, once the grid has it as its owner, and acts.
+// An owner of the grid other than its parent: runs a test's step on each change.
 class CListeningOwner : public CWnd {
 public:
     CListeningOwner();
     ~CListeningOwner() override { DestroyWindow(); }
-    std::function<void(UINT item)> heard;
+    std::function<void(UINT item)> onChanged;
 
 protected:
     afx_msg LRESULT OnItemChanged(WPARAM item, LPARAM zero);
@@ -83,10 +83,10 @@ protected:
     static HWND Calendar();
     int EditorCount() const { return (Edit() != nullptr) + (List() != nullptr) + (Calendar() != nullptr); }
     static std::wstring TextOf(HWND window);
-    // Puts a text into the open in-place edit and ends it with Enter.
+    // Puts a text into the open in-area edit and ends it with Enter.
     void Enter(const std::wstring& typed);
 
-    // Types over all of the open in-place edit's text, character by character, as a person does. A text that
+    // Types over all of the open in-area edit's text, character by character, as a person does. A text that
     // begins with Enter, Tab or Escape types over nothing.
     void TypeInEdit(const std::wstring& typed);
 

@@ -1,13 +1,13 @@
 // The grid worked with the keyboard alone, as a dialog's loop hands it the keys.
 #include "tests/windows/propgrid/GridInputFixture.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
 class GridKeyboardEditing : public GridInputTest {
 protected:
     GridKeyboardEditing() { grid.SetKeyboardEditing(true); }
-    ~GridKeyboardEditing() override { EXPECT_EQ(hands.StepsLeft(), 0U) << "a dialog did not come up"; }
+    ~GridKeyboardEditing() override { EXPECT_EQ(driver.StepsLeft(), 0U) << "a dialog did not open"; }
 
     void PressAlt(UINT key) { grid.SendMessage(WM_SYSKEYDOWN, key, kAlt); }
     // Adds a row of each kind in the place of the fixture's section and focuses one of them.
@@ -29,7 +29,7 @@ protected:
 
     static constexpr LPARAM kAlt = 1 | LPARAM{1} << 29;
     UINT kinds = CPropertyGrid::NO_ID;
-    CModalHands hands;
+    CModalDriver driver;
 };
 
 // ---- Opening
@@ -102,7 +102,7 @@ TEST_F(GridKeyboardEditing, ADialogIsOpenedByEveryKeyThatEdits) {
                                               [&] { PressAlt(VK_RETURN); }, [&] { grid.EditFocusedItem(); },
                                               [&] { grid.PressFocusedButton(); }};
     for (const std::function<void()>& open : openings) {
-        hands.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
+        driver.Then([](HWND dialog) { PressButton(dialog, IDCANCEL); });
         open();
         EXPECT_EQ(::GetFocus(), grid.m_hWnd);
     }
@@ -167,7 +167,7 @@ TEST_F(GridKeyboardEditing, AnEditorThatIsOpenEndsFirst) {
 TEST_F(GridKeyboardEditing, AnOwnerThatDestroysTheGridMeanwhileEndsTheKey) {
     FocusKind(IT_STRING);
     CListeningOwner owner;
-    owner.heard = [&](UINT) { grid.DestroyWindow(); };
+    owner.onChanged = [&](UINT) { grid.DestroyWindow(); };
     grid.SetOwner(&owner);
     PressKey(VK_F2);
     TypeInEdit(L"new");
@@ -180,7 +180,7 @@ TEST_F(GridKeyboardEditing, AnOwnerThatDestroysTheGridMeanwhileEndsTheKey) {
 TEST_F(GridKeyboardEditing, AnOwnerThatLocksTheRowMeanwhileKeepsItClosed) {
     FocusKind(IT_STRING);
     CListeningOwner owner;
-    owner.heard = [&](UINT item) { grid.SetItemEditable(item, false); };
+    owner.onChanged = [&](UINT item) { grid.SetItemEditable(item, false); };
     grid.SetOwner(&owner);
     PressKey(VK_F2);
     TypeInEdit(L"new");

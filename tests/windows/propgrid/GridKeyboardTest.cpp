@@ -288,14 +288,14 @@ TEST_F(GridReveal, ARowThatShowsInFullScrollsNothing) {
     EXPECT_EQ(ScrollPosition(), 0);
 }
 
-TEST_F(GridReveal, ARowBelowTheWindowScrollsToItsPlaceInTheWindow) {
+TEST_F(GridReveal, ARowBelowTheWindowScrollsToItsPositionInTheWindow) {
     Fill(40);
     grid.SetFocusedItem(items[static_cast<size_t>(Hidden() - 1)]);
     PressKey(VK_DOWN);
     EXPECT_EQ(ScrollPosition(), Hidden() * RowHeight());
 }
 
-TEST_F(GridReveal, TheThumbGoesToTheRowsPlaceInTheWindowNotInTheList) {
+TEST_F(GridReveal, TheThumbGoesToTheRowsPositionInTheWindowNotInTheList) {
     Fill(80);
     Scroll(SB_THUMBPOSITION, 30 * RowHeight());
     grid.SetFocusedItem(items[static_cast<size_t>(30 + Hidden() - 1)]);

@@ -6,7 +6,7 @@
 #include "propgrid/editors/FolderBrowser.h"
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/TempFolder.h"
 
 namespace {
@@ -24,14 +24,14 @@ protected:
         grid.SetTimeText(L"Ora");
     }
     ~GridModalEdit() override {
-        EXPECT_EQ(hands.StepsLeft(), 0U) << "a dialog that was expected did not come up";
+        EXPECT_EQ(driver.StepsLeft(), 0U) << "an expected dialog did not open";
         EXPECT_TRUE(parent.IsWindowEnabled());
         FolderBrowseTitle() = L"Choose a directory";
     }
 
     // Opens the item's dialog with its button; `act` works in it and then a button is pressed.
-    void Edit(UINT item, int button, CModalHands::Step act = {}) {
-        hands.Then([this, button, act](HWND dialog) {
+    void Edit(UINT item, int button, CModalDriver::Step act = {}) {
+        driver.Then([this, button, act](HWND dialog) {
             EXPECT_EQ(::GetWindow(dialog, GW_OWNER), parent.m_hWnd);
             if (act) {
                 act(dialog);
@@ -49,13 +49,13 @@ protected:
         return child;
     }
     static std::wstring Caption(HWND dialog, int id) { return TextOf(::GetDlgItem(dialog, id)); }
-    // The place of a control in dialog units.
+    // The rectangle of a control in dialog units.
     static void ExpectAt(HWND dialog, HWND control, CRect units) {
         ::MapDialogRect(dialog, units);
-        CRect place;
-        ::GetWindowRect(control, &place);
-        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<LPPOINT>(&place), 2);
-        EXPECT_EQ(place, units);
+        CRect rect;
+        ::GetWindowRect(control, &rect);
+        ::MapWindowPoints(nullptr, dialog, reinterpret_cast<LPPOINT>(&rect), 2);
+        EXPECT_EQ(rect, units);
     }
     static SYSTEMTIME TimeOf(HWND picker) {
         SYSTEMTIME time = {};
@@ -65,15 +65,15 @@ protected:
     static void SetTime(HWND picker, const SYSTEMTIME& time) {
         ::SendMessage(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
     }
-    // Whether the last edit was told of once, when its value was stored already, or not at all.
-    void ExpectTold(UINT item) {
+    // Whether the last edit sent one notification, after its value was stored, or none.
+    void ExpectNotified(UINT item) {
         EXPECT_EQ(parent.changedItems, Ids{item});
         EXPECT_EQ(parent.changedValues, Texts{ShownValue(grid, item)});
         parent.ForgetChanges();
     }
-    void ExpectNotTold() { EXPECT_TRUE(parent.changedItems.empty()); }
+    void ExpectNotNotified() { EXPECT_TRUE(parent.changedItems.empty()); }
 
-    CModalHands hands;
+    CModalDriver driver;
 };
 
 // ---- Texts
@@ -98,7 +98,7 @@ TEST_F(GridModalEdit, ATextIsEditedInADialogOfItsOwn) {
     });
     EXPECT_EQ(Value<std::wstring>(item), L"three\r\nfour");
     EXPECT_FALSE(grid.IsItemUndefined(item));
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, ACancelledTextStaysAsItWas) {
@@ -107,14 +107,14 @@ TEST_F(GridModalEdit, ACancelledTextStaysAsItWas) {
     EXPECT_TRUE(grid.IsItemUndefined(item));
     grid.SetItemUndefined(item, false);
     EXPECT_EQ(Value<std::wstring>(item), L"one");
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
-TEST_F(GridModalEdit, AConfirmedTextIsToldOfEvenIfItIsTheSame) {
+TEST_F(GridModalEdit, AConfirmedTextNotifiesEvenIfItIsTheSame) {
     const UINT item = grid.AddTextItem(section, L"Note", L"one");
     Edit(item, IDOK);
     EXPECT_EQ(Value<std::wstring>(item), L"one");
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, ATextOf100000CharactersComesBackWhole) {
@@ -126,9 +126,9 @@ TEST_F(GridModalEdit, ATextOf100000CharactersComesBackWhole) {
 
 TEST_F(GridModalEdit, OpensByADoubleClickToo) {
     const UINT item = grid.AddTextItem(section, L"Note", L"one");
-    hands.Then([](HWND dialog) { PressButton(dialog, IDOK); });
+    driver.Then([](HWND dialog) { PressButton(dialog, IDOK); });
     DoubleClickOn(NameOf(item));
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, NeverOpensOnAnItemThatIsNotEditable) {
@@ -140,7 +140,7 @@ TEST_F(GridModalEdit, NeverOpensOnAnItemThatIsNotEditable) {
         ExpectNoEditorLeft();
     }
     DoubleClickOn(NameOf(first + IT_TEXT));
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 TEST_F(GridModalEdit, ButtonsOpenOnReleaseOnly) {
@@ -149,7 +149,7 @@ TEST_F(GridModalEdit, ButtonsOpenOnReleaseOnly) {
     ClickOn(NameOf(item));
     Press(ButtonOf(item));
     Release(CPoint(20, 190));
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 // ---- Dates with times
@@ -182,7 +182,7 @@ TEST_F(GridModalEdit, ADateAndTimeAreEditedWithTwoPickers) {
         SetTime(time, shownTime);
     });
     EXPECT_EQ(grid.GetItemText(item), L"2024-02-27 13:59:15");
-    ExpectTold(item);
+    ExpectNotified(item);
     Edit(item, IDCANCEL, [](HWND dialog) {
         const HWND day = ChildOf(dialog, DATETIMEPICK_CLASS);
         SYSTEMTIME shown = TimeOf(day);
@@ -190,7 +190,7 @@ TEST_F(GridModalEdit, ADateAndTimeAreEditedWithTwoPickers) {
         SetTime(day, shown);
     });
     EXPECT_EQ(grid.GetItemText(item), L"2024-02-27 13:59:15");
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 TEST_F(GridModalEdit, AnUnchangedDateAndTimeIsNoModification) {
@@ -233,7 +233,7 @@ TEST_F(GridModalEdit, ADateThatIsNoneBecomesOne) {
             SetTime(ChildOf(dialog, DATETIMEPICK_CLASS, 1), chosen);
         });
         EXPECT_EQ(grid.GetItemText(item), L"1999-12-31 23:58:57");
-        ExpectTold(item);
+        ExpectNotified(item);
     }
 }
 
@@ -246,13 +246,13 @@ TEST_F(GridModalEdit, AFileIsChosenInTheSystemsDialog) {
     const UINT item = grid.AddFileItem(section, L"File", folder.Path(L"old.txt"), L"Texts|*.txt|All|*.*||");
     Edit(item, IDCANCEL, [](HWND dialog) { ::SetDlgItemText(dialog, openFileName, L"new.txt"); });
     EXPECT_EQ(Value<std::wstring>(item), folder.Path(L"old.txt"));
-    ExpectNotTold();
+    ExpectNotNotified();
     Edit(item, IDOK, [](HWND dialog) {
         EXPECT_EQ(Caption(dialog, openFileName), L"old.txt");
         ::SetDlgItemText(dialog, openFileName, L"new.txt");
     });
     EXPECT_EQ(::lstrcmpi(Value<std::wstring>(item).c_str(), folder.Path(L"new.txt").c_str()), 0);
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, AFileWithoutFilterOrWithAPathThatIsNoneOpensTheDialogAllTheSame) {
@@ -262,7 +262,7 @@ TEST_F(GridModalEdit, AFileWithoutFilterOrWithAPathThatIsNoneOpensTheDialogAllTh
         Edit(item, IDCANCEL);
         EXPECT_EQ(Value<std::wstring>(item), path);
     }
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 TEST_F(GridModalEdit, AFolderIsChosenInTheShellsBrowser) {
@@ -270,10 +270,10 @@ TEST_F(GridModalEdit, AFolderIsChosenInTheShellsBrowser) {
     Edit(item, IDCANCEL);
     EXPECT_EQ(FolderBrowseTitle(), L"Where to?");
     EXPECT_TRUE(grid.IsItemUndefined(item));
-    ExpectNotTold();
+    ExpectNotNotified();
     Edit(item, IDOK);
     EXPECT_EQ(::lstrcmpi(Value<std::wstring>(item).c_str(), L"C:\\windows"), 0);
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, AFolderWithoutTitleLeavesTheTitleThatIsThere) {
@@ -284,7 +284,7 @@ TEST_F(GridModalEdit, AFolderWithoutTitleLeavesTheTitleThatIsThere) {
         EXPECT_EQ(Value<std::wstring>(item), path);
     }
     EXPECT_EQ(FolderBrowseTitle(), L"Choose a directory");
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 TEST_F(GridModalEdit, AColourIsChosenInTheSystemsDialog) {
@@ -292,10 +292,10 @@ TEST_F(GridModalEdit, AColourIsChosenInTheSystemsDialog) {
     const auto chooseRed = [](HWND dialog) { ::SetDlgItemInt(dialog, redField, 200, FALSE); };
     Edit(item, IDCANCEL, chooseRed);
     EXPECT_EQ(Value<COLORREF>(item), RGB(10, 20, 30));
-    ExpectNotTold();
+    ExpectNotNotified();
     Edit(item, IDOK, chooseRed);
     EXPECT_EQ(Value<COLORREF>(item), RGB(200, 20, 30));
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, AFontIsChosenInTheSystemsDialog) {
@@ -307,13 +307,13 @@ TEST_F(GridModalEdit, AFontIsChosenInTheSystemsDialog) {
     const auto strike = [](HWND dialog) { PressButton(dialog, strikeOut); };
     Edit(item, IDCANCEL, strike);
     EXPECT_FALSE(grid.IsItemModified(item));
-    ExpectNotTold();
+    ExpectNotNotified();
     Edit(item, IDOK, strike);
     const auto chosen = Value<LOGFONTW>(item);
     EXPECT_STREQ(chosen.lfFaceName, L"Tahoma");
     EXPECT_EQ(chosen.lfHeight, -16);
     EXPECT_NE(chosen.lfStrikeOut, 0);
-    ExpectTold(item);
+    ExpectNotified(item);
 }
 
 TEST_F(GridModalEdit, AFontWithoutFaceNameOrWithAFullOneOpensTheDialog) {
@@ -325,19 +325,19 @@ TEST_F(GridModalEdit, AFontWithoutFaceNameOrWithAFullOneOpensTheDialog) {
         Edit(item, IDCANCEL);
         EXPECT_FALSE(grid.IsItemModified(item));
     }
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
-TEST_F(GridModalEdit, ACustomItemsButtonTellsWhetherItChanged) {
+TEST_F(GridModalEdit, ACustomItemsButtonReportsWhetherItChanged) {
     custom.mode = EM_MODAL;
     const UINT item = grid.AddCustomItem(section, L"Custom", &custom);
     Focus(item);
     ClickOn(ButtonOf(item));
-    ExpectTold(item);
+    ExpectNotified(item);
     custom.buttonChanges = false;
     ClickOn(ButtonOf(item));
     EXPECT_EQ(custom.calls.size(), 2U);
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 // ---- What happens meanwhile
@@ -360,7 +360,7 @@ TEST_F(GridModalEdit, TheRowsMayBeRemovedWhileADialogRuns) {
             Edit(item, IDOK, [&](HWND) { grid.ResetContents(); });
         }
         EXPECT_EQ(grid.GetItemCount(), 0U);
-        ExpectNotTold();
+        ExpectNotNotified();
     }
 }
 
@@ -373,7 +373,7 @@ TEST_F(GridModalEdit, ARowOfAnotherKindUnderTheSameIdIsLeftAlone) {
     });
     ASSERT_EQ(another, item);
     EXPECT_EQ(Value<std::wstring>(another), L"mine");
-    ExpectNotTold();
+    ExpectNotNotified();
 }
 
 TEST_F(GridModalEdit, TheGridMayBeDestroyedWhileADialogRuns) {
@@ -388,7 +388,7 @@ TEST_F(GridModalEdit, TheGridMayBeDestroyedWhileADialogRuns) {
 TEST_F(GridModalEdit, EscapeAndTheCloseBoxCancel) {
     const UINT item = grid.AddTextItem(section, L"Note", L"one");
     for (const bool closeBox : {false, true}) {
-        hands.Then([=](HWND dialog) {
+        driver.Then([=](HWND dialog) {
             const HWND edit = ChildOf(dialog, L"Edit");
             ::SetWindowText(edit, L"two");
             if (closeBox) {
@@ -400,7 +400,7 @@ TEST_F(GridModalEdit, EscapeAndTheCloseBoxCancel) {
         Focus(item);
         ClickOn(ButtonOf(item));
         EXPECT_EQ(Value<std::wstring>(item), L"one");
-        ExpectNotTold();
+        ExpectNotNotified();
     }
 }
 
@@ -411,7 +411,7 @@ TEST_F(GridModalEdit, LeavesNothingBehind) {
         for (const EItemType kind : {IT_TEXT, IT_DATETIME, IT_FILE, IT_COLOR, IT_FONT}) {
             Edit(first + kind, button);
         }
-        hands.Forget();
+        driver.Forget();
         parent.ForgetChanges();
         PumpMessages();
     };

@@ -52,9 +52,7 @@ std::wstring FontText(const LOGFONTW& font) {
 }  // namespace
 
 void CFigureItem::DrawItem(CDC& dc, CRect rect, bool focused) {
-    // With the grid's own pen, font, text colour and background mode. Which brush it has selected is left
-    // open.
-    ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
+    // With the grid's own pen, brush, font, text colour and background mode.
     dc.Rectangle(rect.left + 3, rect.top + 2, rect.left + 12, rect.bottom - 2);
     CRect text(rect.left + 14, rect.top, rect.right, rect.bottom);
     const std::wstring name = focused ? L"focused figure" : L"figure";

@@ -80,9 +80,9 @@ TEST_F(GridMouse, HeadersAreNotHitInAFlatList) {
 TEST_F(GridMouse, TheItemsOfACollapsedSectionAreNotHit) {
     grid.SetDisplayMode(CPropertyGrid::DM_CATEGORIZED);
     const UINT item = grid.AddStringItem(section, L"name", L"value");
-    const CPoint place = NameOf(item);
+    const CPoint name = NameOf(item);
     grid.SetSectionCollapsed(section, true);
-    ClickOn(place);
+    ClickOn(name);
     EXPECT_EQ(grid.GetFocusedItem(), CPropertyGrid::NO_ID);
 }
 
@@ -90,7 +90,7 @@ TEST_F(GridMouse, TheEditButtonIsPushedWhileTheMouseIsOnIt) {
     const UINT item = grid.AddColorItem(section, L"name", RGB(1, 2, 3), true);
     Focus(item);
     const CPoint button = ButtonOf(item);
-    const CRect place(button.x - 6, button.y - 6, button.x + 6, button.y + 6);
+    const CRect area(button.x - 6, button.y - 6, button.x + 6, button.y + 6);
     const auto isPushed = [&] {
         grid.UpdateWindow();
         const CGridPicture picture(grid);
@@ -170,8 +170,8 @@ TEST_F(GridMouse, AnyMoveOfTheFocusEmptiesTheEditButtonUntilTheNextPaint) {
     }
 }
 
-// A press on the value has focused the item, or was not captured: its release is nobody's.
-TEST_F(GridMouse, ACustomItemThatDoesNotCaptureHearsOfNoRelease) {
+// A press on the value has focused the item, or was not captured: its release does nothing.
+TEST_F(GridMouse, ACustomItemThatDoesNotCaptureGetsNoRelease) {
     const UINT item = grid.AddCustomItem(section, L"name", &custom);
     ClickOn(ValueOf(item));
     EXPECT_TRUE(custom.calls.empty()) << "the press that focuses";
@@ -251,7 +251,7 @@ TEST_F(GridMouse, TheDividerStopsAtOneAndAtFourFifths) {
     MoveTo(CPoint(-500, 190));
     EXPECT_EQ(grid.GetGutterWidth(), 60);
     MoveTo(CPoint(-490, 190));
-    EXPECT_EQ(grid.GetGutterWidth(), 70) << "it follows the movement, not the place";
+    EXPECT_EQ(grid.GetGutterWidth(), 70) << "it follows the movement, not the position";
     MoveTo(CPoint(900, 190));
     EXPECT_EQ(grid.GetGutterWidth(), 240);
     Release(CPoint(900, 190));

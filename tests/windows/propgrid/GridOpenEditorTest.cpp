@@ -28,7 +28,7 @@ protected:
         TypeInEdit(L"7");
         ASSERT_TRUE(parent.changedItems.empty());
     }
-    // The edit's place in client coordinates of the grid.
+    // The edit's rectangle in client coordinates of the grid.
     CRect EditRect() {
         CRect rect;
         ::GetWindowRect(Edit(), &rect);
@@ -288,20 +288,20 @@ TEST_P(GridOpenEditorStays, OnItsCellWithItsText) {
     EXPECT_EQ(parent.changedItems, Ids{number});
 }
 
-// ---- The owner, which hears of the text before the operation goes on
+// ---- The owner, which is notified of the text before the operation goes on
 
 class GridOpenEditorAndItsOwner : public GridOpenEditor {
 protected:
     GridOpenEditorAndItsOwner() { grid.SetOwner(&owner); }
     ~GridOpenEditorAndItsOwner() override {
-        owner.heard = [](UINT) {};
+        owner.onChanged = [](UINT) {};
         grid.SetOwner(nullptr);
     }
-    // The edit is open, and the owner does this when it hears of its text.
+    // Runs `act` in the owner's handler when the open edit ends.
     void OpenEdit(std::function<void()> act) {
-        owner.heard = [this, act = std::move(act)](UINT) {
+        owner.onChanged = [this, act = std::move(act)](UINT) {
             const auto once = act;
-            owner.heard = [](UINT) {};
+            owner.onChanged = [](UINT) {};
             once();
         };
         ClickOn(ValueOf(number));

@@ -5,7 +5,7 @@
 
 #include "tests/windows/propgrid/GridInputFixture.h"
 #include "tests/windows/support/HandleCount.h"
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ unsigned ChooseSeed() {
     return given != nullptr ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : 1;
 }
 
-// Dismisses every dialog that comes up, one way or another, while the test's thread runs its loop; and every
+// Closes every dialog that opens, by OK or Cancel, while the test's thread runs its loop; and every
 // menu: a click on a calendar's month opens one, which else waits for ever.
 class CDismisser {
 public:
@@ -110,9 +110,9 @@ protected:
         if (popUp == nullptr) {
             return;
         }
-        const LPARAM place = MAKELPARAM(Below(200), Below(160));
-        ::PostMessage(popUp, WM_LBUTTONDOWN, 0, place);
-        ::PostMessage(popUp, WM_LBUTTONUP, 0, place);
+        const LPARAM position = MAKELPARAM(Below(200), Below(160));
+        ::PostMessage(popUp, WM_LBUTTONDOWN, 0, position);
+        ::PostMessage(popUp, WM_LBUTTONUP, 0, position);
         PumpMessages();
     }
     // Back to what it was: no editor, no scrolling, no focus, nothing captured, the values of the start.

@@ -103,7 +103,7 @@ std::size_t SlotOf(Operation operation) {
     return (offset - 1) / sizeof(void*);
 }
 
-// Whoever implements the interface elsewhere was compiled for this order.
+// Other implementations of the interface were compiled for this order.
 TEST(CustomItemInterface, KeepsTheOrderOfItsOperations) {
     EXPECT_EQ(SlotOf(&ICustomItem::GetEditMode), 0U);
     EXPECT_EQ(SlotOf(&ICustomItem::DrawItem), 1U);

@@ -24,7 +24,7 @@ extern BOOL(WINAPI* __imp_SHGetPathFromIDListW)(LPCITEMIDLIST list, LPWSTR path)
 
 namespace {
 
-// What the last dialog was asked for.
+// The arguments of the last dialog.
 HWND owner;
 DWORD flags;
 
@@ -110,7 +110,7 @@ TEST_F(GridSystemDialogs, AFontIsAskedForAmongThoseOfTheScreenWithEffects) {
     EXPECT_EQ(flags & ~DWORD{CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK}, DWORD{CF_SCREENFONTS | CF_EFFECTS});
 }
 
-// A window that plays the browser's and notes what it is told.
+// A window that stands in for the browser's and records its messages.
 class CPlayedBrowser : public CWnd {
 public:
     CPlayedBrowser() { CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0); }

@@ -1,5 +1,5 @@
 // The in-place edit: how it opens, what its keys do, each of its endings, and that nothing of it is touched
-// once the grid has been told.
+// after its message to the grid.
 #include "propgrid/editors/PropertyGridInPlaceEdit.h"
 
 #include <ostream>
@@ -46,7 +46,7 @@ protected:
     CPropertyGridInPlaceEdit& Open(const std::wstring& text) {
         return OpenEdit(grid, text, Cell(), &parent.font);
     }
-    // The selection's start and end; both are the caret's place when nothing is selected.
+    // The selection's start and end; both are the caret's position when nothing is selected.
     static CPoint Selection(HWND edit) {
         DWORD start = 0;
         DWORD end = 0;
@@ -55,16 +55,16 @@ protected:
     }
 };
 
-TEST_F(InPlaceEdit, IsAHiddenChildOfTheGridAtThePlaceGiven) {
+TEST_F(InPlaceEdit, IsAHiddenChildOfTheGridInTheGivenRectangle) {
     CPropertyGridInPlaceEdit edit(&grid, CRect(11, 22, 133, 44), 0, 1000, L"x");
     ASSERT_NE(edit.m_hWnd, nullptr);
     EXPECT_EQ(::GetParent(edit.m_hWnd), grid.m_hWnd);
     EXPECT_EQ(edit.GetDlgCtrlID(), 1000);
     EXPECT_EQ(edit.GetStyle(), static_cast<DWORD>(WS_CHILD | ES_AUTOHSCROLL));
-    CRect place;
-    edit.GetWindowRect(&place);
-    grid.ScreenToClient(&place);
-    EXPECT_EQ(place, CRect(11, 22, 133, 44));
+    CRect rect;
+    edit.GetWindowRect(&rect);
+    grid.ScreenToClient(&rect);
+    EXPECT_EQ(rect, CRect(11, 22, 133, 44));
     EXPECT_EQ(edit.GetPosition(), CRect(11, 22, 133, 44));
 }
 
@@ -91,7 +91,7 @@ TEST_F(InPlaceEdit, ScrollsTheEndOfALongTextIntoView) {
     EXPECT_LT(end, Cell().Width());
 }
 
-TEST_F(InPlaceEdit, HasTheFocusAndTellsNothingWhenItOpens) {
+TEST_F(InPlaceEdit, HasTheFocusAndReportsNothingWhenItOpens) {
     const HWND edit = Open(L"x").m_hWnd;
     EXPECT_EQ(::GetFocus(), edit);
     EXPECT_TRUE(grid.reports.empty());
@@ -120,10 +120,10 @@ TEST_F(InPlaceEdit, HasNoWindowAndDoesNothingElseWhenItCannotBeCreated) {
     edit.SetColors(back, textColor);
 }
 
-TEST_F(InPlaceEdit, TakesTheSmallestAndStrangestPlaces) {
-    for (const CRect& place : {CRect(0, 0, 0, 0), CRect(50, 50, 40, 40), CRect(-900, 5, -800, 9),
-                               CRect(0, 0, 30000, 30000), CRect(5, 5, 6, 6)}) {
-        const HWND edit = OpenEdit(grid, L"text", place, &parent.font).m_hWnd;
+TEST_F(InPlaceEdit, TakesEmptyInvertedHugeAndOffScreenRectangles) {
+    for (const CRect& rect : {CRect(0, 0, 0, 0), CRect(50, 50, 40, 40), CRect(-900, 5, -800, 9),
+                              CRect(0, 0, 30000, 30000), CRect(5, 5, 6, 6)}) {
+        const HWND edit = OpenEdit(grid, L"text", rect, &parent.font).m_hWnd;
         ::UpdateWindow(edit);
         Type(edit, L"!\r");
         EXPECT_EQ(grid.reports, std::vector{Done(L"text!")});
@@ -296,7 +296,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, InPlaceEditEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(InPlaceEditEnding, TellsTheTextOnceToAGridThatDeletesIt) {
+TEST_P(InPlaceEditEnding, ReportsTheTextOnceToAGridThatDeletesIt) {
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
     End(edit);
@@ -306,7 +306,7 @@ TEST_P(InPlaceEditEnding, TellsTheTextOnceToAGridThatDeletesIt) {
 }
 
 // As a grid does that has no focused item any more: it leaves the edit to itself.
-TEST_P(InPlaceEditEnding, TellsTheTextOnceAndGoesByItselfWhenTheGridKeepsIt) {
+TEST_P(InPlaceEditEnding, ReportsTheTextOnceAndDestroysItselfWhenTheGridKeepsIt) {
     grid.keepsEditor = true;
     const HWND edit = Open(L"12.5").m_hWnd;
     Type(edit, L"7");
@@ -326,7 +326,7 @@ TEST_P(InPlaceEditEnding, LeavesTheNextEditToEndLikeTheFirst) {
     EXPECT_EQ(grid.reports.back(), Expected());
 }
 
-TEST_P(InPlaceEditEnding, TellsTheTextToAnOwnerThatIsNotTheParent) {
+TEST_P(InPlaceEditEnding, ReportsTheTextToAnOwnerThatIsNotTheParent) {
     CEditorGrid owner;
     owner.Create(AfxRegisterWndClass(0), L"", WS_CHILD, CRect(0, 0, 10, 10), &parent, 102);
     CPropertyGridInPlaceEdit& edit = Open(L"12.5");
@@ -390,7 +390,7 @@ TEST_F(InPlaceEdit, EndsWithTheWholeDialogAlsoWhenTheGridKeepsIt) {
     EXPECT_FALSE(::IsWindow(edit));
 }
 
-TEST_F(InPlaceEdit, LeavesByPlainNavigationKeysWhenToldTo) {
+TEST_F(InPlaceEdit, EndsByPlainNavigationKeysWhenSetTo) {
     for (const UINT key : {VK_PRIOR, VK_NEXT, VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
         CPropertyGridInPlaceEdit& edit = Open(L"12.5");
         edit.SetExitOnNavigation(true);

@@ -69,8 +69,6 @@ public:
     void FocusSection(UINT section);
     void Resize(CSize size);
     void ScrollTo(int position);
-    // Lets the grid handle a message: by then it has its scroll bar as its contents need it.
-    void Settle() { m_grid.SendMessage(WM_NULL); }
     // Presses the left button at a point of the edit button, where it is held until the release.
     void Press(CPoint point);
     void Release();

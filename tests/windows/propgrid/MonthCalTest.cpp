@@ -1,5 +1,5 @@
 // The month calendar: how it opens, what mouse and keys do, each of its endings, and that nothing of it is
-// touched once the grid has been told.
+// touched after its message to the grid.
 #include <ostream>
 
 #include "propgrid/editors/PropertyGridMonthCalCtrl.h"
@@ -22,9 +22,9 @@ CPropertyGridMonthCalCtrl& OpenCalendar(CEditorGrid& grid, const COleDateTime& d
     calendar->SetCurSel(date);
     calendar->SetOwner(&grid);
     calendar->SizeMinReq(TRUE);
-    CRect place;
-    calendar->GetWindowRect(&place);
-    calendar->SetWindowPos(nullptr, cell.right - place.Width(), place.top, 0, 0,
+    CRect rect;
+    calendar->GetWindowRect(&rect);
+    calendar->SetWindowPos(nullptr, cell.right - rect.Width(), rect.top, 0, 0,
                            SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
     CPropertyGridMonthCalCtrl& opened = *calendar;
     grid.editor = std::move(calendar);
@@ -64,9 +64,9 @@ protected:
         return {0, 0};
     }
     static void Press(HWND calendar, POINT point) {
-        const LPARAM place = MAKELPARAM(point.x, point.y);
-        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, place);
-        ::SendMessage(calendar, WM_LBUTTONUP, 0, place);
+        const LPARAM position = MAKELPARAM(point.x, point.y);
+        ::SendMessage(calendar, WM_LBUTTONDOWN, MK_LBUTTON, position);
+        ::SendMessage(calendar, WM_LBUTTONUP, 0, position);
     }
     static void PressDay(HWND calendar, int day) { Press(calendar, Find(calendar, MCHT_CALENDARDATE, day)); }
 };
@@ -80,13 +80,13 @@ TEST_F(MonthCal, IsAPopUpUnderTheCellThatAlignsWithItsRightEdge) {
     EXPECT_EQ(calendar.GetOwner(), &grid);
     CRect cell = Cell();
     grid.ClientToScreen(&cell);
-    CRect place;
-    calendar.GetWindowRect(&place);
-    EXPECT_EQ(place.top, cell.bottom);
-    EXPECT_EQ(place.right, cell.right);
+    CRect rect;
+    calendar.GetWindowRect(&rect);
+    EXPECT_EQ(rect.top, cell.bottom);
+    EXPECT_EQ(rect.right, cell.right);
     CRect smallest;
     calendar.GetMinReqRect(smallest);
-    EXPECT_EQ(place.Size(), smallest.Size());
+    EXPECT_EQ(rect.Size(), smallest.Size());
 }
 
 TEST_F(MonthCal, ShowsTheDateAndHasTheFocus) {
@@ -121,7 +121,7 @@ TEST_F(MonthCal, OpensWithoutAValidDate) {
 
 // ---- Mouse and keys
 
-TEST_F(MonthCal, TellsOnceThatADayWasClicked) {
+TEST_F(MonthCal, ReportsOnceThatADayWasClicked) {
     int day = 0;
     grid.beforeClosing = [&] { day = SelectedDay(); };
     const HWND calendar = Open().m_hWnd;
@@ -131,7 +131,7 @@ TEST_F(MonthCal, TellsOnceThatADayWasClicked) {
     EXPECT_FALSE(::IsWindow(calendar));
 }
 
-TEST_F(MonthCal, TellsThatTheSelectedDayWasClicked) {
+TEST_F(MonthCal, ReportsThatTheSelectedDayWasClicked) {
     PressDay(Open().m_hWnd, 14);
     EXPECT_EQ(grid.reports, std::vector{dateChosen});
 }
@@ -144,14 +144,14 @@ TEST_F(MonthCal, AnswersTheNotificationOfAClickWithNothing) {
     EXPECT_EQ(grid.reports.size(), 1U);
 }
 
-TEST_F(MonthCal, TellsNothingOfAClickThatOnlyTurnsTheMonth) {
+TEST_F(MonthCal, ReportsNoClickThatOnlyTurnsTheMonth) {
     const HWND calendar = Open().m_hWnd;
     Press(calendar, Find(calendar, MCHT_TITLEBTNNEXT));
     EXPECT_TRUE(grid.reports.empty());
     EXPECT_TRUE(::IsWindow(calendar));
 }
 
-TEST_F(MonthCal, TellsThatADayWasClickedAfterTheMonthWasTurned) {
+TEST_F(MonthCal, ReportsThatADayWasClickedAfterTheMonthWasTurned) {
     COleDateTime chosen;
     grid.beforeClosing = [&] { Calendar().GetCurSel(chosen); };
     const HWND calendar = Open().m_hWnd;
@@ -192,12 +192,12 @@ TEST_F(MonthCal, StaysWhileAChildOfItsOwnHasTheFocus) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-// The year is edited in an edit that has the focus in place of the calendar.
+// The year is edited in an edit that has the focus instead of the calendar.
 class MonthCalYear : public MonthCal {
 protected:
     HWND OpenYear() {
         const HWND calendar = Open().m_hWnd;
-        ::UpdateWindow(calendar);  // places the year
+        ::UpdateWindow(calendar);  // positions the year
         MonthCal::Press(calendar, Find(calendar, MCHT_TITLEYEAR));
         m_edit = ::GetFocus();
         EXPECT_EQ(::GetParent(m_edit), calendar);
@@ -297,7 +297,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Endings, MonthCalEnding, testing::ValuesIn(endings),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_P(MonthCalEnding, TellsADateOnceToAGridThatDeletesIt) {
+TEST_P(MonthCalEnding, ReportsADateOnceToAGridThatDeletesIt) {
     const HWND calendar = Open().m_hWnd;
     End(calendar);
     EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{dateChosen} : std::vector<SReport>());
@@ -371,7 +371,7 @@ TEST_F(MonthCal, EndsWithTheWholeDialog) {
     EXPECT_TRUE(grid.reports.empty());
 }
 
-TEST_F(MonthCal, TellsItsParentWhenItHasNoOwner) {
+TEST_F(MonthCal, ReportsToItsParentWhenItHasNoOwner) {
     CEditorGrid top;
     top.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
     CPropertyGridMonthCalCtrl calendar;

@@ -198,7 +198,7 @@ TEST_F(PropertyGridLayout, LaysOutRowsThatWereAddedBeforeTheWindow) {
     EXPECT_TRUE(early.GetDlgItem(1000)->IsWindowVisible());
 }
 
-// A start before the window has its size would find no room for the row.
+// A start before the window has its size would have no space for the row.
 TEST_F(PropertyGridLayout, StartsOnceAndNotBeforeTheWindowHasItsSize) {
     CTestGrid early;
     early.AddSection(L"Section");

@@ -39,7 +39,7 @@ TEST_F(PropertyGridLife, TakesOverAStaticOfADialog) {
     EXPECT_EQ(CClientPixels(grid).Count({0, 0, 200, 100}, RGB(0xE1, 0xE1, 0xE1)), 20000);
 }
 
-TEST_F(PropertyGridLife, GetsTheMouseAndTheTabKeyInPlaceOfAStatic) {
+TEST_F(PropertyGridLife, GetsTheMouseAndTheTabKeyWhenItReplacesAStatic) {
     const HWND control = MakeControl(L"Static", L"", SS_BLACKFRAME, 100);
     CPoint point(50, 50);
     ::ClientToScreen(control, &point);

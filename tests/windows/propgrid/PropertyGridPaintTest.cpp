@@ -484,24 +484,24 @@ public:
     std::set<std::pair<int, int>> Shape(COLORREF color) const {
         int left = INT_MAX;
         int top = INT_MAX;
-        for (const auto& [place, pixel] : m_pixels) {
+        for (const auto& [point, pixel] : m_pixels) {
             if (pixel == color) {
-                left = std::min(left, place.first);
-                top = std::min(top, place.second);
+                left = std::min(left, point.first);
+                top = std::min(top, point.second);
             }
         }
         std::set<std::pair<int, int>> shape;
-        for (const auto& [place, pixel] : m_pixels) {
+        for (const auto& [point, pixel] : m_pixels) {
             if (pixel == color) {
-                shape.insert({place.first - left, place.second - top});
+                shape.insert({point.first - left, point.second - top});
             }
         }
         return shape;
     }
     int LeftmostOf(COLORREF color) const {
-        for (const auto& [place, pixel] : m_pixels) {
+        for (const auto& [point, pixel] : m_pixels) {
             if (pixel == color) {
-                return place.first;
+                return point.first;
             }
         }
         return -1;

@@ -435,7 +435,7 @@ TEST(PropertyGridSettings, KeepWhatTheyAreGiven) {
     EXPECT_EQ(grid.GetGutterWidth(), 210);
 }
 
-TEST_F(GridTest, TellsItsParentOfAChangeAtOnce) {
+TEST_F(GridTest, NotifiesItsParentOfAChangeAtOnce) {
     grid.NotifyChanged(7);
     EXPECT_EQ(parent.changedItems, (std::vector<UINT>{7}));
 }
@@ -447,7 +447,7 @@ TEST(GridMessages, HaveFixedNumbers) {
     EXPECT_EQ(WM_GRID_DATE_CHOSEN, 1513U);
 }
 
-TEST_F(GridTest, TellsItsOwnerInsteadOfItsParentWhenOneIsSet) {
+TEST_F(GridTest, NotifiesItsOwnerInsteadOfItsParentWhenOneIsSet) {
     CGridParent owner;
     grid.SetOwner(&owner);
     grid.NotifyChanged(3);
@@ -455,7 +455,7 @@ TEST_F(GridTest, TellsItsOwnerInsteadOfItsParentWhenOneIsSet) {
     EXPECT_TRUE(parent.changedItems.empty());
 }
 
-TEST_F(GridTest, TellsNobodyOfWhatTheClientSets) {
+TEST_F(GridTest, SendsNoNotificationForChangesByTheClient) {
     const UINT id = grid.AddIntegerItem(grid.AddSection(L"Section"), L"a", 1);
     grid.SetItemValue(id, 2);
     grid.SetItemUndefined(id, true);

@@ -266,10 +266,8 @@ void ChangeState(CRandom& random, CMirroredGrid& grid) {
         FitHeight(random, grid);
     } else if (choice == 20) {
         grid.ResetContents();
-        grid.Settle();
         AddContents(random, grid);
     }
-    grid.Settle();
 }
 
 }  // namespace
@@ -298,7 +296,6 @@ CSize ChooseSize(CRandom& random) {
 void FillAtRandom(CRandom& random, CMirroredGrid& grid) {
     ChooseSettings(random, grid);
     AddContents(random, grid);
-    grid.Settle();
     for (int count = random.Between(0, 12); count > 0; --count) {
         ChangeItem(random, grid);
     }

@@ -193,7 +193,9 @@ void CSecondPainter::PaintName(const ModelItem& item, int y) {
 void CSecondPainter::PaintCustom(const ModelItem& item, CRect value) {
     const int state = m_dc.SaveDC();
     CPen pen(PS_SOLID, 1, m_model.colors.shade);
+    CBrush brush(m_model.colors.text);
     ::SelectObject(m_dc, pen.GetSafeHandle());
+    ::SelectObject(m_dc, brush.GetSafeHandle());
     ::SelectObject(m_dc, m_normal.GetSafeHandle());
     m_dc.SetTextColor(item.editable ? m_model.colors.editable : m_model.colors.nonEditable);
     if (item.figure != nullptr) {

@@ -4,11 +4,11 @@
 // Where there is more than one sensible picture the choice is the one that users have seen so far:
 // - The text of an empty list has the text colour, the three dots of a button the system's one for buttons.
 // - Items of one name are sorted by mode 1 as their sections stand. An unknown display mode is a flat list.
-// - A custom item with an unknown edit mode leaves room for a button that is not drawn.
+// - A custom item with an unknown edit mode leaves space for a button that is not drawn.
 // - An undefined colour keeps its swatch; the undefined text stands beside it.
 // - A path is shortened in the font that it is drawn with, and not at all when its last name is too long for
 //   the system's PathCompactPath.
-// - A text without room is not drawn. With a divider left of the names the band of the focused name extends
+// - A text without space is not drawn. With a divider left of the names the band of the focused name extends
 // to
 //   its right.
 // - A partial repaint looks like a whole one, also where a line stands on the edge of the painted area.

@@ -1,3 +1,4 @@
+// The module's own resources: the templates of its dialogs, their language, the module's name.
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -105,7 +106,7 @@ BOOL CALLBACK CountLanguage(HMODULE, LPCWSTR, LPCWSTR, WORD, LONG_PTR count) {
     return TRUE;
 }
 
-TEST(Resources, TheItemDialogIsAsItWasDrawn) {
+TEST(Resources, TheItemDialogHasItsLayout) {
     EXPECT_EQ(ReadDialog(IDD_ITEM),
               L"0 0 645 290 80C800C0 (0) menu '' class '' 'Item - Property'\n"
               L"8 points, weight 400, italic 0, character set 0, Microsoft Sans Serif\n"
@@ -116,7 +117,7 @@ TEST(Resources, TheItemDialogIsAsItWasDrawn) {
               L"102: 453 0 192 18 5000000C (0) STATIC '  Parametri'\n");
 }
 
-TEST(Resources, TheChoiceDialogIsAsItWasDrawn) {
+TEST(Resources, TheChoiceDialogHasItsLayout) {
     EXPECT_EQ(ReadDialog(IDD_CHOICE),
               L"0 0 710 329 80C800C8 (0) menu '' class '' ''\n"
               L"8 points, weight 400, italic 0, character set 1, MS Shell Dlg\n"
@@ -131,14 +132,14 @@ TEST(Resources, TheChoiceDialogIsAsItWasDrawn) {
               L"109: 475 159 229 148 50020100 (0) STATIC 'Static'\n");
 }
 
-TEST(Resources, ThePreviewDialogIsAsItWasDrawn) {
+TEST(Resources, ThePreviewDialogHasItsLayout) {
     EXPECT_EQ(ReadDialog(IDD_PREVIEW),
               L"0 0 467 304 80C800C8 (0) menu '' class '' ''\n"
               L"8 points, weight 400, italic 0, character set 1, MS Shell Dlg\n"
               L"114: 7 7 453 290 50020000 (0) STATIC ''\n");
 }
 
-TEST(Resources, TheDialogsAreInItalianAlone) {
+TEST(Resources, TheDialogsExistInItalianOnly) {
     for (const int id : {IDD_ITEM, IDD_CHOICE, IDD_PREVIEW}) {
         int languages = 0;
         EnumResourceLanguagesW(nullptr, RT_DIALOG, MAKEINTRESOURCEW(id), CountLanguage,

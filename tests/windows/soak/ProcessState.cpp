@@ -20,7 +20,7 @@ int ThreadCount() {
     return count;
 }
 
-// Asked one by one: not every system tells how many there are.
+// Checked one by one: not every system returns their number.
 int KernelHandleCount() {
     constexpr UINT_PTR end = 0x4000;
     int count = 0;

@@ -165,7 +165,7 @@ std::string CSoakItem::TakeValuesFrom(const std::string& workingFile) {
         }
         m_written[index] = line.substr(start + 3);
     }
-    // What nobody could edit has the value that it was read with.
+    // A value that could not be edited is the one that was read.
     std::map<int, std::wstring> fixed;
     for (const auto& [index, record] : m_records) {
         fixed[index] = ValueText(record, m_scale);
@@ -176,7 +176,7 @@ std::string CSoakItem::TakeValuesFrom(const std::string& workingFile) {
     for (const auto& [index, text] : m_written) {
         const auto found = fixed.find(index);
         if (found != fixed.end() && found->second != text) {
-            return "line " + std::to_string(index) + " has a value that nobody could give it";
+            return "line " + std::to_string(index) + " has a changed value, but could not be edited";
         }
     }
     return {};

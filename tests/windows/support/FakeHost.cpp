@@ -170,7 +170,7 @@ int sds_getvar(const wchar_t* name, sds_resbuf* result) {
     return RTNORM;
 }
 
-// "U2:900.0000": the units that were asked for can be read in the text.
+// "U2:900.0000": the text shows the units that were passed.
 int sds_rtos(double value, int units, int precision, wchar_t* text) {
     if (Fails("sds_rtos")) {
         return RTNORM - 1;

@@ -13,17 +13,17 @@
 struct sds_resbuf;
 
 struct FakeHost {
-    // What the host was asked to do.
+    // The calls that it received.
     std::vector<std::pair<std::wstring, int>> defined;    // sds_defun
     std::vector<std::pair<std::wstring, int>> undefined;  // sds_undef
     std::vector<std::wstring> failures;                   // sds_fail
     std::vector<std::wstring> alerts;                     // sds_alert
     std::vector<std::wstring> prompts;                    // sds_getpoint, sds_getdist
-    std::vector<std::string> bases;                       // theirs: "none" or a point, "1 2 3"
+    std::vector<std::string> bases;                       // of these prompts: "none" or a point, "1 2 3"
     std::vector<std::string> results;                     // "0", "nil", "(100 \"A\")" per result call
     std::vector<std::wstring> searched;                   // sds_findfile
 
-    // What it answers.
+    // What its functions return.
     int defunStatus = RtNorm;
     int functionCode = 0;
     sds_resbuf* arguments = nullptr;
@@ -36,9 +36,10 @@ struct FakeHost {
     int distanceStatus = RtNorm;
     double distance = 0;               // the point is 1, 2, 3
     std::function<void()> duringPick;  // called inside sds_getpoint
-    std::string failing;               // the function ("sds_rtos") that notes what it is asked and fails
+    std::string failing;               // the function ("sds_rtos") that records its arguments and fails
 
-    // A real host's formats of distances in place of "U2:900.0000"; nothing for what has no format.
+    // Formats and reads distances as a real host does, instead of as "U2:900.0000". No result: the call
+    // fails.
     std::function<std::optional<std::wstring>(double value, int units, int precision)> distanceText;
     std::function<std::optional<double>(const std::wstring& text)> distanceOf;
 

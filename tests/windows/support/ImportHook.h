@@ -1,7 +1,7 @@
 // A function of the system replaced by a test's own, for as long as the object lives.
 //
 // The entry is the import table's, declared with the name that the import library gives it. In 32-bit
-// programs that name tells how many bytes of arguments the function takes:
+// programs that name contains the size of the function's arguments in bytes:
 //
 //     extern "C" BOOL(WINAPI* __imp_DeleteFileW)(LPCWSTR) IMPORT_ENTRY(DeleteFileW, 4);
 //     const CImportHook hook(__imp_DeleteFileW, FailToDelete);

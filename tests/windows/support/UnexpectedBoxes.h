@@ -1,5 +1,5 @@
-// Message boxes that no test expected: with nobody to close them they would end the program as hung, and the
-// tests behind it with it.
+// Message boxes that no test expected: left open, they would end the program as hung, and with it the tests
+// that follow.
 #pragma once
 
 #include <windows.h>

@@ -6,7 +6,7 @@
 #include <atomic>
 #include <thread>
 
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
@@ -38,7 +38,7 @@ void ShowBox(UINT kind) {
     MessageBoxW(nullptr, L"What it says", L"Its caption", kind);
 }
 
-TEST(UnexpectedBoxes, ABoxThatNobodyClosesIsNamedAndClosedAndFailsItsTest) {
+TEST(UnexpectedBoxes, ABoxLeftOpenIsNamedAndClosedAndFailsItsTest) {
     EXPECT_NONFATAL_FAILURE_ON_ALL_THREADS(ShowBox(MB_OK),
                                            "unexpected message box \"Its caption\": What it says");
     // Without Cancel it cannot be closed otherwise than by a button.
@@ -46,11 +46,11 @@ TEST(UnexpectedBoxes, ABoxThatNobodyClosesIsNamedAndClosedAndFailsItsTest) {
 }
 
 TEST(UnexpectedBoxes, ABoxThatIsClosedInTimeFailsNothing) {
-    CModalHands hands;
-    hands.ThenPressOk();
+    CModalDriver driver;
+    driver.ThenPressOk();
     const CLookout lookout(60'000);
     MessageBoxW(nullptr, L"What it says", L"Its caption", MB_OK);
-    EXPECT_EQ(hands.messages.size(), 1U);
+    EXPECT_EQ(driver.messages.size(), 1U);
 }
 
 INT_PTR CALLBACK EndByTimer(HWND dialog, UINT message, WPARAM, LPARAM) {

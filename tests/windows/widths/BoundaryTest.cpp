@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "sds/sds.h"
-#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/CommandDriver.h"
 #include "tests/windows/module/LoadedModule.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/Bitmap.h"
@@ -33,7 +33,7 @@ TEST(BoundaryLayout, HasCharactersOfTwoBytesAndWholeNumbersOfFour) {
     EXPECT_EQ(sizeof(HWND), sizeof(void*));
 }
 
-// Calls the entry with a stack pointer that is `offset` bytes below a multiple of 16, and tells in `taken`
+// Calls the entry with a stack pointer that is `offset` bytes below a multiple of 16, and sets `taken`
 // how many bytes of the arguments the entry took from the stack. In 64-bit programs the convention leaves
 // nothing to differ.
 #ifdef _WIN64
@@ -99,12 +99,12 @@ TEST_F(Boundary, TakesAStackThatIsAlignedToFourBytes) {
         fakeHost.functionCode = 0;
         fakeHost.arguments = arguments.List();
         fakeHost.results.clear();
-        CCommandHands hands;
+        CCommandDriver driver;
         int taken = -1;
         EXPECT_EQ(CallEntry(module.Entry(), SDS_INVOKE, offset, taken), 0);
         EXPECT_EQ(taken, 0);
         EXPECT_EQ(fakeHost.results, std::vector<std::string>{"0"});
-        EXPECT_EQ(hands.confirmed, 1);
+        EXPECT_EQ(driver.confirmed, 1);
     }
 }
 
@@ -132,7 +132,7 @@ TEST_F(Boundary, PassesEveryKindOfValue) {
     CArguments arguments;
     arguments.String(L"item").Real(1.5).Short(1);
     fakeHost.arguments = arguments.List();
-    CCommandHands hands;
+    CCommandDriver driver;
     module.Invoke(0);
     EXPECT_EQ(fakeHost.results, std::vector<std::string>{"0"});
     ASSERT_FALSE(values.empty());

@@ -1,4 +1,4 @@
-// The room that the matcher takes on the stack. This program has 1 MB of it, as a host's thread has.
+// The matcher's stack use. This program has a stack of 1 MB, as a host's thread has.
 #include <gtest/gtest.h>
 
 #include <functional>

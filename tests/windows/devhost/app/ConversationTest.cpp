@@ -106,7 +106,7 @@ TEST_F(Conversation, QuestionsAreAnsweredByTyping) {
               "((100.0 200.0 0.0) (3.0 4.0 0.0) 15.5 12 0.75 \"two words\")\n; heap: 0 blocks held\n");
 }
 
-TEST_F(Conversation, ALengthIsAPlaceOnTheRubberBand) {
+TEST_F(Conversation, ALengthIsAPointOnTheRubberBand) {
     Start({L"--eval", L"(equal (distance '(0 0) (getpoint '(0 0) \"Next? \")) 10 1e-9)"});
     Type(L"10");
     EXPECT_EQ(m_host->Wait().output, "T\n; heap: 0 blocks held\n");

@@ -40,7 +40,7 @@ TEST(Crash, InTheLoadRequestIsReported) {
     ExpectCrash({L"--eval", L"(give-nil)"}, "DevHost: crash in TestPlugin.dll+0x");
 }
 
-// In 32-bit programs the compiler's exceptions are no exceptions of the system: one that nobody catches in
+// In 32-bit programs the compiler's exceptions are no exceptions of the system: one that is not caught in
 // the plug-in's own file ends the program.
 TEST(Crash, AnExceptionThatLeavesThePlugInIsOne) {
     ExpectCrash({L"--eval", L"(throw-out)"},

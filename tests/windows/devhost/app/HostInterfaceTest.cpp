@@ -154,12 +154,12 @@ TEST(HostInterface, AnAbsolutePathIsLookedForWhereItSays) {
 TEST(HostInterface, APathThatDoesNotFitIsNotFoundAndNothingIsWritten) {
     const CTestFolder folder;
     folder.Write(L"a", "");
-    const int room = int(folder.Path().size()) + 3;  // a backslash, the name and the zero
+    const int needed = int(folder.Path().size()) + 3;  // a backslash, the name and the zero
     const auto status = [&](int capacity) {
         return Evaluate(L"(find-file \"a\" " + std::to_wstring(capacity) + L")").substr(0, 9);
     };
-    EXPECT_EQ(status(room), "(5100 " + std::to_string(room) + " ");
-    EXPECT_EQ(status(room - 1), "(-5001 0 ");
+    EXPECT_EQ(status(needed), "(5100 " + std::to_string(needed) + " ");
+    EXPECT_EQ(status(needed - 1), "(-5001 0 ");
     EXPECT_EQ(status(1), "(-5001 0 ");
     EXPECT_EQ(status(0), "(-5001 0 ");
 }

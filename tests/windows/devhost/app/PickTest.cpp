@@ -32,19 +32,19 @@ protected:
         return WaitUntil([&] { return TextOf(m_status) == prompt; });
     }
 
-    // Clicks at a place in drawing units.
+    // Clicks at a point, in drawing units.
     void Click(int x, int y) const {
         RECT client;
         GetClientRect(m_drawing, &client);
-        const LPARAM place = MAKELPARAM(x, client.bottom - 1 - y);
-        PostMessageW(m_drawing, WM_MOUSEMOVE, 0, place);
-        PostMessageW(m_drawing, WM_LBUTTONDOWN, MK_LBUTTON, place);
-        PostMessageW(m_drawing, WM_LBUTTONUP, 0, place);
+        const LPARAM position = MAKELPARAM(x, client.bottom - 1 - y);
+        PostMessageW(m_drawing, WM_MOUSEMOVE, 0, position);
+        PostMessageW(m_drawing, WM_LBUTTONDOWN, MK_LBUTTON, position);
+        PostMessageW(m_drawing, WM_LBUTTONUP, 0, position);
     }
 
     void Press(WPARAM key) const { PostMessageW(m_drawing, WM_KEYDOWN, key, 0); }
 
-    // What the call gave, after DevHost has ended well.
+    // The result of the call, after DevHost has exited with status 0.
     std::string Result() const {
         const Outcome outcome = m_host->Wait();
         EXPECT_EQ(outcome.status, 0u);
@@ -55,10 +55,10 @@ protected:
     COLORREF PixelAt(int x, int y) const {
         RECT client;
         GetClientRect(m_drawing, &client);
-        POINT place = {x, client.bottom - 1 - y};
-        ClientToScreen(m_drawing, &place);
+        POINT position = {x, client.bottom - 1 - y};
+        ClientToScreen(m_drawing, &position);
         const HDC screen = GetDC(nullptr);
-        const COLORREF pixel = GetPixel(screen, place.x, place.y);
+        const COLORREF pixel = GetPixel(screen, position.x, position.y);
         ReleaseDC(nullptr, screen);
         return pixel;
     }

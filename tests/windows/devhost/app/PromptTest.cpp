@@ -90,10 +90,11 @@ TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
     EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 blocks held, 8 bytes\n");
 }
 
-// The place of the last character of the list, in its client area; beyond it when it is out of sight.
+// The top of the list's last character, in client coordinates; outside the client area when it is not
+// visible.
 int BottomOfText(HWND output) {
-    const auto place = DWORD(SendMessageW(output, EM_POSFROMCHAR, TextOf(output).size() - 1, 0));
-    return short(HIWORD(place));
+    const auto position = DWORD(SendMessageW(output, EM_POSFROMCHAR, TextOf(output).size() - 1, 0));
+    return short(HIWORD(position));
 }
 
 TEST_F(Prompt, InASmallWindowPromptAndLastLineStayInSight) {
@@ -102,19 +103,19 @@ TEST_F(Prompt, InASmallWindowPromptAndLastLineStayInSight) {
         ASSERT_TRUE(WaitUntil([&] { return TextOf(m_prompt).empty(); }));
     }
     ASSERT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"x\""); }));
-    const auto place = [](HWND window) {
+    const auto rectOf = [](HWND window) {
         RECT rect;
         GetWindowRect(window, &rect);
         return rect;
     };
     SetWindowPos(m_host.MainWindow(), nullptr, 0, 0, 50, 50, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    ASSERT_TRUE(WaitUntil([&] { return place(m_host.MainWindow()).right < 1000; }));
-    const RECT prompt = place(m_prompt);
-    const RECT window = place(m_host.MainWindow());
+    ASSERT_TRUE(WaitUntil([&] { return rectOf(m_host.MainWindow()).right < 1000; }));
+    const RECT prompt = rectOf(m_prompt);
+    const RECT window = rectOf(m_host.MainWindow());
     EXPECT_GT(prompt.right - prompt.left, 200);
     EXPECT_GT(prompt.bottom - prompt.top, 10);
     EXPECT_LT(prompt.bottom, window.bottom);
-    const RECT output = place(m_output);
+    const RECT output = rectOf(m_output);
     EXPECT_GE(BottomOfText(m_output), 0);
     EXPECT_LT(BottomOfText(m_output), output.bottom - output.top);
     Close();

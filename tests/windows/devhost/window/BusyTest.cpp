@@ -19,7 +19,7 @@ protected:
     int m_commands = 0;
 };
 
-TEST_F(Busy, EscapeIsToldOnce) {
+TEST_F(Busy, EscapeIsReportedOnce) {
     EXPECT_FALSE(Handle());
     PostKey(VK_ESCAPE, IDC_DRAWING);
     EXPECT_TRUE(Handle());

@@ -93,6 +93,23 @@ TEST_F(Menu, NewItemsReplaceTheOldOnes) {
     EXPECT_EQ(Title(IDM_ITEM + 1), L"");
 }
 
+TEST_F(Menu, TheCurrentLanguageIsMarkedAndAnotherIsChosen) {
+    std::vector<std::size_t> chosen;
+    m_window.SetLanguages({L"English", L"Italian"}, [&](std::size_t index) { chosen.push_back(index); });
+    EXPECT_EQ(Title(IDM_LANGUAGE + 1), L"Italian");
+    EXPECT_FALSE(StateOf(IDM_LANGUAGE) & MF_CHECKED);
+    m_window.SetLanguage(1);
+    EXPECT_FALSE(StateOf(IDM_LANGUAGE) & MF_CHECKED);
+    EXPECT_TRUE(StateOf(IDM_LANGUAGE + 1) & MF_CHECKED);
+    PostCommand(IDM_LANGUAGE);
+    PostCommand(IDM_LANGUAGE + 2);
+    Handle();
+    EXPECT_EQ(chosen, std::vector<std::size_t>{0});
+    m_window.SetLanguage(0);
+    EXPECT_TRUE(StateOf(IDM_LANGUAGE) & MF_CHECKED);
+    EXPECT_FALSE(StateOf(IDM_LANGUAGE + 1) & MF_CHECKED);
+}
+
 TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
     EXPECT_TRUE(IsGrey(IDM_RELOAD));
     int reloads = 0;
@@ -103,11 +120,24 @@ TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
     EXPECT_EQ(reloads, 1);
 }
 
+TEST_F(Menu, F1AsksForHelpAtAnyTime) {
+    int calls = 0;
+    m_window.SetHelpHandler([&] { ++calls; });
+    PostKey(VK_F1);
+    Handle();
+    m_window.SetBusy(true);
+    PostKey(VK_F1);
+    Handle();
+    m_window.SetBusy(false);
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
     m_window.SetItems({L"Door"}, [](std::size_t) {});
+    m_window.SetLanguages({L"English"}, [](std::size_t) {});
     m_window.SetReloadHandler([] {});
     m_drawing.Add(CircleEntity{{0, 0}, 1});
-    for (const UINT command : {UINT(IDM_ITEM), UINT(IDM_RELOAD), UINT(IDM_CLEAR)}) {
+    for (const UINT command : {UINT(IDM_ITEM), UINT(IDM_LANGUAGE), UINT(IDM_RELOAD), UINT(IDM_CLEAR)}) {
         EXPECT_FALSE(IsGrey(command)) << command;
         m_window.SetBusy(true);
         EXPECT_TRUE(IsGrey(command)) << command;
@@ -132,7 +162,7 @@ TEST_F(Menu, SnapIsTicked) {
     EXPECT_FALSE(StateOf(IDM_SNAP) & MF_CHECKED);
 }
 
-TEST_F(Menu, ChoosingUnitsOrPrecisionTellsBoth) {
+TEST_F(Menu, ChoosingUnitsOrPrecisionReportsBoth) {
     std::vector<std::pair<int, int>> formats;
     m_window.SetFormat(2, 3);
     m_window.SetFormatHandler([&](int lunits, int luprec) { formats.emplace_back(lunits, luprec); });

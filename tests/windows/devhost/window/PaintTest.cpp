@@ -82,7 +82,7 @@ TEST_F(Paint, FollowsTheDrawing) {
     EXPECT_NE(Look().At(75, Y(75)), kInk);
 }
 
-TEST_F(Paint, ALineKeepsItsPlaceHoweverFarItIsZoomed) {
+TEST_F(Paint, ALineKeepsItsPositionHoweverFarItIsZoomed) {
     // Through the middle of a pixel that stays where it is.
     m_drawing.Add(LineEntity{{50, 60}, {250, 160}});
     Wheel(150, Y(110), 80);
@@ -135,7 +135,7 @@ TEST_F(Paint, ALineFollowsTheMouseFromABaseHoweverFarAway) {
     EXPECT_EQ(Look().Count(area, rubber), 0);
 }
 
-TEST_F(Paint, CrossesStayAtTheirPlaceInTheDrawingUntilItIsCleared) {
+TEST_F(Paint, CrossesKeepTheirPositionInTheDrawingUntilItIsCleared) {
     constexpr COLORREF cross = RGB(0, 60, 160);
     PickAt(150, Y(110));
     EXPECT_EQ(Look().At(155, Y(110)), cross);

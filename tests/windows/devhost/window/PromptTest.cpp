@@ -27,7 +27,7 @@ protected:
     std::vector<std::wstring> m_commands;
 };
 
-TEST_F(PromptRow, EnterHandsTheLineOn) {
+TEST_F(PromptRow, EnterPassesTheLineOn) {
     PostLine(L"(door)");
     Handle();
     EXPECT_EQ(m_commands, std::vector<std::wstring>{L"(door)"});

@@ -30,9 +30,10 @@ TEST_F(View, TheWheelZoomsAboutTheMouse) {
 }
 
 TEST_F(View, TheWheelZoomsWhatIsUnderTheMouseWhereverTheFocusIs) {
-    POINT place = {300, 200};
-    ClientToScreen(Area(), &place);
-    PostMessageW(Part(IDC_PROMPT), WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), MAKELPARAM(place.x, place.y));
+    POINT position = {300, 200};
+    ClientToScreen(Area(), &position);
+    PostMessageW(Part(IDC_PROMPT), WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA),
+                 MAKELPARAM(position.x, position.y));
     Handle();
     EXPECT_NEAR(UnitsPerPixel(), 1 / 1.2, 1e-9);
 }
@@ -94,8 +95,8 @@ TEST_F(View, SnappingIsTurnedOffByItsKey) {
 }
 
 TEST_F(View, TwoQuickClicksAreTwoPoints) {
-    const LPARAM place = MAKELPARAM(50, 60);
-    PostMessageW(Area(), WM_LBUTTONDBLCLK, MK_LBUTTON, place);
+    const LPARAM position = MAKELPARAM(50, 60);
+    PostMessageW(Area(), WM_LBUTTONDBLCLK, MK_LBUTTON, position);
     EXPECT_TRUE(std::holds_alternative<Point>(m_window.Ask(L"p", std::nullopt, ASK_POINT)));
 }
 
@@ -107,7 +108,7 @@ TEST_F(View, TheStatusLineShowsWhereTheMouseIs) {
     m_window.SetFormat(4, 1);
     SendMessageW(Part(IDC_STATUS), SB_GETTEXTW, 1, reinterpret_cast<LPARAM>(text));
     EXPECT_STREQ(text, L"10'-0\", 3'-9\"");
-    // The place under a mouse that rests changes with the view.
+    // The point under a resting mouse changes with the view.
     m_window.SetFormat(2, 0);
     Pan(0, 0, 20, 0);
     MoveMouse(120, AreaHeight() - 1 - 45);

@@ -37,9 +37,10 @@ void CWindowFixture::PostLine(const std::wstring& text) const {
 }
 
 void CWindowFixture::Wheel(int x, int y, int notches) const {
-    POINT place = {x, y};
-    ClientToScreen(Area(), &place);
-    SendMessageW(Area(), WM_MOUSEWHEEL, MAKEWPARAM(0, notches * WHEEL_DELTA), MAKELPARAM(place.x, place.y));
+    POINT position = {x, y};
+    ClientToScreen(Area(), &position);
+    SendMessageW(Area(), WM_MOUSEWHEEL, MAKEWPARAM(0, notches * WHEEL_DELTA),
+                 MAKELPARAM(position.x, position.y));
 }
 
 void CWindowFixture::Pan(int fromX, int fromY, int toX, int toY) const {

@@ -1,10 +1,10 @@
-#include "tests/windows/module/CommandHands.h"
+#include "tests/windows/module/CommandDriver.h"
 
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
-CCommandHands* activeHands = nullptr;
+CCommandDriver* activeDriver = nullptr;
 constexpr int tickMilliseconds = 10;
 constexpr int ticksToClose = 30;
 
@@ -26,23 +26,23 @@ bool IsMessageBox(HWND dialog) {
 
 }  // namespace
 
-CCommandHands::CCommandHands(std::function<void(HWND)> confirm) : m_confirm(std::move(confirm)) {
-    activeHands = this;
+CCommandDriver::CCommandDriver(std::function<void(HWND)> confirm) : m_confirm(std::move(confirm)) {
+    activeDriver = this;
     m_timer = SetTimer(nullptr, 0, tickMilliseconds, OnTimer);
 }
 
-CCommandHands::~CCommandHands() {
+CCommandDriver::~CCommandDriver() {
     KillTimer(nullptr, m_timer);
-    activeHands = nullptr;
+    activeDriver = nullptr;
 }
 
-void CALLBACK CCommandHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr) {
-        activeHands->Act();
+void CALLBACK CCommandDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (activeDriver != nullptr) {
+        activeDriver->Act();
     }
 }
 
-void CCommandHands::Act() {
+void CCommandDriver::Act() {
     HWND dialog = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dialog));
     if (dialog == nullptr) {
@@ -59,7 +59,7 @@ void CCommandHands::Act() {
     Handle(dialog);
 }
 
-void CCommandHands::Handle(HWND dialog) {
+void CCommandDriver::Handle(HWND dialog) {
     if (IsMessageBox(dialog)) {
         messages.push_back(ReadMessageBox(dialog).text);
         PostMessageW(FindWindowExW(dialog, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);

@@ -1,5 +1,5 @@
-// Hands for modal dialogs: while a modal loop of the test's thread runs, each step of the script is
-// given the next dialog or message box that comes up, and acts on it.
+// Drives modal dialogs: while a modal loop of the test's thread runs, each step of the script is given the
+// next dialog or message box that opens, and acts on it.
 #pragma once
 
 #include <windows.h>
@@ -15,25 +15,25 @@ struct MessageBoxSeen {
     int buttons = 0;
 };
 
-class CModalHands {
+class CModalDriver {
 public:
     using Step = std::function<void(HWND dialog)>;
 
-    CModalHands();
-    ~CModalHands();
-    CModalHands(const CModalHands&) = delete;
-    CModalHands& operator=(const CModalHands&) = delete;
+    CModalDriver();
+    ~CModalDriver();
+    CModalDriver(const CModalDriver&) = delete;
+    CModalDriver& operator=(const CModalDriver&) = delete;
 
-    // Runs `step` once when a dialog that no step has seen is up and visible and its thread is idle.
+    // Runs `step` once when a dialog that no step has seen is visible and its thread is idle.
     void Then(Step step);
 
-    // A step that notes a message box in `messages` and presses its only button.
+    // A step that records a message box in `messages` and presses its only button.
     void ThenPressOk();
 
-    // Steps that have not run. A test that ends with steps left did not see what it expected.
+    // Steps that have not run. Steps left at the end of a test mean that an expected dialog did not open.
     size_t StepsLeft() const { return m_steps.size() - m_next; }
 
-    // Back to an empty script.
+    // Clears the script and the messages.
     void Forget();
 
     std::vector<MessageBoxSeen> messages;

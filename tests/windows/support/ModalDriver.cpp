@@ -1,10 +1,10 @@
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 #include <algorithm>
 
 namespace {
 
-CModalHands* activeHands = nullptr;
+CModalDriver* activeDriver = nullptr;
 
 std::wstring TextOf(HWND window) {
     std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -38,40 +38,40 @@ BOOL CALLBACK ReadChild(HWND child, LPARAM parameter) {
 
 }  // namespace
 
-CModalHands::CModalHands() {
-    activeHands = this;
+CModalDriver::CModalDriver() {
+    activeDriver = this;
     m_timer = SetTimer(nullptr, 0, 10, OnTimer);
 }
 
-CModalHands::~CModalHands() {
+CModalDriver::~CModalDriver() {
     KillTimer(nullptr, m_timer);
-    activeHands = nullptr;
+    activeDriver = nullptr;
 }
 
-void CModalHands::Then(Step step) {
+void CModalDriver::Then(Step step) {
     m_steps.push_back(std::move(step));
 }
 
-void CModalHands::Forget() {
+void CModalDriver::Forget() {
     m_steps.clear();
     m_next = 0;
     messages.clear();
 }
 
-void CModalHands::ThenPressOk() {
+void CModalDriver::ThenPressOk() {
     Then([this](HWND box) {
         messages.push_back(ReadMessageBox(box));
         PostMessageW(FindWindowExW(box, nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
     });
 }
 
-void CALLBACK CModalHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr) {
-        activeHands->Act();
+void CALLBACK CModalDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (activeDriver != nullptr) {
+        activeDriver->Act();
     }
 }
 
-void CModalHands::Act() {
+void CModalDriver::Act() {
     if (m_next == m_steps.size()) {
         return;
     }

@@ -1,13 +1,13 @@
-#include "tests/windows/soak/SoakHands.h"
+#include "tests/windows/soak/SoakDriver.h"
 
 #include <cstdio>
 #include <vector>
 
-#include "tests/windows/support/ModalHands.h"
+#include "tests/windows/support/ModalDriver.h"
 
 namespace {
 
-CSoakHands* activeHands = nullptr;
+CSoakDriver* activeDriver = nullptr;
 
 constexpr int gridId = 100;
 constexpr int firstCellId = 104;
@@ -52,23 +52,23 @@ HWND FocusOr(HWND dialog) {
 
 }  // namespace
 
-CSoakHands::CSoakHands(CChoices& choices) : m_choices(choices) {
-    activeHands = this;
+CSoakDriver::CSoakDriver(CChoices& choices) : m_choices(choices) {
+    activeDriver = this;
     m_timer = SetTimer(nullptr, 0, 10, OnTimer);
 }
 
-CSoakHands::~CSoakHands() {
+CSoakDriver::~CSoakDriver() {
     KillTimer(nullptr, m_timer);
-    activeHands = nullptr;
+    activeDriver = nullptr;
 }
 
-void CALLBACK CSoakHands::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
-    if (activeHands != nullptr) {
-        activeHands->Act();
+void CALLBACK CSoakDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    if (activeDriver != nullptr) {
+        activeDriver->Act();
     }
 }
 
-void CSoakHands::Act() {
+void CSoakDriver::Act() {
     std::vector<HWND> dialogs;
     EnumThreadWindows(GetCurrentThreadId(), CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
     if (dialogs.empty()) {
@@ -91,7 +91,7 @@ void CSoakHands::Act() {
     }
 }
 
-void CSoakHands::End(HWND dialog) {
+void CSoakDriver::End(HWND dialog) {
     if (--m_patience < 0) {
         std::printf("soak: a dialog cannot be ended\n");
         std::fflush(stdout);
@@ -115,7 +115,7 @@ void CSoakHands::End(HWND dialog) {
     }
 }
 
-void CSoakHands::AddTyping(std::deque<Step>& steps, int row, const std::wstring& text) {
+void CSoakDriver::AddTyping(std::deque<Step>& steps, int row, const std::wstring& text) {
     steps.push_back([row](HWND dialog) {
         const int height = RowHeight(dialog);
         PostClick(GetDlgItem(dialog, gridId), valueColumn, row * height + height / 2);
@@ -131,7 +131,7 @@ void CSoakHands::AddTyping(std::deque<Step>& steps, int row, const std::wstring&
     steps.push_back([](HWND) {});
 }
 
-CSoakHands::Step CSoakHands::RandomInput() {
+CSoakDriver::Step CSoakDriver::RandomInput() {
     return [this](HWND dialog) {
         for (int input = m_choices.Below(4); input >= 0; --input) {
             MakeInput(dialog);
@@ -139,7 +139,7 @@ CSoakHands::Step CSoakHands::RandomInput() {
     };
 }
 
-void CSoakHands::MakeInput(HWND dialog) {
+void CSoakDriver::MakeInput(HWND dialog) {
     ++m_events;
     const HWND grid = GetDlgItem(dialog, gridId);
     const HWND target = grid != nullptr ? grid : dialog;

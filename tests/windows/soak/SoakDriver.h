@@ -1,4 +1,4 @@
-// Hands that act at random in whatever dialog a call opens, and see to it that the call ends.
+// Makes random input in whatever dialog a call opens, and ensures that the call ends.
 #pragma once
 
 #include <windows.h>
@@ -8,12 +8,12 @@
 
 #include "tests/windows/soak/SoakItem.h"
 
-class CSoakHands {
+class CSoakDriver {
 public:
-    explicit CSoakHands(CChoices& choices);
-    ~CSoakHands();
-    CSoakHands(const CSoakHands&) = delete;
-    CSoakHands& operator=(const CSoakHands&) = delete;
+    explicit CSoakDriver(CChoices& choices);
+    ~CSoakDriver();
+    CSoakDriver(const CSoakDriver&) = delete;
+    CSoakDriver& operator=(const CSoakDriver&) = delete;
 
     // Something done in the command's dialog, when it is idle.
     using Step = std::function<void(HWND dialog)>;

@@ -1,5 +1,5 @@
-// Hands for one call of the module in which anything may come up: they answer every message box, confirm
-// the command's dialog, and close it when confirming does not.
+// Drives one call of the module in which any dialog may open: answers every message box, confirms the
+// command's dialog, and closes it when confirming does not.
 #pragma once
 
 #include <windows.h>
@@ -8,13 +8,13 @@
 #include <string>
 #include <vector>
 
-class CCommandHands {
+class CCommandDriver {
 public:
     // `confirm` acts once on the command's dialog when that shows; pressing OK when there is none.
-    explicit CCommandHands(std::function<void(HWND dialog)> confirm = {});
-    ~CCommandHands();
-    CCommandHands(const CCommandHands&) = delete;
-    CCommandHands& operator=(const CCommandHands&) = delete;
+    explicit CCommandDriver(std::function<void(HWND dialog)> confirm = {});
+    ~CCommandDriver();
+    CCommandDriver(const CCommandDriver&) = delete;
+    CCommandDriver& operator=(const CCommandDriver&) = delete;
 
     // The texts of the message boxes that were answered.
     std::vector<std::wstring> messages;
