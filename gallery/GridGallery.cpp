@@ -10,6 +10,7 @@
 
 #include "gallery/GalleryDialog.h"
 #include "gallery/Monkey.h"
+#include "handles/ComApartment.h"
 
 namespace {
 
@@ -27,6 +28,8 @@ int RunMonkey(const wchar_t* events, const wchar_t* seed) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
+    // Assistive technology asks the grid through COM.
+    const tavrin::handles::CComApartment apartment;
     if (__argc == 4 && std::wstring(__wargv[1]) == L"--monkey") {
         return RunMonkey(__wargv[2], __wargv[3]);
     }

@@ -34,6 +34,11 @@ struct CImage {
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(CPictureCtrl, CStatic)
+    ON_MESSAGE(WM_GETOBJECT, &CPictureCtrl::OnGetAccessible)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
 CPictureCtrl::CPictureCtrl() {
     const Gdiplus::GdiplusStartupInput input;  // version 1, no callback, nothing suppressed
     Gdiplus::GdiplusStartup(&m_gdiplusToken, &input, nullptr);
@@ -49,6 +54,16 @@ void CPictureCtrl::PreSubclassWindow() {
     CStatic::PreSubclassWindow();
     // The dialog resources leave the style out and rely on this.
     ModifyStyle(0, SS_OWNERDRAW);
+}
+
+LRESULT CPictureCtrl::OnGetAccessible(WPARAM flags, LPARAM object) {
+    const std::optional<LRESULT> answer = m_access.Answer(flags, object);
+    return answer ? *answer : Default();
+}
+
+void CPictureCtrl::OnDestroy() {
+    m_access.Disconnect();
+    CStatic::OnDestroy();
 }
 
 BOOL CPictureCtrl::LoadFromFile(const CString& path) {

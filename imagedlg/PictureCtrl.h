@@ -7,6 +7,7 @@
 #include <afxwin.h>
 #include <objidl.h>
 
+#include "imagedlg/PictureAccess.h"
 #include "memory/MemoryFence.h"
 
 namespace tavrin::imagedlg {
@@ -24,6 +25,14 @@ public:
     // May be called before the window exists.
     BOOL LoadFromFile(const CString& path);
 
+    // What assistive technology calls the picture: the window's text, which is not drawn. To be called once
+    // the window exists.
+    void SetAccessibleName(const CString& name) { SetWindowText(name); }
+    // Makes the picture one to choose among, which a click on it selects, or a key; and whether it is
+    // selected. Both work before the window exists.
+    void SetSelectable(const std::wstring& key) { m_access.SetSelectable(key); }
+    void SetSelected(bool selected) { m_access.SetSelected(selected); }
+
     // Paints like DrawItem, on `pDC`, and returns TRUE; what the framework returns when the control is
     // empty. Not wired to a message: the dialog's background must show where nothing is drawn.
     virtual BOOL OnEraseBkgnd(CDC* pDC);
@@ -34,6 +43,9 @@ protected:
     }
     void PreSubclassWindow() override;
     void DrawItem(LPDRAWITEMSTRUCT drawItem) override;
+    afx_msg LRESULT OnGetAccessible(WPARAM flags, LPARAM object);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
 
 private:
     void ReleaseImageStream();
@@ -43,6 +55,7 @@ private:
     IStream* m_stream = nullptr;  // the file's bytes, owned; null when there are none
     BOOL m_loaded = FALSE;        // a file was read completely into the stream
     ULONG_PTR m_gdiplusToken = 0;
+    CPictureAccess m_access{*this};
 };
 
 }  // namespace tavrin::imagedlg

@@ -18,6 +18,7 @@ END_MESSAGE_MAP()
 
 BOOL CTavrinPreviewDlg::OnInitDialog() {
     CDialog::OnInitDialog();
+    m_picture.SetAccessibleName(m_name);
     if (const auto path = FindFile(std::wstring(m_name) + L".png")) {
         m_picture.LoadFromFile(path->c_str());
     }

@@ -71,6 +71,7 @@ BOOL CTavrinSelMaskDlg::OnInitDialog() {
         OnCancel();
     }
     ArrangeForCount();
+    NamePictures();
     m_replaceButton.SetWindowText(m_replaceText);
     return TRUE;
 }
@@ -165,7 +166,11 @@ void CTavrinSelMaskDlg::SelectCell(int cell) {
         return;
     }
     m_selectedChoice = GetChoiceOfCell(m_count, cell, m_selectedChoice);
+    if (cell - 1 != m_selectedCell) {
+        PictureOf(m_selectedCell + 1).SetSelected(false);
+    }
     m_selectedCell = cell - 1;
+    PictureOf(cell).SetSelected(true);
     PaintFrames();
 }
 
@@ -193,6 +198,18 @@ CString CTavrinSelMaskDlg::GetCellPath(int cell) {
 
 CPictureCtrl& CTavrinSelMaskDlg::PictureOf(int cell) {
     return m_pictures[static_cast<std::size_t>(cell - 1)];
+}
+
+// A cell without a choice has no name: there is nothing to select in it, whatever a click may do.
+void CTavrinSelMaskDlg::NamePictures() {
+    for (int cell = 1; cell <= kChoiceCells; ++cell) {
+        const int content = GetCellContent(m_count, cell);
+        const bool isChoice = content >= 0;
+        PictureOf(cell).SetAccessibleName(isChoice ? m_choices[content] : CString());
+        if (isChoice && IsCellSelectable(cell)) {
+            PictureOf(cell).SetSelectable(std::to_wstring(cell));
+        }
+    }
 }
 
 void CTavrinSelMaskDlg::LoadSlides() {

@@ -101,6 +101,7 @@ protected:
 private:
     CString GetCellPath(int cell);
     CPictureCtrl& PictureOf(int cell);
+    void NamePictures();
     void EndWith(EResult result);
     CRect AreaOf(const CWnd& control);
 

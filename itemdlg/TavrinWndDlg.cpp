@@ -1,5 +1,6 @@
 #include "itemdlg/TavrinWndDlg.h"
 
+#include <algorithm>
 #include <new>
 #include <optional>
 #include <utility>
@@ -76,7 +77,19 @@ BOOL CTavrinWndDlg::Initialize() {
     m_grid.SetShadeColor(kHeaderColor);
     m_grid.SetKeyboardEditing(true);
     LoadTemplate();
+    NameControls();
     return TRUE;
+}
+
+// For assistive technology: the picture shows the item that the dialog's title names, the grid stands under
+// its header, whose text is indented by blanks.
+void CTavrinWndDlg::NameControls() {
+    CString text;
+    GetWindowText(text);
+    m_picture.SetAccessibleName(text);
+    m_header.GetWindowText(text);
+    const std::wstring header(text);
+    m_grid.SetAccessibleName(header.substr(std::min(header.find_first_not_of(L' '), header.size())));
 }
 
 HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {

@@ -88,6 +88,7 @@ private:
     BOOL Initialize();
     bool ArgumentsAreUsable();
     void ShowPicture();
+    void NameControls();
     void AddParameter(UINT section, const ItemParameter& parameter);
     UINT AddRow(UINT section, const ParamRecord& record, bool editable);
     std::wstring CurrentValueText(const ParamRecord& record) const;

@@ -71,7 +71,8 @@ void CActionRunner::Do(const action::TellCustomItem& event) {
 void CActionRunner::Do(const action::OpenTextEdit& edit) {
     m_parts.editors.Close();
     if (const GridItem* const item = FindEditableItem(edit.item)) {
-        m_parts.editors.OpenTextEdit(edit.rect, GetEditText(*item), edit.typed);
+        const std::wstring name = item->name;
+        m_parts.editors.OpenTextEdit(edit.rect, name, GetEditText(*item), edit.typed);
     }
 }
 

@@ -18,6 +18,8 @@ public:
     virtual CWnd& GetWindow() = 0;
     virtual void Repaint() = 0;
     virtual void Relayout() = 0;
+    // Makes the layout's view that of the window as it is now.
+    virtual void UpdateLayout() = 0;
     virtual void NotifyChanged(UINT item) = 0;
 
 protected:

@@ -29,6 +29,9 @@ protected:
     // Ends an open editor with its result, before its row changes. The owner's handler of the result may do
     // anything to the grid.
     virtual void LeaveEditor() = 0;
+    // An item has another value, or another state; reported to assistive technology with the next paint.
+    virtual void ValueChanged(Id item) = 0;
+    virtual void StateChanged(Id item) = 0;
 
     template <class T>
     void Change(T& setting, const T& value) {

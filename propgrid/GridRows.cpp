@@ -20,6 +20,7 @@ bool CGridRows::SetItemEditable(UINT id, bool editable) {
         return false;
     }
     item->SetEditable(editable);
+    StateChanged(id);
     Repaint();
     return true;
 }
@@ -37,6 +38,7 @@ bool CGridRows::SetItemUndefined(UINT id, bool undefined) {
     if (item == nullptr || item->kind == IT_CUSTOM) {
         return false;
     }
+    ValueChanged(id);
     Change(item->undefined, undefined);
     return true;
 }

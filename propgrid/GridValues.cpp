@@ -79,6 +79,7 @@ bool CGridValues::WriteValue(UINT id, T value) {
     }
     item->value = std::move(value);
     item->undefined = false;
+    ValueChanged(id);
     Repaint();
     return true;
 }

@@ -3,6 +3,7 @@
 #include "memory/MemoryFence.h"
 #include "propgrid/PressWatch.h"
 #include "propgrid/controller/EditResult.h"
+#include "propgrid/controller/EditorOpening.h"
 #include "propgrid/controller/Focus.h"
 #include "propgrid/painter/FrameworkTypes.h"
 
@@ -42,6 +43,9 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_MESSAGE(WM_GRID_CHOICE_MADE, &CPropertyGrid::OnChoiceMade)
     ON_MESSAGE(WM_GRID_EDIT_DONE, &CPropertyGrid::OnEditDone)
     ON_MESSAGE(WM_GRID_DATE_CHOSEN, &CPropertyGrid::OnDateChosen)
+    ON_MESSAGE(WM_GETOBJECT, &CPropertyGrid::OnGetAccessible)
+    ON_MESSAGE(WM_GRID_ACCESS_REQUEST, &CPropertyGrid::OnAccessRequest)
+    ON_MESSAGE(WM_SETFOCUS, &CPropertyGrid::OnGotFocus)
 END_MESSAGE_MAP()
 
 CPropertyGrid::CPropertyGrid() = default;
@@ -137,6 +141,7 @@ LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void CPropertyGrid::OnDestroy() {
+    m_access.Disconnect();
     m_editors.Close();
     m_painter.ReleaseCanvas();
     CWnd::OnDestroy();
@@ -184,6 +189,11 @@ void CPropertyGrid::UpdateView() {
                       .rowHeight = m_layout.GetView().rowHeight});
 }
 
+void CPropertyGrid::UpdateLayout() {
+    SettleLayout();
+    UpdateView();
+}
+
 // Without a bar a new size deliberately changes nothing: no bar appears before the rows next change, and the
 // divider stays where it is.
 void CPropertyGrid::OnSize(UINT type, int width, int height) {
@@ -210,10 +220,15 @@ void CPropertyGrid::Repaint() {
 
 // The whole window counts as painted, whatever a custom item did to it.
 void CPropertyGrid::OnPaint() {
-    CPaintDC dc(this);
-    UpdateView();
-    if (m_painter.PaintWindow(dc, m_mouse.IsButtonPressed())) {
-        ValidateRect(nullptr);
+    {
+        CPaintDC dc(this);
+        UpdateView();
+        if (m_painter.PaintWindow(dc, m_mouse.IsButtonPressed())) {
+            ValidateRect(nullptr);
+        }
+    }
+    if (GetSafeHwnd() != nullptr) {
+        m_access.Report();
     }
 }
 
@@ -421,6 +436,7 @@ bool CPropertyGrid::SetFocusedRow(const RowId& row) {
 }
 
 void CPropertyGrid::NotifyChanged(UINT item) {
+    ValueChanged(item);
     if (CWnd* const owner = GetOwner()) {
         owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
     }
@@ -448,6 +464,45 @@ bool CPropertyGrid::GetSectionRects(UINT id, CRect& glyph, CRect& header) const 
 
 CRect CPropertyGrid::GetEditButtonRect() const {
     return ToCRect(m_layout.GetEditButton());
+}
+
+// ---- Assistive technology
+
+LRESULT CPropertyGrid::OnGetAccessible(WPARAM flags, LPARAM object) {
+    const std::optional<LRESULT> answer = m_access.Answer(flags, object);
+    return answer ? *answer : Default();
+}
+
+// The system reports that the window has the focus, the grid which row has it.
+LRESULT CPropertyGrid::OnGotFocus(WPARAM /*window*/, LPARAM /*zero*/) {
+    const LRESULT result = Default();
+    m_access.NoteWindowFocus();
+    m_access.Report();
+    return result;
+}
+
+void CPropertyGrid::RevealFocus() {
+    if (!IsReadyForHitTest()) {
+        return;
+    }
+    if (const std::optional<action::ScrollTo> reveal = RevealFocusedRow(m_layout)) {
+        m_actions.Run({*reveal});
+    }
+}
+
+LRESULT CPropertyGrid::OnAccessRequest(WPARAM /*zero*/, LPARAM /*alsoZero*/) {
+    const std::optional<AccessRequest> request = m_access.TakeRequest();
+    if (!request || !IsWindowEnabled() || !TakeFocus() || !SetFocusedRow(request->row)) {
+        return 0;
+    }
+    if (request->defaultAction && m_model.FindSection(request->row.section) != nullptr) {
+        SetSectionCollapsed(request->row.section, !IsSectionCollapsed(request->row.section));
+    } else if (request->defaultAction) {
+        EditFocusedItem();
+    } else {
+        RevealFocus();
+    }
+    return 0;
 }
 
 // ---- The end of an editor

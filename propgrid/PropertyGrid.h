@@ -30,6 +30,7 @@
 #include <string>
 
 #include "propgrid/ActionRunner.h"
+#include "propgrid/GridAccess.h"
 #include "propgrid/GridScrollBar.h"
 #include "propgrid/GridValues.h"
 #include "propgrid/controller/EditKeyController.h"
@@ -58,6 +59,11 @@ public:
     bool SetFocusedSection(UINT section);
     UINT GetFocusedItem() const { return m_model.GetFocus().item; }
     UINT GetFocusedSection() const { return m_model.GetFocus().section; }
+
+    // What assistive technology calls the grid; empty at the start, which stands for the window's text. A
+    // client sets it to the text of the label that stands over the grid.
+    void SetAccessibleName(const std::wstring& name) { m_access.SetName(name); }
+    const std::wstring& GetAccessibleName() const { return m_access.GetOwnName(); }
 
     // ---- Where things were painted
 
@@ -148,6 +154,9 @@ protected:
     afx_msg LRESULT OnChoiceMade(WPARAM index, LPARAM zero);
     afx_msg LRESULT OnEditDone(WPARAM text, LPARAM zero);
     afx_msg LRESULT OnDateChosen(WPARAM alsoZero, LPARAM zero);
+    afx_msg LRESULT OnGetAccessible(WPARAM flags, LPARAM object);
+    afx_msg LRESULT OnAccessRequest(WPARAM zero, LPARAM alsoZero);
+    afx_msg LRESULT OnGotFocus(WPARAM window, LPARAM zero);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -156,6 +165,9 @@ private:
     void Relayout() override;
     void RelayoutLater() override;
     void LeaveEditor() override;
+    void ValueChanged(Id item) override { m_access.NoteValue(item); }
+    void StateChanged(Id item) override { m_access.NoteState(item); }
+    void UpdateLayout() override;
 
     void Initialize();
     void TakeParentText(int controlId, const wchar_t* otherwise, std::wstring& text) const;
@@ -163,6 +175,7 @@ private:
     void UpdateView();
     bool IsReadyForHitTest();
     bool IsReadyForKey();
+    void RevealFocus();
     bool TakeFocus();
     bool BeginPress();
     bool ScrollTo(std::optional<int> position);
@@ -179,6 +192,7 @@ private:
     CGridEditors m_editors{*this, m_model, m_fonts};
     CGridScrollBar m_scrollBar;
     CActionRunner m_actions{{*this, m_model, m_mouse, m_editors, m_scrollBar, m_fonts}};
+    CGridAccess m_access{*this, m_model, m_layout};
     bool m_layoutPending = false;  // rows were added that no layout knows yet
     bool m_creating = false;       // from PreCreateWindow to PreSubclassWindow, or to a failed creation
 };

@@ -24,6 +24,7 @@
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
 #include "devhost/options/Options.h"
+#include "handles/ComApartment.h"
 #include "lisp/Arguments.h"
 #include "lisp/OneLine.h"
 
@@ -287,6 +288,8 @@ int wmain(int count, wchar_t** arguments) {
             output.Line(L"DevHost " DEVHOST_VERSION);
             return kExitDone;
         }
+        // As in the CAD application: plug-ins, and who asks their windows, count on it.
+        const tavrin::handles::CComApartment apartment;
         return Run(options, output);
     } catch (const CUserError& error) {
         output.Error(error.Text());

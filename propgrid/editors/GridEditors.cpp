@@ -46,10 +46,11 @@ void EditorDeleter::operator()(CWnd* editor) const {
     delete editor;
 }
 
-void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& text, wchar_t typed) {
+void CGridEditors::OpenTextEdit(const Rect& rect, const std::wstring& name, const std::wstring& text,
+                                wchar_t typed) {
     Close();
     auto edit =
-        std::make_unique<CPropertyGridInPlaceEdit>(&m_grid, ToCRect(rect), WS_CHILD, kTextEditId, text);
+        std::make_unique<CPropertyGridInPlaceEdit>(&m_grid, ToCRect(rect), WS_CHILD, kTextEditId, text, name);
     if (edit->GetSafeHwnd() == nullptr) {
         return;
     }
@@ -73,6 +74,7 @@ void CGridEditors::OpenList(const GridItem& item, const Rect& cell) {
     const GridColors& colors = m_model.settings.colors;
     list->SetColors(colors.back, colors.text, colors.focus, colors.focusText);
     list->SetFont(&m_fonts.normal);
+    list->SetAccessibleName(item.name);
     AddChoices(*list, item, m_model.settings.texts);
     Own(list.release());
     m_editor->ShowWindow(SW_SHOW);

@@ -36,7 +36,7 @@ public:
     // Each closes what is open. Rectangles are in client coordinates of the grid; a list and a calendar drop
     // down under a cell.
     // `typed` replaces the text as if it were typed there, unless it is 0: Escape puts the text back.
-    void OpenTextEdit(const Rect& rect, const std::wstring& text, wchar_t typed);
+    void OpenTextEdit(const Rect& rect, const std::wstring& name, const std::wstring& text, wchar_t typed);
     void OpenList(const GridItem& item, const Rect& cell);
     void OpenCalendar(const DateValue& date, const Rect& cell);
 

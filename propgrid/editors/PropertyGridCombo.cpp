@@ -22,12 +22,15 @@ BEGIN_MESSAGE_MAP(CPropertyGridCombo, CWnd)
     ON_WM_KEYDOWN()
     ON_WM_KILLFOCUS()
     ON_WM_GETDLGCODE()
+    ON_MESSAGE(WM_GETOBJECT, &CPropertyGridCombo::OnGetAccessible)
+    ON_MESSAGE(WM_LIST_ACCESS_REQUEST, &CPropertyGridCombo::OnAccessRequest)
+    ON_MESSAGE(WM_SETFOCUS, &CPropertyGridCombo::OnGotFocus)
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 namespace {
 
-// On each side of the strings.
-constexpr int kBorder = 1;
+constexpr int kBorder = ListContents::kBorder;
 constexpr int kTextMargin = 4;
 
 // Text output takes no more characters than this.
@@ -79,11 +82,12 @@ void CPropertyGridCombo::FitHeight() {
         CClientDC dc(this);
         const CFont none;
         const handles::CSelectedObject font(dc, FindFont(none));
-        m_rowHeight = dc.GetTextExtent(L"Gg", 2).cy + 4;
+        m_contents.rowHeight = dc.GetTextExtent(L"Gg", 2).cy + 4;
     }
     CRect window;
     GetWindowRect(&window);
-    const int height = static_cast<int>(m_strings.size()) * m_rowHeight + 2 * kBorder;
+    const int height = static_cast<int>(m_contents.strings.size()) * m_contents.rowHeight + 2 * kBorder;
+    m_contents.width = window.Width();
     SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOOWNERZORDER);
 }
 
@@ -91,7 +95,7 @@ void CPropertyGridCombo::FitHeight() {
 // then has, the first one selected. In an empty list nothing is.
 void CPropertyGridCombo::OnPaint() {
     CPaintDC dc(this);
-    m_selection = std::min(std::max(m_selection, 0), GetLast());
+    m_contents.selection = std::min(std::max(m_contents.selection, 0), GetLast());
 
     CRect client;
     GetClientRect(&client);
@@ -106,17 +110,17 @@ void CPropertyGridCombo::OnPaint() {
     dc.Rectangle(&client);
     dc.SetBkMode(TRANSPARENT);
 
-    CRect row(kBorder, kBorder, client.right - kBorder, kBorder + m_rowHeight);
+    CRect row(kBorder, kBorder, client.right - kBorder, kBorder + m_contents.rowHeight);
     for (int index = 0; index <= GetLast(); ++index) {
         if (dc.RectVisible(&row)) {
             PaintRow(dc, row, index);
         }
-        row.OffsetRect(0, m_rowHeight);
+        row.OffsetRect(0, m_contents.rowHeight);
     }
 }
 
 void CPropertyGridCombo::PaintRow(CDC& dc, CRect row, int index) {
-    const bool selected = index == m_selection;
+    const bool selected = index == m_contents.selection;
     if (selected) {
         dc.DrawFocusRect(&row);
         CRect inside = row;
@@ -125,26 +129,27 @@ void CPropertyGridCombo::PaintRow(CDC& dc, CRect row, int index) {
     }
     dc.SetTextColor(selected ? m_focusText : m_text);
     row.left += kTextMargin;
-    const std::wstring& text = m_strings[static_cast<std::size_t>(index)];
+    const std::wstring& text = m_contents.strings[static_cast<std::size_t>(index)];
     dc.DrawText(text.c_str(), static_cast<int>(std::min(text.size(), kLongestDrawnText)), &row,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
 void CPropertyGridCombo::Select(int index) {
-    m_selection = index;
+    m_contents.selection = index;
     Invalidate();
+    m_access.ReportSelection();
 }
 
 // The one pixel of the top kBorder is deliberately not subtracted, and there need not be a string at the
 // point.
 void CPropertyGridCombo::SelectAt(CPoint point) {
-    Select(point.y / m_rowHeight);
+    Select(point.y / m_contents.rowHeight);
 }
 
 void CPropertyGridCombo::OnLButtonDown(UINT /*flags*/, CPoint point) {
     m_tracking = true;
-    SelectAt(point);
     SetCapture();
+    SelectAt(point);
 }
 
 void CPropertyGridCombo::OnMouseMove(UINT /*flags*/, CPoint point) {
@@ -168,11 +173,11 @@ void CPropertyGridCombo::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     switch (key) {
         case VK_LEFT:
         case VK_UP:
-            Select(m_selection > 0 ? m_selection - 1 : 0);
+            Select(m_contents.selection > 0 ? m_contents.selection - 1 : 0);
             break;
         case VK_RIGHT:
         case VK_DOWN:
-            Select(m_selection < GetLast() ? m_selection + 1 : GetLast());
+            Select(m_contents.selection < GetLast() ? m_contents.selection + 1 : GetLast());
             break;
         case VK_RETURN:
         case VK_EXECUTE:  // deliberately: some keyboards send it for Enter
@@ -196,8 +201,36 @@ UINT CPropertyGridCombo::OnGetDlgCode() {
     return DLGC_WANTALLKEYS;
 }
 
+LRESULT CPropertyGridCombo::OnGetAccessible(WPARAM flags, LPARAM object) {
+    const std::optional<LRESULT> answer = m_access.Answer(flags, object);
+    return answer ? *answer : Default();
+}
+
+LRESULT CPropertyGridCombo::OnAccessRequest(WPARAM child, LPARAM choose) {
+    const int index = static_cast<int>(child) - 1;
+    if (choose == 0) {
+        Select(index);
+    } else {
+        SetCurSel(index);
+        ReportChoice();
+    }
+    return 0;
+}
+
+// The system reports that the window has the focus, the list which string has it.
+LRESULT CPropertyGridCombo::OnGotFocus(WPARAM /*window*/, LPARAM /*zero*/) {
+    const LRESULT result = Default();
+    m_access.ReportSelection();
+    return result;
+}
+
+void CPropertyGridCombo::OnDestroy() {
+    m_access.Disconnect();
+    CWnd::OnDestroy();
+}
+
 void CPropertyGridCombo::ReportChoice() {
-    const auto index = static_cast<WPARAM>(static_cast<INT_PTR>(m_selection));
+    const auto index = static_cast<WPARAM>(static_cast<INT_PTR>(m_contents.selection));
     if (CWnd* const grid = GetOwner()) {
         grid->SendMessage(WM_GRID_CHOICE_MADE, index);
     }

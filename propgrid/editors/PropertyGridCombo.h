@@ -25,9 +25,10 @@
 #include <afxwin.h>
 
 #include <string>
-#include <vector>
 
 #include "memory/MemoryFence.h"
+#include "propgrid/accessible/AccessibleList.h"
+#include "propgrid/editors/ListAccess.h"
 
 namespace tavrin::propgrid {
 
@@ -51,12 +52,15 @@ public:
     void SetFont(CFont* font, BOOL redraw = TRUE);
 
     // To be called before the list is shown, which gives it its height.
-    void AddString(const std::wstring& text) { m_strings.push_back(text); }
+    void AddString(const std::wstring& text) { m_contents.strings.push_back(text); }
+
+    // What assistive technology calls the list: the name of the row. Empty at the start.
+    void SetAccessibleName(const std::wstring& name) { m_contents.name = name; }
 
     // Deliberately takes any index; the next paint moves it to the nearest string. -1, nothing selected,
     // at the start.
-    void SetCurSel(int index) { m_selection = index; }
-    int GetCurSel() const { return m_selection; }
+    void SetCurSel(int index) { m_contents.selection = index; }
+    int GetCurSel() const { return m_contents.selection; }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -70,10 +74,14 @@ protected:
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg UINT OnGetDlgCode();
+    afx_msg LRESULT OnGetAccessible(WPARAM flags, LPARAM object);
+    afx_msg LRESULT OnAccessRequest(WPARAM child, LPARAM choose);
+    afx_msg LRESULT OnGotFocus(WPARAM window, LPARAM zero);
+    afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:
-    int GetLast() const { return static_cast<int>(m_strings.size()) - 1; }
+    int GetLast() const { return m_contents.GetLast(); }
     const CFont& FindFont(const CFont& none) const;
     void FitHeight();
     void Select(int index);
@@ -81,10 +89,9 @@ private:
     void PaintRow(CDC& dc, CRect row, int index);
     void ReportChoice();
 
-    std::vector<std::wstring> m_strings;
-    int m_selection = -1;
+    ListContents m_contents;
+    CListAccess m_access{*this, m_contents};
     CFont* m_font = nullptr;  // not owned
-    int m_rowHeight = 1;      // until the list is shown; never 0
     bool m_tracking = false;  // the left button is held down since it was pressed in the list
     COLORREF m_background = ::GetSysColor(COLOR_WINDOW);
     COLORREF m_text = ::GetSysColor(COLOR_WINDOWTEXT);

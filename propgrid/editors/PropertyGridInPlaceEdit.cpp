@@ -16,6 +16,7 @@ BEGIN_MESSAGE_MAP(CPropertyGridInPlaceEdit, CEdit)
     ON_WM_MOUSEWHEEL()
     ON_WM_KILLFOCUS()
     ON_WM_GETDLGCODE()
+    ON_WM_DESTROY()
     ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
@@ -41,10 +42,13 @@ bool IsNavigationKey(UINT key) {
 }  // namespace
 
 CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWORD style, UINT id,
-                                                   std::wstring text)
+                                                   std::wstring text, const std::wstring& name)
     : m_initialText(std::move(text)), m_position(rect) {
     if (!Create(style | WS_CHILD | ES_AUTOHSCROLL, rect, parent, id)) {
         return;
+    }
+    if (!name.empty()) {
+        SetAccessibleName(name);
     }
     SetColors(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOWTEXT));
     SendMessage(WM_SETFONT, static_cast<WPARAM>(parent->SendMessage(WM_GETFONT)), TRUE);
@@ -56,6 +60,29 @@ CPropertyGridInPlaceEdit::CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWO
     // Scrolls the end of the text into view and leaves the caret there, with nothing selected.
     SetSel(0, -1);
     SetSel(-1, 0);
+}
+
+// The system calls an edit by the text of the static control before it, which need not be visible. The edit
+// keeps the system's own accessible object that way, which knows its text and caret.
+void CPropertyGridInPlaceEdit::SetAccessibleName(const std::wstring& name) {
+    constexpr UINT kLabelId = 1001;
+    // A single "&" would mark a mnemonic.
+    std::wstring text;
+    for (const wchar_t character : name) {
+        text.append(character == L'&' ? 2 : 1, character);
+    }
+    if (m_label.Create(text.c_str(), WS_CHILD, CRect(0, 0, 0, 0), GetParent(), kLabelId)) {
+        constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+        m_label.SetWindowPos(&wndTop, 0, 0, 0, 0, kOrderOnly);
+        SetWindowPos(&m_label, 0, 0, 0, 0, kOrderOnly);
+    }
+}
+
+void CPropertyGridInPlaceEdit::OnDestroy() {
+    if (m_label.GetSafeHwnd() != nullptr) {
+        m_label.DestroyWindow();
+    }
+    CEdit::OnDestroy();
 }
 
 void CPropertyGridInPlaceEdit::SetColors(COLORREF background, COLORREF text) {

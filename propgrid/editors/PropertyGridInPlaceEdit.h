@@ -34,8 +34,10 @@ public:
     // Creates the window at once: a child of `parent` with control id `id`, of `style` plus WS_CHILD and
     // ES_AUTOHSCROLL (hidden, unless the style shows it), in the font that the parent answers to
     // WM_GETFONT and the system's window colours, and gives it the focus. The text may be of any
-    // length; what a NUL cuts off is lost. When the creation fails the object has no window.
-    CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWORD style, UINT id, std::wstring text);
+    // length; what a NUL cuts off is lost. Assistive technology calls the edit by `name`. When the creation
+    // fails the object has no window.
+    CPropertyGridInPlaceEdit(CWnd* parent, CRect rect, DWORD style, UINT id, std::wstring text,
+                             const std::wstring& name = {});
 
     // For the next paint.
     void SetColors(COLORREF background, COLORREF text);
@@ -62,14 +64,17 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKillFocus(CWnd* newFocus);
     afx_msg UINT OnGetDlgCode();
+    afx_msg void OnDestroy();
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void SetAccessibleName(const std::wstring& name);
     void Leave();
     void Cancel();
     void End();
 
+    CStatic m_label;  // hidden, holds the name
     std::wstring m_initialText;
     CString m_shownText;  // what the window makes of it: one line at most
     bool m_exitOnNavigation = false;

@@ -44,6 +44,11 @@ const std::vector<const GridItem*>& CGridLayout::GetSortedItems() {
     return m_sorted;
 }
 
+std::uint32_t CGridLayout::GetSortedRow(const GridItem& item) {
+    GetSortedItems();
+    return m_sortedRows[item.id];
+}
+
 const CGridLayout::SectionRecord* CGridLayout::FindRecord(const GridSection& section) const {
     const bool exists = m_generation == m_model.GetGeneration() && section.id < m_records.size();
     return exists ? &m_records[section.id] : nullptr;

@@ -70,6 +70,8 @@ public:
 
     // All items by name (code units; equal names in section order). Sorts only when there are new rows.
     const std::vector<const GridItem*>& GetSortedItems();
+    // The position of an item among them.
+    std::uint32_t GetSortedRow(const GridItem& item);
 
     // What the last paint recorded. Of a row that was not drawn the name or the header is the whole row and
     // the rest is empty; the items of a collapsed section keep what an earlier paint recorded; what was never

@@ -47,7 +47,8 @@ public:
     // click that OnLButtonDown did not capture is not reported.
     virtual void OnLButtonUp(CRect rect, CPoint point) = 0;
 
-    // The text that the in-place edit opens with.
+    // The text that the in-place edit opens with, and that screen readers are given as the value. The latter
+    // is asked for between any two messages.
     virtual std::wstring GetStringValue() = 0;
 
     // Takes the text that the in-place edit ended with. True when the value changed; the grid then

@@ -77,7 +77,7 @@ TEST_P(ModuleFile, ImportsTheHostsAllocatorAndSystemLibrariesAlone) {
     const std::set<std::string> allowed = {"td_alloc.dll", "kernel32.dll", "user32.dll",   "gdi32.dll",
                                            "msvcrt.dll",   "comctl32.dll", "comdlg32.dll", "ole32.dll",
                                            "oleaut32.dll", "shell32.dll",  "shlwapi.dll",  "gdiplus.dll",
-                                           "advapi32.dll"};
+                                           "advapi32.dll", "oleacc.dll"};
     for (const std::string& library : libraries) {
         EXPECT_TRUE(allowed.contains(LowerCase(library))) << library;
     }
