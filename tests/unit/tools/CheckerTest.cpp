@@ -180,7 +180,7 @@ TEST(Checker, AVariantOfItemChooseNeedsASlide) {
     context.exists = [](const std::string& name) { return name == "door.png" || name == "door_single_t.png"; };
     context.baseName = "door";
     context.routine = "(setq kinds '(\"single\" \"double\"))\n(item-choose \"door\" kinds)";
-    EXPECT_EQ(Places(CheckPictures(context)), PlaceList{"1:25 slide-missing"});
+    EXPECT_EQ(Places(CheckPictures(context)), PlaceList{"1:24 slide-missing"});
 }
 
 }  // namespace
