@@ -12,8 +12,13 @@ enum ECommand {
     IDM_CLEAR,
     IDM_ABOUT,
     IDM_EXIT,
+    IDM_UNDO,
+    IDM_REDO,
+    IDM_SAVE,
+    IDM_RESCAN,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
+    IDM_RECENT = 400,     // plus an index in the list of last items
     IDM_ITEM = 1000,      // plus the item's index
 };
 

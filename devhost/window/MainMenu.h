@@ -13,6 +13,11 @@ namespace devhost {
 struct MenuState {
     bool isIdle = true;  // no call is running and no question is open
     bool canReload = false;
+    bool canRescan = false;
+    bool canSave = false;
+    bool canUndo = false;
+    bool canRedo = false;
+    bool isTyping = false;  // the prompt has a text, which the keys of Undo and Redo are for
     bool hasDrawing = false;
     bool hasSnap = false;
 };
@@ -24,6 +29,8 @@ public:
 
     // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9.
     void SetItems(const std::vector<std::wstring>& titles);
+    // The entries of the menu Items > Last items, the last one first.
+    void SetRecent(const std::vector<std::wstring>& titles);
 
     // To be called before the menu opens and before TranslateAccelerator, which ignores disabled commands:
     // enables and disables the commands.
@@ -39,7 +46,8 @@ private:
 
     HMENU m_menu;
     HMENU m_items;
-    std::size_t m_itemCount = 0;
+    std::vector<std::wstring> m_recent;
+    std::vector<std::wstring> m_titles;
     std::unique_ptr<HACCEL, KeysDeleter> m_keys;
 };
 
