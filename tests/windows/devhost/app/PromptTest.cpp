@@ -16,7 +16,7 @@ class Prompt : public testing::Test {
 protected:
     Prompt()
         : m_host({}),
-          m_output(m_host.Control(L"Edit", kOutput)),
+          m_output(m_host.Control(L"RICHEDIT50W", kOutput)),
           m_prompt(m_host.Control(L"Edit", kPrompt)) {}
 
     void Type(const std::wstring& text) const {
