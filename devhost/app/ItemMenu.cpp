@@ -1,5 +1,6 @@
 #include "devhost/app/ItemMenu.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace devhost {
@@ -38,13 +39,28 @@ void CItemMenu::Run(std::size_t index) {
 }
 
 void CItemMenu::Watch() {
+    const std::vector<Item> before = m_catalog.Items();
     const CItemCatalog::Changes changes = m_catalog.Rescan();
     if (changes.hasOtherItems) {
+        PrintDifference(m_catalog.Items(), before, L"added");
+        PrintDifference(before, m_catalog.Items(), L"removed");
         AddToSearchPath(m_catalog, m_searchPath);
         Offer();
     }
     for (const Item& item : changes.changed) {
         m_check.Check(item);
+    }
+}
+
+// Names the items that only the first list has.
+void CItemMenu::PrintDifference(const std::vector<Item>& items, const std::vector<Item>& others,
+                                const std::wstring& what) {
+    for (const Item& item : items) {
+        const bool isThere = std::any_of(others.begin(), others.end(),
+                                         [&](const Item& other) { return other.folder == item.folder; });
+        if (!isThere) {
+            m_output.Line(L"; the item " + item.name + L" has been " + what);
+        }
     }
 }
 

@@ -25,6 +25,8 @@ private:
     void Run(std::size_t index);
     // Takes over what has changed on the disk.
     void Watch();
+    void PrintDifference(const std::vector<Item>& items, const std::vector<Item>& others,
+                         const std::wstring& what);
     // Checks all items and prints all findings.
     void CheckAll();
 

@@ -145,7 +145,7 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SIZE:
             Layout();
             if (m_output != nullptr) {
-                m_output->ShowEnd();
+                m_output->ShowCaret();
             }
             return 0;
         case WM_ERASEBKGND:

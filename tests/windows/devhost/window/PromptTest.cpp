@@ -3,9 +3,6 @@
 #include "devhost/window/PromptHistory.h"
 
 #include <commctrl.h>
-#include <richedit.h>
-
-#include <algorithm>
 
 #include "tests/windows/devhost/window/WindowFixture.h"
 
@@ -104,33 +101,6 @@ TEST_F(PromptRow, TheListOfOutputsTakesLinesAndPieces) {
     m_window.AddText(L"");
     m_window.AddText(L"six");
     EXPECT_EQ(Output(), L"one\r\ntwo\r\nthree\r\nfour\r\nfive\r\n\r\nsix");
-}
-
-TEST_F(PromptRow, FindingsAndErrorsAreColoured) {
-    m_window.AddText(L"plain\n; error: a\n; warning: b\n; note: c\n; alert: d\n42; error\nopen");
-    m_window.AddText(L"; error is no line of its own\n");
-    const auto colourOf = [this](const wchar_t* text) {
-        const LONG at = LONG(Output().find(text));
-        const std::wstring before = Output().substr(0, std::size_t(at));
-        const LONG lines = LONG(std::count(before.begin(), before.end(), L'\n'));
-        CHARRANGE range = {at - lines, at - lines + 1};  // a line end is one character there
-        SendMessageW(Part(IDC_OUTPUT), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
-        CHARFORMATW format = {};
-        format.cbSize = sizeof format;
-        SendMessageW(Part(IDC_OUTPUT), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-        return format.crTextColor;
-    };
-    const COLORREF plain = colourOf(L"plain");
-    EXPECT_GT(GetRValue(colourOf(L"; error: a")), 150);
-    EXPECT_GT(GetBValue(colourOf(L"; note: c")), 150);
-    EXPECT_EQ(colourOf(L"; warning"), colourOf(L"; alert"));
-    EXPECT_NE(colourOf(L"; warning"), plain);
-    EXPECT_EQ(colourOf(L"42"), plain);
-    EXPECT_EQ(colourOf(L"; error is no"), plain);
-    m_window.AddOutput(L"; error: e");
-    m_window.AddOutput(L"again plain");
-    EXPECT_EQ(colourOf(L"again"), plain);
-    EXPECT_NE(colourOf(L"; error: e"), plain);
 }
 
 TEST_F(PromptRow, PageUpScrollsTheListOfOutputs) {
