@@ -76,8 +76,8 @@ std::set<std::string> KnownNames() {
             names.insert(LowerCase(Narrow(builtin.name)));
         }
     }
-    for (const char* name :
-         {"draw-line", "draw-polyline", "draw-circle", "draw-arc", "draw-text", "draw-clear", "draw-placement"}) {
+    for (const char* name : {"draw-line", "draw-polyline", "draw-circle", "draw-arc", "draw-text",
+                             "draw-clear", "draw-placement"}) {
         names.insert(name);
     }
     return names;

@@ -79,12 +79,11 @@ TEST_F(LispControl, FunctionsAreValues) {
 TEST_F(LispControl, WhatIsNoFunctionIsNamed) {
     EXPECT_EQ(Mistake(L"(defun f (list) (list 1)) (mapcar 'f '(1))"),
               L"line 1 in F: LIST is not a function: its value is 1");
-    ExpectMistakes(
-        {{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
-         {L"(apply nil nil)", L"nil is not the name of a function"},
-         {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
-         {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
-         {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
+    ExpectMistakes({{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
+                    {L"(apply nil nil)", L"nil is not the name of a function"},
+                    {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
+                    {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
+                    {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
 }
 
 TEST_F(LispControl, IfTakesOneOfTwoBranches) {

@@ -161,7 +161,8 @@ TEST_F(LispFiles, AFileWithAMistakeInItsNotationIsNotRunAtAll) {
 TEST_F(LispFiles, AFileThatLoadsItselfEndsWithAnError) {
     Write(L"self.lsp", "(load \"self.lsp\")");
     const std::wstring text = Mistake(L"(load \"self.lsp\")");
-    EXPECT_TRUE(text.starts_with(L"self.lsp:1 > self.lsp:1 > self.lsp:1 > (")) << testing::PrintToString(text);
+    EXPECT_TRUE(text.starts_with(L"self.lsp:1 > self.lsp:1 > self.lsp:1 > ("))
+        << testing::PrintToString(text);
     EXPECT_TRUE(
         text.ends_with(L"> self.lsp:1: calls are nested too deep: does the recursion come to an end?"))
         << testing::PrintToString(text);

@@ -177,7 +177,9 @@ TEST(Checker, ARoutineThatIsNoUtf8IsReadInASingleByteCodePage) {
 
 TEST(Checker, AVariantOfItemChooseNeedsASlide) {
     PictureContext context;
-    context.exists = [](const std::string& name) { return name == "door.png" || name == "door_single_t.png"; };
+    context.exists = [](const std::string& name) {
+        return name == "door.png" || name == "door_single_t.png";
+    };
     context.baseName = "door";
     context.routine = "(setq kinds '(\"single\" \"double\"))\n(item-choose \"door\" kinds)";
     EXPECT_EQ(Places(CheckPictures(context)), PlaceList{"1:24 slide-missing"});
