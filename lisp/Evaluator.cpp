@@ -1,6 +1,7 @@
 #include "lisp/Evaluator.h"
 
 #include <algorithm>
+#include <deque>
 #include <new>
 
 #include "lisp/Builtins.h"
@@ -18,6 +19,10 @@ constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
 // An *error* function, and an evaluation that begins above the limit, may exceed it by one part in so many.
 constexpr std::size_t kReserve = 8;
 constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
+
+// How many calls of a long chain an error names, from its start and from its end.
+constexpr std::size_t kOuterCalls = 3;
+constexpr std::size_t kInnerCalls = 5;
 
 constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion come to an end?";
 
@@ -63,6 +68,7 @@ class CEvaluator::CFrameScope {
 public:
     CFrameScope(CEvaluator& evaluator, Frame frame)
         : m_evaluator(evaluator), m_before(evaluator.m_frame), m_frame(frame) {
+        m_frame.caller = m_before;
         evaluator.m_frame = &m_frame;
     }
     ~CFrameScope() { m_evaluator.m_frame = m_before; }
@@ -318,13 +324,32 @@ void CEvaluator::Settle(CLispError& error) {
     error.SetHandled();
 }
 
+// The chain of calls, from the outermost one, each with the line where it stands.
 std::wstring CEvaluator::Location() const {
-    if (m_frame->line == 0) {
-        return {};
+    std::deque<std::wstring> calls;
+    std::size_t left = 0;  // calls in the middle of a long chain
+    for (const Frame* frame = m_frame; frame != nullptr; frame = frame->caller) {
+        // Typed text that calls a function is in sight anyway.
+        const bool isTyped = frame->function == nullptr && frame->file->empty();
+        if (frame->line == 0 || (isTyped && !calls.empty())) {
+            continue;
+        }
+        const std::wstring line = std::to_wstring(frame->line);
+        calls.push_front((frame->file->empty() ? L"line " : *frame->file + L':') + line +
+                         (frame->function != nullptr ? L" in " + *frame->function : L""));
+        if (calls.size() > kInnerCalls + kOuterCalls) {
+            calls.erase(calls.begin() + kOuterCalls);
+            ++left;
+        }
     }
-    const std::wstring line = std::to_wstring(m_frame->line);
-    const std::wstring location = m_frame->file->empty() ? L"line " + line : *m_frame->file + L':' + line;
-    return m_frame->function != nullptr ? location + L": in " + *m_frame->function : location;
+    std::wstring chain;
+    for (std::size_t i = 0; i < calls.size(); ++i) {
+        chain += (chain.empty() ? L"" : L" > ") + calls[i];
+        if (left != 0 && i + 1 == kOuterCalls) {
+            chain += L" > (" + std::to_wstring(left) + (left == 1 ? L" more call)" : L" more calls)");
+        }
+    }
+    return chain;
 }
 
 CValue CEvaluator::Variable(const std::wstring& name) const {

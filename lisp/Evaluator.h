@@ -85,6 +85,7 @@ private:
         const std::wstring* function;  // null for the source
         const std::wstring* file;
         int line;
+        const Frame* caller = nullptr;
     };
     class CFrameScope;
     class CBindings;

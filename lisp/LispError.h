@@ -41,16 +41,19 @@ private:
 // A syntax error. Line and column count from 1.
 class CReadError : public CLispError {
 public:
-    CReadError(int line, int column, const std::wstring& what)
+    // `isUnfinished`: the text ends within an expression, which more text could complete.
+    CReadError(int line, int column, const std::wstring& what, bool isUnfinished = false)
         : CLispError(L"line " + std::to_wstring(line) + L", column " + std::to_wstring(column) + L": " +
                      what),
           m_line(line),
           m_column(column),
-          m_what(what) {
+          m_what(what),
+          m_isUnfinished(isUnfinished) {
         m_needsLocation = false;
     }
 
     const std::wstring& What() const { return m_what; }
+    bool IsUnfinished() const { return m_isUnfinished; }
     // The same error with the name of its file.
     CReadError InFile(const std::wstring& file) const {
         CReadError error(*this);
@@ -63,6 +66,7 @@ private:
     int m_line;
     int m_column;
     std::wstring m_what;
+    bool m_isUnfinished;
 };
 
 // The user pressed Escape, while LISP ran or in answer to a question. Its text is always "cancelled", without

@@ -5,8 +5,10 @@
 // folder.
 // - Sources are UTF-8 when they are well-formed, otherwise Windows-1252. Files that LISP reads and writes are
 //   Windows-1252, and every byte is preserved; lines are written with CR LF and read with LF or CR LF.
-// - Errors read FILE:LINE: in NAME: what, or line LINE: in NAME: what for typed text; outside of functions
-//   without "in NAME". A syntax error reads FILE:LINE:COLUMN: what, or line LINE, column COLUMN: what.
+// - Errors begin with the chain of calls, from the outermost one: FILE:LINE in NAME > FILE:LINE in NAME:
+// what.
+//   Typed text has line LINE instead of FILE:LINE; outside of functions "in NAME" is left out. A syntax error
+//   reads FILE:LINE:COLUMN: what, or line LINE, column COLUMN: what.
 //   "cancelled" has no prefix.
 #pragma once
 

@@ -101,7 +101,7 @@ void CReader::SkipComment() {
     }
     const std::size_t end = m_text.find(L"|;", m_next + 2);
     if (end == std::wstring_view::npos) {
-        Fail(start, L"a comment is not closed");
+        FailUnfinished(start, L"a comment is not closed");
     }
     while (m_next != end + 2) {
         Take();
@@ -126,7 +126,10 @@ CValue CReader::ReadExpression(int depth) {
         case L'\'': {
             Take();
             SkipBlanks();
-            if (AtEnd() || Peek() == L')') {
+            if (AtEnd()) {
+                FailUnfinished(start, L"nothing follows the quote");
+            }
+            if (Peek() == L')') {
                 Fail(start, L"nothing follows the quote");
             }
             const CValue quoted[] = {CValue::Symbol(L"QUOTE"), ReadExpression(depth + 1)};
@@ -142,7 +145,7 @@ CValue CReader::ReadList(Position start, int depth) {
     for (;;) {
         SkipBlanks();
         if (AtEnd()) {
-            Fail(start, L"a parenthesis is not closed");
+            FailUnfinished(start, L"a parenthesis is not closed");
         }
         if (Peek() == L')') {
             Take();
@@ -166,12 +169,18 @@ CValue CReader::ReadList(Position start, int depth) {
 // The part of a dotted pair between the dot and the closing parenthesis.
 CValue CReader::ReadTail(Position dot, int depth) {
     SkipBlanks();
-    if (AtEnd() || Peek() == L')') {
+    if (AtEnd()) {
+        FailUnfinished(dot, L"nothing follows the dot");
+    }
+    if (Peek() == L')') {
         Fail(dot, L"nothing follows the dot");
     }
     CValue tail = ReadExpression(depth + 1);
     SkipBlanks();
-    if (AtEnd() || Peek() != L')') {
+    if (AtEnd()) {
+        FailUnfinished(dot, L"a parenthesis is not closed");
+    }
+    if (Peek() != L')') {
         Fail(dot, L"more than one expression follows the dot");
     }
     Take();
@@ -183,7 +192,7 @@ CValue CReader::ReadString(Position start) {
     std::wstring text;
     for (;;) {
         if (AtEnd()) {
-            Fail(start, L"a text is not closed");
+            FailUnfinished(start, L"a text is not closed");
         }
         const Position position = m_position;
         wchar_t c = Take();
@@ -193,7 +202,7 @@ CValue CReader::ReadString(Position start) {
         }
         if (c == L'\\') {
             if (AtEnd()) {
-                Fail(start, L"a text is not closed");
+                FailUnfinished(start, L"a text is not closed");
             }
             c = Take();
             if (c == L'n') {
@@ -248,6 +257,10 @@ CValue CReader::ReadWord(Position start) {
 
 void CReader::Fail(Position position, const std::wstring& what) {
     throw CReadError(position.line, position.column, what);
+}
+
+void CReader::FailUnfinished(Position position, const std::wstring& what) {
+    throw CReadError(position.line, position.column, what, true);
 }
 
 bool IsSymbolName(std::wstring_view name) {

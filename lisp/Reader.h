@@ -50,6 +50,8 @@ private:
     std::wstring_view TakeWord();
     CValue ReadWord(Position start);
     [[noreturn]] static void Fail(Position position, const std::wstring& what);
+    // The same where the text ends within the expression.
+    [[noreturn]] static void FailUnfinished(Position position, const std::wstring& what);
 
     std::wstring_view m_text;
     std::size_t m_next = 0;

@@ -19,6 +19,15 @@ Source ReadText(std::wstring_view text) {
     return source;
 }
 
+bool IsUnfinished(std::wstring_view text) {
+    try {
+        ReadText(text);
+        return false;
+    } catch (const CReadError& error) {
+        return error.IsUnfinished();
+    }
+}
+
 Source ReadSourceFile(const std::wstring& path, const std::wstring& name) {
     const std::filesystem::path file(path);
     std::error_code ignored;

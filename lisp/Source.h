@@ -17,6 +17,9 @@ struct Source {
 // Throws CReadError.
 Source ReadText(std::wstring_view text);
 
+// Whether the text ends within an expression, such as a list without its closing parenthesis.
+bool IsUnfinished(std::wstring_view text);
+
 // The file at `path`; errors call it `name`. Throws CLispError when it cannot be opened or read.
 Source ReadSourceFile(const std::wstring& path, const std::wstring& name);
 

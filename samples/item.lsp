@@ -89,17 +89,68 @@
          base
          (item-stop (strcat "The working file " base "_TMP.TXT cannot be written."))))))
 
-; The values that the dialog left in the working file: `#1 = 900` for distances and reals, `$7 = 1` for whole
-; numbers. Other lines hold none.
-(defun item-read-values (path / sign number values)
+; What the dialog left in the working file: `#1 = 900` for distances and reals, `$7 = 1` for whole numbers, as lists
+; such as (1 "#" "900"). Other lines hold none.
+(defun item-read-texts (path / sign number texts)
   (foreach line (item-read-lines path)
     (setq sign (substr line 1 1))
     (if (and (or (= sign "#") (= sign "$")) (= (item-last-quote line) 0))
-        (progn
-          (setq number (item-number line)
-                line   (substr line (+ 5 (strlen (itoa number))))
-                values (cons (cons number (if (= sign "#") (atof line) (atoi line))) values)))))
-  (reverse values))
+        (setq number (item-number line)
+              texts  (cons (list number sign (substr line (+ 5 (strlen (itoa number))))) texts))))
+  (reverse texts))
+
+; The values of such texts.
+(defun item-values (texts)
+  (mapcar '(lambda (text)
+             (cons (car text)
+                   (if (= (cadr text) "#") (atof (caddr text)) (atoi (caddr text)))))
+          texts))
+
+; --- words
+
+; Where PART begins in a text, from 1; 0 when it is not there.
+(defun item-find (text part / at)
+  (setq at 1)
+  (while (and (<= at (strlen text)) (/= (substr text at (strlen part)) part))
+    (setq at (1+ at)))
+  (if (> at (strlen text)) 0 at))
+
+; A text for the user: number NUMBER of TavrinRes.dll, or OTHERWISE where that has none or the host does not offer
+; its texts to LISP. PARTS replace %1, %2 and so on.
+(defun item-words (number otherwise parts / text sign at count)
+  (if res-text
+      (setq text (res-text number)))
+  (if (not text)
+      (setq text otherwise))
+  (setq count 0)
+  (foreach part parts
+    (setq count (1+ count)
+          sign  (strcat "%" (itoa count))
+          at    (item-find text sign))
+    (if (> at 0)
+        (setq text (strcat (substr text 1 (1- at)) part (substr text (+ at (strlen sign)))))))
+  text)
+
+; The label of a parameter line as the dialog shows it; nil when its text is not known.
+(defun item-label-in (line / label open close words)
+  (setq label (substr line (1+ (item-find line "\"")))
+        label (substr label 1 (1- (item-last-quote label)))
+        open  (item-find label "<<")
+        close (item-find label ">>"))
+  (if (and (> open 0) (> close open))
+      (setq words (if res-text (res-text (atoi (substr label (+ open 2)))))
+            label (if words (strcat (substr label 1 (1- open)) words (substr label (+ close 2))))))
+  (if (and label (> (strlen label) 1) (= (substr label (strlen label)) "%"))
+      (substr label 1 (1- (strlen label)))
+      label))
+
+(setq item-labels nil)   ; of the item in the dialog, by the parameters' numbers
+
+; What a message calls a parameter: its label.
+(defun item-label (number / label)
+  (if (setq label (cdr (assoc number item-labels)))
+      label
+      (item-words 5106 "Parameter %1" (list (itoa number)))))
 
 ; --- dialogs
 
@@ -112,16 +163,49 @@
   (if answer
       (substr (cadr answer) (+ 2 (strlen name)))))
 
-; Lets the user set the parameters, beginning with PRESETS (see item-begin). Rows marked with % are
-; read-only. The values after OK, which the template then remembers.
-(defun item-edit (name presets / base)
-  (if (setq base (item-begin name presets))
-      (if (tavrinwnd base 1.0 1)
-          (item-read-values (strcat base "_TMP.TXT")))))
+; Lets the user set the parameters, beginning with PRESETS (see item-begin). Rows marked with % are read-only.
+; CHECK is a function of the values that says with item-demand what is wrong, and gives nil then: the dialog comes
+; back with what was typed, and the template keeps the last values that were right. nil: everything is taken. The
+; values after OK, which the template then remembers.
+(defun item-edit (name presets check / base good texts values again item-labels)
+  (setq again T)
+  (while again
+    (setq again  nil
+          values nil)
+    (if (and (setq base (item-begin name presets))
+             (setq good (item-read-lines (strcat base ".TXT")))
+             (setq item-labels (item-labels-in good))
+             (tavrinwnd base 1.0 1))
+        (setq texts  (item-read-texts (strcat base "_TMP.TXT"))
+              values (item-values texts)))
+    (if (and values check (not (apply check (list values))))
+        (setq values  nil
+              presets (mapcar '(lambda (text) (cons (car text) (caddr text))) texts)
+              again   (item-restore base good))))
+  values)
 
-; Asks where the item belongs: its point, with two coordinates. nil when the user gives up.
-(defun item-place (name / point)
-  (if (setq point (getpoint (strcat "Insertion point of the " name ": ")))
+; The labels of a template's parameters, by their numbers.
+(defun item-labels-in (lines / labels)
+  (foreach line lines
+    (if (item-parameter-p line)
+        (setq labels (cons (cons (item-number line) (item-label-in line)) labels))))
+  labels)
+
+; Gives a template its lines back.
+(defun item-restore (base lines)
+  (if (item-write-lines (strcat base ".TXT") lines)
+      T
+      (item-stop (strcat "The template " base ".TXT cannot be written."))))
+
+; Asks where the item belongs: its point, with two coordinates. nil when the user gives up. DRAW, a function of a
+; point, draws the item; where the host can show that, the item follows the mouse. It may be nil.
+(defun item-place (name draw / point)
+  (if draw-placement
+      (draw-placement draw))
+  (setq point (getpoint (strcat "Insertion point of the " name ": ")))
+  (if draw-placement
+      (draw-placement nil))
+  (if point
       (list (float (car point)) (float (cadr point)))))
 
 ; Shows the whole drawing, where the host has a function for that. T.
@@ -146,11 +230,11 @@
   (while (and (not text) (<= number count))
     (setq value (item-of values number)
           text  (cond ((not value)
-                       (strcat "The working file lacks the value of parameter " (itoa number) "."))
+                       (item-words 5101 "The working file lacks a value: %1." (list (item-label number))))
                       ((< value 0)
-                       (strcat "Parameter " (itoa number) " must not be negative."))
+                       (item-words 5102 "%1 must not be negative." (list (item-label number))))
                       ((> value 1000000)
-                       (strcat "Parameter " (itoa number) " must not be more than 1000000.")))
+                       (item-words 5103 "%1 must not be more than 1000000." (list (item-label number)))))
           number (1+ number)))
   (item-demand (not text) text))
 
@@ -160,12 +244,13 @@
     (if (and (not bad) (<= (item-of values number) 0))
         (setq bad number)))
   (item-demand (not bad)
-               (if bad (strcat "Parameter " (itoa bad) " must be more than 0."))))
+               (if bad (item-words 5104 "%1 must be more than 0." (list (item-label bad))))))
 
 ; Demands that a parameter lies between two numbers, which belong to it.
 (defun item-between (values number low high)
   (item-demand (and (>= (item-of values number) low) (<= (item-of values number) high))
-               (strcat "Parameter " (itoa number) " must lie between " (itoa low) " and " (itoa high) ".")))
+               (item-words 5105 "%1 must lie between %2 and %3."
+                           (list (item-label number) (itoa low) (itoa high)))))
 
 ; Degrees, as users type angles, in radians, as the functions take them.
 (defun item-radians (degrees)

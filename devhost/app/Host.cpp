@@ -81,6 +81,9 @@ lisp::LispResult CHost::Invoke(const std::wstring& name, short code,
     for (const lisp::CValue& argument : arguments) {
         AddArgument(request.arguments, argument, name);
     }
+    if (m_onCall) {
+        m_onCall(name, arguments);
+    }
     m_output.Flush();
     const int answer = Run(*m_entry, request);
     if (request.failure) {

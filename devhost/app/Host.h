@@ -8,8 +8,10 @@
 #include <windows.h>
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "devhost/Libraries.h"
@@ -52,6 +54,10 @@ public:
     std::wstring Send(EntryPoint& entry, unsigned request);
     // The entry point for functions that are defined from now on.
     void SetEntryPoint(EntryPoint* entry) { m_entry = entry; }
+    // Called before a function of the plug-in, with its name in capitals and its arguments.
+    using CallListener =
+        std::function<void(const std::wstring& function, std::span<const lisp::CValue> arguments)>;
+    void SetCallListener(CallListener onCall) { m_onCall = std::move(onCall); }
     // Removes the functions that are still defined and returns their names, separated by blanks.
     std::wstring ForgetFunctions();
 
@@ -97,6 +103,7 @@ private:
     lisp::CEvaluator& m_evaluator;
     DWORD m_thread;
     std::map<std::wstring, short> m_codes;  // of the plug-in's functions, by name
+    CallListener m_onCall;
     EntryPoint* m_entry = nullptr;
     Request* m_request = nullptr;
 };

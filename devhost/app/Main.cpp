@@ -16,7 +16,8 @@
 #include "devhost/app/ExitStatus.h"
 #include "devhost/app/HeapLibrary.h"
 #include "devhost/app/Host.h"
-#include "devhost/app/Items.h"
+#include "devhost/app/HostFunctions.h"
+#include "devhost/app/ItemMenu.h"
 #include "devhost/app/LispConsole.h"
 #include "devhost/app/PlugIn.h"
 #include "devhost/app/Session.h"
@@ -25,7 +26,6 @@
 #include "devhost/drawlisp/DrawFunctions.h"
 #include "devhost/options/Options.h"
 #include "handles/ComApartment.h"
-#include "lisp/Arguments.h"
 #include "lisp/OneLine.h"
 
 namespace devhost {
@@ -41,25 +41,13 @@ std::wstring ProgramFolder() {
     return path.substr(0, path.find_last_of(L'\\'));
 }
 
+// The folders of items that the command line names; without any, the samples beside the program.
 std::vector<std::wstring> ItemFolders(const Options& options) {
-    if (options.itemFolders.empty() && IsFolder(ProgramFolder() + L"\\samples")) {
-        return {ProgramFolder() + L"\\samples"};
+    const std::wstring samples = ProgramFolder() + L"\\samples";
+    if (options.itemFolders.empty() && IsFolder(samples)) {
+        return {samples};
     }
     return options.itemFolders;
-}
-
-// Finds the items of all folders and adds them to the search path: first each item's folder, then their
-// parent.
-std::vector<Item> TakeItems(const std::vector<std::wstring>& folders, CSearchPath& searchPath) {
-    std::vector<Item> items;
-    for (const std::wstring& folder : folders) {
-        for (const Item& item : FindItems(folder)) {
-            items.push_back(item);
-            searchPath.Add(item.folder);
-        }
-        searchPath.Add(FullPath(folder));
-    }
-    return items;
 }
 
 CUserError NotWritten(const std::wstring& file) {
@@ -77,13 +65,12 @@ std::wstring DrawingPath(const std::wstring& file) {
     return full;
 }
 
-void WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
+// False when the file cannot be written.
+bool WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
     std::ofstream stream(std::filesystem::path(path), std::ios::binary);
     stream << ToSvg(drawing);
     stream.close();
-    if (!stream) {
-        throw NotWritten(path);
-    }
+    return bool(stream);
 }
 
 // True when the plug-in was unloaded without errors and has freed all blocks. Then a run of scripts prints no
@@ -122,28 +109,12 @@ private:
     CTextOutput& m_output;
 };
 
-void DefineFit(lisp::CEvaluator& evaluator, CMainWindow& window) {
-    const auto fit = [&window](const lisp::CArguments&) -> lisp::LispResult {
-        window.FitDrawing();
-        return lisp::CValue::True();
-    };
-    evaluator.Define(L"DRAW-FIT", lisp::TakeArguments(evaluator, L"DRAW-FIT", 0, 0, fit));
-}
-
 // Keeps the unit formats of the window and of the system variables equal.
 void ShareFormat(CSystemVariables& variables, CMainWindow& window) {
     const LinearFormat format = variables.Linear();
     window.SetFormat(format.lunits, format.luprec);
     variables.SetListener([&](LinearFormat changed) { window.SetFormat(changed.lunits, changed.luprec); });
     window.SetFormatHandler([&](int lunits, int luprec) { variables.SetLinear({lunits, luprec}); });
-}
-
-void OfferItems(const std::vector<Item>& items, CSession& session, CMainWindow& window) {
-    std::vector<std::wstring> names;
-    for (const Item& item : items) {
-        names.push_back(item.name);
-    }
-    window.SetItems(names, [&session, names](std::size_t index) { session.RunItem(names[index]); });
 }
 
 void Reload(CPlugIn& plugIn, CTextOutput& output, const std::function<void()>& changeTexts) {
@@ -214,6 +185,31 @@ void OpenDocumentation(CTextOutput& output) {
     }
 }
 
+// Says why a dialog will have no rows before it is opened.
+void WarnBeforeDialog(const std::wstring& function, std::span<const lisp::CValue> arguments,
+                      const CSearchPath& searchPath, CItemCheck& check) {
+    if (function != L"TAVRINWND" || arguments.empty() || arguments[0].Type() != lisp::VT_STRING) {
+        return;
+    }
+    if (const auto path = searchPath.Find(arguments[0].AsString() + L"_TMP.TXT")) {
+        check.CheckBeforeDialog(*path);
+    }
+}
+
+// The commands of the menus Drawing, Plug-in and Help.
+void SetCommands(const CDrawing& drawing, CChosenTexts& texts, CPlugIn& plugIn, CTextOutput& output,
+                 CMainWindow& window) {
+    window.SetReloadHandler([&] { Reload(plugIn, output, [&] { texts.Reload(); }); });
+    window.SetHelpHandler([&] { OpenDocumentation(output); });
+    window.SetSaveHandler([&](const std::wstring& path) {
+        if (WriteDrawing(drawing, path)) {
+            output.Line(L"; the drawing has been saved as " + path);
+        } else {
+            output.Error(L"the drawing cannot be written to '" + path + L"': choose another file");
+        }
+    });
+}
+
 bool IsScriptsAlone(const std::vector<PreparedTask>& tasks) {
     for (const PreparedTask& task : tasks) {
         if (!task.isScript) {
@@ -230,7 +226,8 @@ int Run(const Options& options, CTextOutput& output) {
     }
     CSearchPath searchPath(options.searchFolders);
     const std::vector<std::wstring> itemFolders = ItemFolders(options);
-    const std::vector<Item> items = TakeItems(itemFolders, searchPath);
+    CItemCatalog catalog(itemFolders);
+    AddToSearchPath(catalog, searchPath);
     const std::wstring drawingPath = options.drawingFile.empty() ? L"" : DrawingPath(options.drawingFile);
     const std::wstring folder = ProgramFolder();
 
@@ -241,29 +238,32 @@ int Run(const Options& options, CTextOutput& output) {
     CLispConsole console(window, output, searchPath, variables);
     lisp::CEvaluator evaluator(console, kLispStack);
     DefineDrawFunctions(evaluator, drawing);
-    DefineFit(evaluator, window);
+    DefineHostFunctions(evaluator, window);
     CHost host(window, output, searchPath, variables, evaluator);
     CChosenTexts texts;
     ChooseTexts(options, itemFolders, texts, output);
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
-    CSession session(evaluator, output, window);
+    CSession session(evaluator, drawing, output, window);
 
     auto listening = std::make_optional<CListening>(output, window);
     ShareFormat(variables, window);
-    OfferItems(items, session, window);
+    CItemMenu items(catalog, searchPath, session, output, window);
+    host.SetCallListener([&](const std::wstring& function, std::span<const lisp::CValue> arguments) {
+        WarnBeforeDialog(function, arguments, searchPath, items.Check());
+    });
     window.SetPasteHandler(lisp::OnOneLine);
     OfferLanguages(itemFolders, texts, plugIn, output, window);
-    window.SetReloadHandler([&] { Reload(plugIn, output, [&] { texts.Reload(); }); });
-    window.SetHelpHandler([&] { OpenDocumentation(output); });
+    SetCommands(drawing, texts, plugIn, output, window);
     window.Show();
     const int status = session.RunTasks(tasks);
     if (tasks.empty() || options.stay) {
         window.SetCommandHandler([&](const std::wstring& text) { session.RunTyped(text); });
+        window.SetEscapeHandler([&] { session.DropUnfinished(); });
         window.Run();
     }
     listening.reset();
-    if (!drawingPath.empty()) {
-        WriteDrawing(drawing, drawingPath);
+    if (!drawingPath.empty() && !WriteDrawing(drawing, drawingPath)) {
+        throw NotWritten(drawingPath);
     }
     const bool inOrder = Unload(plugIn, heap, output, IsScriptsAlone(tasks));
     return status == kExitDone && !inOrder ? kExitFailed : status;

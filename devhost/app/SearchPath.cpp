@@ -4,6 +4,8 @@
 
 #include <shlwapi.h>
 
+#include <algorithm>
+
 #include "devhost/UserError.h"
 
 namespace devhost {
@@ -38,6 +40,12 @@ CSearchPath::CSearchPath(const std::vector<std::wstring>& folders) {
                              L"' does not exist: give --search an existing folder");
         }
         m_folders.push_back(full);
+    }
+}
+
+void CSearchPath::Add(const std::wstring& folder) {
+    if (std::find(m_folders.begin(), m_folders.end(), folder) == m_folders.end()) {
+        m_folders.push_back(folder);
     }
 }
 

@@ -13,8 +13,8 @@ public:
     // folder. Throws CUserError for the first one that is not a folder.
     explicit CSearchPath(const std::vector<std::wstring>& folders);
 
-    // Adds a folder, as a full path, at the end.
-    void Add(const std::wstring& folder) { m_folders.push_back(folder); }
+    // Adds a folder, as a full path, at the end, unless it is there already.
+    void Add(const std::wstring& folder);
 
     // The full path of a file; nothing when it does not exist. An absolute name (with a drive, a share or a
     // leading backslash) is not searched for. Folders and devices do not count as files.

@@ -42,6 +42,7 @@ PreparedTask Prepare(const Task& task) {
 
 int CSession::RunTasks(const std::vector<PreparedTask>& tasks) {
     for (const PreparedTask& task : tasks) {
+        m_drawing.BeginCommand();
         if (const auto end = Evaluate(task.source, !task.isScript)) {
             return *end;
         }
@@ -49,8 +50,16 @@ int CSession::RunTasks(const std::vector<PreparedTask>& tasks) {
     return kExitDone;
 }
 
-void CSession::RunTyped(const std::wstring& text) {
-    m_output.Line(text);
+void CSession::RunTyped(const std::wstring& line) {
+    m_output.Line(line);
+    const std::wstring text = m_unfinished + line;
+    if (lisp::IsUnfinished(text)) {
+        m_unfinished = text + L'\n';
+        m_window.SetUnfinished(true);
+        return;
+    }
+    DropUnfinished();
+    m_drawing.BeginCommand();
     try {
         Evaluate(ReadExpressions(text), true);
     } catch (const lisp::CLispError& error) {
@@ -58,8 +67,15 @@ void CSession::RunTyped(const std::wstring& text) {
     }
 }
 
+void CSession::DropUnfinished() {
+    m_unfinished.clear();
+    m_window.SetUnfinished(false);
+}
+
 void CSession::RunItem(const std::wstring& name) {
+    DropUnfinished();
     m_output.Line(L'(' + name + L')');
+    m_drawing.BeginCommand();
     if (!Evaluate(lisp::ReadText(L"(load \"" + name + L".lsp\")"), false)) {
         Evaluate(lisp::ReadText(L'(' + name + L')'), true);
     }
@@ -67,6 +83,7 @@ void CSession::RunItem(const std::wstring& name) {
 
 std::optional<int> CSession::Evaluate(const lisp::Source& source, bool printing) {
     const CBusyScope busy(m_window);
+    m_drawing.ClearPlacement();
     try {
         if (printing) {
             EvaluateAndPrint(source);
@@ -86,6 +103,7 @@ std::optional<int> CSession::Evaluate(const lisp::Source& source, bool printing)
             m_output.Error(error.Text());
         }
     }
+    m_drawing.RevertCommand();
     return kExitFailed;
 }
 

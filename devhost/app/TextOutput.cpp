@@ -21,11 +21,21 @@ bool IsConsole(HANDLE handle) {
     return GetConsoleMode(handle, &mode) != FALSE;
 }
 
-// Whether the console was created for this process alone. Under Wine in a Linux terminal there is one as
-// well, with a hidden window; its output appears in the terminal.
+bool IsWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+// Whether the console was created for this process alone. Its window is hidden where a terminal program shows
+// the output; Wine in a Linux terminal hides it as well, but there the program was started from a shell.
 bool HasConsoleOfItsOwn() {
     DWORD processes[2];
-    return GetConsoleProcessList(processes, 2) == 1 && IsWindowVisible(GetConsoleWindow());
+    return GetConsoleProcessList(processes, 2) == 1 && (IsWindowVisible(GetConsoleWindow()) || !IsWine());
+}
+
+// Whether the process was started without a console and without a file or pipe for its errors.
+bool HasNoOutput() {
+    const HANDLE errors = GetStdHandle(STD_ERROR_HANDLE);
+    return errors == nullptr || errors == INVALID_HANDLE_VALUE || GetFileType(errors) == FILE_TYPE_UNKNOWN;
 }
 
 // Unbuffered, so that the output is complete when the process crashes.
@@ -57,6 +67,7 @@ CTextOutput::CTextOutput() {
         FreeConsole();
         m_useBoxes = true;
     }
+    m_useBoxes = m_useBoxes || HasNoOutput();
 }
 
 void CTextOutput::Text(std::wstring_view text) {

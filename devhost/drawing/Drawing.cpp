@@ -4,6 +4,7 @@
 #include <cmath>
 #include <initializer_list>
 #include <numbers>
+#include <utility>
 
 namespace devhost {
 
@@ -105,14 +106,42 @@ bool CDrawing::Add(Entity entity) {
     if (!std::visit(DrawableVisitor(), entity)) {
         return false;
     }
+    if (m_isPlacing) {
+        m_placement.push_back(std::move(entity));
+        return true;
+    }
     m_entities.push_back(std::move(entity));
+    m_history.NoteAdded();
     NotifyListener();
     return true;
 }
 
 void CDrawing::Clear() {
-    m_entities.clear();
+    if (m_isPlacing || m_entities.empty()) {
+        return;
+    }
+    m_history.NoteCleared(std::exchange(m_entities, {}));
     NotifyListener();
+}
+
+void CDrawing::RevertCommand() {
+    m_history.RevertCommand(m_entities);
+    NotifyListener();
+}
+
+void CDrawing::Undo() {
+    m_history.Undo(m_entities);
+    NotifyListener();
+}
+
+void CDrawing::Redo() {
+    m_history.Redo(m_entities);
+    NotifyListener();
+}
+
+void CDrawing::BeginPlacement() {
+    m_placement.clear();
+    m_isPlacing = true;
 }
 
 std::optional<Box> CDrawing::Extents() const {

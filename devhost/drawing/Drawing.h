@@ -1,63 +1,19 @@
 // A drawing: lines, polylines, circles, arcs and texts, in the order of their creation.
 //
-// Lengths and coordinates are in drawing units with y upwards, angles in radians, counter-clockwise from the
-// x axis. Owns the entities. A view listens to the changes.
+// Owns the entities, and undoes and redoes the commands that made them. A view listens to the changes.
+//
+// The placement is a second, temporary list of entities: an item as it will be drawn, about the origin. Views
+// show it at the mouse while a point is picked.
 #pragma once
 
 #include <functional>
 #include <optional>
-#include <string>
-#include <variant>
 #include <vector>
 
-#include "devhost/drawing/Point.h"
+#include "devhost/drawing/DrawingHistory.h"
+#include "devhost/drawing/Entity.h"
 
 namespace devhost {
-
-struct LineEntity {
-    Point from;
-    Point to;
-};
-
-struct PolylineEntity {
-    std::vector<Point> points;  // two at least
-    bool closed = false;        // a line connects the last point with the first
-};
-
-struct CircleEntity {
-    Point centre;
-    double radius = 0;  // above zero
-};
-
-// The part of a circle from angle `start` counter-clockwise to angle `end`; the whole circle when both are
-// the same direction.
-struct ArcEntity {
-    Point centre;
-    double radius = 0;  // above zero
-    double start = 0;
-    double end = 0;
-};
-
-// One line of text. `position` is the left end of its base line, `height` that of a capital letter.
-struct TextEntity {
-    Point position;
-    double height = 0;  // above zero
-    double angle = 0;   // of the base line
-    std::wstring text;
-};
-
-using Entity = std::variant<LineEntity, PolylineEntity, CircleEntity, ArcEntity, TextEntity>;
-
-// The angle that the arc spans: above zero, at most a full turn.
-double SweepOf(const ArcEntity& arc);
-// The point of a circle in the direction `angle`.
-Point PointOnCircle(Point centre, double radius, double angle);
-
-// The height of a capital letter as a fraction of the font size, for all views.
-inline constexpr double kCapitalFraction = 0.72;
-
-// Numbers with a larger absolute value are not drawn: arithmetic on them would lose the drawing's details.
-inline constexpr double kLargestNumber = 1e12;
 
 class CDrawing {
 public:
@@ -67,6 +23,22 @@ public:
     void Clear();
 
     const std::vector<Entity>& Entities() const { return m_entities; }
+
+    // Starts a command: what Undo takes back at once. RevertCommand takes back what the command has changed
+    // so far, for good.
+    void BeginCommand() { m_history.BeginCommand(); }
+    void RevertCommand();
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+    void Undo();
+    void Redo();
+
+    // From BeginPlacement to EndPlacement, entities are added to the placement, which is empty at first, and
+    // Clear does nothing.
+    void BeginPlacement();
+    void EndPlacement() { m_isPlacing = false; }
+    void ClearPlacement() { m_placement.clear(); }
+    const std::vector<Entity>& Placement() const { return m_placement; }
 
     // The bounding box; nothing for an empty drawing. The length of a text is an upper estimate, since the
     // font is not known here.
@@ -79,6 +51,9 @@ private:
     void NotifyListener() const;
 
     std::vector<Entity> m_entities;
+    std::vector<Entity> m_placement;
+    CDrawingHistory m_history;
+    bool m_isPlacing = false;
     std::function<void()> m_onChanged;
 };
 

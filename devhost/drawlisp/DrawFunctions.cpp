@@ -2,6 +2,7 @@
 
 #include "devhost/Libraries.h"
 #include "lisp/Arguments.h"
+#include "lisp/Evaluator.h"
 #include "lisp/Printer.h"
 
 namespace devhost {
@@ -55,12 +56,37 @@ TextEntity Text(const lisp::CArguments& arguments) {
     return {PointOf(arguments, 0), Length(arguments, 1), arguments.Number(2), arguments.Text(3)};
 }
 
+// What is drawn during its lifetime goes into the placement.
+class CPlacementScope {
+public:
+    explicit CPlacementScope(CDrawing& drawing) : m_drawing(drawing) { drawing.BeginPlacement(); }
+    ~CPlacementScope() { m_drawing.EndPlacement(); }
+    CPlacementScope(const CPlacementScope&) = delete;
+    CPlacementScope& operator=(const CPlacementScope&) = delete;
+
+private:
+    CDrawing& m_drawing;
+};
+
+// (draw-placement FUNCTION): what FUNCTION draws at the point (0 0) becomes the placement; nil ends it.
+lisp::LispResult Place(CDrawing& drawing, const lisp::CArguments& arguments) {
+    if (arguments[0].IsNil()) {
+        drawing.ClearPlacement();
+        return lisp::CValue();
+    }
+    const lisp::CValue coordinates[] = {lisp::CValue::Real(0), lisp::CValue::Real(0)};
+    const lisp::CValue origin = lisp::CValue::List(coordinates);
+    const CPlacementScope scope(drawing);
+    arguments.Evaluator().Apply(arguments[0], {&origin, 1});
+    return lisp::CValue::True();
+}
+
 // Defines a function that adds the entity that `make` creates from its arguments.
 template <typename TMake>
 void DefineEntity(lisp::CEvaluator& evaluator, CDrawing& drawing, const wchar_t* name, int least, int most,
                   TMake make) {
     const auto run = [&drawing, make](const lisp::CArguments& arguments) -> lisp::LispResult {
-        if (drawing.Entities().size() >= kMaxEntities) {
+        if (drawing.Entities().size() + drawing.Placement().size() >= kMaxEntities) {
             arguments.Fail(L"the drawing holds " + std::to_wstring(kMaxEntities) +
                            L" entities already: does a loop draw without end?");
         }
@@ -85,6 +111,8 @@ void DefineDrawFunctions(lisp::CEvaluator& evaluator, CDrawing& drawing) {
         return lisp::CValue::True();
     };
     evaluator.Define(L"DRAW-CLEAR", lisp::TakeArguments(evaluator, L"DRAW-CLEAR", 0, 0, clear));
+    const auto place = [&drawing](const lisp::CArguments& arguments) { return Place(drawing, arguments); };
+    evaluator.Define(L"DRAW-PLACEMENT", lisp::TakeArguments(evaluator, L"DRAW-PLACEMENT", 1, 1, place));
 }
 
 }  // namespace devhost

@@ -82,7 +82,7 @@ const wchar_t* HelpText() {
   -h, --help      print this help
 
 Scripts and expressions run in the order given. With none of them, or with --stay, DevHost stays open; its prompt
-accepts LISP calls such as (tavrinwnd "door" 1.0 1).
+accepts LISP calls such as (door), the routine of an item.
 
 Values are printed in LISP notation, or "; no result". The first failure ends the run: a LISP error, an error that
 the plug-in reports, or a call that cannot be made. After unloading the plug-in, DevHost reports the memory blocks

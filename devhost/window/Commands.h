@@ -15,9 +15,14 @@ enum ECommand {
     IDM_EXIT,
     IDM_OPEN_UNITS,
     IDM_OPEN_PRECISION,
+    IDM_UNDO,
+    IDM_REDO,
+    IDM_SAVE,
+    IDM_RESCAN,
     IDM_UNITS = 300,      // plus a value of LUNITS
     IDM_PRECISION = 320,  // plus a value of LUPREC
-    IDM_LANGUAGE = 400,   // plus the language's index
+    IDM_RECENT = 400,     // plus an index in the list of last items
+    IDM_LANGUAGE = 500,   // plus the language's index
     IDM_ITEM = 1000,      // plus the item's index
 };
 

@@ -45,8 +45,14 @@ public:
     void SetSnap(bool snap);
     bool HasSnap() const { return m_hasSnap; }
 
+    // Length and direction as the text beside the crosshair shows them; without it there is no text. The
+    // angle is in radians.
+    using MeasureText = std::function<std::wstring(double length, double angle)>;
+    void SetMeasureText(MeasureText text) { m_measureText = std::move(text); }
+
     // Until EndPick, a click of the left button picks a point, which is marked by a cross and passed to
-    // `onPicked`; a rubber band leads from `base` to the mouse.
+    // `onPicked`; a rubber band leads from `base` to the mouse, where its length and direction are shown. The
+    // drawing's placement follows the mouse.
     void BeginPick(std::optional<Point> base, std::function<void(Point)> onPicked);
     void EndPick();
 
@@ -71,6 +77,8 @@ private:
     void PaintScene(HDC dc, const RECT& client);
     void PaintRubberLine(HDC dc, const RECT& client) const;
     void PaintCrosshair(HDC dc) const;
+    void PaintPlacement(HDC dc, const RECT& client) const;
+    void PaintMeasure(HDC dc, const RECT& client) const;
     void PaintSnapMark(HDC dc) const;
     void PaintCrosses(HDC dc) const;
     void PaintFocus(HDC dc, const RECT& client) const;
@@ -84,6 +92,7 @@ private:
 
     std::function<void(Point)> m_onMove;
     std::function<void(Point)> m_onPicked;  // empty: not picking
+    MeasureText m_measureText;
     std::optional<Point> m_base;
     std::optional<Point> m_snapped;
     std::vector<Point> m_crosses;

@@ -16,6 +16,7 @@ namespace {
 constexpr int kCrossArm = 5;
 constexpr int kCrosshairArm = 18;
 constexpr int kSnapArm = 6;
+constexpr int kMeasureGap = 12;
 
 constexpr COLORREF kCross = RGB(0, 60, 160);  // and the frame of the focus
 constexpr COLORREF kCrosshair = RGB(40, 40, 40);
@@ -42,10 +43,12 @@ void DrawCross(HDC dc, POINT middle, int arm) {
 void CDrawingView::Paint() {
     const handles::CBufferedPaint paint(m_window);
     PaintScene(paint.Dc(), paint.Client());
+    PaintPlacement(paint.Dc(), paint.Client());
     PaintRubberLine(paint.Dc(), paint.Client());
     PaintCrosshair(paint.Dc());
     PaintSnapMark(paint.Dc());
     PaintCrosses(paint.Dc());
+    PaintMeasure(paint.Dc(), paint.Client());
     PaintFocus(paint.Dc(), paint.Client());
 }
 
@@ -74,6 +77,39 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
     const handles::CSelectedObject selection(dc, pen);
     SetBkMode(dc, TRANSPARENT);
     DrawLine(dc, Rounded(line->from), Rounded(line->to));
+}
+
+void CDrawingView::PaintPlacement(HDC dc, const RECT& client) const {
+    if (!m_onPicked || !m_isMouseInside || m_drawing.Placement().empty()) {
+        return;
+    }
+    const Point origin = m_view.ToPixel({0, 0});
+    const Point mouse = m_view.ToPixel(MousePoint());
+    CViewTransform moved = m_view;
+    moved.PanBy(mouse.x - origin.x, mouse.y - origin.y);
+    devhost::PaintPlacement(dc, client, m_drawing.Placement(), moved);
+}
+
+// Below the mouse to the right, or where there is room.
+void CDrawingView::PaintMeasure(HDC dc, const RECT& client) const {
+    if (!m_base || !m_isMouseInside || !m_measureText) {
+        return;
+    }
+    const Point to = MousePoint();
+    const double dx = to.x - m_base->x;
+    const double dy = to.y - m_base->y;
+    const std::wstring text = L' ' + m_measureText(std::hypot(dx, dy), std::atan2(dy, dx)) + L' ';
+    const handles::CSelectedObject selection(dc, GetStockObject(DEFAULT_GUI_FONT));
+    SIZE size;
+    GetTextExtentPoint32W(dc, text.c_str(), int(text.size()), &size);
+    const int gap = m_scale(kMeasureGap);
+    const LONG left = m_mouse.x + gap + size.cx < client.right ? m_mouse.x + gap : m_mouse.x - gap - size.cx;
+    const LONG top = m_mouse.y + gap + size.cy < client.bottom ? m_mouse.y + gap : m_mouse.y - gap - size.cy;
+    SetBkMode(dc, OPAQUE);
+    SetBkColor(dc, GetSysColor(COLOR_INFOBK));
+    SetTextColor(dc, GetSysColor(COLOR_INFOTEXT));
+    SetTextAlign(dc, TA_LEFT | TA_TOP);
+    TextOutW(dc, left, top, text.c_str(), int(text.size()));
 }
 
 void CDrawingView::PaintCrosshair(HDC dc) const {

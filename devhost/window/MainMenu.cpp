@@ -14,6 +14,9 @@ ACCEL kKeys[] = {
     {FVIRTKEY, VK_F3, IDM_SNAP},
     {FVIRTKEY | FCONTROL, '0', IDM_FIT},
     {FVIRTKEY, VK_F1, IDM_HELP},
+    {FVIRTKEY | FCONTROL, 'Z', IDM_UNDO},
+    {FVIRTKEY | FCONTROL, 'Y', IDM_REDO},
+    {FVIRTKEY | FCONTROL, 'S', IDM_SAVE},
     {FVIRTKEY | FCONTROL, '1', IDM_ITEM},
     {FVIRTKEY | FCONTROL, '2', IDM_ITEM + 1},
     {FVIRTKEY | FCONTROL, '3', IDM_ITEM + 2},
@@ -37,7 +40,7 @@ wchar_t UpperCase(wchar_t letter) {
 
 void Clear(HMENU menu) {
     while (GetMenuItemCount(menu) > 0) {
-        RemoveMenu(menu, 0, MF_BYPOSITION);
+        DeleteMenu(menu, 0, MF_BYPOSITION);
     }
 }
 
@@ -72,6 +75,12 @@ CMainMenu::CMainMenu(HWND window)
       m_languages(CreatePopupMenu()),
       m_keys(CreateAcceleratorTableW(kKeys, int(std::size(kKeys)))) {
     AddPopup(m_menu, m_items, L"&Items");
+    const HMENU drawing = CreatePopupMenu();
+    AppendMenuW(drawing, MF_STRING, IDM_UNDO, L"&Undo\tCtrl+Z");
+    AppendMenuW(drawing, MF_STRING, IDM_REDO, L"&Redo\tCtrl+Y");
+    AppendMenuW(drawing, MF_SEPARATOR, 0, nullptr);
+    AppendMenuW(drawing, MF_STRING, IDM_SAVE, L"&Save drawing as SVG...\tCtrl+S");
+    AddPopup(m_menu, drawing, L"&Drawing");
     const HMENU plugIn = CreatePopupMenu();
     AppendMenuW(plugIn, MF_STRING, IDM_RELOAD, L"&Reload\tF5");
     AddPopup(m_menu, plugIn, L"&Plug-in");
@@ -105,8 +114,22 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
         AppendMenuW(m_items, MF_STRING | MF_GRAYED, 0, L"No items found");
     }
     AppendMenuW(m_items, MF_SEPARATOR, 0, nullptr);
+    const HMENU recent = CreatePopupMenu();
+    for (std::size_t i = 0; i < m_recent.size(); ++i) {
+        AppendMenuW(recent, MF_STRING, IDM_RECENT + i,
+                    (Shown(m_recent[i]) + (i == 0 ? L"\tEnter" : L"")).c_str());
+    }
+    AppendMenuW(m_items, MF_POPUP | (m_recent.empty() ? MF_GRAYED : 0), reinterpret_cast<UINT_PTR>(recent),
+                L"&Last items");
+    AppendMenuW(m_items, MF_STRING, IDM_RESCAN, L"&Rescan");
+    AppendMenuW(m_items, MF_SEPARATOR, 0, nullptr);
     AppendMenuW(m_items, MF_STRING, IDM_EXIT, L"E&xit\tAlt+F4");
-    m_itemCount = titles.size();
+    m_titles = titles;
+}
+
+void CMainMenu::SetRecent(const std::vector<std::wstring>& titles) {
+    m_recent = titles;
+    SetItems(std::vector<std::wstring>(m_titles));
 }
 
 void CMainMenu::SetLanguages(const std::vector<std::wstring>& titles) {
@@ -125,7 +148,7 @@ void CMainMenu::Update(const MenuState& state) const {
     const auto enable = [&](UINT command, bool enabled) {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
-    for (std::size_t i = 0; i < m_itemCount; ++i) {
+    for (std::size_t i = 0; i < m_titles.size(); ++i) {
         enable(UINT(IDM_ITEM + i), state.isIdle);
     }
     for (std::size_t i = 0; i < m_languageCount; ++i) {
@@ -134,12 +157,18 @@ void CMainMenu::Update(const MenuState& state) const {
     if (state.language) {
         CheckMenuRadioItem(m_languages, IDM_LANGUAGE, UINT(IDM_LANGUAGE + m_languageCount - 1),
                            UINT(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
+        for (std::size_t i = 0; i < m_recent.size(); ++i) {
+            enable(UINT(IDM_RECENT + i), state.isIdle);
+        }
+        enable(IDM_EXIT, state.isIdle);
+        enable(IDM_RESCAN, state.isIdle && state.canRescan);
+        enable(IDM_SAVE, state.isIdle && state.canSave && state.hasDrawing);
+        enable(IDM_UNDO, state.isIdle && state.canUndo && !state.isTyping);
+        enable(IDM_REDO, state.isIdle && state.canRedo && !state.isTyping);
+        enable(IDM_RELOAD, state.isIdle && state.canReload);
+        enable(IDM_CLEAR, state.isIdle && state.hasDrawing);
+        enable(IDM_ABOUT, state.isIdle);
+        CheckMenuItem(m_menu, IDM_SNAP, MF_BYCOMMAND | (state.hasSnap ? MF_CHECKED : MF_UNCHECKED));
     }
-    enable(IDM_EXIT, state.isIdle);
-    enable(IDM_RELOAD, state.isIdle && state.canReload);
-    enable(IDM_CLEAR, state.isIdle && state.hasDrawing);
-    enable(IDM_ABOUT, state.isIdle);
-    CheckMenuItem(m_menu, IDM_SNAP, MF_BYCOMMAND | (state.hasSnap ? MF_CHECKED : MF_UNCHECKED));
-}
 
 }  // namespace devhost

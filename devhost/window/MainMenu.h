@@ -14,6 +14,11 @@ namespace devhost {
 struct MenuState {
     bool isIdle = true;  // no call is running and no question is open
     bool canReload = false;
+    bool canRescan = false;
+    bool canSave = false;
+    bool canUndo = false;
+    bool canRedo = false;
+    bool isTyping = false;  // the prompt has a text, which the keys of Undo and Redo are for
     bool hasDrawing = false;
     bool hasSnap = false;
     std::optional<std::size_t> language;  // the index of the current one
@@ -26,6 +31,8 @@ public:
 
     // The entries of the menu Items. The first nine have the keys Ctrl+1 to Ctrl+9, the others mnemonics.
     void SetItems(const std::vector<std::wstring>& titles);
+    // The entries of the menu Items > Last items, the last one first.
+    void SetRecent(const std::vector<std::wstring>& titles);
 
     // The entries of the menu Language.
     void SetLanguages(const std::vector<std::wstring>& titles);
@@ -45,8 +52,9 @@ private:
     HMENU m_menu;
     HMENU m_items;
     HMENU m_languages;
-    std::size_t m_itemCount = 0;
     std::size_t m_languageCount = 0;
+    std::vector<std::wstring> m_recent;
+    std::vector<std::wstring> m_titles;
     std::unique_ptr<HACCEL, KeysDeleter> m_keys;
 };
 

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <commdlg.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -22,7 +23,13 @@ namespace {
 constexpr wchar_t kClassName[] = L"DevHostMain";
 constexpr wchar_t kTitle[] = L"DevHost";
 constexpr wchar_t kIdleHint[] = L"Wheel: zoom. Middle button: pan, twice: fit.";
+constexpr wchar_t kUnfinishedHint[] =
+    L"A parenthesis, text or comment is open. Go on, or drop it with Escape.";
 constexpr wchar_t kRunningHint[] = L"Running. Escape stops it.";
+
+constexpr UINT_PTR kTimer = 1;
+constexpr UINT kTimerInterval = 1000;  // milliseconds
+constexpr std::size_t kMostRecent = 5;
 
 // Pixels.
 constexpr int kWidth = 1100;
@@ -72,6 +79,7 @@ CMainWindow::CMainWindow(CDrawing& drawing) : m_shown(drawing), m_outputHeight(m
         throw;
     }
     ShowOwnPrompt();
+    SetTimer(m_window, kTimer, kTimerInterval, nullptr);
 }
 
 CMainWindow::~CMainWindow() {
@@ -91,9 +99,17 @@ void CMainWindow::SetCommandHandler(std::function<void(const std::wstring&)> onC
 }
 
 void CMainWindow::SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem) {
-    m_itemCount = titles.size();
+    m_titles = titles;
     m_onItem = std::move(onItem);
+    if (m_window == nullptr) {
+        return;
+    }
+    std::erase_if(m_recent, [&](const std::wstring& title) {
+        return std::find(titles.begin(), titles.end(), title) == titles.end();
+    });
     m_menu->SetItems(titles);
+    m_menu->SetRecent(m_recent);
+    ShowOwnPrompt();
 }
 
 void CMainWindow::SetLanguages(const std::vector<std::wstring>& titles,
@@ -178,6 +194,13 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DRAWITEM:
             m_status->DrawPart(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
             return TRUE;
+        case WM_TIMER:
+            OnTimer();
+            return 0;
+        case WM_ENTERMENULOOP:
+        case WM_EXITMENULOOP:
+            m_isInMenu = message == WM_ENTERMENULOOP;
+            return 0;
         case WM_INITMENU:
             UpdateMenu();
             return 0;
@@ -231,6 +254,14 @@ void CMainWindow::OnCommand(int command) {
         m_onReload();
     } else if (command == IDM_CLEAR) {
         ClearDrawing();
+    } else if (command == IDM_UNDO) {
+        m_shown.Undo();
+    } else if (command == IDM_REDO) {
+        m_shown.Redo();
+    } else if (command == IDM_SAVE && m_onSave) {
+        SaveDrawing();
+    } else if (command == IDM_RESCAN && m_onRescan) {
+        m_onRescan();
     } else if (command == IDM_ABOUT) {
         ShowAbout();
     } else if (command == IDM_EXIT) {
@@ -239,12 +270,33 @@ void CMainWindow::OnCommand(int command) {
         OnItem(std::size_t(command - IDM_ITEM));
     } else if (command >= IDM_LANGUAGE) {
         OnLanguage(std::size_t(command - IDM_LANGUAGE));
+    } else if (command >= IDM_RECENT) {
+        OnRecent(std::size_t(command - IDM_RECENT));
     }
 }
 
 void CMainWindow::OnItem(std::size_t index) {
-    if (index < m_itemCount && m_onItem) {
-        m_onItem(index);
+    if (index >= m_titles.size() || !m_onItem) {
+        return;
+    }
+    const std::wstring title = m_titles[index];
+    std::erase(m_recent, title);
+    m_recent.insert(m_recent.begin(), title);
+    m_recent.resize(std::min(m_recent.size(), kMostRecent));
+    m_menu->SetRecent(m_recent);
+    m_onItem(index);
+}
+
+void CMainWindow::OnRecent(std::size_t index) {
+    if (index < m_recent.size()) {
+        OnItem(std::size_t(std::find(m_titles.begin(), m_titles.end(), m_recent[index]) - m_titles.begin()));
+    }
+}
+
+// The handler may replace the menu's items, which must not happen while the menu is open.
+void CMainWindow::OnTimer() {
+    if (IsIdle() && !m_isInMenu && IsWindowEnabled(m_window) && m_onIdle) {
+        m_onIdle();
     }
 }
 
@@ -263,12 +315,29 @@ void CMainWindow::ChooseFormat(int lunits, int luprec) {
 
 void CMainWindow::ClearDrawing() {
     m_drawing->ClearMarks();
+    m_shown.BeginCommand();
     m_shown.Clear();
 }
 
 void CMainWindow::ShowHelp() {
     if (m_onHelp) {
         m_onHelp();
+    }
+}
+
+void CMainWindow::SaveDrawing() {
+    wchar_t path[32'768] = L"drawing.svg";
+    OPENFILENAMEW dialog = {};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = m_window;
+    dialog.lpstrFilter = L"SVG pictures (*.svg)\0*.svg\0All files\0*.*\0";
+    dialog.lpstrFile = path;
+    dialog.nMaxFile = DWORD(std::size(path));
+    dialog.lpstrTitle = L"Save drawing as SVG";
+    dialog.lpstrDefExt = L"svg";
+    dialog.Flags = OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    if (GetSaveFileNameW(&dialog)) {
+        m_onSave(path);
     }
 }
 
@@ -281,6 +350,11 @@ void CMainWindow::UpdateMenu() {
     MenuState state;
     state.isIdle = IsIdle();
     state.canReload = m_onReload != nullptr;
+    state.canRescan = m_onRescan != nullptr;
+    state.canSave = m_onSave != nullptr;
+    state.canUndo = m_shown.CanUndo();
+    state.canRedo = m_shown.CanRedo();
+    state.isTyping = GetWindowTextLengthW(m_prompt) > 0;
     state.hasDrawing = !m_shown.Entities().empty();
     state.hasSnap = m_drawing->HasSnap();
     state.language = m_language;
@@ -309,7 +383,24 @@ void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint
 }
 
 void CMainWindow::ShowOwnPrompt() {
-    ShowPrompt(L"LISP", m_busy == 0 ? kIdleHint : kRunningHint, L"for example (tavrinwnd \"door\" 1.0 1)");
+    if (m_isAsking) {
+        return;
+    }
+    const wchar_t* const label = m_isUnfinished ? L"LISP (" : L"LISP";
+    const wchar_t* const idleHint = m_isUnfinished ? kUnfinishedHint : kIdleHint;
+    const std::wstring call =
+        m_recent.empty() ? (m_titles.empty() ? L"+ 1 2" : m_titles.front()) : m_recent.front();
+    const std::wstring example = m_isUnfinished     ? L"the rest of the expression"
+                                 : m_recent.empty() ? L"for example (" + call + L")"
+                                                    : L"Enter runs (" + call + L") again";
+    ShowPrompt(label, m_busy == 0 ? idleHint : kRunningHint, example.c_str());
+}
+
+void CMainWindow::SetUnfinished(bool unfinished) {
+    if (m_isUnfinished != unfinished) {
+        m_isUnfinished = unfinished;
+        ShowOwnPrompt();
+    }
 }
 
 }  // namespace devhost

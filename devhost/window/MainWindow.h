@@ -59,14 +59,27 @@ public:
     void SetCommandHandler(std::function<void(const std::wstring&)> onCommand);
     // Joins the lines of a text that is pasted into the prompt. Without it only the first line is pasted.
     void SetPasteHandler(JoinLines join) { m_joinLines = std::move(join); }
-    // The entries of the menu Items, and the handler, which gets the index of the chosen one.
+    // The entries of the menu Items, and the handler, which gets the index of the chosen one. Enter in the
+    // empty prompt chooses the last one again.
     void SetItems(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onItem);
     // The entries of the menu Language, and the handler, which gets the index of the chosen one.
     void SetLanguages(const std::vector<std::wstring>& titles, std::function<void(std::size_t)> onLanguage);
     // The entry of the menu Language that is marked; nothing initially.
     void SetLanguage(std::optional<std::size_t> index) { m_language = index; }
-    // The handler of Plug-in > Reload, which is disabled without one.
+    // The handlers of Plug-in > Reload, of Items > Rescan, and of Drawing > Save, which gets the file that
+    // the user has chosen. Without one the command is disabled.
     void SetReloadHandler(std::function<void()> onReload);
+    void SetRescanHandler(std::function<void()> onRescan) { m_onRescan = std::move(onRescan); }
+    void SetSaveHandler(std::function<void(const std::wstring& path)> onSave) {
+        m_onSave = std::move(onSave);
+    }
+    // Called about once a second while the user could start something.
+    void SetIdleHandler(std::function<void()> onIdle) { m_onIdle = std::move(onIdle); }
+    // Called for Escape when nothing runs and no question is open.
+    void SetEscapeHandler(std::function<void()> onEscape) { m_onEscape = std::move(onEscape); }
+
+    // Shows that the next line goes on with the lines before it.
+    void SetUnfinished(bool unfinished);
 
     // The handler of Help > Documentation, which may come at any time.
     void SetHelpHandler(std::function<void()> onHelp) { m_onHelp = std::move(onHelp); }
@@ -107,6 +120,9 @@ private:
     void OnCommand(int command);
     void OnItem(std::size_t index);
     void OnLanguage(std::size_t index);
+    void OnRecent(std::size_t index);
+    void OnTimer();
+    void SaveDrawing();
     void ChooseFormat(int lunits, int luprec);
     void ClearDrawing();
     void ShowHelp();
@@ -160,11 +176,18 @@ private:
     std::function<void(std::size_t)> m_onItem;
     std::function<void()> m_onReload;
     std::function<void()> m_onHelp;
-    std::function<void(int, int)> m_onFormat;
     std::function<void(std::size_t)> m_onLanguage;
-    std::size_t m_itemCount = 0;
     std::size_t m_languageCount = 0;
     std::optional<std::size_t> m_language;
+    std::function<void()> m_onRescan;
+    std::function<void()> m_onIdle;
+    std::function<void()> m_onEscape;
+    std::function<void(const std::wstring&)> m_onSave;
+    std::function<void(int, int)> m_onFormat;
+    std::vector<std::wstring> m_titles;  // of the items
+    std::vector<std::wstring> m_recent;  // titles of the items that were chosen, the last one first
+    bool m_isInMenu = false;
+    bool m_isUnfinished = false;
 
     int m_busy = 0;  // nesting level
     bool m_isEscapePressed = false;

@@ -88,7 +88,7 @@ std::optional<Point> CMainWindow::PickPoint(std::wstring_view prompt, std::optio
             if (const auto point = ParsePoint(*text, base, m_drawing->MousePoint())) {
                 return point;
             }
-            AddOutput(L"'" + *text + L"' is no point: click one, or type it as X,Y");
+            AddOutput(L"'" + *text + L"' is not a point: click into the drawing or type X,Y");
         }
     }
 }
@@ -195,6 +195,9 @@ void CMainWindow::TakeEscape() {
         m_isEscapePressed = true;
     } else {
         SetWindowTextW(m_prompt, L"");
+        if (m_onEscape) {
+            m_onEscape();
+        }
     }
 }
 
@@ -209,6 +212,8 @@ void CMainWindow::TakeEnter() {
     }
     if (m_isAsking) {
         EndAsk(text.empty() ? Answer(PlainEnter()) : Answer(text));
+    } else if (text.empty() && !m_isUnfinished) {
+        OnRecent(0);
     } else if (m_onCommand && !text.empty()) {
         m_onCommand(text);
     }

@@ -83,6 +83,8 @@ void CMainWindow::CreateControls() {
     m_prompt = CreateControl(m_window, IDC_PROMPT, L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP);
     JoinPastedLines(m_prompt, m_joinLines);
     m_status = std::make_unique<CStatusLine>(m_window);
+    m_drawing->SetMeasureText(
+        [this](double length, double angle) { return m_status->TextOf(length, angle); });
     m_drawing->SetMoveHandler([this](Point point) { m_status->ShowPoint(point); });
     SetFont(m_output->Handle(), m_codeFont);
     SetFont(m_prompt, m_codeFont);

@@ -1,7 +1,9 @@
 #include "devhost/window/ScenePaint.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <span>
 #include <vector>
 
 #include "devhost/drawing/Grid.h"
@@ -21,6 +23,9 @@ constexpr COLORREF kLargeDot = RGB(110, 110, 106);
 constexpr COLORREF kAxisX = RGB(226, 170, 165);
 constexpr COLORREF kAxisY = RGB(160, 205, 165);
 constexpr COLORREF kInk = RGB(28, 36, 48);
+
+constexpr COLORREF kPlaced = RGB(130, 140, 155);
+constexpr std::size_t kMostPlaced = 5000;  // entities
 
 constexpr int kDotDistance = 20;  // pixels, at least
 constexpr int kLargeDotEvery = 5;
@@ -73,11 +78,12 @@ public:
         }
     }
 
-    void Entities(const CDrawing& drawing) {
+    void Entities(std::span<const Entity> entities, COLORREF colour) {
+        m_colour = colour;
         // Rounded down, so that details stay apart.
-        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, kInk));
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, colour));
         const handles::CSelectedObject selection(m_dc, pen);
-        for (const Entity& entity : drawing.Entities()) {
+        for (const Entity& entity : entities) {
             if (const auto* text = std::get_if<TextEntity>(&entity)) {
                 Text(*text);
             } else {
@@ -125,7 +131,7 @@ private:
         }
         Polyline(m_dc, run.data(), int(run.size()));
         // The system leaves a line's last pixel out.
-        SetPixelV(m_dc, run.back().x, run.back().y, kInk);
+        SetPixelV(m_dc, run.back().x, run.back().y, m_colour);
     }
 
     void Text(const TextEntity& text) {
@@ -148,7 +154,7 @@ private:
         const handles::CSelectedObject selection(m_dc, font);
         SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
         SetBkMode(m_dc, TRANSPARENT);
-        SetTextColor(m_dc, kInk);
+        SetTextColor(m_dc, m_colour);
         const POINT start = Rounded(pixel);
         TextOutW(m_dc, start.x, start.y, text.text.c_str(), int(text.text.size()));
     }
@@ -158,6 +164,7 @@ private:
     RECT m_client;
     Box m_limits;
     CScale m_scale;
+    COLORREF m_colour = kInk;
 };
 
 }  // namespace
@@ -167,7 +174,13 @@ void PaintScene(HDC dc, const RECT& client, const CDrawing& drawing, const CView
     painter.Sheet();
     painter.Dots();
     painter.Axes();
-    painter.Entities(drawing);
+    painter.Entities(drawing.Entities(), kInk);
+}
+
+void PaintPlacement(HDC dc, const RECT& client, const std::vector<Entity>& entities,
+                    const CViewTransform& view) {
+    CScenePainter painter(dc, client, view);
+    painter.Entities({entities.data(), std::min(entities.size(), kMostPlaced)}, kPlaced);
 }
 
 }  // namespace devhost

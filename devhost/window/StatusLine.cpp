@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <numbers>
 
 #include "devhost/Libraries.h"
 #include "devhost/UserError.h"
@@ -98,6 +99,15 @@ void CStatusLine::ShowPoint(Point point) {
 std::wstring CStatusLine::TextOf(Point point) const {
     return units::FormatLinear(point.x, m_units, m_precision).value_or(L"") + L", " +
            units::FormatLinear(point.y, m_units, m_precision).value_or(L"");
+}
+
+std::wstring CStatusLine::TextOf(double length, double angle) const {
+    constexpr int kAngleDigits = 1;
+    const double degrees = angle * 180 / std::numbers::pi;
+    return units::FormatLinear(length, m_units, m_precision).value_or(L"") + L" < " +
+           units::FormatLinear(degrees < 0 ? degrees + 360 : degrees, units::LU_DECIMAL, kAngleDigits)
+               .value_or(L"") +
+           L"\u00B0";
 }
 
 void CStatusLine::SetFormat(int lunits, int luprec) {

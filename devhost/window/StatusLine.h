@@ -25,6 +25,8 @@ public:
     void ShowPoint(Point point);
     // A point as the line shows it.
     std::wstring TextOf(Point point) const;
+    // A length in the same format, and a direction (radians) in degrees.
+    std::wstring TextOf(double length, double angle) const;
 
     void SetFormat(int lunits, int luprec);
     int Units() const { return m_units; }

@@ -23,9 +23,9 @@
 (defun door (/ *error* variant values at)
   (setq *error* item-error)
   (and (setq variant (item-choose "door" door-variants))
-       (setq values (item-edit "door" (door-presets variant)))
-       (door-check variant values)
-       (setq at (item-place "door"))
+       (setq values (item-edit "door" (door-presets variant)
+                               '(lambda (values) (door-check variant values))))
+       (setq at (item-place "door" '(lambda (at) (door-draw variant values at))))
        (door-draw variant values at)
        (item-show)))
 
@@ -51,13 +51,16 @@
                                       ((= variant "sliding") 4)
                                       (T 2)))
        (item-demand (or (/= variant "bifold") (= (rem (item-of values 7) 2) 0))
-                    "A folding door has an even number of leaves.")
+                    (item-words 5111 "A folding door has an even number of leaves." nil))
        (item-demand (< (* 2 (item-of values 21)) (item-of values 1))
-                    "Parameter 21: the stiles are wider than the leaf.")
+                    (item-words 5112 "%1: the stiles are wider than the leaf."
+                                (list (item-label 21))))
        (item-demand (< (+ (item-of values 21) (item-of values 22)) (item-of values 2))
-                    "Parameter 22: the rails are higher than the leaf.")
+                    (item-words 5113 "%1: the rails are higher than the leaf."
+                                (list (item-label 22))))
        (item-demand (or (/= variant "arched") (< (item-of values 1) (* 2 (item-of values 2))))
-                    "Parameter 2: the leaf is too low for its arch.")))
+                    (item-words 5114 "%1: the leaf is too low for its arch."
+                                (list (item-label 2))))))
 
 ; The width between the rebates: the leaves and the clearances between them.
 (defun door-width (values / leaves)

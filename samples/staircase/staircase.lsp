@@ -19,9 +19,8 @@
 (defun staircase (/ *error* variant values at)
   (setq *error* item-error)
   (and (setq variant (item-choose "staircase" staircase-variants))
-       (setq values (item-edit "staircase" nil))
-       (staircase-check variant values)
-       (setq at (item-place "staircase"))
+       (setq values (item-edit "staircase" nil '(lambda (values) (staircase-check variant values))))
+       (setq at (item-place "staircase" '(lambda (at) (staircase-draw variant values at))))
        (staircase-draw variant values at)
        (item-show)))
 
@@ -36,10 +35,12 @@
        (item-between values 13 0 10)
        (item-demand (or (= variant "straight")
                         (and (>= (item-of values 5) 2) (<= (item-of values 5) (- (item-of values 2) 2))))
-                    "Parameter 5: at least two risers belong to each flight.")
+                    (item-words 5131 "%1: at least two risers belong to each flight."
+                                (list (item-label 5))))
        (item-demand (<= (staircase-rise values) (item-of values 15))
-                    (strcat "Parameter 2: each step would rise " (rtos (staircase-rise values) 2 1)
-                            ", more than the largest rise. Take more risers."))))
+                    (item-words 5132
+                                "%1: each step would rise %2, more than the largest rise. Take more risers."
+                                (list (item-label 2) (rtos (staircase-rise values) 2 1))))))
 
 ; AT is the lower left corner of the first flight in plan: x leads up the flight.
 (defun staircase-draw (variant values at)

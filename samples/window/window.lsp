@@ -20,9 +20,8 @@
 (defun window (/ *error* variant values at)
   (setq *error* item-error)
   (and (setq variant (item-choose "window" window-variants))
-       (setq values (item-edit "window" nil))
-       (window-check variant values)
-       (setq at (item-place "window"))
+       (setq values (item-edit "window" nil '(lambda (values) (window-check variant values))))
+       (setq at (item-place "window" '(lambda (at) (window-draw variant values at))))
        (window-draw variant values at)
        (item-show)))
 
@@ -38,17 +37,21 @@
        (item-between values 12 0 20)
        (item-between values 14 0 170)
        (item-demand (<= (+ (item-of values 5) (item-of values 7)) (item-of values 4))
-                    "Parameter 5: set back so far, the frame leaves the wall.")
+                    (item-words 5121 "%1: set back so far, the frame leaves the wall."
+                                (list (item-label 5))))
        (item-demand (or (/= variant "arched")
                         (and (> (item-of values 20) (item-of values 6))
                              (<= (* 2 (item-of values 20)) (item-of values 1))))
-                    "Parameter 20: the arch must rise above the frame's width, by half the width at most.")
+                    (item-words 5122 "%1: the arch must rise above the frame's width, by half the width at most."
+                                (list (item-label 20))))
        (item-demand (< (+ (* 2 (item-of values 9)) (* (item-of values 12) (item-of values 13)))
                        (window-sash-width variant values))
-                    "Parameter 1: the window is too narrow for its sashes and bars.")
+                    (item-words 5123 "%1: the window is too narrow for its sashes and bars."
+                                (list (item-label 1))))
        (item-demand (< (+ (* 2 (item-of values 9)) (* (item-of values 11) (item-of values 13)))
                        (window-sash-height variant values))
-                    "Parameter 2: the window is too low for its sashes and bars.")))
+                    (item-words 5124 "%1: the window is too low for its sashes and bars."
+                                (list (item-label 2))))))
 
 ; AT is the left end of the window's width, on the inner face of the wall.
 (defun window-draw (variant values at)

@@ -62,8 +62,8 @@ protected:
 // The samples beside DevHost.exe are found without an option. The routine gives the values that OK left.
 TEST_F(Archive, RunsItsSampleItemWhereverItIsUnpacked) {
     host.UseProgram(unpacked / "DevHost.exe");
-    host.Start(
-        {"--check-heap", "--eval", R"((load "door.lsp"))", "--eval", R"((assoc 2 (item-edit "door" nil)))"});
+    host.Start({"--check-heap", "--eval", R"((load "door.lsp"))", "--eval",
+                R"((assoc 2 (item-edit "door" nil nil)))"});
     const Window dialog = Window::WithTitle("Porta a battente");
     ASSERT_TRUE(dialog.IsValid()) << host.Errors();
     EXPECT_TRUE(dialog.PressUntilClosed("Return"));

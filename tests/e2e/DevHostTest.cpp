@@ -154,4 +154,31 @@ TEST_F(DevHostWindow, EscapeEndsAnEndlessLoop) {
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
+TEST_F(DevHostWindow, CommandsAreUndoneRedoneAndTheDrawingSaved) {
+    const Point first = Pick(300, 200);
+    const int bottom = 200 + int(first.y);
+    Type("(progn (draw-line '(100 150) '(400 150))");
+    EXPECT_EQ(Evaluate("(draw-line '(100 250) '(400 250)))"), "T");
+    EXPECT_TRUE(WaitForInk(250, bottom - 150));
+    window.Press("ctrl+z");
+    EXPECT_TRUE(WaitUntil([&] {
+        const Screenshot now = window.Look();
+        return now.At(250, bottom - 150) != ink && now.At(250, bottom - 250) != ink;
+    }));
+    window.Press("ctrl+y");
+    EXPECT_TRUE(WaitForInk(250, bottom - 150));
+    EXPECT_TRUE(WaitForInk(250, bottom - 250));
+    window.Press("ctrl+s");
+    const Window dialog = Window::WithTitle("Save drawing as SVG");
+    ASSERT_TRUE(dialog.IsValid());
+    ASSERT_TRUE(dialog.Activate());
+    TypeText("saved");
+    EXPECT_TRUE(dialog.PressUntilClosed("Return"));
+    EXPECT_TRUE(WaitUntil([&] { return host.Output().find("saved.svg") != std::string::npos; }))
+        << host.Output() << host.Errors();
+    EXPECT_NE(host.Read("saved.svg").find("<line"), std::string::npos);
+    window.Press("alt+F4");
+    EXPECT_EQ(host.Wait(), 0) << host.Errors();
+}
+
 }  // namespace

@@ -79,13 +79,12 @@ constexpr const char* kRoutine = R"(; The routine of the item ITEM: a rectangle,
 (defun ITEM (/ *error* variant values at)
   (setq *error* item-error)
   (and (setq variant (item-choose "ITEM" '("plain" "divided")))
-       (setq values (item-edit "ITEM" nil))
-       (ITEM-check values)
-       (setq at (item-place "ITEM"))
+       (setq values (item-edit "ITEM" nil 'ITEM-check))
+       (setq at (item-place "ITEM" '(lambda (at) (ITEM-draw variant values at))))
        (ITEM-draw variant values at)
        (item-show)))
 
-; Whether the values can be drawn.
+; Whether the values can be drawn. If not, the user reads why, and the dialog opens again with what was typed.
 (defun ITEM-check (values)
   (and (item-complete values 2)
        (item-positive values '(1 2))))

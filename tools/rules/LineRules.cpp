@@ -57,15 +57,23 @@ constexpr Rule kLineAssignment = {"line-assignment", SV_ERROR, "an assignment in
                                   "lost: probably a used working file was copied over the template.",
                                   "#1 = 900\n$7 = 1"};
 
+constexpr Rule kWorkingFileUsed = {"working-file-used", SV_NOTE, "a working file that an OK has used",
+                                   "OK replaces the parameters of the working file by assignments. A dialog "
+                                   "that is opened on this file again\n"
+                                   "has no rows. An item's routine writes the file anew before each dialog; "
+                                   "without a routine, copy NAME.TXT\n"
+                                   "over it.",
+                                   "door_TMP.TXT: #1 = 900"};
+
 constexpr Rule kLineDollar = {
     "line-dollar", SV_WARNING, "a parameter's $ is missing or a #",
     "A parameter line begins with $, whatever its type; # occurs only in used working files. Otherwise this\n"
     "line would be a parameter: now it gets no row.",
     "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
 
-constexpr const Rule* kRules[] = {&kLineLeadingBlank, &kLineDollar, &kLineTab,
-                                  &kLineNumber,       &kLineEquals, &kLineQuote,
-                                  &kLineTypeLetter,   &kLineUnread, &kLineAssignment};
+constexpr const Rule* kRules[] = {&kLineLeadingBlank, &kLineDollar,     &kLineTab,        &kLineNumber,
+                                  &kLineEquals,       &kLineQuote,      &kLineTypeLetter, &kLineUnread,
+                                  &kLineAssignment,   &kWorkingFileUsed};
 
 constexpr RepairRules kRepairRules = {&kLineLeadingBlank, &kLineTab,   &kLineNumber,
                                       &kLineEquals,       &kLineQuote, &kLineTypeLetter};
@@ -109,7 +117,12 @@ void CLineRules::TakeLine(const ItemLine& line) {
         if (!m_isWorkingFile) {
             Findings().Add(kLineAssignment, line, 0, line.text.size(),
                            "this is an assignment of a working file, not a parameter");
+        } else if (!m_isUsed) {
+            Findings().Add(kWorkingFileUsed, line, 0, line.text.size(),
+                           "an OK has replaced this parameter by its value: the next dialog on this file has "
+                           "no row for it, unless the item's routine writes the file anew");
         }
+        m_isUsed = true;
         return;
     }
     if (!BeginsLikeParameter(line.text)) {

@@ -24,9 +24,8 @@ constexpr Rule kPictureMissing = {
 constexpr Rule kSlideMissing = {
     "slide-missing", SV_WARNING, "a choice has no slide",
     "(tavrinselmask ...) skips each name without a slide NAME_t.png or, if its second argument is 0,\n"
-    "NAME_t_3d.png. The checker looks at names that are written as texts in calls of NAME.lsp, and for "
-    "slides\n"
-    "beside it.",
+    "NAME_t_3d.png. The checker looks at names that are written as texts in calls of NAME.lsp, and at the\n"
+    "lists of variants in (item-choose \"NAME\" ...), literal or from a setq; slides belong beside NAME.lsp.",
     "(tavrinselmask \"Replace\" 0 \"door_single\" \"door_shop\")"};
 
 constexpr Rule kChoiceCount = {
@@ -66,11 +65,17 @@ private:
         m_text = encoding::DecodeUtf8OrWindows1252(*m_context.routine);
         FindLines();
         try {
-            for (const RoutineCall& call : FindRoutineCalls(m_text)) {
+            const RoutineContents routine = ReadRoutine(m_text);
+            for (const RoutineCall& call : routine.calls) {
                 if (call.isChoice) {
                     CheckChoice(call);
                 } else if (!call.names.empty()) {
                     CheckPreview(call.names.front());
+                }
+            }
+            for (const unsigned number : routine.textNumbers) {
+                if (m_context.usedTexts != nullptr) {
+                    m_context.usedTexts->set(number);
                 }
             }
         } catch (const lisp::CLispError& error) {

@@ -8,6 +8,7 @@
 
 #include "tools/rules/FindingList.h"
 #include "tools/rules/RuleGroup.h"
+#include "tools/rules/TextRules.h"
 
 namespace tavrin::tools {
 
@@ -21,10 +22,11 @@ struct PictureContext {
     std::optional<std::string> routine;  // the bytes of the routine, if there is one
     // Whether a file with that name exists beside the template.
     std::function<bool(const std::string& name)> exists;
+    TextNumbers* usedTexts = nullptr;  // collects the numbers of the texts that the routine uses, unless null
 };
 
-// Checks the item's picture and, for each call of tavrinselmask and tavrinprevmask in the routine, the slides
-// and pictures whose names are literal texts in the call.
+// Checks the item's picture and, for each call of tavrinselmask, item-choose and tavrinprevmask in the
+// routine, the slides and pictures whose names are literal texts (see RoutineCalls.h).
 std::vector<Finding> CheckPictures(const PictureContext& context);
 
 }  // namespace tavrin::tools

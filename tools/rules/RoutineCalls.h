@@ -1,4 +1,4 @@
-// The calls of the module's functions in a LISP routine.
+// What a LISP routine says of pictures, choices and texts.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace tavrin::tools {
 
-// A name that is a literal text in a call, and its range with the quotes, in characters.
+// A name that is a literal text in a call, and the text's range with the quotes, in characters.
 struct RoutineName {
     std::wstring text;
     std::size_t start = 0;
@@ -18,13 +18,20 @@ struct RoutineName {
 };
 
 struct RoutineCall {
-    bool isChoice = false;           // tavrinselmask; else tavrinprevmask
+    bool isChoice = false;           // tavrinselmask or item-choose; else tavrinprevmask
     bool isFlatOnly = false;         // the choice's second argument is a number other than 0
     std::vector<RoutineName> names;  // of pictures or choices: the literal texts
 };
 
-// The calls of tavrinselmask and tavrinprevmask, anywhere in the routine. Throws CLispError when its text
-// cannot be read.
-std::vector<RoutineCall> FindRoutineCalls(std::wstring_view routine);
+struct RoutineContents {
+    // The calls of tavrinselmask, tavrinprevmask and the samples' (item-choose ITEM VARIANTS), anywhere in
+    // the routine. VARIANTS is a list of literal texts, or a variable that setq gives such a list.
+    std::vector<RoutineCall> calls;
+    std::vector<unsigned> textNumbers;  // N of (res-text N) and of the samples' (item-words N ...)
+    std::vector<std::wstring> loads;    // the literal texts of (load NAME)
+};
+
+// Throws CLispError when the routine cannot be read.
+RoutineContents ReadRoutine(std::wstring_view routine);
 
 }  // namespace tavrin::tools

@@ -20,15 +20,21 @@ constexpr Rule kTextMissing = {
     "is empty in that language.",
     "--texts TavrinRes.it.rc (has text 1501) --texts TavrinRes.en.rc (has not)"};
 
+constexpr Rule kTextOfModule = {
+    "text-of-module", SV_WARNING, "a text that the module itself shows is missing",
+    "Text 1363 stands before the title in the header of the item dialog, text 5019 is the message of a "
+    "choice\n"
+    "without any slide. Without them the header shows the title alone, and the message is empty.",
+    "TavrinRes.rc without 1363 \"  Parameters: \""};
+
 constexpr Rule kTextUnused = {
     "text-unused", SV_NOTE, "a text that none of the checked files uses",
     "No placeholder in the checked files uses it, and neither does the module. Check all items together\n"
     "before you remove it.",
     "1599 \"Handle colour\""};
 
-constexpr const Rule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextUnused};
+constexpr const Rule* kRules[] = {&kTextTooLong, &kTextMissing, &kTextOfModule, &kTextUnused};
 
-// The texts that the module itself uses.
 constexpr unsigned kModuleTexts[] = {itemdlg::kHeaderPrefixText, imagedlg::kNoSlideText};
 
 // The excerpt is the text as it was read, since a module has no lines.
@@ -62,8 +68,28 @@ RuleList TextRules() {
     return kRules;
 }
 
-std::vector<Finding> CheckTexts(const CTextTable& texts, const TextNumbers& used) {
+std::span<const unsigned> ModuleTexts() {
+    return kModuleTexts;
+}
+
+std::vector<Finding> CheckTextsOfModule(const CTextTable& texts) {
     std::vector<Finding> findings;
+    for (const unsigned number : kModuleTexts) {
+        if (!texts.Files().empty() && texts.Find(number) == nullptr) {
+            Finding& finding = findings.emplace_back();
+            finding.rule = &kTextOfModule;
+            finding.file = texts.Files().front();
+            finding.message =
+                "text " + std::to_string(number) + " is missing: " +
+                (number == itemdlg::kHeaderPrefixText ? "it stands before the title in the dialog's header"
+                                                      : "it is the message of a choice without any slide");
+        }
+    }
+    return findings;
+}
+
+std::vector<Finding> CheckTexts(const CTextTable& texts, const TextNumbers& used) {
+    std::vector<Finding> findings = CheckTextsOfModule(texts);
     for (const TextEntry& text : texts.Texts()) {
         if (text.text.size() > CTextTable::kLongestText) {
             findings.push_back(AtText(

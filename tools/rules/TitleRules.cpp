@@ -89,22 +89,32 @@ void CTitleRules::CheckPlaceholder(const ItemLine& line, int number) {
     }
 }
 
+// Reports the language with the longest header.
 void CTitleRules::CheckLength(const ItemLine& line, int number) {
     std::size_t prefix = 0;
-    std::size_t longest = number == 0 ? line.text.size() : 0;
-    for (std::size_t language = 0; m_texts != nullptr && language < m_texts->Languages().size(); ++language) {
-        const TextEntry* const header = m_texts->Find(itemdlg::kHeaderPrefixText, language);
-        prefix = std::max(prefix, header != nullptr ? header->text.size() : 0);
+    std::size_t length = number == 0 ? line.text.size() : 0;
+    std::string language;
+    const std::size_t count = m_texts != nullptr ? m_texts->Languages().size() : 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const TextEntry* const header = m_texts->Find(itemdlg::kHeaderPrefixText, i);
         const TextEntry* const title =
-            number != 0 ? m_texts->Find(static_cast<unsigned>(number), language) : nullptr;
-        longest = std::max(longest, title != nullptr ? title->text.size() : 0);
+            number != 0 ? m_texts->Find(static_cast<unsigned>(number), i) : nullptr;
+        const std::size_t prefixHere = header != nullptr ? header->text.size() : 0;
+        const std::size_t lengthHere = number == 0        ? line.text.size()
+                                       : title != nullptr ? title->text.size()
+                                                          : 0;
+        if (prefixHere + lengthHere > prefix + length) {
+            prefix = prefixHere;
+            length = lengthHere;
+            language = m_texts->Languages()[i];
+        }
     }
-    if (prefix + longest > kLongestHeader) {
-        const std::string capacity = std::to_string(kLongestHeader);
+    if (prefix + length > kLongestHeader) {
         Findings().Add(kTitleTooLong, line, 0, line.text.size(),
-                       "the title has " + std::to_string(longest) + " characters" +
+                       (language.empty() ? "the title has " : "in " + language + " the title has ") +
+                           std::to_string(length) + " characters" +
                            (prefix != 0 ? " after the " + std::to_string(prefix) + " of text 1363" : "") +
-                           ", the header shows about " + capacity);
+                           ", the header shows about " + std::to_string(kLongestHeader));
     }
 }
 

@@ -6,15 +6,12 @@
 #include <string_view>
 
 #include "cmdline/CommandLine.h"
-#include "encoding/Encoding.h"
-#include "itemdlg/ItemFiles.h"
+#include "tools/files/FileList.h"
 #include "tools/files/Files.h"
-#include "tools/rules/Checker.h"
-#include "tools/rules/PictureRules.h"
+#include "tools/rules/FileCheck.h"
 #include "tools/rules/RuleTable.h"
 #include "tools/rules/TextRules.h"
 #include "tools/tavrincheck/CheckOptions.h"
-#include "tools/tavrincheck/FileList.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/tavrincheck/Report.h"
 #include "tools/texts/TextTable.h"
@@ -46,15 +43,16 @@ public:
         FileList list = ListFiles(m_options.names);
         m_errors = std::move(list.errors);
         m_remarks = std::move(list.remarks);
+        CFileCheck check(m_options.texts.empty() ? nullptr : &m_texts);
         for (const ItemFile& file : list.files) {
             try {
-                CheckFile(file);
+                Add(check.Check(file));
             } catch (const CToolError& error) {
                 m_errors.emplace_back(error.what());
             }
         }
         if (!m_options.texts.empty()) {
-            Add(CheckTexts(m_texts, m_usedTexts));
+            Add(CheckTexts(m_texts, check.UsedTexts()));
         }
     }
 
@@ -69,59 +67,9 @@ private:
                      [this](const Finding& finding) { return !m_disabled.contains(finding.rule->id); });
     }
 
-    void CheckFile(const ItemFile& file) {
-        const std::string bytes = ReadBytes(file.name);
-        CheckContext context;
-        context.file = file.name;
-        context.isWorkingFile = file.isWorkingFile;
-        context.texts = m_options.texts.empty() ? nullptr : &m_texts;
-        context.usedTexts = &m_usedTexts;
-        Add(CheckText(bytes, context));
-        if (!file.item.empty()) {
-            ComparePairOf(file, bytes);
-        }
-        if (!file.item.empty() && !file.isWorkingFile) {
-            CheckPicturesOf(file);
-        }
-    }
-
-    // Compares each pair once, with the first of its two files.
-    void ComparePairOf(const ItemFile& file, const std::string& bytes) {
-        const std::string other =
-            file.item + encoding::EncodeUtf8(file.isWorkingFile ? itemdlg::kTemplateFileEnding
-                                                                : itemdlg::kWorkingFileEnding);
-        if (!IsFile(other) || !m_comparedItems.insert(file.item).second) {
-            return;
-        }
-        const std::string otherBytes = ReadBytes(other);
-        const NamedBytes mine{file.name, bytes};
-        const NamedBytes others{other, otherBytes};
-        Add(file.isWorkingFile ? ComparePair(others, mine) : ComparePair(mine, others));
-    }
-
-    void CheckPicturesOf(const ItemFile& file) {
-        const std::filesystem::path folder = PathOf(file.item).parent_path();
-        PictureContext context;
-        context.templateFile = file.name;
-        context.routineFile = file.item + ".lsp";
-        context.baseName = NameOf(PathOf(file.item).filename());
-        context.exists = [&](const std::string& name) { return IsFile(NameOf(folder / PathOf(name))); };
-        if (IsFile(context.routineFile)) {
-            context.routine = ReadBytes(context.routineFile);
-        }
-        Add(CheckPictures(context));
-    }
-
-    static bool IsFile(const std::string& name) {
-        std::error_code ignored;
-        return std::filesystem::is_regular_file(PathOf(name), ignored);
-    }
-
     const CheckOptions& m_options;
     std::set<std::string, std::less<>> m_disabled;
     CTextTable m_texts;
-    TextNumbers m_usedTexts;
-    std::set<std::string> m_comparedItems;
     std::vector<Finding> m_findings;
     std::vector<std::string> m_errors;
     std::vector<std::string> m_remarks;

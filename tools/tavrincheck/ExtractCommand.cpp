@@ -4,8 +4,10 @@
 #include <optional>
 
 #include "cmdline/CommandLine.h"
+#include "itemdlg/ItemFiles.h"
 #include "itemdlg/TemplateText.h"
 #include "tools/files/Files.h"
+#include "tools/rules/TextRules.h"
 #include "tools/tavrincheck/LabelExtraction.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/texts/ScriptEdit.h"
@@ -27,7 +29,8 @@ changes are printed as a diff.
 
   --from N       the first number for a new text, 1 to 65535; numbers in use are skipped
   --rc SCRIPT    the script for the texts (default: FILE with the ending .rc). They are added to its last table in
-                 the language of its first; existing texts are reused. A missing script is created
+                 the language of its first; existing texts are reused. A missing script is created,
+                 with the texts 1363 and 5019 that the module itself shows
   --write        write both files
   -h, --help     print this help
 )";
@@ -98,12 +101,24 @@ std::optional<std::string> ReadScript(const std::string& name, const std::string
     return bytes;
 }
 
+// The texts of a new script: first those that the module itself shows.
+std::vector<NewText> WithModuleTexts(const std::vector<NewText>& texts) {
+    std::vector<NewText> all;
+    for (const unsigned number : ModuleTexts()) {
+        all.push_back({number, number == itemdlg::kHeaderPrefixText
+                                   ? L"  Parameters: "
+                                   : L"No picture was found for any of the variants."});
+    }
+    all.insert(all.end(), texts.begin(), texts.end());
+    return all;
+}
+
 Change ScriptChange(const std::string& name, const std::optional<std::string>& script,
                     const std::string& templateName, const std::vector<NewText>& texts) {
     if (script) {
         return {name, false, LinesWithEnds(*script), EditsOfScript(name, *script, texts)};
     }
-    return {name, true, {}, {{0, 0, LinesWithEnds(NewScript(templateName, texts))}}};
+    return {name, true, {}, {{0, 0, LinesWithEnds(NewScript(templateName, WithModuleTexts(texts)))}}};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "cmdline/ParseNumber.h"
 #include "encoding/Encoding.h"
 #include "itemdlg/NumberText.h"
+#include "propgrid/model/TypedNumber.h"
 #include "units/LinearUnits.h"
 
 namespace tavrin::tools {
@@ -62,29 +63,40 @@ itemdlg::ItemParameter& CItemPreview::FindRow(const std::wstring& number) {
     return *found;
 }
 
-void CItemPreview::SetValue(const std::wstring& number, const std::wstring& value) {
+std::string CItemPreview::SetValue(const std::wstring& number, const std::wstring& value) {
     itemdlg::ItemParameter& parameter = FindRow(number);
     if (!parameter.editable) {
         throw CToolError("parameter " + Quoted(number) + " is read-only in this mode");
     }
     itemdlg::ParamRecord& record = parameter.record;
-    if (record.type == 'I') {
-        const std::optional<int> whole = cmdline::ParseNumber<int>(encoding::EncodeUtf8(value));
-        if (!whole) {
-            throw CToolError("parameter " + Quoted(number) + " takes a whole number, not " + Quoted(value));
-        }
-        record.intValue = *whole;
-        return;
+    bool isTaken = false;  // as it was typed
+    if (record.type == 'D') {
+        const std::optional<double> distance = units::ParseLinear(value);
+        isTaken = distance && std::isfinite(*distance);
+        record.realValue = isTaken ? *distance : record.realValue;
+    } else if (value.empty()) {
+        // The grid keeps the number.
+    } else if (record.type == 'I') {
+        record.intValue = propgrid::ReadTypedInteger(value);
+        isTaken = cmdline::ParseNumber<int>(encoding::EncodeUtf8(value)) == record.intValue;
+    } else {
+        record.realValue = propgrid::ReadTypedReal(value);
+        isTaken = cmdline::ParseNumber<double>(encoding::EncodeUtf8(value)) == record.realValue;
     }
-    const std::optional<double> real = record.type == 'D'
-                                           ? units::ParseLinear(value)
-                                           : cmdline::ParseNumber<double>(encoding::EncodeUtf8(value));
-    if (!real || !std::isfinite(*real)) {
-        throw CToolError("parameter " + Quoted(number) +
-                         (record.type == 'D' ? " takes a distance, not " : " takes a real number, not ") +
-                         Quoted(value));
+    return isTaken ? std::string() : RemarkOn(parameter, value);
+}
+
+std::string CItemPreview::RemarkOn(const itemdlg::ItemParameter& parameter, const std::wstring& typed) const {
+    const itemdlg::ParamRecord& record = parameter.record;
+    const std::string row = "$" + encoding::EncodeUtf8(record.number) + ": ";
+    const std::string value = encoding::EncodeUtf8(ValueTextOf(parameter));
+    if (record.type == 'D') {
+        return row + "a box says that " + Quoted(typed) + " is invalid; the value stays " + value;
     }
-    record.realValue = *real;
+    return row +
+           (typed.empty() ? "nothing was typed; the value stays "
+                          : "the dialog takes " + Quoted(typed) + " as ") +
+           value;
 }
 
 itemdlg::TextLines CItemPreview::WorkingFileAfter(itemdlg::TextLines lines) const {

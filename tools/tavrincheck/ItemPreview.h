@@ -26,10 +26,12 @@ public:
     // The text of a parameter's value in the grid; empty for an invalid type.
     std::wstring ValueTextOf(const itemdlg::ItemParameter& parameter) const;
 
-    // Types a value into the row of the parameter with that number: a whole number, a real number, or a
-    // distance in any of the host's formats. Throws CToolError when there is no such row or more than one,
-    // when it is read-only, and for an invalid value.
-    void SetValue(const std::wstring& number, const std::wstring& value);
+    // Types a value into the row of the parameter with that number, which takes it as the dialog does: a
+    // whole or real number is what the text begins with, 0 when that is no number; a distance may have any of
+    // the host's formats, and keeps its value when the text has none. Returns a remark, one line for the
+    // user, when the value is not what was typed. Throws CToolError when there is no such row or more than
+    // one, and when it is read-only.
+    std::string SetValue(const std::wstring& number, const std::wstring& value);
 
     // The lines of the two files as OK would write them. The working file is the one that was read.
     itemdlg::TextLines WorkingFileAfter(itemdlg::TextLines lines) const;
@@ -39,6 +41,7 @@ private:
     using Rewriter = void (*)(itemdlg::TextLines&, const itemdlg::ParamRecordMap&,
                               const itemdlg::ValueTextOf&);
 
+    std::string RemarkOn(const itemdlg::ItemParameter& parameter, const std::wstring& typed) const;
     itemdlg::ItemParameter& FindRow(const std::wstring& number);
     itemdlg::TextLines Rewritten(itemdlg::TextLines lines, Rewriter rewrite) const;
 

@@ -9,6 +9,7 @@
 #include "itemdlg/ItemFiles.h"
 #include "itemdlg/TemplateText.h"
 #include "tools/files/Files.h"
+#include "tools/rules/TextRules.h"
 
 namespace tavrin::tools {
 
@@ -142,6 +143,7 @@ private:
 
 KnownTextNumbers KnownTexts(const CTextTable& script) {
     KnownTextNumbers known;
+    known.taken.insert(ModuleTexts().begin(), ModuleTexts().end());
     for (const TextEntry& text : script.Texts()) {
         known.taken.insert(text.number);
         // Number 0 is not a placeholder. Of equal texts the first is used.

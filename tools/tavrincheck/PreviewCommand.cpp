@@ -41,7 +41,8 @@ FILE is a template; its working file is assumed to be a copy of it, which is wha
   --mode N             the mode of the call; with 1, rows whose label ends in % are read-only (default: 0)
   --lunits N           the drawing's LUNITS for distances, 1 to 5 (default: 2)
   --luprec N           the drawing's LUPREC for distances, 0 to 8 (default: 4)
-  --set NUMBER=VALUE   type a value into the row of the parameter with that number; repeatable
+  --set NUMBER=VALUE   type a value into the row of the parameter with that number; repeatable. What the dialog
+                       makes of it is printed first, unless that is what was typed
   -h, --help           print this help
 )";
 
@@ -174,10 +175,13 @@ int RunPreview(const std::vector<std::string>& arguments) {
         return units::FormatLinear(value, options.units, options.precision).value_or(std::wstring());
     };
     CItemPreview preview(TextsOf(input.workingFile.lines), settings);
+    std::string remarks;
     for (const auto& [number, value] : options.values) {
-        preview.SetValue(Wide(number), Wide(value));
+        const std::string remark = preview.SetValue(Wide(number), Wide(value));
+        remarks += remark.empty() ? remark : remark + "\n";
     }
-    Print(PreviewReport(input, preview) + MissingTexts(missing));
+    Print((remarks.empty() ? remarks : remarks + "\n") + PreviewReport(input, preview) +
+          MissingTexts(missing));
     return 0;
 }
 

@@ -59,7 +59,7 @@ TEST_F(LispControl, ScopeIsDynamic) {
 
 TEST_F(LispControl, VariablesComeBackAfterAMistakeInAFunction) {
     ExpectValues({{L"(setq x 1) (defun bad (x) (car x))", L"BAD"}});
-    EXPECT_EQ(Mistake(L"(bad 5)"), L"line 1: in BAD: CAR needs a list as argument 1, not 5");
+    EXPECT_EQ(Mistake(L"(bad 5)"), L"line 1 in BAD: CAR needs a list as argument 1, not 5");
     ExpectValues({{L"x", L"1"}, {L"(foreach x '(7 8) x)", L"8"}, {L"x", L"1"}});
     Mistake(L"(foreach x '(7 8) (car x))");
     ExpectValues({{L"x", L"1"}});
@@ -77,13 +77,13 @@ TEST_F(LispControl, FunctionsAreValues) {
 }
 
 TEST_F(LispControl, WhatIsNoFunctionIsNamed) {
-    ExpectMistakes(
-        {{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
-         {L"(defun f (list) (list 1)) (mapcar 'f '(1))", L"in F: LIST is not a function: its value is 1"},
-         {L"(apply nil nil)", L"nil is not the name of a function"},
-         {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
-         {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
-         {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
+    EXPECT_EQ(Mistake(L"(defun f (list) (list 1)) (mapcar 'f '(1))"),
+              L"line 1 in F: LIST is not a function: its value is 1");
+    ExpectMistakes({{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
+                    {L"(apply nil nil)", L"nil is not the name of a function"},
+                    {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
+                    {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
+                    {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
 }
 
 TEST_F(LispControl, IfTakesOneOfTwoBranches) {

@@ -12,18 +12,18 @@ constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion c
 
 TEST_F(LispErrors, TheInnermostFunctionAndItsLineAreNamed) {
     EXPECT_EQ(Mistake(L"(defun f (x)\n  (g x))\n(defun g (x)\n  (if T\n    (car x)))\n(f 5)"),
-              L"line 5: in G: CAR needs a list as argument 1, not 5");
+              L"line 2 in F > line 5 in G: CAR needs a list as argument 1, not 5");
     EXPECT_EQ(Mistake(L"(list\n (f\n  '(1))\n (car 2))"), L"line 4: CAR needs a list as argument 1, not 2");
     EXPECT_EQ(Mistake(L"(+ 1\n (car '(\"a\")))"), L"line 1: + needs a number as argument 2, not \"a\"")
         << "the line of the call that failed, not of the one evaluated last";
     EXPECT_EQ(Mistake(L"(mapcar\n '(lambda (x)\n   (car x))\n '(1))"),
-              L"line 3: in LAMBDA: CAR needs a list as argument 1, not 1");
+              L"line 3 in LAMBDA: CAR needs a list as argument 1, not 1");
 }
 
 TEST_F(LispErrors, ACallBuiltAtRunTimeHasTheEnclosingLine) {
     EXPECT_EQ(Mistake(L"\n(eval (list 'car 5))"), L"line 2: CAR needs a list as argument 1, not 5");
     EXPECT_EQ(Mistake(L"(defun f ()\n 1)\n(defun g ()\n (f)\n (apply 'car '(5)))\n(g)"),
-              L"line 5: in G: CAR needs a list as argument 1, not 5");
+              L"line 5 in G: CAR needs a list as argument 1, not 5");
 }
 
 TEST_F(LispErrors, LongValuesAreCutInMessages) {
@@ -45,7 +45,7 @@ TEST_F(LispErrors, TheUsersOwnErrorFunctionIsCalledOnce) {
     } catch (const CLispError& error) {
         EXPECT_TRUE(error.IsHandled());
     }
-    EXPECT_EQ(m_host.output, L"[line 1: in G: CAR needs a list as argument 1, not 5]");
+    EXPECT_EQ(m_host.output, L"[line 1 in F > line 1 in G: CAR needs a list as argument 1, not 5]");
 }
 
 TEST_F(LispErrors, WithoutAnErrorFunctionTheHostReportsTheError) {
@@ -76,7 +76,7 @@ TEST_F(LispErrors, AnErrorInTheErrorFunctionIsReportedInstead) {
         Evaluate(L"(car 5)");
         FAIL();
     } catch (const CLispError& error) {
-        EXPECT_EQ(error.Text(), L"line 1: in *ERROR*: CDR needs a list as argument 1, not 6");
+        EXPECT_EQ(error.Text(), L"line 1 in *ERROR*: CDR needs a list as argument 1, not 6");
         EXPECT_FALSE(error.IsHandled());
     }
     Evaluate(L"(defun *error* () 1)");
@@ -120,12 +120,21 @@ TEST_F(LispErrors, EscapeIsPolledWhileListsAreBuilt) {
     ExpectValues({{L"(+ 1 2)", L"3"}});
 }
 
-TEST_F(LispErrors, RecursionWithoutEndIsAnError) {
-    EXPECT_EQ(Mistake(L"(defun f (x) (1+ (f x))) (f 1)"), std::wstring(L"line 1: in F: ") + kTooDeep);
-    EXPECT_EQ(Mistake(L"(defun g (x) (apply 'g (list x))) (g 1)"),
-              std::wstring(L"line 1: in G: ") + kTooDeep);
-    EXPECT_EQ(Mistake(L"(defun h (x) (mapcar 'h (list x))) (h 1)"),
-              std::wstring(L"line 1: in H: ") + kTooDeep);
+TEST_F(LispErrors, RecursionWithoutEndIsAnErrorThatNamesSomeOfTheCalls) {
+    const auto expectTooDeep = [this](const wchar_t* recursion, const std::wstring& name) {
+        const std::wstring text = Mistake(recursion);
+        const std::wstring call = L"line 1 in " + name;
+        const std::wstring first = call + L" > " + call + L" > " + call + L" > (";
+        EXPECT_TRUE(text.starts_with(first)) << testing::PrintToString(text);
+        const std::size_t end = text.find(L" more calls) > ", first.size());
+        ASSERT_NE(end, text.npos) << testing::PrintToString(text);
+        EXPECT_GT(std::stoi(text.substr(first.size())), 100);
+        EXPECT_EQ(text.substr(end), L" more calls) > " + call + L" > " + call + L" > " + call + L" > " +
+                                        call + L" > " + call + L": " + kTooDeep);
+    };
+    expectTooDeep(L"(defun f (x) (1+ (f x))) (f 1)", L"F");
+    expectTooDeep(L"(defun g (x) (apply 'g (list x))) (g 1)", L"G");
+    expectTooDeep(L"(defun h (x) (mapcar 'h (list x))) (h 1)", L"H");
     EXPECT_EQ(Mistake(L"(setq e '(eval e)) (eval e)"), std::wstring(L"line 1: ") + kTooDeep);
 }
 
@@ -136,12 +145,12 @@ TEST_F(LispErrors, ModerateRecursionIsNoError) {
 TEST_F(LispErrors, TheErrorFunctionRunsAfterTooDeepRecursion) {
     Evaluate(L"(defun *error* (text) (princ (strcat \"[\" (substr text 1 12) \"]\")))");
     Mistake(L"(defun f (x) (1+ (f x))) (f 1)");
-    EXPECT_EQ(m_host.output, L"[line 1: in F]");
+    EXPECT_EQ(m_host.output, L"[line 1 in F ]");
 }
 
 TEST_F(LispErrors, ARecursiveErrorFunctionEndsToo) {
-    EXPECT_EQ(Mistake(L"(defun *error* (text) (*error* text)) (car 5)"),
-              std::wstring(L"line 1: in *ERROR*: ") + kTooDeep);
+    EXPECT_TRUE(Mistake(L"(defun *error* (text) (*error* text)) (car 5)")
+                    .ends_with(std::wstring(L" > line 1 in *ERROR*: ") + kTooDeep));
 }
 
 TEST_F(LispErrors, DeeplyNestedDataIsHandledOrRefused) {

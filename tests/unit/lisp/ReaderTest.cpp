@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "lisp/Printer.h"
+#include "lisp/Source.h"
 
 using namespace tavrin::lisp;
 
@@ -97,7 +98,7 @@ TEST(Reader, ADotMakesAPair) {
     ExpectMistake(L"(a . )", L"line 1, column 4: nothing follows the dot");
     ExpectMistake(L"(a .", L"line 1, column 4: nothing follows the dot");
     ExpectMistake(L"(a . b c)", L"line 1, column 4: more than one expression follows the dot");
-    ExpectMistake(L"(a . b", L"line 1, column 4: more than one expression follows the dot");
+    ExpectMistake(L"(a . b", L"line 1, column 4: a parenthesis is not closed");
     ExpectMistake(L" . ", L"line 1, column 2: a dot outside a list");
 }
 
@@ -187,6 +188,17 @@ TEST(Reader, KnowsWhereTheTextsStood) {
         ranges.insert(ranges.end(), {range.start, range.length});
     }
     EXPECT_EQ(ranges, (std::vector<std::size_t>{3, 3, 22, 5, 29, 2}));
+}
+
+TEST(Reader, TextThatEndsWithinAnExpressionIsUnfinished) {
+    for (const wchar_t* text :
+         {L"(", L"(a (b)", L"(a\n\"b", L"'", L"(a .", L"(a . b", L"1 (a ;| b", L";| c", L"\"a\\"}) {
+        EXPECT_TRUE(IsUnfinished(text)) << testing::PrintToString(text);
+    }
+    for (const wchar_t* text :
+         {L"", L"1", L"(a)", L"(a . b)", L")", L"(a . )", L"99999999999", L"(\"\\x\"", L"; ("}) {
+        EXPECT_FALSE(IsUnfinished(text)) << testing::PrintToString(text);
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "devhost/drawlisp/DrawFunctions.h"
+#include "tools/texts/StringScript.h"
 
 namespace tests {
 
@@ -64,6 +65,22 @@ void ItemRoutine::Load(const std::string& item) {
     m_evaluator.Run(ReadText(Wide("(load \"" + item + ".lsp\")")));
 }
 
+void ItemRoutine::UseTexts(const std::string& language) {
+    const std::string file = "TavrinRes." + language + ".rc";
+    std::ifstream stream(std::filesystem::path(SAMPLES_DIR) / "texts" / file, std::ios::binary);
+    std::stringstream bytes;
+    bytes << stream.rdbuf();
+    std::map<int, std::wstring> texts;
+    for (const auto& text : tavrin::tools::ReadStringScript(file, bytes.str()).texts) {
+        texts[static_cast<int>(text.number)] = text.text;
+    }
+    m_evaluator.Undefine(L"RES-TEXT");
+    m_evaluator.Define(L"RES-TEXT", [texts](auto arguments) -> LispResult {
+        const auto text = texts.find(arguments[0].AsInteger());
+        return text != texts.end() ? CValue::String(text->second) : CValue();
+    });
+}
+
 bool ItemRoutine::Run(const std::string& text) {
     try {
         const LispResult result = m_evaluator.Run(ReadText(Wide(text)));
@@ -91,6 +108,7 @@ bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
     }
     drawing.Clear();
     messages.clear();
+    m_openings = 0;
     chosen = variant;
     clicked = LispPoint();
     return Run("(" + item + ")");
@@ -170,9 +188,11 @@ LispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
     const std::string working = Narrow(arguments[0].AsString()) + "_TMP.TXT";
     std::ifstream before(working);
     EXPECT_TRUE(before) << working;
-    std::string line, after;
+    std::string line, after, remembered;
     bool inBlock = false;
     shown.clear();
+    const bool isBack = ++m_openings > 1;
+    const auto& changes = isBack ? typedAgain : typed;
     while (std::getline(before, line)) {
         if (line.ends_with('\r')) {
             line.pop_back();
@@ -183,14 +203,20 @@ LispResult ItemRoutine::PlayItemDialog(std::span<const CValue> arguments) {
             const int number = std::atoi(line.c_str() + 1);
             const std::size_t value = line.find_first_not_of(' ', quote + 2);
             shown[number] = line.substr(value);
-            const auto change = typed.find(number);
-            line = (line[quote + 1] == 'I' ? "$" : "#") + std::to_string(number) + " = " +
-                   (change != typed.end() ? change->second : shown[number]);
+            const auto change = changes.find(number);
+            const std::string text = change != changes.end() ? change->second : shown[number];
+            remembered += line.substr(0, quote + 2) + text + "\r\n";
+            line = (line[quote + 1] == 'I' ? "$" : "#") + std::to_string(number) + " = " + text;
+        } else {
+            remembered += line + "\r\n";
         }
         after += line + "\r\n";
     }
-    if (!presses) {
+    if (!presses || (isBack && typedAgain.empty())) {
         return CValue();
+    }
+    if (remembers) {
+        std::ofstream(Narrow(arguments[0].AsString()) + ".TXT", std::ios::binary) << remembered;
     }
     std::ofstream(working, std::ios::binary) << after;
     return CValue::Integer(0);

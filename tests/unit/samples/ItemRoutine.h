@@ -34,10 +34,12 @@ protected:
     ~ItemRoutine() override;
 
     // What the user does.
-    std::string chosen;                // the variant; empty: Cancel
-    std::map<int, std::string> typed;  // values typed into the item dialog, by the parameter's number
-    bool presses = true;               // OK rather than Cancel
-    std::optional<LispPoint> clicked;  // nothing: Escape
+    std::string chosen;                     // the variant; empty: Cancel
+    std::map<int, std::string> typed;       // values typed into the item dialog, by the parameter's number
+    bool presses = true;                    // OK rather than Cancel
+    std::map<int, std::string> typedAgain;  // typed when the dialog comes back; empty: Cancel
+    bool remembers = false;                 // the dialog writes its values into the template
+    std::optional<LispPoint> clicked;       // nothing: Escape
 
     // What the user sees.
     std::vector<std::string> offered;     // names of slides
@@ -47,6 +49,8 @@ protected:
 
     // Copies the item's template to a folder that is searched, and loads its routine.
     void Load(const std::string& item);
+    // Gives LISP the texts of a language: it, en.
+    void UseTexts(const std::string& language);
     // Evaluates a text; false when it gave nil or ended with an error.
     bool Run(const std::string& text);
     // How many parameters a function written in LISP takes; -1 when there is none of the name.
@@ -77,6 +81,7 @@ private:
     LispResult PlayItemDialog(std::span<const CValue> arguments);
 
     CEvaluator m_evaluator{*this};
+    int m_openings = 0;  // of the item dialog
     std::string m_item;
 };
 

@@ -183,6 +183,58 @@ TEST_F(ItemRoutine, ValuesThatCannotBeBuiltAreRefusedWithTheirReason) {
     }
 }
 
+TEST_F(ItemRoutine, ARefusedValueBringsTheDialogBackWithWhatWasTyped) {
+    typed = {{1, "850"}, {9, "181"}};
+    typedAgain = {{9, "80"}};
+    EXPECT_TRUE(Make("door", "single"));
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"Parameter 9 must lie between 0 and 180."});
+    EXPECT_EQ(shown[9], "181") << "when the dialog came back";
+    EXPECT_EQ(shown[1], "850");
+    EXPECT_EQ(Arcs(850), 1) << "drawn with the values of the second time";
+}
+
+TEST_F(ItemRoutine, ARefusedValueDoesNotBecomeTheDefault) {
+    for (const SampleItem& item : SampleItems()) {
+        Load(item.name);
+        remembers = true;
+        const std::filesystem::path templateFile = folder / (item.name + ".TXT");
+        const std::string before = BytesOf(templateFile);
+        typed = {{1, "0"}};
+        EXPECT_FALSE(Make(item.name, item.variants.front()));
+        EXPECT_EQ(messages.size(), 1u) << item.name;
+        EXPECT_EQ(BytesOf(templateFile), before) << item.name;
+    }
+}
+
+TEST_F(ItemRoutine, ARightValueBecomesTheDefaultAfterARefusedOne) {
+    Load("window");
+    remembers = true;
+    typed = {{1, "0"}};
+    typedAgain = {{1, "1300"}};
+    EXPECT_TRUE(Make("window", "tilt"));
+    EXPECT_NE(BytesOf(folder / "window.TXT").find("$1 = \"<<1601>>\"D1300\r\n"), std::string::npos);
+}
+
+TEST_F(ItemRoutine, ARefusalNamesTheLabelInTheLanguageOfTheTexts) {
+    typed = {{9, "181"}};
+    UseTexts("en");
+    Make("door", "single");
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"Opening angle must lie between 0 and 180."});
+    UseTexts("it");
+    Make("door", "single");
+    EXPECT_EQ(messages,
+              std::vector<std::wstring>{L"Angolo di apertura: il valore deve essere compreso tra 0 e 180."});
+    typed = {{2, "0"}};
+    Make("door", "single");
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"Altezza anta: il valore deve essere maggiore di 0."})
+        << "without the mark of a read-only row";
+    typed = {{2, "15"}};
+    Make("staircase", "straight");
+    EXPECT_EQ(messages, std::vector<std::wstring>{
+                            L"Numero alzate: ogni gradino salirebbe di 192.7, più dell'alzata massima. "
+                            L"Servono più alzate."});
+}
+
 TEST_F(ItemRoutine, WhateverIsTypedIsDrawnOrRefusedAsAWhole) {
     const char* const values[] = {"0",  "-1",    "1",   "2",    "7",   "45",
                                   "99", "0.001", "300", "2000", "1e6", "1e300"};
@@ -239,7 +291,7 @@ TEST_F(ItemRoutine, AWorkingFileThatLacksAValueIsRefused) {
                                                               "$1 = \"<<1601>>\"D 1200\r\nEND_VAR\r\n";
     chosen = "tilt";
     EXPECT_FALSE(Run("(window)"));
-    EXPECT_EQ(messages, std::vector<std::wstring>{L"The working file lacks the value of parameter 2."});
+    EXPECT_EQ(messages, std::vector<std::wstring>{L"The working file lacks a value: Parameter 2."});
 }
 
 TEST_F(ItemRoutine, TheWorkingFileIsTheTemplateUnderALineOfItsOwn) {

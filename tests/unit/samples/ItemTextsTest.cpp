@@ -17,7 +17,7 @@ using namespace tavrin::tools;
 namespace {
 
 // The longest texts that the dialogs show in full, in letters of average width.
-constexpr std::size_t kLabelLetters = 34;
+constexpr std::size_t kLabelLetters = 40;
 constexpr std::size_t kTitleLetters = 18;
 
 // Texts that are the module's own rather than an item's.
@@ -49,6 +49,15 @@ std::vector<unsigned> PlaceholdersOf(const std::string& item) {
     return numbers;
 }
 
+// The numbers of the texts that a routine shows.
+void TakeNumbersIn(const std::string& routine, std::set<unsigned>& numbers) {
+    const std::string bytes = BytesOf(routine);
+    const std::regex call("item-words ([0-9]+)");
+    for (std::sregex_iterator match(bytes.begin(), bytes.end(), call), end; match != end; ++match) {
+        numbers.insert(static_cast<unsigned>(std::stoul((*match)[1])));
+    }
+}
+
 class ItemTexts : public testing::TestWithParam<const char*> {
 protected:
     std::map<unsigned, std::wstring> texts = TextsIn(GetParam());
@@ -69,6 +78,18 @@ TEST_P(ItemTexts, NameEachRowDifferentlyAndFitTheDialog) {
     }
 }
 
+TEST_P(ItemTexts, HoldEveryWordOfTheRoutines) {
+    std::set<unsigned> numbers;
+    TakeNumbersIn("item.lsp", numbers);
+    EXPECT_EQ(numbers.size(), 6u);
+    for (const SampleItem& item : SampleItems()) {
+        TakeNumbersIn(item.name + "/" + item.name + ".lsp", numbers);
+    }
+    for (const unsigned number : numbers) {
+        EXPECT_FALSE(texts[number].empty()) << number;
+    }
+}
+
 TEST_P(ItemTexts, AreAllUsed) {
     std::set<unsigned> used = kModuleTexts;
     for (const SampleItem& item : SampleItems()) {
@@ -76,6 +97,10 @@ TEST_P(ItemTexts, AreAllUsed) {
             used.insert(number);
         }
     }
+    for (const SampleItem& item : SampleItems()) {
+        TakeNumbersIn(item.name + "/" + item.name + ".lsp", used);
+    }
+    TakeNumbersIn("item.lsp", used);
     for (const auto& [number, text] : texts) {
         EXPECT_TRUE(used.contains(number)) << number;
     }

@@ -150,6 +150,12 @@ TEST(Checker, SignsInOrdinaryTextAreNoPlaceholder) {
     EXPECT_EQ(Checked("$1 = \"a <3> b\"D 9\n"), PositionList{"4:9 placeholder-broken"});
 }
 
+TEST(Checker, AUsedWorkingFileIsNotedOnce) {
+    CheckContext context;
+    context.isWorkingFile = true;
+    EXPECT_EQ(Places(CheckText(File("#1 = 900\n$2 = 1\n"), context)), PlaceList{"4:1 working-file-used"});
+}
+
 TEST(Checker, AUsedWorkingFileIsNotCompared) {
     EXPECT_EQ(Compared(File("$1 = \"<<1501>>\"D 900\n"), File("#1 = 900\n")), PositionList());
 }
@@ -169,6 +175,16 @@ TEST(Checker, ARoutineThatIsNoUtf8IsReadInASingleByteCodePage) {
     EXPECT_EQ(Positions(findings), PositionList{"1:17 picture-missing"});
     EXPECT_EQ(findings[0].length, 3U);
     EXPECT_EQ(findings[0].excerpt.text, "(tavrinprevmask \"\xC3\xA0\")");
+}
+
+TEST(Checker, AVariantOfItemChooseNeedsASlide) {
+    PictureContext context;
+    context.exists = [](const std::string& name) {
+        return name == "door.png" || name == "door_single_t.png";
+    };
+    context.baseName = "door";
+    context.routine = "(setq kinds '(\"single\" \"double\"))\n(item-choose \"door\" kinds)";
+    EXPECT_EQ(Places(CheckPictures(context)), PlaceList{"1:24 slide-missing"});
 }
 
 }  // namespace

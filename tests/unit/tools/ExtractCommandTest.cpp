@@ -65,7 +65,17 @@ TEST_F(ExtractCommand, AFileWithTheSameLabelsGetsTheSameNumbersAndLeavesTheScrip
 TEST_F(ExtractCommand, ANewScriptIsShownAsSuch) {
     const std::string file = folder.Write("a.TXT", "x\nDoor\n");
     EXPECT_EQ(Run({file, "--from", "1"}).substr(0, 66),
-              "--- /dev/null\n+++ a.rc\n@@ -0,0 +1,10 @@\n+// Texts of a.TXT: string");
+              "--- /dev/null\n+++ a.rc\n@@ -0,0 +1,12 @@\n+// Texts of a.TXT: string");
+}
+
+TEST_F(ExtractCommand, ANewScriptHasTheTextsOfTheModuleAndNoLabelTakesTheirNumbers) {
+    const std::string file = folder.Write("a.TXT", "x\nDoor\nVAR\n$1 = \"Width\"R 1\nEND_VAR\n");
+    Run({file, "--from", "1363", "--write"});
+    EXPECT_NE(folder.Read("a.rc").find("    1363 \"  Parameters: \"\n"
+                                       "    5019 \"No picture was found for any of the variants.\"\n"
+                                       "    1364 \"Door\"\n    1365 \"Width\"\nEND\n"),
+              std::string::npos)
+        << folder.Read("a.rc");
 }
 
 TEST_F(ExtractCommand, ErrorsSayWhatToDo) {

@@ -53,10 +53,12 @@ TEST(ItemPreview, AValueThatIsSetIsShownAndWrittenUnscaled) {
 
 TEST(ItemPreview, WholeNumbersAreSetAsSuch) {
     CItemPreview preview = PreviewOf("x\nx\nVAR\n$3 = \"a\"I 2\n", 10.0);
-    EXPECT_EQ(ErrorOf(preview, L"3", L"2.5"), "parameter '3' takes a whole number, not '2.5'");
-    EXPECT_EQ(ErrorOf(preview, L"3", L"99999999999"),
-              "parameter '3' takes a whole number, not '99999999999'");
-    preview.SetValue(L"3", L"-4");
+    EXPECT_EQ(preview.SetValue(L"3", L"3.7"), "$3: the dialog takes '3.7' as 3");
+    EXPECT_EQ(preview.SetValue(L"3", L"7,25"), "$3: the dialog takes '7,25' as 7");
+    EXPECT_EQ(preview.SetValue(L"3", L"abc"), "$3: the dialog takes 'abc' as 0");
+    EXPECT_EQ(preview.SetValue(L"3", L"99999999999"), "$3: the dialog takes '99999999999' as 2147483647");
+    EXPECT_EQ(preview.SetValue(L"3", L"-4"), "");
+    EXPECT_EQ(preview.SetValue(L"3", L""), "$3: nothing was typed; the value stays -4");
     EXPECT_EQ(preview.WorkingFileAfter(TextLines(4))[3], L"$3 = -4");
 }
 
@@ -65,7 +67,6 @@ TEST(ItemPreview, ARowThatCannotBeSetSaysWhy) {
     EXPECT_EQ(ErrorOf(preview, L"9", L"1"), "there is no parameter with the number '9'");
     EXPECT_EQ(ErrorOf(preview, L"3", L"1"), "parameter '3' has no row to type a value into");
     EXPECT_EQ(ErrorOf(preview, L"2", L"1"), "parameter '2' is read-only in this mode");
-    EXPECT_EQ(ErrorOf(preview, L"1", L"wide"), "parameter '1' takes a distance, not 'wide'");
     CItemPreview twice = PreviewOf("x\nx\nVAR\n$1 = \"a\"R 1\n$1 = \"b\"R 1\n");
     EXPECT_EQ(ErrorOf(twice, L"1", L"5"),
               "number '1' has two rows, in lines 4 and 5: which one is meant is open");
@@ -73,9 +74,19 @@ TEST(ItemPreview, ARowThatCannotBeSetSaysWhy) {
               "number '1' has two rows, in lines 4 and 5: which one is meant is open");
 }
 
-TEST(ItemPreview, AnInfiniteValueCannotBeTyped) {
+TEST(ItemPreview, ARealNumberIsWhatTheTextBeginsWith) {
     CItemPreview preview = PreviewOf(kTemplate);
-    EXPECT_EQ(ErrorOf(preview, L"2", L"inf"), "parameter '2' takes a real number, not 'inf'");
+    EXPECT_EQ(preview.SetValue(L"2", L"7,25"), "$2: the dialog takes '7,25' as 7");
+    EXPECT_EQ(preview.SetValue(L"2", L" 1.5 mm"), "$2: the dialog takes ' 1.5 mm' as 1.5");
+    EXPECT_EQ(preview.SetValue(L"2", L"inf"), "$2: the dialog takes 'inf' as 0");
+    EXPECT_EQ(preview.SetValue(L"2", L"1e3"), "");
+}
+
+TEST(ItemPreview, AnInvalidDistanceKeepsTheValueAfterABox) {
+    CItemPreview preview = PreviewOf(kTemplate);
+    EXPECT_EQ(preview.SetValue(L"1", L"wide"),
+              "$1: a box says that 'wide' is invalid; the value stays 900 mm");
+    EXPECT_EQ(preview.WorkingFileAfter(TextsOf(SplitLines(kTemplate)))[3], L"#1 = 900");
 }
 
 TEST(PreviewReport, ShowsTitleRowsMessagesAndChanges) {

@@ -108,6 +108,16 @@ TEST(CommandLine, WithoutTheConsoleAMistakeIsShownInABox) {
     EXPECT_EQ(host.Wait().status, 1u);
 }
 
+TEST(CommandLine, WithoutAnyConsoleAMistakeIsShownInABox) {
+    CHostProcess host({L"--items", L"nowhere"}, EStart::NoConsole);
+    const HWND box = host.WindowWithTitle(L"#32770", L"DevHost");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(TextOf(GetDlgItem(box, 0xFFFF)),
+              L"the folder of items 'nowhere' does not exist: give --items an existing folder");
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(host.Wait().status, 1u);
+}
+
 TEST(CommandLine, TextsPassWholeInBothDirections) {
     EXPECT_EQ(Evaluate(L"(echo \"però 門 \U0001F6AA \\\"\\\\\\t\")"),
               "(\"per\xC3\xB2 \xE9\x96\x80 \xF0\x9F\x9A\xAA \\\"\\\\\\t\")\n");

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <memory>
 
 #include "tests/windows/devhost/app/HostProcess.h"
@@ -175,7 +177,87 @@ TEST_F(Conversation, ItemsAreLoadedAndCalledFromTheMenu) {
     Choose(kItem);
     WaitForOutput(L"(alpha)\r\n" + folder.Path() + L"\\items\\alpha\\alpha.lsp");
     Choose(kItem + 1);
-    WaitForOutput(L"(beta)\r\n; error: beta.lsp:1: in BETA: CAR needs a list as argument 1, not 5");
+    WaitForOutput(L"(beta)\r\n; error: beta.lsp:1 in BETA: CAR needs a list as argument 1, not 5");
+    Close();
+}
+
+TEST_F(Conversation, AnOpenParenthesisGoesOnInTheNextLine) {
+    Start();
+    const HWND label = GetDlgItem(m_host->MainWindow(), 104);
+    Type(L"(list 1");
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(label) == L"LISP ("; }));
+    Type(L"\"a");
+    Type(L"b\")");
+    WaitForOutput(L"(list 1\r\n\"a\r\nb\")\r\n(1 \"a\\nb\")");
+    EXPECT_EQ(TextOf(label), L"LISP");
+    Type(L"(car");
+    PostMessageW(m_prompt, WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_TRUE(WaitUntil([&] { return TextOf(label) == L"LISP"; }));
+    Type(L"(+ 1 1)");
+    WaitForOutput(L"(+ 1 1)\r\n2");
+    Type(L"(progn");
+    Type(L"(car 5))");
+    WaitForOutput(L"; error: line 2: CAR needs a list as argument 1, not 5");
+    Close();
+}
+
+TEST_F(Conversation, ACommandThatFailsLeavesNothingHalfDrawn) {
+    const CTestFolder folder;
+    Start({L"--drawing", L"out.svg"});
+    Type(L"(draw-circle '(0 0) 5)");
+    Type(L"(progn (draw-line '(0 0) '(9 9)) (draw-clear) (draw-line '(1 1) '(9 9)) (car 5))");
+    WaitForOutput(L"not 5");
+    Type(L"(defun *error* (text) (princ \"stopped\"))");
+    Type(L"(progn (draw-line '(0 0) '(9 9)) (car 5))");
+    WaitForOutput(L"stopped");
+    Close();
+    std::ifstream file(std::filesystem::path(folder.Path()) / L"out.svg");
+    const std::string svg{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_NE(svg.find("<circle"), std::string::npos);
+    EXPECT_EQ(svg.find("<line"), std::string::npos) << svg;
+}
+
+TEST_F(Conversation, AnItemIsCheckedWhenItIsChosenAndWhenItsFilesChange) {
+    const CTestFolder folder;
+    folder.MakeFolder(L"items");
+    folder.MakeFolder(L"items\\shelf");
+    folder.Write(L"items\\shelf\\shelf.lsp",
+                 "(defun shelf () (item-choose \"shelf\" '(\"low\")))\n"
+                 "(defun item-choose (name variants) 1)");
+    folder.Write(L"items\\shelf\\shelf.TXT", "Shelf\nShelf\nVAR\n$1 = \"Width\"d 900\nEND_VAR\n");
+    folder.Write(L"items\\shelf\\shelf.png", "");
+    Start({L"--items", L"items"});
+    Choose(kItem);
+    WaitForOutput(L"(shelf)\r\n1");
+    const std::wstring output = TextOf(m_output);
+    EXPECT_NE(output.find(L"; error: shelf.TXT:4:7: the label 'Width' has no placeholder"), output.npos);
+    EXPECT_NE(output.find(L"; error: shelf.TXT:4:13: the type letter 'd' must be upper case"), output.npos);
+    EXPECT_NE(output.find(L"; warning: shelf.lsp:1:40: the choice 'shelf_low' has no slide"), output.npos);
+    Choose(kItem);
+    WaitForOutput(L"(shelf)\r\n1\r\n(shelf)\r\n1");
+    folder.Write(L"items\\shelf\\shelf_low_t.png", "");
+    folder.Write(L"items\\shelf\\shelf.TXT", "Shelf\nShelf\nVAR\n$1 = \"<<1>>\"D 9 mm\nEND_VAR\n");
+    WaitForOutput(L"[value-trailing-text]");
+    Close();
+}
+
+TEST_F(Conversation, ItemsThatAppearAndDisappearAreNoticed) {
+    const CTestFolder folder;
+    folder.MakeFolder(L"items");
+    Start({L"--items", L"items"});
+    folder.MakeFolder(L"items\\gamma");
+    folder.Write(L"items\\gamma\\gamma.lsp", "(defun gamma () (findfile \"gamma.lsp\"))");
+    WaitForOutput(L"; the item gamma has been added");
+    Choose(kItem);
+    WaitForOutput(L"\\\\items\\\\gamma\\\\gamma.lsp\"");
+    // Enter in the empty prompt repeats it.
+    PostMessageW(m_prompt, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(WaitUntil([&] {
+        const std::wstring output = TextOf(m_output);
+        return output.find(L"(gamma)", output.find(L"(gamma)") + 1) != output.npos;
+    }));
+    std::filesystem::remove_all(folder.Path() + L"\\items\\gamma");
+    WaitForOutput(L"; the item gamma has been removed");
     Close();
 }
 

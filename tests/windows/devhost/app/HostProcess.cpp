@@ -61,14 +61,17 @@ CHostProcess::CHostProcess(const std::vector<std::wstring>& arguments, EStart st
 
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
-    if (start != EStart::OwnConsole) {
+    const bool isCaptured = start == EStart::Usual || start == EStart::Bare;
+    if (isCaptured) {
         startup.dwFlags = STARTF_USESTDHANDLES;
         startup.hStdOutput = CreateOutput(m_outputFile);
         startup.hStdError = CreateOutput(m_errorsFile);
     }
-    EXPECT_TRUE(CreateProcessW(
-        HostProgram().c_str(), commandLine.data(), nullptr, nullptr, start != EStart::OwnConsole,
-        start == EStart::OwnConsole ? CREATE_NEW_CONSOLE : 0, nullptr, nullptr, &startup, &m_process))
+    const DWORD flags = start == EStart::OwnConsole  ? CREATE_NEW_CONSOLE
+                        : start == EStart::NoConsole ? DETACHED_PROCESS
+                                                     : 0;
+    EXPECT_TRUE(CreateProcessW(HostProgram().c_str(), commandLine.data(), nullptr, nullptr, isCaptured, flags,
+                               nullptr, nullptr, &startup, &m_process))
         << "error " << GetLastError();
     for (const HANDLE output : {startup.hStdOutput, startup.hStdError}) {
         if (output != nullptr) {

@@ -19,6 +19,7 @@ enum class EStart {
     Usual,       // with the test plug-in, output captured
     Bare,        // with the given arguments alone
     OwnConsole,  // with the test plug-in, as if double-clicked: the output goes to a new console
+    NoConsole,   // with the test plug-in, as from a launcher: the output goes nowhere
 };
 
 class CHostProcess {

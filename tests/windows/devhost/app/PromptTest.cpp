@@ -51,8 +51,9 @@ TEST_F(Prompt, EnterEvaluatesAndClosingEnds) {
 }
 
 TEST_F(Prompt, MistakesAreShownAndDoNotEndTheSession) {
-    Type(L"(unknown");
-    EXPECT_TRUE(WaitForOutput(L"(unknown\r\n; error: line 1, column 1: a parenthesis is not closed"));
+    Type(L"unknown)");
+    EXPECT_TRUE(
+        WaitForOutput(L"unknown)\r\n; error: line 1, column 8: a closing parenthesis has no opening one"));
     Type(L"(fail-with \"no\")");
     EXPECT_TRUE(WaitUntil([&] { return TextOf(m_output).ends_with(L"(fail-with \"no\")\r\n; error: no"); }));
     Type(L"(car 5)");

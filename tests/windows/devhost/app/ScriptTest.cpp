@@ -61,7 +61,7 @@ TEST_F(Script, ScriptsAndExpressionsAreDoneInTheOrderGiven) {
 TEST_F(Script, AMistakeEndsTheRunWithFileLineAndFunction) {
     ExpectFailure(Run("(princ \"first\")\n(defun f (x)\n  (strcat \"a\" x))\n(f 5)\n(princ \"never\")",
                       {L"--eval", L"(princ \"never\")"}),
-                  "test.lsp:3: in F: STRCAT needs a text as argument 2, not 5",
+                  "test.lsp:4 > test.lsp:3 in F: STRCAT needs a text as argument 2, not 5",
                   "first\n; heap: 0 blocks held\n");
     ExpectFailure(Run("\n(unknown-function 1)"),
                   "test.lsp:2: the function UNKNOWN-FUNCTION is not defined: check its name and whether the "
@@ -110,8 +110,11 @@ TEST_F(Script, BlocksThatThePlugInKeepsAreReported) {
 }
 
 TEST_F(Script, RecursionWithoutEndIsAMistakeAndNoCrash) {
-    ExpectFailure(Run("(defun f (x) (1+ (f x)))\n(f 1)"),
-                  "test.lsp:1: in F: calls are nested too deep: does the recursion come to an end?");
+    const Outcome outcome = Run("(defun f (x) (1+ (f x)))\n(f 1)");
+    EXPECT_EQ(outcome.status, 1u);
+    EXPECT_TRUE(outcome.errors.starts_with("DevHost: test.lsp:2 > test.lsp:1 in F > "));
+    EXPECT_TRUE(outcome.errors.ends_with(
+        "test.lsp:1 in F: calls are nested too deep: does the recursion come to an end?\n"));
     EXPECT_EQ(Run("(defun f (n) (if (> n 0) (progn (echo n) (f (1- n)))))(f 3000)").status, 0u);
 }
 

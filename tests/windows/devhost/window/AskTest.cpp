@@ -123,7 +123,8 @@ TEST_F(Ask, WhatIsNoPointIsRefusedAndAskedForAgain) {
     const auto point = m_window.PickPoint(L"p: ", std::nullopt);
     ASSERT_TRUE(point);
     EXPECT_EQ(*point, (Point{1, 2}));
-    EXPECT_EQ(Output(), L"p: there\r\n'there' is no point: click one, or type it as X,Y\r\np: \r\np: 1,2");
+    EXPECT_EQ(Output(),
+              L"p: there\r\n'there' is not a point: click into the drawing or type X,Y\r\np: \r\np: 1,2");
 }
 
 }  // namespace

@@ -155,6 +155,90 @@ TEST_F(Menu, ClearEmptiesTheDrawing) {
     EXPECT_TRUE(m_drawing.Entities().empty());
 }
 
+TEST_F(Menu, UndoAndRedoTakeCommandsBackAndRepeatThem) {
+    EXPECT_TRUE(IsGrey(IDM_UNDO));
+    m_drawing.BeginCommand();
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
+    PostCommand(IDM_CLEAR);
+    Handle();
+    EXPECT_TRUE(IsGrey(IDM_REDO));
+    PressWithControl('Z');
+    EXPECT_EQ(m_drawing.Entities().size(), 1u) << "what Clear has removed";
+    PressWithControl('Z');
+    EXPECT_TRUE(m_drawing.Entities().empty());
+    EXPECT_TRUE(IsGrey(IDM_UNDO));
+    PressWithControl('Y');
+    EXPECT_EQ(m_drawing.Entities().size(), 1u);
+}
+
+TEST_F(Menu, TheKeysOfUndoAreThePromptsWhileItHasAText) {
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
+    SetWindowTextW(Part(IDC_PROMPT), L"(door");
+    PressWithControl('Z');
+    EXPECT_EQ(m_drawing.Entities().size(), 1u);
+    SetWindowTextW(Part(IDC_PROMPT), L"");
+    PressWithControl('Z');
+    EXPECT_TRUE(m_drawing.Entities().empty());
+}
+
+TEST_F(Menu, SaveAndRescanAreGreyUntilSomeoneDoesThem) {
+    m_drawing.Add(CircleEntity{{0, 0}, 1});
+    EXPECT_TRUE(IsGrey(IDM_SAVE));
+    EXPECT_TRUE(IsGrey(IDM_RESCAN));
+    int rescans = 0;
+    m_window.SetRescanHandler([&] { ++rescans; });
+    m_window.SetSaveHandler([](const std::wstring&) {});
+    EXPECT_FALSE(IsGrey(IDM_SAVE));
+    m_drawing.Clear();
+    EXPECT_TRUE(IsGrey(IDM_SAVE)) << "there is nothing to save";
+    PostCommand(IDM_RESCAN);
+    Handle();
+    EXPECT_EQ(rescans, 1);
+}
+
+TEST_F(Menu, TheLastItemsAreListedTheLastOneFirst) {
+    std::vector<std::size_t> chosen;
+    const std::vector<std::wstring> items = {L"a", L"b", L"c", L"d", L"e", L"f", L"g"};
+    m_window.SetItems(items, [&](std::size_t index) { chosen.push_back(index); });
+    EXPECT_EQ(Title(IDM_RECENT), L"");
+    for (const int item : {0, 1, 2, 3, 4, 5, 1}) {
+        PostCommand(IDM_ITEM + item);
+    }
+    Handle();
+    EXPECT_EQ(Title(IDM_RECENT), L"b\tEnter");
+    EXPECT_EQ(Title(IDM_RECENT + 1), L"f");
+    EXPECT_EQ(Title(IDM_RECENT + 4), L"c");
+    EXPECT_EQ(Title(IDM_RECENT + 5), L"");
+    chosen.clear();
+    PostCommand(IDM_RECENT + 1);
+    Handle();
+    EXPECT_EQ(chosen, std::vector<std::size_t>{5});
+    m_window.SetItems({L"c", L"f"}, [&](std::size_t index) { chosen.push_back(index); });
+    EXPECT_EQ(Title(IDM_RECENT), L"f\tEnter") << "the others have gone";
+    EXPECT_EQ(Title(IDM_RECENT + 1), L"c");
+    EXPECT_EQ(Title(IDM_RECENT + 2), L"");
+    PostKey(VK_RETURN);
+    Handle();
+    EXPECT_EQ(chosen, (std::vector<std::size_t>{5, 1})) << "Enter repeats the last one";
+}
+
+TEST_F(Menu, TheIdleHandlerIsNotCalledWhileSomethingRuns) {
+    int calls = 0;
+    m_window.SetIdleHandler([&] { ++calls; });
+    const auto tick = [this] { SendMessageW(m_window.Handle(), WM_TIMER, 1, 0); };
+    tick();
+    EXPECT_EQ(calls, 1);
+    m_window.SetBusy(true);
+    tick();
+    m_window.SetBusy(false);
+    SendMessageW(m_window.Handle(), WM_ENTERMENULOOP, 0, 0);
+    tick();
+    EXPECT_EQ(calls, 1) << "busy, and in a menu";
+    SendMessageW(m_window.Handle(), WM_EXITMENULOOP, 0, 0);
+    tick();
+    EXPECT_EQ(calls, 2);
+}
+
 TEST_F(Menu, SnapIsTicked) {
     EXPECT_TRUE(StateOf(IDM_SNAP) & MF_CHECKED);
     PostCommand(IDM_SNAP);

@@ -1,4 +1,6 @@
 // What the drawing area shows, pixel by pixel.
+#include <functional>
+
 #include "tests/windows/devhost/window/WindowFixture.h"
 #include "tests/windows/support/Pixels.h"
 
@@ -155,6 +157,66 @@ TEST_F(Paint, AVerySmallAndAVeryLargeWindowWork) {
     }
     MoveWindow(m_window.Handle(), 0, 0, 900, 700, TRUE);
     EXPECT_EQ(Look().At(150, Y(185)), kInk);
+}
+
+constexpr COLORREF kPlaced = RGB(130, 140, 155);
+
+// What is drawn while a point is asked for: `look` is called once, before the question is cancelled.
+void DuringQuestion(CMainWindow& window, std::optional<Point> base, std::function<void()> look) {
+    static std::function<void()> s_look;
+    s_look = std::move(look);
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
+        KillTimer(nullptr, id);
+        s_look();
+        PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
+    });
+    EXPECT_NE(timer, 0u);
+    window.Ask(L"Where? ", base, ASK_POINT);
+}
+
+TEST_F(Paint, ThePlacementFollowsTheMouseWhileAPointIsAskedFor) {
+    m_drawing.BeginPlacement();
+    m_drawing.Add(LineEntity{{10, 10}, {60, 10}});
+    m_drawing.EndPlacement();
+    MoveMouse(200, Y(100));
+    EXPECT_NE(Look().At(235, Y(110)), kPlaced) << "without a question";
+    DuringQuestion(m_window, std::nullopt, [this] {
+        MoveMouse(200, Y(100));
+        UpdateWindow(Area());
+        const CClientPixels pixels(Area());
+        EXPECT_EQ(pixels.At(235, Y(110)), kPlaced);
+        EXPECT_EQ(pixels.At(260, Y(110)), kPlaced);
+        EXPECT_NE(pixels.At(262, Y(110)), kPlaced);
+        MoveMouse(300, Y(100));
+        UpdateWindow(Area());
+        EXPECT_NE(CClientPixels(Area()).At(235, Y(110)), kPlaced);
+        EXPECT_EQ(CClientPixels(Area()).At(335, Y(110)), kPlaced);
+    });
+    m_drawing.ClearPlacement();
+    EXPECT_TRUE(m_drawing.Entities().empty());
+}
+
+TEST_F(Paint, LengthAndDirectionAreShownAtTheMouseFromTheFirstPointOn) {
+    const COLORREF info = GetSysColor(COLOR_INFOBK);
+    const RECT right = {210, Y(100) + 10, 300, Y(100) + 30};
+    DuringQuestion(m_window, std::nullopt, [&] {
+        MoveMouse(200, Y(100));
+        UpdateWindow(Area());
+        EXPECT_EQ(CClientPixels(Area()).Count(right, info), 0);
+    });
+    DuringQuestion(m_window, Point{100, 100}, [&] {
+        MoveMouse(200, Y(100));
+        UpdateWindow(Area());
+        EXPECT_GT(CClientPixels(Area()).Count(right, info), 200);
+        RECT client;
+        GetClientRect(Area(), &client);
+        MoveMouse(client.right - 10, client.bottom - 5);
+        UpdateWindow(Area());
+        EXPECT_GT(CClientPixels(Area()).Count(
+                      {client.right - 150, client.bottom - 40, client.right - 20, client.bottom - 10}, info),
+                  200)
+            << "to the left and above where there is no room";
+    });
 }
 
 }  // namespace

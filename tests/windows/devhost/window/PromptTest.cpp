@@ -37,6 +37,21 @@ TEST_F(PromptRow, EnterPassesTheLineOn) {
     EXPECT_EQ(m_commands.size(), 1u);
 }
 
+TEST_F(PromptRow, AnUnfinishedExpressionIsShownAndEscapeIsToldOf) {
+    int escapes = 0;
+    m_window.SetItems({L"door"}, [](std::size_t) { FAIL() << "Enter is for the expression"; });
+    m_window.SetEscapeHandler([&] { ++escapes; });
+    EXPECT_EQ(TextOf(Part(IDC_LABEL)), L"LISP");
+    m_window.SetUnfinished(true);
+    EXPECT_EQ(TextOf(Part(IDC_LABEL)), L"LISP (");
+    PostKey(VK_RETURN);
+    PostKey(VK_ESCAPE);
+    Handle();
+    EXPECT_EQ(escapes, 1);
+    m_window.SetUnfinished(false);
+    EXPECT_EQ(TextOf(Part(IDC_LABEL)), L"LISP");
+}
+
 TEST_F(PromptRow, UpAndDownWalkThroughWhatWasTyped) {
     for (const wchar_t* line : {L"1", L"2", L"2", L"3"}) {
         PostLine(line);

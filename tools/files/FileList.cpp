@@ -1,4 +1,4 @@
-#include "tools/tavrincheck/FileList.h"
+#include "tools/files/FileList.h"
 
 #include <algorithm>
 #include <filesystem>
