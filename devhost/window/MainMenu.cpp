@@ -104,7 +104,7 @@ CMainMenu::CMainMenu(HWND window)
 
 void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     Clear(m_items);
-    std::wstring taken = L"X";  // Exit's
+    std::wstring taken = L"LRX";  // those of the entries below
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const std::wstring text = i < kItemKeys ? Shown(titles[i]) + L"\tCtrl+" + std::to_wstring(i + 1)
                                                 : WithMnemonic(titles[i], taken);
@@ -115,9 +115,10 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     }
     AppendMenuW(m_items, MF_SEPARATOR, 0, nullptr);
     const HMENU recent = CreatePopupMenu();
+    std::wstring takenByRecent;
     for (std::size_t i = 0; i < m_recent.size(); ++i) {
         AppendMenuW(recent, MF_STRING, IDM_RECENT + i,
-                    (Shown(m_recent[i]) + (i == 0 ? L"\tEnter" : L"")).c_str());
+                    (WithMnemonic(m_recent[i], takenByRecent) + (i == 0 ? L"\tEnter" : L"")).c_str());
     }
     AppendMenuW(m_items, MF_POPUP | (m_recent.empty() ? MF_GRAYED : 0), reinterpret_cast<UINT_PTR>(recent),
                 L"&Last items");
@@ -157,18 +158,19 @@ void CMainMenu::Update(const MenuState& state) const {
     if (state.language) {
         CheckMenuRadioItem(m_languages, IDM_LANGUAGE, UINT(IDM_LANGUAGE + m_languageCount - 1),
                            UINT(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
-        for (std::size_t i = 0; i < m_recent.size(); ++i) {
-            enable(UINT(IDM_RECENT + i), state.isIdle);
-        }
-        enable(IDM_EXIT, state.isIdle);
-        enable(IDM_RESCAN, state.isIdle && state.canRescan);
-        enable(IDM_SAVE, state.isIdle && state.canSave && state.hasDrawing);
-        enable(IDM_UNDO, state.isIdle && state.canUndo && !state.isTyping);
-        enable(IDM_REDO, state.isIdle && state.canRedo && !state.isTyping);
-        enable(IDM_RELOAD, state.isIdle && state.canReload);
-        enable(IDM_CLEAR, state.isIdle && state.hasDrawing);
-        enable(IDM_ABOUT, state.isIdle);
-        CheckMenuItem(m_menu, IDM_SNAP, MF_BYCOMMAND | (state.hasSnap ? MF_CHECKED : MF_UNCHECKED));
     }
+    for (std::size_t i = 0; i < m_recent.size(); ++i) {
+        enable(UINT(IDM_RECENT + i), state.isIdle);
+    }
+    enable(IDM_EXIT, state.isIdle);
+    enable(IDM_RESCAN, state.isIdle && state.canRescan);
+    enable(IDM_SAVE, state.isIdle && state.canSave && state.hasDrawing);
+    enable(IDM_UNDO, state.isIdle && state.canUndo && !state.isTyping);
+    enable(IDM_REDO, state.isIdle && state.canRedo && !state.isTyping);
+    enable(IDM_RELOAD, state.isIdle && state.canReload);
+    enable(IDM_CLEAR, state.isIdle && state.hasDrawing);
+    enable(IDM_ABOUT, state.isIdle);
+    CheckMenuItem(m_menu, IDM_SNAP, MF_BYCOMMAND | (state.hasSnap ? MF_CHECKED : MF_UNCHECKED));
+}
 
 }  // namespace devhost

@@ -66,10 +66,11 @@ std::wstring MnemonicsOf(HMENU menu) {
 
 TEST_F(Menu, EveryEntryHasAKeyOrALetter) {
     const HMENU menu = GetMenu(m_window.Handle());
-    EXPECT_EQ(MnemonicsOf(menu), L"IPVH");
-    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 1)), L"R");
-    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 2)), L"FSUPC");
-    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 3)), L"A");
+    EXPECT_EQ(MnemonicsOf(menu), L"IDPLVH");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 1)), L"URS");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 2)), L"R");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 4)), L"FSUPC");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(menu, 5)), L"DA");
 }
 
 TEST_F(Menu, ItemsWithoutAKeyHaveDifferentLetters) {
@@ -83,7 +84,7 @@ TEST_F(Menu, ItemsWithoutAKeyHaveDifferentLetters) {
     EXPECT_EQ(Title(IDM_ITEM + 11), L"S && &T");
     EXPECT_EQ(Title(IDM_ITEM + 12), L"X&ylophone") << "Exit has the X";
     EXPECT_EQ(Title(IDM_ITEM + 13), L"&Sh") << "both are taken";
-    EXPECT_EQ(MnemonicsOf(GetSubMenu(GetMenu(m_window.Handle()), 0)), L"kkkkkkkkkShTySx");
+    EXPECT_EQ(MnemonicsOf(GetSubMenu(GetMenu(m_window.Handle()), 0)), L"kkkkkkkkkShTySLRx");
 }
 
 TEST_F(Menu, NewItemsReplaceTheOldOnes) {
@@ -96,7 +97,7 @@ TEST_F(Menu, NewItemsReplaceTheOldOnes) {
 TEST_F(Menu, TheCurrentLanguageIsMarkedAndAnotherIsChosen) {
     std::vector<std::size_t> chosen;
     m_window.SetLanguages({L"English", L"Italian"}, [&](std::size_t index) { chosen.push_back(index); });
-    EXPECT_EQ(Title(IDM_LANGUAGE + 1), L"Italian");
+    EXPECT_EQ(Title(IDM_LANGUAGE + 1), L"&Italian");
     EXPECT_FALSE(StateOf(IDM_LANGUAGE) & MF_CHECKED);
     m_window.SetLanguage(1);
     EXPECT_FALSE(StateOf(IDM_LANGUAGE) & MF_CHECKED);
@@ -205,17 +206,17 @@ TEST_F(Menu, TheLastItemsAreListedTheLastOneFirst) {
         PostCommand(IDM_ITEM + item);
     }
     Handle();
-    EXPECT_EQ(Title(IDM_RECENT), L"b\tEnter");
-    EXPECT_EQ(Title(IDM_RECENT + 1), L"f");
-    EXPECT_EQ(Title(IDM_RECENT + 4), L"c");
+    EXPECT_EQ(Title(IDM_RECENT), L"&b\tEnter");
+    EXPECT_EQ(Title(IDM_RECENT + 1), L"&f");
+    EXPECT_EQ(Title(IDM_RECENT + 4), L"&c");
     EXPECT_EQ(Title(IDM_RECENT + 5), L"");
     chosen.clear();
     PostCommand(IDM_RECENT + 1);
     Handle();
     EXPECT_EQ(chosen, std::vector<std::size_t>{5});
     m_window.SetItems({L"c", L"f"}, [&](std::size_t index) { chosen.push_back(index); });
-    EXPECT_EQ(Title(IDM_RECENT), L"f\tEnter") << "the others have gone";
-    EXPECT_EQ(Title(IDM_RECENT + 1), L"c");
+    EXPECT_EQ(Title(IDM_RECENT), L"&f\tEnter") << "the others have gone";
+    EXPECT_EQ(Title(IDM_RECENT + 1), L"&c");
     EXPECT_EQ(Title(IDM_RECENT + 2), L"");
     PostKey(VK_RETURN);
     Handle();
