@@ -553,6 +553,12 @@ void CPropertyGrid::TakeResult(const Actions& actions) {
     if (!actions.empty() || m_editors.HasLostItsItem()) {
         const EditorPointer ended = m_editors.Take();
         m_actions.Run(actions);
+        // The system would choose where the focus of a list or a calendar goes that is destroyed with it.
+        const bool hasFocus =
+            ended != nullptr && ended->GetSafeHwnd() != nullptr && ::GetFocus() == ended->m_hWnd;
+        if (hasFocus && GetSafeHwnd() != nullptr) {
+            SetFocus();
+        }
     }
 }
 

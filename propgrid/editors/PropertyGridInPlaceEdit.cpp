@@ -73,7 +73,6 @@ void CPropertyGridInPlaceEdit::SetAccessibleName(const std::wstring& name) {
     }
     if (m_label.Create(text.c_str(), WS_CHILD, CRect(0, 0, 0, 0), GetParent(), kLabelId)) {
         constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
-        m_label.SetWindowPos(&wndTop, 0, 0, 0, 0, kOrderOnly);
         SetWindowPos(&m_label, 0, 0, 0, 0, kOrderOnly);
     }
 }

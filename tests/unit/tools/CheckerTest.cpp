@@ -153,7 +153,7 @@ TEST(Checker, SignsInOrdinaryTextAreNoPlaceholder) {
 TEST(Checker, AUsedWorkingFileIsNotedOnce) {
     CheckContext context;
     context.isWorkingFile = true;
-    EXPECT_EQ(Places(CheckText(File("#1 = 900\n$2 = 1\n"), context)), PlaceList{"4:1 working-file-used"});
+    EXPECT_EQ(Positions(CheckText(File("#1 = 900\n$2 = 1\n"), context)), PositionList{"4:1 working-file-used"});
 }
 
 TEST(Checker, AUsedWorkingFileIsNotCompared) {
@@ -184,7 +184,7 @@ TEST(Checker, AVariantOfItemChooseNeedsASlide) {
     };
     context.baseName = "door";
     context.routine = "(setq kinds '(\"single\" \"double\"))\n(item-choose \"door\" kinds)";
-    EXPECT_EQ(Places(CheckPictures(context)), PlaceList{"1:24 slide-missing"});
+    EXPECT_EQ(Positions(CheckPictures(context)), PositionList{"1:24 slide-missing"});
 }
 
 }  // namespace

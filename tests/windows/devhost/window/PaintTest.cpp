@@ -39,16 +39,16 @@ TEST_F(Paint, LinesAreOnePixelOfInkWhereTheirUnitsSay) {
 
 TEST_F(Paint, AFrameShowsTheFocusThatAKeyGave) {
     constexpr COLORREF frame = RGB(0, 60, 160);
-    EXPECT_EQ(Look().At(0, 0), kSheet);
+    EXPECT_EQ(Look().At(5, 0), kSheet);
     PostKey(VK_F6);
     const CClientPixels focused = Look();
-    EXPECT_EQ(focused.At(0, 0), frame);
+    EXPECT_EQ(focused.At(5, 0), frame);
     EXPECT_EQ(focused.At(focused.Width() - 1, focused.Height() - 1), frame);
     EXPECT_EQ(focused.At(10, 10), kSheet);
     PostKey(VK_F6, IDC_DRAWING);
-    EXPECT_EQ(Look().At(0, 0), kSheet);
+    EXPECT_EQ(Look().At(5, 0), kSheet);
     m_window.SetBusy(true);
-    EXPECT_EQ(Look().At(0, 0), kSheet) << "the focus that no key gave";
+    EXPECT_EQ(Look().At(5, 0), kSheet) << "the focus that no key gave";
     m_window.SetBusy(false);
 }
 
