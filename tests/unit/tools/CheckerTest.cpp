@@ -153,7 +153,8 @@ TEST(Checker, SignsInOrdinaryTextAreNoPlaceholder) {
 TEST(Checker, AUsedWorkingFileIsNotedOnce) {
     CheckContext context;
     context.isWorkingFile = true;
-    EXPECT_EQ(Positions(CheckText(File("#1 = 900\n$2 = 1\n"), context)), PositionList{"4:1 working-file-used"});
+    EXPECT_EQ(Positions(CheckText(File("#1 = 900\n$2 = 1\n"), context)),
+              PositionList{"4:1 working-file-used"});
 }
 
 TEST(Checker, AUsedWorkingFileIsNotCompared) {

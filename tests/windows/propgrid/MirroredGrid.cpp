@@ -393,7 +393,8 @@ void CMirroredGrid::Resize(CSize size) {
 
 void CMirroredGrid::ScrollTo(int position) {
     Note(Called("ScrollTo", {std::to_string(position)}));
-    m_grid.SendMessage(WM_NULL);  // rows that were just added may need the bar, which a message's arrival makes
+    m_grid.SendMessage(
+        WM_NULL);  // rows that were just added may need the bar, which a message's arrival makes
     const CWnd* const bar = m_grid.GetDlgItem(1000);
     const auto handle = reinterpret_cast<LPARAM>(bar != nullptr ? bar->m_hWnd : nullptr);
     m_grid.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, position), handle);
