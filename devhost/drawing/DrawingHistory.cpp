@@ -1,5 +1,6 @@
 #include "devhost/drawing/DrawingHistory.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -82,13 +83,13 @@ void CDrawingHistory::RevertCommand(std::vector<Entity>& entities) {
 }
 
 void CDrawingHistory::Undo(Command& command, std::vector<Entity>& entities) {
-    for (auto change = command.rbegin(); change != command.rend(); ++change) {
-        if (change->isClear) {
-            entities.swap(change->entities);
+    std::for_each(command.rbegin(), command.rend(), [&](auto& change) {
+        if (change.isClear) {
+            entities.swap(change.entities);
         } else {
-            MoveTail(entities, entities.size() - change->added, change->entities);
+            MoveTail(entities, entities.size() - change.added, change.entities);
         }
-    }
+    });
 }
 
 void CDrawingHistory::Redo(Command& command, std::vector<Entity>& entities) {

@@ -28,7 +28,7 @@ constexpr const char* initialRows = R"rows(outline "Values" [focused]
   outline item "Ordered" = "2024-03-15" -> Edit
   outline item "Delivered" = "2024-04-02 10:30" -> Edit
   outline item "Paid" = "" -> Edit
-  outline item "Places" [expanded] -> Collapse (-)
+  outline item "Paths" [expanded] -> Collapse (-)
   outline item "Drawing" = "C:\windows\win.ini" -> Edit
   outline item "Archive" = "C:\windows" -> Edit
   outline item "Looks" [expanded] -> Collapse (-)
@@ -106,7 +106,7 @@ TEST_F(Accessible, ScrolledAndCollapsedRowsAreTold) {
     ExpectLines({R"(  outline item "Row 100" = "100" [selected, focused] -> Edit)",
                  R"(  outline item "Basics" [off-screen, expanded] -> Collapse (-))"});
     Do("Many rows");
-    for (const char* section : {"Basics", "Choices", "Dates", "Places", "Looks", "States"}) {
+    for (const char* section : {"Basics", "Choices", "Dates", "Paths", "Looks", "States"}) {
         Do(section);
     }
     ExpectLines({R"(  outline item "States" [collapsed, selected, focused] -> Expand (+))"});
@@ -114,7 +114,7 @@ TEST_F(Accessible, ScrolledAndCollapsedRowsAreTold) {
   outline item "Basics" [collapsed] -> Expand (+)
   outline item "Choices" [collapsed] -> Expand (+)
   outline item "Dates" [collapsed] -> Expand (+)
-  outline item "Places" [collapsed] -> Expand (+)
+  outline item "Paths" [collapsed] -> Expand (+)
   outline item "Looks" [collapsed] -> Expand (+)
   outline item "States" [collapsed, selected, focused] -> Expand (+)
   outline item "Empty" [expanded] -> Collapse (-)

@@ -15,10 +15,10 @@ TEST_F(Author, ARefusedValueIsNamedByItsLabelAndAskedForAgain) {
     ASSERT_TRUE(box.IsValid());
     EXPECT_NE(host.Output().find("Angolo di apertura: il valore deve essere compreso tra 0 e 180."),
               std::string::npos);
-    EXPECT_NE(host.Read("samples/door/door.TXT").find("$9 = \"<<1509>>\"R 75\r\n"), std::string::npos)
-        << "the bad value is no default";
     EXPECT_TRUE(box.PressUntilClosed("Return"));
     ExpectDialog("Porta a battente");
+    EXPECT_NE(host.Read("samples/door/door.TXT").find("$9 = \"<<1509>>\"R 75\r\n"), std::string::npos)
+        << "the bad value is no default";
     Type(8, "80");
     PlaceAt("0,0");
     EXPECT_EQ(Drawing().Arcs(900), 1);
