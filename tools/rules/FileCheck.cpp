@@ -76,7 +76,8 @@ void CFileCheck::CheckRoutine(const ItemFile& file, std::vector<Finding>& findin
 // item.lsp of the samples is.
 void CFileCheck::TakeLoadedTexts(const std::string& routine, const std::filesystem::path& folder) {
     try {
-        for (const std::wstring& load : ReadRoutine(encoding::DecodeUtf8OrWindows1252(routine)).loads) {
+        const auto read = ReadRoutine(encoding::DecodeUtf8OrWindows1252(routine));
+        for (const std::wstring& load : read.loads) {
             for (const std::filesystem::path& place : {folder, folder / ".."}) {
                 const std::string name = NameOf(place / PathOf(encoding::EncodeUtf8(load)));
                 if (IsFile(name)) {
