@@ -34,7 +34,9 @@ std::string TextsOf(const std::string& bytes) {
 }
 
 unsigned Word(const std::string& bytes, std::size_t at) {
-    return static_cast<unsigned char>(bytes[at]) | static_cast<unsigned char>(bytes[at + 1]) << 8;
+    const unsigned low = static_cast<unsigned char>(bytes[at]);
+    const unsigned high = static_cast<unsigned char>(bytes[at + 1]);
+    return low | high << 8;
 }
 
 TEST(StringModuleWriter, WhatIsWrittenIsReadBackInTheOrderOfNumbers) {
