@@ -8,6 +8,7 @@
 
 #include "handles/GdiScopes.h"
 #include "propgrid/editors/GridMessages.h"
+#include "propgrid/editors/PopUpEnd.h"
 
 namespace tavrin::propgrid {
 
@@ -184,7 +185,7 @@ void CPropertyGridCombo::OnKeyDown(UINT key, UINT repeat, UINT flags) {
             ReportChoice();
             break;
         case VK_ESCAPE:
-            DestroyWindow();
+            LeaveToOwner(*this);
             break;
         default:
             CWnd::OnKeyDown(key, repeat, flags);

@@ -5,6 +5,7 @@
 #include "propgrid/editors/PropertyGridMonthCalCtrl.h"
 
 #include "propgrid/editors/GridMessages.h"
+#include "propgrid/editors/PopUpEnd.h"
 
 namespace tavrin::propgrid {
 
@@ -34,7 +35,7 @@ BOOL CPropertyGridMonthCalCtrl::PreCreateWindow(CREATESTRUCT& create) {
 void CPropertyGridMonthCalCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     switch (key) {
         case VK_ESCAPE:
-            DestroyWindow();
+            LeaveToOwner(*this);
             break;
         case VK_RETURN:
         case VK_EXECUTE:  // deliberately: some keyboards send it for Enter
@@ -82,7 +83,7 @@ void CPropertyGridMonthCalCtrl::ReportDate() {
 
 void CPropertyGridMonthCalCtrl::CYearEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     if (key == VK_ESCAPE) {
-        m_calendar.DestroyWindow();
+        LeaveToOwner(m_calendar);
     } else {
         CWnd::OnKeyDown(key, repeat, flags);
     }

@@ -19,7 +19,24 @@ void GridFonts::Create(const CWnd* parent) {
             return;
         }
     }
+    CreateBold(description);
+}
+
+void GridFonts::Replace(HFONT font) {
+    const HGDIOBJ source = font != nullptr ? font : ::GetStockObject(SYSTEM_FONT);
+    LOGFONT description = {};
+    if (::GetObject(source, sizeof(description), &description) == 0) {
+        return;
+    }
+    given = font;
+    normal.DeleteObject();
+    normal.CreateFontIndirect(&description);
+    CreateBold(description);
+}
+
+void GridFonts::CreateBold(LOGFONT description) {
     description.lfWeight = FW_BOLD;
+    bold.DeleteObject();
     bold.CreateFontIndirect(&description);
 }
 
