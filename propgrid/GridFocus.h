@@ -28,7 +28,7 @@ protected:
     CGridFocus() = default;
     ~CGridFocus() = default;
 
-private:
+    // An item, a section or, empty, neither.
     bool SetFocusedRow(const RowId& row);
 };
 
