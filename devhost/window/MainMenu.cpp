@@ -64,7 +64,7 @@ std::wstring WithMnemonic(const std::wstring& title, std::wstring& taken) {
         return L'&' + EscapeAmpersands(title);
     }
     taken += UpperCase(*found);
-    return EscapeAmpersands({title.begin(), found}) + L'&' + Shown({found, title.end()});
+    return EscapeAmpersands({title.begin(), found}) + L'&' + EscapeAmpersands({found, title.end()});
 }
 
 }  // namespace
