@@ -124,18 +124,25 @@ bool CGridTooltip::Create() {
     return true;
 }
 
-// The text of the tooltip stands where the cell's begins. Lines that are wider than half of the screen are
-// wrapped.
+// The text of the tooltip stands where the cell's begins, further left where the monitor ends. Lines that are
+// wider than half of the screen are wrapped.
 void CGridTooltip::Place(const CellText& text) {
     m_window.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(text.font->GetSafeHandle()), FALSE);
     m_window.SendMessage(TTM_SETMAXTIPWIDTH, 0, ::GetSystemMetrics(SM_CXSCREEN) / 2);
     TOOLINFO tool = DescribeTool(m_grid, m_shown.data());
     m_window.SendMessage(TTM_UPDATETIPTEXT, 0, reinterpret_cast<LPARAM>(&tool));
-    CRect place = ToCRect(text.area);
-    m_grid.ClientToScreen(&place);
-    m_window.SendMessage(TTM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&place));
-    m_window.SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(place.left, place.top));
+    CRect over = ToCRect(text.area);
+    m_grid.ClientToScreen(&over);
+    m_window.SendMessage(TTM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(&over));
+    m_window.SendMessage(TTM_TRACKPOSITION, 0, MAKELPARAM(over.left, over.top));
     m_window.SendMessage(TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof(monitor);
+    ::GetMonitorInfo(::MonitorFromWindow(m_grid.m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor);
+    CRect size;
+    m_window.GetWindowRect(&size);
+    const LONG left = std::max(monitor.rcWork.left, std::min(over.left, monitor.rcWork.right - size.Width()));
+    m_window.SetWindowPos(nullptr, left, over.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace tavrin::propgrid

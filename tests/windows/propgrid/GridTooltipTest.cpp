@@ -63,6 +63,16 @@ TEST_F(GridTooltip, StandsOverTheCellInItsFont) {
     EXPECT_EQ(shown.lfHeight, font.lfHeight);
 }
 
+TEST_F(GridTooltip, StaysOnTheScreen) {
+    const UINT item = grid.AddStringItem(Section(), L"name", longText);
+    const int screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
+    parent.SetWindowPos(nullptr, screenWidth - 300, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Hover(ValueOf(item));
+    CRect shown;
+    ::GetWindowRect(Find(), &shown);
+    EXPECT_EQ(shown.right, screenWidth);
+}
+
 TEST_F(GridTooltip, ShowsNothingThatFitsItsCell) {
     const UINT item = grid.AddStringItem(Section(), L"name", L"text");
     Hover(NameOf(item));
