@@ -134,10 +134,13 @@ Hit CGridLayout::HitTest(Point point) const {
     if (m_model.settings.IsCategorized() && HitSection(point, hit)) {
         return hit;
     }
-    const GridItem* const item = FindItemAt(point);
-    if (item != nullptr && m_model.CanFocus(*item)) {
-        hit.part = GetValueRect(*item).Contains(point) ? HP_VALUE : HP_NAME;
-        hit.item = item->id;
+    for (const GridSection* const section : m_model.GetSections()) {
+        const GridItem* const item = FindItemOf(*section, point);
+        if (item != nullptr && m_model.CanFocus(*item)) {
+            hit.part = GetValueRect(*item).Contains(point) ? HP_VALUE : HP_NAME;
+            hit.item = item->id;
+            break;
+        }
     }
     return hit;
 }
