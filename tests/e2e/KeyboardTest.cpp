@@ -120,6 +120,18 @@ TEST_F(KeyboardAlone, AVariantIsChosenByItsDigitAndDrawn) {
     EXPECT_FALSE(host.Read("drawing.svg").empty());
 }
 
+TEST_F(KeyboardAlone, APreviewIsConfirmedWithEnterAndLeftWithEscape) {
+    UseSamples();
+    for (const auto& [key, answer] : {std::pair("Return", "0"), std::pair("Escape", "nil")}) {
+        host.Start({"--search", "samples/door", "--eval", R"((tavrinprevmask "door_preview"))"});
+        const Window preview = Window::WithoutTitle("devhost.exe");
+        ASSERT_TRUE(preview.IsValid()) << host.Errors();
+        preview.LookWhenStill();
+        preview.Press(key);
+        EXPECT_EQ(Answer(), answer) << key;
+    }
+}
+
 class GalleryByKeyboard : public GalleryWindow {};
 
 TEST_F(GalleryByKeyboard, AListABooleanAndATextAreChanged) {
