@@ -46,9 +46,16 @@ void CItemMenu::Watch() {
         PrintDifference(before, m_catalog.Items(), L"removed");
         AddToSearchPath(m_catalog, m_searchPath);
         Offer();
+        NotifyRescan();
     }
     for (const Item& item : changes.changed) {
         m_check.Check(item);
+    }
+}
+
+void CItemMenu::NotifyRescan() {
+    if (m_onRescan) {
+        m_onRescan();
     }
 }
 
@@ -66,6 +73,7 @@ void CItemMenu::PrintDifference(const std::vector<Item>& items, const std::vecto
 
 void CItemMenu::CheckAll() {
     Watch();
+    NotifyRescan();
     m_check.Forget();
     for (const Item& item : m_catalog.Items()) {
         m_check.Check(item);

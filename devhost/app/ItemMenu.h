@@ -2,6 +2,8 @@
 // looked for again from time to time.
 #pragma once
 
+#include <functional>
+
 #include "devhost/app/ItemCatalog.h"
 #include "devhost/app/ItemCheck.h"
 #include "devhost/app/SearchPath.h"
@@ -19,6 +21,8 @@ public:
     CItemMenu& operator=(const CItemMenu&) = delete;
 
     CItemCheck& Check() { return m_check; }
+    // Called after items were added or removed, and after the user had them looked for again.
+    void SetRescanListener(std::function<void()> onRescan) { m_onRescan = std::move(onRescan); }
 
 private:
     void Offer();
@@ -27,6 +31,7 @@ private:
     void Watch();
     void PrintDifference(const std::vector<Item>& items, const std::vector<Item>& others,
                          const std::wstring& what);
+    void NotifyRescan();
     // Checks all items and prints all findings.
     void CheckAll();
 
@@ -36,6 +41,7 @@ private:
     CTextOutput& m_output;
     CMainWindow& m_window;
     CItemCheck m_check;
+    std::function<void()> m_onRescan;
 };
 
 // Adds the items' folders to the search path, each item's before its parent, except those that it has.

@@ -196,10 +196,23 @@ void WarnBeforeDialog(const std::wstring& function, std::span<const lisp::CValue
     }
 }
 
-// The commands of the menus Drawing, Plug-in and Help.
-void SetCommands(const CDrawing& drawing, CChosenTexts& texts, CPlugIn& plugIn, CTextOutput& output,
-                 CMainWindow& window) {
-    window.SetReloadHandler([&] { Reload(plugIn, output, [&] { texts.Reload(); }); });
+// The menu Language and Plug-in > Reload. Modules of texts that were made meanwhile are offered too: after a
+// reload, and when items are looked for again.
+void KeepLanguages(const std::vector<std::wstring>& itemFolders, CChosenTexts& texts, CPlugIn& plugIn,
+                   CTextOutput& output, CMainWindow& window, CItemMenu& items) {
+    const auto offer = [=, &texts, &plugIn, &output, &window] {
+        OfferLanguages(itemFolders, texts, plugIn, output, window);
+    };
+    offer();
+    items.SetRescanListener(offer);
+    window.SetReloadHandler([=, &texts, &plugIn, &output] {
+        Reload(plugIn, output, [&] { texts.Reload(); });
+        offer();
+    });
+}
+
+// The commands of the menus Drawing and Help.
+void SetCommands(const CDrawing& drawing, CTextOutput& output, CMainWindow& window) {
     window.SetHelpHandler([&] { OpenDocumentation(output); });
     window.SetSaveHandler([&](const std::wstring& path) {
         if (WriteDrawing(drawing, path)) {
@@ -252,8 +265,8 @@ int Run(const Options& options, CTextOutput& output) {
         WarnBeforeDialog(function, arguments, searchPath, items.Check());
     });
     window.SetPasteHandler(lisp::OnOneLine);
-    OfferLanguages(itemFolders, texts, plugIn, output, window);
-    SetCommands(drawing, texts, plugIn, output, window);
+    KeepLanguages(itemFolders, texts, plugIn, output, window, items);
+    SetCommands(drawing, output, window);
     window.Show();
     const int status = session.RunTasks(tasks);
     if (tasks.empty() || options.stay) {

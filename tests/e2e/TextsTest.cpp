@@ -92,6 +92,36 @@ TEST_F(Texts, TheLanguageIsChosenInTheMenuWhileDevHostRuns) {
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }
 
+// What a translator does: DevHost runs, and the module of another language is made.
+TEST_F(Texts, AModuleThatIsMadeWhileDevHostRunsIsOfferedAfterReloadOrRescan) {
+    fs::create_directories(host.Folder() / "mine");
+    Tavrincheck("new cabinet --in mine");
+    host.Start({"--items", "mine", "--stay", "--eval", "(load \"item.lsp\")"});
+    const Window main = Window::WithTitle("DevHost");
+    ASSERT_TRUE(main.IsValid()) << host.Errors();
+    main.LookWhenStill();
+    host.Write("de.rc", "LANGUAGE LANG_GERMAN, SUBLANG_GERMAN\nSTRINGTABLE { 1501 \"Schrank\" }\n");
+    Tavrincheck("texts de.rc -o mine/texts/de/TavrinRes.dll");
+    ASSERT_TRUE(main.Activate());
+    main.Press("F5");
+    EXPECT_TRUE(WaitUntil([&] { return host.Output().find("loaded again") != std::string::npos; }));
+    ChooseInMenu(main, "alt+l", "g");
+    EXPECT_TRUE(WaitUntil([&] {
+        return host.Output().find("mine\\texts\\de\\TavrinRes.dll") != std::string::npos;
+    })) << host.Output();
+    host.Write("fr.rc", "LANGUAGE LANG_FRENCH, SUBLANG_FRENCH\nSTRINGTABLE { 1501 \"Armoire\" }\n");
+    Tavrincheck("texts fr.rc -o mine/texts/fr/TavrinRes.dll");
+    ChooseInMenu(main, "alt+i", "r");
+    EXPECT_TRUE(WaitUntil([&] { return host.Output().find("1 item checked") != std::string::npos; }));
+    ChooseInMenu(main, "alt+l", "f");
+    EXPECT_TRUE(WaitUntil([&] {
+        return host.Output().find("mine\\texts\\fr\\TavrinRes.dll") != std::string::npos;
+    })) << host.Output();
+    ASSERT_TRUE(main.Activate());
+    EXPECT_TRUE(main.PressUntilClosed("alt+F4"));
+    EXPECT_EQ(host.Wait(), 0) << host.Errors();
+}
+
 TEST_F(Texts, AFileThatIsReplacedIsReadAgainByReload) {
     UseSamples();
     Tavrincheck("texts " + ScriptIn("it") + " -o Chosen.dll");

@@ -119,6 +119,27 @@ std::wstring TitleOf(const std::string& name) {
     return title;
 }
 
+bool IsItalian(unsigned languageId) {
+    constexpr unsigned kPrimaryLanguage = 0x3FF;
+    constexpr unsigned kItalian = 0x10;
+    return (languageId & kPrimaryLanguage) == kItalian;
+}
+
+struct SharedText {
+    unsigned number;
+    const wchar_t* english;
+    const wchar_t* italian;
+};
+
+// As the scripts of the sample items have them.
+constexpr SharedText kSharedTexts[] = {
+    {5101, L"The working file lacks a value: %1.", L"Nel file di lavoro manca il valore: %1."},
+    {5102, L"%1 must not be negative.", L"%1: il valore non pu\u00F2 essere negativo."},
+    {5103, L"%1 must not be more than 1000000.", L"%1: il valore non pu\u00F2 superare 1000000."},
+    {5104, L"%1 must be more than 0.", L"%1: il valore deve essere maggiore di 0."},
+    {5105, L"%1 must lie between %2 and %3.", L"%1: il valore deve essere compreso tra %2 e %3."},
+    {5106, L"Parameter %1", L"Parametro %1"}};
+
 }  // namespace
 
 std::string ObjectionToName(std::string_view name) {
@@ -155,12 +176,20 @@ std::vector<NewFile> FilesOfNewItem(const std::string& name, unsigned firstText)
 }
 
 std::vector<NewText> TextsOfNewItem(const std::string& name, unsigned firstText, unsigned languageId) {
-    constexpr unsigned kPrimaryLanguage = 0x3FF;
-    constexpr unsigned kItalian = 0x10;
-    const bool isItalian = (languageId & kPrimaryLanguage) == kItalian;
+    const bool isItalian = IsItalian(languageId);
     return {{firstText, TitleOf(name)},
             {firstText + 1, isItalian ? L"Larghezza" : L"Width"},
             {firstText + 2, isItalian ? L"Altezza" : L"Height"}};
+}
+
+std::vector<NewText> TextsOfSharedRoutine(std::string_view routine, unsigned languageId) {
+    std::vector<NewText> texts;
+    for (const SharedText& text : kSharedTexts) {
+        if (routine.find("(item-words " + std::to_string(text.number)) != routine.npos) {
+            texts.push_back({text.number, IsItalian(languageId) ? text.italian : text.english});
+        }
+    }
+    return texts;
 }
 
 unsigned FirstFreeText(const std::vector<CTextTable>& scripts) {
@@ -170,7 +199,8 @@ unsigned FirstFreeText(const std::vector<CTextTable>& scripts) {
         });
     };
     for (unsigned first = kFirstRange; first + kRange <= kHighestText; first += kRange) {
-        if (std::none_of(scripts.begin(), scripts.end(),
+        if (first != kSharedTexts[0].number &&
+            std::none_of(scripts.begin(), scripts.end(),
                          [&](const CTextTable& script) { return isTaken(script, first); })) {
             return first;
         }

@@ -27,6 +27,10 @@ std::vector<NewFile> FilesOfNewItem(const std::string& name, unsigned firstText)
 // The texts for the template: its title and labels, in Italian or, for all other languages, in English.
 std::vector<NewText> TextsOfNewItem(const std::string& name, unsigned firstText, unsigned languageId);
 
+// The texts that a routine such as item.lsp shows by their numbers, in Italian or, for all other languages,
+// in English: those of item.lsp's own checks.
+std::vector<NewText> TextsOfSharedRoutine(std::string_view routine, unsigned languageId);
+
 // The first number, from 1501 on, of a range of 99 numbers that no text has: 1501, 1601 and so on. Throws
 // CToolError when there is none.
 unsigned FirstFreeText(const std::vector<CTextTable>& scripts);

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "cmdline/CommandLine.h"
 #include "tools/files/Files.h"
+#include "tools/files/Folders.h"
 #include "tools/newitem/NewItem.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/tavrincheck/TextsCommand.h"
@@ -25,9 +27,10 @@ constexpr const char* kHelp = R"(tavrincheck new: writes the files of a new item
   tavrincheck new NAME [--in FOLDER] [--machine x64|x86]
 
 Writes into FOLDER/NAME a template with two parameters, a picture, the slides of two variants and a LISP routine that
-draws a rectangle. Its texts are added to each script FOLDER/texts/TavrinRes.LANGUAGE.rc, which is then compiled into
-FOLDER/texts/LANGUAGE/TavrinRes.dll. A missing script, in English, is created, and so are the files
-that all items share: item.lsp, logo.png, empty.png. The item can be tried at once: DevHost.exe --items FOLDER.
+draws a rectangle. Its texts, and those of item.lsp's checks, are added to each script
+FOLDER/texts/TavrinRes.LANGUAGE.rc, which is then compiled into FOLDER/texts/LANGUAGE/TavrinRes.dll. A missing script
+is created in English. So are the files that all items share: item.lsp, logo.png, empty.png. The item can be tried at
+once: DevHost.exe --items FOLDER.
 
   --in FOLDER    the folder of the items (default: the current folder)
   --machine M    x64 for a 64-bit DevHost, x86 for a 32-bit one (default: that of this program, x64 under Linux)
@@ -100,15 +103,26 @@ std::vector<Script> ReadScripts(const std::string& folder) {
     return scripts;
 }
 
-// The script with the texts of the new item.
+// What the items' own item.lsp says, or the one that will be written.
+std::string SharedRoutineIn(const std::string& folder) {
+    const fs::path routine = PathOf(folder) / "item.lsp";
+    return fs::exists(routine) ? ReadBytes(NameOf(routine)) : kSharedRoutine;
+}
+
+// The script with the texts of the new item, and with those of item.lsp that it lacks.
 Script WithTexts(const std::string& folder, const Script& script, const std::string& item,
                  unsigned firstText) {
     const unsigned language = script.texts.Languages().empty()
                                   ? kDefaultLanguage
                                   : script.texts.LanguageIdOf(0).value_or(kDefaultLanguage);
+    std::vector<NewText> texts = TextsOfNewItem(item, firstText, language);
+    for (NewText& text : TextsOfSharedRoutine(SharedRoutineIn(folder), language)) {
+        if (script.texts.Find(text.number) == nullptr) {
+            texts.push_back(std::move(text));
+        }
+    }
     const std::vector<LineEdit> edits =
-        EditsOfScript(NameOf(PathOf(folder) / PathOf(script.name)), script.bytes,
-                      TextsOfNewItem(item, firstText, language));
+        EditsOfScript(NameOf(PathOf(folder) / PathOf(script.name)), script.bytes, texts);
     return ScriptOf(folder, NameOf(PathOf(script.name).filename()),
                     Edited(LinesWithEnds(script.bytes), edits));
 }
@@ -153,11 +167,7 @@ void CheckFolders(const std::string& folder, const std::string& item) {
 
 void Write(const std::string& folder, const NewFile& file) {
     const fs::path path = PathOf(folder) / PathOf(file.name);
-    std::error_code error;
-    fs::create_directories(path.parent_path(), error);
-    if (error) {
-        throw CToolError(NameOf(path.parent_path()) + ": the folder cannot be created");
-    }
+    CreateFolderOf(NameOf(path));
     WriteBytes(NameOf(path), file.bytes);
     Print(NameOf(path.lexically_normal()) + "\n");
 }
@@ -176,8 +186,8 @@ int RunNew(const std::vector<std::string>& arguments) {
         Write(options.folder, file);
     }
     Print("To try it: DevHost.exe --items " + options.folder + ", then Items > " + item + ".\n" +
-          "After a change of a text: tavrincheck texts SCRIPT -o MODULE with the names above, then Language "
-          "in DevHost.\n");
+          "After a change of a text: tavrincheck texts SCRIPT -o MODULE with the names above, then F5 in "
+          "DevHost.\n");
     return 0;
 }
 

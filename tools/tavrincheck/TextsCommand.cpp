@@ -7,6 +7,7 @@
 
 #include "cmdline/CommandLine.h"
 #include "tools/files/Files.h"
+#include "tools/files/Folders.h"
 #include "tools/tavrincheck/Output.h"
 #include "tools/texts/LineError.h"
 #include "tools/texts/StringModule.h"
@@ -24,7 +25,7 @@ constexpr const char* kHelp = R"(tavrincheck texts: makes TavrinRes.dll from its
 The texts of all files go into one module. A FILE is a script, or a module whose texts are taken over. The same texts
 give the same bytes.
 
-  -o MODULE      the module to write, such as TavrinRes.dll; the host loads it by this name
+  -o MODULE      the module to write, such as TavrinRes.dll; the host loads it by this name. A missing folder is made
   --machine M    x64 for a 64-bit host, x86 for a 32-bit one (default: that of this program, x64 under Linux)
   -h, --help     print this help
 )";
@@ -125,7 +126,9 @@ int RunTexts(const std::vector<std::string>& arguments) {
     for (const std::string& file : options.files) {
         table.ReadFile(file);
     }
-    WriteBytes(options.module, ModuleOf(table, options.machine));
+    const std::string module = ModuleOf(table, options.machine);
+    CreateFolderOf(options.module);
+    WriteBytes(options.module, module);
     const std::size_t count = table.Texts().size();
     Print(options.module + ": " + std::to_string(count) + (count == 1 ? " text" : " texts") + ", for " +
           MachineName(options.machine) + " hosts\n");

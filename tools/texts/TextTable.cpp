@@ -22,6 +22,18 @@ struct CTextTable::Reading {
     std::vector<Entry> entries;
 };
 
+namespace {
+
+// A script that was copied to be translated has the language of the original, until its line LANGUAGE is
+// changed.
+std::string HintAtLanguage(const std::string& language, bool isOtherFile) {
+    return isOtherFile ? "; both are in the language " + language +
+                             ": is a line LANGUAGE wrong, or does another item use the number?"
+                       : "";
+}
+
+}  // namespace
+
 void CTextTable::ReadFile(const std::string& name) {
     const std::size_t before = m_texts.size();
     ReadBytes(name, tools::ReadBytes(name));
@@ -66,9 +78,10 @@ void CTextTable::Add(Reading reading) {
             whole.m_indices.try_emplace({entry.number, language->second}, whole.m_texts.size());
         if (!isFirst) {
             const TextEntry& other = whole.m_texts[index->second];
-            const std::string message = "text " + std::to_string(entry.number) + " already exists, in " +
-                                        whole.m_files[other.file] +
-                                        (other.line != 0 ? ":" + std::to_string(other.line) : "");
+            const std::string message =
+                "text " + std::to_string(entry.number) + " already exists, in " + whole.m_files[other.file] +
+                (other.line != 0 ? ":" + std::to_string(other.line) : "") +
+                HintAtLanguage(entry.language, other.file + 1 != whole.m_files.size());
             throw entry.line != 0 ? LineError(reading.file, entry.line, message)
                                   : CToolError(reading.file + ": " + message);
         }

@@ -63,6 +63,25 @@ TEST_F(NewCommand, AmongTheSamplesTheTextsAreAddedInBothLanguages) {
     EXPECT_EQ(check.status, 0) << check.output;
 }
 
+// So that a translation of the script translates them too.
+TEST_F(NewCommand, TheTextsOfTheSharedRoutineAreAddedOnceInTheLanguageOfTheScript) {
+    fs::create_directories(folder.Path("texts"));
+    folder.Write("texts/TavrinRes.it.rc",
+                 "LANGUAGE LANG_ITALIAN, SUBLANG_ITALIAN\nSTRINGTABLE { 5104 \"mio\" }\n");
+    folder.Write("texts/TavrinRes.en.rc", "LANGUAGE 9, 1\nSTRINGTABLE { 1 \"one\" }\n");
+    Make("one");
+    Make("two");
+    for (const std::string language : {"en", "it"}) {
+        CTextTable samples;
+        samples.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes." + language + ".rc");
+        for (const unsigned number : {5101U, 5102U, 5103U, 5105U, 5106U}) {
+            EXPECT_EQ(TextIn("texts/" + language + "/TavrinRes.dll", number), samples.Load(number));
+        }
+    }
+    EXPECT_EQ(TextIn("texts/it/TavrinRes.dll", 5104), L"mio");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5107), L"");
+}
+
 TEST_F(NewCommand, EachItemHasARangeOfItsOwn) {
     Make("one");
     Make("two");

@@ -54,6 +54,15 @@ TEST_F(TextsCommand, TheMachineIsThatOfTheHost) {
               "invalid value 'arm' for option '--machine': expected x64 or x86");
 }
 
+TEST_F(TextsCommand, TheFolderOfTheModuleIsMade) {
+    const std::string script = folder.Write("t.rc", "LANGUAGE 7, 1\nSTRINGTABLE { 7 \"sieben\" }\n");
+    Run({script, "-o", folder.Path("texts/de/TavrinRes.dll")});
+    EXPECT_EQ(TextsOf("texts/de/TavrinRes.dll"), "7 1031 sieben|");
+    folder.Write("u.rc", "LANGUAGE LANG_KLINGON, 1\nSTRINGTABLE { 7 \"a\" }\n");
+    ErrorOf({folder.Path("u.rc"), "-o", folder.Path("none/a.dll")});
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("none")));
+}
+
 TEST_F(TextsCommand, WithoutALanguageTheTextsAreThoseOfTheResourceCompilersDefault) {
     Run({folder.Write("t.rc", "STRINGTABLE { 7 \"seven\" }\n"), "-o", folder.Path("a.dll")});
     EXPECT_EQ(TextsOf("a.dll"), "7 1033 seven|");
@@ -93,7 +102,7 @@ TEST_F(TextsCommand, ErrorsSayWhatToDo) {
     EXPECT_EQ(ErrorOf({folder.Path("no.rc"), "-o", "a.dll"}), "no.rc: the file cannot be opened");
     EXPECT_EQ(ErrorOf({script, "-o", script}),
               "t.rc: this file exists and is not a module, choose another name");
-    EXPECT_EQ(ErrorOf({script, "-o", folder.Path("none/a.dll")}), "none/a.dll: the file cannot be written");
+    EXPECT_EQ(ErrorOf({script, "-o", script + "/a.dll"}), "t.rc: the folder cannot be created");
     EXPECT_EQ(
         ErrorOf({folder.Write("u.rc", "LANGUAGE LANG_KLINGON, 1\nSTRINGTABLE { 7 \"a\" }\n"), "-o",
                  folder.Path("a.dll")}),
