@@ -149,8 +149,8 @@ void CMonkey::OpenNextEditor() {
     if (grid.GetItemRects(m_nextItem++, name, value) && !value.IsRectEmpty()) {
         const CPoint middle = value.CenterPoint();
         const LPARAM position = MAKELPARAM(middle.x, middle.y);
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-            grid.PostMessage(message, 0, position);
+        for (const int message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+            grid.PostMessage(static_cast<UINT>(message), 0, position);
         }
     }
 }

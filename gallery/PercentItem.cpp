@@ -23,7 +23,7 @@ void CPercentItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
     // Filling has set an opaque background; the text stands on the bar.
     dc.SetBkMode(TRANSPARENT);
     CRect text = rect;
-    text.left += m_pGrid->GetTextMargin();
+    text.left += propgrid::CPropertyGrid::GetTextMargin();
     dc.DrawText(GetStringValue().c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 

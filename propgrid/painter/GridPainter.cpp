@@ -137,7 +137,7 @@ void CGridPainter::PaintRows(PaintTools& tools) {
 }
 
 // Before a custom item draws, which may draw anywhere and may add rows.
-void CGridPainter::PaintBelowRows(PaintTools& tools) {
+void CGridPainter::PaintBelowRows(PaintTools& tools) const {
     CRect below = tools.picture;
     below.top = std::exchange(tools.picture.bottom, tools.area.bottom);
     below.bottom = tools.area.bottom;
@@ -174,7 +174,7 @@ void CGridPainter::PaintHeader(PaintTools& tools, const Rect& row, const GridSec
 }
 
 // A minus in a frame, a plus for a collapsed section.
-void CGridPainter::PaintGlyph(PaintTools& tools, int top, bool collapsed) {
+void CGridPainter::PaintGlyph(PaintTools& tools, int top, bool collapsed) const {
     const Color color = m_model.settings.colors.title;
     CBrush brush;
     brush.CreateSolidBrush(color);
@@ -283,7 +283,7 @@ void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const CRec
 }
 
 // Returns where the swatch ends.
-int CGridPainter::PaintSwatch(PaintTools& tools, const CRect& cell, Color color) {
+int CGridPainter::PaintSwatch(PaintTools& tools, const CRect& cell, Color color) const {
     CRect swatch(cell.left, cell.top + 3, cell.left + cell.Height(), cell.bottom - 2);
     CBrush textBrush;
     textBrush.CreateSolidBrush(m_model.settings.colors.text);
