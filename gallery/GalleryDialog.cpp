@@ -81,6 +81,7 @@ void PrintLine(const std::wstring& line) {
 CGalleryDialog::CGalleryDialog() : CDialog(IDD_GALLERY), m_gloss(kInitialGloss) {
     m_grid.SetUndefinedText(L"(not given)");
     m_grid.SetAccessibleName(L"Values");
+    m_grid.SetKeyboardEditing(true);
     Fill();
 }
 

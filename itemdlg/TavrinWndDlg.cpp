@@ -48,6 +48,7 @@ void CTavrinWndDlg::DoDataExchange(CDataExchange* pDX) {
 
 BEGIN_MESSAGE_MAP(CTavrinWndDlg, CDialog)
     ON_WM_CTLCOLOR()
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &CTavrinWndDlg::OnSysColorChange)
     ON_BN_CLICKED(IDOK, &CTavrinWndDlg::OnClickedOk)
 END_MESSAGE_MAP()
 
@@ -98,6 +99,12 @@ HBRUSH CTavrinWndDlg::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT /*nCtlColor*/) {
     }
     pDC->SetBkColor(kHeaderColor);
     return m_headerBrush;
+}
+
+// Windows tells top-level windows alone.
+LRESULT CTavrinWndDlg::OnSysColorChange(WPARAM /*zero*/, LPARAM /*alsoZero*/) {
+    m_grid.SendMessage(WM_SYSCOLORCHANGE);
+    return Default();
 }
 
 // Closes with IDOK whatever happened to the files: what went wrong was shown.

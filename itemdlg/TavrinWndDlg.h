@@ -63,6 +63,7 @@ protected:
     }
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
+    LRESULT OnSysColorChange(WPARAM zero, LPARAM alsoZero);
     void OnClickedOk();
     DECLARE_MESSAGE_MAP()
 

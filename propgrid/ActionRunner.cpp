@@ -61,7 +61,7 @@ void CActionRunner::Do(const action::AskCustomItem& question) {
     }
 }
 
-void CActionRunner::Do(const action::TellCustomItem& event) {
+void CActionRunner::Do(const action::NotifyCustomItem& event) {
     if (ICustomItem* const custom = FindCustomItem(event.item)) {
         const auto operation = event.event == CE_MOVE ? &ICustomItem::OnMouseMove : &ICustomItem::OnLButtonUp;
         (custom->*operation)(ToCRect(event.value), ToCPoint(event.point));

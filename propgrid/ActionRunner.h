@@ -54,7 +54,7 @@ private:
     void Do(const action::Relayout& relayout);
     void Do(const action::ScrollTo& scroll);
     void Do(const action::AskCustomItem& question);
-    void Do(const action::TellCustomItem& event);
+    void Do(const action::NotifyCustomItem& event);
     void Do(const action::OpenTextEdit& edit);
     void Do(const action::DropDown& list);
     void Do(const action::EditInDialog& dialog);

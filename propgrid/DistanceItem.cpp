@@ -1,13 +1,12 @@
 #include "propgrid/DistanceItem.h"
 
 #include "propgrid/PropertyGrid.h"
+#include "propgrid/painter/ModifiedMark.h"
 #include "sds/sds.h"
 
 namespace tavrin::propgrid {
 
 namespace {
-
-constexpr COLORREF kChangedColor = RGB(255, 255, 80);
 
 // The drawing's linear unit format. Whether it could be read is deliberately not asked: the host's
 // conversions then run with 0 and decide.
@@ -56,8 +55,7 @@ int CDistanceItem::GetEditMode() {
 
 void CDistanceItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
     if (m_value != m_reference) {
-        dc.SetBkMode(OPAQUE);
-        dc.SetBkColor(kChangedColor);
+        MarkModified(dc);
     }
     const std::wstring text = GetStringValue();
     rect.left += CPropertyGrid::GetTextMargin();

@@ -1,24 +1,44 @@
 #include "propgrid/GridColoring.h"
 
+#include <iterator>
+
 namespace tavrin::propgrid {
 
 namespace {
 
-Color SystemColor(int index) {
-    return static_cast<Color>(::GetSysColor(index));
-}
+// What each colour is taken from.
+struct ColorRole {
+    Color GridColors::*color;
+    int systemIndex;
+};
+constexpr ColorRole kRoles[] = {
+    {&GridColors::text, COLOR_WINDOWTEXT},     {&GridColors::title, COLOR_WINDOWTEXT},
+    {&GridColors::back, COLOR_WINDOW},         {&GridColors::shade, COLOR_BTNFACE},
+    {&GridColors::focus, COLOR_HIGHLIGHT},     {&GridColors::focusText, COLOR_HIGHLIGHTTEXT},
+    {&GridColors::editable, COLOR_WINDOWTEXT}, {&GridColors::nonEditable, COLOR_GRAYTEXT},
+};
 
 }  // namespace
 
 CGridColoring::CGridColoring() {
-    m_model.settings.colors = {.text = SystemColor(COLOR_WINDOWTEXT),
-                               .title = SystemColor(COLOR_WINDOWTEXT),
-                               .back = SystemColor(COLOR_WINDOW),
-                               .shade = SystemColor(COLOR_BTNFACE),
-                               .focus = SystemColor(COLOR_HIGHLIGHT),
-                               .focusText = SystemColor(COLOR_HIGHLIGHTTEXT),
-                               .editable = SystemColor(COLOR_WINDOWTEXT),
-                               .nonEditable = SystemColor(COLOR_GRAYTEXT)};
+    TakeSystemColors();
+}
+
+void CGridColoring::TakeSystemColors() {
+    static_assert(std::size(kRoles) == kColorRoles);
+    for (std::size_t index = 0; index < kColorRoles; ++index) {
+        if (!m_setByClient[index]) {
+            const DWORD color = ::GetSysColor(kRoles[index].systemIndex);
+            m_model.settings.colors.*kRoles[index].color = static_cast<Color>(color);
+        }
+    }
+}
+
+void CGridColoring::ChangeColor(Color GridColors::*color, COLORREF value) {
+    for (std::size_t index = 0; index < kColorRoles; ++index) {
+        m_setByClient[index] = m_setByClient[index] || kRoles[index].color == color;
+    }
+    Change(m_model.settings.colors.*color, static_cast<Color>(value));
 }
 
 }  // namespace tavrin::propgrid

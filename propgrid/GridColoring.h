@@ -1,5 +1,8 @@
-// The colours of the grid, taken from the system when it is constructed. Every setter repaints.
+// The colours of the grid, taken from the system when it is constructed and when the system's change. A
+// colour that the client has set stays. Every setter repaints.
 #pragma once
+
+#include <bitset>
 
 #include "propgrid/GridClient.h"
 
@@ -28,11 +31,16 @@ protected:
     CGridColoring();
     ~CGridColoring() = default;
 
+    // Where the client set none.
+    void TakeSystemColors();
+
 private:
+    static constexpr std::size_t kColorRoles = 8;
+
     const GridColors& Colors() const { return m_model.settings.colors; }
-    void ChangeColor(Color GridColors::*color, COLORREF value) {
-        Change(m_model.settings.colors.*color, static_cast<Color>(value));
-    }
+    void ChangeColor(Color GridColors::*color, COLORREF value);
+
+    std::bitset<kColorRoles> m_setByClient;
 };
 
 }  // namespace tavrin::propgrid

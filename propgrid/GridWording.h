@@ -33,6 +33,10 @@ protected:
     CGridWording() = default;
     ~CGridWording() = default;
 
+    // Takes the captions of the buttons, where they are still empty, from the controls 1 and 2 of a parent,
+    // which may be null.
+    void TakeCaptions(const CWnd* parent);
+
 private:
     const GridTexts& Texts() const { return m_model.settings.texts; }
 };

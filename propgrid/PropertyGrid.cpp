@@ -28,6 +28,10 @@ BEGIN_MESSAGE_MAP(CPropertyGrid, CWnd)
     ON_MESSAGE(WM_MOVE, &CPropertyGrid::OnMove)
     ON_MESSAGE(WM_PRINTCLIENT, &CPropertyGrid::OnPrintClient)
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_ENABLE, &CPropertyGrid::OnEnable)
+    ON_MESSAGE(WM_SETFONT, &CPropertyGrid::OnSetFont)
+    ON_MESSAGE(WM_GETFONT, &CPropertyGrid::OnGetFont)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &CPropertyGrid::OnSysColorChange)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()
@@ -106,26 +110,10 @@ void CPropertyGrid::Initialize() {
     if (_wcsicmp(windowClass, L"Static") == 0) {
         ModifyStyle(0, SS_NOTIFY | WS_TABSTOP);
     }
-    TakeParentText(IDOK, L"OK", m_model.settings.texts.ok);
-    TakeParentText(IDCANCEL, L"Cancel", m_model.settings.texts.cancel);
+    TakeCaptions(GetParent());
     // Rows that were added before there was a window to lay them out in.
     if (m_model.GetRowCount() > 0) {
         Relayout();
-    }
-}
-
-// Fills a text that is still empty with the caption of one of the parent's controls.
-void CPropertyGrid::TakeParentText(int controlId, const wchar_t* otherwise, std::wstring& text) const {
-    if (!text.empty()) {
-        return;
-    }
-    text = otherwise;
-    const CWnd* const parent = GetParent();
-    const CWnd* const control = parent != nullptr ? parent->GetDlgItem(controlId) : nullptr;
-    if (control != nullptr) {
-        CString caption;
-        control->GetWindowText(caption);
-        text = caption.GetString();
     }
 }
 
@@ -136,6 +124,7 @@ LRESULT CPropertyGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     return tavrin::memory::FenceMemory([&] {
         SettleLayout();
+        m_tooltip.Watch(message, lParam, IsEditing());
         return CWnd::WindowProc(message, wParam, lParam);
     });
 }
@@ -214,8 +203,13 @@ LRESULT CPropertyGrid::OnMove(WPARAM /*zero*/, LPARAM /*position*/) {
 
 void CPropertyGrid::Repaint() {
     if (GetSafeHwnd() != nullptr) {
+        m_tooltip.Hide();
         Invalidate();
     }
+}
+
+PaintState CPropertyGrid::GetPaintState() const {
+    return {.buttonPressed = m_mouse.IsButtonPressed(), .enabled = IsWindowEnabled() != FALSE};
 }
 
 // The whole window counts as painted, whatever a custom item did to it.
@@ -223,7 +217,7 @@ void CPropertyGrid::OnPaint() {
     {
         CPaintDC dc(this);
         UpdateView();
-        if (m_painter.PaintWindow(dc, m_mouse.IsButtonPressed())) {
+        if (m_painter.PaintWindow(dc, GetPaintState())) {
             ValidateRect(nullptr);
         }
     }
@@ -239,8 +233,40 @@ BOOL CPropertyGrid::OnEraseBkgnd(CDC* /*dc*/) {
 
 LRESULT CPropertyGrid::OnPrintClient(WPARAM dc, LPARAM /*flags*/) {
     UpdateView();
-    m_painter.PaintCopy(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), m_mouse.IsButtonPressed());
+    m_painter.PaintCopy(*CDC::FromHandle(reinterpret_cast<HDC>(dc)), GetPaintState());
     return 0;
+}
+
+// ---- What the look depends on
+
+// A static control's default handling would draw over the rows.
+LRESULT CPropertyGrid::OnEnable(WPARAM /*enabled*/, LPARAM /*zero*/) {
+    Repaint();
+    return 0;
+}
+
+LRESULT CPropertyGrid::OnSetFont(WPARAM font, LPARAM /*redraw*/) {
+    LeaveEditor();
+    if (GetSafeHwnd() == nullptr) {
+        return 0;
+    }
+    m_fonts.Replace(reinterpret_cast<HFONT>(font));
+    GridView view = m_layout.GetView();
+    view.rowHeight = m_fonts.MeasureRowHeight(*this);
+    m_layout.SetView(view);
+    m_tooltip.Hide();
+    Relayout();
+    return 0;
+}
+
+LRESULT CPropertyGrid::OnGetFont(WPARAM /*zero*/, LPARAM /*alsoZero*/) {
+    return m_fonts.given != nullptr ? reinterpret_cast<LRESULT>(m_fonts.given) : Default();
+}
+
+LRESULT CPropertyGrid::OnSysColorChange(WPARAM /*zero*/, LPARAM /*alsoZero*/) {
+    TakeSystemColors();
+    Repaint();
+    return Default();
 }
 
 // ---- The mouse
@@ -405,65 +431,13 @@ UINT CPropertyGrid::OnGetDlgCode() {
     return CWnd::OnGetDlgCode() | DLGC_WANTARROWS | DLGC_WANTCHARS;
 }
 
-// ---- Focus and notification
-
-bool CPropertyGrid::SetFocusedItem(UINT item) {
-    return SetFocusedRow({.item = item});
-}
-
-bool CPropertyGrid::SetFocusedSection(UINT section) {
-    return SetFocusedRow({.section = section});
-}
-
-bool CPropertyGrid::SetFocusedRow(const RowId& row) {
-    const auto exists = [&] {
-        return row == RowId() || m_model.FindItem(row.item) != nullptr ||
-               m_model.FindSection(row.section) != nullptr;
-    };
-    if (!exists()) {
-        return false;
-    }
-    if (row == m_model.GetFocus()) {
-        return true;
-    }
-    LeaveEditor();
-    if (!exists()) {
-        return false;
-    }
-    MoveFocus(m_model, m_layout, row);
-    Repaint();
-    return true;
-}
+// ---- Notification
 
 void CPropertyGrid::NotifyChanged(UINT item) {
     ValueChanged(item);
     if (CWnd* const owner = GetOwner()) {
         owner->SendMessage(WM_GRID_ITEM_CHANGED, item, 0);
     }
-}
-
-bool CPropertyGrid::GetItemRects(UINT id, CRect& name, CRect& value) const {
-    const GridItem* const item = m_model.FindItem(id);
-    if (item == nullptr) {
-        return false;
-    }
-    name = ToCRect(m_layout.GetNameRect(*item));
-    value = ToCRect(m_layout.GetValueRect(*item));
-    return true;
-}
-
-bool CPropertyGrid::GetSectionRects(UINT id, CRect& glyph, CRect& header) const {
-    const GridSection* const section = m_model.FindSection(id);
-    if (section == nullptr) {
-        return false;
-    }
-    glyph = ToCRect(m_layout.GetGlyphRect(*section));
-    header = ToCRect(m_layout.GetHeaderRect(*section));
-    return true;
-}
-
-CRect CPropertyGrid::GetEditButtonRect() const {
-    return ToCRect(m_layout.GetEditButton());
 }
 
 // ---- Assistive technology

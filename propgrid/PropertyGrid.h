@@ -11,8 +11,8 @@
 //
 // Sections and items are known by the ids that their adds return. The grid owns its records, its fonts
 // and its scroll bar; custom items belong to the client. Filling it works before the window exists too.
-// What else a client can call is in GridFilling.h, GridValues.h, GridRows.h, GridLook.h, GridWording.h and
-// GridColoring.h.
+// What else a client can call is in GridFilling.h, GridValues.h, GridRows.h, GridFocus.h, GridLook.h,
+// GridWording.h and GridColoring.h.
 //
 // Coordinates are pixels of the client area. A setter repaints if the window exists. Nothing that the
 // client itself sets is notified; a change by the user is, see WM_GRID_ITEM_CHANGED.
@@ -31,8 +31,9 @@
 
 #include "propgrid/ActionRunner.h"
 #include "propgrid/GridAccess.h"
+#include "propgrid/GridFocus.h"
 #include "propgrid/GridScrollBar.h"
-#include "propgrid/GridValues.h"
+#include "propgrid/GridTooltip.h"
 #include "propgrid/controller/EditKeyController.h"
 #include "propgrid/controller/KeyController.h"
 #include "propgrid/controller/MouseController.h"
@@ -42,7 +43,7 @@
 
 namespace tavrin::propgrid {
 
-class CPropertyGrid : public CWnd, public CGridValues, private IGridWindow {
+class CPropertyGrid : public CWnd, public CGridFocus, private IGridWindow {
     DECLARE_DYNAMIC(CPropertyGrid)
 
 public:
@@ -53,29 +54,10 @@ public:
     // their value from a window of their own; the grid notifies of all other changes.
     void NotifyChanged(UINT item) override;
 
-    // The focused row: an item or a section, at most one of the two. Focusing one takes the focus from
-    // the other; NO_ID takes it from both. False, and nothing changes, when there is no such row.
-    bool SetFocusedItem(UINT item);
-    bool SetFocusedSection(UINT section);
-    UINT GetFocusedItem() const { return m_model.GetFocus().item; }
-    UINT GetFocusedSection() const { return m_model.GetFocus().section; }
-
     // What assistive technology calls the grid; empty at the start, which stands for the window's text. A
     // client sets it to the text of the label that stands over the grid.
     void SetAccessibleName(const std::wstring& name) { m_access.SetName(name); }
     const std::wstring& GetAccessibleName() const { return m_access.GetOwnName(); }
-
-    // ---- Where things were painted
-
-    // The rectangles that the last paint recorded. Those of a row that was not drawn are empty, but for
-    // the item's name and the section's header, which then are the whole row; the items of a collapsed
-    // section keep what an earlier paint gave them. False when no item, or section, has that id.
-    bool GetItemRects(UINT id, CRect& name, CRect& value) const;
-    bool GetSectionRects(UINT id, CRect& glyph, CRect& header) const;
-    // Where a press counts as one on the focused item's edit button, as the last paint recorded it that drew
-    // an editable focused item with an editor. Empty from a move of the focus to that paint.
-    CRect GetEditButtonRect() const;
-    int GetRowHeight() const { return m_layout.GetView().rowHeight; }
 
     // ---- Editing
 
@@ -139,6 +121,10 @@ protected:
     afx_msg LRESULT OnMove(WPARAM zero, LPARAM position);
     afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM flags);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnEnable(WPARAM enabled, LPARAM zero);
+    afx_msg LRESULT OnSetFont(WPARAM font, LPARAM redraw);
+    afx_msg LRESULT OnGetFont(WPARAM zero, LPARAM alsoZero);
+    afx_msg LRESULT OnSysColorChange(WPARAM zero, LPARAM alsoZero);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
@@ -170,9 +156,9 @@ private:
     void UpdateLayout() override;
 
     void Initialize();
-    void TakeParentText(int controlId, const wchar_t* otherwise, std::wstring& text) const;
     void SettleLayout();
     void UpdateView();
+    PaintState GetPaintState() const;
     bool IsReadyForHitTest();
     bool IsReadyForKey();
     void RevealFocus();
@@ -180,7 +166,6 @@ private:
     bool BeginPress();
     bool ScrollTo(std::optional<int> position);
     void TurnWheel(int delta);
-    bool SetFocusedRow(const RowId& row);
     UINT FindEditedItem() const;
     void TakeResult(const Actions& actions);
 
@@ -191,6 +176,7 @@ private:
     CGridPainter m_painter{m_model, m_layout, m_fonts};
     CGridEditors m_editors{*this, m_model, m_fonts};
     CGridScrollBar m_scrollBar;
+    CGridTooltip m_tooltip{*this, m_model, m_layout, m_fonts};
     CActionRunner m_actions{{*this, m_model, m_mouse, m_editors, m_scrollBar, m_fonts}};
     CGridAccess m_access{*this, m_model, m_layout};
     bool m_layoutPending = false;  // rows were added that no layout knows yet

@@ -27,13 +27,13 @@ std::size_t ReleaseFrom(TStore& store, const void* address, EBlockKind kind) {
     const HeapBlock* found = store.FindLive(address);
     if (found == nullptr) {
         if (const HeapBlock* freed = store.FindFreed(address)) {
-            EndOverHeapMisuse("%s was deleted twice", BlockName(*freed).text);
+            AbortOnHeapMisuse("%s was deleted twice", BlockName(*freed).text);
         }
-        EndOverHeapMisuse("what was deleted at %p is no block of this heap", address);
+        AbortOnHeapMisuse("what was deleted at %p is no block of this heap", address);
     }
     const HeapBlock block = *found;
     if (block.kind != kind) {
-        EndOverHeapMisuse("%s was deleted with %s", BlockName(block).text,
+        AbortOnHeapMisuse("%s was deleted with %s", BlockName(block).text,
                           kind == BK_ARRAY ? "delete[]" : "delete");
     }
     store.CheckBorder(address);
@@ -133,7 +133,7 @@ void CCheckedHeap::EndIfMisused(const void* address, const char* access, const c
     if (!m_arena.Holds(address) || !TryAcquireSRWLockExclusive(&m_lock)) {
         return;
     }
-    m_arena.EndOverFault(address, access, culprit);
+    m_arena.ExitOnFault(address, access, culprit);
 }
 
 }  // namespace devhost

@@ -121,10 +121,10 @@ void CGuardArena::CheckBorder(const void* address) const {
     const Record& record = m_records[page];
     const unsigned char* data = DataOf(page);
     if (!IsFilled(PageAt(page), data, kBorderByte)) {
-        EndOverHeapMisuse("%s was written before its start", BlockName(record.block).text);
+        AbortOnHeapMisuse("%s was written before its start", BlockName(record.block).text);
     }
     if (!IsFilled(data + record.block.size, PageAt(page + record.pages), kBorderByte)) {
-        EndOverHeapMisuse("%s was written past its end", BlockName(record.block).text);
+        AbortOnHeapMisuse("%s was written past its end", BlockName(record.block).text);
     }
 }
 
@@ -150,7 +150,7 @@ void CGuardArena::Quarantine(std::size_t page) {
     }
 }
 
-void CGuardArena::EndOverFault(const void* address, const char* access, const char* culprit) const {
+void CGuardArena::ExitOnFault(const void* address, const char* access, const char* culprit) const {
     std::size_t page = PageOf(address);
     const std::size_t faulted = page;
     while (page > 0 && m_records[page].pages == 0) {
@@ -158,14 +158,14 @@ void CGuardArena::EndOverFault(const void* address, const char* access, const ch
     }
     const Record& record = m_records[page];
     if (record.pages == 0 || faulted > page + record.pages) {
-        EndOverHeapMisuse("%s %s an address outside of all blocks (%p)", culprit, access, address);
+        AbortOnHeapMisuse("%s %s an address outside of all blocks (%p)", culprit, access, address);
     }
     const BlockName name(record.block);
     if (!record.live) {
-        EndOverHeapMisuse("%s %s %s after it was deleted", culprit, access, name.text);
+        AbortOnHeapMisuse("%s %s %s after it was deleted", culprit, access, name.text);
     }
     const auto past = static_cast<const unsigned char*>(address) - (DataOf(page) + record.block.size);
-    EndOverHeapMisuse("%s %s %lld bytes past the end of %s", culprit, access, static_cast<long long>(past),
+    AbortOnHeapMisuse("%s %s %lld bytes past the end of %s", culprit, access, static_cast<long long>(past),
                       name.text);
 }
 

@@ -36,7 +36,7 @@ public:
     void Release(const void* address);
 
     // Ends the process with a message about an access that faulted in the arena.
-    [[noreturn]] void EndOverFault(const void* address, const char* access, const char* culprit) const;
+    [[noreturn]] void ExitOnFault(const void* address, const char* access, const char* culprit) const;
 
     void ForEachLive(const std::function<void(const HeapBlock&, const unsigned char*)>& visit) const;
 

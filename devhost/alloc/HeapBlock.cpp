@@ -20,7 +20,7 @@ bool IsFilled(const unsigned char* begin, const unsigned char* end, unsigned cha
     return std::all_of(begin, end, [=](unsigned char found) { return found == byte; });
 }
 
-void EndOverHeapMisuse(const char* format, ...) {
+void AbortOnHeapMisuse(const char* format, ...) {
     char what[512];
     std::va_list arguments = {};
     va_start(arguments, format);

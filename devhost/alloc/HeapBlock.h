@@ -35,6 +35,6 @@ struct BlockName {
 bool IsFilled(const unsigned char* begin, const unsigned char* end, unsigned char byte);
 
 // Prints "heap check: " and the formatted message, and ends the process at once with kHeapMisuseStatus.
-[[noreturn, gnu::format(gnu_printf, 1, 2)]] void EndOverHeapMisuse(const char* format, ...);
+[[noreturn, gnu::format(gnu_printf, 1, 2)]] void AbortOnHeapMisuse(const char* format, ...);
 
 }  // namespace devhost

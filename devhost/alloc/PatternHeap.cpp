@@ -51,10 +51,10 @@ void CPatternHeap::CheckBorder(const void* address) const {
     const HeapBlock& block = m_live.at(address);
     const auto* data = static_cast<const unsigned char*>(address);
     if (!IsFilled(data - kBorder, data, kBorderByte)) {
-        EndOverHeapMisuse("%s was written before its start", BlockName(block).text);
+        AbortOnHeapMisuse("%s was written before its start", BlockName(block).text);
     }
     if (!IsFilled(data + block.size, data + block.size + kBorder, kBorderByte)) {
-        EndOverHeapMisuse("%s was written past its end", BlockName(block).text);
+        AbortOnHeapMisuse("%s was written past its end", BlockName(block).text);
     }
 }
 
@@ -76,7 +76,7 @@ void CPatternHeap::ReleaseOldest() {
     m_quarantine.pop_front();
     m_quarantinedBytes -= oldest.block.size;
     if (!IsFilled(oldest.data, oldest.data + oldest.block.size, kFreedByte)) {
-        EndOverHeapMisuse("%s was written after it was deleted", BlockName(oldest.block).text);
+        AbortOnHeapMisuse("%s was written after it was deleted", BlockName(oldest.block).text);
     }
     _aligned_free(oldest.data - kBorder);
 }

@@ -115,7 +115,7 @@ void WatchPlugIn(HMODULE plugIn) {
     plugInModule = plugIn;
 }
 
-void EndOverException(unsigned request) {
+void ExitOnException(unsigned request) {
     char line[100];
     std::snprintf(line, sizeof line, "DevHost: crash: the plug-in let a C++ exception out of request %u\n",
                   request);

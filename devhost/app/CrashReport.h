@@ -12,6 +12,6 @@ void InstallCrashReport();
 void WatchPlugIn(HMODULE plugIn);
 
 // Reports a C++ exception that a plug-in's request let through to the host, and ends the process.
-[[noreturn]] void EndOverException(unsigned request);
+[[noreturn]] void ExitOnException(unsigned request);
 
 }  // namespace devhost

@@ -46,7 +46,7 @@ int CHost::Run(EntryPoint& entry, Request& request) {
         m_request = before;
         return answer;
     } catch (...) {
-        EndOverException(request.code);
+        ExitOnException(request.code);
     }
 }
 

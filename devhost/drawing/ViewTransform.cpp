@@ -24,7 +24,7 @@ Point CViewTransform::ToDrawing(Point pixel) const {
     return {m_lowerLeft.x + pixel.x / m_scale, m_lowerLeft.y + (m_height - 1 - pixel.y) / m_scale};
 }
 
-Box CViewTransform::Shown() const {
+Box CViewTransform::VisibleArea() const {
     return {ToDrawing({-0.5, m_height - 0.5}), ToDrawing({m_width - 0.5, -0.5})};
 }
 

@@ -19,7 +19,7 @@ public:
     // Drawing units per pixel.
     double UnitsPerPixel() const { return 1 / m_scale; }
     // The part of the drawing that the window shows.
-    Box Shown() const;
+    Box VisibleArea() const;
 
     // Scales by `factor` (above zero), keeping the point at `pixel`. Does nothing beyond the limits of the
     // scale.

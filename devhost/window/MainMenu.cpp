@@ -45,7 +45,7 @@ void Clear(HMENU menu) {
 }
 
 // Doubles ampersands, which would underline the next letter.
-std::wstring Shown(const std::wstring& title) {
+std::wstring EscapeAmpersands(const std::wstring& title) {
     std::wstring shown;
     for (const wchar_t letter : title) {
         shown.append(letter == L'&' ? 2 : 1, letter);
@@ -61,10 +61,10 @@ std::wstring WithMnemonic(const std::wstring& title, std::wstring& taken) {
     };
     const auto found = std::find_if(title.begin(), title.end(), isFree);
     if (found == title.end()) {
-        return L'&' + Shown(title);
+        return L'&' + EscapeAmpersands(title);
     }
     taken += UpperCase(*found);
-    return Shown({title.begin(), found}) + L'&' + Shown({found, title.end()});
+    return EscapeAmpersands({title.begin(), found}) + L'&' + EscapeAmpersands({found, title.end()});
 }
 
 }  // namespace
@@ -106,8 +106,9 @@ void CMainMenu::SetItems(const std::vector<std::wstring>& titles) {
     Clear(m_items);
     std::wstring taken = L"LRX";  // those of the entries below
     for (std::size_t i = 0; i < titles.size(); ++i) {
-        const std::wstring text = i < kItemKeys ? Shown(titles[i]) + L"\tCtrl+" + std::to_wstring(i + 1)
-                                                : WithMnemonic(titles[i], taken);
+        const std::wstring text = i < kItemKeys
+                                      ? EscapeAmpersands(titles[i]) + L"\tCtrl+" + std::to_wstring(i + 1)
+                                      : WithMnemonic(titles[i], taken);
         AppendMenuW(m_items, MF_STRING, IDM_ITEM + i, text.c_str());
     }
     if (titles.empty()) {

@@ -149,6 +149,9 @@ LRESULT CMainWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {m_scale(kLeastWidth),
                                                                      m_scale(kLeastHeight)};
             return 0;
+        case WM_DPICHANGED:
+            ChangeResolution(HIWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+            return 0;
         case WM_SIZE:
             Layout();
             if (m_output != nullptr) {

@@ -139,6 +139,8 @@ private:
 
     // MainWindowLayout.cpp
     void CreateControls();
+    void CreateFonts();
+    void ChangeResolution(int dotsPerInch, const RECT& rectangle);
     void Layout();
     void PaintBackground(HDC dc) const;
     HBRUSH PaintControl(HDC dc, HWND control) const;

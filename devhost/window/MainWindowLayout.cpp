@@ -41,7 +41,9 @@ HGDIOBJ CreateTextFont() {
     NONCLIENTMETRICSW metrics = {};
     metrics.cbSize = sizeof metrics;
     SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return CreateFontIndirectW(&metrics.lfStatusFont);
+    LOGFONTW font = metrics.lfStatusFont;
+    font.lfHeight = MulDiv(font.lfHeight, CScale::GetResolution(), CScale::GetSystemResolution());
+    return CreateFontIndirectW(&font);
 }
 
 void SetFont(HWND control, const handles::GdiOwner& font) {
@@ -72,10 +74,6 @@ int LineHeight(HWND control, const handles::GdiOwner& font) {
 void CMainWindow::CreateControls() {
     const INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
-    m_textFont.reset(CreateTextFont());
-    m_codeFont.reset(CreateFontW(-m_scale(kCodeHeight), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
-                                 DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                 FIXED_PITCH | FF_MODERN, L"Courier New"));
     m_menu = std::make_unique<CMainMenu>(m_window);
     m_drawing = std::make_unique<CDrawingView>(m_window, IDC_DRAWING, m_shown);
     m_output = std::make_unique<COutputList>(m_window);
@@ -86,6 +84,15 @@ void CMainWindow::CreateControls() {
     m_drawing->SetMeasureText(
         [this](double length, double angle) { return m_status->TextOf(length, angle); });
     m_drawing->SetMoveHandler([this](Point point) { m_status->ShowPoint(point); });
+    CreateFonts();
+    Layout();
+}
+
+void CMainWindow::CreateFonts() {
+    m_textFont.reset(CreateTextFont());
+    m_codeFont.reset(CreateFontW(-m_scale(kCodeHeight), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
+                                 DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                                 FIXED_PITCH | FF_MODERN, L"Courier New"));
     SetFont(m_output->Handle(), m_codeFont);
     SetFont(m_prompt, m_codeFont);
     SetFont(m_label, m_codeFont);
@@ -93,7 +100,21 @@ void CMainWindow::CreateControls() {
     for (const HWND edit : {m_output->Handle(), m_prompt}) {
         SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     }
+}
+
+// The window is on a monitor of another resolution now; the system suggests its rectangle there.
+void CMainWindow::ChangeResolution(int dotsPerInch, const RECT& rectangle) {
+    if (m_status == nullptr) {
+        return;
+    }
+    m_outputHeight = MulDiv(m_outputHeight, dotsPerInch, CScale::GetResolution());
+    CScale::SetResolution(dotsPerInch);
+    CreateFonts();
+    m_status->TakeResolution();
+    MoveWindow(m_window, rectangle.left, rectangle.top, rectangle.right - rectangle.left,
+               rectangle.bottom - rectangle.top, TRUE);
     Layout();
+    InvalidateRect(m_drawing->Handle(), nullptr, FALSE);
 }
 
 void CMainWindow::Layout() {

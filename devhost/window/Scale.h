@@ -7,18 +7,26 @@
 
 namespace devhost {
 
-// Converts pixels at 96 dpi to pixels of this screen.
+// Converts pixels at 96 dpi to pixels of the monitor that shows DevHost. At the start that is the system's
+// resolution.
 class CScale {
 public:
-    CScale() {
+    int operator()(int pixels) const { return MulDiv(pixels, Resolution(), 96); }
+
+    // In dots per inch; for every scale.
+    static int GetResolution() { return Resolution(); }
+    static void SetResolution(int dotsPerInch) { Resolution() = dotsPerInch; }
+
+    static int GetSystemResolution() {
         const tavrin::handles::CClientDc screen(nullptr);
-        m_dots = GetDeviceCaps(screen.Get(), LOGPIXELSY);
+        return GetDeviceCaps(screen.Get(), LOGPIXELSY);
     }
 
-    int operator()(int pixels) const { return MulDiv(pixels, m_dots, 96); }
-
 private:
-    int m_dots = 96;
+    static int& Resolution() {
+        static int resolution = GetSystemResolution();
+        return resolution;
+    }
 };
 
 }  // namespace devhost

@@ -58,7 +58,7 @@ public:
 
     void Dots() {
         const double spacing = GridSpacing(m_view.UnitsPerPixel(), m_scale(kDotDistance));
-        const Box shown = m_view.Shown();
+        const Box shown = m_view.VisibleArea();
         const std::vector<double> rows = GridSteps(shown.low.y, shown.high.y, spacing);
         for (const double column : GridSteps(shown.low.x, shown.high.x, spacing)) {
             for (const double row : rows) {

@@ -64,8 +64,12 @@ CStatusLine::CStatusLine(HWND parent)
     if (m_window == nullptr) {
         throw CUserError(L"the main window cannot be opened");
     }
-    SendMessageW(m_window, SB_SETMINHEIGHT, WPARAM(m_scale(22)), 0);
+    TakeResolution();
     ShowFormat();
+}
+
+void CStatusLine::TakeResolution() {
+    SendMessageW(m_window, SB_SETMINHEIGHT, WPARAM(m_scale(22)), 0);
 }
 
 int CStatusLine::Height() const {

@@ -18,6 +18,8 @@ public:
 
     HWND Handle() const { return m_window; }
     int Height() const;
+    // To be called after a change of CScale's resolution.
+    void TakeResolution();
     // Moves to the bottom of the parent.
     void Layout();
 

@@ -45,7 +45,7 @@ struct AskCustomItem {
 };
 
 // Calls ICustomItem::OnMouseMove or OnLButtonUp.
-struct TellCustomItem {
+struct NotifyCustomItem {
     Id item;
     ECustomEvent event;
     Rect value;
@@ -91,9 +91,9 @@ struct DefaultHandling {};
 }  // namespace action
 
 using Action = std::variant<action::BeginCapture, action::EndCapture, action::ShowCursor, action::Repaint,
-                            action::Relayout, action::ScrollTo, action::AskCustomItem, action::TellCustomItem,
-                            action::OpenTextEdit, action::DropDown, action::EditInDialog, action::GiveText,
-                            action::Notify, action::DefaultHandling>;
+                            action::Relayout, action::ScrollTo, action::AskCustomItem,
+                            action::NotifyCustomItem, action::OpenTextEdit, action::DropDown,
+                            action::EditInDialog, action::GiveText, action::Notify, action::DefaultHandling>;
 using Actions = std::vector<Action>;
 
 }  // namespace tavrin::propgrid

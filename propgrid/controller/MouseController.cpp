@@ -98,7 +98,7 @@ Actions CMouseController::Move(Point point, bool editing) {
     Actions actions;
     switch (m_capture) {
         case CAP_CUSTOM_ITEM:
-            TellCustomItem(CE_MOVE, point, actions);
+            NotifyCustomItem(CE_MOVE, point, actions);
             break;
         case CAP_EDIT_BUTTON:
             if (std::exchange(m_buttonPressed, m_layout.HitTest(point).onEditButton) != m_buttonPressed) {
@@ -131,7 +131,7 @@ Actions CMouseController::Release(Point point) {
     const ECapture capture = EndCapture(actions);
     const bool editOnRelease = std::exchange(m_editOnRelease, false);
     if (capture == CAP_CUSTOM_ITEM) {
-        TellCustomItem(CE_UP, point, actions);
+        NotifyCustomItem(CE_UP, point, actions);
         return actions;
     }
     if (capture == CAP_DIVIDER) {
@@ -168,7 +168,7 @@ void CMouseController::OpenEditor(Point point, Actions& actions) {
             actions.push_back(OpenTextOrDialog(*item, point));
             break;
         case EM_CUSTOM:
-            TellCustomItem(CE_UP, point, actions);
+            NotifyCustomItem(CE_UP, point, actions);
             break;
         default:
             break;
@@ -210,10 +210,10 @@ Actions CMouseController::DoubleClick() {
                                                              : Actions();
 }
 
-void CMouseController::TellCustomItem(ECustomEvent event, Point point, Actions& actions) const {
+void CMouseController::NotifyCustomItem(ECustomEvent event, Point point, Actions& actions) const {
     const GridItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM) {
-        actions.push_back(action::TellCustomItem{item->id, event, m_layout.GetValueRect(*item), point});
+        actions.push_back(action::NotifyCustomItem{item->id, event, m_layout.GetValueRect(*item), point});
     }
 }
 

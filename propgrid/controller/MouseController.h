@@ -49,7 +49,7 @@ private:
     void OpenEditor(Point point, Actions& actions);
     Rect GetEditCell() const;
     Action OpenTextOrDialog(const GridItem& item, Point point);
-    void TellCustomItem(ECustomEvent event, Point point, Actions& actions) const;
+    void NotifyCustomItem(ECustomEvent event, Point point, Actions& actions) const;
     const GridItem* FindFocusedItem() const { return m_model.FindItem(m_model.GetFocus().item); }
 
     CGridModel& m_model;

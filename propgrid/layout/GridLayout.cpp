@@ -135,11 +135,23 @@ Hit CGridLayout::HitTest(Point point) const {
         return hit;
     }
     for (const GridSection* const section : m_model.GetSections()) {
-        if (HitItem(*section, point, hit)) {
+        const GridItem* const item = FindItemOf(*section, point);
+        if (item != nullptr && m_model.CanFocus(*item)) {
+            hit.part = GetValueRect(*item).Contains(point) ? HP_VALUE : HP_NAME;
+            hit.item = item->id;
             break;
         }
     }
     return hit;
+}
+
+const GridItem* CGridLayout::FindItemAt(Point point) const {
+    for (const GridSection* const section : m_model.GetSections()) {
+        if (const GridItem* const item = FindItemOf(*section, point)) {
+            return item;
+        }
+    }
+    return nullptr;
 }
 
 bool CGridLayout::IsOnDivider(Point point) const {
@@ -166,36 +178,25 @@ bool CGridLayout::HitSection(Point point, Hit& hit) const {
     return false;
 }
 
-// The rectangles of a collapsed section's items are those of an earlier paint.
-bool CGridLayout::HitItem(const GridSection& section, Point point, Hit& hit) const {
+// The section's item whose row the last paint placed at a point. The rectangles of a collapsed section's
+// items are those of an earlier paint.
+const GridItem* CGridLayout::FindItemOf(const GridSection& section, Point point) const {
     const SectionRecord* const record = FindRecord(section);
     if (record == nullptr || !m_model.ShowsItemsOf(section)) {
-        return false;
-    }
-    const GridItem* const item = FindItemAt(section, record->items, point.y);
-    if (item == nullptr || !m_model.CanFocus(*item)) {
-        return false;
-    }
-    const bool onValue = GetValueRect(*item).Contains(point);
-    if (!onValue && !GetNameRect(*item).Contains(point)) {
-        return false;
-    }
-    hit.part = onValue ? HP_VALUE : HP_NAME;
-    hit.item = item->id;
-    return true;
-}
-
-// The section's item whose row the last paint placed at `y`.
-const GridItem* CGridLayout::FindItemAt(const GridSection& section, const RowList& list, int y) const {
-    if (list.rowHeight <= 0 || y < list.top) {
         return nullptr;
     }
-    const auto row = static_cast<std::uint32_t>((y - list.top) / list.rowHeight);
+    const RowList& list = record->items;
+    if (list.rowHeight <= 0 || point.y < list.top) {
+        return nullptr;
+    }
+    const auto row = static_cast<std::uint32_t>((point.y - list.top) / list.rowHeight);
     if (row >= list.rows) {
         return nullptr;
     }
     const GridItem* const item = list.sorted ? m_sorted[row] : section.items[row];
-    return item->section == &section ? item : nullptr;
+    const bool isHit = item->section == &section &&
+                       (GetValueRect(*item).Contains(point) || GetNameRect(*item).Contains(point));
+    return isHit ? item : nullptr;
 }
 
 }  // namespace tavrin::propgrid

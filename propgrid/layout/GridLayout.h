@@ -87,8 +87,10 @@ public:
     const Rect& GetEditButton() const { return m_editButton; }
     void ForgetEditButton() { m_editButton = {}; }
 
-    // Goes by the recorded rectangles.
+    // Both go by the recorded rectangles. The item whose row is at a point need not be one that may have the
+    // focus; null when there is none.
     Hit HitTest(Point point) const;
+    const GridItem* FindItemAt(Point point) const;
     bool IsOnDivider(Point point) const;
 
 private:
@@ -109,8 +111,7 @@ private:
     bool IsInSight(const GridItem& item) const;
     bool IsOnEditButton(Point point) const;
     bool HitSection(Point point, Hit& hit) const;
-    bool HitItem(const GridSection& section, Point point, Hit& hit) const;
-    const GridItem* FindItemAt(const GridSection& section, const RowList& list, int y) const;
+    const GridItem* FindItemOf(const GridSection& section, Point point) const;
 
     const CGridModel& m_model;
     GridView m_view;

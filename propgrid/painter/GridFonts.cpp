@@ -4,6 +4,19 @@
 
 namespace tavrin::propgrid {
 
+namespace {
+
+// Keeps the old font when no new one can be made.
+void Recreate(CFont& font, const LOGFONT& description) {
+    CFont created;
+    if (created.CreateFontIndirect(&description)) {
+        font.DeleteObject();
+        font.Attach(created.Detach());
+    }
+}
+
+}  // namespace
+
 void GridFonts::Create(const CWnd* parent) {
     if (normal.GetSafeHandle() != nullptr) {
         return;
@@ -19,8 +32,23 @@ void GridFonts::Create(const CWnd* parent) {
             return;
         }
     }
+    CreateBold(description);
+}
+
+void GridFonts::Replace(HFONT font) {
+    const HGDIOBJ source = font != nullptr ? font : ::GetStockObject(SYSTEM_FONT);
+    LOGFONT description = {};
+    if (::GetObject(source, sizeof(description), &description) == 0) {
+        return;
+    }
+    given = font;
+    Recreate(normal, description);
+    CreateBold(description);
+}
+
+void GridFonts::CreateBold(LOGFONT description) {
     description.lfWeight = FW_BOLD;
-    bold.CreateFontIndirect(&description);
+    Recreate(bold, description);
 }
 
 int GridFonts::MeasureRowHeight(CWnd& window) const {

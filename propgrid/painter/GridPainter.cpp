@@ -11,19 +11,13 @@
 #include "handles/GdiScopes.h"
 #include "propgrid/model/ICustomItem.h"
 #include "propgrid/painter/FrameworkTypes.h"
-#include "propgrid/painter/SystemText.h"
+#include "propgrid/painter/ModifiedMark.h"
 
 namespace tavrin::propgrid {
 
 namespace {
 
-// Behind a modified value. Deliberately not one of the colours that a client can set.
-constexpr COLORREF kModifiedColor = RGB(255, 255, 80);
-
-// Where an item's parts begin, from the left edge: the band and the name.
-constexpr int kItemIndent = 10;
-constexpr int kBandWidth = kItemIndent + 4;
-constexpr int kNameLeft = kItemIndent + 8;
+constexpr int kBandWidth = 14;  // left of an item's name
 
 constexpr UINT kOneLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 
@@ -63,30 +57,30 @@ std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
 // What one paint draws with.
 struct CGridPainter::PaintTools {
     CDC& dc;
-    bool buttonPressed;
+    PaintState state;
     CRect area;     // the client area without the scroll bar
     CRect picture;  // what of the client area is drawn off-screen: all, or all but what is below the rows
     bool customItemDrew = false;
 };
 
 // The canvas is out of the painter's hands meanwhile, since a custom item that draws may cause another paint.
-bool CGridPainter::PaintWindow(CDC& target, bool buttonPressed) {
+bool CGridPainter::PaintWindow(CDC& target, const PaintState& state) {
     const Size& client = m_layout.GetView().client;
     std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
     if (canvas == nullptr || canvas->Size().cx != client.width || canvas->Size().cy != client.height) {
         canvas = std::make_unique<CMemoryCanvas>(target, CSize(client.width, client.height));
     }
     canvas->TakeLayout(target);
-    PaintTools tools = {.dc = canvas->Dc(), .buttonPressed = buttonPressed, .area = {}, .picture = {}};
+    PaintTools tools = {.dc = canvas->Dc(), .state = state, .area = {}, .picture = {}};
     Paint(target, *canvas, tools);
     m_canvas = std::move(canvas);
     return tools.customItemDrew;
 }
 
-void CGridPainter::PaintCopy(CDC& target, bool buttonPressed) {
+void CGridPainter::PaintCopy(CDC& target, const PaintState& state) {
     const Size& client = m_layout.GetView().client;
     CMemoryCanvas canvas(target, CSize(client.width, client.height));
-    PaintTools tools = {.dc = canvas.Dc(), .buttonPressed = buttonPressed, .area = {}, .picture = {}};
+    PaintTools tools = {.dc = canvas.Dc(), .state = state, .area = {}, .picture = {}};
     Paint(target, canvas, tools);
 }
 
@@ -213,7 +207,7 @@ void CGridPainter::PaintItem(PaintTools& tools, const PaintedRow& row) {
 void CGridPainter::PaintEditButton(PaintTools& tools, const ItemParts& parts) {
     CDC& dc = tools.dc;
     CRect button = ToCRect(parts.button);
-    const UINT pushed = tools.buttonPressed ? DFCS_PUSHED : 0;
+    const UINT pushed = tools.state.buttonPressed ? DFCS_PUSHED : 0;
     if (parts.editMode == EM_DROPDOWN) {
         dc.DrawFrameControl(&button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | pushed);
     } else if (parts.editMode == EM_MODAL || parts.editMode == EM_INPLACE_BUTTON) {
@@ -234,23 +228,21 @@ void CGridPainter::PaintName(PaintTools& tools, const Rect& row, const GridItem&
         dc.FillSolidRect(&highlight, settings.colors.focus);
     }
     dc.SetTextColor(focused ? settings.colors.focusText : settings.colors.text);
-    DrawTextIn(dc, item.name, CRect(kNameLeft, row.top, settings.gutter - 1, row.bottom),
-               kOneLine | DT_END_ELLIPSIS);
+    const CellText name = m_texts.GetName(item, row);
+    DrawTextIn(dc, name.text, ToCRect(name.area), kOneLine | DT_END_ELLIPSIS);
 }
 
 void CGridPainter::PaintValue(PaintTools& tools, const Rect& value, const GridItem& item) {
     const GridColors& colors = m_model.settings.colors;
-    tools.dc.SetTextColor(item.editable ? colors.editable : colors.nonEditable);
+    tools.dc.SetTextColor(item.editable && tools.state.enabled ? colors.editable : colors.nonEditable);
     if (item.kind == IT_CUSTOM) {
         PaintCustomValue(tools, value, item);
         return;
     }
-    CRect cell = ToCRect(value);
-    cell.left += CGridLayout::kTextMargin;
     if (item.kind == IT_COLOR) {
-        cell.left = PaintSwatch(tools, cell, std::get<Color>(item.value)) + 6;
+        PaintSwatch(tools, value, std::get<Color>(item.value));
     }
-    PaintText(tools, item, cell);
+    PaintText(tools, item, value);
 }
 
 void CGridPainter::PaintCustomValue(PaintTools& tools, const Rect& value, const GridItem& item) {
@@ -260,38 +252,27 @@ void CGridPainter::PaintCustomValue(PaintTools& tools, const Rect& value, const 
     item.GetCustomItem()->DrawItem(tools.dc, ToCRect(value), item.id == m_model.GetFocus().item);
 }
 
-void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const CRect& cell) {
+void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const Rect& value) {
     CDC& dc = tools.dc;
-    const GridSettings& settings = m_model.settings;
-    const bool modified = item.IsModified();
-    const bool changed = modified || item.undefined != item.savedUndefined;
-    const bool bold = (settings.boldEditable && item.editable) || (settings.boldModified && changed);
-    std::optional<handles::CSelectedObject> font;
-    if (bold) {
-        font.emplace(dc, m_fonts.bold);
-    }
-    std::wstring text = GetValueText(item, settings.texts, CSystemText(dc.GetDeviceCaps(LOGPIXELSY)));
+    CellText shown = m_texts.GetValue(item, value, dc.GetDeviceCaps(LOGPIXELSY));
+    const handles::CSelectedObject font(dc, *shown.font);
     if (item.IsPath() && !item.undefined) {
-        text = CompactPath(dc, text, cell.Width());
+        shown.text = CompactPath(dc, shown.text, shown.area.GetWidth());
     }
-    if (modified) {
-        dc.SetBkMode(OPAQUE);
-        dc.SetBkColor(kModifiedColor);
+    if (item.IsModified()) {
+        MarkModified(dc);
     }
-    DrawTextIn(dc, text, cell, kOneLine | DT_END_ELLIPSIS);
+    DrawTextIn(dc, shown.text, ToCRect(shown.area), kOneLine | DT_END_ELLIPSIS);
     dc.SetBkMode(TRANSPARENT);
 }
 
-// Returns where the swatch ends.
-int CGridPainter::PaintSwatch(PaintTools& tools, const CRect& cell, Color color) const {
-    CRect swatch(cell.left, cell.top + 3, cell.left + cell.Height(), cell.bottom - 2);
+void CGridPainter::PaintSwatch(PaintTools& tools, const Rect& value, Color color) const {
+    CRect swatch = ToCRect(GetSwatch(value));
     CBrush textBrush;
     textBrush.CreateSolidBrush(m_model.settings.colors.text);
     tools.dc.FrameRect(&swatch, &textBrush);
-    const int right = swatch.right;
     swatch.DeflateRect(1, 1);
     tools.dc.FillSolidRect(&swatch, color);
-    return right;
 }
 
 }  // namespace tavrin::propgrid

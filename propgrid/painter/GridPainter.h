@@ -10,25 +10,31 @@
 #include <string>
 
 #include "propgrid/layout/PaintPass.h"
+#include "propgrid/painter/CellText.h"
 #include "propgrid/painter/GridFonts.h"
 #include "propgrid/painter/MemoryCanvas.h"
 
 namespace tavrin::propgrid {
 
+// What the look depends on beside model and layout.
+struct PaintState {
+    bool buttonPressed = false;  // the look of the edit button
+    bool enabled = true;         // else every value has the colour of those that are not editable
+};
+
 class CGridPainter {
 public:
     CGridPainter(const CGridModel& model, CGridLayout& layout, const GridFonts& fonts)
-        : m_model(model), m_layout(layout), m_fonts(fonts) {}
+        : m_model(model), m_layout(layout), m_fonts(fonts), m_texts(model, fonts) {}
     CGridPainter(const CGridPainter&) = delete;
     CGridPainter& operator=(const CGridPainter&) = delete;
 
     // Paints the whole client area of the layout's view, however little of it is invalid: every visible row
-    // gets its rectangles recorded. `buttonPressed` is the look of the edit button. True when a custom item
-    // drew, which may have done anything.
-    bool PaintWindow(CDC& target, bool buttonPressed);
+    // gets its rectangles recorded. True when a custom item drew, which may have done anything.
+    bool PaintWindow(CDC& target, const PaintState& state);
 
     // The same for a device context that is not the window's.
-    void PaintCopy(CDC& target, bool buttonPressed);
+    void PaintCopy(CDC& target, const PaintState& state);
 
     // The off-screen picture is kept for the next paint of the window: to make one costs more than to draw
     // it.
@@ -49,12 +55,13 @@ private:
     void PaintName(PaintTools& tools, const Rect& row, const GridItem& item);
     void PaintValue(PaintTools& tools, const Rect& value, const GridItem& item);
     void PaintCustomValue(PaintTools& tools, const Rect& value, const GridItem& item);
-    void PaintText(PaintTools& tools, const GridItem& item, const CRect& cell);
-    int PaintSwatch(PaintTools& tools, const CRect& cell, Color color) const;
+    void PaintText(PaintTools& tools, const GridItem& item, const Rect& value);
+    void PaintSwatch(PaintTools& tools, const Rect& value, Color color) const;
 
     const CGridModel& m_model;
     CGridLayout& m_layout;
     const GridFonts& m_fonts;
+    CCellTexts m_texts;
     std::unique_ptr<CMemoryCanvas> m_canvas;
 };
 

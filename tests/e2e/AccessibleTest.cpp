@@ -15,31 +15,31 @@ constexpr const char* theList = "popup";
 // What the rows say when the gallery opens, in the display with section headers.
 constexpr const char* initialRows = R"rows(outline "Values" [focused]
   outline item "Basics" [expanded] -> Collapse (-)
-  outline item "Name" = "Oak door" -> Edit
-  outline item "Notes" = "Two coats of paint¶Key at the office" -> Edit
-  outline item "Count" = "3" -> Edit
-  outline item "Width" = "80.5" -> Edit
-  outline item "Weight" = "31.250 kg" -> Edit
+  outline item "Name" = "Oak door" -> Edit (F2)
+  outline item "Notes" = "Two coats of paint¶Key at the office" -> Edit (F2)
+  outline item "Count" = "3" -> Edit (F2)
+  outline item "Width" = "80.5" -> Edit (F2)
+  outline item "Weight" = "31.250 kg" -> Edit (F2)
   outline item "Choices" [expanded] -> Collapse (-)
-  outline item "Swing" = "Right" -> Edit
-  outline item "No choices" = "" -> Edit
-  outline item "Glazed" = "True" -> Edit
+  outline item "Swing" = "Right" -> Edit (F2)
+  outline item "No choices" = "" -> Edit (F2)
+  outline item "Glazed" = "True" -> Edit (F2)
   outline item "Dates" [expanded] -> Collapse (-)
-  outline item "Ordered" = "2024-03-15" -> Edit
-  outline item "Delivered" = "2024-04-02 10:30" -> Edit
-  outline item "Paid" = "" -> Edit
+  outline item "Ordered" = "2024-03-15" -> Edit (F2)
+  outline item "Delivered" = "2024-04-02 10:30" -> Edit (F2)
+  outline item "Paid" = "" -> Edit (F2)
   outline item "Paths" [expanded] -> Collapse (-)
-  outline item "Drawing" = "C:\windows\win.ini" -> Edit
-  outline item "Archive" = "C:\windows" -> Edit
+  outline item "Drawing" = "C:\windows\win.ini" -> Edit (F2)
+  outline item "Archive" = "C:\windows" -> Edit (F2)
   outline item "Looks" [expanded] -> Collapse (-)
-  outline item "Paint" = "200; 80; 40" -> Edit
-  outline item "Lettering" = "Tahoma; 8pt" -> Edit
+  outline item "Paint" = "200; 80; 40" -> Edit (F2)
+  outline item "Lettering" = "Tahoma; 8pt" -> Edit (F2)
   outline item "Gloss" = "40%"
   outline item "States" [expanded] -> Collapse (-)
   outline item "Article" = "D-4711" [read-only]
   outline item "In stock" = "True" [read-only]
-  outline item "Maker" = "(not given)" -> Edit
-  outline item "Rating" = "(not given)" -> Edit
+  outline item "Maker" = "(not given)" -> Edit (F2)
+  outline item "Rating" = "(not given)" -> Edit (F2)
   outline item "Empty" [expanded] -> Collapse (-)
   outline item "Many rows" [collapsed] -> Expand (+)
 )rows";
@@ -101,9 +101,9 @@ TEST_F(Accessible, ScrolledAndCollapsedRowsAreTold) {
     ASSERT_NO_FATAL_FAILURE(Open());
     Do("Many rows");
     ExpectLines({R"(  outline item "Many rows" [expanded, selected, focused] -> Collapse (-))",
-                 R"(  outline item "Row 100" = "100" [off-screen] -> Edit)"});
+                 R"(  outline item "Row 100" = "100" [off-screen] -> Edit (F2))"});
     EXPECT_EQ(Client(theGrid, "select 'Row 100'"), "done\n");
-    ExpectLines({R"(  outline item "Row 100" = "100" [selected, focused] -> Edit)",
+    ExpectLines({R"(  outline item "Row 100" = "100" [selected, focused] -> Edit (F2))",
                  R"(  outline item "Basics" [off-screen, expanded] -> Collapse (-))"});
     Do("Many rows");
     for (const char* section : {"Basics", "Choices", "Dates", "Paths", "Looks", "States"}) {
@@ -126,7 +126,7 @@ TEST_F(Accessible, ScrolledAndCollapsedRowsAreTold) {
 TEST_F(Accessible, ASortedDisplayIsAList) {
     ASSERT_NO_FATAL_FAILURE(Open());
     gallery.Press("alt+s");
-    ExpectLines({R"(list "Values")", R"(  list item "Archive" = "C:\windows" -> Edit)"});
+    ExpectLines({R"(list "Values")", R"(  list item "Archive" = "C:\windows" -> Edit (F2))"});
     const std::string rows = Walk();
     EXPECT_LT(rows.find("\"Archive\""), rows.find("\"Article\""));
     EXPECT_EQ(rows.find("outline"), std::string::npos);
@@ -141,7 +141,7 @@ TEST_F(Accessible, AValueIsEditedByItsDefaultAction) {
     TypeOver("12.5");
     PressKeys("Return");
     ExpectChanges({"Width = 12.5"});
-    ExpectLines({R"(  outline item "Width" = "12.5" [selected, focused] -> Edit)"});
+    ExpectLines({R"(  outline item "Width" = "12.5" [selected, focused] -> Edit (F2))"});
     CloseExpecting({"Width = 12.5"});
 }
 

@@ -66,7 +66,7 @@ protected:
         run.UseProgram(Installed() / "uninstall.exe");
         run.StartProgram({"/S"});
         EXPECT_EQ(run.Wait(), 0);
-        EXPECT_TRUE(WaitUntil([this] { return !IsInstalled(); }));
+        EXPECT_TRUE(WaitUntil([] { return !IsInstalled(); }));
     }
     // The registration is removed last.
     static bool IsInstalled() {

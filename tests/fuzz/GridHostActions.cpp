@@ -94,7 +94,7 @@ void CGridHost::Do(const action::AskCustomItem& question) {
     Run(m_mouse.AnswerPress(taken, question.point));
 }
 
-void CGridHost::Do(const action::TellCustomItem& event) {
+void CGridHost::Do(const action::NotifyCustomItem& event) {
     ICustomItem* const custom = m_model.FindItem(event.item)->GetCustomItem();
     Require(custom != nullptr, "a custom item is notified");
     const bool isMove = event.event == CE_MOVE;

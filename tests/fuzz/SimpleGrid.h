@@ -132,7 +132,7 @@ private:
     void PressItem(const SimpleItem& item, Point point);
     void Capture(ECapture use);
     ECapture EndCapture();
-    void TellCustomItem(EWindowCall event, Point point);
+    void NotifyCustomItem(EWindowCall event, Point point);
     void OpenEditor(Point point, unsigned answer);
     void OpenText(const SimpleItem& item, const Rect& rect);
     void DropDown(const SimpleItem& item);

@@ -71,7 +71,7 @@ void CSimpleGrid::Press(Point point) {
     const SimpleItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM && EditModeOf(*item) == EM_CUSTOM) {
         const bool takes = window.customs[item->value.custom].takesPress;
-        TellCustomItem(WC_CUSTOM_PRESS, point);
+        NotifyCustomItem(WC_CUSTOM_PRESS, point);
         if (takes) {
             Capture(CP_CUSTOM);
             return;
@@ -135,7 +135,7 @@ void CSimpleGrid::LoseCapture() {
     EndCapture();
 }
 
-void CSimpleGrid::TellCustomItem(EWindowCall event, Point point) {
+void CSimpleGrid::NotifyCustomItem(EWindowCall event, Point point) {
     const SimpleItem* const item = FindFocusedItem();
     if (item != nullptr && item->kind == IT_CUSTOM) {
         Record({.kind = event, .item = item->id, .rect = item->valueRect, .point = point});
@@ -145,7 +145,7 @@ void CSimpleGrid::TellCustomItem(EWindowCall event, Point point) {
 
 void CSimpleGrid::Move(Point point) {
     if (m_use == CP_CUSTOM) {
-        TellCustomItem(WC_CUSTOM_MOVE, point);
+        NotifyCustomItem(WC_CUSTOM_MOVE, point);
     } else if (m_use == CP_BUTTON) {
         asksForPaint = asksForPaint || buttonPressed != IsOnButton(point);
         buttonPressed = IsOnButton(point);
@@ -166,7 +166,7 @@ void CSimpleGrid::Release(Point point, unsigned answer) {
     const bool edit = std::exchange(m_editOnRelease, false);
     const ECapture use = EndCapture();
     if (use == CP_CUSTOM) {
-        TellCustomItem(WC_CUSTOM_UP, point);
+        NotifyCustomItem(WC_CUSTOM_UP, point);
         return;
     }
     if (use == CP_DIVIDER) {
@@ -217,7 +217,7 @@ void CSimpleGrid::OpenEditor(Point point, unsigned answer) {
     } else if (mode == EM_MODAL) {
         EditInDialog(item->id, answer);
     } else if (mode == EM_CUSTOM) {
-        TellCustomItem(WC_CUSTOM_UP, point);
+        NotifyCustomItem(WC_CUSTOM_UP, point);
     } else if (mode == EM_INPLACE_BUTTON) {
         const bool onText = point.x < button.right - m_rowHeight;
         if (onText || !m_textPart) {

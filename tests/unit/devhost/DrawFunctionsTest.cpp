@@ -54,7 +54,7 @@ TEST_F(DrawFunctions, ATextHasAPositionAHeightAndAnAngle) {
 }
 
 TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
-    ExpectMistakes(
+    ExpectErrors(
         {{L"(draw-line '(1 2))", L"DRAW-LINE takes 2 arguments, not 1"},
          {L"(draw-line '(1 2) 5)",
           L"DRAW-LINE needs a point, a list of two or three numbers, as argument 2, not 5"},
@@ -73,7 +73,7 @@ TEST_F(DrawFunctions, ALoopDoesNotDrawWithoutEnd) {
         m_drawing.Add(LineEntity{{0, 0}, {1, 1}});
     }
     EXPECT_EQ(
-        Mistake(L"(while T (draw-line '(0 0) '(1 1)))"),
+        ErrorOf(L"(while T (draw-line '(0 0) '(1 1)))"),
         L"line 1: DRAW-LINE: the drawing holds 1000000 entities already: does a loop draw without end?");
     EXPECT_EQ(m_drawing.Entities().size(), 1'000'000u);
     ExpectValues({{L"(draw-clear)", L"T"}, {L"(draw-line '(0 0) '(1 1))", L"T"}});

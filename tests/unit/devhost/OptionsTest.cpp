@@ -12,7 +12,7 @@ Options Parse(std::initializer_list<std::wstring> arguments) {
     return ParseOptions(std::vector<std::wstring>(arguments));
 }
 
-std::wstring Mistake(std::initializer_list<std::wstring> arguments) {
+std::wstring ErrorOf(std::initializer_list<std::wstring> arguments) {
     try {
         Parse(arguments);
         return L"none";
@@ -65,22 +65,22 @@ TEST(Options, NamesAreNotLimitedToOneCodePage) {
 }
 
 TEST(Options, AMissingValueNamesItsOption) {
-    EXPECT_EQ(Mistake({L"--plugin"}), L"option '--plugin' requires a value, for example TavrinWnd.dll");
-    EXPECT_EQ(Mistake({L"--search", L"--eval", L"(f)"}),
+    EXPECT_EQ(ErrorOf({L"--plugin"}), L"option '--plugin' requires a value, for example TavrinWnd.dll");
+    EXPECT_EQ(ErrorOf({L"--search", L"--eval", L"(f)"}),
               L"option '--search' requires a value, for example C:\\Items");
-    EXPECT_EQ(Mistake({L"--eval", L""}), L"option '--eval' requires a value, for example \"(+ 1 2)\"");
+    EXPECT_EQ(ErrorOf({L"--eval", L""}), L"option '--eval' requires a value, for example \"(+ 1 2)\"");
 }
 
 TEST(Options, ANumberOutOfRangeNamesTheRange) {
-    EXPECT_EQ(Mistake({L"--lunits", L"6"}),
+    EXPECT_EQ(ErrorOf({L"--lunits", L"6"}),
               L"invalid value '6' for option '--lunits': expected a number from 1 to 5");
-    EXPECT_EQ(Mistake({L"--luprec", L"9"}),
+    EXPECT_EQ(ErrorOf({L"--luprec", L"9"}),
               L"invalid value '9' for option '--luprec': expected a number from 0 to 8");
 }
 
 TEST(Options, UnknownArgumentsAreNamed) {
-    EXPECT_EQ(Mistake({L"--evil"}), L"unknown option '--evil', see --help");
-    EXPECT_EQ(Mistake({L"--check-heap", L"door"}), L"unexpected argument 'door', see --help");
+    EXPECT_EQ(ErrorOf({L"--evil"}), L"unknown option '--evil', see --help");
+    EXPECT_EQ(ErrorOf({L"--check-heap", L"door"}), L"unexpected argument 'door', see --help");
 }
 
 TEST(Options, HelpAndVersionWinOverEverythingElse) {

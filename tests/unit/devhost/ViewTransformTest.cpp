@@ -88,7 +88,7 @@ TEST_F(ViewTransform, FittingIntoAWindowSmallerThanTheMarginsWorks) {
 }
 
 TEST_F(ViewTransform, ShowsWhatItsPixelsCover) {
-    const Box shown = m_view.Shown();
+    const Box shown = m_view.VisibleArea();
     ExpectPoint(shown.low, -0.5, -0.5);
     ExpectPoint(shown.high, 200.5, 100.5);
 }

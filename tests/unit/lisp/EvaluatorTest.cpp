@@ -32,7 +32,7 @@ TEST_F(Evaluator, QuoteLeavesItsArgumentAsItIs) {
     EXPECT_EQ(Evaluate(L"'(1 . a)"), L"(1 . A)");
     EXPECT_EQ(Evaluate(L"(quote (unknown 1))"), L"(UNKNOWN 1)");
     for (const wchar_t* text : {L"(quote)", L"(quote 1 2)", L"(quote . 1)"}) {
-        EXPECT_EQ(Mistake(text), L"line 1: QUOTE takes one argument");
+        EXPECT_EQ(ErrorOf(text), L"line 1: QUOTE takes one argument");
     }
 }
 
@@ -43,17 +43,17 @@ TEST_F(Evaluator, ACallGetsItsArgumentsEvaluated) {
 
 TEST_F(Evaluator, AFunctionMayGiveNoResult) {
     EXPECT_EQ(Evaluate(L"(nothing 1)"), L"; no result");
-    EXPECT_EQ(Mistake(L"(list (nothing))"), L"line 1: (NOTHING), an argument of LIST, has no result");
+    EXPECT_EQ(ErrorOf(L"(list (nothing))"), L"line 1: (NOTHING), an argument of LIST, has no result");
 }
 
-TEST_F(Evaluator, MistakesNameWhatTheyAreAbout) {
-    EXPECT_EQ(Mistake(L"(unknown 1)"), Unknown(L"UNKNOWN"));
-    EXPECT_EQ(Mistake(L"(list (unknown))"), Unknown(L"UNKNOWN"));
-    EXPECT_EQ(Mistake(L"(5 1)"), L"line 1: 5 is not the name of a function");
-    EXPECT_EQ(Mistake(L"((list) 1)"), L"line 1: (LIST) is not the name of a function");
-    EXPECT_EQ(Mistake(L"(nil)"), L"line 1: nil is not the name of a function");
-    EXPECT_EQ(Mistake(L"(list 1 . 2)"), L"line 1: the call of LIST ends in a dot and 2");
-    EXPECT_EQ(Mistake(L"(fail)"), L"line 1: as asked");
+TEST_F(Evaluator, ErrorsNameWhatTheyAreAbout) {
+    EXPECT_EQ(ErrorOf(L"(unknown 1)"), Unknown(L"UNKNOWN"));
+    EXPECT_EQ(ErrorOf(L"(list (unknown))"), Unknown(L"UNKNOWN"));
+    EXPECT_EQ(ErrorOf(L"(5 1)"), L"line 1: 5 is not the name of a function");
+    EXPECT_EQ(ErrorOf(L"((list) 1)"), L"line 1: (LIST) is not the name of a function");
+    EXPECT_EQ(ErrorOf(L"(nil)"), L"line 1: nil is not the name of a function");
+    EXPECT_EQ(ErrorOf(L"(list 1 . 2)"), L"line 1: the call of LIST ends in a dot and 2");
+    EXPECT_EQ(ErrorOf(L"(fail)"), L"line 1: as asked");
 }
 
 TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
@@ -63,7 +63,7 @@ TEST_F(Evaluator, ANameIsDefinedOnceAndTakenAwayOnce) {
     EXPECT_EQ(Evaluate(L"(one)"), L"1");
     EXPECT_TRUE(m_evaluator.Undefine(L"One"));
     EXPECT_FALSE(m_evaluator.Undefine(L"one"));
-    EXPECT_EQ(Mistake(L"(one)"), Unknown(L"ONE"));
+    EXPECT_EQ(ErrorOf(L"(one)"), Unknown(L"ONE"));
 }
 
 TEST_F(Evaluator, WhatLispMadeOfANameGivesWayToTheProgramsFunctionButIsNotTakenAway) {
@@ -93,7 +93,7 @@ TEST_F(Evaluator, AFunctionMayTakeItselfAway) {
         return CValue::String(big);
     });
     EXPECT_EQ(Evaluate(L"(once)"), L'"' + std::wstring(100, L'x') + L'"');
-    EXPECT_EQ(Mistake(L"(once)"), Unknown(L"ONCE"));
+    EXPECT_EQ(ErrorOf(L"(once)"), Unknown(L"ONCE"));
 }
 
 }  // namespace

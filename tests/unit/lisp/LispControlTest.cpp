@@ -19,18 +19,18 @@ TEST_F(LispControl, SetqAssignsInOrderAndGivesTheLastValue) {
                   {L"(set 'c 5) c", L"5"},
                   {L"(set (read \"d\") 6) d", L"6"},
                   {L"(boundp 'c)", L"T"}});
-    ExpectMistakes({{L"(setq a)", L"write (setq NAME VALUE ...)"},
-                    {L"(setq 5 1)", L"SETQ cannot assign to 5: it is not a symbol"},
-                    {L"(setq t 1)", L"T cannot be assigned to"},
-                    {L"(setq nil 1)", L"SETQ cannot assign to nil: it is not a symbol"},
-                    {L"(set 5 1)", L"SET needs a symbol as argument 1, not 5"}});
+    ExpectErrors({{L"(setq a)", L"write (setq NAME VALUE ...)"},
+                  {L"(setq 5 1)", L"SETQ cannot assign to 5: it is not a symbol"},
+                  {L"(setq t 1)", L"T cannot be assigned to"},
+                  {L"(setq nil 1)", L"SETQ cannot assign to nil: it is not a symbol"},
+                  {L"(set 5 1)", L"SET needs a symbol as argument 1, not 5"}});
 }
 
 TEST_F(LispControl, QuoteAndFunctionKeepWhatFollows) {
     ExpectValues({{L"(quote (a b))", L"(A B)"},
                   {L"(function car)", L"CAR"},
                   {L"(mapcar (function (lambda (x) (* x x))) '(1 2 3))", L"(1 4 9)"}});
-    ExpectMistakes({{L"(function)", L"QUOTE takes one argument"}});
+    ExpectErrors({{L"(function)", L"QUOTE takes one argument"}});
 }
 
 TEST_F(LispControl, AFunctionHasParametersAndLocals) {
@@ -39,15 +39,15 @@ TEST_F(LispControl, AFunctionHasParametersAndLocals) {
                   {L"(setq result 1 w 2) (area 5 5) (list result w h)", L"(1 2 nil)"},
                   {L"(defun nothing ()) (nothing)", L"nil"},
                   {L"(defun locals (/ a) a) (setq a 1) (locals)", L"nil"}});
-    ExpectMistakes({{L"(area 1)", L"AREA takes 2 arguments, not 1"},
-                    {L"(area 1 2 3)", L"AREA takes 2 arguments, not 3"},
-                    {L"(defun f (5))", L"F cannot have 5 as a parameter"},
-                    {L"(defun f (t))", L"F cannot have T as a parameter"},
-                    {L"(defun f x)", L"F has X instead of a list of parameters"},
-                    {L"(defun f (a . b))", L"F has (A . B) instead of a list of parameters"},
-                    {L"(defun f)", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
-                    {L"(defun 5 ())", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
-                    {L"(defun t ())", L"T cannot be assigned to"}});
+    ExpectErrors({{L"(area 1)", L"AREA takes 2 arguments, not 1"},
+                  {L"(area 1 2 3)", L"AREA takes 2 arguments, not 3"},
+                  {L"(defun f (5))", L"F cannot have 5 as a parameter"},
+                  {L"(defun f (t))", L"F cannot have T as a parameter"},
+                  {L"(defun f x)", L"F has X instead of a list of parameters"},
+                  {L"(defun f (a . b))", L"F has (A . B) instead of a list of parameters"},
+                  {L"(defun f)", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
+                  {L"(defun 5 ())", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
+                  {L"(defun t ())", L"T cannot be assigned to"}});
 }
 
 TEST_F(LispControl, ScopeIsDynamic) {
@@ -57,11 +57,11 @@ TEST_F(LispControl, ScopeIsDynamic) {
                   {L"x", L"1"}});
 }
 
-TEST_F(LispControl, VariablesComeBackAfterAMistakeInAFunction) {
+TEST_F(LispControl, VariablesComeBackAfterAnErrorInAFunction) {
     ExpectValues({{L"(setq x 1) (defun bad (x) (car x))", L"BAD"}});
-    EXPECT_EQ(Mistake(L"(bad 5)"), L"line 1 in BAD: CAR needs a list as argument 1, not 5");
+    EXPECT_EQ(ErrorOf(L"(bad 5)"), L"line 1 in BAD: CAR needs a list as argument 1, not 5");
     ExpectValues({{L"x", L"1"}, {L"(foreach x '(7 8) x)", L"8"}, {L"x", L"1"}});
-    Mistake(L"(foreach x '(7 8) (car x))");
+    ErrorOf(L"(foreach x '(7 8) (car x))");
     ExpectValues({{L"x", L"1"}});
 }
 
@@ -77,13 +77,13 @@ TEST_F(LispControl, FunctionsAreValues) {
 }
 
 TEST_F(LispControl, WhatIsNoFunctionIsNamed) {
-    EXPECT_EQ(Mistake(L"(defun f (list) (list 1)) (mapcar 'f '(1))"),
+    EXPECT_EQ(ErrorOf(L"(defun f (list) (list 1)) (mapcar 'f '(1))"),
               L"line 1 in F: LIST is not a function: its value is 1");
-    ExpectMistakes({{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
-                    {L"(apply nil nil)", L"nil is not the name of a function"},
-                    {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
-                    {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
-                    {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
+    ExpectErrors({{L"(setq five 5) (five)", L"FIVE is not a function: its value is 5"},
+                  {L"(apply nil nil)", L"nil is not the name of a function"},
+                  {L"(apply \"car\" nil)", L"\"car\" is not the name of a function"},
+                  {L"('(lambda (x) x) 5)", L"(QUOTE (LAMBDA (X) X)) is not the name of a function"},
+                  {L"(lambda)", L"write (lambda (PARAMETERS / LOCALS) BODY ...)"}});
 }
 
 TEST_F(LispControl, IfTakesOneOfTwoBranches) {
@@ -92,9 +92,9 @@ TEST_F(LispControl, IfTakesOneOfTwoBranches) {
                   {L"(if nil 1)", L"nil"},
                   {L"(if 0 1 2)", L"1"},
                   {L"(if '() (car 5) 'fine)", L"FINE"}});
-    ExpectMistakes({{L"(if)", L"write (if CONDITION THEN [ELSE])"},
-                    {L"(if 1)", L"write (if CONDITION THEN [ELSE])"},
-                    {L"(if 1 2 3 4)", L"write (if CONDITION THEN [ELSE])"}});
+    ExpectErrors({{L"(if)", L"write (if CONDITION THEN [ELSE])"},
+                  {L"(if 1)", L"write (if CONDITION THEN [ELSE])"},
+                  {L"(if 1 2 3 4)", L"write (if CONDITION THEN [ELSE])"}});
 }
 
 TEST_F(LispControl, CondTakesTheFirstClauseThatHolds) {
@@ -102,8 +102,8 @@ TEST_F(LispControl, CondTakesTheFirstClauseThatHolds) {
                   {L"(cond (nil 1))", L"nil"},
                   {L"(cond (5))", L"5"},
                   {L"(cond)", L"nil"}});
-    ExpectMistakes({{L"(cond 5)", L"write (cond (CONDITION BODY ...) ...)"},
-                    {L"(cond ())", L"write (cond (CONDITION BODY ...) ...)"}});
+    ExpectErrors({{L"(cond 5)", L"write (cond (CONDITION BODY ...) ...)"},
+                  {L"(cond ())", L"write (cond (CONDITION BODY ...) ...)"}});
 }
 
 TEST_F(LispControl, AndAndOrStopAsSoonAsTheyKnow) {
@@ -126,12 +126,12 @@ TEST_F(LispControl, LoopsGiveTheirLastValue) {
                   {L"(foreach n nil (car 5))", L"nil"},
                   {L"(progn 1 2 3)", L"3"},
                   {L"(progn)", L"nil"}});
-    ExpectMistakes({{L"(while)", L"write (while CONDITION BODY ...)"},
-                    {L"(repeat 1.5 1)", L"REPEAT needs a whole number as its count, not 1.5"},
-                    {L"(foreach n 5 1)", L"FOREACH needs a list to go through, not 5"},
-                    {L"(foreach n '(1 . 2) 1)", L"FOREACH needs a list to go through, not (1 . 2)"},
-                    {L"(foreach 5 '(1) 1)", L"write (foreach NAME LIST BODY ...)"},
-                    {L"(foreach t '(1) 1)", L"T cannot be assigned to"}});
+    ExpectErrors({{L"(while)", L"write (while CONDITION BODY ...)"},
+                  {L"(repeat 1.5 1)", L"REPEAT needs a whole number as its count, not 1.5"},
+                  {L"(foreach n 5 1)", L"FOREACH needs a list to go through, not 5"},
+                  {L"(foreach n '(1 . 2) 1)", L"FOREACH needs a list to go through, not (1 . 2)"},
+                  {L"(foreach 5 '(1) 1)", L"write (foreach NAME LIST BODY ...)"},
+                  {L"(foreach t '(1) 1)", L"T cannot be assigned to"}});
 }
 
 TEST_F(LispControl, EvalApplyAndMapcarCallFunctions) {
@@ -144,19 +144,19 @@ TEST_F(LispControl, EvalApplyAndMapcarCallFunctions) {
                   {L"(mapcar '+ '(1 2 3) '(10 20))", L"(11 22)"},
                   {L"(mapcar 'car '((a 1) (b 2)))", L"(A B)"},
                   {L"(mapcar '1+ nil)", L"nil"}});
-    ExpectMistakes({{L"(apply '+ 5)", L"APPLY needs a list as argument 2, not 5"},
-                    {L"(mapcar '1+ '(1 . 2))", L"MAPCAR needs a list as argument 2, not (1 . 2)"},
-                    {L"(mapcar '1+)", L"MAPCAR takes at least 2 arguments, not 1"},
-                    {L"(eval)", L"EVAL takes 1 argument, not 0"}});
+    ExpectErrors({{L"(apply '+ 5)", L"APPLY needs a list as argument 2, not 5"},
+                  {L"(mapcar '1+ '(1 . 2))", L"MAPCAR needs a list as argument 2, not (1 . 2)"},
+                  {L"(mapcar '1+)", L"MAPCAR takes at least 2 arguments, not 1"},
+                  {L"(eval)", L"EVAL takes 1 argument, not 0"}});
 }
 
 TEST_F(LispControl, WithoutAResultThereIsNoValue) {
     m_evaluator.Define(L"nothing", [](std::span<const CValue>) -> LispResult { return {}; });
     ExpectValues({{L"(progn (nothing))", L"; no result"}});
     EXPECT_EQ(Evaluate(L"(if T (nothing))"), L"; no result");
-    ExpectMistakes({{L"(setq a (nothing))", L"(NOTHING), an argument of SETQ, has no result"},
-                    {L"(if (nothing) 1)", L"(NOTHING), an argument of IF, has no result"},
-                    {L"(mapcar 'nothing '(1))", L"a call of NOTHING has no result"}});
+    ExpectErrors({{L"(setq a (nothing))", L"(NOTHING), an argument of SETQ, has no result"},
+                  {L"(if (nothing) 1)", L"(NOTHING), an argument of IF, has no result"},
+                  {L"(mapcar 'nothing '(1))", L"a call of NOTHING has no result"}});
 }
 
 TEST_F(LispControl, ExitEndsEverythingWithAStatus) {
@@ -177,9 +177,9 @@ TEST_F(LispControl, ExitEndsEverythingWithAStatus) {
 }
 
 TEST_F(LispControl, AnExitStatusIsOneThatEverySystemHas) {
-    ExpectMistakes({{L"(exit 256)", L"EXIT needs a status from 0 to 255 as argument 1, not 256"},
-                    {L"(quit -1)", L"QUIT needs a status from 0 to 255 as argument 1, not -1"},
-                    {L"(exit \"1\")", L"EXIT needs a whole number as argument 1, not \"1\""}});
+    ExpectErrors({{L"(exit 256)", L"EXIT needs a status from 0 to 255 as argument 1, not 256"},
+                  {L"(quit -1)", L"QUIT needs a status from 0 to 255 as argument 1, not -1"},
+                  {L"(exit \"1\")", L"EXIT needs a whole number as argument 1, not \"1\""}});
 }
 
 }  // namespace

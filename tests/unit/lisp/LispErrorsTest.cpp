@@ -11,29 +11,29 @@ using LispErrors = CLispTest;
 constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion come to an end?";
 
 TEST_F(LispErrors, TheInnermostFunctionAndItsLineAreNamed) {
-    EXPECT_EQ(Mistake(L"(defun f (x)\n  (g x))\n(defun g (x)\n  (if T\n    (car x)))\n(f 5)"),
+    EXPECT_EQ(ErrorOf(L"(defun f (x)\n  (g x))\n(defun g (x)\n  (if T\n    (car x)))\n(f 5)"),
               L"line 2 in F > line 5 in G: CAR needs a list as argument 1, not 5");
-    EXPECT_EQ(Mistake(L"(list\n (f\n  '(1))\n (car 2))"), L"line 4: CAR needs a list as argument 1, not 2");
-    EXPECT_EQ(Mistake(L"(+ 1\n (car '(\"a\")))"), L"line 1: + needs a number as argument 2, not \"a\"")
+    EXPECT_EQ(ErrorOf(L"(list\n (f\n  '(1))\n (car 2))"), L"line 4: CAR needs a list as argument 1, not 2");
+    EXPECT_EQ(ErrorOf(L"(+ 1\n (car '(\"a\")))"), L"line 1: + needs a number as argument 2, not \"a\"")
         << "the line of the call that failed, not of the one evaluated last";
-    EXPECT_EQ(Mistake(L"(mapcar\n '(lambda (x)\n   (car x))\n '(1))"),
+    EXPECT_EQ(ErrorOf(L"(mapcar\n '(lambda (x)\n   (car x))\n '(1))"),
               L"line 3 in LAMBDA: CAR needs a list as argument 1, not 1");
 }
 
 TEST_F(LispErrors, ACallBuiltAtRunTimeHasTheEnclosingLine) {
-    EXPECT_EQ(Mistake(L"\n(eval (list 'car 5))"), L"line 2: CAR needs a list as argument 1, not 5");
-    EXPECT_EQ(Mistake(L"(defun f ()\n 1)\n(defun g ()\n (f)\n (apply 'car '(5)))\n(g)"),
+    EXPECT_EQ(ErrorOf(L"\n(eval (list 'car 5))"), L"line 2: CAR needs a list as argument 1, not 5");
+    EXPECT_EQ(ErrorOf(L"(defun f ()\n 1)\n(defun g ()\n (f)\n (apply 'car '(5)))\n(g)"),
               L"line 5 in G: CAR needs a list as argument 1, not 5");
 }
 
 TEST_F(LispErrors, LongValuesAreCutInMessages) {
-    EXPECT_EQ(Mistake(L"(setq l nil) (repeat 1000 (setq l (cons 1234567 l))) (+ l)"),
+    EXPECT_EQ(ErrorOf(L"(setq l nil) (repeat 1000 (setq l (cons 1234567 l))) (+ l)"),
               L"line 1: + needs a number as argument 1, not (1234567 1234567 1234567 1234567 1234567 1234567 "
               L"1234567 123...");
 }
 
 TEST_F(LispErrors, TheSilentResultOfPrincIsNamed) {
-    EXPECT_EQ(Mistake(L"(+ 1 (princ))"), L"line 1: + needs a number as argument 2, not what (princ) gives");
+    EXPECT_EQ(ErrorOf(L"(+ 1 (princ))"), L"line 1: + needs a number as argument 2, not what (princ) gives");
 }
 
 TEST_F(LispErrors, TheUsersOwnErrorFunctionIsCalledOnce) {
@@ -65,7 +65,7 @@ TEST_F(LispErrors, AnErrorFunctionMayBeALocalAndSeesTheLocals) {
         L"  (defun *error* (text) (princ saved))"
         L"  (deeper))"
         L"(defun deeper () (car 5))");
-    Mistake(L"(work)");
+    ErrorOf(L"(work)");
     EXPECT_EQ(m_host.output, L"7");
     ExpectValues({{L"saved", L"1"}, {L"*error*", L"nil"}});
 }
@@ -80,11 +80,11 @@ TEST_F(LispErrors, AnErrorInTheErrorFunctionIsReportedInstead) {
         EXPECT_FALSE(error.IsHandled());
     }
     Evaluate(L"(defun *error* () 1)");
-    EXPECT_EQ(Mistake(L"(car 5)"), L"line 1: *ERROR* takes 0 arguments, not 1");
+    EXPECT_EQ(ErrorOf(L"(car 5)"), L"line 1: *ERROR* takes 0 arguments, not 1");
     Evaluate(L"(setq *error* 5)");
-    EXPECT_EQ(Mistake(L"(car 5)"), L"line 1: 5 is not the name of a function");
+    EXPECT_EQ(ErrorOf(L"(car 5)"), L"line 1: 5 is not the name of a function");
     Evaluate(L"(setq *error* nil)");
-    EXPECT_EQ(Mistake(L"(car 5)"), L"line 1: CAR needs a list as argument 1, not 5");
+    EXPECT_EQ(ErrorOf(L"(car 5)"), L"line 1: CAR needs a list as argument 1, not 5");
 }
 
 TEST_F(LispErrors, AnErrorFunctionMayExit) {
@@ -93,7 +93,7 @@ TEST_F(LispErrors, AnErrorFunctionMayExit) {
 }
 
 TEST_F(LispErrors, EvaluationContinuesAfterAnError) {
-    Mistake(L"(defun f (x) (f x)) (f 1)");
+    ErrorOf(L"(defun f (x) (f x)) (f 1)");
     ExpectValues({{L"(+ 1 2)", L"3"}, {L"x", L"nil"}});
 }
 
@@ -102,7 +102,7 @@ TEST_F(LispErrors, EscapeEndsALoop) {
          {L"(while T)", L"(repeat 2000000000)", L"(defun f () T) (while (f) (setq a 1))"}) {
         m_host.polls = 0;
         m_host.escapeAt = 3;
-        EXPECT_EQ(Mistake(loop), L"cancelled");
+        EXPECT_EQ(ErrorOf(loop), L"cancelled");
         EXPECT_EQ(m_host.polls, 3);
     }
 }
@@ -110,19 +110,19 @@ TEST_F(LispErrors, EscapeEndsALoop) {
 TEST_F(LispErrors, TheErrorFunctionIsCalledForEscape) {
     Evaluate(L"(defun *error* (text) (princ text))");
     m_host.escapeAt = 1;
-    EXPECT_EQ(Mistake(L"(while T)"), L"cancelled");
+    EXPECT_EQ(ErrorOf(L"(while T)"), L"cancelled");
     EXPECT_EQ(m_host.output, L"cancelled");
 }
 
 TEST_F(LispErrors, EscapeIsPolledWhileListsAreBuilt) {
     m_host.escapeAt = 3;
-    EXPECT_EQ(Mistake(L"(setq l '(1)) (while T (setq l (append l l)))"), L"cancelled");
+    EXPECT_EQ(ErrorOf(L"(setq l '(1)) (while T (setq l (append l l)))"), L"cancelled");
     ExpectValues({{L"(+ 1 2)", L"3"}});
 }
 
 TEST_F(LispErrors, RecursionWithoutEndIsAnErrorThatNamesSomeOfTheCalls) {
     const auto expectTooDeep = [this](const wchar_t* recursion, const std::wstring& name) {
-        const std::wstring text = Mistake(recursion);
+        const std::wstring text = ErrorOf(recursion);
         const std::wstring call = L"line 1 in " + name;
         const std::wstring first = call + L" > " + call + L" > " + call + L" > (";
         EXPECT_TRUE(text.starts_with(first)) << testing::PrintToString(text);
@@ -135,7 +135,7 @@ TEST_F(LispErrors, RecursionWithoutEndIsAnErrorThatNamesSomeOfTheCalls) {
     expectTooDeep(L"(defun f (x) (1+ (f x))) (f 1)", L"F");
     expectTooDeep(L"(defun g (x) (apply 'g (list x))) (g 1)", L"G");
     expectTooDeep(L"(defun h (x) (mapcar 'h (list x))) (h 1)", L"H");
-    EXPECT_EQ(Mistake(L"(setq e '(eval e)) (eval e)"), std::wstring(L"line 1: ") + kTooDeep);
+    EXPECT_EQ(ErrorOf(L"(setq e '(eval e)) (eval e)"), std::wstring(L"line 1: ") + kTooDeep);
 }
 
 TEST_F(LispErrors, ModerateRecursionIsNoError) {
@@ -144,12 +144,12 @@ TEST_F(LispErrors, ModerateRecursionIsNoError) {
 
 TEST_F(LispErrors, TheErrorFunctionRunsAfterTooDeepRecursion) {
     Evaluate(L"(defun *error* (text) (princ (strcat \"[\" (substr text 1 12) \"]\")))");
-    Mistake(L"(defun f (x) (1+ (f x))) (f 1)");
+    ErrorOf(L"(defun f (x) (1+ (f x))) (f 1)");
     EXPECT_EQ(m_host.output, L"[line 1 in F ]");
 }
 
 TEST_F(LispErrors, ARecursiveErrorFunctionEndsToo) {
-    EXPECT_TRUE(Mistake(L"(defun *error* (text) (*error* text)) (car 5)")
+    EXPECT_TRUE(ErrorOf(L"(defun *error* (text) (*error* text)) (car 5)")
                     .ends_with(std::wstring(L" > line 1 in *ERROR*: ") + kTooDeep));
 }
 
@@ -158,8 +158,8 @@ TEST_F(LispErrors, DeeplyNestedDataIsHandledOrRefused) {
     Evaluate(kMake);
     ExpectValues({{L"(equal a b)", L"T"}, {L"(equal a (list b))", L"nil"}, {L"(type a)", L"LIST"}});
     EXPECT_EQ(Evaluate(L"a").size(), 2u * 300'000 + 3);
-    EXPECT_EQ(Mistake(L"(subst 1 2 a)"), std::wstring(L"line 1: ") + kTooDeep);
-    EXPECT_EQ(Mistake(L"(eval a)").substr(0, 16), L"line 1: ((((((((");
+    EXPECT_EQ(ErrorOf(L"(subst 1 2 a)"), std::wstring(L"line 1: ") + kTooDeep);
+    EXPECT_EQ(ErrorOf(L"(eval a)").substr(0, 16), L"line 1: ((((((((");
     ExpectValues({{L"(setq a nil b nil)", L"nil"}});
 }
 
@@ -169,9 +169,9 @@ TEST_F(LispErrors, DeeplyNestedFunctionsAreDestroyed) {
 
 TEST_F(LispErrors, ListsWithSharedPartsArePrintedUpToALimit) {
     Evaluate(L"(setq a '(1)) (repeat 60 (setq a (list a a))) nil");
-    EXPECT_TRUE(Mistake(L"(princ a)").starts_with(L"line 1: a value is too long to be printed: (((("));
+    EXPECT_TRUE(ErrorOf(L"(princ a)").starts_with(L"line 1: a value is too long to be printed: (((("));
     m_host.escapeAt = 25;
-    EXPECT_EQ(Mistake(L"(setq b '(1)) (repeat 60 (setq b (list b b))) (equal a b)"), L"cancelled");
+    EXPECT_EQ(ErrorOf(L"(setq b '(1)) (repeat 60 (setq b (list b b))) (equal a b)"), L"cancelled");
 }
 
 constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
@@ -184,7 +184,7 @@ TEST_F(LispErrors, TheMemoryOfValuesIsLimited) {
          {L"(while T (setq all (cons 1 all)))", L"(setq all '(1)) (while T (setq all (append all all)))",
           L"(setq s \"0123456789\") (repeat 12 (setq s (strcat s s)))"
           L"(while T (setq all (cons (substr s 2) all)))"}) {
-        EXPECT_EQ(Mistake(loop), kTooMuch);
+        EXPECT_EQ(ErrorOf(loop), kTooMuch);
         EXPECT_LT(CValue::HeldBytes(), 64 * kMegabyte);
         ExpectValues({{L"(setq all nil s nil)", L"nil"}});
     }
@@ -194,12 +194,12 @@ TEST_F(LispErrors, TheMemoryOfValuesIsLimited) {
 TEST_F(LispErrors, TheErrorFunctionHasMemoryAfterTheLimitIsReached) {
     m_evaluator.SetMemoryLimit(kMegabyte);
     Evaluate(L"(defun *error* (text) (setq all nil) (princ (substr text 1 26)))");
-    Mistake(L"(while T (setq all (cons 1 all)))");
+    ErrorOf(L"(while T (setq all (cons 1 all)))");
     EXPECT_EQ(m_host.output, L"line 1: the values take mo");
 }
 
 TEST_F(LispErrors, TheLengthOfATextIsLimited) {
-    EXPECT_EQ(Mistake(L"(setq s \"x\") (while T (setq s (strcat s s)))"),
+    EXPECT_EQ(ErrorOf(L"(setq s \"x\") (while T (setq s (strcat s s)))"),
               L"line 1: STRCAT: the text would be longer than 4000000 characters");
 }
 

@@ -86,7 +86,7 @@ TEST_F(LispFiles, EveryByteSurvives) {
 }
 
 TEST_F(LispFiles, ACharacterThatTheFileCannotHoldIsAnErrorAndNothingIsWritten) {
-    EXPECT_EQ(Mistake(L"(setq f (open name \"w\")) (write-line \"ok\" f) (write-line \"a\u0416b\" f)"),
+    EXPECT_EQ(ErrorOf(L"(setq f (open name \"w\")) (write-line \"ok\" f) (write-line \"a\u0416b\" f)"),
               L"line 1: WRITE-LINE: the file '" + Path(L"file.txt") +
                   L"' cannot hold the character U+0416: text files are Windows-1252");
     Evaluate(L"(close f)");
@@ -99,7 +99,7 @@ TEST_F(LispFiles, WhatCannotBeOpenedIsNil) {
     ExpectValues({{L"(open name \"r\")", L"nil"},
                   {L"(open name \"w\")", L"nil"},
                   {L"(open (strcat name \"/no/where\") \"w\")", L"nil"}});
-    ExpectMistakes(
+    ExpectErrors(
         {{L"(open name \"x\")", L"OPEN needs \"r\", \"w\" or \"a\" as argument 2, not \"x\""},
          {L"(open 5 \"r\")", L"OPEN needs a text as argument 1, not 5"},
          {L"(close 5)", L"CLOSE needs an open file as argument 1, not 5"},
@@ -111,13 +111,13 @@ TEST_F(LispFiles, WhatCannotBeOpenedIsNil) {
 TEST_F(LispFiles, AFileIsUsedAsItWasOpened) {
     Write(L"file.txt", "a\n");
     const std::wstring file = L": the file '" + Path(L"file.txt") + L"' ";
-    EXPECT_EQ(Mistake(L"(setq f (open name \"r\")) (write-line \"b\" f)"),
+    EXPECT_EQ(ErrorOf(L"(setq f (open name \"r\")) (write-line \"b\" f)"),
               L"line 1: WRITE-LINE" + file + L"is open for reading: open it with \"w\" or \"a\"");
-    EXPECT_EQ(Mistake(L"(setq f (open name \"a\")) (read-line f)"),
+    EXPECT_EQ(ErrorOf(L"(setq f (open name \"a\")) (read-line f)"),
               L"line 1: READ-LINE" + file + L"is open for writing: open it with \"r\"");
-    EXPECT_EQ(Mistake(L"(close f) (write-line \"b\" f)"), L"line 1: WRITE-LINE" + file + L"is closed");
-    EXPECT_EQ(Mistake(L"(prin1 5 f)"), L"line 1: PRIN1" + file + L"is closed");
-    EXPECT_EQ(Mistake(L"(read-char f)"), L"line 1: READ-CHAR" + file + L"is closed");
+    EXPECT_EQ(ErrorOf(L"(close f) (write-line \"b\" f)"), L"line 1: WRITE-LINE" + file + L"is closed");
+    EXPECT_EQ(ErrorOf(L"(prin1 5 f)"), L"line 1: PRIN1" + file + L"is closed");
+    EXPECT_EQ(ErrorOf(L"(read-char f)"), L"line 1: READ-CHAR" + file + L"is closed");
     ExpectValues({{L"(type f)", L"FILE"}});
     EXPECT_EQ(Evaluate(L"f"), L"<file " + Path(L"file.txt") + L">");
 }
@@ -133,34 +133,34 @@ TEST_F(LispFiles, LoadRunsAFileAndGivesItsLastValue) {
                   {L"(load \"a\")", L"2"},
                   {L"a", L"1"},
                   {L"(load \"none\" 'otherwise)", L"OTHERWISE"}});
-    ExpectMistakes({{L"(load \"none\")",
-                     L"LOAD: the file 'none.lsp' is not found: check its name and the search folders"}});
+    ExpectErrors({{L"(load \"none\")",
+                   L"LOAD: the file 'none.lsp' is not found: check its name and the search folders"}});
 }
 
-TEST_F(LispFiles, MistakesInAFileNameFileLineAndFunction) {
+TEST_F(LispFiles, ErrorsInAFileNameFileLineAndFunction) {
     Write(L"bad.lsp",
           "; comment\n(defun inner (x)\n  (list\n    (strcat x)))\n(defun outer (x)\n  (inner x))\n");
     Evaluate(L"(load \"bad.lsp\")");
-    EXPECT_EQ(Mistake(L"(outer 5)"),
+    EXPECT_EQ(ErrorOf(L"(outer 5)"),
               L"bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a text as argument 1, not 5");
-    EXPECT_EQ(Mistake(L"\n(outer)"), L"line 2: OUTER takes 1 argument, not 0");
+    EXPECT_EQ(ErrorOf(L"\n(outer)"), L"line 2: OUTER takes 1 argument, not 0");
     Write(L"top.lsp", "(setq a 1)\n\n(car a)\n");
-    EXPECT_EQ(Mistake(L"(load \"top.lsp\")"), L"top.lsp:3: CAR needs a list as argument 1, not 1");
+    EXPECT_EQ(ErrorOf(L"(load \"top.lsp\")"), L"top.lsp:3: CAR needs a list as argument 1, not 1");
     Write(L"calls.lsp", "(load \"bad.lsp\")\n(outer\n  \"a\")\n(mapcar\n  'outer '(1))");
     EXPECT_EQ(
-        Mistake(L"(load \"calls.lsp\")"),
+        ErrorOf(L"(load \"calls.lsp\")"),
         L"calls.lsp:4 > bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a text as argument 1, not 1");
 }
 
-TEST_F(LispFiles, AFileWithAMistakeInItsNotationIsNotRunAtAll) {
+TEST_F(LispFiles, AFileWithASyntaxErrorIsNotRunAtAll) {
     Write(L"half.lsp", "(setq half T)\n(setq b (list 1 2)\n");
-    EXPECT_EQ(Mistake(L"(load \"half.lsp\")"), L"half.lsp:2:1: a parenthesis is not closed");
+    EXPECT_EQ(ErrorOf(L"(load \"half.lsp\")"), L"half.lsp:2:1: a parenthesis is not closed");
     ExpectValues({{L"half", L"nil"}});
 }
 
 TEST_F(LispFiles, AFileThatLoadsItselfEndsWithAnError) {
     Write(L"self.lsp", "(load \"self.lsp\")");
-    const std::wstring text = Mistake(L"(load \"self.lsp\")");
+    const std::wstring text = ErrorOf(L"(load \"self.lsp\")");
     EXPECT_TRUE(text.starts_with(L"self.lsp:1 > self.lsp:1 > self.lsp:1 > ("))
         << testing::PrintToString(text);
     EXPECT_TRUE(
@@ -179,7 +179,7 @@ TEST_F(LispFiles, SourcesAreUtf8OrWindows1252) {
 TEST_F(LispFiles, ASourceInUtf16IsNamed) {
     for (const std::string start : {"\xFF\xFE", "\xFE\xFF"}) {
         Write(L"wide.lsp", start + std::string("5\0", 2));
-        EXPECT_EQ(Mistake(L"(load \"wide\")"), L"line 1: the file 'wide.lsp' is UTF-16: save it as UTF-8");
+        EXPECT_EQ(ErrorOf(L"(load \"wide\")"), L"line 1: the file 'wide.lsp' is UTF-16: save it as UTF-8");
     }
 }
 

@@ -67,7 +67,7 @@ protected:
     }
 
     // The text of the error that ends the evaluation; "gave VALUE" when there is no error.
-    std::wstring Mistake(std::wstring_view text) {
+    std::wstring ErrorOf(std::wstring_view text) {
         try {
             return L"gave " + Evaluate(text);
         } catch (const CLispError& error) {
@@ -82,14 +82,14 @@ protected:
 
     void ExpectValues(std::initializer_list<Case> cases) {
         for (const Case& c : cases) {
-            EXPECT_EQ(Mistake(c.text), std::wstring(L"gave ") + c.expected) << testing::PrintToString(c.text);
+            EXPECT_EQ(ErrorOf(c.text), std::wstring(L"gave ") + c.expected) << testing::PrintToString(c.text);
         }
     }
 
     // Expects errors at line 1; `expected` is the text after the location.
-    void ExpectMistakes(std::initializer_list<Case> cases) {
+    void ExpectErrors(std::initializer_list<Case> cases) {
         for (const Case& c : cases) {
-            EXPECT_EQ(Mistake(c.text), std::wstring(L"line 1: ") + c.expected)
+            EXPECT_EQ(ErrorOf(c.text), std::wstring(L"line 1: ") + c.expected)
                 << testing::PrintToString(c.text);
         }
     }

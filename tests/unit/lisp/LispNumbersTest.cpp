@@ -33,23 +33,23 @@ TEST_F(LispNumbers, AWholeNumberThatDoesNotFitIsAnErrorAndNotAnotherNumber) {
         {L"(abs -2147483648)", L"ABS: the whole number 2147483648"},
         {L"(gcd -2147483648 0)", L"GCD: the whole number 2147483648"}};
     for (const auto& [text, mistake] : cases) {
-        EXPECT_EQ(Mistake(text), std::wstring(L"line 1: ") + mistake + kHint);
+        EXPECT_EQ(ErrorOf(text), std::wstring(L"line 1: ") + mistake + kHint);
     }
     ExpectValues({{L"(+ 2147483647 1.0)", L"2147483648.0"}, {L"(rem -2147483648 -1)", L"0"}});
 }
 
 TEST_F(LispNumbers, WhatIsNoNumberIsNamed) {
-    ExpectMistakes({{L"(+ 1 \"2\")", L"+ needs a number as argument 2, not \"2\""},
-                    {L"(- nil 1)", L"- needs a number as argument 1, not nil"},
-                    {L"(1+ 'a)", L"1+ needs a number as argument 1, not A"},
-                    {L"(-)", L"- takes at least 1 argument, not 0"},
-                    {L"(rem 1)", L"REM takes at least 2 arguments, not 1"},
-                    {L"(1+ 1 2)", L"1+ takes 1 argument, not 2"},
-                    {L"(/ 1 0)", L"/: division by zero"},
-                    {L"(/ 1.0 2 0.0)", L"/: division by zero"},
-                    {L"(rem 1 0)", L"REM: division by zero"},
-                    {L"(gcd 1.0 2)", L"GCD needs a whole number as argument 1, not 1.0"},
-                    {L"(* 1e200 1e200)", L"*: the result is not a finite number"}});
+    ExpectErrors({{L"(+ 1 \"2\")", L"+ needs a number as argument 2, not \"2\""},
+                  {L"(- nil 1)", L"- needs a number as argument 1, not nil"},
+                  {L"(1+ 'a)", L"1+ needs a number as argument 1, not A"},
+                  {L"(-)", L"- takes at least 1 argument, not 0"},
+                  {L"(rem 1)", L"REM takes at least 2 arguments, not 1"},
+                  {L"(1+ 1 2)", L"1+ takes 1 argument, not 2"},
+                  {L"(/ 1 0)", L"/: division by zero"},
+                  {L"(/ 1.0 2 0.0)", L"/: division by zero"},
+                  {L"(rem 1 0)", L"REM: division by zero"},
+                  {L"(gcd 1.0 2)", L"GCD needs a whole number as argument 1, not 1.0"},
+                  {L"(* 1e200 1e200)", L"*: the result is not a finite number"}});
 }
 
 TEST_F(LispNumbers, BitsAreCombined) {
@@ -58,7 +58,7 @@ TEST_F(LispNumbers, BitsAreCombined) {
                   {L"(logior 12 10)", L"14"},
                   {L"(logior)", L"0"},
                   {L"(~ 0)", L"-1"}});
-    ExpectMistakes({{L"(logand 1.0)", L"LOGAND needs a whole number as argument 1, not 1.0"}});
+    ExpectErrors({{L"(logand 1.0)", L"LOGAND needs a whole number as argument 1, not 1.0"}});
 }
 
 TEST_F(LispNumbers, MathematicsWorksOnReals) {
@@ -80,7 +80,7 @@ TEST_F(LispNumbers, MathematicsWorksOnReals) {
                   {L"(fix -2.9)", L"-2"},
                   {L"(fix 7)", L"7"},
                   {L"(float 2)", L"2.0"}});
-    ExpectMistakes(
+    ExpectErrors(
         {{L"(sqrt -1)", L"SQRT needs a number that is not negative as argument 1, not -1"},
          {L"(log 0)", L"LOG needs a number above zero as argument 1, not 0"},
          {L"(exp 1000)", L"EXP: the result is not a finite number"},
@@ -111,9 +111,9 @@ TEST_F(LispNumbers, ComparisonsTakeAnyCountOfNumbersOrTexts) {
                   {L"(>= 1 2)", L"nil"},
                   {L"(< \"abc\" \"abd\")", L"T"},
                   {L"(> \"a\" \"B\")", L"T"}});
-    ExpectMistakes({{L"(< 1 \"2\")", L"< needs a number as argument 2, not \"2\""},
-                    {L"(< \"1\" 2)", L"< needs a text as argument 2, not 2"},
-                    {L"(> nil 1)", L"> needs a number as argument 1, not nil"}});
+    ExpectErrors({{L"(< 1 \"2\")", L"< needs a number as argument 2, not \"2\""},
+                  {L"(< \"1\" 2)", L"< needs a text as argument 2, not 2"},
+                  {L"(> nil 1)", L"> needs a number as argument 1, not nil"}});
 }
 
 TEST_F(LispNumbers, EqualityHasThreeDegrees) {
@@ -150,8 +150,8 @@ TEST_F(LispNumbers, PredicatesAnswerTOrNil) {
                   {L"(listp nil)", L"T"},
                   {L"(listp 5)", L"nil"},
                   {L"(boundp 'car)", L"T"}});
-    ExpectMistakes({{L"(zerop \"\")", L"ZEROP needs a number as argument 1, not \"\""},
-                    {L"(boundp 5)", L"BOUNDP needs a symbol as argument 1, not 5"}});
+    ExpectErrors({{L"(zerop \"\")", L"ZEROP needs a number as argument 1, not \"\""},
+                  {L"(boundp 5)", L"BOUNDP needs a symbol as argument 1, not 5"}});
 }
 
 TEST_F(LispNumbers, TypeNamesTheTypeOfAValue) {

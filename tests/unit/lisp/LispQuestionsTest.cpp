@@ -91,16 +91,16 @@ TEST_F(LispQuestions, ATextIsTakenAsItIs) {
 TEST_F(LispQuestions, EscapeCancelsTheEvaluationWithoutAPosition) {
     for (const wchar_t* question :
          {L"(getpoint)", L"(getdist)", L"(getreal)", L"(getint)", L"(getstring)", L"(read-line)"}) {
-        EXPECT_EQ(Mistake(std::wstring(L"(defun ask () ") + question + L" (princ \"after\")) (ask)"),
+        EXPECT_EQ(ErrorOf(std::wstring(L"(defun ask () ") + question + L" (princ \"after\")) (ask)"),
                   L"cancelled");
     }
     Click(1, 1);
-    EXPECT_EQ(Mistake(L"(getdist)"), L"cancelled") << "for the second point";
+    EXPECT_EQ(ErrorOf(L"(getdist)"), L"cancelled") << "for the second point";
     EXPECT_EQ(m_host.output, L"");
 }
 
 TEST_F(LispQuestions, WrongArgumentsAreNamed) {
-    ExpectMistakes(
+    ExpectErrors(
         {{L"(getpoint 5)", L"GETPOINT needs a point, a list of two or three numbers, as argument 1, not 5"},
          {L"(getpoint 1 2 3)", L"GETPOINT takes 0 to 2 arguments, not 3"},
          {L"(getreal '(0 0))", L"GETREAL needs a text as argument 1, not (0 0)"},

@@ -20,7 +20,7 @@ std::wstring Echo(std::wstring_view text) {
     return value ? Print(*value) : L"(no expression)";
 }
 
-void ExpectMistake(std::wstring_view text, std::wstring_view message) {
+void ExpectError(std::wstring_view text, std::wstring_view message) {
     CReader reader(text);
     try {
         while (reader.Read()) {
@@ -38,8 +38,8 @@ TEST(Reader, WholeNumbersHave32Bits) {
     EXPECT_EQ(Echo(L"007"), L"7");
     EXPECT_EQ(Echo(L"2147483647"), L"2147483647");
     EXPECT_EQ(Echo(L"-2147483648"), L"-2147483648");
-    ExpectMistake(L"2147483648", L"line 1, column 1: the whole number 2147483648 does not fit 32 bits");
-    ExpectMistake(L"(f -2147483649)", L"line 1, column 4: the whole number -2147483649 does not fit 32 bits");
+    ExpectError(L"2147483648", L"line 1, column 1: the whole number 2147483648 does not fit 32 bits");
+    ExpectError(L"(f -2147483649)", L"line 1, column 4: the whole number -2147483649 does not fit 32 bits");
 }
 
 TEST(Reader, RealsHaveAPointOrAnExponent) {
@@ -51,8 +51,8 @@ TEST(Reader, RealsHaveAPointOrAnExponent) {
     EXPECT_EQ(CReader(L".5").Read()->AsReal(), 0.5);
     EXPECT_EQ(CReader(L"-.5").Read()->AsReal(), -0.5);
     EXPECT_EQ(CReader(L"0.1").Read()->AsReal(), 0.1);
-    ExpectMistake(L"1e999", L"line 1, column 1: the real 1e999 is too large or too small");
-    ExpectMistake(L"1e-999", L"line 1, column 1: the real 1e-999 is too large or too small");
+    ExpectError(L"1e999", L"line 1, column 1: the real 1e999 is too large or too small");
+    ExpectError(L"1e-999", L"line 1, column 1: the real 1e-999 is too large or too small");
 }
 
 TEST(Reader, WhatIsAlmostANumberIsASymbol) {
@@ -80,8 +80,8 @@ TEST(Reader, TextsKnowFourEscapes) {
     EXPECT_EQ(CReader(L"\"\"").Read()->AsString(), L"");
     EXPECT_EQ(CReader(L"\"(;'\n)\"").Read()->AsString(), L"(;'\n)");
     EXPECT_EQ(CReader(L"\"porta però 門\"").Read()->AsString(), L"porta però 門");
-    ExpectMistake(LR"("ab\q")",
-                  LR"(line 1, column 4: the escape \q is not known: a backslash in a text is written \\)");
+    ExpectError(LR"("ab\q")",
+                LR"(line 1, column 4: the escape \q is not known: a backslash in a text is written \\)");
 }
 
 TEST(Reader, ListsNest) {
@@ -94,20 +94,20 @@ TEST(Reader, ADotMakesAPair) {
     EXPECT_EQ(Echo(L"(a b . (c))"), L"(A B C)");
     EXPECT_EQ(Echo(L"(a . nil)"), L"(A)");
     EXPECT_EQ(Echo(L"(a .5)"), L"(A 0.5)");
-    ExpectMistake(L"(. b)", L"line 1, column 2: the dot has no element before it");
-    ExpectMistake(L"(a . )", L"line 1, column 4: nothing follows the dot");
-    ExpectMistake(L"(a .", L"line 1, column 4: nothing follows the dot");
-    ExpectMistake(L"(a . b c)", L"line 1, column 4: more than one expression follows the dot");
-    ExpectMistake(L"(a . b", L"line 1, column 4: a parenthesis is not closed");
-    ExpectMistake(L" . ", L"line 1, column 2: a dot outside a list");
+    ExpectError(L"(. b)", L"line 1, column 2: the dot has no element before it");
+    ExpectError(L"(a . )", L"line 1, column 4: nothing follows the dot");
+    ExpectError(L"(a .", L"line 1, column 4: nothing follows the dot");
+    ExpectError(L"(a . b c)", L"line 1, column 4: more than one expression follows the dot");
+    ExpectError(L"(a . b", L"line 1, column 4: a parenthesis is not closed");
+    ExpectError(L" . ", L"line 1, column 2: a dot outside a list");
 }
 
 TEST(Reader, AnApostropheQuotesWhatFollows) {
     EXPECT_EQ(Echo(L"'a"), L"(QUOTE A)");
     EXPECT_EQ(Echo(L"''(1)"), L"(QUOTE (QUOTE (1)))");
     EXPECT_EQ(Echo(L"' a"), L"(QUOTE A)");
-    ExpectMistake(L"'", L"line 1, column 1: nothing follows the quote");
-    ExpectMistake(L"(f ')", L"line 1, column 4: nothing follows the quote");
+    ExpectError(L"'", L"line 1, column 1: nothing follows the quote");
+    ExpectError(L"(f ')", L"line 1, column 4: nothing follows the quote");
 }
 
 TEST(Reader, ExpressionsFollowEachOtherUntilTheTextEnds) {
@@ -124,25 +124,25 @@ TEST(Reader, ExpressionsFollowEachOtherUntilTheTextEnds) {
 TEST(Reader, ACommentInBarsMayStandAnywhereAndSpanLines) {
     EXPECT_EQ(Echo(L"(a ;| not read ; nor ) this\n |; b)"), L"(A B)");
     EXPECT_EQ(Echo(L";||; c"), L"C");
-    ExpectMistake(L"(a\n ;| b |", L"line 2, column 2: a comment is not closed");
+    ExpectError(L"(a\n ;| b |", L"line 2, column 2: a comment is not closed");
 }
 
-TEST(Reader, AMistakeNamesTheLineAndTheColumnWhereItBegins) {
-    ExpectMistake(L"(a\n  (b c)\n", L"line 1, column 1: a parenthesis is not closed");
-    ExpectMistake(L"(a\r\n  (b c)\r\n  (d", L"line 3, column 3: a parenthesis is not closed");
-    ExpectMistake(L"1\n 2)", L"line 2, column 3: a closing parenthesis has no opening one");
-    ExpectMistake(L"(f \"ab)", L"line 1, column 4: a text is not closed");
-    ExpectMistake(L"\n\"ab\\", L"line 2, column 1: a text is not closed");
+TEST(Reader, AErrorNamesTheLineAndTheColumnWhereItBegins) {
+    ExpectError(L"(a\n  (b c)\n", L"line 1, column 1: a parenthesis is not closed");
+    ExpectError(L"(a\r\n  (b c)\r\n  (d", L"line 3, column 3: a parenthesis is not closed");
+    ExpectError(L"1\n 2)", L"line 2, column 3: a closing parenthesis has no opening one");
+    ExpectError(L"(f \"ab)", L"line 1, column 4: a text is not closed");
+    ExpectError(L"\n\"ab\\", L"line 2, column 1: a text is not closed");
 }
 
 TEST(Reader, NestingHasALimitInsteadOfTheStacks) {
     const std::wstring open(1000, L'(');
     const std::wstring close(1000, L')');
     EXPECT_EQ(Echo(open + close), std::wstring(999, L'(') + L"nil" + std::wstring(999, L')'));
-    ExpectMistake(std::wstring(100'000, L'('),
-                  L"line 1, column 1002: expressions are nested more than 1000 deep");
-    ExpectMistake(std::wstring(100'000, L'\'') + L"a",
-                  L"line 1, column 1002: expressions are nested more than 1000 deep");
+    ExpectError(std::wstring(100'000, L'('),
+                L"line 1, column 1002: expressions are nested more than 1000 deep");
+    ExpectError(std::wstring(100'000, L'\'') + L"a",
+                L"line 1, column 1002: expressions are nested more than 1000 deep");
 }
 
 TEST(Reader, AListOfAMillionElementsIsReadPrintedAndLetGo) {

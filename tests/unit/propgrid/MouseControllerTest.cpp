@@ -244,16 +244,16 @@ TEST_F(CustomMouse, AnItemThatTakesThePressGetsTheMouse) {
     Press({200, 5});
     EXPECT_TRUE(HasAction<action::BeginCapture>(mouse.AnswerPress(true, {200, 5})));
     const Actions move = mouse.Move({-5, 77}, false);
-    ASSERT_TRUE(HasAction<action::TellCustomItem>(move));
-    EXPECT_EQ(FindAction<action::TellCustomItem>(move)->event, CE_MOVE);
+    ASSERT_TRUE(HasAction<action::NotifyCustomItem>(move));
+    EXPECT_EQ(FindAction<action::NotifyCustomItem>(move)->event, CE_MOVE);
     const Actions release = Release({1, 2});
-    ASSERT_TRUE(HasAction<action::TellCustomItem>(release));
-    EXPECT_EQ(FindAction<action::TellCustomItem>(release)->event, CE_UP);
-    EXPECT_EQ(FindAction<action::TellCustomItem>(release)->point, (Point{1, 2}));
+    ASSERT_TRUE(HasAction<action::NotifyCustomItem>(release));
+    EXPECT_EQ(FindAction<action::NotifyCustomItem>(release)->event, CE_UP);
+    EXPECT_EQ(FindAction<action::NotifyCustomItem>(release)->point, (Point{1, 2}));
     // The capture is released and the repaint requested before the item is called.
     EXPECT_TRUE(std::holds_alternative<action::EndCapture>(release.front()));
-    EXPECT_TRUE(std::holds_alternative<action::TellCustomItem>(release.back()));
-    EXPECT_FALSE(HasAction<action::TellCustomItem>(mouse.Move({1, 1}, false)));
+    EXPECT_TRUE(std::holds_alternative<action::NotifyCustomItem>(release.back()));
+    EXPECT_FALSE(HasAction<action::NotifyCustomItem>(mouse.Move({1, 1}, false)));
 }
 
 TEST_F(CustomMouse, AnItemThatDoesNotLeavesThePressToTheGrid) {
@@ -273,8 +273,8 @@ TEST_F(CustomMouse, AnItemThatLosesItsEditorMeanwhileGetsTheRelease) {
     Press({200, 5});
     custom.mode = EM_CUSTOM;
     const Actions actions = mouse.Release({200, 5});
-    ASSERT_TRUE(HasAction<action::TellCustomItem>(actions));
-    EXPECT_EQ(FindAction<action::TellCustomItem>(actions)->event, CE_UP);
+    ASSERT_TRUE(HasAction<action::NotifyCustomItem>(actions));
+    EXPECT_EQ(FindAction<action::NotifyCustomItem>(actions)->event, CE_UP);
     custom.mode = 77;
     Focus({.item = 1});
     EXPECT_TRUE(Click({200, 5}).empty()) << "an edit mode that there is not";

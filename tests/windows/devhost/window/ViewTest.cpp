@@ -46,6 +46,37 @@ TEST_F(View, TheMiddleButtonDragsTheDrawing) {
     ExpectNear(PickAt(260, 120), grabbed.x, grabbed.y);
 }
 
+TEST_F(View, AMonitorOfAnotherResolutionChangesFontsAndSizes) {
+    struct CSystemResolution {
+        ~CSystemResolution() { CScale::SetResolution(CScale::GetSystemResolution()); }
+    } restored;
+    const auto heightOf = [&](EControl part) {
+        RECT rectangle;
+        GetWindowRect(Part(part), &rectangle);
+        return rectangle.bottom - rectangle.top;
+    };
+    const auto fontOf = [&](EControl part) {
+        LOGFONTW font = {};
+        GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Part(part), WM_GETFONT, 0, 0)), sizeof font, &font);
+        return std::abs(font.lfHeight);
+    };
+    const LONG codeFont = fontOf(IDC_PROMPT);
+    const LONG textFont = fontOf(IDC_STATUS);
+    const LONG output = heightOf(IDC_OUTPUT);
+    const LONG status = heightOf(IDC_STATUS);
+    const int resolution = 2 * CScale::GetSystemResolution();
+    RECT suggested = {10, 20, 1510, 1020};
+    SendMessageW(m_window.Handle(), WM_DPICHANGED, MAKEWPARAM(resolution, resolution),
+                 reinterpret_cast<LPARAM>(&suggested));
+    EXPECT_EQ(fontOf(IDC_PROMPT), 2 * codeFont);
+    EXPECT_EQ(fontOf(IDC_STATUS), 2 * textFont);
+    EXPECT_NEAR(heightOf(IDC_OUTPUT), 2 * output, 2);
+    EXPECT_GT(heightOf(IDC_STATUS), status * 3 / 2);
+    RECT rectangle;
+    GetWindowRect(m_window.Handle(), &rectangle);
+    EXPECT_TRUE(EqualRect(&rectangle, &suggested));
+}
+
 TEST_F(View, FittingShowsTheWholeDrawing) {
     m_drawing.Add(LineEntity{{5000, 7000}, {9000, 8000}});
     RECT area;
