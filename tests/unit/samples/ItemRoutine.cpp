@@ -82,6 +82,7 @@ void ItemRoutine::UseTexts(const std::string& language) {
 }
 
 bool ItemRoutine::Run(const std::string& text) {
+    m_openings = 0;
     try {
         const LispResult result = m_evaluator.Run(ReadText(Wide(text)));
         return result && !result->IsNil();
@@ -108,7 +109,6 @@ bool ItemRoutine::Make(const std::string& item, const std::string& variant) {
     }
     drawing.Clear();
     messages.clear();
-    m_openings = 0;
     chosen = variant;
     clicked = LispPoint();
     return Run("(" + item + ")");

@@ -81,7 +81,7 @@ private:
     LispResult PlayItemDialog(std::span<const CValue> arguments);
 
     CEvaluator m_evaluator{*this};
-    int m_openings = 0;  // of the item dialog
+    int m_openings = 0;  // of the item dialog, in this Run
     std::string m_item;
 };
 
