@@ -27,7 +27,7 @@ help:
 	@echo "make fuzz     fuzz what has no windows, FUZZ_SECONDS=60 for each target; the figures go to"
 	@echo "              docs/reliability.md"
 	@echo "make soak     random calls with random input, SOAK_SECONDS=60; SOAK_SEED repeats a run"
-	@echo "make lint     the format of all sources, compiler warnings, clang-tidy, cppcheck, shellcheck"
+	@echo "make lint     the format of all sources, compiler warnings, clang-tidy, cppcheck, shellcheck, the one-definition rule"
 	@echo "make coverage what the tests run of the code; the figures go to docs/reliability.md"
 	@echo "make mutants  plant small faults one at a time, and see that a test notices each; the figures go to"
 	@echo "              docs/reliability.md"

@@ -92,8 +92,8 @@ void AFXAPI DDX_Check(CDataExchange* exchange, int id, int& value) {
     if (exchange->m_bSaveAndValidate) {
         value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
     } else {
-        ::SendMessage(control, BM_SETCHECK, value >= BST_UNCHECKED && value <= BST_INDETERMINATE ? value : 0,
-                      0);
+        const bool isState = value >= BST_UNCHECKED && value <= BST_INDETERMINATE;
+        ::SendMessage(control, BM_SETCHECK, static_cast<WPARAM>(isState ? value : BST_UNCHECKED), 0);
     }
 }
 

@@ -142,6 +142,7 @@ private:
 
     long long ReadSigned(const CConversion& conversion) {
         switch (conversion.size) {
+            // NOLINTNEXTLINE(bugprone-branch-clone): the next one differs in 32 bits
             case CConversion::wide64:
                 return va_arg(m_arguments, long long);
             case CConversion::pointerSized:
@@ -157,6 +158,7 @@ private:
 
     unsigned long long ReadUnsigned(const CConversion& conversion) {
         switch (conversion.size) {
+            // NOLINTNEXTLINE(bugprone-branch-clone): the next one differs in 32 bits
             case CConversion::wide64:
                 return va_arg(m_arguments, unsigned long long);
             case CConversion::pointerSized:
@@ -193,7 +195,7 @@ private:
     }
 
     void AppendText(const CConversion& conversion, const std::wstring& text) {
-        const size_t width = static_cast<size_t>(conversion.width);
+        const auto width = static_cast<size_t>(conversion.width);
         const std::wstring padding(width > text.size() ? width - text.size() : 0, L' ');
         if (conversion.flags.find('-') != std::string::npos) {
             m_output.append(text).append(padding);
@@ -237,7 +239,7 @@ void CString::FormatV(LPCTSTR format, va_list arguments) {
 }
 
 void CString::Format(LPCTSTR format, ...) {
-    va_list arguments;
+    va_list arguments = {};
     va_start(arguments, format);
     FormatV(format, arguments);
     va_end(arguments);

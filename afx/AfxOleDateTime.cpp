@@ -132,7 +132,7 @@ CString COleDateTime::Format(DWORD flags, LCID locale) const {
     if (m_status != valid || FAILED(::VarBstrFromDate(m_dt, locale, flags, &written))) {
         return FormatUnlessValid();
     }
-    const CString text(written, static_cast<int>(::SysStringLen(written)));
+    CString text(written, static_cast<int>(::SysStringLen(written)));
     ::SysFreeString(written);
     return text;
 }

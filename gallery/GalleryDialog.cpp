@@ -22,8 +22,8 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr int initialGloss = 40;
-constexpr int rowCount = 100;
+constexpr int kInitialGloss = 40;
+constexpr int kRowCount = 100;
 
 // The check boxes and what they switch.
 struct CFlag {
@@ -31,7 +31,7 @@ struct CFlag {
     bool (propgrid::CPropertyGrid::*get)() const;
     void (propgrid::CPropertyGrid::*set)(bool);
 };
-constexpr CFlag flags[] = {
+constexpr CFlag kFlags[] = {
     {IDC_SHADE_HEADERS, &propgrid::CPropertyGrid::GetShadeHeaders, &propgrid::CPropertyGrid::SetShadeHeaders},
     {IDC_DRAW_LINES, &propgrid::CPropertyGrid::GetDrawLines, &propgrid::CPropertyGrid::SetDrawLines},
     {IDC_DRAW_DIVIDER, &propgrid::CPropertyGrid::GetDrawDivider, &propgrid::CPropertyGrid::SetDrawDivider},
@@ -46,7 +46,7 @@ struct CAnchor {
     int id;
     int left, top, right, bottom;
 };
-constexpr CAnchor anchors[] = {
+constexpr CAnchor kAnchors[] = {
     {IDC_GALLERY_GRID, 0, 0, 1, 1},
     {IDC_MODE_FRAME, 1, 0, 1, 0},
     {IDC_MODE_CATEGORIZED, 1, 0, 1, 0},
@@ -78,7 +78,7 @@ void PrintLine(const std::wstring& line) {
 
 }  // namespace
 
-CGalleryDialog::CGalleryDialog() : CDialog(IDD_GALLERY), m_gloss(initialGloss) {
+CGalleryDialog::CGalleryDialog() : CDialog(IDD_GALLERY), m_gloss(kInitialGloss) {
     m_grid.SetUndefinedText(L"(not given)");
     m_grid.SetAccessibleName(L"Values");
     m_grid.SetKeyboardEditing(true);
@@ -141,7 +141,7 @@ void CGalleryDialog::FillLooks() {
     std::wcscpy(font.lfFaceName, L"Tahoma");
     m_grid.AddColorItem(section, L"Paint", RGB(200, 80, 40));
     m_grid.AddFontItem(section, L"Lettering", font);
-    m_gloss.SetPercent(initialGloss);
+    m_gloss.SetPercent(kInitialGloss);
     m_gloss.SetId(m_grid.AddCustomItem(section, L"Gloss", &m_gloss));
 }
 
@@ -155,7 +155,7 @@ void CGalleryDialog::FillStates() {
 
 void CGalleryDialog::FillManyRows() {
     const UINT section = m_grid.AddSection(L"Many rows", true);
-    for (int row = 1; row <= rowCount; ++row) {
+    for (int row = 1; row <= kRowCount; ++row) {
         m_grid.AddIntegerItem(section, L"Row " + std::to_wstring(row), row);
     }
 }
@@ -169,7 +169,7 @@ BOOL CGalleryDialog::OnInitDialog() {
 }
 
 void CGalleryDialog::ShowFlags() {
-    for (const CFlag& flag : flags) {
+    for (const CFlag& flag : kFlags) {
         CheckDlgButton(flag.id, (m_grid.*flag.get)() ? BST_CHECKED : BST_UNCHECKED);
     }
 }
@@ -199,7 +199,7 @@ void CGalleryDialog::OnClickedMode(UINT id) {
 }
 
 void CGalleryDialog::OnClickedFlag(UINT id) {
-    for (const CFlag& flag : flags) {
+    for (const CFlag& flag : kFlags) {
         if (flag.id == static_cast<int>(id)) {
             (m_grid.*flag.set)(IsDlgButtonChecked(flag.id) == BST_CHECKED);
         }
@@ -226,7 +226,7 @@ void CGalleryDialog::RememberLayout() {
     m_smallest = rect.Size();
     GetClientRect(&rect);
     m_initialSize = rect.Size();
-    for (const CAnchor& anchor : anchors) {
+    for (const CAnchor& anchor : kAnchors) {
         GetDlgItem(anchor.id)->GetWindowRect(&rect);
         ScreenToClient(&rect);
         m_initial.push_back(rect);
@@ -241,7 +241,7 @@ void CGalleryDialog::OnSize(UINT type, int width, int height) {
     const int dx = width - m_initialSize.cx;
     const int dy = height - m_initialSize.cy;
     for (std::size_t i = 0; i < m_initial.size(); ++i) {
-        const CAnchor& anchor = anchors[i];
+        const CAnchor& anchor = kAnchors[i];
         const CRect& from = m_initial[i];
         const CRect to(from.left + anchor.left * dx, from.top + anchor.top * dy,
                        from.right + anchor.right * dx, from.bottom + anchor.bottom * dy);

@@ -17,7 +17,7 @@ namespace {
 // The framework finds the program's dialog through this object.
 CWinApp application(L"GridGallery");
 
-constexpr int statusWrongUse = 2;
+constexpr int kStatusWrongUse = 2;
 
 int RunMonkey(const wchar_t* events, const wchar_t* seed) {
     tavrin::gallery::CMonkey monkey(static_cast<int>(std::wcstol(events, nullptr, 10)),
@@ -35,7 +35,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
     }
     if (__argc != 1) {
         std::fputs("usage: GridGallery.exe [--monkey EVENTS SEED]\n", stderr);
-        return statusWrongUse;
+        return kStatusWrongUse;
     }
     tavrin::gallery::CGalleryDialog().DoModal();
     return 0;

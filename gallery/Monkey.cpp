@@ -12,14 +12,14 @@ namespace tavrin::gallery {
 
 namespace {
 
-constexpr UINT timerPeriod = 10;  // milliseconds
-constexpr int wheelStep = 120;
-constexpr int warmUpEvents = 1000;
-constexpr std::size_t mostInputs = 32;  // of one gesture
-constexpr std::size_t mostBlocks = 20;  // that are printed
+constexpr UINT kTimerPeriod = 10;  // milliseconds
+constexpr int kWheelStep = 120;
+constexpr int kWarmUpEvents = 1000;
+constexpr std::size_t kMostInputs = 32;  // of one gesture
+constexpr std::size_t kMostBlocks = 20;  // that are printed
 // What the system's dialogs load late and keep, however many events follow. One object forgotten for each
 // editor would be hundreds.
-constexpr int objectsOfTheSystem = 20;
+constexpr int kObjectsOfTheSystem = 20;
 
 CMonkey* runningMonkey = nullptr;
 
@@ -57,7 +57,7 @@ void PrintBlocks() {
     const auto print = reinterpret_cast<PrintLive>(
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandle(L"TD_Alloc.dll"), "td_print_live")));
     if (print != nullptr) {
-        print(mostBlocks);
+        print(kMostBlocks);
     }
 }
 
@@ -67,12 +67,12 @@ int CMonkey::Run() {
     std::printf("monkey: %d events, seed %u\n", m_events, m_seed);
     std::fflush(stdout);
     runningMonkey = this;
-    const UINT_PTR timer = SetTimer(nullptr, 0, timerPeriod, OnTimer);
-    m_inputs.reserve(mostInputs);
+    const UINT_PTR timer = SetTimer(nullptr, 0, kTimerPeriod, OnTimer);
+    m_inputs.reserve(kMostInputs);
     m_warmingUp = true;
     ShowGallery();
     m_warmingUp = false;
-    ShowGallery(warmUpEvents);
+    ShowGallery(kWarmUpEvents);
     const CCounts before = Count();
     ShowGallery(m_events);
     const CCounts after = Count();
@@ -83,7 +83,7 @@ int CMonkey::Run() {
         PrintBlocks();
     }
     const bool grown = after.heapBlocks > before.heapBlocks ||
-                       after.gdiObjects > before.gdiObjects + objectsOfTheSystem ||
+                       after.gdiObjects > before.gdiObjects + kObjectsOfTheSystem ||
                        after.windows > before.windows;
     return grown ? 1 : 0;
 }
@@ -149,8 +149,8 @@ void CMonkey::OpenNextEditor() {
     if (grid.GetItemRects(m_nextItem++, name, value) && !value.IsRectEmpty()) {
         const CPoint middle = value.CenterPoint();
         const LPARAM position = MAKELPARAM(middle.x, middle.y);
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
-            grid.PostMessage(message, 0, position);
+        for (const int message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_LBUTTONUP}) {
+            grid.PostMessage(static_cast<UINT>(message), 0, position);
         }
     }
 }
@@ -190,7 +190,7 @@ void CMonkey::DragMouse() {
 
 void CMonkey::TurnWheel() {
     MoveTo(RandomPoint());
-    AddMouse(MOUSEEVENTF_WHEEL, (Random(7) - 3) * wheelStep);
+    AddMouse(MOUSEEVENTF_WHEEL, (Random(7) - 3) * kWheelStep);
 }
 
 void CMonkey::PressKey() {

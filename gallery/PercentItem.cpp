@@ -10,20 +10,20 @@ namespace tavrin::gallery {
 
 namespace {
 
-constexpr COLORREF barColor = RGB(110, 170, 230);
-constexpr int barMargin = 2;  // to the edges of the cell, in pixels
+constexpr COLORREF kBarColor = RGB(110, 170, 230);
+constexpr int kBarMargin = 2;  // to the edges of the cell, in pixels
 
 }  // namespace
 
 void CPercentItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
     CRect bar = rect;
-    bar.DeflateRect(barMargin, barMargin);
+    bar.DeflateRect(kBarMargin, kBarMargin);
     bar.right = bar.left + bar.Width() * m_percent / 100;
-    dc.FillSolidRect(bar, barColor);
+    dc.FillSolidRect(bar, kBarColor);
     // Filling has set an opaque background; the text stands on the bar.
     dc.SetBkMode(TRANSPARENT);
     CRect text = rect;
-    text.left += m_pGrid->GetTextMargin();
+    text.left += propgrid::CPropertyGrid::GetTextMargin();
     dc.DrawText(GetStringValue().c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
@@ -49,7 +49,7 @@ void CPercentItem::OnLButtonUp(CRect /*rect*/, CPoint /*point*/) {
 }
 
 void CPercentItem::Follow(CRect rect, CPoint point) {
-    rect.DeflateRect(barMargin, 0);
+    rect.DeflateRect(kBarMargin, 0);
     const int percent = MulDiv(point.x - rect.left, 100, std::max(rect.Width(), 1));
     m_percent = std::clamp(percent, 0, 100);
     m_pGrid->Invalidate(FALSE);

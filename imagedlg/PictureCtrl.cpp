@@ -4,8 +4,8 @@
 
 // The header takes min and max for macros of the system's, which are turned off.
 namespace Gdiplus {
-using std::max;
-using std::min;
+using std::max;  // NOLINT(misc-unused-using-decls): by the header
+using std::min;  // NOLINT(misc-unused-using-decls)
 }  // namespace Gdiplus
 #include <gdiplus.h>
 

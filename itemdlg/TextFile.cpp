@@ -64,7 +64,8 @@ public:
             return false;
         }
         std::string_view rest = m_line;
-        for (std::size_t feed; (feed = rest.find('\n')) != rest.npos; rest.remove_prefix(feed + 1)) {
+        for (std::size_t feed = 0; (feed = rest.find('\n')) != std::string_view::npos;
+             rest.remove_prefix(feed + 1)) {
             Put(rest.substr(0, feed));
             Put("\r\n");
         }

@@ -63,8 +63,8 @@ private:
     void Do(const action::DefaultHandling& handling);
 
     HWND Window() const { return m_parts.window.GetWindow().GetSafeHwnd(); }
-    const GridItem* FindEditableItem(Id item) const;
-    ICustomItem* FindCustomItem(Id item) const;
+    const GridItem* FindEditableItem(Id id) const;
+    ICustomItem* FindCustomItem(Id id) const;
     void ReportCustomChange(Id item, const ICustomItem* custom);
 
     Parts m_parts;

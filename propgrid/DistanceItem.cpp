@@ -58,7 +58,7 @@ void CDistanceItem::DrawItem(CDC& dc, CRect rect, bool /*focused*/) {
         MarkModified(dc);
     }
     const std::wstring text = GetStringValue();
-    rect.left += m_pGrid->GetTextMargin();
+    rect.left += CPropertyGrid::GetTextMargin();
     dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }

@@ -17,8 +17,8 @@ public:
     // The rectangles that the last paint recorded. Those of a row that was not drawn are empty, but for
     // the item's name and the section's header, which then are the whole row; the items of a collapsed
     // section keep what an earlier paint gave them. False when no item, or section, has that id.
-    bool GetItemRects(UINT item, CRect& name, CRect& value) const;
-    bool GetSectionRects(UINT section, CRect& glyph, CRect& header) const;
+    bool GetItemRects(UINT id, CRect& name, CRect& value) const;
+    bool GetSectionRects(UINT id, CRect& glyph, CRect& header) const;
     // Where a press counts as one on the focused item's edit button, as the last paint recorded it that drew
     // an editable focused item with an editor. Empty from a move of the focus to that paint.
     CRect GetEditButtonRect() const;

@@ -13,22 +13,22 @@ namespace tavrin::propgrid {
 
 class CGridRows : public CGridFilling {
 public:
-    bool SetItemEditable(UINT item, bool editable);
-    bool IsItemEditable(UINT item) const;
+    bool SetItemEditable(UINT id, bool editable);
+    bool IsItemEditable(UINT id) const;
     // Custom items cannot be undefined (false).
-    bool SetItemUndefined(UINT item, bool undefined);
-    bool IsItemUndefined(UINT item) const;
-    std::wstring GetItemName(UINT item) const;
+    bool SetItemUndefined(UINT id, bool undefined);
+    bool IsItemUndefined(UINT id) const;
+    std::wstring GetItemName(UINT id) const;
     // The kind of an item; false, and `kind` untouched, when no item has that id.
-    bool GetItemKind(UINT item, EItemType& kind) const;
+    bool GetItemKind(UINT id, EItemType& kind) const;
 
-    bool SetSectionCollapsed(UINT section, bool collapsed);
-    bool IsSectionCollapsed(UINT section) const;
-    std::wstring GetSectionName(UINT section) const;
+    bool SetSectionCollapsed(UINT id, bool collapsed);
+    bool IsSectionCollapsed(UINT id) const;
+    std::wstring GetSectionName(UINT id) const;
 
     std::size_t GetSectionCount() const { return m_model.GetSections().size(); }
     std::size_t GetItemCount() const { return m_model.GetItemCount(); }
-    std::size_t GetSectionItemCount(UINT section) const;
+    std::size_t GetSectionItemCount(UINT id) const;
 
 protected:
     CGridRows() = default;

@@ -37,13 +37,13 @@ public:
 
     // The text that the value column displays, before a long path is shortened; point sizes are those of
     // the screen. Empty for a custom item, and when no item has that id.
-    std::wstring GetItemText(UINT item) const;
+    std::wstring GetItemText(UINT id) const;
 
     // Takes the saved copies of all items anew, so that nothing is modified any more; custom items are
     // notified by ICustomItem::AcceptValue.
     void AcceptValues();
     // False also when no item has that id. A custom item marks its changes itself and never counts.
-    bool IsItemModified(UINT item) const;
+    bool IsItemModified(UINT id) const;
 
 protected:
     CGridValues() = default;
@@ -51,11 +51,11 @@ protected:
 
 private:
     template <class T>
-    const T* FindValue(UINT item) const;
+    const T* FindValue(UINT id) const;
     template <class T>
-    bool ReadValue(UINT item, T& value) const;
+    bool ReadValue(UINT id, T& value) const;
     template <class T>
-    bool WriteValue(UINT item, T value);
+    bool WriteValue(UINT id, T value);
 };
 
 }  // namespace tavrin::propgrid

@@ -14,7 +14,7 @@ namespace {
 // Never destroyed: a plug-in's static objects release blocks while the process exits.
 CCheckedHeap& Heap() {
     alignas(CCheckedHeap) static unsigned char memory[sizeof(CCheckedHeap)];
-    static CCheckedHeap* heap = new (memory) CCheckedHeap;
+    static auto* const heap = new (memory) CCheckedHeap;
     return *heap;
 }
 

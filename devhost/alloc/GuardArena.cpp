@@ -10,8 +10,9 @@ namespace devhost {
 namespace {
 
 constexpr std::size_t kPageSize = 4096;
-constexpr std::size_t kArenaPages = (sizeof(void*) == 8 ? 1024u : 256u) * 1024 * 1024 / kPageSize;
-constexpr std::size_t kMaxBlockSize = 16 * 1024 * 1024;
+constexpr std::size_t kMebibyte = std::size_t{1024} * 1024;
+constexpr std::size_t kArenaPages = (sizeof(void*) == 8 ? 1024 : 256) * kMebibyte / kPageSize;
+constexpr std::size_t kMaxBlockSize = 16 * kMebibyte;
 constexpr std::size_t kMaxLiveBlocks = 12'000;
 constexpr std::size_t kMaxQuarantinedBlocks = 4096;
 constexpr std::size_t kMaxQuarantinedPages = kArenaPages / 4;

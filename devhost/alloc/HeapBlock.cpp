@@ -22,7 +22,7 @@ bool IsFilled(const unsigned char* begin, const unsigned char* end, unsigned cha
 
 void AbortOnHeapMisuse(const char* format, ...) {
     char what[512];
-    std::va_list arguments;
+    std::va_list arguments = {};
     va_start(arguments, format);
     std::vsnprintf(what, sizeof what, format, arguments);
     va_end(arguments);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kBorder = 16;
 constexpr std::size_t kMaxQuarantinedBlocks = 4096;
-constexpr std::size_t kMaxQuarantinedBytes = 64 * 1024 * 1024;
+constexpr std::size_t kMaxQuarantinedBytes = std::size_t{64} * 1024 * 1024;
 
 }  // namespace
 

@@ -26,13 +26,13 @@ void PrintCallers([[maybe_unused]] const CONTEXT& faulted) {
 #ifdef _WIN64
     CONTEXT context = faulted;
     for (int i = 0; i < kMaxCallers; ++i) {
-        DWORD64 base;
+        DWORD64 base = 0;
         PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
         if (function == nullptr) {
             return;
         }
-        void* handlerData;
-        DWORD64 frame;
+        void* handlerData = nullptr;
+        DWORD64 frame = 0;
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handlerData, &frame,
                          nullptr);
         if (context.Rip == 0) {
@@ -68,7 +68,7 @@ bool IsModule(HMODULE module, const wchar_t* name) {
 // runtimes and our modules do not. The system ends a fault below a window procedure where it called the
 // procedure, so it never becomes an unhandled exception.
 bool IsOurs(const void* address) {
-    HMODULE module;
+    HMODULE module = nullptr;
     if (!GetModuleHandleExW(
             GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
             static_cast<const wchar_t*>(address), &module)) {

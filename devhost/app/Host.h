@@ -51,7 +51,7 @@ public:
 
     // Sends a request other than an invocation. Returns the plug-in's objection for the user; empty when it
     // returned 0 and reported no failure. A C++ exception that it lets through ends the process.
-    std::wstring Send(EntryPoint& entry, unsigned request);
+    std::wstring Send(EntryPoint& entry, unsigned code);
     // The entry point for functions that are defined from now on.
     void SetEntryPoint(EntryPoint* entry) { m_entry = entry; }
     // Called before a function of the plug-in, with its name in capitals and its arguments.

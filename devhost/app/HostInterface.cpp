@@ -107,9 +107,9 @@ int sds_retlist(const sds_resbuf* list) {
 }
 
 sds_resbuf* sds_buildlist(int type, ...) {
-    std::va_list values;
+    std::va_list values = {};
     va_start(values, type);
-    sds_resbuf* const list =
+    auto* const list =
         Fenced<sds_resbuf*>(nullptr, [&](CHost& host) { return BuildList(host, type, values); });
     va_end(values);
     return list;

@@ -22,9 +22,9 @@ std::vector<Item> FindItems(const std::wstring& folder) {
     std::error_code error;
     for (std::filesystem::directory_iterator entry(full, error), end; entry != end; entry.increment(error)) {
         const std::wstring name = entry->path().filename().wstring();
-        const std::wstring path = entry->path().wstring();
-        if (lisp::IsSymbolName(name) && IsFile(path + L'\\' + name + L".lsp")) {
-            items.push_back({name, path});
+        const std::filesystem::path& path = entry->path();
+        if (lisp::IsSymbolName(name) && IsFile((path / (name + L".lsp")).wstring())) {
+            items.push_back({name, path.wstring()});
         }
     }
     if (error) {

@@ -33,7 +33,7 @@ namespace devhost {
 namespace {
 
 // The part of the stack (its size is in CMakeLists.txt) that LISP may use.
-constexpr std::size_t kLispStack = 24 * 1024 * 1024;
+constexpr std::size_t kLispStack = std::size_t{24} * 1024 * 1024;
 
 std::wstring ProgramFolder() {
     std::wstring path(32'768, L'\0');
@@ -58,7 +58,7 @@ CUserError NotWritten(const std::wstring& file) {
 // The full path of the file for the drawing, since file dialogs change the current folder. Throws CUserError
 // before anything runs when its folder does not exist.
 std::wstring DrawingPath(const std::wstring& file) {
-    const std::wstring full = FullPath(file);
+    std::wstring full = FullPath(file);
     if (IsFolder(full) || !IsFolder(full.substr(0, full.find_last_of(L'\\') + 1))) {
         throw NotWritten(file);
     }

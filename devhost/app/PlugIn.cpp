@@ -16,10 +16,11 @@ std::wstring Quoted(const std::wstring& path) {
 }
 
 std::wstring WhyNotLoaded(DWORD error) {
-    constexpr int bits = 8 * sizeof(void*);
+    constexpr int kBits = 8 * sizeof(void*);
     switch (error) {
         case ERROR_BAD_EXE_FORMAT:
-            return L"is not a library for this DevHost, which needs a " + std::to_wstring(bits) + L"-bit DLL";
+            return L"is not a library for this DevHost, which needs a " + std::to_wstring(kBits) +
+                   L"-bit DLL";
         case ERROR_MOD_NOT_FOUND:
             return L"cannot be loaded: a library that it depends on is missing";
         case ERROR_PROC_NOT_FOUND:

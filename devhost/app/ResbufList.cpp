@@ -1,7 +1,7 @@
 #include "devhost/app/ResbufList.h"
 
+#include <climits>
 #include <cstdint>
-#include <limits>
 #include <vector>
 
 #include "devhost/Libraries.h"
@@ -62,8 +62,7 @@ void AddArgument(CResbufList& list, const lisp::CValue& value, std::wstring_view
     switch (value.Type()) {
         case lisp::VT_INTEGER: {
             const std::int32_t number = value.AsInteger();
-            using limits = std::numeric_limits<short>;
-            if (number < limits::min() || number > limits::max()) {
+            if (number < SHRT_MIN || number > SHRT_MAX) {
                 throw lisp::CLispError(std::wstring(name) + L" cannot take " + lisp::Print(value) +
                                        L": whole numbers are passed in 16 bits, -32768 to 32767");
             }

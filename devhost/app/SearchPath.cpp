@@ -5,6 +5,7 @@
 #include <shlwapi.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "devhost/UserError.h"
 
@@ -56,7 +57,7 @@ std::optional<std::wstring> CSearchPath::Find(const std::wstring& name) const {
     std::vector<std::wstring> candidates;
     if (PathIsRelativeW(name.c_str())) {
         for (const std::wstring& folder : m_folders) {
-            candidates.push_back(folder + L'\\' + name);
+            candidates.push_back((std::filesystem::path(folder) / name).wstring());
         }
     }
     candidates.push_back(name);

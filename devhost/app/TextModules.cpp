@@ -106,7 +106,7 @@ void RemoveCopy(const std::wstring& copy) {
 
 // A full path of its own, so that the copies of several choices can be told apart.
 std::wstring CopyOf(const std::wstring& path) {
-    const std::wstring copy = NewFolder() + L'\\' + kFileName;
+    std::wstring copy = NewFolder() + L'\\' + kFileName;
     if (CopyFileW(path.c_str(), copy.c_str(), FALSE) == 0) {
         RemoveCopy(copy);
         throw CUserError(L"the texts '" + path + L"' cannot be read: give --texts a TavrinRes.dll");
@@ -132,10 +132,10 @@ void UnloadCompletely(const std::wstring& path) {
 }
 
 CUserError NotLoaded(const std::wstring& path, DWORD error) {
-    constexpr int bits = 8 * sizeof(void*);
+    constexpr int kBits = 8 * sizeof(void*);
     return CUserError(L"the texts '" + path + L"' cannot be loaded: " +
                       (error == ERROR_BAD_EXE_FORMAT
-                           ? L"this DevHost needs a " + std::to_wstring(bits) + L"-bit module"
+                           ? L"this DevHost needs a " + std::to_wstring(kBits) + L"-bit module"
                            : L"system error " + std::to_wstring(error)));
 }
 

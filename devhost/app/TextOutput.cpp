@@ -17,7 +17,7 @@ constexpr std::size_t kMaxPiece = 10'000;
 constexpr std::size_t kMaxCollected = 40'000;
 
 bool IsConsole(HANDLE handle) {
-    DWORD mode;
+    DWORD mode = 0;
     return GetConsoleMode(handle, &mode) != FALSE;
 }
 
@@ -41,7 +41,7 @@ bool HasNoOutput() {
 // Unbuffered, so that the output is complete when the process crashes.
 void Write(DWORD standardHandle, std::wstring_view text) {
     const HANDLE handle = GetStdHandle(standardHandle);
-    DWORD written;
+    DWORD written = 0;
     if (IsConsole(handle)) {
         WriteConsoleW(handle, text.data(), DWORD(text.size()), &written, nullptr);
     } else {
@@ -133,7 +133,7 @@ void CTextOutput::Error(std::wstring_view text) {
     }
 }
 
-void CTextOutput::Help(std::wstring_view text) {
+void CTextOutput::Help(std::wstring_view text) const {
     Write(STD_OUTPUT_HANDLE, text);
     if (m_useBoxes) {
         MessageBoxW(nullptr, std::wstring(text).c_str(), kProgram, MB_OK);

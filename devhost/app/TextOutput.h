@@ -32,7 +32,7 @@ public:
     // An error, as a line that begins with the program's name.
     void Error(std::wstring_view text);
     // A longer text that the listener does not get.
-    void Help(std::wstring_view text);
+    void Help(std::wstring_view text) const;
 
 private:
     void Collect(std::wstring_view text);

@@ -9,7 +9,7 @@
 namespace devhost {
 
 CodeAddress::CodeAddress(const void* address) {
-    HMODULE module;
+    HMODULE module = nullptr;
     char path[MAX_PATH];
     if (!GetModuleHandleExA(
             GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
@@ -26,7 +26,7 @@ CodeAddress::CodeAddress(const void* address) {
 }
 
 void WriteToStandardError(const char* text) {
-    DWORD written;
+    DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), text, DWORD(std::strlen(text)), &written, nullptr);
 }
 

@@ -57,7 +57,7 @@ std::wstring EscapeAmpersands(const std::wstring& title) {
 // character when all are taken, which then selects one item after the other.
 std::wstring WithMnemonic(const std::wstring& title, std::wstring& taken) {
     const auto isFree = [&](wchar_t letter) {
-        return IsCharAlphaNumericW(letter) != 0 && taken.find(UpperCase(letter)) == taken.npos;
+        return IsCharAlphaNumericW(letter) != 0 && taken.find(UpperCase(letter)) == std::wstring::npos;
     };
     const auto found = std::find_if(title.begin(), title.end(), isFree);
     if (found == title.end()) {

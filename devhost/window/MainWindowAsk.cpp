@@ -26,7 +26,7 @@ void ShowInPrompt(HWND prompt, const std::wstring& text) {
 
 std::wstring WithoutBlanksBehind(std::wstring_view text) {
     const std::size_t last = text.find_last_not_of(L" \t\r\n");
-    return std::wstring(text.substr(0, last == text.npos ? 0 : last + 1));
+    return std::wstring(text.substr(0, last == std::wstring_view::npos ? 0 : last + 1));
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ bool IsFolder(LPARAM list, const std::wstring& path) {
 // for the tree is in the middle of a selection.
 int CALLBACK OnBrowserEvent(HWND browser, UINT event, LPARAM parameter, LPARAM data) {
     CFirstFolder& first = *reinterpret_cast<CFirstFolder*>(data);
-    const LPARAM path = reinterpret_cast<LPARAM>(first.path.c_str());
+    const auto path = reinterpret_cast<LPARAM>(first.path.c_str());
     if (event == BFFM_INITIALIZED) {
         ::SendMessage(browser, BFFM_SETSELECTION, TRUE, path);
     } else if (event == BFFM_SELCHANGED && !first.hasSelectionCome) {

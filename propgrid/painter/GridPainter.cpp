@@ -131,7 +131,7 @@ void CGridPainter::PaintRows(PaintTools& tools) {
 }
 
 // Before a custom item draws, which may draw anywhere and may add rows.
-void CGridPainter::PaintBelowRows(PaintTools& tools) {
+void CGridPainter::PaintBelowRows(PaintTools& tools) const {
     CRect below = tools.picture;
     below.top = std::exchange(tools.picture.bottom, tools.area.bottom);
     below.bottom = tools.area.bottom;
@@ -168,7 +168,7 @@ void CGridPainter::PaintHeader(PaintTools& tools, const Rect& row, const GridSec
 }
 
 // A minus in a frame, a plus for a collapsed section.
-void CGridPainter::PaintGlyph(PaintTools& tools, int top, bool collapsed) {
+void CGridPainter::PaintGlyph(PaintTools& tools, int top, bool collapsed) const {
     const Color color = m_model.settings.colors.title;
     CBrush brush;
     brush.CreateSolidBrush(color);
@@ -266,7 +266,7 @@ void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const Rect
     dc.SetBkMode(TRANSPARENT);
 }
 
-void CGridPainter::PaintSwatch(PaintTools& tools, const Rect& value, Color color) {
+void CGridPainter::PaintSwatch(PaintTools& tools, const Rect& value, Color color) const {
     CRect swatch = ToCRect(GetSwatch(value));
     CBrush textBrush;
     textBrush.CreateSolidBrush(m_model.settings.colors.text);

@@ -45,10 +45,10 @@ private:
 
     void Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools);
     void PaintRows(PaintTools& tools);
-    void PaintBelowRows(PaintTools& tools);
+    void PaintBelowRows(PaintTools& tools) const;
     void PaintEmptyList(PaintTools& tools);
     void PaintHeader(PaintTools& tools, const Rect& row, const GridSection& section);
-    void PaintGlyph(PaintTools& tools, int top, bool collapsed);
+    void PaintGlyph(PaintTools& tools, int top, bool collapsed) const;
     void PaintFrame(PaintTools& tools, const Rect& row, int shadedWidth);
     void PaintItem(PaintTools& tools, const PaintedRow& row);
     void PaintEditButton(PaintTools& tools, const ItemParts& parts);
@@ -56,7 +56,7 @@ private:
     void PaintValue(PaintTools& tools, const Rect& value, const GridItem& item);
     void PaintCustomValue(PaintTools& tools, const Rect& value, const GridItem& item);
     void PaintText(PaintTools& tools, const GridItem& item, const Rect& value);
-    void PaintSwatch(PaintTools& tools, const Rect& value, Color color);
+    void PaintSwatch(PaintTools& tools, const Rect& value, Color color) const;
 
     const CGridModel& m_model;
     CGridLayout& m_layout;
