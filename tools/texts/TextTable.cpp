@@ -27,7 +27,7 @@ namespace {
 // A script that was copied to be translated has the language of the original, until its line LANGUAGE is
 // changed.
 std::string HintAtLanguage(const std::string& language, bool isOtherFile) {
-    return isOtherFile ? "; both are in the language " + language +
+    return isOtherFile ? "; both are in " + language +
                              ": is a line LANGUAGE wrong, or does another item use the number?"
                        : "";
 }

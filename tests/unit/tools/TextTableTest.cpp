@@ -69,7 +69,7 @@ TEST(TextTable, ADuplicateTextIsRefusedAndNothingIsAdded) {
     CTextTable table;
     table.ReadBytes("a.rc", "LANGUAGE 1, 1\nSTRINGTABLE { 1 \"a\" }");
     EXPECT_EQ(ErrorOf(table, "b.rc", "LANGUAGE 1, 1\nSTRINGTABLE {\n2 \"b\"\n1 \"c\" }"),
-              "b.rc:4: text 1 already exists, in a.rc:2; both are in the language 1, 1: is a line "
+              "b.rc:4: text 1 already exists, in a.rc:2; both are in language 0x0401: is a line "
               "LANGUAGE wrong, or does another item use the number?");
     EXPECT_EQ(ErrorOf(table, "c.rc", "STRINGTABLE {\n1 \"b\"\n1 \"c\" }"),
               "c.rc:3: text 1 already exists, in c.rc:2");
