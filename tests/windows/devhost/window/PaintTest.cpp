@@ -161,16 +161,19 @@ TEST_F(Paint, AVerySmallAndAVeryLargeWindowWork) {
 
 constexpr COLORREF kPlaced = RGB(130, 140, 155);
 
+std::function<void()> s_look;
+
+// A lambda has no calling convention of its own, which matters in a 32-bit program.
+void CALLBACK LookAndCancel(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    s_look();
+    PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
+}
+
 // What is drawn while a point is asked for: `look` is called once, before the question is cancelled.
 void DuringQuestion(CMainWindow& window, std::optional<Point> base, std::function<void()> look) {
-    static std::function<void()> s_look;
     s_look = std::move(look);
-    const UINT_PTR timer = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
-        KillTimer(nullptr, id);
-        s_look();
-        PostMessageW(GetActiveWindow(), WM_CLOSE, 0, 0);
-    });
-    EXPECT_NE(timer, 0u);
+    EXPECT_NE(SetTimer(nullptr, 0, 10, LookAndCancel), 0u);
     window.Ask(L"Where? ", base, ASK_POINT);
 }
 
