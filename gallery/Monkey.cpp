@@ -194,13 +194,13 @@ void CMonkey::TurnWheel() {
 }
 
 void CMonkey::PressKey() {
-    static constexpr WORD keys[] = {
+    static constexpr WORD kKeys[] = {
         VK_UP,       VK_DOWN, VK_LEFT,   VK_RIGHT, VK_UP,   VK_DOWN,   VK_PRIOR,      VK_NEXT,   VK_HOME,
         VK_END,      VK_TAB,  VK_RETURN, VK_SPACE, VK_BACK, VK_DELETE, VK_MULTIPLY,   VK_DIVIDE, VK_ADD,
         VK_SUBTRACT, '0',     '1',       '7',      'A',     'Z',       VK_OEM_PERIOD, VK_ESCAPE, VK_F4};
-    const WORD key = keys[Random(static_cast<int>(std::size(keys)))];
-    static constexpr WORD modifiers[] = {VK_CONTROL, VK_SHIFT};
-    const WORD modifier = Random(6) == 0 && key != VK_ESCAPE ? modifiers[Random(2)] : 0;
+    const WORD key = kKeys[Random(static_cast<int>(std::size(kKeys)))];
+    static constexpr WORD kModifiers[] = {VK_CONTROL, VK_SHIFT};
+    const WORD modifier = Random(6) == 0 && key != VK_ESCAPE ? kModifiers[Random(2)] : 0;
     if (modifier != 0) {
         AddKey(modifier, 0);
     }
@@ -212,8 +212,8 @@ void CMonkey::PressKey() {
 }
 
 void CMonkey::PressMnemonic() {
-    static constexpr char letters[] = {'C', 'S', 'F', 'H', 'L', 'D', 'N', 'M', 'E', 'A', 'R', 'G'};
-    const WORD letter = static_cast<WORD>(letters[Random(static_cast<int>(std::size(letters)))]);
+    static constexpr char kLetters[] = {'C', 'S', 'F', 'H', 'L', 'D', 'N', 'M', 'E', 'A', 'R', 'G'};
+    const WORD letter = static_cast<WORD>(kLetters[Random(static_cast<int>(std::size(kLetters)))]);
     AddKey(VK_MENU, 0);
     AddKey(letter, 0);
     AddKey(letter, KEYEVENTF_KEYUP);

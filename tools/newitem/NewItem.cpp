@@ -185,7 +185,7 @@ std::vector<NewText> TextsOfNewItem(const std::string& name, unsigned firstText,
 std::vector<NewText> TextsOfSharedRoutine(std::string_view routine, unsigned languageId) {
     std::vector<NewText> texts;
     for (const SharedText& text : kSharedTexts) {
-        if (routine.find("(item-words " + std::to_string(text.number)) != routine.npos) {
+        if (routine.find("(item-words " + std::to_string(text.number)) != std::string_view::npos) {
             texts.push_back({text.number, IsItalian(languageId) ? text.italian : text.english});
         }
     }
