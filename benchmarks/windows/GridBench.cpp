@@ -114,7 +114,7 @@ public:
             item.pszText = name.data();
             ::SendMessageW(m_list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
             item.iSubItem = 1;
-            item.pszText = value.GetBuffer();
+            item.pszText = const_cast<wchar_t*>(value.GetString());  // the list only reads it
             ::SendMessageW(m_list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         }
         ::SendMessageW(m_list, WM_SETREDRAW, TRUE, 0);
