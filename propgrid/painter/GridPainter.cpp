@@ -255,7 +255,10 @@ void CGridPainter::PaintCustomValue(PaintTools& tools, const Rect& value, const 
 void CGridPainter::PaintText(PaintTools& tools, const GridItem& item, const Rect& value) {
     CDC& dc = tools.dc;
     CellText shown = m_texts.GetValue(item, value, dc.GetDeviceCaps(LOGPIXELSY));
-    const handles::CSelectedObject font(dc, *shown.font);
+    std::optional<handles::CSelectedObject> bold;
+    if (shown.font == &m_fonts.bold) {
+        bold.emplace(dc, m_fonts.bold);
+    }
     if (item.IsPath() && !item.undefined) {
         shown.text = CompactPath(dc, shown.text, shown.area.GetWidth());
     }
