@@ -5,6 +5,7 @@
 
 #include "devhost/UserError.h"
 #include "devhost/window/Commands.h"
+#include "devhost/window/ErrorColor.h"
 
 namespace devhost {
 
@@ -24,6 +25,7 @@ COutputList::COutputList(HWND parent)
         throw CUserError(L"the main window cannot be opened");
     }
     SendMessageW(m_window, EM_SETLIMITTEXT, 0, 0);
+    ColorErrors(m_window);
 }
 
 void COutputList::AddText(std::wstring_view text) {

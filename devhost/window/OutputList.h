@@ -1,4 +1,4 @@
-// The output of the main window: text that can be scrolled, selected and copied.
+// The output of the main window: text that can be scrolled, selected and copied, with errors in red.
 #pragma once
 
 #include <windows.h>
