@@ -40,6 +40,10 @@ void CGridTooltip::Watch(UINT message, LPARAM lParam, bool editing) {
                 ShowAt(PointOf(lParam));
             }
             break;
+        case WM_SETFOCUS:
+            ::GetCursorPos(&m_mouse);
+            m_grid.ScreenToClient(&m_mouse);
+            break;
         case WM_MOUSELEAVE:
         case WM_LBUTTONDOWN:
         case WM_MOUSEWHEEL:
@@ -63,8 +67,13 @@ void CGridTooltip::Watch(UINT message, LPARAM lParam, bool editing) {
     }
 }
 
-// Every move asks for the hover anew, which begins when the mouse rests.
+// Every move asks for the hover anew, which begins when the mouse rests. The system reports a move of a mouse
+// that rests when an editor below it closes: a tooltip would cover the value that was just entered.
 void CGridTooltip::Follow(CPoint mouse) {
+    if (mouse == m_mouse) {
+        return;
+    }
+    m_mouse = mouse;
     if (m_cell.PtInRect(mouse)) {
         return;
     }

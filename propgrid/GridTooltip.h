@@ -1,5 +1,5 @@
 // The tooltip of a property grid: a name or a value that is longer than its cell is shown in full over the
-// cell once the mouse has rested there for the system's hover time with no button held.
+// cell once the mouse has moved there and rested for the system's hover time with no button held.
 //
 // It watches the messages of the grid's window. Owns its pop-up window, which exists from the first tooltip
 // to the end of the grid's window.
@@ -36,8 +36,9 @@ private:
     const CGridLayout& m_layout;
     CCellTexts m_texts;
     CWnd m_window;
-    std::wstring m_shown;  // the control keeps no copy that the grid could rely on
-    CRect m_cell;          // that the shown text is of; empty while nothing is shown
+    std::wstring m_shown;       // the control keeps no copy that the grid could rely on
+    CRect m_cell;               // that the shown text is of; empty while nothing is shown
+    CPoint m_mouse = {-1, -1};  // where it was last seen, in client coordinates
 };
 
 }  // namespace tavrin::propgrid

@@ -10,15 +10,6 @@
 
 namespace {
 
-// A failure with a screenshot, which stays in the build folder.
-void FailWithScreen(const std::string& message) {
-    static int count = 0;
-    const std::string picture = std::string(WORK_DIR) + "/failure-" + std::to_string(++count) + ".png";
-    OutputOf("mkdir -p " WORK_DIR "; import -window root " + picture);
-    ADD_FAILURE() << message << "\nthe active window: " << OutputOf("xdotool getactivewindow getwindowname")
-                  << "\nthe screen: " << picture;
-}
-
 std::vector<std::string> VisibleWindows(const std::string& windowClass) {
     std::istringstream found(OutputOf("xdotool search --onlyvisible --class '" + windowClass + "'"));
     std::vector<std::string> windows;
@@ -29,6 +20,14 @@ std::vector<std::string> VisibleWindows(const std::string& windowClass) {
 }
 
 }  // namespace
+
+void FailWithScreen(const std::string& message) {
+    static int count = 0;
+    const std::string picture = std::string(WORK_DIR) + "/failure-" + std::to_string(++count) + ".png";
+    OutputOf("mkdir -p " WORK_DIR "; import -window root " + picture);
+    ADD_FAILURE() << message << "\nthe active window: " << OutputOf("xdotool getactivewindow getwindowname")
+                  << "\nthe screen: " << picture;
+}
 
 std::string OutputOf(const std::string& command) {
     std::string output;

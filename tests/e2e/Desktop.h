@@ -15,6 +15,9 @@ std::string OutputOf(const std::string& command);
 // for what hangs: a busy machine needs long for what takes no time on an idle one.
 bool WaitUntil(const std::function<bool()>& condition, int seconds = 60);
 
+// Fails the test with a picture of the screen, which stays in the build folder.
+void FailWithScreen(const std::string& message);
+
 // Presses keys (names that xdotool knows) or types a text in the window that has the focus.
 void PressKeys(const std::string& names);
 void TypeText(const std::string& text);

@@ -40,6 +40,13 @@ bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
     return false;
 }
 
+void ItemDialogWindow::ExpectInValue(int row, Rgb colour) const {
+    if (!WaitUntil([&] { return ValueShows(row, colour); })) {
+        FailWithScreen("row " + std::to_string(row) + " does not have the colour, the dialog is " +
+                       (dialog.IsOpen() ? "open" : "closed"));
+    }
+}
+
 void ItemDialogWindow::Type(int row, const std::string& text) const {
     ClickValue(row);
     PressKeys("Home");

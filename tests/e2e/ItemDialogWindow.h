@@ -36,8 +36,8 @@ protected:
     int ButtonX() const { return RowEnd() - m_rowHeight / 2; }
     void ClickValue(int row) const { dialog.Click(ValueX(), RowY(row)); }
     void ClickButton(int row) const { dialog.Click(ButtonX(), RowY(row)); }
-    // Whether some pixel of the row's value has the colour.
-    bool ValueShows(int row, Rgb colour) const;
+    // Waits until some pixel of the row's value has the colour.
+    void ExpectInValue(int row, Rgb colour) const;
 
     // A click on the value opens its edit with the caret behind the text; the text is replaced.
     void Type(int row, const std::string& text) const;
@@ -54,6 +54,7 @@ protected:
     Screenshot screen{""};
 
 private:
+    bool ValueShows(int row, Rgb colour) const;
     int FindRowHeight() const;
 
     int m_rowHeight = 0;

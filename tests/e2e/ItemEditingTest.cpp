@@ -27,7 +27,7 @@ TEST_F(ItemEditing, ATypedRealReachesBothFiles) {
     Open();
     Type(angleRow, "82.5");
     PressKeys("Return");
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(angleRow, modifiedYellow); }));
+    ExpectInValue(angleRow, modifiedYellow);
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("#9"), "#9 = 82.5");
@@ -38,7 +38,7 @@ TEST_F(ItemEditing, ATypedWholeNumberReachesBothFiles) {
     Open();
     Type(leavesRow, "2");
     PressKeys("Tab");
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(leavesRow, modifiedYellow); }));
+    ExpectInValue(leavesRow, modifiedYellow);
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("$7"), "$7 = 2");
@@ -99,7 +99,7 @@ TEST_F(ItemEditing, ADistanceIsPickedWithTwoClicksInTheDrawing) {
     drawing.Click(400, 480);
     EXPECT_TRUE(WaitUntil([this] { return dialog.IsOpen(); })) << "the dialog did not reappear";
     LookWhenPainted();
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
+    ExpectInValue(widthRow, modifiedYellow);
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("#1"), "#1 = 500");
@@ -134,7 +134,7 @@ TEST_P(TypedDistance, IsReadInTheDrawingsUnits) {
     Open(R"((tavrinwnd "door" 1.0 1))", GetParam().units, 4);
     Type(widthRow, GetParam().text);
     PressKeys("Return");
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
+    ExpectInValue(widthRow, modifiedYellow);
     PressOk();
     EXPECT_EQ(Answer(), "0");
     EXPECT_EQ(Working("#1"), std::string("#1 = ") + GetParam().value);

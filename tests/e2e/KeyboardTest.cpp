@@ -34,7 +34,7 @@ protected:
     void TypeValue(int row, const std::string& text) {
         TypeText(text);
         PressKeys("Return");
-        EXPECT_TRUE(WaitUntil([&] { return ValueShows(row, modifiedYellow); })) << "row " << row;
+        ExpectInValue(row, modifiedYellow);
     }
     // Measures the focused row's distance from the origin, with points that are typed at the host's prompt.
     void Measure(const std::string& point) {
@@ -74,7 +74,7 @@ TEST_F(KeyboardAlone, ADoorIsFilledInTypedAndMeasured) {
     Open();
     GoToFirstRow();
     ASSERT_NO_FATAL_FAILURE(Measure("300,400"));
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
+    ExpectInValue(widthRow, modifiedYellow);
     GoDown(2, wallRow);
     TypeValue(wallRow, "325");
     GoDown(4, leavesRow);
@@ -94,7 +94,7 @@ TEST_F(KeyboardAlone, F2OpensTheTextAndEscapeClosesFirstTheEditThenTheDialog) {
     PressKeys("F2 End");
     TypeText("1");
     PressKeys("Return");
-    EXPECT_TRUE(WaitUntil([this] { return ValueShows(widthRow, modifiedYellow); }));
+    ExpectInValue(widthRow, modifiedYellow);
     TypeText("7");
     PressKeys("Escape");
     PressKeys("Escape");

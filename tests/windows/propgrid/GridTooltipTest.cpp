@@ -177,11 +177,43 @@ TEST_F(GridTooltip, OfATextWithoutEndIsCutOff) {
     EXPECT_EQ(Shown(), std::wstring(1023, L'x'));
 }
 
+// As the system reports a mouse at rest when a window below it closes.
+TEST_F(GridTooltip, IsNotAwaitedWhenAnEditorClosesUnderAMouseAtRest) {
+    const UINT item = grid.AddStringItem(Section(), L"name", longText);
+    const CPoint pressed = ValueOf(item);
+    const CPoint rest(pressed.x + 5, pressed.y + 1);
+    const auto isAwaitedAfterMove = [this](CPoint point) {
+        TRACKMOUSEEVENT hover = {sizeof(hover), TME_CANCEL | TME_HOVER, grid.m_hWnd, 0};
+        ::TrackMouseEvent(&hover);
+        MoveTo(point);
+        hover = {sizeof(hover), TME_QUERY, nullptr, 0};
+        ::TrackMouseEvent(&hover);
+        return hover.hwndTrack == grid.m_hWnd && (hover.dwFlags & TME_HOVER) != 0;
+    };
+    const auto putMouse = [this](CPoint point) {
+        grid.ClientToScreen(&point);
+        ::SetCursorPos(point.x, point.y);
+    };
+    putMouse(pressed);
+    MoveTo(rest);
+    EXPECT_TRUE(isAwaitedAfterMove(pressed));
+    EXPECT_FALSE(isAwaitedAfterMove(pressed));
+    ClickOn(pressed);
+    ASSERT_NE(Edit(), nullptr);
+    putMouse(rest);
+    Enter(longText + L"!");
+    ASSERT_EQ(Edit(), nullptr);
+    EXPECT_FALSE(isAwaitedAfterMove(rest));
+    EXPECT_TRUE(isAwaitedAfterMove(pressed));
+}
+
 // The system's own hover: the mouse rests on the cell.
 TEST_F(GridTooltip, ComesUpWhenTheMouseRests) {
     const UINT item = grid.AddStringItem(Section(), L"name", longText);
     CPoint point = ValueOf(item);
+    MoveTo(CPoint(0, 0));
     grid.ClientToScreen(&point);
+    ::SetCursorPos(point.x - 1, point.y);
     ::SetCursorPos(point.x, point.y);
     const ULONGLONG deadline = ::GetTickCount64() + 9000;
     while (Shown().empty() && ::GetTickCount64() < deadline) {
