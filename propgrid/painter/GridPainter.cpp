@@ -41,6 +41,13 @@ void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.LineTo(x2, y2);
 }
 
+// A canvas' device context, which it still owns, for the framework's operations.
+class CCanvasDc : public CDC {
+public:
+    explicit CCanvasDc(HDC dc) { Attach(dc); }
+    ~CCanvasDc() override { Detach(); }
+};
+
 // Shortens a path to `width` pixels in the selected font by an ellipsis among its folders.
 std::wstring CompactPath(CDC& dc, const std::wstring& path, int width) {
     wchar_t buffer[1024] = {};
@@ -66,27 +73,28 @@ struct CGridPainter::PaintTools {
 // The canvas is out of the painter's hands meanwhile, since a custom item that draws may cause another paint.
 bool CGridPainter::PaintWindow(CDC& target, const PaintState& state) {
     const Size& client = m_layout.GetView().client;
-    std::unique_ptr<CMemoryCanvas> canvas = std::move(m_canvas);
+    std::unique_ptr<handles::CMemoryCanvas> canvas = std::move(m_canvas);
     if (canvas == nullptr || canvas->Size().cx != client.width || canvas->Size().cy != client.height) {
-        canvas = std::make_unique<CMemoryCanvas>(target, CSize(client.width, client.height));
+        canvas = std::make_unique<handles::CMemoryCanvas>(target, SIZE{client.width, client.height});
     }
     canvas->TakeLayout(target);
-    PaintTools tools = {.dc = canvas->Dc(), .state = state, .area = {}, .picture = {}};
-    Paint(target, *canvas, tools);
+    const bool customItemDrew = Paint(target, *canvas, state);
     m_canvas = std::move(canvas);
-    return tools.customItemDrew;
+    return customItemDrew;
 }
 
 void CGridPainter::PaintCopy(CDC& target, const PaintState& state) {
     const Size& client = m_layout.GetView().client;
-    CMemoryCanvas canvas(target, CSize(client.width, client.height));
-    PaintTools tools = {.dc = canvas.Dc(), .state = state, .area = {}, .picture = {}};
-    Paint(target, canvas, tools);
+    Paint(target, handles::CMemoryCanvas(target, SIZE{client.width, client.height}), state);
 }
 
+// Returns whether a custom item drew.
+//
 // What is below the rows has one colour, which goes straight to the target: a row that appears there is drawn
 // off-screen again.
-void CGridPainter::Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools) {
+bool CGridPainter::Paint(CDC& target, const handles::CMemoryCanvas& canvas, const PaintState& state) {
+    CCanvasDc dc(canvas.Dc());
+    PaintTools tools = {.dc = dc, .state = state, .area = {}, .picture = {}};
     const GridColors& colors = m_model.settings.colors;
     const GridView view = m_layout.GetView();
     tools.area = CRect(0, 0, m_layout.GetRowArea().width, view.client.height);
@@ -113,10 +121,11 @@ void CGridPainter::Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools) 
     }
     canvas.CopyTo(target, tools.picture.bottom);
     if (tools.picture.bottom < view.client.height) {
-        const handles::CSavedDcState state(target);
+        const handles::CSavedDcState savedState(target);
         target.FillSolidRect(0, tools.picture.bottom, view.client.width,
                              view.client.height - tools.picture.bottom, colors.back);
     }
+    return tools.customItemDrew;
 }
 
 void CGridPainter::PaintRows(PaintTools& tools) {

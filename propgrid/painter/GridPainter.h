@@ -9,10 +9,10 @@
 #include <memory>
 #include <string>
 
+#include "handles/GdiScopes.h"
 #include "propgrid/layout/PaintPass.h"
 #include "propgrid/painter/CellText.h"
 #include "propgrid/painter/GridFonts.h"
-#include "propgrid/painter/MemoryCanvas.h"
 
 namespace tavrin::propgrid {
 
@@ -43,7 +43,7 @@ public:
 private:
     struct PaintTools;
 
-    void Paint(CDC& target, CMemoryCanvas& canvas, PaintTools& tools);
+    bool Paint(CDC& target, const handles::CMemoryCanvas& canvas, const PaintState& state);
     void PaintRows(PaintTools& tools);
     void PaintBelowRows(PaintTools& tools) const;
     void PaintEmptyList(PaintTools& tools);
@@ -62,7 +62,7 @@ private:
     CGridLayout& m_layout;
     const GridFonts& m_fonts;
     CCellTexts m_texts;
-    std::unique_ptr<CMemoryCanvas> m_canvas;
+    std::unique_ptr<handles::CMemoryCanvas> m_canvas;
 };
 
 }  // namespace tavrin::propgrid
