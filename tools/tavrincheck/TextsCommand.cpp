@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "cmdline/CommandLine.h"
@@ -22,8 +23,8 @@ constexpr const char* kHelp = R"(tavrincheck texts: makes TavrinRes.dll from its
 
   tavrincheck texts FILE... -o MODULE [--machine x64|x86]
 
-The texts of all files go into one module. A FILE is a script, or a module whose texts are taken over. The same texts
-give the same bytes.
+The texts of all files go into one module. A FILE is a script, or a module whose texts are taken over. A number that two
+files use must have the same text in both. The same texts give the same bytes.
 
   -o MODULE      the module to write, such as TavrinRes.dll; the host loads it by this name. A missing folder is made
   --machine M    x64 for a 64-bit host, x86 for a 32-bit one (default: that of this program, x64 under Linux)
@@ -79,6 +80,9 @@ std::vector<CompiledText> CompiledTexts(const CTextTable& table) {
             throw ErrorAt(table, text, "text " + std::to_string(text.number) + " is too long for a module");
         }
         const auto [other, isFirst] = known.try_emplace({text.number, *language}, &text);
+        if (!isFirst && other->second->text == text.text) {
+            continue;
+        }
         if (!isFirst) {
             throw ErrorAt(table, text,
                           "text " + std::to_string(text.number) + " already exists, in " +
@@ -87,6 +91,22 @@ std::vector<CompiledText> CompiledTexts(const CTextTable& table) {
         texts.push_back({text.number, *language, text.text});
     }
     return texts;
+}
+
+// Several languages in one module are legal, but mostly a line LANGUAGE that was forgotten.
+std::string HintAtLanguages(const CTextTable& table) {
+    std::set<unsigned> languages;
+    std::string names;
+    for (std::size_t index = 0; index < table.Languages().size(); ++index) {
+        if (languages.insert(table.LanguageIdOf(index).value_or(0)).second) {
+            names += (names.empty() ? "" : "; ") + table.Languages()[index];
+        }
+    }
+    return languages.size() < 2
+               ? ""
+               : "The texts are in " + std::to_string(languages.size()) + " languages: " + names +
+                     ". A user sees those of one of them alone. If they are meant to be in one, give all "
+                     "scripts the same line LANGUAGE.\n";
 }
 
 }  // namespace
@@ -126,12 +146,13 @@ int RunTexts(const std::vector<std::string>& arguments) {
     for (const std::string& file : options.files) {
         table.ReadFile(file);
     }
-    const std::string module = ModuleOf(table, options.machine);
+    const std::vector<CompiledText> texts = CompiledTexts(table);
+    const std::string module = StringModule(texts, options.machine);
     CreateFolderOf(options.module);
     WriteBytes(options.module, module);
-    const std::size_t count = table.Texts().size();
+    const std::size_t count = texts.size();
     Print(options.module + ": " + std::to_string(count) + (count == 1 ? " text" : " texts") + ", for " +
-          MachineName(options.machine) + " hosts\n");
+          MachineName(options.machine) + " hosts\n" + HintAtLanguages(table));
     return 0;
 }
 

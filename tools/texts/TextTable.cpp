@@ -78,10 +78,14 @@ void CTextTable::Add(Reading reading) {
             whole.m_indices.try_emplace({entry.number, language->second}, whole.m_texts.size());
         if (!isFirst) {
             const TextEntry& other = whole.m_texts[index->second];
-            const std::string message =
-                "text " + std::to_string(entry.number) + " already exists, in " + whole.m_files[other.file] +
-                (other.line != 0 ? ":" + std::to_string(other.line) : "") +
-                HintAtLanguage(entry.language, other.file + 1 != whole.m_files.size());
+            const bool isOtherFile = other.file + 1 != whole.m_files.size();
+            if (isOtherFile && other.text == entry.text) {
+                continue;
+            }
+            const std::string message = "text " + std::to_string(entry.number) + " already exists, in " +
+                                        whole.m_files[other.file] +
+                                        (other.line != 0 ? ":" + std::to_string(other.line) : "") +
+                                        HintAtLanguage(entry.language, isOtherFile);
             throw entry.line != 0 ? LineError(reading.file, entry.line, message)
                                   : CToolError(reading.file + ": " + message);
         }

@@ -37,8 +37,8 @@ public:
     static constexpr std::size_t kLongestText = 255;
 
     // Adds the texts of a script or a module. Throws CToolError, without adding anything, when the file
-    // cannot be read, is invalid or has no texts, and when it has a text that is in the table already in the
-    // same language.
+    // cannot be read, is invalid or has no texts, and when it has another text for a number that is in the
+    // table already in the same language. The same text again, as of the module itself, is left out.
     void ReadFile(const std::string& name);
 
     // The same from a file's bytes, which may have no texts; `name` (UTF-8) is the file's name in messages

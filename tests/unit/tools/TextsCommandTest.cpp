@@ -74,9 +74,34 @@ TEST_F(TextsCommand, SeveralFilesBecomeOneModuleWhichMayBeOneOfThem) {
     Run({module, folder.Write("b.rc", "LANGUAGE LANG_ITALIAN, SUBLANG_ITALIAN\nSTRINGTABLE { 9 \"nove\" }\n"),
          "-o", module});
     EXPECT_EQ(TextsOf("TavrinRes.dll"), "7 1040 sette|9 1040 nove|");
-    EXPECT_EQ(ErrorOf({module, folder.Path("b.rc"), "-o", folder.Path("c.dll")}),
-              "b.rc:2: text 9 already exists, in TavrinRes.dll");
+    folder.Write("other.rc", "LANGUAGE LANG_ITALIAN, SUBLANG_ITALIAN\nSTRINGTABLE { 9 \"nono\" }\n");
+    EXPECT_EQ(ErrorOf({module, folder.Path("other.rc"), "-o", folder.Path("c.dll")}),
+              "other.rc:2: text 9 already exists, in TavrinRes.dll");
     EXPECT_EQ(folder.Read("c.dll"), "(no file)");
+}
+
+// Such as the texts of the module itself, which each author's script has.
+TEST_F(TextsCommand, ATextThatFilesShareIsTakenOnce) {
+    const std::string module = folder.Path("a.dll");
+    folder.Write("a.rc", "LANGUAGE 9, 2\nSTRINGTABLE { 7 \"seven\" 8 \"eight\" }\n");
+    folder.Write("b.rc",
+                 "LANGUAGE LANG_ENGLISH, SUBLANG_ENGLISH_UK\nSTRINGTABLE { 7 \"seven\" 9 \"nine\" }\n");
+    EXPECT_EQ(Run({folder.Path("a.rc"), folder.Path("b.rc"), "-o", module}),
+              "a.dll: 3 texts, for x64 hosts\n");
+    EXPECT_EQ(TextsOf("a.dll"), "7 2057 seven|8 2057 eight|9 2057 nine|");
+    EXPECT_EQ(Run({module, folder.Path("b.rc"), "-o", module}), "a.dll: 3 texts, for x64 hosts\n");
+    EXPECT_EQ(TextsOf("a.dll"), "7 2057 seven|8 2057 eight|9 2057 nine|");
+}
+
+TEST_F(TextsCommand, SeveralLanguagesInOneModuleAreNamed) {
+    folder.Write("uk.rc", "LANGUAGE 9, 2\nSTRINGTABLE { 7 \"seven\" }\n");
+    folder.Write("us.rc", "LANGUAGE LANG_ENGLISH, SUBLANG_ENGLISH_US\nSTRINGTABLE { 7 \"door\" }\n");
+    EXPECT_EQ(Run({folder.Path("uk.rc"), folder.Path("us.rc"), "-o", folder.Path("a.dll")}),
+              "a.dll: 2 texts, for x64 hosts\n"
+              "The texts are in 2 languages: language 0x0809; LANG_ENGLISH, SUBLANG_ENGLISH_US. A user sees "
+              "those of one of them alone. If they are meant to be in one, give all scripts the same line "
+              "LANGUAGE.\n");
+    EXPECT_EQ(TextsOf("a.dll"), "7 1033 door|7 2057 seven|");
 }
 
 TEST_F(TextsCommand, TheSamplesTextsAreAllInTheirModule) {
