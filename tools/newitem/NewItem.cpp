@@ -14,10 +14,9 @@ namespace tavrin::tools {
 
 namespace {
 
-constexpr unsigned kFirstRange = 1501;
 constexpr unsigned kRange = 100;
 constexpr unsigned kHighestText = 65535;
-constexpr std::size_t kLongestName = 18;  // as a title it fits into the dialog's header
+constexpr std::size_t kLongestName = 15;  // as a title it fits into the dialog's header
 
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
@@ -192,16 +191,21 @@ std::vector<NewText> TextsOfSharedRoutine(std::string_view routine, unsigned lan
     return texts;
 }
 
-unsigned FirstFreeText(const std::vector<CTextTable>& scripts) {
+unsigned FirstFreeText(const std::vector<CTextTable>& scripts, unsigned from) {
     const auto isTaken = [](const CTextTable& script, unsigned first) {
         return std::any_of(script.Texts().begin(), script.Texts().end(), [=](const TextEntry& text) {
             return text.number >= first && text.number < first + kRange - 1;
         });
     };
-    for (unsigned first = kFirstRange; first + kRange <= kHighestText; first += kRange) {
-        if (first != kSharedTexts[0].number &&
-            std::none_of(scripts.begin(), scripts.end(),
-                         [&](const CTextTable& script) { return isTaken(script, first); })) {
+    const auto isShared = [](unsigned first) {
+        return std::any_of(std::begin(kSharedTexts), std::end(kSharedTexts), [=](const SharedText& text) {
+            return text.number >= first && text.number < first + kRange - 1;
+        });
+    };
+    for (unsigned first = from; first + kRange <= kHighestText; first += kRange) {
+        if (!isShared(first) && std::none_of(scripts.begin(), scripts.end(), [&](const CTextTable& script) {
+                return isTaken(script, first);
+            })) {
             return first;
         }
     }
@@ -216,7 +220,7 @@ std::vector<NewFile> SharedFiles() {
 std::string NewTextScript() {
     return "// English texts of the items: string table of the module TavrinRes.dll.\n"
            "#pragma code_page(65001)\n"
-           "LANGUAGE LANG_ENGLISH, SUBLANG_ENGLISH_US\n\n"
+           "LANGUAGE LANG_ENGLISH, SUBLANG_ENGLISH_UK\n\n"
            "STRINGTABLE\n"
            "BEGIN\n"
            "    1363 \"  Parameters: \"\n"

@@ -31,9 +31,9 @@ std::vector<NewText> TextsOfNewItem(const std::string& name, unsigned firstText,
 // in English: those of item.lsp's own checks.
 std::vector<NewText> TextsOfSharedRoutine(std::string_view routine, unsigned languageId);
 
-// The first number, from 1501 on, of a range of 99 numbers that no text has: 1501, 1601 and so on. Throws
-// CToolError when there is none.
-unsigned FirstFreeText(const std::vector<CTextTable>& scripts);
+// The first number of the first range of 99 numbers that no text has, among `from`, `from` + 100 and so on.
+// Throws CToolError when there is none.
+unsigned FirstFreeText(const std::vector<CTextTable>& scripts, unsigned from);
 
 // A script in English with the two texts of the module itself.
 std::string NewTextScript();

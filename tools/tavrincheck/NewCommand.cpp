@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 #include "cmdline/CommandLine.h"
+#include "itemdlg/TemplateText.h"
 #include "tools/files/Files.h"
 #include "tools/files/Folders.h"
 #include "tools/newitem/NewItem.h"
@@ -24,7 +26,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kHelp = R"(tavrincheck new: writes the files of a new item
 
-  tavrincheck new NAME [--in FOLDER] [--machine x64|x86]
+  tavrincheck new NAME [--in FOLDER] [--from N] [--machine x64|x86]
 
 Writes into FOLDER/NAME a template with two parameters, a picture, the slides of two variants and a LISP routine that
 draws a rectangle. Its texts, and those of item.lsp's checks, are added to each script
@@ -33,6 +35,9 @@ is created in English. So are the files that all items share: item.lsp, logo.png
 once: DevHost.exe --items FOLDER.
 
   --in FOLDER    the folder of the items (default: the current folder)
+  --from N       the first number for its texts; where a text of the folder has one of the next 99, N + 100 is tried,
+                 and so on (default: 3001, above those of the sample items). Items that one host loads need
+                 different numbers
   --machine M    x64 for a 64-bit DevHost, x86 for a 32-bit one (default: that of this program, x64 under Linux)
   -h, --help     print this help
 )";
@@ -40,6 +45,7 @@ once: DevHost.exe --items FOLDER.
 struct Options {
     std::vector<std::string> names;
     std::string folder = ".";
+    int firstText = 3001;
     EMachine machine = OwnMachine();
     bool help = false;
 };
@@ -48,6 +54,7 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     Options options;
     CCommandLine commandLine;
     commandLine.AddText("--in", "samples", options.folder);
+    commandLine.AddNumber("--from", 3001, {1, itemdlg::kHighestTextNumber}, options.firstText);
     commandLine.AddOption("--machine", "x64",
                           [&](const std::string& value) { options.machine = MachineOf(value); });
     commandLine.AddExitFlag("--help", options.help);
@@ -127,21 +134,24 @@ Script WithTexts(const std::string& folder, const Script& script, const std::str
                     Edited(LinesWithEnds(script.bytes), edits));
 }
 
-// All that is to be written, in this order.
+// All that is to be written, in this order: where a module cannot be written, the scripts are as they were,
+// and the next attempt takes the same numbers.
 std::vector<NewFile> FilesOf(const Options& options, const std::string& item) {
     const std::vector<Script> scripts = ReadScripts(options.folder);
     std::vector<CTextTable> tables;
     for (const Script& script : scripts) {
         tables.push_back(script.texts);
     }
-    const unsigned firstText = FirstFreeText(tables);
+    const unsigned firstText = FirstFreeText(tables, static_cast<unsigned>(options.firstText));
     std::vector<NewFile> files;
+    std::vector<NewFile> changedScripts;
     for (const Script& script : scripts) {
         const Script changed = WithTexts(options.folder, script, item, firstText);
         CheckModuleName(NameOf(PathOf(options.folder) / PathOf(script.Module())));
-        files.push_back({changed.name, changed.bytes});
         files.push_back({changed.Module(), ModuleOf(changed.texts, options.machine)});
+        changedScripts.push_back({changed.name, changed.bytes});
     }
+    std::move(changedScripts.begin(), changedScripts.end(), std::back_inserter(files));
     for (NewFile& file : FilesOfNewItem(item, firstText)) {
         files.push_back(std::move(file));
     }

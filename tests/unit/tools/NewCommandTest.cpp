@@ -3,6 +3,7 @@
 
 #include "tests/unit/tools/CheckRun.h"
 #include "tests/unit/tools/ToolFolder.h"
+#include "tools/tavrincheck/TextsCommand.h"
 #include "tools/texts/TextTable.h"
 
 using namespace tests;
@@ -39,7 +40,7 @@ TEST_F(NewCommand, InAnEmptyFolderEverythingIsMadeAndNothingIsWrong) {
     const std::string output = Make("cabinet");
     EXPECT_EQ(
         output.substr(0, output.find("To try it")),
-        "texts/TavrinRes.en.rc\ntexts/en/TavrinRes.dll\ncabinet/cabinet.TXT\ncabinet/cabinet.lsp\n"
+        "texts/en/TavrinRes.dll\ntexts/TavrinRes.en.rc\ncabinet/cabinet.TXT\ncabinet/cabinet.lsp\n"
         "cabinet/cabinet.svg\ncabinet/cabinet.png\ncabinet/slides/cabinet_plain_t.svg\n"
         "cabinet/cabinet_plain_t.png\ncabinet/slides/cabinet_divided_t.svg\ncabinet/cabinet_divided_t.png\n"
         "item.lsp\nlogo.png\nempty.png\n");
@@ -54,10 +55,10 @@ TEST_F(NewCommand, AmongTheSamplesTheTextsAreAddedInBothLanguages) {
     fs::copy(TAVRIN_SAMPLES, folder.Path(""), fs::copy_options::recursive);
     fs::remove_all(folder.Path("door"));
     Make("filing-cabinet");
-    EXPECT_EQ(TextIn("texts/TavrinRes.it.rc", 1802), L"Larghezza");
-    EXPECT_EQ(TextIn("texts/TavrinRes.en.rc", 1802), L"Width");
-    EXPECT_EQ(TextIn("texts/it/TavrinRes.dll", 1803), L"Altezza");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 1801), L"Filing cabinet");
+    EXPECT_EQ(TextIn("texts/TavrinRes.it.rc", 3002), L"Larghezza");
+    EXPECT_EQ(TextIn("texts/TavrinRes.en.rc", 3002), L"Width");
+    EXPECT_EQ(TextIn("texts/it/TavrinRes.dll", 3003), L"Altezza");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 3001), L"Filing cabinet");
     EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 2003), L"Staircase");
     const CheckRun check = Check({folder.Path("filing-cabinet"), "--strict"});
     EXPECT_EQ(check.status, 0) << check.output;
@@ -85,9 +86,51 @@ TEST_F(NewCommand, TheTextsOfTheSharedRoutineAreAddedOnceInTheLanguageOfTheScrip
 TEST_F(NewCommand, EachItemHasARangeOfItsOwn) {
     Make("one");
     Make("two");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 1501), L"One");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 1601), L"Two");
-    EXPECT_NE(folder.Read("two/two.TXT").find("$2 = \"<<1603>>\"D 800\n"), std::string::npos);
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 3001), L"One");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 3101), L"Two");
+    EXPECT_NE(folder.Read("two/two.TXT").find("$2 = \"<<3103>>\"D 800\n"), std::string::npos);
+}
+
+TEST_F(NewCommand, TheRangeBeginsWhereTheAuthorSays) {
+    Run({"one", "--in", folder.Path(""), "--from", "7050"});
+    Run({"two", "--in", folder.Path(""), "--from", "7001"});
+    Run({"three", "--in", folder.Path(""), "--from", "5003"});
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 7050), L"One");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 7101), L"Two");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5203), L"Three") << "5101 to 5106 are those of item.lsp";
+    EXPECT_EQ(ErrorOf({"four", "--in", folder.Path(""), "--from", "65500"}),
+              "no range of free numbers is left for the item's texts");
+    EXPECT_EQ(ErrorOf({"four", "--from", "0"}),
+              "invalid value '0' for option '--from': expected a number from 1 to 65535");
+}
+
+// The next attempt finds the numbers free.
+TEST_F(NewCommand, TheScriptsStayAsTheyWereWhenAModuleCannotBeWritten) {
+    Make("one");
+    const std::string script = folder.Read("texts/TavrinRes.en.rc");
+    fs::remove_all(folder.Path("texts/en"));
+    folder.Write("texts/en", "a file where the folder should be");
+    EXPECT_EQ(ErrorOf({"two", "--in", folder.Path("")}), "texts/en: the folder cannot be created");
+    EXPECT_EQ(folder.Read("texts/TavrinRes.en.rc"), script);
+    EXPECT_FALSE(fs::exists(folder.Path("two")));
+}
+
+// As the samples and the module's own texts are, so that both can be in one module.
+TEST_F(NewCommand, ItsTextsJoinThoseOfTheSamples) {
+    Make("one");
+    const std::string module = folder.Path("joined.dll");
+    const std::string output = OutputOf([&] {
+        EXPECT_EQ(RunTexts({TAVRIN_SAMPLES "/texts/TavrinRes.en.rc", folder.Path("texts/en/TavrinRes.dll"),
+                            "-o", module}),
+                  0);
+    });
+    EXPECT_EQ(output.find("languages"), std::string::npos) << output;
+    EXPECT_EQ(TextIn("joined.dll", 3001), L"One");
+    CTextTable samples;
+    samples.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes.en.rc");
+    for (const TextEntry& text : samples.Texts()) {
+        EXPECT_EQ(TextIn("joined.dll", text.number), text.text);
+    }
 }
 
 TEST_F(NewCommand, ItWorksInTheCurrentFolderAndForTheHostsMachine) {
@@ -108,8 +151,8 @@ TEST_F(NewCommand, TheOwnChangesOfSharedRoutinesAndScriptsStay) {
     EXPECT_EQ(folder.Read("item.lsp"), "; mine\n");
     EXPECT_EQ(
         folder.Read("texts/TavrinRes.rc"),
-        "// mine\r\nLANGUAGE 7, 1\r\nSTRINGTABLE\r\nBEGIN\r\n1 \"eins\"\r\n    1501 \"Tor\"\r\n    1502 "
-        "\"Width\"\r\n    1503 \"Height\"\r\nEND\r\n");
+        "// mine\r\nLANGUAGE 7, 1\r\nSTRINGTABLE\r\nBEGIN\r\n1 \"eins\"\r\n    3001 \"Tor\"\r\n    3002 "
+        "\"Width\"\r\n    3003 \"Height\"\r\nEND\r\n");
     EXPECT_EQ(TextIn("texts/TavrinRes.dll", 1), L"eins");
 }
 
@@ -125,7 +168,7 @@ TEST_F(NewCommand, NamesThatCannotBeAreRefused) {
     for (const std::string name : {"list", "DEFUN", "draw-line", "item-edit", "tavrinwnd", "t"}) {
         EXPECT_EQ(ErrorOf({name}), "'" + name + "': this is the name of a LISP function, choose another one");
     }
-    EXPECT_EQ(ErrorOf({"a-very-long-name-of"}), "'a-very-long-name-of': a name has at most 18 characters");
+    EXPECT_EQ(ErrorOf({"a-very-long-name-of"}), "'a-very-long-name-of': a name has at most 15 characters");
 }
 
 TEST_F(NewCommand, NothingIsWrittenAfterAnError) {
