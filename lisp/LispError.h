@@ -52,6 +52,8 @@ public:
         m_needsLocation = false;
     }
 
+    int Line() const { return m_line; }
+    int Column() const { return m_column; }
     const std::wstring& What() const { return m_what; }
     bool IsUnfinished() const { return m_isUnfinished; }
     // The same error with the name of its file.

@@ -64,6 +64,7 @@ void CFileCheck::CheckRoutine(const ItemFile& file, std::vector<Finding>& findin
     context.routineFile = file.item + ".lsp";
     context.baseName = NameOf(PathOf(file.item).filename());
     context.exists = [&](const std::string& name) { return IsFile(NameOf(folder / PathOf(name))); };
+    context.texts = m_texts;
     context.usedTexts = &m_usedTexts;
     if (IsFile(context.routineFile)) {
         context.routine = ReadBytes(context.routineFile);

@@ -1,6 +1,7 @@
 #include "tools/rules/PictureRules.h"
 
 #include <algorithm>
+#include <set>
 
 #include "encoding/Encoding.h"
 #include "imagedlg/ChoiceLayout.h"
@@ -34,11 +35,21 @@ constexpr Rule kChoiceCount = {
     "nil.",
     "(tavrinselmask \"Replace\" 0 \"a\" \"b\" \"c\" \"d\" \"e\" \"f\" \"g\")"};
 
-constexpr Rule kRoutineUnread = {"routine-unread", SV_NOTE, "the item's routine cannot be read",
-                                 "NAME.lsp has a LISP syntax error, so its slides are not checked.",
-                                 "(defun door () (tavrinselmask \"Replace\" 0 \"door_single\")"};
+constexpr Rule kRoutineUnread = {
+    "routine-unread", SV_ERROR, "the item's routine cannot be read",
+    "NAME.lsp has a LISP syntax error: it cannot be loaded. Its slides and texts are "
+    "not checked,\n"
+    "and the texts that it alone uses are reported as unused.",
+    "(defun door () (tavrinselmask \"Replace\" 0 \"door_single\")"};
 
-constexpr const Rule* kRules[] = {&kPictureMissing, &kSlideMissing, &kChoiceCount, &kRoutineUnread};
+constexpr Rule kRoutineTextUnknown = {
+    "routine-text-unknown", SV_WARNING, "the routine uses a text that does not exist",
+    "None of the files given with --texts has the number N of (res-text N) or of the samples' (item-words N\n"
+    "...) in NAME.lsp: (res-text N) gives nil, (item-words N ...) the routine's own words in every language.",
+    "(item-words 5199 \"The slats do not fit.\")"};
+
+constexpr const Rule* kRules[] = {&kPictureMissing, &kSlideMissing, &kChoiceCount, &kRoutineUnread,
+                                  &kRoutineTextUnknown};
 
 class CPictureCheck {
 public:
@@ -73,14 +84,24 @@ private:
                     CheckPreview(call.names.front());
                 }
             }
-            for (const unsigned number : routine.textNumbers) {
-                if (m_context.usedTexts != nullptr) {
-                    m_context.usedTexts->set(number);
-                }
+            const std::set<unsigned> numbers(routine.textNumbers.begin(), routine.textNumbers.end());
+            for (const unsigned number : numbers) {
+                TakeText(number);
             }
-        } catch (const lisp::CLispError& error) {
-            m_routine.Add(kRoutineUnread,
-                          "the routine cannot be read: " + encoding::EncodeUtf8(error.Text()));
+        } catch (const lisp::CReadError& error) {
+            const std::size_t lineStart = m_lineStarts.at(static_cast<std::size_t>(error.Line()) - 1);
+            AddAt(kRoutineUnread, {{}, lineStart + static_cast<std::size_t>(error.Column()) - 1, 1},
+                  "the routine cannot be read: " + encoding::EncodeUtf8(error.What()));
+        }
+    }
+
+    void TakeText(unsigned number) {
+        if (m_context.usedTexts != nullptr) {
+            m_context.usedTexts->set(number);
+        }
+        if (m_context.texts != nullptr && m_context.texts->Find(number) == nullptr) {
+            m_routine.Add(kRoutineTextUnknown, "the routine uses text " + std::to_string(number) +
+                                                   ", which none of the files of texts has");
         }
     }
 

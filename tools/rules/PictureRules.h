@@ -22,6 +22,7 @@ struct PictureContext {
     std::optional<std::string> routine;  // the bytes of the routine, if there is one
     // Whether a file with that name exists beside the template.
     std::function<bool(const std::string& name)> exists;
+    const CTextTable* texts = nullptr;  // null when unknown
     TextNumbers* usedTexts = nullptr;  // collects the numbers of the texts that the routine uses, unless null
 };
 

@@ -31,7 +31,7 @@ struct RoutineContents {
     std::vector<std::wstring> loads;    // the literal texts of (load NAME)
 };
 
-// Throws CLispError when the routine cannot be read.
+// Throws CReadError when the routine cannot be read.
 RoutineContents ReadRoutine(std::wstring_view routine);
 
 }  // namespace tavrin::tools

@@ -5,4 +5,5 @@
                  "gate_space")
   (tavrinselmask "Replace" 0 "gate_a" "gate_b" "gate_c" "gate_d" "gate_e" "gate_f" "gate_g")
   (apply 'tavrinselmask names)
+  (prompt (res-text 1597))
   (tavrinprevmask "gate_preview"))
