@@ -196,7 +196,7 @@ LispResult CEvaluator::EvaluateBody(const CValue& body) {
 
 LispResult CEvaluator::Call(const CValue& call) {
     Frame& frame = *m_frame;
-    const int line = call.Line() != 0 ? call.Line() : frame.line;
+    const int line = call.Line().line != 0 ? call.Line().line : frame.line;
     frame.line = line;
     CheckStack();
     const auto function = FunctionOf(call.Car());
@@ -222,7 +222,7 @@ std::shared_ptr<const FunctionObject> CEvaluator::FunctionOf(const CValue& head)
         return function.AsFunction();
     }
     if (function.Type() == VT_PAIR && function.Car().IsSymbol(L"LAMBDA")) {
-        return MakeFunction(L"LAMBDA", function.Cdr()).AsFunction();
+        return MakeQuotedLambda(function).AsFunction();
     }
     if (head.Type() != VT_SYMBOL) {
         throw CLispError(Excerpt(head) + L" is not the name of a function");
@@ -235,13 +235,25 @@ std::shared_ptr<const FunctionObject> CEvaluator::FunctionOf(const CValue& head)
 }
 
 CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition) {
+    return MakeFunction(name, definition, *m_frame->file, m_frame->line);
+}
+
+// A list may be called far from where it stands.
+CValue CEvaluator::MakeQuotedLambda(const CValue& list) {
+    const SourceLine line = list.Line();
+    return line.line != 0 ? MakeFunction(L"LAMBDA", list.Cdr(), SourceFileName(line.file), line.line)
+                          : MakeFunction(L"LAMBDA", list.Cdr());
+}
+
+CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition, const std::wstring& file,
+                                int line) {
     if (definition.Type() != VT_PAIR) {
         throw CLispError(name + L" has no list of parameters");
     }
     Definition code = ReadParameters(name, definition.Car());
     code.body = definition.Cdr();
-    code.file = *m_frame->file;
-    code.line = m_frame->line;
+    code.file = file;
+    code.line = line;
     return CValue::Function(std::make_shared<FunctionObject>(name, std::move(code)));
 }
 

@@ -133,7 +133,7 @@ CValue CReader::ReadExpression(int depth) {
                 Fail(start, L"nothing follows the quote");
             }
             const CValue quoted[] = {CValue::Symbol(L"QUOTE"), ReadExpression(depth + 1)};
-            return CValue::List(quoted, {}, start.line);
+            return CValue::List(quoted, {}, {start.line, m_file});
         }
         default:
             return ReadWord(start);
@@ -149,7 +149,7 @@ CValue CReader::ReadList(Position start, int depth) {
         }
         if (Peek() == L')') {
             Take();
-            return CValue::List(elements, {}, start.line);
+            return CValue::List(elements, {}, {start.line, m_file});
         }
         const Position position = m_position;
         const bool dot = Peek() == L'.' && (m_next + 1 == m_text.size() || EndsWord(m_text[m_next + 1]));
@@ -162,7 +162,7 @@ CValue CReader::ReadList(Position start, int depth) {
             Fail(position, L"the dot has no element before it");
         }
         CValue tail = ReadTail(position, depth);
-        return CValue::List(elements, std::move(tail), start.line);
+        return CValue::List(elements, std::move(tail), {start.line, m_file});
     }
 }
 

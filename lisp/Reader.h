@@ -17,8 +17,8 @@ namespace tavrin::lisp {
 
 class CReader {
 public:
-    // The text must outlive the reader.
-    explicit CReader(std::wstring_view text) : m_text(text) {}
+    // The text must outlive the reader. `file` is that of the lists' lines.
+    explicit CReader(std::wstring_view text, int file = 0) : m_text(text), m_file(file) {}
 
     // The next expression, whose lists know their lines; nothing when only blanks and comments are left.
     // Throws CReadError for unbalanced parentheses, quotes or comments, an unknown escape, a misplaced dot, a
@@ -54,6 +54,7 @@ private:
     [[noreturn]] static void FailUnfinished(Position position, const std::wstring& what);
 
     std::wstring_view m_text;
+    int m_file;
     std::size_t m_next = 0;
     Position m_position;
     std::vector<TextRange> m_textRanges;

@@ -17,6 +17,9 @@ struct Source {
 // Throws CReadError.
 Source ReadText(std::wstring_view text);
 
+// The name of a file whose number the lists that were read from it have.
+const std::wstring& SourceFileName(int number);
+
 // Whether the text ends within an expression, such as a list without its closing parenthesis.
 bool IsUnfinished(std::wstring_view text);
 

@@ -35,7 +35,8 @@ private:
 
 class CPair {
 public:
-    CPair(CValue car, CValue cdr, int line) : m_car(std::move(car)), m_cdr(std::move(cdr)), m_line(line) {
+    CPair(CValue car, CValue cdr, SourceLine line)
+        : m_car(std::move(car)), m_cdr(std::move(cdr)), m_line(line) {
         heldBytes += kSize;
     }
     ~CPair();
@@ -44,7 +45,7 @@ public:
 
     const CValue& Car() const { return m_car; }
     const CValue& Cdr() const { return m_cdr; }
-    int Line() const { return m_line; }
+    SourceLine Line() const { return m_line; }
 
 private:
     friend class CValue;
@@ -53,7 +54,7 @@ private:
 
     CValue m_car;
     CValue m_cdr;
-    int m_line;
+    SourceLine m_line;
 };
 
 const std::size_t CPair::kSize = sizeof(CPair) + kHeapOverhead;
@@ -141,15 +142,15 @@ CValue CValue::Symbol(std::wstring_view name) {
     return value;
 }
 
-CValue CValue::Pair(CValue car, CValue cdr, int line) {
+CValue CValue::Pair(CValue car, CValue cdr, SourceLine line) {
     CValue value;
     value.m_data = std::make_shared<CPair>(std::move(car), std::move(cdr), line);
     return value;
 }
 
-CValue CValue::List(std::span<const CValue> elements, CValue tail, int line) {
+CValue CValue::List(std::span<const CValue> elements, CValue tail, SourceLine line) {
     for (std::size_t i = elements.size(); i-- > 0;) {
-        tail = Pair(elements[i], std::move(tail), i == 0 ? line : 0);
+        tail = Pair(elements[i], std::move(tail), i == 0 ? line : SourceLine{});
     }
     return tail;
 }
@@ -199,7 +200,7 @@ const CValue& CValue::Cdr() const {
     return std::get<VT_PAIR>(m_data)->Cdr();
 }
 
-int CValue::Line() const {
+SourceLine CValue::Line() const {
     return std::get<VT_PAIR>(m_data)->Line();
 }
 

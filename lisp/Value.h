@@ -22,6 +22,12 @@ class CPair;
 class CLispFile;
 struct FunctionObject;
 
+// Where a list begins in a source.
+struct SourceLine {
+    int line = 0;  // from 1; 0 for a list that was not read
+    int file = 0;  // by its number, see Source.h; 0 for typed text
+};
+
 class CValue {
 public:
     CValue() noexcept;  // nil
@@ -35,9 +41,8 @@ public:
     static CValue String(std::wstring text);
     // Symbols do not distinguish case and carry their name in capitals; "nil" gives nil.
     static CValue Symbol(std::wstring_view name);
-    // `line` is where the pair's list begins in a source; 0 for a pair that was not read.
-    static CValue Pair(CValue car, CValue cdr, int line = 0);
-    static CValue List(std::span<const CValue> elements, CValue tail = {}, int line = 0);
+    static CValue Pair(CValue car, CValue cdr, SourceLine line = {});
+    static CValue List(std::span<const CValue> elements, CValue tail = {}, SourceLine line = {});
     static CValue Function(std::shared_ptr<FunctionObject> function);
     static CValue File(std::shared_ptr<CLispFile> file);
     static CValue True();
@@ -55,7 +60,7 @@ public:
     const std::wstring& AsSymbol() const;
     const CValue& Car() const;
     const CValue& Cdr() const;
-    int Line() const;
+    SourceLine Line() const;
     std::shared_ptr<const FunctionObject> AsFunction() const { return std::get<VT_FUNCTION>(m_data); }
     CLispFile& AsFile() const { return *std::get<VT_FILE>(m_data); }
 

@@ -152,6 +152,20 @@ TEST_F(LispFiles, ErrorsInAFileNameFileLineAndFunction) {
         L"calls.lsp:4 > bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a text as argument 1, not 1");
 }
 
+// Such as the drawing of an item, which item.lsp calls.
+TEST_F(LispFiles, AQuotedFunctionIsNamedByTheFileWhereItStands) {
+    Write(L"lib.lsp", "(defun each (f)\n  (apply f '(1)))\n(defun draw (x)\n  (car x))\n");
+    Write(L"item.lsp", "(load \"lib.lsp\")\n(defun item ()\n  (each\n    '(lambda (x)\n      (draw x))))\n");
+    Evaluate(L"(load \"item.lsp\")");
+    EXPECT_EQ(
+        ErrorOf(L"(item)"),
+        L"item.lsp:3 in ITEM > lib.lsp:2 in EACH > item.lsp:5 in LAMBDA > lib.lsp:4 in DRAW: CAR needs a "
+        L"list as argument 1, not 1");
+    EXPECT_EQ(
+        ErrorOf(L"(each '(lambda (x)\n  (draw x)))"),
+        L"lib.lsp:2 in EACH > line 2 in LAMBDA > lib.lsp:4 in DRAW: CAR needs a list as argument 1, not 1");
+}
+
 TEST_F(LispFiles, AFileWithASyntaxErrorIsNotRunAtAll) {
     Write(L"half.lsp", "(setq half T)\n(setq b (list 1 2)\n");
     EXPECT_EQ(ErrorOf(L"(load \"half.lsp\")"), L"half.lsp:2:1: a parenthesis is not closed");
