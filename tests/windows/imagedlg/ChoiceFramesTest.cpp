@@ -125,6 +125,17 @@ TEST_F(ChoiceFrames, StayWhenACellIsRepainted) {
     });
 }
 
+TEST_F(ChoiceFrames, RunOverAHiddenButton) {
+    RunPainted(6, [&](CTavrinSelMaskDlg& dialog) {
+        CWnd& hidden = *dialog.GetDlgItem(IDC_CHOICE_REPLACE);
+        ASSERT_FALSE(hidden.IsWindowVisible());
+        hidden.SetWindowPos(nullptr, 0, 0, 60, 60, SWP_NOZORDER | SWP_NOREDRAW);
+        CoverWithGrey(dialog);
+        dialog.PaintFrames();
+        EXPECT_EQ(FramesIn(dialog, grey), "BWWWWW");
+    });
+}
+
 // With one and two choices cells of the bottom row have frames where the buttons now stand.
 TEST_F(ChoiceFrames, NeverRunOverAButton) {
     for (const int count : {1, 2}) {

@@ -170,7 +170,10 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
-    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        SetLastError(ERROR_SUCCESS);
+        return --references;
+    }
     HRESULT STDMETHODCALLTYPE Read(void*, ULONG, ULONG*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Write(const void*, ULONG, ULONG*) override { return STG_E_MEDIUMFULL; }
     HRESULT STDMETHODCALLTYPE Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return S_OK; }
@@ -300,6 +303,18 @@ TEST_F(PictureCtrl, LeavesTheBackgroundToTheFrameworkWhileItIsEmpty) {
     picture.OnEraseBkgnd(&dc);
     EXPECT_TRUE(picture.defaultAsked);
     EXPECT_EQ(CClientPixels(picture).Count({0, 0, 50, 50}, blue), 2500);
+}
+
+TEST_F(PictureCtrl, LeavesTheBackgroundToTheFrameworkAfterALoadThatFailed) {
+    m_folder.Write(L"red.bmp", Red());
+    CAskedPicture picture;
+    Bind(picture, {0, 0, 50, 50});
+    ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"red.bmp").c_str()));
+    EXPECT_FALSE(picture.LoadFromFile(m_folder.Path(L"missing.bmp").c_str()));
+    CClientDC dc(&picture);
+    picture.defaultAsked = false;
+    picture.OnEraseBkgnd(&dc);
+    EXPECT_TRUE(picture.defaultAsked);
 }
 
 TEST_F(PictureCtrl, NoMessageAsksItToPaintTheBackground) {
