@@ -177,6 +177,30 @@ TEST_F(ItemFaults, AVolumeThatHasRoomForOneFileLeavesTheOtherEmpty) {
     EXPECT_EQ(folder.Read(defaults), "");
 }
 
+// A dialog whose failed start is noticed by nobody.
+class CTolerantDialog : public CTavrinWndDlg {
+public:
+    using CTavrinWndDlg::CTavrinWndDlg;
+
+protected:
+    BOOL OnInitDialog() override {
+        try {
+            return CTavrinWndDlg::OnInitDialog();
+        } catch (const std::bad_alloc&) {
+            return TRUE;
+        }
+    }
+};
+
+TEST_F(ItemFaults, ADialogThatCannotBeFilledIsCancelled) {
+    WriteItem(parameter);
+    PressInDialog(IDOK);  // nothing to press it in
+    CTolerantDialog dialog(nullptr);
+    dialog.SetArguments(L"item", 1, 0);
+    const CMemoryFault fault(GENERIC_READ);
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
 TEST_F(ItemFaults, NoMemoryToReadIsReportedForEachFileWhichIsKept) {
     std::unique_ptr<CMemoryFault> fault;
     EXPECT_EQ(ConfirmDespite([&] { fault = std::make_unique<CMemoryFault>(GENERIC_READ); }, 2),
