@@ -1,4 +1,10 @@
 // The window while something runs.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <iterator>
+
 #include "tests/windows/devhost/window/WindowFixture.h"
 
 using namespace tests;
@@ -53,6 +59,21 @@ TEST_F(Busy, NothingNewBegins) {
     PostCommand(IDM_CLEAR);
     Handle();
     EXPECT_FALSE(m_drawing.Entities().empty());
+}
+
+TEST_F(Busy, TheEmptyPromptSuggestsNothing) {
+    const auto suggestion = [this] {
+        wchar_t text[100] = L"";
+        SendMessageW(Part(IDC_PROMPT), EM_GETCUEBANNER, WPARAM(text), LPARAM(std::size(text)));
+        return std::wstring(text);
+    };
+    EXPECT_EQ(suggestion(), L"");
+    m_window.SetItems({L"Window", L"Door"}, nullptr);
+    EXPECT_EQ(suggestion(), L"");
+    m_window.SetBusy(false);
+    EXPECT_EQ(suggestion(), L"for example (Window)");
+    m_window.SetBusy(true);
+    EXPECT_EQ(suggestion(), L"");
 }
 
 TEST_F(Busy, EndsWithTheLastOfNestedCalls) {
