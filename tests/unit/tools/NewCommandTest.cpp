@@ -74,12 +74,12 @@ TEST_F(NewCommand, TheTextsOfTheSharedRoutineAreAddedOnceInTheLanguageOfTheScrip
     for (const std::string language : {"en", "it"}) {
         CTextTable samples;
         samples.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes." + language + ".rc");
-        for (const unsigned number : {5101U, 5102U, 5103U, 5105U, 5106U}) {
+        for (const unsigned number : {5101U, 5102U, 5103U, 5105U, 5106U, 5107U}) {
             EXPECT_EQ(TextIn("texts/" + language + "/TavrinRes.dll", number), samples.Load(number));
         }
     }
     EXPECT_EQ(TextIn("texts/it/TavrinRes.dll", 5104), L"mio");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5107), L"");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5108), L"");
 }
 
 TEST_F(NewCommand, EachItemHasARangeOfItsOwn) {
