@@ -310,7 +310,7 @@ TEST_F(Conversation, ATypedCallOfAnItemWhoseRoutineDoesNotDefineItSaysSo) {
         L"check its name and whether the plug-in defines it");
     folder.Write(L"items\\alpha\\alpha.lsp", "(draw-line '(0 0) '(9 9)) (car 5)");
     Type(L"(alpha)");
-    WaitForOutput(L"\r\n; error: line 1 > alpha.lsp:1: CAR needs a list as argument 1, not 5");
+    WaitForOutput(L"\r\n; error: alpha.lsp:1: CAR needs a list as argument 1, not 5");
     Type(L"(5) 6");
     WaitForOutput(L"(5) 6\r\n; error: line 1: 5 is not the name of a function");
     Close();
