@@ -168,7 +168,7 @@ TEST_F(Texts, ANewItemIsTriedAtOnce) {
     PlaceAt("0,0");
     const SvgDrawing drawing = Drawing();
     EXPECT_EQ(drawing.Boxes(450, 800), 1);
-    EXPECT_NE(host.Read("mine/cabinet/cabinet.TXT").find("$1 = \"<<1502>>\"D450\r\n"), std::string::npos);
+    EXPECT_NE(host.Read("mine/cabinet/cabinet.TXT").find("$1 = \"<<3002>>\"D450\r\n"), std::string::npos);
 }
 
 }  // namespace
