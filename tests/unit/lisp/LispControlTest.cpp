@@ -142,6 +142,7 @@ TEST_F(LispControl, EvalApplyAndMapcarCallFunctions) {
                   {L"(apply 'or (list nil 'x))", L"T"},
                   {L"(apply (lambda (a b) (list b a)) '(1 2))", L"(2 1)"},
                   {L"(mapcar '+ '(1 2 3) '(10 20))", L"(11 22)"},
+                  {L"(mapcar '+ '(1 2 3) '(10) '(100 200))", L"(111)"},
                   {L"(mapcar 'car '((a 1) (b 2)))", L"(A B)"},
                   {L"(mapcar '1+ nil)", L"nil"}});
     ExpectErrors({{L"(apply '+ 5)", L"APPLY needs a list as argument 2, not 5"},

@@ -128,6 +128,8 @@ TEST_F(LispNumbers, EqualityHasThreeDegrees) {
                   {L"(equal 1.0 1.001)", L"nil"},
                   {L"(equal 1.0 1.001 0.01)", L"T"},
                   {L"(equal '(1.0) '(1.001) 0.01)", L"T"},
+                  {L"(equal 1.0 1.5 0.5)", L"T"},
+                  {L"(equal 1.0 1.5 0.25)", L"nil"},
                   {L"(equal car car)", L"T"},
                   {L"(eq nil '())", L"T"}});
 }

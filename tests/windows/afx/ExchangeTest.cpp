@@ -89,6 +89,15 @@ TEST_F(Exchange, KnowsAGroupWithoutAChosenButton) {
     EXPECT_EQ(m_dialog.IsDlgButtonChecked(12), 0u);
 }
 
+TEST_F(Exchange, UnchecksACheckBoxForAStateThatIsNone) {
+    for (const int state : {-1, 3, 1000}) {
+        m_dialog.CheckDlgButton(11, BST_CHECKED);
+        m_dialog.m_check = state;
+        ASSERT_TRUE(m_dialog.UpdateData(FALSE));
+        EXPECT_EQ(m_dialog.IsDlgButtonChecked(11), static_cast<UINT>(BST_UNCHECKED)) << state;
+    }
+}
+
 TEST_F(Exchange, LeavesTheSelectionAloneWhenTheTextIsEqual) {
     m_dialog.UpdateData(FALSE);
     m_dialog.SendDlgItemMessage(10, EM_SETSEL, 1, 3);

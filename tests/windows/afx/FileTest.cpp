@@ -24,6 +24,19 @@ TEST_F(File, ReadsAndWritesBytesAsTheyAre) {
     EXPECT_EQ(file.Read(bytes, 4), 0u);
 }
 
+TEST_F(File, IsEmptiedWhenCreatedUnlessToldOtherwise) {
+    m_folder.Write(L"old.txt", "old");
+    const std::wstring path = m_folder.Path(L"old.txt");
+    CFile file(path.c_str(), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
+    EXPECT_EQ(file.GetLength(), 3u);
+    file.Close();
+    ASSERT_TRUE(file.Open(path.c_str(), CFile::modeCreate | CFile::modeWrite));
+    EXPECT_EQ(file.GetLength(), 0u);
+    file.Close();
+    EXPECT_TRUE(file.Open(m_folder.Path(L"new.txt").c_str(),
+                          CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite));
+}
+
 TEST_F(File, ThrowsWhatKeepsItFromOpening) {
     try {
         CFile file(m_folder.Path(L"missing.txt").c_str(), CFile::modeRead | CFile::typeBinary);
@@ -43,6 +56,19 @@ TEST_F(File, ReportsWhatKeepsItFromOpeningWithoutThrowing) {
     EXPECT_EQ(error.m_cause, CFileException::badPath);
     EXPECT_EQ(error.m_lOsError, ERROR_PATH_NOT_FOUND);
     EXPECT_FALSE(file.Open(m_folder.Path(L"missing.txt").c_str(), CFile::modeRead));
+}
+
+TEST_F(File, SaysInOneLineWhatKeepsItFromOpening) {
+    CFile file;
+    CFileException error;
+    const std::wstring path = m_folder.Path(L"missing.txt");
+    ASSERT_FALSE(file.Open(path.c_str(), CFile::modeRead, &error));
+    TCHAR text[512];
+    ASSERT_TRUE(error.GetErrorMessage(text, 512));
+    const std::wstring message = text;
+    EXPECT_TRUE(message.starts_with(path + L": "));
+    EXPECT_GT(message.size(), path.size() + 2);
+    EXPECT_EQ(message.find_first_of(L"\r\n"), std::wstring::npos);
 }
 
 TEST_F(File, ReportsABadPathForANameThatIsTooLong) {

@@ -3,7 +3,11 @@
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
+#include "tests/windows/support/ImportHook.h"
 #include "tests/windows/support/ModalDriver.h"
+
+extern "C" int(WINAPI* __imp_MessageBoxW)(HWND owner, LPCWSTR text, LPCWSTR caption, UINT type)
+    IMPORT_ENTRY(MessageBoxW, 16);
 
 namespace {
 
@@ -141,6 +145,21 @@ TEST(MessageBoxes, AreOwnedByTheMainWindowAndCarryTheProgramsName) {
     EXPECT_EQ(driver.messages[0].caption, L"Some name");
     EXPECT_EQ(driver.messages[0].owner, main.m_hWnd);
     EXPECT_EQ(driver.messages[1].text, L"TavrinWnd");
+}
+
+TEST(MessageBoxes, HaveAnExclamationMarkUnlessAnotherIconWasChosen) {
+    static UINT shown;
+    const CImportHook box(
+        __imp_MessageBoxW, +[](HWND, LPCWSTR, LPCWSTR, UINT type) WINAPI {
+            shown = type;
+            return IDYES;
+        });
+    EXPECT_EQ(AfxMessageBox(L"text", MB_YESNO), IDYES);
+    EXPECT_EQ(shown, UINT{MB_YESNO | MB_ICONEXCLAMATION});
+    AfxMessageBox(100);
+    EXPECT_EQ(shown, UINT{MB_OK | MB_ICONEXCLAMATION});
+    AfxMessageBox(L"text", MB_ICONSTOP);
+    EXPECT_EQ(shown, UINT{MB_ICONSTOP});
 }
 
 TEST(MessageBoxes, CarryTheFilesNameWithoutAnApplicationObject) {

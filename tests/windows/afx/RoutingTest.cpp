@@ -224,4 +224,15 @@ TEST(Owner, IsTheParentUnlessAnotherWasSet) {
     EXPECT_EQ(child.GetOwner(), &parent);
 }
 
+TEST(Owner, IsForgottenWithTheWindow) {
+    CWnd parent, child, owner;
+    parent.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+    owner.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+    child.Create(L"STATIC", L"", 0, CRect(0, 0, 5, 5), &parent, 1);
+    child.SetOwner(&owner);
+    child.DestroyWindow();
+    child.Create(L"STATIC", L"", 0, CRect(0, 0, 5, 5), &parent, 1);
+    EXPECT_EQ(child.GetOwner(), &parent);
+}
+
 }  // namespace

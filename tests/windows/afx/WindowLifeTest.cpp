@@ -204,4 +204,28 @@ TEST(Edit, SelectsText) {
     EXPECT_EQ(edit.SendMessage(EM_GETSEL), MAKELRESULT(1, 3));
 }
 
+class CScrolledEdit : public CEdit {
+public:
+    int m_scrolls = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_scrolls += message == EM_SCROLLCARET ? 1 : 0;
+        return CEdit::WindowProc(message, wParam, lParam);
+    }
+};
+
+// The message is looked at, not the text: some systems scroll whenever they select.
+TEST(Edit, ScrollsToTheSelectionUnlessToldOtherwise) {
+    CWnd parent;
+    parent.CreateEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 100, 100, nullptr, nullptr);
+    CScrolledEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD, CRect(0, 0, 80, 20), &parent, 1));
+    edit.SetWindowText(L"abcd");
+    edit.SetSel(1, 3, TRUE);
+    EXPECT_EQ(edit.m_scrolls, 0);
+    edit.SetSel(0, 2);
+    EXPECT_EQ(edit.m_scrolls, 1);
+}
+
 }  // namespace

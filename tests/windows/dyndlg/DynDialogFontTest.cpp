@@ -56,6 +56,15 @@ TEST_F(DynDialogFont, IsTheParentsForTheDialogWhenNoneWasSet) {
     });
 }
 
+TEST_F(DynDialogFont, IsTheParentsWhenTheMainWindowHasOneToo) {
+    m_parent.font = m_parents;
+    CParentWindow mainWindow(m_mains);
+    CWinApp application;
+    application.m_pMainWnd = &mainWindow;
+    CTestDialog dialog(&m_parent);
+    Run(dialog, [](HWND window, HWND) { ExpectTemplateFont(window, L"Arial", 12); });
+}
+
 TEST_F(DynDialogFont, IsTheMainWindowsWhenTheParentHasNone) {
     CParentWindow mainWindow(m_mains);
     CWinApp application;

@@ -226,6 +226,13 @@ TEST_F(DynDialogModeless, CancelDestroysTheWindow) {
     EXPECT_EQ(m_dialog.m_hWnd, nullptr);
 }
 
+TEST_F(DynDialogModeless, GivesFalseWithoutAWindow) {
+    m_dialog.m_modeless = true;
+    m_dialog.AddSubclassedDlgControl(L"SysListView32", L"", tabbed, 0, nullptr, 0);  // no class for templates
+    EXPECT_EQ(m_dialog.DoModal(), FALSE);
+    EXPECT_EQ(m_dialog.m_hWnd, nullptr);
+}
+
 // The ids of the children whose end a window was notified of, in order.
 std::vector<UINT> endedChildren;
 WNDPROC listenedWindow = nullptr;

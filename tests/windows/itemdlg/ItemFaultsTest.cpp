@@ -6,7 +6,12 @@
 #include "tests/windows/itemdlg/FullVolume.h"
 #include "tests/windows/itemdlg/ItemDialogFixture.h"
 #include "tests/windows/support/Bitmap.h"
+#include "tests/windows/support/ImportHook.h"
 #include "tests/windows/support/NoGdiPlus.h"
+
+extern "C" HANDLE(WINAPI* __imp_CreateFileW)(LPCWSTR path, DWORD access, DWORD sharing,
+                                             LPSECURITY_ATTRIBUTES security, DWORD creation, DWORD attributes,
+                                             HANDLE model) IMPORT_ENTRY(CreateFileW, 28);
 
 namespace {
 
@@ -17,6 +22,36 @@ constexpr const char* asWritten = "first line\nItem title\nVAR\n$1 = \"<<1501>>\
 constexpr const char* withAssignment = "first line\r\nItem title\r\nVAR\r\n#1 = 1\r\nEND_VAR\r\n";
 constexpr const char* withNewDefault =
     "first line\r\nItem title\r\nVAR\r\n$1 = \"<<1501>>\"R1\r\nEND_VAR\r\n";
+
+// While an object lives, the first allocation after a file was opened for `access` fails.
+class CMemoryFault {
+public:
+    explicit CMemoryFault(DWORD access) : m_hook(__imp_CreateFileW, Open) {
+        s_access = access;
+        s_open = m_hook.System();
+        s_failAfter = reinterpret_cast<FFailAfter>(
+            reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandle(L"TD_Alloc.dll"), "td_fail_after")));
+    }
+    ~CMemoryFault() { s_failAfter(0); }
+
+private:
+    using FFailAfter = void (*)(size_t);
+    using FOpen = decltype(__imp_CreateFileW);
+
+    static HANDLE WINAPI Open(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
+                              DWORD creation, DWORD attributes, HANDLE model) {
+        const HANDLE file = s_open(path, access, sharing, security, creation, attributes, model);
+        if (access == s_access) {
+            s_failAfter(1);
+        }
+        return file;
+    }
+
+    static inline DWORD s_access;
+    static inline FFailAfter s_failAfter;
+    static inline FOpen s_open;
+    CImportHook<FOpen> m_hook;
+};
 
 class ItemFaults : public ItemDialogFixture {
 protected:
@@ -139,6 +174,30 @@ TEST_F(ItemFaults, AVolumeThatHasRoomForOneFileLeavesTheOtherEmpty) {
               L"Error - unable to write file / Error\n");
     volume.reset();
     EXPECT_EQ(folder.Read(working), withAssignment);
+    EXPECT_EQ(folder.Read(defaults), "");
+}
+
+TEST_F(ItemFaults, NoMemoryToReadIsReportedForEachFileWhichIsKept) {
+    std::unique_ptr<CMemoryFault> fault;
+    EXPECT_EQ(ConfirmDespite([&] { fault = std::make_unique<CMemoryFault>(GENERIC_READ); }, 2),
+              L"Error - unable to open file / Error\nError - unable to open file / Error\n");
+    fault.reset();
+    EXPECT_EQ(folder.Read(working), asWritten);
+    EXPECT_EQ(folder.Read(defaults), asWritten);
+}
+
+TEST_F(ItemFaults, NoMemoryToWriteIsReportedForEachFileWhichIsEmptyThen) {
+    std::unique_ptr<CMemoryFault> fault;
+    const auto writeLongLinesAndFail = [&] {
+        for (const wchar_t* name : {working, defaults}) {
+            folder.Write(name, std::string(asWritten) + "a line that needs memory of its own\n");
+        }
+        fault = std::make_unique<CMemoryFault>(GENERIC_WRITE);
+    };
+    EXPECT_EQ(ConfirmDespite(writeLongLinesAndFail, 2),
+              L"Error - unable to write file / Error\nError - unable to write file / Error\n");
+    fault.reset();
+    EXPECT_EQ(folder.Read(working), "");
     EXPECT_EQ(folder.Read(defaults), "");
 }
 

@@ -104,6 +104,7 @@ TEST_F(GridEdit, HasTheGridsColoursAndFont) {
     LOGFONT font = {};
     ::GetObject(reinterpret_cast<HFONT>(::SendMessage(Edit(), WM_GETFONT, 0, 0)), sizeof(font), &font);
     EXPECT_EQ(font.lfHeight, -12);
+    EXPECT_LT(font.lfWeight, FW_BOLD) << "the font of the headers";
 }
 
 TEST_F(GridEdit, ShowsNumbersInAFormatOfItsOwn) {

@@ -91,6 +91,7 @@ TEST_F(GridModalEdit, ATextIsEditedInADialogOfItsOwn) {
         ExpectAt(dialog, edit, CRect(7, 7, 200, 100));
         ExpectAt(dialog, ::GetDlgItem(dialog, IDOK), CRect(56, 106, 106, 120));
         ExpectAt(dialog, ::GetDlgItem(dialog, IDCANCEL), CRect(110, 106, 160, 120));
+        EXPECT_EQ(ChildOf(dialog, L"Button", 2), nullptr);
         LOGFONT font = {};
         ::GetObject(reinterpret_cast<HFONT>(::SendMessage(edit, WM_GETFONT, 0, 0)), sizeof(font), &font);
         EXPECT_EQ(font.lfHeight, -12);
@@ -171,6 +172,7 @@ TEST_F(GridModalEdit, ADateAndTimeAreEditedWithTwoPickers) {
         ExpectAt(dialog, time, CRect(67, 13, 120, 26));
         ExpectAt(dialog, ::GetDlgItem(dialog, IDOK), CRect(7, 37, 60, 51));
         ExpectAt(dialog, ::GetDlgItem(dialog, IDCANCEL), CRect(67, 37, 120, 51));
+        EXPECT_EQ(ChildOf(dialog, L"Button", 2), nullptr);
         SYSTEMTIME shownDay = TimeOf(day), shownTime = TimeOf(time);
         EXPECT_EQ(shownDay.wYear, 2024);
         EXPECT_EQ(shownDay.wDay, 29);
@@ -235,6 +237,30 @@ TEST_F(GridModalEdit, ADateThatIsNoneBecomesOne) {
         EXPECT_EQ(grid.GetItemText(item), L"1999-12-31 23:58:57");
         ExpectNotified(item);
     }
+}
+
+ULONGLONG Ticks(const SYSTEMTIME& time) {
+    FILETIME ticks = {};
+    ::SystemTimeToFileTime(&time, &ticks);
+    return ULONGLONG{ticks.dwHighDateTime} << 32 | ticks.dwLowDateTime;
+}
+
+TEST_F(GridModalEdit, ADateThatIsNoneIsShownAsNow) {
+    COleDateTime none;
+    none.SetStatus(COleDateTime::null);
+    const UINT item = grid.AddDateTimeItem(section, L"When", none);
+    SYSTEMTIME before = {};
+    ::GetLocalTime(&before);
+    before.wMilliseconds = 0;  // the pickers may drop theirs
+    Edit(item, IDCANCEL, [&](HWND dialog) {
+        SYSTEMTIME now = {};
+        ::GetLocalTime(&now);
+        for (const int picker : {0, 1}) {
+            const ULONGLONG shown = Ticks(TimeOf(ChildOf(dialog, DATETIMEPICK_CLASS, picker)));
+            EXPECT_GE(shown, Ticks(before)) << picker;
+            EXPECT_LE(shown, Ticks(now)) << picker;
+        }
+    });
 }
 
 // ---- The system's dialogs

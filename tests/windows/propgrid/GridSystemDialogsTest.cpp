@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <cwchar>
+#include <iterator>
 
 #include "propgrid/editors/FolderBrowser.h"
 #include "propgrid/editors/GridDialogs.h"
@@ -108,6 +110,20 @@ TEST_F(GridSystemDialogs, AFontIsAskedForAmongThoseOfTheScreenWithEffects) {
     EXPECT_EQ(owner, parent.m_hWnd);
     EXPECT_EQ(initialHeight, -12);
     EXPECT_EQ(flags & ~DWORD{CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK}, DWORD{CF_SCREENFONTS | CF_EFFECTS});
+}
+
+TEST_F(GridSystemDialogs, AFontIsAskedForWithAFaceNameThatEnds) {
+    static std::wstring face;
+    const CImportHook choose(
+        __imp_ChooseFontW, +[](LPCHOOSEFONTW dialog) WINAPI {
+            const wchar_t(&name)[LF_FACESIZE] = dialog->lpLogFont->lfFaceName;
+            face.assign(name, ::wcsnlen(name, LF_FACESIZE));
+            return FALSE;
+        });
+    FontValue font;
+    std::fill(std::begin(font.faceName), std::end(font.faceName), u'x');
+    EXPECT_FALSE(Ask(IT_FONT, std::make_shared<const FontValue>(font)));
+    EXPECT_EQ(face, std::wstring(LF_FACESIZE - 1, L'x'));
 }
 
 // A window that stands in for the browser's and records its messages.

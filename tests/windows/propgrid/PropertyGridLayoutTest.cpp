@@ -238,6 +238,8 @@ TEST_F(PropertyGridLayout, AsksForARepaintAfterEveryChange) {
     EXPECT_FALSE(repaints([this] { grid.AddIntegerItem(0, L"a", 1); }));
     EXPECT_TRUE(repaints([this] { grid.SetItemValue(0, 2); }));
     EXPECT_TRUE(repaints([this] { grid.AcceptValues(); }));
+    EXPECT_TRUE(repaints([this] { grid.SetItemEditable(0, false); }));
+    EXPECT_TRUE(repaints([this] { grid.SetItemEditable(0, true); }));
     EXPECT_TRUE(repaints([this] { grid.SetGutterWidth(99); }));
     EXPECT_TRUE(repaints([this] { grid.SetBackColor(1); }));
     EXPECT_TRUE(repaints([this] { grid.SetDisplayMode(1); }));

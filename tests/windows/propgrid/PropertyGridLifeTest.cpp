@@ -201,6 +201,22 @@ TEST_F(PropertyGridLife, LeavesNoGdiObjectBehindByTenThousandPaints) {
     EXPECT_EQ(GdiObjectCount(), before);
 }
 
+TEST_F(PropertyGridLife, HoldsNoPictureOnceItsWindowIsGone) {
+    const auto objectsLeft = [this](bool paint) {
+        const int before = GdiObjectCount();
+        CTestGrid grid;
+        EXPECT_TRUE(Create(grid));
+        grid.AddSection(L"Section");
+        if (paint) {
+            grid.UpdateWindow();
+        }
+        grid.DestroyWindow();
+        return GdiObjectCount() - before;
+    };
+    objectsLeft(true);  // the system keeps some of the first paint's
+    EXPECT_EQ(objectsLeft(true), objectsLeft(false));
+}
+
 TEST_F(PropertyGridLife, LeavesNothingBehindByTwoHundredGrids) {
     const auto cycle = [&] {
         const auto grid = std::make_unique<CTestGrid>();
