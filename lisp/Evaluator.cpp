@@ -39,6 +39,11 @@ std::wstring ArgumentCount(std::size_t count) {
     return std::to_wstring(count) + (count == 1 ? L" argument" : L" arguments");
 }
 
+// A function as LISP itself can build one: (lambda PARAMETERS BODY…).
+bool IsLambda(const CValue& value) {
+    return value.Type() == VT_PAIR && value.Car().IsSymbol(L"LAMBDA");
+}
+
 // The parameters and, after the slash, the locals of a parameter list.
 Definition ReadParameters(const std::wstring& name, const CValue& list) {
     Definition definition;
@@ -221,7 +226,7 @@ std::shared_ptr<const FunctionObject> CEvaluator::FunctionOf(const CValue& head)
     if (function.Type() == VT_FUNCTION) {
         return function.AsFunction();
     }
-    if (function.Type() == VT_PAIR && function.Car().IsSymbol(L"LAMBDA")) {
+    if (IsLambda(function)) {
         return MakeQuotedLambda(function).AsFunction();
     }
     if (head.Type() != VT_SYMBOL) {
@@ -367,6 +372,11 @@ std::wstring CEvaluator::Location() const {
 CValue CEvaluator::Variable(const std::wstring& name) const {
     const auto found = m_variables.find(name);
     return found != m_variables.end() ? found->second : CValue();
+}
+
+bool CEvaluator::IsFunction(const std::wstring& name) const {
+    const CValue value = Variable(name);
+    return value.Type() == VT_FUNCTION || IsLambda(value);
 }
 
 void CEvaluator::Assign(const std::wstring& name, CValue value) {

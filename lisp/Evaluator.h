@@ -69,6 +69,8 @@ public:
 
     // nil when nothing was assigned. Names are in capitals.
     CValue Variable(const std::wstring& name) const;
+    // Whether a call of this name, in capitals, has a function to call.
+    bool IsFunction(const std::wstring& name) const;
     // Throws CLispError for T.
     void Assign(const std::wstring& name, CValue value);
 

@@ -41,6 +41,7 @@ void CGridTooltip::Watch(UINT message, LPARAM lParam, bool editing) {
             }
             break;
         case WM_SETFOCUS:
+            EndWait();
             ::GetCursorPos(&m_mouse);
             m_grid.ScreenToClient(&m_mouse);
             break;
@@ -56,6 +57,7 @@ void CGridTooltip::Watch(UINT message, LPARAM lParam, bool editing) {
         case WM_MOVE:
         case WM_SHOWWINDOW:
         case WM_ENABLE:
+            EndWait();
             Hide();
             break;
         case WM_DESTROY:
@@ -79,6 +81,13 @@ void CGridTooltip::Follow(CPoint mouse) {
     }
     Hide();
     TRACKMOUSEEVENT hover = {sizeof(hover), TME_HOVER | TME_LEAVE, m_grid.m_hWnd, HOVER_DEFAULT};
+    ::TrackMouseEvent(&hover);
+}
+
+// The user who acts does not wait for a tooltip. A value may be clicked, typed and entered within the hover
+// time: a hover that was asked for before would cover it.
+void CGridTooltip::EndWait() {
+    TRACKMOUSEEVENT hover = {sizeof(hover), TME_CANCEL | TME_HOVER, m_grid.m_hWnd, 0};
     ::TrackMouseEvent(&hover);
 }
 

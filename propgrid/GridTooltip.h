@@ -1,5 +1,6 @@
 // The tooltip of a property grid: a name or a value that is longer than its cell is shown in full over the
-// cell once the mouse has moved there and rested for the system's hover time with no button held.
+// cell once the mouse has moved there and rested for the system's hover time with no button held and nothing
+// typed.
 //
 // It watches the messages of the grid's window. Owns its pop-up window, which exists from the first tooltip
 // to the end of the grid's window.
@@ -27,6 +28,7 @@ public:
 
 private:
     void Follow(CPoint mouse);
+    void EndWait();
     void ShowAt(CPoint mouse);
     CellText FindText(Point point) const;
     bool Create();

@@ -131,15 +131,19 @@
         (setq text (strcat (substr text 1 (1- at)) part (substr text (+ at (strlen sign)))))))
   text)
 
-; The label of a parameter line as the dialog shows it; nil when its text is not known.
-(defun item-label-in (line / label open close words)
-  (setq label (substr line (1+ (item-find line "\"")))
-        label (substr label 1 (1- (item-last-quote label)))
-        open  (item-find label "<<")
-        close (item-find label ">>"))
+; A text of a template with the text that replaces its placeholder, such as <<1501>>; nil when that is not known.
+(defun item-resolve (text / open close words)
+  (setq open  (item-find text "<<")
+        close (item-find text ">>"))
   (if (and (> open 0) (> close open))
-      (setq words (if res-text (res-text (atoi (substr label (+ open 2)))))
-            label (if words (strcat (substr label 1 (1- open)) words (substr label (+ close 2))))))
+      (setq words (if res-text (res-text (atoi (substr text (+ open 2)))))
+            text  (if words (strcat (substr text 1 (1- open)) words (substr text (+ close 2))))))
+  text)
+
+; The label of a parameter line as the dialog shows it; nil when its text is not known.
+(defun item-label-in (line / label)
+  (setq label (substr line (1+ (item-find line "\"")))
+        label (item-resolve (substr label 1 (1- (item-last-quote label)))))
   (if (and label (> (strlen label) 1) (= (substr label (strlen label)) "%"))
       (substr label 1 (1- (strlen label)))
       label))
@@ -151,6 +155,23 @@
   (if (setq label (cdr (assoc number item-labels)))
       label
       (item-words 5106 "Parameter %1" (list (itoa number)))))
+
+; The title of a template's second line, where a placeholder stands for the whole line; nil when it is not known.
+(defun item-title-in (line / open close)
+  (if line
+      (progn
+        (setq open  (item-find line "<<")
+              close (item-find line ">>"))
+        (item-resolve (if (and (> open 0) (> close open))
+                          (substr line open (- (+ close 2) open))
+                          line)))))
+
+(setq item-titles nil)   ; of the item that was in the dialog last, by its name
+
+; What a question calls an item: its title, otherwise its name.
+(defun item-title (name / title)
+  (setq title (cdr (assoc name item-titles)))
+  (if (and title (/= title "")) title name))
 
 ; --- dialogs
 
@@ -175,6 +196,7 @@
     (if (and (setq base (item-begin name presets))
              (setq good (item-read-lines (strcat base ".TXT")))
              (setq item-labels (item-labels-in good))
+             (setq item-titles (list (cons name (item-title-in (cadr good)))))
              (tavrinwnd base 1.0 1))
         (setq texts  (item-read-texts (strcat base "_TMP.TXT"))
               values (item-values texts)))
@@ -202,7 +224,7 @@
 (defun item-place (name draw / point)
   (if draw-placement
       (draw-placement draw))
-  (setq point (getpoint (strcat "Insertion point of the " name ": ")))
+  (setq point (getpoint (item-words 5107 "Insertion point of %1: " (list (item-title name)))))
   (if draw-placement
       (draw-placement nil))
   (if point

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "lisp/Value.h"
+
 namespace devhost {
 
 CItemMenu::CItemMenu(CItemCatalog& catalog, CSearchPath& searchPath, CSession& session, CTextOutput& output,
@@ -16,12 +18,14 @@ CItemMenu::CItemMenu(CItemCatalog& catalog, CSearchPath& searchPath, CSession& s
     Offer();
     window.SetIdleHandler([this] { Watch(); });
     window.SetRescanHandler([this] { CheckAll(); });
+    session.SetItemFinder([this](std::wstring_view function) { return Find(function); });
 }
 
 CItemMenu::~CItemMenu() {
     m_window.SetIdleHandler(nullptr);
     m_window.SetRescanHandler(nullptr);
     m_window.SetItems({}, nullptr);
+    m_session.SetItemFinder(nullptr);
 }
 
 void CItemMenu::Offer() {
@@ -36,6 +40,17 @@ void CItemMenu::Run(std::size_t index) {
     const Item item = m_catalog.Items()[index];
     m_check.Check(item);
     m_session.RunItem(item.name);
+}
+
+std::optional<std::wstring> CItemMenu::Find(std::wstring_view function) {
+    Watch();
+    for (const Item& item : m_catalog.Items()) {
+        if (lisp::UpperCase(item.name) == function) {
+            m_check.Check(item);
+            return item.name;
+        }
+    }
+    return std::nullopt;
 }
 
 void CItemMenu::Watch() {

@@ -1,8 +1,12 @@
-// The items of the window's menu: run when they are chosen, checked when they are chosen or change, and
-// looked for again from time to time.
+// The items of the window's menu: run when they are chosen, loaded when they are called at the prompt,
+// checked when they are chosen, loaded or changed, and looked for again from time to time.
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "devhost/app/ItemCatalog.h"
 #include "devhost/app/ItemCheck.h"
@@ -27,6 +31,8 @@ public:
 private:
     void Offer();
     void Run(std::size_t index);
+    // For a typed call: the item with this name in capitals, checked, also one that has just been made.
+    std::optional<std::wstring> Find(std::wstring_view function);
     // Takes over what has changed on the disk.
     void Watch();
     void PrintDifference(const std::vector<Item>& items, const std::vector<Item>& others,

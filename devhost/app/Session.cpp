@@ -43,7 +43,14 @@ PreparedTask Prepare(const Task& task) {
 int CSession::RunTasks(const std::vector<PreparedTask>& tasks) {
     for (const PreparedTask& task : tasks) {
         m_drawing.BeginCommand();
-        if (const auto end = Evaluate(task.source, !task.isScript)) {
+        const auto end = Evaluate([&] {
+            if (task.isScript) {
+                m_evaluator.Run(task.source);
+            } else {
+                EvaluateAndPrint(task.source);
+            }
+        });
+        if (end) {
             return *end;
         }
     }
@@ -61,7 +68,13 @@ void CSession::RunTyped(const std::wstring& line) {
     DropUnfinished();
     m_drawing.BeginCommand();
     try {
-        Evaluate(ReadExpressions(text), true);
+        const lisp::Source source = ReadExpressions(text);
+        Evaluate([&] {
+            for (const lisp::CValue& expression : source.expressions) {
+                LoadFor(expression);
+                EvaluateAndPrint({source.file, {expression}});
+            }
+        });
     } catch (const lisp::CLispError& error) {
         m_output.Error(error.Text());
     }
@@ -76,20 +89,34 @@ void CSession::RunItem(const std::wstring& name) {
     DropUnfinished();
     m_output.Line(L'(' + name + L')');
     m_drawing.BeginCommand();
-    if (!Evaluate(lisp::ReadText(L"(load \"" + name + L".lsp\")"), false)) {
-        Evaluate(lisp::ReadText(L'(' + name + L')'), true);
+    Evaluate([&] {
+        LoadRoutine(name);
+        EvaluateAndPrint(lisp::ReadText(L'(' + name + L')'));
+    });
+}
+
+void CSession::LoadRoutine(const std::wstring& item) {
+    m_evaluator.Run(lisp::ReadText(L"(load \"" + item + L".lsp\")"));
+    m_output.EndLine();
+}
+
+void CSession::LoadFor(const lisp::CValue& expression) {
+    if (expression.Type() != lisp::VT_PAIR || expression.Car().Type() != lisp::VT_SYMBOL) {
+        return;
+    }
+    const std::wstring& function = expression.Car().AsSymbol();
+    if (m_findItem && !m_evaluator.IsFunction(function)) {
+        if (const auto item = m_findItem(function)) {
+            LoadRoutine(*item);
+        }
     }
 }
 
-std::optional<int> CSession::Evaluate(const lisp::Source& source, bool printing) {
+std::optional<int> CSession::Evaluate(const std::function<void()>& evaluation) {
     const CBusyScope busy(m_window);
     m_drawing.ClearPlacement();
     try {
-        if (printing) {
-            EvaluateAndPrint(source);
-        } else {
-            m_evaluator.Run(source);
-        }
+        evaluation();
         m_output.EndLine();
         return std::nullopt;
     } catch (const lisp::LispExit& exit) {

@@ -2,8 +2,10 @@
 // command of the drawing, which is undone as a whole.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "devhost/Libraries.h"
@@ -38,15 +40,24 @@ public:
     // Loads the routine of an item and calls it.
     void RunItem(const std::wstring& name);
 
+    // Called before a typed call of a function that is not defined, with its name in capitals. Gives the name
+    // of the item whose routine has to be loaded for it, if there is one.
+    using FindItem = std::function<std::optional<std::wstring>(std::wstring_view function)>;
+    void SetItemFinder(FindItem find) { m_findItem = std::move(find); }
+
 private:
     // The status to exit with; nothing on success. What a failed evaluation has drawn is taken back.
-    std::optional<int> Evaluate(const lisp::Source& source, bool printing);
+    std::optional<int> Evaluate(const std::function<void()>& evaluation);
     void EvaluateAndPrint(const lisp::Source& source);
+    void LoadRoutine(const std::wstring& item);
+    // Loads the routine of the item that a typed expression calls, unless its function is defined.
+    void LoadFor(const lisp::CValue& expression);
 
     lisp::CEvaluator& m_evaluator;
     CDrawing& m_drawing;
     CTextOutput& m_output;
     CMainWindow& m_window;
+    FindItem m_findItem;
     std::wstring m_unfinished;  // the typed lines of an expression that is not complete
 };
 

@@ -136,10 +136,8 @@ void CMainWindow::SetBusy(bool busy) {
     EnableWindow(m_prompt, m_busy == 0);
     if (m_busy == 0) {
         m_isEscapePressed = false;
-        ShowOwnPrompt();
-    } else if (m_busy == 1) {
-        m_status->ShowText(kRunningHint);
     }
+    ShowOwnPrompt();
     Focus();
 }
 
@@ -390,13 +388,16 @@ void CMainWindow::ShowOwnPrompt() {
         return;
     }
     const wchar_t* const label = m_isUnfinished ? L"LISP (" : L"LISP";
-    const wchar_t* const idleHint = m_isUnfinished ? kUnfinishedHint : kIdleHint;
+    if (m_busy != 0) {
+        ShowPrompt(label, kRunningHint, L"");
+        return;
+    }
     const std::wstring call =
         m_recent.empty() ? (m_titles.empty() ? L"+ 1 2" : m_titles.front()) : m_recent.front();
     const std::wstring example = m_isUnfinished     ? L"the rest of the expression"
                                  : m_recent.empty() ? L"for example (" + call + L")"
                                                     : L"Enter runs (" + call + L") again";
-    ShowPrompt(label, m_busy == 0 ? idleHint : kRunningHint, example.c_str());
+    ShowPrompt(label, m_isUnfinished ? kUnfinishedHint : kIdleHint, example.c_str());
 }
 
 void CMainWindow::SetUnfinished(bool unfinished) {

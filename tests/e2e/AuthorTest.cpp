@@ -25,6 +25,25 @@ TEST_F(Author, ARefusedValueIsNamedByItsLabelAndAskedForAgain) {
     EXPECT_NE(host.Read("samples/door/door.TXT").find("$9 = \"<<1509>>\"R80\r\n"), std::string::npos);
 }
 
+// What a fresh DevHost suggests at its prompt.
+TEST_F(Author, ACallTypedAtThePromptOpensTheDialogOfAnItemThatWasNotChosenBefore) {
+    UseSamples();
+    host.Start({"--items", "samples"});
+    const Window main = Window::WithTitle("DevHost");
+    ASSERT_TRUE(main.IsValid()) << host.Errors();
+    main.LookWhenStill();
+    ASSERT_TRUE(main.Activate());
+    TypeText("(door)");
+    PressKeys("Return");
+    Choose(0, 0, 3, 2);
+    ExpectDialog("Porta a battente");
+    PlaceAt("0,0");
+    EXPECT_TRUE(WaitUntil([this] { return host.Output().find("\nT") != std::string::npos; }));
+    EXPECT_TRUE(main.PressUntilClosed("alt+F4"));
+    EXPECT_EQ(host.Wait(), 0);
+    EXPECT_EQ(host.Errors(), "");
+}
+
 TEST_F(Author, ADialogOnAUsedWorkingFileIsExplained) {
     host.UseSample("door");
     host.Write("door_TMP.TXT", "x\r\n<<2001>>\r\nVAR\r\n#1 = 900\r\nEND_VAR\r\n");

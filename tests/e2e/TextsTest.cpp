@@ -51,7 +51,7 @@ protected:
 TEST_F(Texts, TheModuleLoadsWhatTheCheckerMade) {
     UseSamples();
     EXPECT_EQ(Tavrincheck("texts " + ScriptIn("en") + " -o English.dll"),
-              "English.dll: 83 texts, for " + ArchitectureName() + " hosts\n");
+              "English.dll: 84 texts, for " + ArchitectureName() + " hosts\n");
     OpenDoor({"--texts", "English.dll"}, "Hinged door");
     EXPECT_TRUE(fs::remove(host.Folder() / "English.dll"));
 }
@@ -168,7 +168,7 @@ TEST_F(Texts, ANewItemIsTriedAtOnce) {
     PlaceAt("0,0");
     const SvgDrawing drawing = Drawing();
     EXPECT_EQ(drawing.Boxes(450, 800), 1);
-    EXPECT_NE(host.Read("mine/cabinet/cabinet.TXT").find("$1 = \"<<1502>>\"D450\r\n"), std::string::npos);
+    EXPECT_NE(host.Read("mine/cabinet/cabinet.TXT").find("$1 = \"<<3002>>\"D450\r\n"), std::string::npos);
 }
 
 }  // namespace

@@ -137,7 +137,8 @@ constexpr SharedText kSharedTexts[] = {
     {5103, L"%1 must not be more than 1000000.", L"%1: il valore non pu\u00F2 superare 1000000."},
     {5104, L"%1 must be more than 0.", L"%1: il valore deve essere maggiore di 0."},
     {5105, L"%1 must lie between %2 and %3.", L"%1: il valore deve essere compreso tra %2 e %3."},
-    {5106, L"Parameter %1", L"Parametro %1"}};
+    {5106, L"Parameter %1", L"Parametro %1"},
+    {5107, L"Insertion point of %1: ", L"Punto di inserimento di %1: "}};
 
 }  // namespace
 

@@ -28,6 +28,16 @@ TEST_F(Evaluator, ConstantsAreTheirOwnValue) {
     }
 }
 
+TEST_F(Evaluator, KnowsTheNamesThatCallAFunction) {
+    Evaluate(L"(progn (defun mine () 1) (setq list-of-mine '(lambda () 2) other 5 data '(1 2)))");
+    for (const wchar_t* name : {L"MINE", L"LIST-OF-MINE", L"CAR", L"SETQ", L"NOTHING"}) {
+        EXPECT_TRUE(m_evaluator.IsFunction(name)) << name;
+    }
+    for (const wchar_t* name : {L"OTHER", L"DATA", L"UNKNOWN", L"T"}) {
+        EXPECT_FALSE(m_evaluator.IsFunction(name)) << name;
+    }
+}
+
 TEST_F(Evaluator, QuoteLeavesItsArgumentAsItIs) {
     EXPECT_EQ(Evaluate(L"'(1 . a)"), L"(1 . A)");
     EXPECT_EQ(Evaluate(L"(quote (unknown 1))"), L"(UNKNOWN 1)");

@@ -136,6 +136,34 @@ TEST_F(ItemRoutine, WhoGivesUpOnTheWayFindsNothingDrawn) {
     }
 }
 
+TEST_F(ItemRoutine, TheQuestionForThePointNamesTheItemByItsTitle) {
+    const auto questionFor = [this](const std::string& title) {
+        std::ifstream before(folder / "door.TXT");
+        std::string first;
+        std::string second;
+        std::getline(before, first);
+        std::getline(before, second);
+        const std::string rest{std::istreambuf_iterator<char>(before), {}};
+        before.close();
+        std::ofstream(folder / "door.TXT") << first << '\n' << title << '\n' << rest;
+        Run("(door)");
+        return questions.back();
+    };
+    Load("door");
+    chosen = "single";
+    EXPECT_EQ(questionFor("<<2001>>"), L"Insertion point of door: ") << "without texts";
+    EXPECT_EQ(questionFor("My door"), L"Insertion point of My door: ");
+    EXPECT_EQ(questionFor(""), L"Insertion point of door: ");
+    UseTexts("en");
+    EXPECT_EQ(questionFor("<<2001>>"), L"Insertion point of Hinged door: ");
+    EXPECT_EQ(questionFor("a <<2001>> b"), L"Insertion point of Hinged door: ");
+    EXPECT_EQ(questionFor("<<9>>"), L"Insertion point of door: ");
+    UseTexts("it");
+    EXPECT_EQ(questionFor("<<2001>>"), L"Punto di inserimento di Porta a battente: ");
+    Run("(item-place \"other\" nil)");
+    EXPECT_EQ(questions.back(), L"Punto di inserimento di other: ");
+}
+
 TEST_F(ItemRoutine, EscapeLeavesTheUsersOwnErrorFunctionAlone) {
     Load("door");
     chosen = "single";

@@ -75,12 +75,12 @@ TEST_F(NewCommand, TheTextsOfTheSharedRoutineAreAddedOnceInTheLanguageOfTheScrip
     for (const std::string language : {"en", "it"}) {
         CTextTable samples;
         samples.ReadFile(TAVRIN_SAMPLES "/texts/TavrinRes." + language + ".rc");
-        for (const unsigned number : {5101U, 5102U, 5103U, 5105U, 5106U}) {
+        for (const unsigned number : {5101U, 5102U, 5103U, 5105U, 5106U, 5107U}) {
             EXPECT_EQ(TextIn("texts/" + language + "/TavrinRes.dll", number), samples.Load(number));
         }
     }
     EXPECT_EQ(TextIn("texts/it/TavrinRes.dll", 5104), L"mio");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5107), L"");
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5108), L"");
 }
 
 TEST_F(NewCommand, EachItemHasARangeOfItsOwn) {
@@ -97,7 +97,7 @@ TEST_F(NewCommand, TheRangeBeginsWhereTheAuthorSays) {
     Run({"three", "--in", folder.Path(""), "--from", "5003"});
     EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 7050), L"One");
     EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 7101), L"Two");
-    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5203), L"Three") << "5101 to 5106 are those of item.lsp";
+    EXPECT_EQ(TextIn("texts/en/TavrinRes.dll", 5203), L"Three") << "5101 to 5107 are those of item.lsp";
     EXPECT_EQ(ErrorOf({"four", "--in", folder.Path(""), "--from", "65500"}),
               "no range of free numbers is left for the item's texts");
     EXPECT_EQ(ErrorOf({"four", "--from", "0"}),

@@ -35,6 +35,17 @@ protected:
         return found;
     }
 
+    // Whether the system has been asked to report that the mouse rests.
+    bool IsAwaited() {
+        TRACKMOUSEEVENT hover = {sizeof(hover), TME_QUERY, nullptr, 0};
+        ::TrackMouseEvent(&hover);
+        return hover.hwndTrack == grid.m_hWnd && (hover.dwFlags & TME_HOVER) != 0;
+    }
+    void PutMouse(CPoint point) {
+        grid.ClientToScreen(&point);
+        ::SetCursorPos(point.x, point.y);
+    }
+
     const std::wstring longText = L"a text that is far too long for its narrow cell in this grid";
 };
 
@@ -186,25 +197,39 @@ TEST_F(GridTooltip, IsNotAwaitedWhenAnEditorClosesUnderAMouseAtRest) {
         TRACKMOUSEEVENT hover = {sizeof(hover), TME_CANCEL | TME_HOVER, grid.m_hWnd, 0};
         ::TrackMouseEvent(&hover);
         MoveTo(point);
-        hover = {sizeof(hover), TME_QUERY, nullptr, 0};
-        ::TrackMouseEvent(&hover);
-        return hover.hwndTrack == grid.m_hWnd && (hover.dwFlags & TME_HOVER) != 0;
+        return IsAwaited();
     };
-    const auto putMouse = [this](CPoint point) {
-        grid.ClientToScreen(&point);
-        ::SetCursorPos(point.x, point.y);
-    };
-    putMouse(pressed);
+    PutMouse(pressed);
     MoveTo(rest);
     EXPECT_TRUE(isAwaitedAfterMove(pressed));
     EXPECT_FALSE(isAwaitedAfterMove(pressed));
     ClickOn(pressed);
     ASSERT_NE(Edit(), nullptr);
-    putMouse(rest);
+    PutMouse(rest);
     Enter(longText + L"!");
     ASSERT_EQ(Edit(), nullptr);
     EXPECT_FALSE(isAwaitedAfterMove(rest));
     EXPECT_TRUE(isAwaitedAfterMove(pressed));
+}
+
+// The mouse comes, clicks, and the value is typed before the hover time is over.
+TEST_F(GridTooltip, IsNotAwaitedAnyMoreAfterAPressOrAKey) {
+    const UINT item = grid.AddStringItem(Section(), L"name", longText);
+    const CPoint value = ValueOf(item);
+    PutMouse(value);
+    const auto await = [&] {
+        MoveTo(CPoint(value.x + 5, value.y));
+        MoveTo(value);
+        EXPECT_TRUE(IsAwaited());
+    };
+    await();
+    ClickOn(value);
+    EXPECT_FALSE(IsAwaited());
+    Enter(longText + L"!");
+    EXPECT_FALSE(IsAwaited());
+    await();
+    grid.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_FALSE(IsAwaited());
 }
 
 // The system's own hover: the mouse rests on the cell.

@@ -261,6 +261,80 @@ TEST_F(Conversation, ItemsThatAppearAndDisappearAreNoticed) {
     Close();
 }
 
+// The item alpha, which a test calls at the prompt: an upper-case name finds it as well.
+void WriteAlpha(const CTestFolder& folder) {
+    for (const wchar_t* name : {L"items", L"items\\alpha"}) {
+        folder.MakeFolder(name);
+    }
+    folder.Write(L"items\\alpha\\alpha.lsp", "(princ \"loaded\") (defun alpha () 'called)");
+}
+
+TEST_F(Conversation, ATypedCallLoadsItsItemOnce) {
+    const CTestFolder folder;
+    WriteAlpha(folder);
+    folder.Write(L"items\\alpha\\alpha.TXT", "Alpha\nAlpha\nVAR\n$1 = \"Width\"D 900\nEND_VAR\n");
+    Start({L"--items", L"items"});
+    Type(L"(Alpha) (alpha)");
+    WaitForOutput(L"loaded\r\nCALLED\r\nCALLED");
+    const std::wstring first = TextOf(m_output);
+    EXPECT_TRUE(first.starts_with(L"(Alpha) (alpha)\r\n; ")) << "the checker's findings";
+    EXPECT_NE(first.find(L"; error: alpha.TXT:4:7: the label 'Width' has no placeholder"), first.npos);
+    Type(L"(alpha)");
+    WaitForOutput(L"CALLED\r\n(alpha)\r\nCALLED");
+    Choose(kItem);
+    WaitForOutput(L"CALLED\r\n(alpha)\r\nloaded\r\nCALLED");
+    Close();
+}
+
+TEST_F(Conversation, ATypedCallLoadsNoItemInsteadOfTheUsersFunction) {
+    const CTestFolder folder;
+    WriteAlpha(folder);
+    Start({L"--items", L"items"});
+    Type(L"(defun alpha () 'mine) (alpha)");
+    WaitForOutput(L"\r\nALPHA\r\nMINE");
+    Type(L"(setq alpha '(lambda () 'list)) (alpha)");
+    WaitForOutput(L"\r\nLIST");
+    Type(L"(setq alpha 5) (alpha)");
+    WaitForOutput(L"\r\n5\r\nloaded\r\nCALLED");
+    Close();
+}
+
+TEST_F(Conversation, ATypedCallOfAnItemWhoseRoutineDoesNotDefineItSaysSo) {
+    const CTestFolder folder;
+    WriteAlpha(folder);
+    folder.Write(L"items\\alpha\\alpha.lsp", "(princ \"loaded\")");
+    Start({L"--items", L"items"});
+    Type(L"(alpha)");
+    WaitForOutput(
+        L"loaded\r\n; error: line 1: the function ALPHA is not defined: "
+        L"check its name and whether the plug-in defines it");
+    folder.Write(L"items\\alpha\\alpha.lsp", "(draw-line '(0 0) '(9 9)) (car 5)");
+    Type(L"(alpha)");
+    WaitForOutput(L"\r\n; error: alpha.lsp:1: CAR needs a list as argument 1, not 5");
+    Type(L"(5) 6");
+    WaitForOutput(L"(5) 6\r\n; error: line 1: 5 is not the name of a function");
+    Close();
+}
+
+TEST_F(Conversation, ATypedCallFindsAnItemThatHasJustBeenMade) {
+    const CTestFolder folder;
+    folder.MakeFolder(L"items");
+    Start({L"--items", L"items"});
+    // In one evaluation, so that DevHost has no time to look for items in between.
+    folder.MakeFolder(L"items\\alpha");
+    Type(
+        L"(progn (setq f (open \"items/alpha/alpha.lsp\" \"w\"))"
+        L" (write-line \"(defun alpha () 'called)\" f) (close f)) (alpha)");
+    WaitForOutput(L"; the item alpha has been added\r\nCALLED");
+    std::filesystem::remove_all(folder.Path() + L"\\items\\alpha");
+    Type(L"(setq alpha nil) (alpha)");
+    WaitForOutput(
+        L"; error: line 1: the function ALPHA is not defined: "
+        L"check its name and whether the plug-in defines it");
+    EXPECT_NE(TextOf(m_output).find(L"; the item alpha has been removed"), std::wstring::npos);
+    Close();
+}
+
 TEST_F(Conversation, AFolderOfItemsMustExist) {
     const Outcome outcome = RunHost({L"--items", L"nowhere", L"--eval", L"1"});
     EXPECT_EQ(outcome.status, 1u);

@@ -1,4 +1,10 @@
 // The window while something runs.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <string>
+
 #include "tests/windows/devhost/window/WindowFixture.h"
 
 using namespace tests;
@@ -53,6 +59,28 @@ TEST_F(Busy, NothingNewBegins) {
     PostCommand(IDM_CLEAR);
     Handle();
     EXPECT_FALSE(m_drawing.Entities().empty());
+}
+
+// Keeps what the edit control is given to show while it is empty: not every version of the control can be
+// asked for it.
+LRESULT CALLBACK KeepSuggestion(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                DWORD_PTR suggestion) {
+    if (message == EM_SETCUEBANNER) {
+        *reinterpret_cast<std::wstring*>(suggestion) = reinterpret_cast<const wchar_t*>(lParam);
+    }
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_F(Busy, TheEmptyPromptSuggestsNothing) {
+    std::wstring suggestion = L"nothing was set";
+    SetWindowSubclass(Part(IDC_PROMPT), KeepSuggestion, 0, DWORD_PTR(&suggestion));
+    m_window.SetItems({L"Window", L"Door"}, nullptr);
+    EXPECT_EQ(suggestion, L"");
+    m_window.SetBusy(false);
+    EXPECT_EQ(suggestion, L"for example (Window)");
+    m_window.SetBusy(true);
+    EXPECT_EQ(suggestion, L"");
+    RemoveWindowSubclass(Part(IDC_PROMPT), KeepSuggestion, 0);
 }
 
 TEST_F(Busy, EndsWithTheLastOfNestedCalls) {
