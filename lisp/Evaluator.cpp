@@ -66,6 +66,18 @@ Definition ReadParameters(const std::wstring& name, const CValue& list) {
     return definition;
 }
 
+CValue DefinedFunction(const std::wstring& name, const CValue& definition, const std::wstring& file,
+                       int line) {
+    if (definition.Type() != VT_PAIR) {
+        throw CLispError(name + L" has no list of parameters");
+    }
+    Definition code = ReadParameters(name, definition.Car());
+    code.body = definition.Cdr();
+    code.file = file;
+    code.line = line;
+    return CValue::Function(std::make_shared<FunctionObject>(name, std::move(code)));
+}
+
 }  // namespace
 
 // Enters a function, or the outermost source, for the location of errors.
@@ -240,26 +252,14 @@ std::shared_ptr<const FunctionObject> CEvaluator::FunctionOf(const CValue& head)
 }
 
 CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition) {
-    return MakeFunction(name, definition, *m_frame->file, m_frame->line);
+    return DefinedFunction(name, definition, *m_frame->file, m_frame->line);
 }
 
 // A list may be called far from where it stands.
 CValue CEvaluator::MakeQuotedLambda(const CValue& list) {
     const SourceLine line = list.Line();
-    return line.line != 0 ? MakeFunction(L"LAMBDA", list.Cdr(), SourceFileName(line.file), line.line)
+    return line.line != 0 ? DefinedFunction(L"LAMBDA", list.Cdr(), SourceFileName(line.file), line.line)
                           : MakeFunction(L"LAMBDA", list.Cdr());
-}
-
-CValue CEvaluator::MakeFunction(const std::wstring& name, const CValue& definition, const std::wstring& file,
-                                int line) {
-    if (definition.Type() != VT_PAIR) {
-        throw CLispError(name + L" has no list of parameters");
-    }
-    Definition code = ReadParameters(name, definition.Car());
-    code.body = definition.Cdr();
-    code.file = file;
-    code.line = line;
-    return CValue::Function(std::make_shared<FunctionObject>(name, std::move(code)));
 }
 
 LispResult CEvaluator::Apply(const CValue& function, std::span<const CValue> arguments) {

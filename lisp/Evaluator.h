@@ -95,8 +95,6 @@ private:
     bool IsNative(const std::wstring& name) const;
     LispResult Call(const CValue& call);
     CValue MakeQuotedLambda(const CValue& list);
-    CValue MakeFunction(const std::wstring& name, const CValue& definition, const std::wstring& file,
-                        int line);
     std::shared_ptr<const FunctionObject> FunctionOf(const CValue& head);
     LispResult Invoke(const FunctionObject& function, std::span<const CValue> arguments);
     LispResult CallDefined(const FunctionObject& function, const Definition& definition,
