@@ -96,40 +96,40 @@ TEST_F(DynDialog, ShowsItsCaptionInACaptionBarWithASystemMenu) {
     });
 }
 
-// A dialog beside its parent as both stood at one time. The window manager may move a new window late, and so
-// the parent between the centring and the look at it: then there is another dialog.
-struct CCentres {
-    CPoint dialog;
-    CPoint parent;
+// A dialog that notes where it and its parent are when it has been made. The window manager may move either,
+// once the dialog is on the screen.
+class CNotedDialog : public CDynDialogEx {
+public:
+    using CDynDialogEx::CDynDialogEx;
+
+    CPoint center;
+    CPoint parentCenter;
+
+protected:
+    BOOL OnInitDialog() override {
+        const BOOL focus = CDynDialogEx::OnInitDialog();
+        CRect rect;
+        GetWindowRect(&rect);
+        center = rect.CenterPoint();
+        ::GetWindowRect(::GetWindow(m_hWnd, GW_OWNER), &rect);
+        parentCenter = rect.CenterPoint();
+        return focus;
+    }
 };
 
 class DynDialogPosition : public DynDialog {
 protected:
-    template <typename AddControls>
-    CCentres OpenInTheMiddle(AddControls addControls) {
-        CCentres centres;
-        for (int attempt = 0; attempt < 5; ++attempt) {
-            CRect before, now, rect;
-            m_parent.GetWindowRect(&before);
-            CDynDialogEx dialog(&m_parent);
-            addControls(dialog);
-            RunWithOk(dialog, [&](HWND window) {
-                m_parent.GetWindowRect(&now);
-                ::GetWindowRect(window, &rect);
-            });
-            centres = {rect.CenterPoint(), now.CenterPoint()};
-            if (now == before) {
-                break;
-            }
-        }
-        return centres;
+    void ExpectInTheMiddle() {
+        RunWithOk(m_dialog);
+        EXPECT_NEAR(m_dialog.center.x, m_dialog.parentCenter.x, 2);
+        EXPECT_NEAR(m_dialog.center.y, m_dialog.parentCenter.y, 2);
     }
+
+    CNotedDialog m_dialog{&m_parent};
 };
 
 TEST_F(DynDialogPosition, StandsInTheMiddleOfItsParent) {
-    const CCentres centres = OpenInTheMiddle([](CDynDialogEx&) {});
-    EXPECT_NEAR(centres.dialog.x, centres.parent.x, 2);
-    EXPECT_NEAR(centres.dialog.y, centres.parent.y, 2);
+    ExpectInTheMiddle();
 }
 
 TEST_F(DynDialog, IsOwnedByItsParentWhichIsDisabledMeanwhile) {
@@ -142,12 +142,9 @@ TEST_F(DynDialog, IsOwnedByItsParentWhichIsDisabledMeanwhile) {
 }
 
 TEST_F(DynDialogPosition, StandsInTheMiddleWhereverItsControlsBegin) {
-    const CCentres centres = OpenInTheMiddle([](CDynDialogEx& dialog) {
-        const CRect rect(-20, -10, 100, 30);
-        dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, &rect, nullptr, 0);
-    });
-    EXPECT_NEAR(centres.dialog.x, centres.parent.x, 2);
-    EXPECT_NEAR(centres.dialog.y, centres.parent.y, 2);
+    const CRect rect(-20, -10, 100, 30);
+    m_dialog.AddDlgControl(L"EDIT", L"", tabbed, 0, &rect, nullptr, 0);
+    ExpectInTheMiddle();
 }
 
 TEST_F(DynDialog, GivesAnIdFromOneCounterToEveryControlThatAsksForOne) {
