@@ -379,6 +379,7 @@ void CMainWindow::SwitchFocus() {
 void CMainWindow::ShowPrompt(const std::wstring& label, const std::wstring& hint, const wchar_t* example) {
     SetWindowTextW(m_label, label.c_str());
     SendMessageW(m_prompt, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(example));
+    InvalidateRect(m_prompt, nullptr, TRUE);  // not every version of the control shows the new cue by itself
     m_status->ShowText(hint);
     Layout();
 }
