@@ -21,20 +21,27 @@ const BenchPattern kPatterns[] = {
     {"placeholder pattern", kPlaceholderPattern, kPeerPlaceholderPattern},
 };
 
-// The time of one pattern over the lines for each of the matchers, in nanoseconds. Matchers that do not find
-// the same are not worth a comparison.
-std::vector<double> Times(const BenchPattern& pattern, const Lines& lines, std::size_t matcherCount) {
+// A matcher and the lines that it works on.
+struct Run {
+    const MatcherKind* kind;
+    Lines lines;
+};
+
+// The time of one pattern for each run, in nanoseconds; the runs take turns. A matcher that does not find
+// what ours finds is not worth a comparison.
+std::vector<double> Times(const BenchPattern& pattern, const std::vector<Run>& runs) {
     std::vector<std::unique_ptr<IMatcher>> matchers;
     std::vector<std::function<void()>> works;
-    for (std::size_t index = 0; index < matcherCount; ++index) {
-        const MatcherKind& kind = MatcherKinds()[index];
-        matchers.push_back(kind.make(pattern));
+    for (const Run& run : runs) {
+        const std::unique_ptr<IMatcher> ours = MatcherKinds().front().make(pattern);
+        ours->SetLines(run.lines);
+        matchers.push_back(run.kind->make(pattern));
         IMatcher& matcher = *matchers.back();
-        matcher.SetLines(lines);
-        for (std::size_t line = 0; line < lines.size(); ++line) {
-            if (matcher.Find(line) != matchers.front()->Find(line)) {
-                throw std::runtime_error(std::string(kind.name) + " does not find what our " + pattern.name +
-                                         " finds in line " + std::to_string(line));
+        matcher.SetLines(run.lines);
+        for (std::size_t line = 0; line < run.lines.size(); ++line) {
+            if (matcher.Find(line) != ours->Find(line)) {
+                throw std::runtime_error(std::string(run.kind->name) + " does not find what our " +
+                                         pattern.name + " finds in line " + std::to_string(line));
             }
         }
         works.push_back([&matcher] { Use(matcher.CountMatches()); });
@@ -46,9 +53,13 @@ void CompareOnMixedLines() {
     const Lines lines = MixedLines();
     const std::string size = std::to_string(lines.size()) + " lines";
     const std::vector<MatcherKind>& kinds = MatcherKinds();
+    std::vector<Run> runs;
+    for (const MatcherKind& kind : kinds) {
+        runs.push_back({&kind, lines});
+    }
     std::vector<double> sums(kinds.size());
     for (const BenchPattern& pattern : kPatterns) {
-        const std::vector<double> times = Times(pattern, lines, kinds.size());
+        const std::vector<double> times = Times(pattern, runs);
         for (std::size_t index = 0; index < kinds.size(); ++index) {
             sums[index] += times[index];
             if (index > 0) {
@@ -62,30 +73,36 @@ void CompareOnMixedLines() {
     }
 }
 
+// The time for a character of a line in each run, both patterns together, in nanoseconds.
+std::vector<double> TimesPerCharacter(const std::vector<Run>& runs) {
+    std::vector<double> sums(runs.size());
+    for (const BenchPattern& pattern : kPatterns) {
+        const std::vector<double> times = Times(pattern, runs);
+        for (std::size_t index = 0; index < runs.size(); ++index) {
+            sums[index] += times[index] / static_cast<double>(runs[index].lines.front().size());
+        }
+    }
+    return sums;
+}
+
 // A line ten times as long takes ten times as long: the time per character may not grow. Short lines cost
 // more per character, because a call costs something too, so that a thousand characters are the measure;
 // twice as much is left for what the caches of the machine hold.
 void MeasureGrowth() {
     constexpr std::size_t kMeasure = 1000;
-    constexpr std::size_t kOursAndPcre2 = 2;
+    const MatcherKind* const ours = &MatcherKinds()[0];
+    const MatcherKind* const pcre2 = &MatcherKinds()[1];
     for (const LineKind& kind : GrowingLines()) {
-        double perCharacter = 0.0;
         for (std::size_t length = 10; length <= 1'000'000; length *= 10) {
-            std::vector<double> sums(kOursAndPcre2);
-            for (const BenchPattern& pattern : kPatterns) {
-                const std::vector<double> times = Times(pattern, {LineOf(kind, length)}, kOursAndPcre2);
-                std::transform(sums.begin(), sums.end(), times.begin(), sums.begin(), std::plus<>());
-            }
-            const double ours = sums[0] / static_cast<double>(length);
+            const Lines line = {LineOf(kind, length)};
+            const std::vector<double> times =
+                TimesPerCharacter({{ours, line}, {pcre2, line}, {ours, {LineOf(kind, kMeasure)}}});
             const std::string size = std::to_string(length) + " characters";
             if (length > kMeasure) {
-                PrintRow({"matcher's growth", kind.name, size, ours, "ns/character", "itself at 1000",
-                          perCharacter, 2.0});
-            } else {
-                perCharacter = ours;
+                PrintRow({"matcher's growth", kind.name, size, times[0], "ns/character", "itself at 1000",
+                          times[2], 2.0});
             }
-            PrintRow({"matcher's growth", kind.name, size, ours, "ns/character", MatcherKinds()[1].name,
-                      sums[1] / static_cast<double>(length)});
+            PrintRow({"matcher's growth", kind.name, size, times[0], "ns/character", pcre2->name, times[1]});
         }
     }
 }

@@ -8,7 +8,6 @@
 #include <exception>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -171,22 +170,27 @@ private:
 };
 
 // A file ten times as large takes ten times as long: the time per parameter may not grow. Opening files
-// weighs on the smallest, so a hundred parameters, more than items have, are the measure, which
-// `perParameter` keeps; the bar leaves twice as much for what the caches of the machine hold.
-void Measure(std::size_t parameters, std::map<std::string, double>& perParameter) {
+// weighs on the smallest, so a hundred parameters, more than items have, are the measure; the bar leaves
+// twice as much for what the caches of the machine hold.
+void Measure(std::size_t parameters) {
     constexpr std::size_t kMeasure = 100;
     const CItemFiles files(parameters);
+    const CItemFiles measureFiles(kMeasure);
+    const std::vector<Task> tasks = files.Tasks();
+    const std::vector<Task> measureTasks = measureFiles.Tasks();
     const std::string size = std::to_string(parameters) + " parameters";
-    for (const Task& task : files.Tasks()) {
-        const std::vector<double> times = MedianTimes({task.ours, task.theirs});
-        const double ours = times[0] / static_cast<double>(parameters);
-        const double theirs = times[1] / static_cast<double>(parameters);
-        PrintRow({"files", task.name, size, ours, "ns/parameter", task.peer, theirs, task.bar});
-        if (parameters == kMeasure) {
-            perParameter[task.name] = ours;
-        } else if (parameters > kMeasure && task.bar > 0.0) {
+    const auto perParameter = [](double time, std::size_t count) {
+        return time / static_cast<double>(count);
+    };
+    for (std::size_t index = 0; index < tasks.size(); ++index) {
+        const Task& task = tasks[index];
+        const std::vector<double> times = MedianTimes({task.ours, task.theirs, measureTasks[index].ours});
+        const double ours = perParameter(times[0], parameters);
+        PrintRow({"files", task.name, size, ours, "ns/parameter", task.peer,
+                  perParameter(times[1], parameters), task.bar});
+        if (parameters > kMeasure && task.bar > 0.0) {
             PrintRow({"files' growth", task.name, size, ours, "ns/parameter", "itself at 100",
-                      perParameter[task.name], 2.0});
+                      perParameter(times[2], kMeasure), 2.0});
         }
     }
 }
@@ -195,9 +199,8 @@ void Measure(std::size_t parameters, std::map<std::string, double>& perParameter
 
 int main() {
     try {
-        std::map<std::string, double> perParameter;
         for (std::size_t parameters = 10; parameters <= 1000; parameters *= 10) {
-            Measure(parameters, perParameter);
+            Measure(parameters);
         }
         return 0;
     } catch (const std::exception& failure) {

@@ -4,7 +4,10 @@
 #include <commctrl.h>
 
 #include <cstdio>
+#include <iterator>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "benchmarks/BenchTable.h"
 #include "benchmarks/windows/Turns.h"
@@ -23,12 +26,27 @@ constexpr std::size_t kBlockOverhead = 16;  // what a heap adds to a block on 64
 constexpr const char* kArea = "grid";
 constexpr const char* kListView = "list view";
 
-std::wstring NameOf(std::size_t row) {
-    return L"Parameter " + std::to_wstring(row);
-}
+constexpr std::size_t kMostRows = 100000;
 
-double ValueOf(std::size_t row) {
-    return 0.5 * static_cast<double>(row);
+struct BenchRowData {
+    std::wstring name;
+    double value;
+    std::wstring valueText;
+};
+
+// Made once: what the rows are made of is no part of the work of adding them.
+const std::vector<BenchRowData>& RowData() {
+    static const std::vector<BenchRowData> rows = [] {
+        std::vector<BenchRowData> all;
+        for (std::size_t row = 0; row < kMostRows; ++row) {
+            const double value = 0.5 * static_cast<double>(row);
+            CString text;
+            text.Format(L"%g", value);
+            all.push_back({L"Parameter " + std::to_wstring(row), value, text.GetString()});
+        }
+        return all;
+    }();
+    return rows;
 }
 
 class CFrame : public CWnd {
@@ -43,9 +61,9 @@ public:
 
 class CFilledGrid {
 public:
-    explicit CFilledGrid(CWnd& frame) {
+    explicit CFilledGrid(CWnd& frame, int left = 0) {
         const LPCTSTR name = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
-        m_grid.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &frame, 1);
+        m_grid.Create(name, L"", WS_CHILD | WS_VISIBLE, CRect(left, 0, left + kWidth, kHeight), &frame, 1);
         m_grid.SetDisplayMode(CPropertyGrid::DM_FLAT);
     }
 
@@ -56,7 +74,7 @@ public:
     }
     void AddRows(std::size_t rows) {
         for (std::size_t row = 0; row < rows; ++row) {
-            m_grid.AddDoubleItem(m_section, NameOf(row), ValueOf(row));
+            m_grid.AddDoubleItem(m_section, RowData()[row].name, RowData()[row].value);
         }
     }
     void Sort(bool sorted) {
@@ -105,20 +123,21 @@ public:
         }
     }
 
+    ~CFilledList() { ::DestroyWindow(m_list); }
+    CFilledList(const CFilledList&) = delete;
+    CFilledList& operator=(const CFilledList&) = delete;
+
     void Clear() { ::SendMessageW(m_list, LVM_DELETEALLITEMS, 0, 0); }
     void SetRedraw(bool redraw) { ::SendMessageW(m_list, WM_SETREDRAW, redraw ? TRUE : FALSE, 0); }
     void AddRows(std::size_t rows) {
         for (std::size_t row = 0; row < rows; ++row) {
-            std::wstring name = NameOf(row);
-            CString value;
-            value.Format(L"%g", ValueOf(row));
             LVITEMW item = {};
             item.mask = LVIF_TEXT;
             item.iItem = static_cast<int>(row);
-            item.pszText = name.data();
+            item.pszText = const_cast<wchar_t*>(RowData()[row].name.c_str());  // the list only reads it
             ::SendMessageW(m_list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
             item.iSubItem = 1;
-            item.pszText = const_cast<wchar_t*>(value.GetString());  // the list only reads it
+            item.pszText = const_cast<wchar_t*>(RowData()[row].valueText.c_str());
             ::SendMessageW(m_list, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         }
     }
@@ -164,7 +183,7 @@ void MeasureMemory(CFilledGrid& grid, std::size_t rows) {
     grid.AddRows(rows);
     std::size_t taken = HeapSize() - before;
     for (std::size_t row = 0; row < rows; ++row) {
-        taken -= sizeof(wchar_t) * NameOf(row).size();
+        taken -= sizeof(wchar_t) * RowData()[row].name.size();
     }
     grid.Clear();
     Row("memory of a row beside its name", std::to_string(rows) + " rows",
@@ -180,91 +199,98 @@ void PageUp(T& control) {
 
 // What a person does beside looking: none of it depends on the number of rows. The paint that follows is
 // measured apart.
-void MeasureInput(CFilledGrid& grid) {
+void MeasureInput(CFrame& frame) {
     constexpr const char* names[] = {"arrow key", "click", "hover"};
-    std::vector<double> few;
-    for (const std::size_t rows : {100U, 100000U}) {
-        grid.Clear();
-        grid.AddRows(rows);
-        grid.Paint();
-        const auto prepare = [&] {
-            grid.FocusRow(rows - 3);
-            grid.ScrollToEnd();
+    constexpr std::size_t kFewRows = 100;
+    CFilledGrid few(frame);
+    CFilledGrid many(frame, kWidth);
+    std::vector<Turn> turns;
+    for (const auto& [grid, rows] : {std::pair(&few, kFewRows), std::pair(&many, kMostRows)}) {
+        grid->Clear();
+        grid->AddRows(rows);
+        grid->Paint();
+        const auto prepare = [grid = grid, rows = rows] {
+            grid->FocusRow(rows - 3);
+            grid->ScrollToEnd();
             HandleMessages();
         };
-        const std::vector<double> times = MedianTurns({{prepare, [&] { grid.PressDown(); }},
-                                                       {prepare, [&] { grid.ClickName(); }},
-                                                       {prepare, [&] { grid.Hover(); }}},
-                                                      31);
-        for (std::size_t index = 0; index < times.size(); ++index) {
-            const double beside = few.empty() ? times[index] : few[index];
-            Row(names[index], std::to_string(rows) + " rows", times[index], "ns", "ours at 100", beside, 2);
-        }
-        few = times;
+        turns.push_back({prepare, [grid = grid] { grid->PressDown(); }});
+        turns.push_back({prepare, [grid = grid] { grid->ClickName(); }});
+        turns.push_back({prepare, [grid = grid] { grid->Hover(); }});
     }
-    grid.Clear();
+    const std::vector<double> times = MedianTurns(turns, 31);
+    const std::size_t count = std::size(names);
+    for (std::size_t index = 0; index < count; ++index) {
+        Row(names[index], std::to_string(kMostRows) + " rows", times[count + index], "ns", "ours at 100",
+            times[index], 2);
+    }
 }
 
-// Times beside the list view for each number of rows.
-void MeasureRows(CFilledGrid& grid, CFilledList& list) {
-    double addingFew = 0;
-    double paintingFew = 0;
-    for (const std::size_t rows : {10U, 100U, 1000U, 10000U, 100000U}) {
-        const std::string size = std::to_string(rows) + " rows";
-        const std::size_t rounds = rows > 10000 ? 3 : 11;
-        const auto perRow = [rows](double time) { return time / static_cast<double>(rows); };
-
-        list.SetRedraw(false);
-        const std::vector<double> adding = MedianTurns({{[&] { grid.Clear(); }, [&] { grid.AddRows(rows); }},
-                                                        {[&] { list.Clear(); }, [&] { list.AddRows(rows); }}},
-                                                       rounds);
-        list.SetRedraw(true);
-        Row("adding a row", size, perRow(adding[0]), "ns", "limit", 1000, 1);
-        Row("adding a row", size, perRow(adding[0]), "ns", kListView, perRow(adding[1]), 0.2);
-        if (rows == 1000) {
-            addingFew = perRow(adding[0]);
-        } else if (rows > 1000) {
-            Row("adding a row", size, perRow(adding[0]), "ns", "ours at 1000", addingFew, 1.5);
-        }
-
-        grid.Paint();
-        list.Paint();
-        const std::vector<double> painting = MedianTurns(
-            {{HandleMessages, [&] { grid.Paint(); }}, {HandleMessages, [&] { list.Paint(); }}}, 31);
-        // Few rows cost less than the beginning and end of a paint, which no row changes.
-        const double paintingBar = rows >= 100 ? 0.5 : 0;
-        Row("full paint", size, painting[0], "ns", kListView, painting[1], paintingBar);
-        if (rows == 100) {
-            paintingFew = painting[0];
-        } else if (rows > 100) {
-            Row("full paint", size, painting[0], "ns", "ours at 100", paintingFew, 0);
-        }
-
-        if (rows >= 1000) {
-            const std::vector<double> scrolling =
-                MedianTurns({{[&] { PageUp(grid); }, [&] { grid.ScrollPage(true); }},
-                             {[&] { PageUp(list); }, [&] { list.ScrollPage(true); }}},
-                            31);
-            Row("scrolling by a page", size, scrolling[0], "ns", kListView, scrolling[1], 0);
-        }
-
-        grid.Sort(true);
-        const std::vector<double> sorted = MedianTurns({{HandleMessages, [&] { grid.Paint(); }}}, 11);
-        Row("full paint, sorted", size, sorted[0], "ns", "ours unsorted", painting[0], 0);
-        grid.Sort(false);
+// Beside the list view, and beside a thousand rows: the time for a row may not grow with their number. Twice
+// as much is left for what the caches of the machine hold.
+void MeasureAdding(CFilledGrid& grid, CFilledList& list, std::size_t rows) {
+    constexpr std::size_t kMeasure = 1000;
+    const std::string size = std::to_string(rows) + " rows";
+    const auto refill = [&grid] {
+        grid.Clear();
+        grid.AddRows(kMeasure);
+        grid.Clear();
+    };
+    list.SetRedraw(false);
+    const std::vector<double> times = MedianTurns({{refill, [&] { grid.AddRows(kMeasure); }},
+                                                   {[&] { grid.Clear(); }, [&] { grid.AddRows(rows); }},
+                                                   {[&] { list.Clear(); }, [&] { list.AddRows(rows); }}},
+                                                  rows > 10000 ? 5 : 11);
+    list.SetRedraw(true);
+    const double ours = times[1] / static_cast<double>(rows);
+    Row("adding a row", size, ours, "ns", "limit", 1000, 1);
+    Row("adding a row", size, ours, "ns", kListView, times[2] / static_cast<double>(rows), 0.2);
+    if (rows > kMeasure) {
+        Row("adding a row", size, ours, "ns", "ours at 1000", times[0] / static_cast<double>(kMeasure), 2);
     }
-    grid.Clear();
-    list.Clear();
+}
+
+void MeasurePainting(CFilledGrid& grid, CFilledList& list, std::size_t rows) {
+    const std::string size = std::to_string(rows) + " rows";
+    grid.Paint();
+    list.Paint();
+    const std::vector<double> painting =
+        MedianTurns({{HandleMessages, [&] { grid.Paint(); }}, {HandleMessages, [&] { list.Paint(); }}}, 31);
+    // Few rows cost less than the beginning and end of a paint, which no row changes.
+    Row("full paint", size, painting[0], "ns", kListView, painting[1], rows >= 100 ? 0.5 : 0);
+
+    if (rows >= 1000) {
+        const std::vector<double> scrolling =
+            MedianTurns({{[&] { PageUp(grid); }, [&] { grid.ScrollPage(true); }},
+                         {[&] { PageUp(list); }, [&] { list.ScrollPage(true); }}},
+                        31);
+        Row("scrolling by a page", size, scrolling[0], "ns", kListView, scrolling[1], 0);
+    }
+
+    const auto sort = [&grid](bool sorted) {
+        grid.Sort(sorted);
+        HandleMessages();
+    };
+    const std::vector<double> sorting = MedianTurns(
+        {{[&] { sort(true); }, [&] { grid.Paint(); }}, {[&] { sort(false); }, [&] { grid.Paint(); }}}, 11);
+    Row("full paint, sorted", size, sorting[0], "ns", "ours unsorted", sorting[1], 0);
+}
+
+void MeasureRows(CFrame& frame) {
+    CFilledGrid grid(frame);
+    CFilledList list(frame);
+    for (std::size_t rows = 10; rows <= kMostRows; rows *= 10) {
+        MeasureAdding(grid, list, rows);
+        MeasurePainting(grid, list, rows);
+    }
+    MeasureMemory(grid, 10000);
 }
 
 }  // namespace
 
 int main() {
     CFrame frame;
-    CFilledGrid grid(frame);
-    CFilledList list(frame);
-    MeasureRows(grid, list);
-    MeasureInput(grid);
-    MeasureMemory(grid, 10000);
+    MeasureRows(frame);
+    MeasureInput(frame);
     return 0;
 }
