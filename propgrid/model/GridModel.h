@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory_resource>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -77,7 +78,8 @@ public:
     GridSettings settings;
 
 private:
-    // Items by section and name. The hash is kept in the table, since computing it reads the whole name.
+    // Items by section and name. The hash is kept in the table, since computing it reads the whole name. The
+    // table's nodes have memory of their own: side by side they are found faster than among the records.
     struct NameHash {
         std::size_t operator()(const GridItem* item) const;
     };
@@ -88,7 +90,8 @@ private:
     std::deque<GridSection> m_sections;  // by id
     std::vector<GridSection*> m_order;
     std::deque<GridItem> m_items;  // by id
-    std::unordered_set<const GridItem*, NameHash, NameEqual> m_names;
+    std::pmr::unsynchronized_pool_resource m_namesMemory;
+    std::pmr::unordered_set<const GridItem*, NameHash, NameEqual> m_names{&m_namesMemory};
     std::size_t m_expandedItems = 0;  // in sections that are not collapsed
     RowId m_focus;
     unsigned m_generation = 0;
