@@ -1,5 +1,5 @@
-// A real grid in a window, and the model of what it shows: each operation is carried out on both, and noted,
-// so that a difference can be repeated by hand.
+// A real grid in a window, and the model of what it shows: each operation is carried out on both, and logged,
+// so that a difference can be reproduced by hand.
 #pragma once
 
 #include <deque>
@@ -9,7 +9,7 @@
 
 namespace tests {
 
-// The top-level window around the grids. It answers WM_GETFONT as a test says.
+// The top-level window around the grids. A test sets the font that it answers WM_GETFONT with.
 class CMirrorParent : public CWnd {
 public:
     CMirrorParent();
