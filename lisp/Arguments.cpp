@@ -118,8 +118,8 @@ NativeFunction TakeArguments(CEvaluator& evaluator, std::wstring name, int least
                              std::function<LispResult(const CArguments&)> run) {
     return [&evaluator, name = std::move(name), least, most,
             run = std::move(run)](std::span<const CValue> values) {
-        const bool fits =
-            values.size() >= std::size_t(least) && (most == kAnyCount || values.size() <= std::size_t(most));
+        const bool fits = values.size() >= static_cast<std::size_t>(least) &&
+                          (most == kAnyCount || values.size() <= static_cast<std::size_t>(most));
         if (!fits) {
             throw CLispError(name + L" takes " + CountText(least, most) + L", not " +
                              std::to_wstring(values.size()));

@@ -27,7 +27,7 @@ CValue Whole(const CArguments& arguments, std::int64_t result) {
         arguments.Fail(L"the whole number " + std::to_wstring(result) +
                        L" does not fit 32 bits: calculate with reals, 1.0 instead of 1");
     }
-    return CValue::Integer(std::int32_t(result));
+    return CValue::Integer(static_cast<std::int32_t>(result));
 }
 
 CValue Real(const CArguments& arguments, double result) {
@@ -43,7 +43,8 @@ CValue Combine(const CArguments& arguments, TWhole combineWhole, TReal combineRe
     if (AllWhole(arguments)) {
         std::int32_t result = arguments.Integer(0);
         for (std::size_t i = 1; i < arguments.Count(); ++i) {
-            result = Whole(arguments, combineWhole(std::int64_t(result), std::int64_t(arguments.Integer(i))))
+            result = Whole(arguments, combineWhole(static_cast<std::int64_t>(result),
+                                                   static_cast<std::int64_t>(arguments.Integer(i))))
                          .AsInteger();
         }
         return CValue::Integer(result);
@@ -70,7 +71,7 @@ LispResult Subtract(const CArguments& arguments) {
         return Combine(arguments, subtract, subtract);
     }
     if (AllWhole(arguments)) {
-        return Whole(arguments, -std::int64_t(arguments.Integer(0)));
+        return Whole(arguments, -static_cast<std::int64_t>(arguments.Integer(0)));
     }
     return CValue::Real(-arguments.Number(0));
 }
@@ -107,21 +108,21 @@ LispResult Remainder(const CArguments& arguments) {
 
 LispResult Increment(const CArguments& arguments) {
     if (AllWhole(arguments)) {
-        return Whole(arguments, std::int64_t(arguments.Integer(0)) + 1);
+        return Whole(arguments, static_cast<std::int64_t>(arguments.Integer(0)) + 1);
     }
     return Real(arguments, arguments.Number(0) + 1);
 }
 
 LispResult Decrement(const CArguments& arguments) {
     if (AllWhole(arguments)) {
-        return Whole(arguments, std::int64_t(arguments.Integer(0)) - 1);
+        return Whole(arguments, static_cast<std::int64_t>(arguments.Integer(0)) - 1);
     }
     return Real(arguments, arguments.Number(0) - 1);
 }
 
 LispResult Absolute(const CArguments& arguments) {
     if (AllWhole(arguments)) {
-        return Whole(arguments, std::abs(std::int64_t(arguments.Integer(0))));
+        return Whole(arguments, std::abs(static_cast<std::int64_t>(arguments.Integer(0))));
     }
     return CValue::Real(std::fabs(arguments.Number(0)));
 }
@@ -137,7 +138,8 @@ LispResult Maximum(const CArguments& arguments) {
 }
 
 LispResult GreatestDivisor(const CArguments& arguments) {
-    return Whole(arguments, std::gcd(std::int64_t(arguments.Integer(0)), std::int64_t(arguments.Integer(1))));
+    return Whole(arguments, std::gcd(static_cast<std::int64_t>(arguments.Integer(0)),
+                                     static_cast<std::int64_t>(arguments.Integer(1))));
 }
 
 // Combines the bits of whole numbers.

@@ -26,7 +26,7 @@ std::string NumberStart(const std::wstring& text) {
         if (c > 0x7F || blank) {
             break;
         }
-        start += char(c);
+        start += static_cast<char>(c);
     }
     if (!start.empty() && start[0] == '+') {
         start.erase(0, 1);
@@ -100,7 +100,7 @@ std::wstring DegreesMinutesSeconds(double degrees, int precision) {
     const double scale = std::pow(10, precision);
     const double seconds = std::nearbyint(degrees * 3600 * scale) / scale;
     const double minutes = std::floor(seconds / 60);
-    const auto whole = [](double number) { return std::to_wstring(std::int64_t(number)); };
+    const auto whole = [](double number) { return std::to_wstring(static_cast<std::int64_t>(number)); };
     return whole(std::fmod(std::floor(minutes / 60), 360)) + L'd' + whole(std::fmod(minutes, 60)) + L'\'' +
            units::FormatLinear(seconds - minutes * 60, units::LU_DECIMAL, precision).value() + L'"';
 }

@@ -44,7 +44,7 @@ LispResult ReadLine(const CArguments& arguments) {
 LispResult ReadCharacter(const CArguments& arguments) {
     std::optional<wchar_t> character;
     arguments.WithFile(0, [&](CLispFile& file) { character = file.ReadCharacter(); });
-    return character ? CValue::Integer(std::int32_t(*character)) : CValue();
+    return character ? CValue::Integer(static_cast<std::int32_t>(*character)) : CValue();
 }
 
 LispResult FindFile(const CArguments& arguments) {

@@ -26,7 +26,7 @@ std::wstring CodeText(wchar_t character) {
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
     std::wstring text = L"U+";
     for (int shift = 12; shift >= 0; shift -= 4) {
-        text += kDigits[(unsigned(character) >> shift) & 0xF];
+        text += kDigits[(static_cast<unsigned>(character) >> shift) & 0xF];
     }
     return text;
 }

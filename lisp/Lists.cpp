@@ -65,7 +65,7 @@ LispResult Nth(const CArguments& arguments) {
 }
 
 LispResult Length(const CArguments& arguments) {
-    return CValue::Integer(std::int32_t(arguments.List(0).size()));
+    return CValue::Integer(static_cast<std::int32_t>(arguments.List(0).size()));
 }
 
 LispResult Reverse(const CArguments& arguments) {

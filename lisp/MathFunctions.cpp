@@ -25,7 +25,7 @@ LispResult Fix(const CArguments& arguments) {
     if (!(whole >= Limits::min() && whole <= Limits::max())) {
         arguments.Refuse(0, L"a number that fits 32 bits");
     }
-    return CValue::Integer(std::int32_t(whole));
+    return CValue::Integer(static_cast<std::int32_t>(whole));
 }
 
 LispResult Float(const CArguments& arguments) {
@@ -76,7 +76,7 @@ LispResult Power(const CArguments& arguments) {
     if (!(result >= Limits::min() && result <= Limits::max())) {
         arguments.Fail(L"the result does not fit 32 bits: calculate with reals, 2.0 instead of 2");
     }
-    return CValue::Integer(std::int32_t(result));
+    return CValue::Integer(static_cast<std::int32_t>(result));
 }
 
 constexpr Builtin kFunctions[] = {

@@ -66,7 +66,7 @@ LispResult WriteCharacter(const CArguments& arguments) {
     if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
     }
-    WriteTo(arguments, 1, std::wstring(1, wchar_t(code)));
+    WriteTo(arguments, 1, std::wstring(1, static_cast<wchar_t>(code)));
     return arguments[0];
 }
 

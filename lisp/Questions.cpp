@@ -117,7 +117,7 @@ LispResult GetInteger(const CArguments& arguments) {
                         }
                         std::string digits;
                         for (const wchar_t c : text) {
-                            digits += c <= 0x7F ? char(c) : '?';
+                            digits += c <= 0x7F ? static_cast<char>(c) : '?';
                         }
                         std::int32_t number = 0;
                         const char* const end = digits.data() + digits.size();

@@ -28,12 +28,12 @@ LispResult Join(const CArguments& arguments) {
 LispResult Length(const CArguments& arguments) {
     std::int64_t length = 0;
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
-        length += std::int64_t(arguments.Text(i).size());
+        length += static_cast<std::int64_t>(arguments.Text(i).size());
     }
     if (length > INT32_MAX) {
         arguments.Fail(L"the length does not fit 32 bits");
     }
-    return CValue::Integer(std::int32_t(length));
+    return CValue::Integer(static_cast<std::int32_t>(length));
 }
 
 LispResult Part(const CArguments& arguments) {
@@ -44,18 +44,19 @@ LispResult Part(const CArguments& arguments) {
     if (arguments.Has(2) && arguments.Integer(2) < 0) {
         arguments.Refuse(2, L"a length from 0 on");
     }
-    const std::size_t start = std::size_t(arguments.Integer(1)) - 1;
-    const std::size_t length = arguments.Has(2) ? std::size_t(arguments.Integer(2)) : text.size();
+    const std::size_t start = static_cast<std::size_t>(arguments.Integer(1)) - 1;
+    const std::size_t length =
+        arguments.Has(2) ? static_cast<std::size_t>(arguments.Integer(2)) : text.size();
     return CValue::String(start < text.size() ? text.substr(start, length) : L"");
 }
 
 // Only the letters of ASCII and Latin-1, so that the result does not depend on the locale.
 wchar_t OtherCase(wchar_t c, bool toCapital) {
     constexpr wchar_t kDistance = 0x20;
-    const wchar_t capital = toCapital ? wchar_t(c - kDistance) : c;
+    const wchar_t capital = toCapital ? static_cast<wchar_t>(c - kDistance) : c;
     const bool letter =
         (capital >= L'A' && capital <= L'Z') || (capital >= 0xC0 && capital <= 0xDE && capital != 0xD7);
-    return !letter ? c : toCapital ? capital : wchar_t(c + kDistance);
+    return !letter ? c : toCapital ? capital : static_cast<wchar_t>(c + kDistance);
 }
 
 // In capitals, or in small letters when the second argument is not nil.
@@ -72,7 +73,7 @@ LispResult Code(const CArguments& arguments) {
     if (arguments.Text(0).empty()) {
         arguments.Refuse(0, L"a text of at least one character");
     }
-    return CValue::Integer(std::int32_t(arguments.Text(0)[0]));
+    return CValue::Integer(static_cast<std::int32_t>(arguments.Text(0)[0]));
 }
 
 LispResult Character(const CArguments& arguments) {
@@ -80,7 +81,7 @@ LispResult Character(const CArguments& arguments) {
     if (code < 1 || code > 0xFFFF) {
         arguments.Refuse(0, L"a code from 1 to 65535");
     }
-    return CValue::String(std::wstring(1, wchar_t(code)));
+    return CValue::String(std::wstring(1, static_cast<wchar_t>(code)));
 }
 
 constexpr Builtin kFunctions[] = {

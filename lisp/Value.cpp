@@ -232,7 +232,7 @@ std::wstring UpperCase(std::wstring_view name) {
     std::wstring result(name);
     for (wchar_t& c : result) {
         if (c >= L'a' && c <= L'z') {
-            c = wchar_t(c - L'a' + L'A');
+            c = static_cast<wchar_t>(c - L'a' + L'A');
         }
     }
     return result;

@@ -32,7 +32,7 @@ std::string Scientific(double magnitude, int precision) {
         // Rounded up past the largest double, which cannot be read back: truncate instead.
         const std::string exact = NumberText(magnitude, std::chars_format::scientific,
                                              std::numeric_limits<double>::max_digits10 - 1);
-        const std::size_t mantissa = precision > 0 ? std::size_t(2 + precision) : 1;
+        const std::size_t mantissa = precision > 0 ? static_cast<std::size_t>(2 + precision) : 1;
         text = exact.substr(0, mantissa) + exact.substr(exact.find('e'));
     }
     std::replace(text.begin(), text.end(), 'e', 'E');
@@ -64,9 +64,9 @@ struct Fraction {
 };
 
 Fraction RoundToFraction(double magnitude, int precision) {
-    const std::int64_t denominator = std::int64_t(1) << precision;
+    const std::int64_t denominator = std::int64_t{1} << precision;
     // Scaling by a power of two is exact, so that this rounds once, halves to even.
-    const auto parts = std::int64_t(std::nearbyint(std::ldexp(magnitude, precision)));
+    const auto parts = static_cast<std::int64_t>(std::nearbyint(std::ldexp(magnitude, precision)));
     const std::int64_t rest = parts % denominator;
     const std::int64_t common = std::gcd(rest, denominator);
     return {parts / denominator, rest / common, denominator / common};

@@ -38,7 +38,7 @@ public:
     bool TakeBlanks() {
         const auto end = std::find_if_not(m_text.begin(), m_text.end(), IsBlank);
         const bool any = end != m_text.begin();
-        m_text.remove_prefix(std::size_t(end - m_text.begin()));
+        m_text.remove_prefix(static_cast<std::size_t>(end - m_text.begin()));
         return any;
     }
 
@@ -98,7 +98,7 @@ Decimal AddFeet(const Decimal& feet, const Decimal& inches) {
     int carry = 0;
     for (std::size_t i = digits.size(); i-- > 0;) {
         const int sum = 12 * (feetDigits[i] - '0') + (digits[i] - '0') + carry;
-        digits[i] = char('0' + sum % 10);
+        digits[i] = static_cast<char>('0' + sum % 10);
         carry = sum / 10;
     }
     digits.insert(0, std::to_string(carry));

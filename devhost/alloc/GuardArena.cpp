@@ -35,9 +35,9 @@ unsigned char* CGuardArena::Allocate(const HeapBlock& block) {
         return nullptr;
     }
 
-    std::fill_n(m_records.begin() + std::ptrdiff_t(first), pages + 1, Record());
-    std::fill_n(m_taken.begin() + std::ptrdiff_t(first), pages + 1, true);
-    m_records[first] = {block, std::uint32_t(pages), true};
+    std::fill_n(m_records.begin() + static_cast<std::ptrdiff_t>(first), pages + 1, Record());
+    std::fill_n(m_taken.begin() + static_cast<std::ptrdiff_t>(first), pages + 1, true);
+    m_records[first] = {block, static_cast<std::uint32_t>(pages), true};
     m_cursor = first + pages + 1;
     ++m_liveBlocks;
 
@@ -83,7 +83,7 @@ bool CGuardArena::Holds(const void* address) const {
 }
 
 std::size_t CGuardArena::PageOf(const void* address) const {
-    return std::size_t(static_cast<const unsigned char*>(address) - m_base) / kPageSize;
+    return static_cast<std::size_t>(static_cast<const unsigned char*>(address) - m_base) / kPageSize;
 }
 
 unsigned char* CGuardArena::PageAt(std::size_t page) const {
@@ -146,7 +146,7 @@ void CGuardArena::Quarantine(std::size_t page) {
         const std::size_t pages = m_records[oldest].pages + 1;
         m_quarantine.pop_front();
         m_quarantinedPages -= pages;
-        std::fill_n(m_taken.begin() + std::ptrdiff_t(oldest), pages, false);
+        std::fill_n(m_taken.begin() + static_cast<std::ptrdiff_t>(oldest), pages, false);
     }
 }
 

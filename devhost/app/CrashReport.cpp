@@ -52,7 +52,7 @@ void Report(const EXCEPTION_POINTERS& exception) {
     const int length = std::snprintf(line, sizeof line, "DevHost: crash in %s, exception %08lx",
                                      CodeAddress(record.ExceptionAddress).text, record.ExceptionCode);
     if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION && record.NumberParameters >= 2) {
-        std::snprintf(line + length, sizeof line - std::size_t(length), " at address %p",
+        std::snprintf(line + length, sizeof line - static_cast<std::size_t>(length), " at address %p",
                       reinterpret_cast<const void*>(record.ExceptionInformation[1]));
     }
     WriteToStandardError(line);

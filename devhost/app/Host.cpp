@@ -181,7 +181,7 @@ int CHost::GetVariable(const wchar_t* name, sds_resbuf* result) const {
     }
     result->next = nullptr;
     result->type = RTSHORT;
-    result->value.integer = short(value.AsInteger());
+    result->value.integer = static_cast<short>(value.AsInteger());
     return RTNORM;
 }
 

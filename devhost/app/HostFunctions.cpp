@@ -14,7 +14,7 @@ lisp::LispResult Text(const lisp::CArguments& arguments) {
     if (number < 0 || number > kHighestText) {
         arguments.Refuse(0, L"a number from 0 to 65535");
     }
-    const std::wstring text = LoadText(unsigned(number));
+    const std::wstring text = LoadText(static_cast<unsigned>(number));
     return text.empty() ? lisp::CValue() : lisp::CValue::String(text);
 }
 

@@ -36,7 +36,7 @@ bool AddNext(CResbufList& list, int type, std::va_list& values) {
             list.AddReal(va_arg(values, double));
             return true;
         case RTSHORT:
-            list.AddShort(short(va_arg(values, int)));
+            list.AddShort(static_cast<short>(va_arg(values, int)));
             return true;
         case RTSTR: {
             const auto* text = va_arg(values, const wchar_t*);

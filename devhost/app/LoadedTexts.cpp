@@ -30,7 +30,7 @@ std::wstring LoadText(unsigned number) {
     wchar_t text[kTextCapacity];
     const int length = LoadStringW(module, number, text, kTextCapacity);
     FreeLibrary(module);
-    return std::wstring(text, std::size_t(length));
+    return std::wstring(text, static_cast<std::size_t>(length));
 }
 
 }  // namespace devhost

@@ -37,7 +37,7 @@ constexpr std::size_t kLispStack = std::size_t{24} * 1024 * 1024;
 
 std::wstring ProgramFolder() {
     std::wstring path(32'768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), DWORD(path.size())));
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     return path.substr(0, path.find_last_of(L'\\'));
 }
 
@@ -70,7 +70,7 @@ bool WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
     std::ofstream stream(std::filesystem::path(path), std::ios::binary);
     stream << ToSvg(drawing);
     stream.close();
-    return bool(stream);
+    return static_cast<bool>(stream);
 }
 
 // True when the plug-in was unloaded without errors and has freed all blocks. Then a run of scripts prints no

@@ -66,7 +66,7 @@ void AddArgument(CResbufList& list, const lisp::CValue& value, std::wstring_view
                 throw lisp::CLispError(std::wstring(name) + L" cannot take " + lisp::Print(value) +
                                        L": whole numbers are passed in 16 bits, -32768 to 32767");
             }
-            list.AddShort(short(number));
+            list.AddShort(static_cast<short>(number));
             break;
         }
         case lisp::VT_REAL:

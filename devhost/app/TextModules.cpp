@@ -55,7 +55,7 @@ int LanguageOf(const std::wstring& path) {
 
 std::wstring NameOfLanguage(int language) {
     wchar_t name[100] = {};
-    const LCID locale = MAKELCID(WORD(language), SORT_DEFAULT);
+    const LCID locale = MAKELCID(static_cast<WORD>(language), SORT_DEFAULT);
     if (PRIMARYLANGID(language) == LANG_NEUTRAL ||
         GetLocaleInfoW(locale, LOCALE_SENGLANGUAGE, name, 100) == 0) {
         return L"Neutral";
@@ -118,7 +118,8 @@ std::wstring CopyOf(const std::wstring& path) {
 std::wstring LoadedPath() {
     std::wstring path(32'768, L'\0');
     const HMODULE module = GetModuleHandleW(kFileName);
-    path.resize(module != nullptr ? GetModuleFileNameW(module, path.data(), DWORD(path.size())) : 0);
+    path.resize(module != nullptr ? GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()))
+                                  : 0);
     return path;
 }
 
@@ -165,7 +166,7 @@ std::size_t IndexOfUserLanguage(const std::vector<TextModule>& modules) {
     const auto found = std::find_if(modules.begin(), modules.end(), [](const TextModule& module) {
         return PRIMARYLANGID(LanguageOf(module.path)) == PRIMARYLANGID(GetUserDefaultUILanguage());
     });
-    return found != modules.end() ? std::size_t(found - modules.begin()) : 0;
+    return found != modules.end() ? static_cast<std::size_t>(found - modules.begin()) : 0;
 }
 
 std::optional<std::size_t> IndexOfPath(const std::vector<TextModule>& modules, const std::wstring& path) {

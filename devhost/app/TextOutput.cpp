@@ -43,10 +43,10 @@ void Write(DWORD standardHandle, std::wstring_view text) {
     const HANDLE handle = GetStdHandle(standardHandle);
     DWORD written = 0;
     if (IsConsole(handle)) {
-        WriteConsoleW(handle, text.data(), DWORD(text.size()), &written, nullptr);
+        WriteConsoleW(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
     } else {
         const std::string bytes = encoding::EncodeUtf8(text);
-        WriteFile(handle, bytes.data(), DWORD(bytes.size()), &written, nullptr);
+        WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
     }
 }
 

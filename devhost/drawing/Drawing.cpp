@@ -69,7 +69,8 @@ public:
         }
     }
     void operator()(const TextEntity& text) {
-        const double length = double(text.text.size()) * kLetterFraction / kCapitalFraction * text.height;
+        const double length =
+            static_cast<double>(text.text.size()) * kLetterFraction / kCapitalFraction * text.height;
         const double right[] = {std::cos(text.angle), std::sin(text.angle)};
         for (const double along : {0.0, length}) {
             for (const double up : {0.0, text.height}) {

@@ -10,7 +10,7 @@ namespace {
 
 // Moves the entities from `start` on to the end of another list.
 void MoveTail(std::vector<Entity>& from, std::size_t start, std::vector<Entity>& to) {
-    const auto first = from.begin() + std::ptrdiff_t(start);
+    const auto first = from.begin() + static_cast<std::ptrdiff_t>(start);
     to.insert(to.end(), std::make_move_iterator(first), std::make_move_iterator(from.end()));
     from.erase(first, from.end());
 }

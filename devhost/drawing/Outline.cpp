@@ -30,7 +30,7 @@ struct OutlineVisitor {
         // The middle of a chord over the angle a lies radius * (1 - cos(a / 2)) inside the curve.
         const double part = std::min(tolerance / arc.radius, 0.5);
         const double angle = 2 * std::acos(1 - part);
-        const int chords = int(std::min(std::ceil(sweep / angle), kMostChords));
+        const auto chords = static_cast<int>(std::min(std::ceil(sweep / angle), kMostChords));
         std::vector<Point> points;
         for (int i = 0; i <= chords; ++i) {
             points.push_back(PointOnCircle(arc.centre, arc.radius, arc.start + sweep * i / chords));

@@ -27,7 +27,7 @@ CodeAddress::CodeAddress(const void* address) {
 
 void WriteToStandardError(const char* text) {
     DWORD written = 0;
-    WriteFile(GetStdHandle(STD_ERROR_HANDLE), text, DWORD(std::strlen(text)), &written, nullptr);
+    WriteFile(GetStdHandle(STD_ERROR_HANDLE), text, static_cast<DWORD>(std::strlen(text)), &written, nullptr);
 }
 
 }  // namespace devhost

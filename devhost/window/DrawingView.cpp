@@ -28,7 +28,7 @@ void RegisterDrawingClass() {
 }
 
 Point AsPoint(POINT pixel) {
-    return {double(pixel.x), double(pixel.y)};
+    return {static_cast<double>(pixel.x), static_cast<double>(pixel.y)};
 }
 
 POINT PointOf(LPARAM lParam) {
@@ -193,7 +193,7 @@ void CDrawingView::OnMiddleButton(POINT pixel) {
 
 void CDrawingView::OnWheel(POINT screen, int delta) {
     ScreenToClient(m_window, &screen);
-    m_view.ZoomAbout(AsPoint(screen), std::pow(kZoomOfNotch, double(delta) / WHEEL_DELTA));
+    m_view.ZoomAbout(AsPoint(screen), std::pow(kZoomOfNotch, static_cast<double>(delta) / WHEEL_DELTA));
     RefreshScene();
 }
 

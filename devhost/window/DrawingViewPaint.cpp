@@ -25,7 +25,7 @@ constexpr COLORREF kRubberLine = RGB(120, 120, 120);
 constexpr COLORREF kSnapMark = RGB(214, 112, 0);
 
 POINT Rounded(Point pixel) {
-    return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
+    return {static_cast<LONG>(std::lround(pixel.x)), static_cast<LONG>(std::lround(pixel.y))};
 }
 
 void DrawLine(HDC dc, POINT from, POINT to) {
@@ -69,7 +69,7 @@ void CDrawingView::PaintRubberLine(HDC dc, const RECT& client) const {
         return;
     }
     const auto line = Clip({m_view.ToPixel(*m_base), m_view.ToPixel(MousePoint())},
-                           {{0, 0}, {double(client.right), double(client.bottom)}});
+                           {{0, 0}, {static_cast<double>(client.right), static_cast<double>(client.bottom)}});
     if (!line) {
         return;
     }
@@ -101,7 +101,7 @@ void CDrawingView::PaintMeasure(HDC dc, const RECT& client) const {
     const std::wstring text = L' ' + m_measureText(std::hypot(dx, dy), std::atan2(dy, dx)) + L' ';
     const handles::CSelectedObject selection(dc, GetStockObject(DEFAULT_GUI_FONT));
     SIZE size;
-    GetTextExtentPoint32W(dc, text.c_str(), int(text.size()), &size);
+    GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
     const int gap = m_scale(kMeasureGap);
     const LONG left = m_mouse.x + gap + size.cx < client.right ? m_mouse.x + gap : m_mouse.x - gap - size.cx;
     const LONG top = m_mouse.y + gap + size.cy < client.bottom ? m_mouse.y + gap : m_mouse.y - gap - size.cy;
@@ -109,7 +109,7 @@ void CDrawingView::PaintMeasure(HDC dc, const RECT& client) const {
     SetBkColor(dc, GetSysColor(COLOR_INFOBK));
     SetTextColor(dc, GetSysColor(COLOR_INFOTEXT));
     SetTextAlign(dc, TA_LEFT | TA_TOP);
-    TextOutW(dc, left, top, text.c_str(), int(text.size()));
+    TextOutW(dc, left, top, text.c_str(), static_cast<int>(text.size()));
 }
 
 void CDrawingView::PaintCrosshair(HDC dc) const {

@@ -73,7 +73,7 @@ CMainMenu::CMainMenu(HWND window)
     : m_menu(CreateMenu()),
       m_items(CreatePopupMenu()),
       m_languages(CreatePopupMenu()),
-      m_keys(CreateAcceleratorTableW(kKeys, int(std::size(kKeys)))) {
+      m_keys(CreateAcceleratorTableW(kKeys, static_cast<int>(std::size(kKeys)))) {
     AddPopup(m_menu, m_items, L"&Items");
     const HMENU drawing = CreatePopupMenu();
     AppendMenuW(drawing, MF_STRING, IDM_UNDO, L"&Undo\tCtrl+Z");
@@ -151,17 +151,17 @@ void CMainMenu::Update(const MenuState& state) const {
         EnableMenuItem(m_menu, command, MF_BYCOMMAND | (enabled ? MF_ENABLED : MF_GRAYED));
     };
     for (std::size_t i = 0; i < m_titles.size(); ++i) {
-        enable(UINT(IDM_ITEM + i), state.isIdle);
+        enable(static_cast<UINT>(IDM_ITEM + i), state.isIdle);
     }
     for (std::size_t i = 0; i < m_languageCount; ++i) {
-        enable(UINT(IDM_LANGUAGE + i), state.isIdle);
+        enable(static_cast<UINT>(IDM_LANGUAGE + i), state.isIdle);
     }
     if (state.language) {
-        CheckMenuRadioItem(m_languages, IDM_LANGUAGE, UINT(IDM_LANGUAGE + m_languageCount - 1),
-                           UINT(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
+        CheckMenuRadioItem(m_languages, IDM_LANGUAGE, static_cast<UINT>(IDM_LANGUAGE + m_languageCount - 1),
+                           static_cast<UINT>(IDM_LANGUAGE + *state.language), MF_BYCOMMAND);
     }
     for (std::size_t i = 0; i < m_recent.size(); ++i) {
-        enable(UINT(IDM_RECENT + i), state.isIdle);
+        enable(static_cast<UINT>(IDM_RECENT + i), state.isIdle);
     }
     enable(IDM_EXIT, state.isIdle);
     enable(IDM_RESCAN, state.isIdle && state.canRescan);

@@ -268,11 +268,11 @@ void CMainWindow::OnCommand(int command) {
     } else if (command == IDM_EXIT) {
         OnClose();
     } else if (command >= IDM_ITEM) {
-        OnItem(std::size_t(command - IDM_ITEM));
+        OnItem(static_cast<std::size_t>(command - IDM_ITEM));
     } else if (command >= IDM_LANGUAGE) {
-        OnLanguage(std::size_t(command - IDM_LANGUAGE));
+        OnLanguage(static_cast<std::size_t>(command - IDM_LANGUAGE));
     } else if (command >= IDM_RECENT) {
-        OnRecent(std::size_t(command - IDM_RECENT));
+        OnRecent(static_cast<std::size_t>(command - IDM_RECENT));
     }
 }
 
@@ -290,7 +290,8 @@ void CMainWindow::OnItem(std::size_t index) {
 
 void CMainWindow::OnRecent(std::size_t index) {
     if (index < m_recent.size()) {
-        OnItem(std::size_t(std::find(m_titles.begin(), m_titles.end(), m_recent[index]) - m_titles.begin()));
+        OnItem(static_cast<std::size_t>(std::find(m_titles.begin(), m_titles.end(), m_recent[index]) -
+                                        m_titles.begin()));
     }
 }
 
@@ -333,7 +334,7 @@ void CMainWindow::SaveDrawing() {
     dialog.hwndOwner = m_window;
     dialog.lpstrFilter = L"SVG pictures (*.svg)\0*.svg\0All files\0*.*\0";
     dialog.lpstrFile = path;
-    dialog.nMaxFile = DWORD(std::size(path));
+    dialog.nMaxFile = static_cast<DWORD>(std::size(path));
     dialog.lpstrTitle = L"Save drawing as SVG";
     dialog.lpstrDefExt = L"svg";
     dialog.Flags = OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;

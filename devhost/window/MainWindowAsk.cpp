@@ -14,17 +14,17 @@ namespace devhost {
 namespace {
 
 std::wstring TextOf(HWND window) {
-    std::wstring text(std::size_t(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(std::size_t(GetWindowTextW(window, text.data(), int(text.size()))));
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }
 
 void ShowInPrompt(HWND prompt, const std::wstring& text) {
     SetWindowTextW(prompt, text.c_str());
-    SendMessageW(prompt, EM_SETSEL, text.size(), LPARAM(text.size()));
+    SendMessageW(prompt, EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
 }
 
-std::wstring WithoutBlanksBehind(std::wstring_view text) {
+std::wstring WithoutTrailingBlanks(std::wstring_view text) {
     const std::size_t last = text.find_last_not_of(L" \t\r\n");
     return std::wstring(text.substr(0, last == std::wstring_view::npos ? 0 : last + 1));
 }
@@ -42,7 +42,7 @@ Answer CMainWindow::Ask(std::wstring_view prompt, std::optional<Point> base, EAs
     m_isAsking = true;
     m_isAnswered = false;
     m_answer = Cancelled();
-    ShowPrompt(WithoutBlanksBehind(prompt), std::wstring(prompt),
+    ShowPrompt(WithoutTrailingBlanks(prompt), std::wstring(prompt),
                what == ASK_POINT ? L"click into the drawing, or type" : L"");
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, TRUE);
@@ -59,7 +59,7 @@ Answer CMainWindow::Ask(std::wstring_view prompt, std::optional<Point> base, EAs
     while (!m_isAnswered) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
             // The loops around this one have to end as well.
-            PostQuitMessage(int(message.wParam));
+            PostQuitMessage(static_cast<int>(message.wParam));
             break;
         }
         Handle(message);
@@ -118,7 +118,7 @@ bool CMainWindow::PollEscape() {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
-            PostQuitMessage(int(message.wParam));
+            PostQuitMessage(static_cast<int>(message.wParam));
             return true;
         }
         Handle(message);

@@ -53,7 +53,7 @@ void COutputList::AddText(std::wstring_view text) {
         SendMessageW(m_window, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(L""));
     }
     const int end = GetWindowTextLengthW(m_window);
-    SendMessageW(m_window, EM_SETSEL, WPARAM(end), end);
+    SendMessageW(m_window, EM_SETSEL, static_cast<WPARAM>(end), end);
     SendMessageW(m_window, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(added.c_str()));
     ShowCaret();
 }

@@ -22,10 +22,11 @@ std::wstring Value(const std::vector<BYTE>& version, const std::wstring& name) {
 
 std::wstring ProgramVersion() {
     std::wstring path(32'768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), DWORD(path.size())));
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     DWORD ignored = 0;
     std::vector<BYTE> version(GetFileVersionInfoSizeW(path.c_str(), &ignored));
-    if (version.empty() || !GetFileVersionInfoW(path.c_str(), 0, DWORD(version.size()), version.data())) {
+    if (version.empty() ||
+        !GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(version.size()), version.data())) {
         return {};
     }
     return Value(version, L"FileDescription") + L"\nVersion " + Value(version, L"ProductVersion");

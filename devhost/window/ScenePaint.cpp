@@ -39,7 +39,7 @@ constexpr double kLeastTextSize = 3;
 constexpr double kMostTextSize = 8000;
 
 POINT Rounded(Point pixel) {
-    return {LONG(std::lround(pixel.x)), LONG(std::lround(pixel.y))};
+    return {static_cast<LONG>(std::lround(pixel.x)), static_cast<LONG>(std::lround(pixel.y))};
 }
 
 class CScenePainter {
@@ -129,7 +129,7 @@ private:
         if (run.size() < 2) {
             return;
         }
-        Polyline(m_dc, run.data(), int(run.size()));
+        Polyline(m_dc, run.data(), static_cast<int>(run.size()));
         // The system leaves a line's last pixel out.
         SetPixelV(m_dc, run.back().x, run.back().y, m_colour);
     }
@@ -142,21 +142,22 @@ private:
             return;
         }
         if (size < kLeastTextSize) {
-            const double length = double(text.text.size()) * text.height / 2;
+            const double length = static_cast<double>(text.text.size()) * text.height / 2;
             Outline({text.position, PointOnCircle(text.position, length, text.angle)});
             return;
         }
-        const int tenths =
-            int(std::lround(std::fmod(text.angle, 2 * std::numbers::pi) * 1800 / std::numbers::pi));
-        const handles::GdiOwner font(CreateFontW(
-            -int(std::lround(size)), 0, tenths, tenths, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-            OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY, VARIABLE_PITCH | FF_SWISS, L"Arial"));
+        const auto tenths = static_cast<int>(
+            std::lround(std::fmod(text.angle, 2 * std::numbers::pi) * 1800 / std::numbers::pi));
+        const handles::GdiOwner font(CreateFontW(-static_cast<int>(std::lround(size)), 0, tenths, tenths,
+                                                 FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                                 OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, ANTIALIASED_QUALITY,
+                                                 VARIABLE_PITCH | FF_SWISS, L"Arial"));
         const handles::CSelectedObject selection(m_dc, font);
         SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
         SetBkMode(m_dc, TRANSPARENT);
         SetTextColor(m_dc, m_colour);
         const POINT start = Rounded(pixel);
-        TextOutW(m_dc, start.x, start.y, text.text.c_str(), int(text.text.size()));
+        TextOutW(m_dc, start.x, start.y, text.text.c_str(), static_cast<int>(text.text.size()));
     }
 
     HDC m_dc;

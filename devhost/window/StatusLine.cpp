@@ -52,7 +52,7 @@ std::wstring StepOf(int units, int precision) {
     if (units == units::LU_ARCHITECTURAL || units == units::LU_FRACTIONAL) {
         return precision == 0 ? L"1" : L"1/" + std::to_wstring(1 << precision);
     }
-    return precision == 0 ? L"1" : L"0." + std::wstring(std::size_t(precision) - 1, L'0') + L'1';
+    return precision == 0 ? L"1" : L"0." + std::wstring(static_cast<std::size_t>(precision) - 1, L'0') + L'1';
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ CStatusLine::CStatusLine(HWND parent)
 }
 
 void CStatusLine::TakeResolution() {
-    SendMessageW(m_window, SB_SETMINHEIGHT, WPARAM(m_scale(22)), 0);
+    SendMessageW(m_window, SB_SETMINHEIGHT, static_cast<WPARAM>(m_scale(22)), 0);
 }
 
 int CStatusLine::Height() const {
@@ -123,7 +123,7 @@ void CStatusLine::SetFormat(int lunits, int luprec) {
 
 void CStatusLine::ShowFormat() {
     for (const EPart part : {PART_UNITS, PART_PRECISION}) {
-        SendMessageW(m_window, SB_SETTEXTW, WPARAM(part | SBT_OWNERDRAW), 0);
+        SendMessageW(m_window, SB_SETTEXTW, static_cast<WPARAM>(part | SBT_OWNERDRAW), 0);
     }
 }
 
@@ -139,20 +139,20 @@ void CStatusLine::DrawPart(const DRAWITEMSTRUCT& item) const {
     rectangle.right -= arrow + m_scale(kTextGap);
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(COLOR_BTNTEXT));
-    DrawTextW(item.hDC, text.c_str(), int(text.size()), &rectangle,
+    DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &rectangle,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     const handles::CSelectedObject brush(item.hDC, GetSysColorBrush(COLOR_BTNTEXT));
     const handles::CSelectedObject pen(item.hDC, GetStockObject(NULL_PEN));
     const POINT corners[] = {
         {right - arrow, middle}, {right, middle}, {right - arrow / 2, middle + arrow / 2}};
-    Polygon(item.hDC, corners, int(std::size(corners)));
+    Polygon(item.hDC, corners, static_cast<int>(std::size(corners)));
 }
 
 void CStatusLine::OnNotify(const NMHDR& header) const {
-    if (header.hwndFrom != m_window || header.code != UINT(NM_CLICK)) {
+    if (header.hwndFrom != m_window || header.code != static_cast<UINT>(NM_CLICK)) {
         return;
     }
-    const auto part = int(reinterpret_cast<const NMMOUSE&>(header).dwItemSpec);
+    const auto part = static_cast<int>(reinterpret_cast<const NMMOUSE&>(header).dwItemSpec);
     if (part == PART_UNITS || part == PART_PRECISION) {
         OpenMenu(part);
     }
@@ -172,21 +172,21 @@ void CStatusLine::OpenMenu(int part) const {
     if (part == PART_UNITS) {
         for (const UnitsName& units : kUnits) {
             const std::wstring example = units::FormatLinear(15.5, units.lunits, m_precision).value_or(L"");
-            AppendMenuW(menu, MF_STRING, UINT(IDM_UNITS + units.lunits),
+            AppendMenuW(menu, MF_STRING, static_cast<UINT>(IDM_UNITS + units.lunits),
                         (L'&' + (units.name + (L'\t' + example))).c_str());
         }
-        chosen = UINT(IDM_UNITS + m_units);
+        chosen = static_cast<UINT>(IDM_UNITS + m_units);
     } else {
         for (int precision = 0; precision <= units::kMaxLinearPrecision; ++precision) {
             // The mnemonic is the number of decimals, or the power of two.
             const std::wstring text = StepOf(m_units, precision) + L"\t&" + std::to_wstring(precision);
-            AppendMenuW(menu, MF_STRING, UINT(IDM_PRECISION + precision), text.c_str());
+            AppendMenuW(menu, MF_STRING, static_cast<UINT>(IDM_PRECISION + precision), text.c_str());
         }
-        chosen = UINT(IDM_PRECISION + m_precision);
+        chosen = static_cast<UINT>(IDM_PRECISION + m_precision);
     }
     CheckMenuRadioItem(menu, IDM_UNITS, IDM_PRECISION + units::kMaxLinearPrecision, chosen, MF_BYCOMMAND);
     RECT rectangle;
-    SendMessageW(m_window, SB_GETRECT, WPARAM(part), reinterpret_cast<LPARAM>(&rectangle));
+    SendMessageW(m_window, SB_GETRECT, static_cast<WPARAM>(part), reinterpret_cast<LPARAM>(&rectangle));
     MapWindowPoints(m_window, nullptr, reinterpret_cast<POINT*>(&rectangle), 2);
     TrackPopupMenu(menu, TPM_LEFTALIGN | TPM_BOTTOMALIGN, rectangle.left, rectangle.top, 0,
                    GetParent(m_window), nullptr);

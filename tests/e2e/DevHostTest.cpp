@@ -36,11 +36,11 @@ protected:
     // What the line gave, as it was printed.
     std::string Evaluate(const std::string& line) const {
         Type(line);
-        return ResultBehind(line);
+        return ResultAfter(line);
     }
 
-    // The line behind the last one that repeats what was typed.
-    std::string ResultBehind(const std::string& line) const {
+    // The line after the last one that repeats what was typed.
+    std::string ResultAfter(const std::string& line) const {
         std::string result;
         WaitUntil([&] {
             const std::string output = host.Output();
@@ -62,7 +62,7 @@ protected:
         const std::string line = "(getpoint \"" + std::to_string(++picks) + "\")";
         Type(line);
         window.Click(x, y);
-        std::istringstream result(ResultBehind(line));
+        std::istringstream result(ResultAfter(line));
         Point point;
         result.ignore(1) >> point.x >> point.y;
         return point;
@@ -91,7 +91,7 @@ TEST_F(DevHostWindow, WhatLispDrawsCanBeZoomedPannedAndPicked) {
     // Initially one unit is one pixel, so one pick gives the origin.
     const Point first = Pick(300, 200);
     ASSERT_EQ(first.x, 300);
-    const int bottom = 200 + int(first.y);
+    const int bottom = 200 + static_cast<int>(first.y);
     EXPECT_EQ(Evaluate("(draw-line '(100.25 150) '(400.25 150))"), "T");
     EXPECT_TRUE(WaitForInk(250, bottom - 150));
 
@@ -156,7 +156,7 @@ TEST_F(DevHostWindow, EscapeEndsAnEndlessLoop) {
 
 TEST_F(DevHostWindow, CommandsAreUndoneRedoneAndTheDrawingSaved) {
     const Point first = Pick(300, 200);
-    const int bottom = 200 + int(first.y);
+    const int bottom = 200 + static_cast<int>(first.y);
     Type("(progn (draw-line '(100 150) '(400 150))");
     EXPECT_EQ(Evaluate("(draw-line '(100 250) '(400 250)))"), "T");
     EXPECT_TRUE(WaitForInk(250, bottom - 150));

@@ -66,9 +66,9 @@ TEST(SvgWriter, TextsAreEscapedUtf8) {
     EXPECT_EQ(shown(L"<a & b>"), "&lt;a &amp; b>");
     EXPECT_EQ(shown(L"porta \u00E8 \u20AC"), "porta \xC3\xA8 \xE2\x82\xAC");
     // One character outside the first plane, as a pair of surrogates.
-    EXPECT_EQ(shown({wchar_t(0xD83D), wchar_t(0xDEAA)}), "\xF0\x9F\x9A\xAA");
-    EXPECT_EQ(shown({L'x', wchar_t(0xD83D)}), "x\xEF\xBF\xBD");
-    EXPECT_EQ(shown({wchar_t(0xDEAA), L'\x01'}), "\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(shown({wchar_t{0xD83D}, wchar_t{0xDEAA}}), "\xF0\x9F\x9A\xAA");
+    EXPECT_EQ(shown({L'x', wchar_t{0xD83D}}), "x\xEF\xBF\xBD");
+    EXPECT_EQ(shown({wchar_t{0xDEAA}, L'\x01'}), "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ const std::string kIllFormed[] = {"\x80",         "\xC3",
 
 TEST(Encoding, WellFormedUtf8IsDecodedIntoUnitsOfUtf16) {
     EXPECT_EQ(DecodeUtf8("a\xC3\xB2\xE9\x96\x80"), L"aò門");
-    EXPECT_EQ(DecodeUtf8("\xF0\x9F\x9A\xAA"), (std::wstring{wchar_t(0xD83D), wchar_t(0xDEAA)}));
+    EXPECT_EQ(DecodeUtf8("\xF0\x9F\x9A\xAA"), (std::wstring{wchar_t{0xD83D}, wchar_t{0xDEAA}}));
     EXPECT_EQ(DecodeUtf8(""), L"");
     EXPECT_EQ(DecodeUtf8(std::string_view("a\0b", 3)), std::wstring(L"a\0b", 3));
 }
@@ -28,13 +28,13 @@ TEST(Encoding, IllFormedUtf8IsNotDecoded) {
 
 TEST(Encoding, Utf8IsEncodedFromUnitsAndFromWholeCodePoints) {
     EXPECT_EQ(EncodeUtf8(L"aò門"), "a\xC3\xB2\xE9\x96\x80");
-    EXPECT_EQ(EncodeUtf8(std::wstring{wchar_t(0xD83D), wchar_t(0xDEAA)}), "\xF0\x9F\x9A\xAA");
+    EXPECT_EQ(EncodeUtf8(std::wstring{wchar_t{0xD83D}, wchar_t{0xDEAA}}), "\xF0\x9F\x9A\xAA");
     EXPECT_EQ(EncodeUtf8(L"\U0001F6AA"), "\xF0\x9F\x9A\xAA");
 }
 
 TEST(Encoding, AnUnpairedSurrogateBecomesTheReplacementCharacter) {
-    const std::wstring lead(1, wchar_t(0xD83D));
-    const std::wstring trail(1, wchar_t(0xDEAA));
+    const std::wstring lead(1, wchar_t{0xD83D});
+    const std::wstring trail(1, wchar_t{0xDEAA});
     EXPECT_EQ(EncodeUtf8(lead + L"a"),
               "\xEF\xBF\xBD"
               "a");
@@ -43,7 +43,7 @@ TEST(Encoding, AnUnpairedSurrogateBecomesTheReplacementCharacter) {
 
 TEST(Encoding, EachByteOfCodePage1252HasItsCharacter) {
     for (int i = 0; i < 256; ++i) {
-        const char byte = char(i);
+        const auto byte = static_cast<char>(i);
         const std::wstring text = DecodeWindows1252({&byte, 1});
         ASSERT_EQ(text.size(), 1u);
         EXPECT_EQ(EncodeWindows1252(char32_t(text[0])), byte);

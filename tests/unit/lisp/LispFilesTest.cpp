@@ -74,7 +74,7 @@ TEST_F(LispFiles, EveryByteSurvives) {
     std::string bytes;
     for (int i = 1; i < 256; ++i) {
         if (i != '\n' && i != '\r') {
-            bytes += char(i);
+            bytes += static_cast<char>(i);
         }
     }
     Write(L"file.txt", bytes + "\r\n");

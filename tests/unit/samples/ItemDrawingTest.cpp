@@ -21,7 +21,8 @@ Point SeenFrom(const TextEntity& text, Point point) {
 // Whether a line of the entity crosses or touches the letters, whose width is an estimate.
 bool Touches(const Entity& entity, const TextEntity& text) {
     constexpr double kLetterWidth = 0.8;  // of the height of a capital
-    const Box letters = {{0, 0}, {kLetterWidth * text.height * double(text.text.size()), text.height}};
+    const Box letters = {{0, 0},
+                         {kLetterWidth * text.height * static_cast<double>(text.text.size()), text.height}};
     const std::vector<Point> points = OutlineOf(entity, 1);
     for (std::size_t i = 1; i < points.size(); ++i) {
         if (Clip({SeenFrom(text, points[i - 1]), SeenFrom(text, points[i])}, letters)) {

@@ -25,7 +25,7 @@ __extension__ using WideInteger = unsigned __int128;
 std::string Digits(WideInteger number) {
     std::string digits;
     do {
-        digits.insert(digits.begin(), char('0' + int(number % 10)));
+        digits.insert(digits.begin(), static_cast<char>('0' + static_cast<int>(number % 10)));
         number /= 10;
     } while (number != 0);
     return digits;
@@ -64,7 +64,8 @@ double Meaning(const std::wstring& wide) {
             std::strtoull(text.c_str() + (blank == std::string::npos ? 0 : blank + 1), nullptr, 10);
         const WideInteger denominator = std::strtoull(text.c_str() + slash + 1, nullptr, 10);
         // The denominators are powers of two, so that the division rounds nothing.
-        magnitude = double((feet * 12 + whole) * denominator + numerator) / double(denominator);
+        magnitude = static_cast<double>((feet * 12 + whole) * denominator + numerator) /
+                    static_cast<double>(denominator);
     } else if (feet != 0) {
         const std::size_t point = std::min(text.find('.'), text.size());
         const WideInteger inches = std::strtoull(text.c_str(), nullptr, 10);

@@ -67,7 +67,8 @@ TEST_F(StringModuleWriter, TheSystemLoadsTheTextsOfTheSamples) {
 TEST_F(StringModuleWriter, TheSystemFindsTheTextsOfEachLanguage) {
     Load(SOURCE_FOLDER "/tests/windows/tools/OddTexts.rc");
     for (const TextEntry& text : m_table.Texts()) {
-        EXPECT_EQ(Text(text.number, WORD(*m_table.LanguageIdOf(text.language))), text.text) << text.number;
+        EXPECT_EQ(Text(text.number, static_cast<WORD>(*m_table.LanguageIdOf(text.language))), text.text)
+            << text.number;
     }
 }
 

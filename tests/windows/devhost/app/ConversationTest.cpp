@@ -37,7 +37,9 @@ protected:
         ASSERT_TRUE(WaitUntil([&] { return TextOf(m_prompt).empty(); }));
     }
 
-    void Choose(int command) const { PostMessageW(m_host->MainWindow(), WM_COMMAND, WPARAM(command), 0); }
+    void Choose(int command) const {
+        PostMessageW(m_host->MainWindow(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    }
 
     bool WaitForOutput(const std::wstring& end) const {
         const bool came = WaitUntil([&] { return TextOf(m_output).ends_with(end); });

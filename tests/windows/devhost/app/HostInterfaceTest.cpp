@@ -118,7 +118,7 @@ TEST(HostInterface, FilesAreFoundInTheFoldersInOrderThenInTheCurrentOne) {
         std::wstring path;
         for (const char c : printed.substr(start, printed.rfind('"') - start)) {
             if (c != '\\' || path.empty() || path.back() != L'\\') {
-                path += wchar_t(c);
+                path += static_cast<wchar_t>(c);
             }
         }
         return path.starts_with(folder.Path() + L'\\') ? path.substr(folder.Path().size() + 1) : path;
@@ -154,7 +154,7 @@ TEST(HostInterface, AnAbsolutePathIsLookedForWhereItSays) {
 TEST(HostInterface, APathThatDoesNotFitIsNotFoundAndNothingIsWritten) {
     const CTestFolder folder;
     folder.Write(L"a", "");
-    const int needed = int(folder.Path().size()) + 3;  // a backslash, the name and the zero
+    const int needed = static_cast<int>(folder.Path().size()) + 3;  // a backslash, the name and the zero
     const auto status = [&](int capacity) {
         return Evaluate(L"(find-file \"a\" " + std::to_wstring(capacity) + L")").substr(0, 9);
     };

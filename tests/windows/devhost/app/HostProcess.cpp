@@ -151,9 +151,9 @@ bool WaitUntil(const std::function<bool()>& condition) {
 }
 
 std::wstring TextOf(HWND window) {
-    std::wstring text(std::size_t(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
-    text.resize(std::size_t(
-        SendMessageW(window, WM_GETTEXT, WPARAM(text.size()), reinterpret_cast<LPARAM>(text.data()))));
+    std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(text.size()),
+                                                      reinterpret_cast<LPARAM>(text.data()))));
     return text;
 }
 

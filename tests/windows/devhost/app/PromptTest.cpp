@@ -94,8 +94,9 @@ TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
 // The top of the list's last character, in client coordinates; outside the client area when it is not
 // visible.
 int BottomOfText(HWND output) {
-    const auto position = DWORD(SendMessageW(output, EM_POSFROMCHAR, TextOf(output).size() - 1, 0));
-    return short(HIWORD(position));
+    const auto position =
+        static_cast<DWORD>(SendMessageW(output, EM_POSFROMCHAR, TextOf(output).size() - 1, 0));
+    return static_cast<short>(HIWORD(position));
 }
 
 TEST_F(Prompt, InASmallWindowPromptAndLastLineStayInSight) {

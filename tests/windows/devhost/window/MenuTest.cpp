@@ -51,7 +51,7 @@ std::wstring MnemonicsOf(HMENU menu) {
     std::wstring letters;
     for (int entry = 0; entry < GetMenuItemCount(menu); ++entry) {
         wchar_t text[100] = L"";
-        if (GetMenuStringW(menu, UINT(entry), text, 100, MF_BYPOSITION) == 0) {
+        if (GetMenuStringW(menu, static_cast<UINT>(entry), text, 100, MF_BYPOSITION) == 0) {
             continue;  // a separator
         }
         std::wstring title = text;
@@ -138,7 +138,7 @@ TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
     m_window.SetLanguages({L"English"}, [](std::size_t) {});
     m_window.SetReloadHandler([] {});
     m_drawing.Add(CircleEntity{{0, 0}, 1});
-    for (const UINT command : {UINT(IDM_ITEM), UINT(IDM_LANGUAGE), UINT(IDM_RELOAD), UINT(IDM_CLEAR)}) {
+    for (const UINT command : {UINT{IDM_ITEM}, UINT{IDM_LANGUAGE}, UINT{IDM_RELOAD}, UINT{IDM_CLEAR}}) {
         EXPECT_FALSE(IsGrey(command)) << command;
         m_window.SetBusy(true);
         EXPECT_TRUE(IsGrey(command)) << command;

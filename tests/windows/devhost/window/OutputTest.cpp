@@ -15,7 +15,7 @@ protected:
 
     int LineHeight() const {
         const auto top = [this](int line) {
-            const LRESULT first = SendMessageW(List(), EM_LINEINDEX, WPARAM(line), 0);
+            const LRESULT first = SendMessageW(List(), EM_LINEINDEX, static_cast<WPARAM>(line), 0);
             return static_cast<short>(
                 HIWORD(SendMessageW(List(), EM_POSFROMCHAR, static_cast<WPARAM>(first), 0)));
         };

@@ -30,7 +30,9 @@ protected:
     void PostClick(int x, int y) const;
     void PostKey(WPARAM key, EControl part = IDC_PROMPT) const;
     void PostLine(const std::wstring& text) const;
-    void PostCommand(int command) const { PostMessageW(m_window.Handle(), WM_COMMAND, WPARAM(command), 0); }
+    void PostCommand(int command) const {
+        PostMessageW(m_window.Handle(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+    }
 
     // Sent messages.
     void MoveMouse(int x, int y) const { SendMessageW(Area(), WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }

@@ -16,13 +16,13 @@ constexpr wchar_t kUntouched = L'#';
 // A buffer that shows how far it was written.
 struct Buffer {
     Buffer() { std::fill_n(text, kRoom, kUntouched); }
-    // The index behind the last character that was written.
+    // The index after the last character that was written.
     int Written() const {
         std::size_t end = kRoom;
         while (end > 0 && text[end - 1] == kUntouched) {
             --end;
         }
-        return int(end);
+        return static_cast<int>(end);
     }
     wchar_t text[kRoom];
 };
@@ -81,7 +81,8 @@ void AlertWith() {
 // (find-file NAME CAPACITY): the status, how much of the buffer was written, the text if it was.
 void FindFile() {
     Buffer buffer;
-    const int status = HOST(sds_findfile)(TextArgument(0), buffer.text, std::size_t(ShortArgument(1, 254)));
+    const int status =
+        HOST(sds_findfile)(TextArgument(0), buffer.text, static_cast<std::size_t>(ShortArgument(1, 254)));
     HOST(sds_retlist)
     (HOST(sds_buildlist)(RTSHORT, status, RTSHORT, buffer.Written(), RTSTR,
                          status == RTNORM ? buffer.text : L"", RTNONE));
@@ -91,8 +92,8 @@ void ReadVariable() {
     sds_resbuf value = {};
     const int status = HOST(sds_getvar)(TextArgument(0), &value);
     HOST(sds_retlist)
-    (HOST(sds_buildlist)(RTSHORT, status, RTSHORT, int(value.type), RTSHORT, int(value.value.integer),
-                         RTNONE));
+    (HOST(sds_buildlist)(RTSHORT, status, RTSHORT, static_cast<int>(value.type), RTSHORT,
+                         static_cast<int>(value.value.integer), RTNONE));
 }
 
 // (format-length VALUE UNITS PRECISION)

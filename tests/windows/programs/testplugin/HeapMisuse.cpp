@@ -46,7 +46,7 @@ void FillGuardedRoom(int argument) {
 // (leak BLOCKS BYTES)
 void Leak() {
     for (int i = 0; i < ShortArgument(0); ++i) {
-        NewBlock(std::size_t(ShortArgument(1)));
+        NewBlock(static_cast<std::size_t>(ShortArgument(1)));
     }
     HOST(sds_retnil)();
 }
@@ -58,23 +58,23 @@ void Churn() {
     int wrong = 0;
     std::vector<char*> blocks;
     const auto make = [&](int i) {
-        const std::size_t size = std::size_t(i % 131);
+        const auto size = static_cast<std::size_t>(i % 131);
         auto* block = static_cast<char*>(td_new_array(size));
         wrong += block == nullptr || reinterpret_cast<std::uintptr_t>(block) % (2 * sizeof(void*)) != 0;
-        std::fill_n(block, size, char(i));
+        std::fill_n(block, size, static_cast<char>(i));
         return block;
     };
     const auto check = [&](const char* block, int i) {
         for (int byte = 0; byte < i % 131; ++byte) {
-            wrong += block[byte] != char(i);
+            wrong += block[byte] != static_cast<char>(i);
         }
     };
     for (int i = 0; i < count; ++i) {
         blocks.push_back(make(i));
     }
     for (int i = 0; i < count; ++i) {
-        check(blocks[std::size_t(i)], i);
-        td_delete_array(blocks[std::size_t(i)]);
+        check(blocks[static_cast<std::size_t>(i)], i);
+        td_delete_array(blocks[static_cast<std::size_t>(i)]);
     }
     for (int i = 0; i < count; ++i) {
         char* block = make(i);
@@ -85,7 +85,7 @@ void Churn() {
     HOST(sds_retint)(wrong);
 }
 
-// One byte behind a block whose size is no multiple of the alignment.
+// One byte after a block whose size is no multiple of the alignment.
 void WriteBehind() {
     FillGuardedRoom(0);
     volatile char* block = NewBlock(5);
@@ -93,7 +93,7 @@ void WriteBehind() {
     Delete(block);
 }
 
-// One byte behind a block that ends at its last page's end.
+// One byte after a block that ends at its last page's end.
 void WriteFarBehind() {
     volatile char* block = NewBlock(32);
     block[32] = 1;
@@ -148,7 +148,7 @@ void FailOneAllocation() {
         return;
     }
     const std::size_t before = allocations();
-    failAfter(std::size_t(ShortArgument(0)));
+    failAfter(static_cast<std::size_t>(ShortArgument(0)));
     int failed = 0;
     for (int i = 1; i <= 5; ++i) {
         volatile char* block = NewBlock(10);
@@ -159,7 +159,7 @@ void FailOneAllocation() {
     }
     failAfter(0);
     HOST(sds_retlist)
-    (HOST(sds_buildlist)(RTSHORT, failed, RTSHORT, int(allocations() - before), RTNONE));
+    (HOST(sds_buildlist)(RTSHORT, failed, RTSHORT, static_cast<int>(allocations() - before), RTNONE));
 }
 
 }  // namespace tests

@@ -88,7 +88,7 @@ int Unload() {
 
 int Invoke() {
     const int code = HOST(sds_getfuncode)();
-    if (code < 0 || code >= int(std::size(kCommands))) {
+    if (code < 0 || code >= static_cast<int>(std::size(kCommands))) {
         HOST(sds_fail)(L"unknown code");
         return 0;
     }
