@@ -33,7 +33,7 @@ protected:
 
 #define RUNTIME_CLASS(class_name) (const_cast<CRuntimeClass*>(&class_name::class##class_name))
 
-// Inside a class; what follows is public. No semicolon behind it.
+// Inside a class; what follows is public. No semicolon after it.
 #define DECLARE_DYNAMIC(class_name)               \
 public:                                           \
     static const CRuntimeClass class##class_name; \

@@ -1,4 +1,4 @@
-// What the framework offers of OLE automation: dates.
+// The part of OLE automation that the framework offers: dates.
 #pragma once
 
 #include "afx/atlcomtime.h"

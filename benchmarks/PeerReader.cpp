@@ -59,7 +59,7 @@ private:
 
 namespace {
 
-// The number that a text begins with, behind blanks; 0 if there is none.
+// The number that a text begins with, after blanks; 0 if there is none.
 template <class TNumber>
 TNumber NumberOf(std::wstring_view text) {
     const std::size_t start = text.find_first_not_of(L' ');

@@ -44,7 +44,7 @@ std::size_t ItemSize(const DialogTemplateItem& item) {
     return fixedFields + TextSize(item.caption);
 }
 
-// Writes fields one behind the other, low byte first.
+// Writes fields one after the other, low byte first.
 class CFieldWriter {
 public:
     explicit CFieldWriter(std::span<std::byte> memory) : m_memory(memory) {}

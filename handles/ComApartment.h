@@ -3,7 +3,7 @@
 #pragma once
 
 #include <windows.h>
-// Behind it, since it takes the system's types for granted.
+// Needs the types of windows.h.
 #include <objbase.h>
 
 namespace tavrin::handles {

@@ -27,7 +27,7 @@ public:
         return true;
     }
 
-    // Whether a block is open behind the lines taken so far.
+    // Whether a block is open after the lines taken so far.
     bool IsOpen() const { return m_open; }
 
 private:

@@ -28,7 +28,7 @@ private:
     size_t DecodeOne(const char* bytes, size_t count, wchar_t& unit) const;
 
     wchar_t m_units[256];  // the character of each single byte
-    bool m_isSingle[256];  // there and back, without looking at the bytes behind it
+    bool m_isSingle[256];  // there and back, without looking at the bytes after it
 };
 
 }  // namespace tavrin::itemdlg

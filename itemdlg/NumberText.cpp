@@ -14,7 +14,7 @@ namespace tavrin::itemdlg {
 
 namespace {
 
-// Parses a number from left to right, beginning behind leading white space.
+// Parses a number from left to right, beginning after leading white space.
 class CScanner {
 public:
     explicit CScanner(std::wstring_view text) : m_text(text) {
@@ -66,7 +66,7 @@ std::int64_t WholeValue(const std::string& digits) {
     return result.ec == std::errc::result_out_of_range ? kLimit : std::min(value, kLimit);
 }
 
-// The exponent behind a number's digits; 0 when there is none. An "e" without digits behind it is left alone.
+// The exponent after a number's digits; 0 when there is none. An "e" without digits after it is left alone.
 std::int64_t TakeExponent(CScanner& scanner) {
     const std::size_t start = scanner.Position();
     if (!scanner.Take(L'e') && !scanner.Take(L'E')) {

@@ -14,7 +14,7 @@ namespace tavrin::itemdlg {
 struct ParamRecord {
     static constexpr std::uint32_t kNoItem = 0xFFFFFFFF;
 
-    std::wstring number;          // the digits behind the dollar sign as written, perhaps none
+    std::wstring number;          // the digits after the dollar sign as written, perhaps none
     std::int32_t lineIndex = 0;   // the line in the file, counted from 0
     std::wstring label;           // as shown: placeholder replaced, read-only mark removed
     std::wstring labelPrefix;     // the text around the placeholder in the file's label; the value writer

@@ -129,7 +129,7 @@ bool CTavrinWndDlg::ArgumentsAreUsable() {
     return true;
 }
 
-// An item without a picture is in order.
+// An item without a picture is allowed.
 void CTavrinWndDlg::ShowPicture() {
     if (const std::optional<std::wstring> picture = FindFile(FileName(kPictureEnding))) {
         m_picture.LoadFromFile(picture->c_str());

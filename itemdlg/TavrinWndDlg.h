@@ -68,7 +68,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // Both outlive the grid and the header, which are declared behind them.
+    // Both outlive the grid and the header, which are declared after them.
     std::vector<std::unique_ptr<propgrid::CDistanceItem>> m_distanceItems;
     CFont m_headerFont;
 

@@ -36,7 +36,7 @@ struct ParameterLine {
     std::wstring number;  // digits, perhaps none
     std::wstring label;
     wchar_t typeLetter = L'\0';  // one of I, D, R, i, d, r
-    std::wstring value;          // all behind the type letter, blanks included
+    std::wstring value;          // all after the type letter, blanks included
 };
 
 // The parts of a line if it has the form of a parameter line. Its label ends at the last quote that is

@@ -273,7 +273,7 @@ bool CPatternCompiler::FoldIntoRun(const Quantifier& quantifier) {
     return true;
 }
 
-// Any other repetition: a choice in front of the element or behind it, and a jump back.
+// Any other repetition: a choice in front of the element or after it, and a jump back.
 void CPatternCompiler::Quantify(const Quantifier& quantifier) {
     const Address front = m_frames.back().slots + 1;
     if (quantifier.sign == L'+') {
@@ -287,7 +287,7 @@ void CPatternCompiler::Quantify(const Quantifier& quantifier) {
     }
 }
 
-// An element is an alternative of the chain, which a bar behind it continues and anything else ends.
+// An element is an alternative of the chain, which a bar after it continues and anything else ends.
 void CPatternCompiler::CompleteElement(bool canBeEmpty) {
     Frame& frame = m_frames.back();
     if (frame.kind == FR_EXPANSION) {
@@ -367,7 +367,7 @@ void CPatternCompiler::AtomRead(bool canBeEmpty) {
     m_frames.back().operandDue = false;
 }
 
-// All look-aheads in front of one atom end behind it, the innermost first.
+// All look-aheads in front of one atom end after it, the innermost first.
 void CPatternCompiler::EndLookaheads() {
     Frame& frame = m_frames.back();
     while (frame.lookaheads != kNone) {
@@ -394,7 +394,7 @@ void CPatternCompiler::RemoveNops() {
     }
 }
 
-// Behind most runs comes a literal, perhaps after the end or beginning of groups: the search then ends the
+// After most runs comes a literal, perhaps after the end or beginning of groups: the search then ends the
 // run only in front of that character.
 void CPatternCompiler::FindFollowingLiterals() {
     std::vector<Instruction>& code = m_program.code;

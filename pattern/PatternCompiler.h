@@ -1,7 +1,7 @@
 // Compiles the text of a pattern into a PatternProgram in one pass from left to right.
 //
 // Nesting is kept on a stack of frames, not on the call stack, so that a pattern may open a million groups.
-// The quantifier and the bar behind an element need instructions in front of it: two slots are reserved for
+// The quantifier and the bar after an element need instructions in front of it: two slots are reserved for
 // them in front of each element and removed at the end where they stayed empty.
 #pragma once
 

@@ -32,8 +32,8 @@
 //   "a**"      a quantifier or a bar where an element must begin is a literal: this is "a*", then a star.
 //   "!a*"      the quantifier belongs to the look-ahead, not to the a.
 //   "a|", "!"  an operand that is missing at the end of the pattern or before a closer is the empty text.
-//   "\q*"      a quantifier behind an abbreviation applies to all of it; "\w+" is a repetition of words.
-//   "x*$"      does not match "ab": the position behind the last character is tried only in an empty input.
+//   "\q*"      a quantifier after an abbreviation applies to all of it; "\w+" is a repetition of words.
+//   "x*$"      does not match "ab": the position after the last character is tried only in an empty input.
 //   "(a*)*"    is an error: what can match the empty text cannot be repeated without bound. Look-aheads and
 //              back-references always count as able to match it.
 //
@@ -46,9 +46,9 @@
 // character and in no locale (see LetterCase.h); captured text keeps the case that it has in the input.
 //
 // MEMORY. The depth of the call stack does not depend on pattern or input: compiler and search keep stacks of
-// their own, which grow by doubling. Nothing behind the input's terminating null is read. A greedy repetition
+// their own, which grow by doubling. Nothing after the input's terminating null is read. A greedy repetition
 // of one character, set or "." takes one entry of the search's stack, however long it is, and ends only where
-// the literal behind it, if there is one, can match.
+// the literal after it, if there is one, can match.
 #pragma once
 
 #include "pattern/MatchContext.h"

@@ -35,7 +35,7 @@ struct Instruction {
     EOp op = OP_NOP;
     bool atLeastOne = false;    // OP_RUN: "+" rather than "*"
     std::uint32_t operand = 0;  // an address, group or set. OP_RUN: the address of the literal that always
-                                // comes right behind the run, 0 if there is none
+                                // comes right after the run, 0 if there is none
     wchar_t first = 0;
     wchar_t second = 0;  // OP_CHARACTER: the other case of `first`, or `first` again
 };

@@ -177,7 +177,7 @@ const wchar_t* CPatternSearch::RunEnd(const Instruction& body, const wchar_t* po
     return position;
 }
 
-// The topmost entry is a run: ends it at the last position not tried yet where the literal behind it, if
+// The topmost entry is a run: ends it at the last position not tried yet where the literal after it, if
 // there is one, can match. False, with the entry gone, if there is no such position.
 bool CPatternSearch::ShortenRun(State& state) {
     Entry& entry = m_stack.Back();
@@ -237,7 +237,7 @@ bool CPatternSearch::MatchReference(std::uint32_t index, const wchar_t*& positio
 
 }  // namespace
 
-// The position behind the last character is a start position in an empty input only.
+// The position after the last character is a start position in an empty input only.
 CMatchContext::Pair SearchPattern(const PatternProgram& program, std::wstring_view input,
                                   CMatchContext::Groups& groups) {
     CPatternSearch search(program, input, groups);

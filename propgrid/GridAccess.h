@@ -15,7 +15,7 @@
 
 namespace tavrin::propgrid {
 
-// Posted to the grid when something is asked of a row; both parameters 0. What it is TakeRequest says.
+// Posted to the grid when something is asked of a row; both parameters 0. TakeRequest gives the request.
 inline constexpr UINT WM_GRID_ACCESS_REQUEST = WM_USER + 491;
 
 // The row is to be focused, and its default action to be carried out; the window alone for no row.

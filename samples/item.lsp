@@ -59,12 +59,12 @@
 (defun item-parameter-p (line)
   (and (= (substr line 1 1) "$") (> (item-last-quote line) 0)))
 
-; The number behind the $ or # of a line.
+; The number after the $ or # of a line.
 (defun item-number (line)
   (atoi (substr line 2)))
 
 ; A parameter line with the value that PRESETS holds for its number; every other line as it is. The type
-; letter stands behind the last quote, the value behind the letter.
+; letter stands after the last quote, the value after the letter.
 (defun item-preset (line presets / preset)
   (if (and (item-parameter-p line)
            (setq preset (assoc (item-number line) presets)))

@@ -83,8 +83,8 @@ Actions CKeyController::CollapseAll(bool collapse) {
     return {action::Relayout{}};
 }
 
-// Deliberately also a layout when the section is so already: a double click on its header leaves the layout
-// behind.
+// Deliberately also a layout when the section is so already: a double click on its header does not update the
+// layout.
 Actions CKeyController::CollapseFocused(bool collapse) {
     GridSection* const section = m_model.FindSection(m_model.GetFocus().section);
     if (section == nullptr) {

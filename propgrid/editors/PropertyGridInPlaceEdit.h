@@ -1,4 +1,4 @@
-// The text edit that the property grid lays over a value cell: one line, without a frame, the caret behind
+// The text edit that the property grid lays over a value cell: one line, without a frame, the caret after
 // the text.
 //
 // Opening it:

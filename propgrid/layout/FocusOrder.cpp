@@ -46,7 +46,7 @@ const GridItem* FindItemBefore(const CGridModel& model, const GridSection& secti
     return end != section.editableRows.begin() ? section.items[*(end - 1)] : nullptr;
 }
 
-// The first row at or behind a slot, the last row before one; no row when there is none up to the end, or the
+// The first row at or after a slot, the last row before one; no row when there is none up to the end, or the
 // start.
 RowId FindRowFrom(const CGridModel& model, Slot slot) {
     const std::vector<GridSection*>& sections = model.GetSections();

@@ -28,12 +28,12 @@ struct RowList {
     int rowHeight = 0;
     Size area;  // what the rows are clipped to, from the upper left corner of the window
     int gutter = 0;
-    std::uint32_t rows = 0;  // those behind them were added since and never painted
+    std::uint32_t rows = 0;  // those after them were added since and never painted
     bool sorted = false;     // all items by name, not those of one section
     Id buttonItem = kNoId;   // the item with an edit button beside its value
 
     Rect GetRow(std::uint32_t row) const;
-    // The row at the upper edge of the window, or behind the last one.
+    // The row at the upper edge of the window, or after the last one.
     std::uint32_t GetFirstVisible() const;
     bool IsVisible(const Rect& row) const;
 };

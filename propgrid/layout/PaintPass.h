@@ -34,7 +34,7 @@ public:
     // Empties the rectangles of the sections.
     explicit CPaintPass(CGridLayout& layout);
 
-    // The next row in sight; none behind the last.
+    // The next row in sight; none after the last.
     std::optional<PaintedRow> Next();
 
 private:

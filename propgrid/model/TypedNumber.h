@@ -1,4 +1,4 @@
-// Numbers as a person types them: the number that a text begins with, behind white space; what follows is
+// Numbers as a person types them: the number that a text begins with, after white space; what follows is
 // ignored.
 #pragma once
 

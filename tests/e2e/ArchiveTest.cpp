@@ -84,7 +84,7 @@ TEST_F(Archive, IsTheSamePackedTwice) {
     EXPECT_EQ(BytesOf(SetupOf(archive)), BytesOf(SetupOf(again)));
 }
 
-// The values of an attribute in a page: `start` is its name with the blank before and the quote behind it.
+// The values of an attribute in a page: `start` is its name with the blank before and the quote after it.
 std::set<std::string> ValuesOf(const std::string& page, const std::string& start) {
     std::set<std::string> values;
     for (std::size_t at = 0; (at = page.find(start, at)) != std::string::npos;) {

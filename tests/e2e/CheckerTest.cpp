@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the program prints, run in a folder, with its exit status behind it.
+// What the program prints, run in a folder, with its exit status after it.
 std::string Checked(const fs::path& folder, const std::string& arguments) {
     return OutputOf("cd '" + folder.string() + "' && '" SCRIPTS_DIR "/wine' '" +
                     (ProgramFolder() / "tavrincheck.exe").string() + "' " + arguments +

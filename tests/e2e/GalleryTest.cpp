@@ -18,7 +18,7 @@ protected:
         EXPECT_TRUE(WaitUntil([&] { return !window.IsOpen(); }));
     }
 
-    // The colour left of a value, behind its name: the focused row's is another one.
+    // The colour left of a value, beyond its name: the focused row's is another one.
     bool IsFocused(const std::string& name) const {
         const Cell& cell = cells.at(name);
         return gallery.Look().At(cell.left - 8, cell.MiddleY()) != Rgb{255, 255, 255};

@@ -31,7 +31,7 @@ TEST_F(ItemDialog, OkWritesBothFilesAndAnswersZero) {
         "$2 = \"<<1502>>%\"D2100\r\n$3 = \"<<1503>>\"D125\r\n$4 = \"<<1504>>\"D80\r\n"
         "$5 = \"<<1505>>\"D1050\r\n$6 = \"<<1506>>\"D20\r\n$7 = \"<<1507>>\"I1\r\n$8 = \"<<1508>>\"I3\r\n"
         "$9 = \"<<1509>>\"R75\r\n$10 = \"<<1510>>\"R0.35\r\n");
-    // The last parameter, the end of the block, and the line behind it just as it was.
+    // The last parameter, the end of the block, and the line after it just as it was.
     HostRun untouched;
     untouched.UseSample("door");
     const std::string before = untouched.Read("door.TXT");
@@ -69,10 +69,10 @@ TEST_F(ItemDialog, EnterPressesOk) {
 
 TEST_F(ItemDialog, TheHeaderIsADarkerBandThanTheRest) {
     Open();
-    // Behind the header's text, and at the far end of its line.
+    // After the header's text, and at the far end of its line.
     EXPECT_EQ(screen.At(X(454), Y(2)), headerGrey);
     EXPECT_EQ(screen.At(X(643), Y(9)), headerGrey);
-    // Around the buttons, and behind the rows of the grid.
+    // Around the buttons, and below the rows of the grid.
     EXPECT_EQ(screen.At(X(500), Y(279)), dialogGrey);
     EXPECT_EQ(screen.At(X(590), Y(271)), dialogGrey);
     EXPECT_EQ(screen.At(X(453) + 190, RowY(1)), dialogGrey);

@@ -39,7 +39,7 @@ protected:
     // Waits until some pixel of the row's value has the colour.
     void ExpectInValue(int row, Rgb colour) const;
 
-    // A click on the value opens its edit with the caret behind the text; the text is replaced.
+    // A click on the value opens its edit with the caret after the text; the text is replaced.
     void Type(int row, const std::string& text) const;
 
     // The host's window, once the dialog is hidden and the host shows a prompt: before that it ignores typed

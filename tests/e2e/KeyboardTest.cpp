@@ -41,7 +41,7 @@ protected:
         PressKeys("alt+Return");
         const Window main = WaitForQuestion();
         ASSERT_TRUE(main.Activate());
-        // What the two questions say differs behind "Select ".
+        // What the two questions say differs after "Select ".
         const auto question = [&] {
             const Screenshot now = main.Look();
             std::vector<bool> shown;

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 // A fenced block of the guide.
 struct Block {
     std::string file;      // what the line in front of it names: **`shelf/shelf.TXT`**; or empty
-    std::string language;  // behind the fence
+    std::string language;  // after the fence
     std::string text;
 };
 
@@ -111,7 +111,7 @@ TEST_F(SampleGuide, MakesAShelfThatIsChosenSetAndDrawn) {
     const Window main = Window::WithTitle("DevHost");
     ASSERT_TRUE(main.IsValid()) << host.Errors();
     main.LookWhenStill();
-    // The second entry of the menu Items, behind the door.
+    // The second entry of the menu Items, after the door.
     const Window menu = Window::OpenedBy([&] { main.Press("alt+i"); }, "devhost.exe");
     ASSERT_TRUE(menu.IsValid());
     PressKeys("Down Return");

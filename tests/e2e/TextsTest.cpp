@@ -78,7 +78,7 @@ TEST_F(Texts, TheLanguageIsChosenInTheMenuWhileDevHostRuns) {
     PressKeys("Return");
     ExpectDialog("Porta a battente");
     EXPECT_TRUE(dialog.PressUntilClosed("Escape"));
-    // Behind the chosen file and the one beside DevHost.exe, both Italian, comes en\TavrinRes.dll.
+    // After the chosen file and the one beside DevHost.exe, both Italian, comes en\TavrinRes.dll.
     ASSERT_TRUE(main.Activate());
     ChooseInMenu(main, "alt+l", "Down Down Return");
     EXPECT_TRUE(WaitUntil([&] { return host.Output().find("loaded again") != std::string::npos; }))

@@ -24,7 +24,7 @@ inline std::string_view Bytes(const std::uint8_t* data, std::size_t size) {
 // Takes the text up to the next line end off the front.
 std::string_view CutLine(std::string_view& bytes);
 
-// A null-terminated copy with nothing of its own behind the null, so that a read beyond it is noticed.
+// A null-terminated copy with nothing of its own after the null, so that a read beyond it is noticed.
 class CTightText {
 public:
     explicit CTightText(std::wstring_view text) : m_characters(text.begin(), text.end()) {

@@ -10,7 +10,7 @@
 
 namespace tests {
 
-// Reads bytes; zeros behind the last.
+// Reads bytes; zeros after the last.
 class CBytes {
 public:
     CBytes(const std::uint8_t* data, std::size_t size) : m_data(data), m_end(data + size) {}

@@ -1,5 +1,5 @@
 // The pattern matcher beside PCRE2: the same errors, the same matches, the same groups. The first byte says
-// whether case matters, the rest of the first line is the pattern, all behind it the input.
+// whether case matters, the rest of the first line is the pattern, all after it the input.
 #define PCRE2_CODE_UNIT_WIDTH 16
 #include <pcre2.h>
 

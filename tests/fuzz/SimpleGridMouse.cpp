@@ -20,7 +20,7 @@ std::wstring WithoutSpace(const std::wstring& text) {
     return text.substr(start);
 }
 
-// The digits that the text begins with, behind a sign.
+// The digits that the text begins with, after a sign.
 int ReadInteger(const std::wstring& typed) {
     const std::wstring text = WithoutSpace(typed);
     const bool hasSign = !text.empty() && (text[0] == L'-' || text[0] == L'+');

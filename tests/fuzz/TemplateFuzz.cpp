@@ -28,8 +28,8 @@ std::wstring Lookup(unsigned id) {
 
 void RequireParts(const std::wstring& line, const ParameterLine& parts) {
     const std::wstring whole = line.substr(0, line.find(L'\0'));
-    const std::wstring behind = parts.label + L'"' + parts.typeLetter + parts.value;
-    Require(whole.size() > behind.size() && whole.ends_with(behind), "label, letter and value end the line");
+    const std::wstring end = parts.label + L'"' + parts.typeLetter + parts.value;
+    Require(whole.size() > end.size() && whole.ends_with(end), "label, letter and value end the line");
     Require(whole.starts_with(L'$' + parts.number), "the number begins the line");
 }
 

@@ -54,7 +54,7 @@ std::vector<std::string> CellsOf(const std::string& line) {
             cells.back() += line[at];
         }
     }
-    cells.pop_back();  // behind the last bar
+    cells.pop_back();  // after the last bar
     for (std::string& cell : cells) {
         cell.erase(0, cell.find_first_not_of(' '));
         cell.erase(cell.find_last_not_of(' ') + 1);

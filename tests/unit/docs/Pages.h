@@ -11,7 +11,7 @@ namespace tests {
 // A fenced block of code. Its info string may name a file that it shows: ```text file=../examples/call.lsp
 struct CodeBlock {
     std::string file;  // relative to the page's folder; empty when it names none
-    std::string text;  // with "\n" behind each line
+    std::string text;  // with "\n" after each line
 };
 
 struct Page {

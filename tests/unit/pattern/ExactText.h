@@ -1,5 +1,5 @@
 // A null-terminated text in a block of exactly its size: the address sanitizer sees a read one character
-// behind it, which the spare capacity of a std::wstring would hide.
+// after it, which the spare capacity of a std::wstring would hide.
 #pragma once
 
 #include <algorithm>

@@ -148,7 +148,7 @@ TEST(PatternCompare, EverySmallPatternOfLookAheadsAgreesWithTheReference) {
 }
 
 TEST(PatternCompare, EverySmallRepeatedGroupAgreesWithTheReference) {
-    // The inside of a group that is repeated, with a reference behind it.
+    // The inside of a group that is repeated, with a reference after it.
     const std::vector<Input> inputs = Inputs(AllTexts(L"ab", 5));
     Tally tally;
     for (const wchar_t* ending : {L")*", L")+b", L")*?$", L")+\\0"}) {

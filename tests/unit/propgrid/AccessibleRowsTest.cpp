@@ -18,7 +18,7 @@ public:
     int GetPixelsPerInch() const override { return 96; }
 };
 
-// Two sections with headers, the second collapsed, and one behind them:
+// Two sections with headers, the second collapsed, and one after them:
 //     Size: Width, Height; Colour (collapsed): Paint; Rest: Note
 class AccessibleRows : public GridFixture {
 protected:

@@ -57,7 +57,7 @@ TEST(ModifiedItem, ComparesDatesWithTheirStatus) {
 TEST(ModifiedItem, ComparesAllBytesOfAFont) {
     EXPECT_FALSE(ModifiedBy(IT_FONT, Font(u"Tahoma", -16), Font(u"Tahoma", -16)));
     EXPECT_TRUE(ModifiedBy(IT_FONT, Font(u"Tahoma", -16), Font(u"Tahoma", -17)));
-    // Also those behind the end of the face name, which are not visible.
+    // Also those after the end of the face name, which are not visible.
     FontValue font = *Font(u"Tahoma", -16);
     font.faceName[FontValue::kFaceSize - 1] = u'x';
     EXPECT_TRUE(ModifiedBy(IT_FONT, Font(u"Tahoma", -16), std::make_shared<const FontValue>(font)));

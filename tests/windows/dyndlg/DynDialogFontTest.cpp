@@ -111,7 +111,7 @@ TEST_F(DynDialogFont, GivesTheLowSixteenBitsOfItsHeightAsPointSize) {
         ASSERT_EQ(dialog.DoModal(), TRUE);
         const auto expected = static_cast<WORD>(height);
         EXPECT_EQ(dialog.m_fontSize, expected);
-        // Behind the header of 22 bytes and the caption's two units.
+        // After the header of 22 bytes and the caption's two units.
         ASSERT_GT(dialog.modelessTemplate.size(), 28U);
         EXPECT_EQ(std::to_integer<unsigned>(dialog.modelessTemplate[26]), LOBYTE(expected));
         EXPECT_EQ(std::to_integer<unsigned>(dialog.modelessTemplate[27]), HIBYTE(expected));

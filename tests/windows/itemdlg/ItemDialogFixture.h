@@ -55,7 +55,7 @@ protected:
         return result;
     }
 
-    // The rows of the grid as they show: "name = text", one per line; "*" behind an editable one.
+    // The rows of the grid as they show: "name = text", one per line; "*" after an editable one.
     static std::wstring Rows(const CPropertyGrid& grid) {
         std::wstring rows;
         for (UINT item = 0; item < grid.GetItemCount(); ++item) {

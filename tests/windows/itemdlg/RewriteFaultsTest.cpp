@@ -103,8 +103,8 @@ protected:
     }
 
     std::string m_before;    // both files
-    std::string m_assigned;  // the working file behind OK
-    std::string m_updated;   // the template behind OK
+    std::string m_assigned;  // the working file after OK
+    std::string m_updated;   // the template after OK
 };
 
 TEST_P(RewriteFaults, AFailedWriteLeavesWhatWasWrittenBeforeIt) {

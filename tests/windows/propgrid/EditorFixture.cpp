@@ -119,7 +119,7 @@ BEGIN_MESSAGE_MAP(CEditorDialog, CDialog)
 END_MESSAGE_MAP()
 
 void CEditorDialog::Run(std::function<void()> act) {
-    // A template without controls, and no menu, class or title behind it.
+    // A template without controls, and no menu, class or title after it.
     struct {
         DLGTEMPLATE dialog;
         WORD noMenu = 0, standardClass = 0, noTitle = 0;

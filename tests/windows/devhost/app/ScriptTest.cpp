@@ -14,7 +14,7 @@ namespace {
 // A run of scripts that lie in a folder of their own.
 class Script : public testing::Test {
 protected:
-    // Writes the script and runs it, with further arguments behind it.
+    // Writes the script and runs it, with further arguments after it.
     Outcome Run(const std::string& text, const std::vector<std::wstring>& more = {}) {
         m_folder.Write(L"test.lsp", text);
         std::vector<std::wstring> arguments = {L"--script", L"test.lsp"};

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <windows.h>
-// Behind it, since these take the system's types for granted.
+// These need the types of windows.h.
 #include <ole2.h>
 
 #include <oleacc.h>
