@@ -29,7 +29,7 @@ class CDC : public CObject {
     virtual BOOL RestoreDC(int savedDC) { return ::RestoreDC(m_hDC, savedDC); }
     CWnd* GetWindow() const;
 
-    // Each gives the object that was selected before, null on failure.
+    // Each returns the previously selected object, null on failure.
     CPen* SelectObject(CPen* pen) { return CPen::FromHandle((HPEN)Select(pen)); }
     CBrush* SelectObject(CBrush* brush) { return CBrush::FromHandle((HBRUSH)Select(brush)); }
     virtual CFont* SelectObject(CFont* font) { return CFont::FromHandle((HFONT)Select(font)); }
@@ -61,7 +61,7 @@ class CDC : public CObject {
     }
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
 
-    // The result is the text's height.
+    // Returns the text's height.
     virtual int DrawText(LPCTSTR text, int length, LPRECT rect, UINT format) {
         return ::DrawText(m_hDC, text, length, rect, format);
     }
@@ -89,7 +89,7 @@ private:
     }
 };
 
-// The device context of a WM_PAINT message: painting begins and ends with the object.
+// The device context of a WM_PAINT message: the constructor begins painting, the destructor ends it.
 class CPaintDC : public CDC {
     DECLARE_DYNAMIC(CPaintDC)
     explicit CPaintDC(CWnd* window);  // throws CResourceException* on failure

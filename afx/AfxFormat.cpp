@@ -12,7 +12,7 @@
 namespace {
 
 // One conversion of a format, as "%-08.3lld" is.
-struct CConversion {
+struct Conversion {
     std::string flags;
     int width = 0;
     int precision = -1;  // -1: none given
@@ -41,8 +41,8 @@ public:
     }
 
 private:
-    CConversion ReadConversion() {
-        CConversion conversion;
+    Conversion ReadConversion() {
+        Conversion conversion;
         ++m_next;
         for (; *m_next != L'\0' && std::wcschr(L"-+ 0#", *m_next) != nullptr; ++m_next) {
             conversion.flags += static_cast<char>(*m_next);
@@ -84,23 +84,23 @@ private:
         return true;
     }
 
-    void ReadSize(CConversion& conversion) {
+    void ReadSize(Conversion& conversion) {
         if (Skip(L"I64") || Skip(L"ll") || Skip(L"j")) {
-            conversion.size = CConversion::wide64;
+            conversion.size = Conversion::wide64;
         } else if (Skip(L"I32")) {
-            conversion.size = CConversion::normal;
+            conversion.size = Conversion::normal;
         } else if (Skip(L"I") || Skip(L"z") || Skip(L"t")) {
-            conversion.size = CConversion::pointerSized;
+            conversion.size = Conversion::pointerSized;
         } else if (Skip(L"l") || Skip(L"w")) {
-            conversion.size = CConversion::wide;
+            conversion.size = Conversion::wide;
         } else if (Skip(L"hh")) {
-            conversion.size = CConversion::byteSized;
+            conversion.size = Conversion::byteSized;
         } else if (Skip(L"h")) {
-            conversion.size = CConversion::narrow;
+            conversion.size = Conversion::narrow;
         }
     }
 
-    void Convert(const CConversion& conversion) {
+    void Convert(const Conversion& conversion) {
         switch (conversion.type) {
             case L'd':
             case L'i':
@@ -140,32 +140,32 @@ private:
         }
     }
 
-    long long ReadSigned(const CConversion& conversion) {
+    long long ReadSigned(const Conversion& conversion) {
         switch (conversion.size) {
             // NOLINTNEXTLINE(bugprone-branch-clone): the next one differs in 32 bits
-            case CConversion::wide64:
+            case Conversion::wide64:
                 return va_arg(m_arguments, long long);
-            case CConversion::pointerSized:
+            case Conversion::pointerSized:
                 return va_arg(m_arguments, INT_PTR);
-            case CConversion::narrow:
+            case Conversion::narrow:
                 return static_cast<short>(va_arg(m_arguments, int));
-            case CConversion::byteSized:
+            case Conversion::byteSized:
                 return static_cast<signed char>(va_arg(m_arguments, int));
             default:
                 return va_arg(m_arguments, int);
         }
     }
 
-    unsigned long long ReadUnsigned(const CConversion& conversion) {
+    unsigned long long ReadUnsigned(const Conversion& conversion) {
         switch (conversion.size) {
             // NOLINTNEXTLINE(bugprone-branch-clone): the next one differs in 32 bits
-            case CConversion::wide64:
+            case Conversion::wide64:
                 return va_arg(m_arguments, unsigned long long);
-            case CConversion::pointerSized:
+            case Conversion::pointerSized:
                 return va_arg(m_arguments, UINT_PTR);
-            case CConversion::narrow:
+            case Conversion::narrow:
                 return static_cast<unsigned short>(va_arg(m_arguments, unsigned));
-            case CConversion::byteSized:
+            case Conversion::byteSized:
                 return static_cast<unsigned char>(va_arg(m_arguments, unsigned));
             default:
                 return va_arg(m_arguments, unsigned);
@@ -173,9 +173,9 @@ private:
     }
 
     // Narrow texts are taken as Latin-1: the program's own, class names for the most part, are ASCII.
-    std::wstring ReadText(const CConversion& conversion) {
-        const bool isNarrow = conversion.type == L's' ? conversion.size == CConversion::narrow
-                                                      : conversion.size != CConversion::wide;
+    std::wstring ReadText(const Conversion& conversion) {
+        const bool isNarrow = conversion.type == L's' ? conversion.size == Conversion::narrow
+                                                      : conversion.size != Conversion::wide;
         const void* const pointer = va_arg(m_arguments, const void*);
         if (pointer == nullptr) {
             return L"(null)";
@@ -194,7 +194,7 @@ private:
         return text;
     }
 
-    void AppendText(const CConversion& conversion, const std::wstring& text) {
+    void AppendText(const Conversion& conversion, const std::wstring& text) {
         const auto width = static_cast<size_t>(conversion.width);
         const std::wstring padding(width > text.size() ? width - text.size() : 0, L' ');
         if (conversion.flags.find('-') != std::string::npos) {
@@ -205,15 +205,15 @@ private:
     }
 
     // All its digits, in capitals, without a prefix.
-    void AppendPointer(const CConversion& conversion, const void* pointer) {
-        CConversion number = conversion;
+    void AppendPointer(const Conversion& conversion, const void* pointer) {
+        Conversion number = conversion;
         number.precision = 2 * sizeof pointer;
         number.type = L'X';
         AppendNumber(number, "ll", static_cast<unsigned long long>(reinterpret_cast<UINT_PTR>(pointer)));
     }
 
     template <class TNumber>
-    void AppendNumber(const CConversion& conversion, const char* size, TNumber number) {
+    void AppendNumber(const Conversion& conversion, const char* size, TNumber number) {
         const std::string format = '%' + conversion.flags + "*.*" + size + static_cast<char>(conversion.type);
         const int length =
             std::snprintf(nullptr, 0, format.c_str(), conversion.width, conversion.precision, number);

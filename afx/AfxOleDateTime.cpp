@@ -20,11 +20,11 @@ constexpr DATE firstDate = (sys_days{std::chrono::year(100) / 1 / 1} - epoch).co
 constexpr DATE endDate = (sys_days{std::chrono::year(10000) / 1 / 1} - epoch).count();
 
 // A date's day and the second of that day.
-struct CMoment {
+struct Moment {
     sys_days day;
     int second;
 
-    explicit CMoment(DATE date) {
+    explicit Moment(DATE date) {
         const double whole = std::trunc(date);
         day = epoch + days(static_cast<int>(whole));
         second = static_cast<int>(std::lround(std::fabs(date - whole) * secondsPerDay));
@@ -75,42 +75,42 @@ int COleDateTime::SetDateTime(int year, int month, int day, int hour, int minute
 }
 
 int COleDateTime::GetYear() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_year + 1900 : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_year + 1900 : error;
 }
 
 int COleDateTime::GetMonth() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_mon + 1 : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_mon + 1 : error;
 }
 
 int COleDateTime::GetDay() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_mday : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_mday : error;
 }
 
 int COleDateTime::GetHour() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_hour : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_hour : error;
 }
 
 int COleDateTime::GetMinute() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_min : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_min : error;
 }
 
 int COleDateTime::GetSecond() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_sec : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_sec : error;
 }
 
 int COleDateTime::GetDayOfWeek() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_wday + 1 : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_wday + 1 : error;
 }
 
 int COleDateTime::GetDayOfYear() const {
-    return m_status == valid ? CMoment(m_dt).AsParts().tm_yday + 1 : error;
+    return m_status == valid ? Moment(m_dt).AsParts().tm_yday + 1 : error;
 }
 
 bool COleDateTime::GetAsSystemTime(SYSTEMTIME& time) const {
     if (m_status != valid) {
         return false;
     }
-    time = AfxSystemTimeOf(CMoment(m_dt).AsParts());
+    time = AfxSystemTimeOf(Moment(m_dt).AsParts());
     return true;
 }
 
@@ -141,7 +141,7 @@ CString COleDateTime::Format(LPCTSTR format) const {
     if (m_status != valid) {
         return FormatUnlessValid();
     }
-    const std::tm parts = CMoment(m_dt).AsParts();
+    const std::tm parts = Moment(m_dt).AsParts();
     wchar_t text[1024];
     const size_t length = std::wcsftime(text, 1024, format, &parts);
     return CString(text, static_cast<int>(length));

@@ -1,4 +1,4 @@
-// The way of a message through a window: message maps, commands, notifications, reflection.
+// The routing of a message through a window: message maps, commands, notifications, reflection.
 #include "afx/afxwin.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
@@ -37,7 +37,7 @@ bool IsControlColour(UINT message) {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
 }
 
-// The message as maps name it.
+// The message in the form in which message maps identify it.
 AFX_MESSAGE MakeMapMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     AFX_MESSAGE result{message, wParam, lParam};
     if (IsControlColour(message)) {
@@ -45,7 +45,7 @@ AFX_MESSAGE MakeMapMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         result.id = message - WM_CTLCOLORMSGBOX;
     } else if (message == WM_COMMAND) {
         result.id = LOWORD(wParam);
-        // Without a control it is a menu item or an accelerator, whose code says nothing.
+        // Without a control it comes from a menu or an accelerator; its code is then no notification.
         result.code = lParam != 0 ? HIWORD(wParam) : 0;
     } else if (message == WM_NOTIFY) {
         const auto* const header = reinterpret_cast<const NMHDR*>(lParam);
@@ -94,6 +94,7 @@ LRESULT CWnd::Default() {
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    // Deliberate, as in OnNotify: while UpdateData runs, the controls' notifications are dropped.
     if (lParam != 0 && (s_hWndExchanging == m_hWnd || ReflectLastMsg(reinterpret_cast<HWND>(lParam)))) {
         return TRUE;
     }

@@ -1,9 +1,9 @@
-// What a benchmark program says: rows of one table, one per line, which scripts/bench puts into the document.
+// Prints the rows of a benchmark program's table, one per line; scripts/bench puts them into the document.
 //
 // A row compares our figure with another one: a peer's for the same work, a fixed limit, or our own at
 // another size. The columns are separated by tabs: area, what was measured, its size, our figure, unit,
-// beside whom, their figure, the bar. The bar is the greatest ratio of our figure to theirs that is
-// acceptable; a row without one informs.
+// the peer, its figure, the bar. The bar is the highest acceptable ratio of our figure to the peer's; a row
+// without one is for information only.
 #pragma once
 
 #include <functional>
@@ -25,8 +25,9 @@ struct BenchRow {
 
 void PrintRow(const BenchRow& row);
 
-// The median time of one run of each piece of work, in nanoseconds. They take turns, so that what else the
-// machine does meets all of them alike; a piece that is too short for the clock runs many times in a turn.
+// The median time of one run of each piece of work, in nanoseconds. The pieces run in turn, so that other
+// load on the machine affects all of them alike; one that is too short for the clock runs many times per
+// turn.
 std::vector<double> MedianTimes(const std::vector<std::function<void()>>& works);
 
 // Keeps the compiler from removing work whose result is unused.

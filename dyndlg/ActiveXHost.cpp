@@ -14,9 +14,9 @@ Function Find(HMODULE library, const char* name) {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
 }
 
-CreateControlFunction LoadHosting() {
+CreateControlFunction LoadControlHost() {
     for (const LPCTSTR name : {_T("atl.dll"), _T("atl110.dll")}) {
-        // Never freed: it registers window classes, and its windows may live as long as the process.
+        // Kept loaded once it is usable: its window classes and windows may live as long as the process.
         const HMODULE library = ::LoadLibraryEx(name, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
         if (library == nullptr) {
             continue;
@@ -34,8 +34,8 @@ CreateControlFunction LoadHosting() {
 }  // namespace
 
 bool CreateActiveXIn(HWND window, LPCTSTR progId) {
-    static const CreateControlFunction create = LoadHosting();
-    // The hosting would take an empty name for a window without a control.
+    static const CreateControlFunction create = LoadControlHost();
+    // AtlAxCreateControl accepts an empty name: it then makes a window without a control.
     return *progId != _T('\0') && create != nullptr && SUCCEEDED(create(progId, window, nullptr, nullptr));
 }
 

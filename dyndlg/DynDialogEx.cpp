@@ -32,7 +32,7 @@ LOGFONT DefaultFont() {
     return font;
 }
 
-// What a window says of its font. False without window or font.
+// Reads the font that a window reports (WM_GETFONT). False if there is no window or it reports none.
 bool ReadFontOf(const CWnd* window, LOGFONT& font) {
     if (window == nullptr || window->GetSafeHwnd() == nullptr) {
         return false;
@@ -52,6 +52,7 @@ void RegisterCommonControls() {
 
 CDynDialogEx::CDynDialogEx(CWnd* parent) : m_parent(parent) {}
 
+// Destroys the controls in the reverse order of their adding; a vector does not guarantee any order.
 CDynDialogEx::~CDynDialogEx() {
     while (!m_items.empty()) {
         m_items.pop_back();
@@ -124,14 +125,14 @@ UINT CDynDialogEx::Add(DynControl control, const RECT* rect, int defaultRight) {
 }
 
 void CDynDialogEx::AddSystemButtons() {
-    constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     const auto add = [this](LPCTSTR caption, const DialogRect& rect, UINT id) {
         const CRect area(rect.left, rect.top, rect.right, rect.bottom);
-        AddDlgControl(CT_BUTTON, caption, style, 0, &area, nullptr, id);
+        AddDlgControl(CT_BUTTON, caption, kStyle, 0, &area, nullptr, id);
     };
     const StandardButtonRects rects = m_layout.StartStandardButtons();
     add(_T("OK"), rects.ok, IDOK);
-    add(_T("Annuleren"), rects.cancel, IDCANCEL);  // in this language whatever the others are in
+    add(_T("Annuleren"), rects.cancel, IDCANCEL);  // deliberately Dutch in every language
 }
 
 // ---- Running
@@ -141,7 +142,7 @@ INT_PTR CDynDialogEx::DoModal() {
         AddSystemButtons();
     }
     const LOGFONT font = ChooseTemplateFont();
-    // The height as it is, not as a size in points: a negative height keeps its low 16 bits.
+    // Deliberately lfHeight itself, not converted to points: -11, say, becomes 65525.
     if (m_fontSize == 0) {
         m_fontSize = LOWORD(font.lfHeight);
     }
@@ -149,7 +150,7 @@ INT_PTR CDynDialogEx::DoModal() {
 
     CLocalMemory memory(TemplateSize(dialog));
     if (memory.IsNull()) {
-        AfxMessageBox(_T("CDynDialogEx::DoModal() : LocalAllock Failed"));  // spelled so
+        AfxMessageBox(_T("CDynDialogEx::DoModal() : LocalAllock Failed"));  // deliberately misspelt
         return -1;
     }
     const CLocalLock lock(memory);
@@ -173,7 +174,7 @@ LOGFONT CDynDialogEx::ChooseTemplateFont() {
     return DefaultFont();
 }
 
-// The texts are the dialog's and the caller's own.
+// The result refers to strings of the dialog and to `faceName`, which must outlive it.
 DialogTemplate CDynDialogEx::DescribeTemplate(LPCTSTR faceName) const {
     DialogTemplate dialog = {.style = kDialogStyle,
                              .exStyle = kDialogExStyle,
@@ -230,6 +231,8 @@ BOOL CDynDialogEx::OnInitDialog() {
         if (item->Control().subclassed || item->PlaceOn(*this)) {
             continue;
         }
+        // Deliberately the same text for an ActiveX control that could not be created, and a second message
+        // for a control that OnCreate has reported already.
         CString message;
         message.Format(_T("Failed SetWindowPos for control %s."), item->Control().className.GetString());
         AfxMessageBox(message);
@@ -239,6 +242,7 @@ BOOL CDynDialogEx::OnInitDialog() {
     return TRUE;
 }
 
+// Deliberately from the last control to the first.
 void CDynDialogEx::DoDataExchange(CDataExchange* pDX) {
     for (auto item = m_items.rbegin(); item != m_items.rend(); ++item) {
         (*item)->DoDataExchange(pDX);

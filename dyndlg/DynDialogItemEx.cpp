@@ -6,10 +6,9 @@
 
 #ifndef _MSC_VER
 #include "dyndlg/ActiveXHost.h"
+#endif
 
 namespace tavrin::dyndlg {
-
-#endif
 
 IMPLEMENT_DYNAMIC(CDynDialogItemEx, CWnd)
 

@@ -26,12 +26,12 @@ constexpr int kInitialGloss = 40;
 constexpr int kRowCount = 100;
 
 // The check boxes and what they switch.
-struct CFlag {
+struct Flag {
     int id;
     bool (propgrid::CPropertyGrid::*get)() const;
     void (propgrid::CPropertyGrid::*set)(bool);
 };
-constexpr CFlag kFlags[] = {
+constexpr Flag kFlags[] = {
     {IDC_SHADE_HEADERS, &propgrid::CPropertyGrid::GetShadeHeaders, &propgrid::CPropertyGrid::SetShadeHeaders},
     {IDC_DRAW_LINES, &propgrid::CPropertyGrid::GetDrawLines, &propgrid::CPropertyGrid::SetDrawLines},
     {IDC_DRAW_DIVIDER, &propgrid::CPropertyGrid::GetDrawDivider, &propgrid::CPropertyGrid::SetDrawDivider},
@@ -42,11 +42,11 @@ constexpr CFlag kFlags[] = {
 };
 
 // How the controls take part in a change of the dialog's size: each edge stays or goes along, as 0 or 1.
-struct CAnchor {
+struct Anchor {
     int id;
     int left, top, right, bottom;
 };
-constexpr CAnchor kAnchors[] = {
+constexpr Anchor kAnchors[] = {
     {IDC_GALLERY_GRID, 0, 0, 1, 1},
     {IDC_MODE_FRAME, 1, 0, 1, 0},
     {IDC_MODE_CATEGORIZED, 1, 0, 1, 0},
@@ -169,7 +169,7 @@ BOOL CGalleryDialog::OnInitDialog() {
 }
 
 void CGalleryDialog::ShowFlags() {
-    for (const CFlag& flag : kFlags) {
+    for (const Flag& flag : kFlags) {
         CheckDlgButton(flag.id, (m_grid.*flag.get)() ? BST_CHECKED : BST_UNCHECKED);
     }
 }
@@ -199,7 +199,7 @@ void CGalleryDialog::OnClickedMode(UINT id) {
 }
 
 void CGalleryDialog::OnClickedFlag(UINT id) {
-    for (const CFlag& flag : kFlags) {
+    for (const Flag& flag : kFlags) {
         if (flag.id == static_cast<int>(id)) {
             (m_grid.*flag.set)(IsDlgButtonChecked(flag.id) == BST_CHECKED);
         }
@@ -226,7 +226,7 @@ void CGalleryDialog::RememberLayout() {
     m_smallest = rect.Size();
     GetClientRect(&rect);
     m_initialSize = rect.Size();
-    for (const CAnchor& anchor : kAnchors) {
+    for (const Anchor& anchor : kAnchors) {
         GetDlgItem(anchor.id)->GetWindowRect(&rect);
         ScreenToClient(&rect);
         m_initial.push_back(rect);
@@ -241,7 +241,7 @@ void CGalleryDialog::OnSize(UINT type, int width, int height) {
     const int dx = width - m_initialSize.cx;
     const int dy = height - m_initialSize.cy;
     for (std::size_t i = 0; i < m_initial.size(); ++i) {
-        const CAnchor& anchor = kAnchors[i];
+        const Anchor& anchor = kAnchors[i];
         const CRect& from = m_initial[i];
         const CRect to(from.left + anchor.left * dx, from.top + anchor.top * dy,
                        from.right + anchor.right * dx, from.bottom + anchor.bottom * dy);

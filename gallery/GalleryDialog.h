@@ -1,9 +1,9 @@
-// The gallery: one property grid that holds every kind of value, the switches of its appearance, and a log
+// The gallery: one property grid that holds every kind of value, check boxes for its appearance, and a log
 // of what the user changed. An example for developers who put the grid on a dialog.
 //
 // Each change is also written to standard output, as a line "Width = 12.5" in UTF-8. F1 writes the rectangles
 // of the values, for programs that drive the mouse: a line "rectangle LEFT TOP RIGHT BOTTOM NAME" for each
-// value (as last painted, in pixels of the dialog's client area), then the line "rectangles end".
+// value on display (in pixels of the dialog's client area), then the line "rectangles end".
 #pragma once
 
 #include <vector>
@@ -48,7 +48,7 @@ private:
     void RememberLayout();
     void PrintRectangles();
 
-    CPercentItem m_gloss;  // custom items outlive the grid that holds them
+    CPercentItem m_gloss;  // before the grid: a custom item must outlive it
     propgrid::CPropertyGrid m_grid;
     CSize m_smallest;              // of the window
     CSize m_initialSize;           // of the client area

@@ -73,9 +73,9 @@ int CMonkey::Run() {
     ShowGallery();
     m_warmingUp = false;
     ShowGallery(kWarmUpEvents);
-    const CCounts before = Count();
+    const Counts before = Count();
     ShowGallery(m_events);
-    const CCounts after = Count();
+    const Counts after = Count();
     KillTimer(nullptr, timer);
     std::printf("heap blocks %lld -> %lld, GDI objects %d -> %d, windows %d -> %d\n", before.heapBlocks,
                 after.heapBlocks, before.gdiObjects, after.gdiObjects, before.windows, after.windows);
@@ -88,7 +88,7 @@ int CMonkey::Run() {
     return grown ? 1 : 0;
 }
 
-CMonkey::CCounts CMonkey::Count() {
+CMonkey::Counts CMonkey::Count() {
     HandleMessages();
     return {HeapBlockCount(), GdiObjectCount(), WindowCount()};
 }

@@ -25,12 +25,12 @@ public:
     int Run();
 
 private:
-    struct CCounts {
+    struct Counts {
         long long heapBlocks;
         int gdiObjects;
         int windows;
     };
-    static CCounts Count();
+    static Counts Count();
 
     static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
     void ShowGallery(int events = 0);

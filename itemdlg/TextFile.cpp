@@ -12,10 +12,10 @@ namespace tavrin::itemdlg {
 
 namespace {
 
-constexpr std::size_t kBufferSize = 0x10000;  // bytes
-constexpr ULONGLONG kTooLarge = ULONGLONG{INT_MAX} + 1;
+constexpr std::size_t kBufferSize = 0x10000;             // bytes
+constexpr ULONGLONG kTooLarge = ULONGLONG{INT_MAX} + 1;  // bytes: 2 GB
 
-// Splits the bytes of a file, which come in pieces, into lines.
+// Splits the bytes of a file, which arrive in chunks, into lines.
 class CLineSplitter {
 public:
     explicit CLineSplitter(std::vector<std::wstring>& lines) : m_lines(lines) {}
@@ -34,7 +34,7 @@ public:
         m_line.append(bytes, end);
     }
 
-    // A last line without a line end is a line when it holds a character.
+    // An unterminated last line counts as a line unless it is empty.
     void Finish() {
         if (!m_line.empty()) {
             EndLine();
@@ -52,12 +52,12 @@ private:
     std::vector<std::wstring>& m_lines;
 };
 
-// Gathers the bytes of lines and writes them in pieces.
+// Buffers the bytes of lines and writes them in chunks.
 class CLineWriter {
 public:
     explicit CLineWriter(CFile& file) : m_file(file) { m_buffer.reserve(kBufferSize); }
 
-    // False, with what came before in the file, when the locale cannot express the line.
+    // False when the locale cannot express the line; everything before it has then been written to the file.
     bool Write(const std::wstring& line) {
         if (!m_text.Encode(line, m_line)) {
             Flush();
@@ -93,7 +93,7 @@ private:
     std::string m_line;
 };
 
-// What has no length, such as a pipe, is as large as it turns out to be.
+// A file without a known length, such as a pipe, counts as small enough and is read to its end.
 bool IsTooLarge(const CFile& file) {
     try {
         return file.GetLength() >= kTooLarge;
@@ -128,7 +128,7 @@ bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines) {
 bool WriteTextFile(const std::wstring& path, const std::vector<std::wstring>& lines) {
     try {
         CFile file;
-        // Before the file is emptied: with no memory for this it stays as it is.
+        // Before Open, which empties the file: if its buffer cannot be allocated, the file stays as it is.
         CLineWriter writer(file);
         if (!file.Open(path.c_str(), CFile::modeCreate | CFile::modeWrite | CFile::typeBinary)) {
             return false;

@@ -12,7 +12,7 @@
 namespace tavrin::itemdlg {
 
 // Appends the lines of the file `path` to `lines`, without their line ends. False when the file cannot be
-// opened or reading fails; `lines` then holds what was read before. A file of 2 GB or more is not opened.
+// opened or reading fails; `lines` then holds what was read before. A file of 2 GB or more is not read.
 bool ReadTextFile(const std::wstring& path, std::vector<std::wstring>& lines);
 
 // Creates the file anew (or empties it) and writes each line with a line end. False when the file cannot be

@@ -37,7 +37,7 @@ double CArguments::Number(std::size_t index) const {
 
 const std::wstring& CArguments::Text(std::size_t index) const {
     if (m_values[index].Type() != VT_STRING) {
-        Refuse(index, L"a text");
+        Refuse(index, L"a string");
     }
     return m_values[index].AsString();
 }

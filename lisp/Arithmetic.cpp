@@ -1,4 +1,4 @@
-// Arithmetic. Whole numbers give whole numbers; a result that does not fit 32 bits is an error, since a
+// Arithmetic. Whole numbers give whole numbers; a result that does not fit in 32 bits is an error, since a
 // wrapped length or count would go unnoticed.
 #include <cmath>
 #include <cstdlib>
@@ -25,7 +25,7 @@ CValue Whole(const CArguments& arguments, std::int64_t result) {
     using Limits = std::numeric_limits<std::int32_t>;
     if (result < Limits::min() || result > Limits::max()) {
         arguments.Fail(L"the whole number " + std::to_wstring(result) +
-                       L" does not fit 32 bits: calculate with reals, 1.0 instead of 1");
+                       L" does not fit in 32 bits: calculate with reals, 1.0 instead of 1");
     }
     return CValue::Integer(static_cast<std::int32_t>(result));
 }

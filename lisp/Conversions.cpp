@@ -40,7 +40,7 @@ LispResult TextToInteger(const CArguments& arguments) {
     std::int32_t number = 0;
     if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec ==
         std::errc::result_out_of_range) {
-        arguments.Fail(L"the number in " + Excerpt(arguments[0]) + L" does not fit 32 bits");
+        arguments.Fail(L"the number in " + Excerpt(arguments[0]) + L" does not fit in 32 bits");
     }
     return CValue::Integer(number);
 }

@@ -25,8 +25,8 @@ LispResult Close(const CArguments& arguments) {
     return CValue();
 }
 
-// From a file, nil at its end; without an argument from the user. nil is not accepted as a file: a script
-// whose file could not be opened would otherwise wait for input.
+// Reads a line: from the file, nil at its end; or, if no file is given, from the user. nil is not accepted as
+// a file: a script whose file could not be opened would otherwise wait for input.
 LispResult ReadLine(const CArguments& arguments) {
     if (arguments.Has(0)) {
         std::optional<std::wstring> line;
@@ -53,8 +53,8 @@ LispResult FindFile(const CArguments& arguments) {
 }
 
 bool HasExtension(const std::wstring& name) {
-    const std::size_t folders = name.find_last_of(L"/\\");
-    return name.find(L'.', folders == std::wstring::npos ? 0 : folders) != std::wstring::npos;
+    const std::size_t separator = name.find_last_of(L"/\\");
+    return name.find(L'.', separator == std::wstring::npos ? 0 : separator) != std::wstring::npos;
 }
 
 // (load NAME [OTHERWISE]): the value of the last expression in the file; OTHERWISE when there is no such
@@ -68,7 +68,7 @@ LispResult Load(const CArguments& arguments) {
         return arguments[1];
     }
     if (!path) {
-        arguments.Fail(L"the file '" + name + L"' is not found: check its name and the search folders");
+        arguments.Fail(L"the file '" + name + L"' was not found: check its name and the search folders");
     }
     evaluator.CheckStack();
     return evaluator.Run(ReadSourceFile(*path, name));

@@ -1,6 +1,7 @@
 #include "lisp/LispFile.h"
 
 #include <filesystem>
+#include <string_view>
 
 #include "encoding/Encoding.h"
 #include "lisp/LispError.h"
@@ -9,6 +10,7 @@ namespace tavrin::lisp {
 
 using encoding::DecodeWindows1252;
 using encoding::EncodeWindows1252;
+using encoding::TakeCodePoint;
 
 namespace {
 
@@ -22,19 +24,21 @@ std::ios::openmode OpenMode(EFileMode mode) {
     return kModes[mode] | std::ios::binary;
 }
 
-std::wstring CodeText(wchar_t character) {
+// At least four digits, as is usual.
+std::wstring CodeText(char32_t character) {
     constexpr wchar_t kDigits[] = L"0123456789ABCDEF";
     std::wstring text = L"U+";
-    for (int shift = 12; shift >= 0; shift -= 4) {
-        text += kDigits[(static_cast<unsigned>(character) >> shift) & 0xF];
+    for (int shift = character > 0xFFFFF ? 20 : character > 0xFFFF ? 16 : 12; shift >= 0; shift -= 4) {
+        text += kDigits[(character >> shift) & 0xF];
     }
     return text;
 }
 
 std::string ToBytes(const std::wstring& text, const std::wstring& file) {
     std::string bytes;
-    for (const wchar_t c : text) {
-        const auto byte = EncodeWindows1252(char32_t(c));
+    for (std::wstring_view rest = text; !rest.empty();) {
+        const char32_t c = TakeCodePoint(rest);
+        const auto byte = EncodeWindows1252(c);
         if (!byte) {
             throw CLispError(Named(file) + L" cannot hold the character " + CodeText(c) +
                              L": text files are Windows-1252");

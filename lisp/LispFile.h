@@ -18,8 +18,8 @@ public:
 
     const std::wstring& Name() const { return m_name; }
 
-    // Each of these throws CLispError with the name of the file when it is closed or opened in the other
-    // mode.
+    // Reading and writing throw CLispError with the name of the file when it is closed or was opened in the
+    // other mode.
 
     // Nothing at the end of the file.
     std::optional<std::wstring> ReadLine();

@@ -9,7 +9,7 @@ namespace tavrin::lisp {
 
 namespace {
 
-CValue Real(const CArguments& arguments, double result) {
+CValue MakeFiniteReal(const CArguments& arguments, double result) {
     if (!std::isfinite(result)) {
         arguments.Fail(L"the result is not a finite number");
     }
@@ -23,7 +23,7 @@ LispResult Fix(const CArguments& arguments) {
     const double whole = std::trunc(arguments.Number(0));
     using Limits = std::numeric_limits<std::int32_t>;
     if (!(whole >= Limits::min() && whole <= Limits::max())) {
-        arguments.Refuse(0, L"a number that fits 32 bits");
+        arguments.Refuse(0, L"a number that fits in 32 bits");
     }
     return CValue::Integer(static_cast<std::int32_t>(whole));
 }
@@ -33,17 +33,17 @@ LispResult Float(const CArguments& arguments) {
 }
 
 LispResult Sine(const CArguments& arguments) {
-    return Real(arguments, std::sin(arguments.Number(0)));
+    return MakeFiniteReal(arguments, std::sin(arguments.Number(0)));
 }
 
 LispResult Cosine(const CArguments& arguments) {
-    return Real(arguments, std::cos(arguments.Number(0)));
+    return MakeFiniteReal(arguments, std::cos(arguments.Number(0)));
 }
 
 // With one argument in -pi/2 to pi/2; with two the angle of (X, Y), given as Y and X, in -pi to pi.
 LispResult ArcTangent(const CArguments& arguments) {
     const double y = arguments.Number(0);
-    return Real(arguments, arguments.Has(1) ? std::atan2(y, arguments.Number(1)) : std::atan(y));
+    return MakeFiniteReal(arguments, arguments.Has(1) ? std::atan2(y, arguments.Number(1)) : std::atan(y));
 }
 
 LispResult SquareRoot(const CArguments& arguments) {
@@ -54,7 +54,7 @@ LispResult SquareRoot(const CArguments& arguments) {
 }
 
 LispResult Exponential(const CArguments& arguments) {
-    return Real(arguments, std::exp(arguments.Number(0)));
+    return MakeFiniteReal(arguments, std::exp(arguments.Number(0)));
 }
 
 LispResult Logarithm(const CArguments& arguments) {
@@ -69,14 +69,14 @@ LispResult Power(const CArguments& arguments) {
     const double result = std::pow(arguments.Number(0), arguments.Number(1));
     const bool whole = arguments[0].Type() == VT_INTEGER && arguments[1].Type() == VT_INTEGER;
     if (!whole || arguments.Integer(1) < 0) {
-        return Real(arguments, result);
+        return MakeFiniteReal(arguments, result);
     }
-    // Exact, since every whole number of 32 bits is a real.
+    // A double holds every 32-bit integer exactly; rounding removes an error of pow.
     using Limits = std::numeric_limits<std::int32_t>;
     if (!(result >= Limits::min() && result <= Limits::max())) {
-        arguments.Fail(L"the result does not fit 32 bits: calculate with reals, 2.0 instead of 2");
+        arguments.Fail(L"the result does not fit in 32 bits: calculate with reals, 2.0 instead of 2");
     }
-    return CValue::Integer(static_cast<std::int32_t>(result));
+    return CValue::Integer(static_cast<std::int32_t>(std::round(result)));
 }
 
 constexpr Builtin kFunctions[] = {

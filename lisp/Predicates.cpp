@@ -1,4 +1,4 @@
-// Comparisons and predicates. The result is T or nil.
+// Comparisons and predicates, whose result is T or nil, and TYPE.
 #include "lisp/Builtins.h"
 #include "lisp/Equality.h"
 #include "lisp/Evaluator.h"
@@ -36,8 +36,9 @@ CValue InOrder(const CArguments& arguments, TOrder order) {
     bool holds = true;
     const bool texts = arguments[0].Type() == VT_STRING;
     if (!texts) {
-        arguments.Number(0);
+        arguments.Number(0);  // checks its type, also where it is the only argument
     }
+    // Checks the type of every argument, so it does not stop early.
     for (std::size_t i = 1; i < arguments.Count(); ++i) {
         if (texts) {
             holds = order(arguments.Text(i - 1).compare(arguments.Text(i)), 0) && holds;
@@ -85,7 +86,7 @@ LispResult IsZero(const CArguments& arguments) {
     return CValue::Truth(arguments.Number(0) == 0);
 }
 
-LispResult IsMinus(const CArguments& arguments) {
+LispResult IsNegative(const CArguments& arguments) {
     return CValue::Truth(arguments.Number(0) < 0);
 }
 
@@ -123,7 +124,7 @@ constexpr Builtin kFunctions[] = {
     {L"NULL", 1, 1, IsNull},
     {L"NUMBERP", 1, 1, IsNumberValue},
     {L"ZEROP", 1, 1, IsZero},
-    {L"MINUSP", 1, 1, IsMinus},
+    {L"MINUSP", 1, 1, IsNegative},
     {L"ATOM", 1, 1, IsAtom},
     {L"LISTP", 1, 1, IsList},
     {L"BOUNDP", 1, 1, IsBound},

@@ -138,7 +138,7 @@ LispResult GetText(const CArguments& arguments) {
             question.prompt = arguments.Text(i);
         }
     }
-    const CValue text = AskUntil(arguments, question, Q_TEXT, L"a text", [](const LispAnswer& answer) {
+    const CValue text = AskUntil(arguments, question, Q_TEXT, L"a string", [](const LispAnswer& answer) {
         return std::optional(CValue::String(answer.text));
     });
     return text.IsNil() ? CValue::String(L"") : text;

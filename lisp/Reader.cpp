@@ -9,7 +9,7 @@ namespace tavrin::lisp {
 
 namespace {
 
-// Code that walks over values recurses once per level.
+// Limits the stack that the reader uses: it recurses once per level of nesting.
 constexpr int kMaxDepth = 1000;
 
 bool IsBlank(wchar_t c) {
@@ -112,7 +112,7 @@ void CReader::SkipComment() {
 CValue CReader::ReadExpression(int depth) {
     const Position start = m_position;
     if (depth > kMaxDepth) {
-        Fail(start, L"expressions are nested more than " + std::to_wstring(kMaxDepth) + L" deep");
+        Fail(start, L"expressions are nested more than " + std::to_wstring(kMaxDepth) + L" levels deep");
     }
     switch (Peek()) {
         case L'(':
@@ -192,7 +192,7 @@ CValue CReader::ReadString(Position start) {
     std::wstring text;
     for (;;) {
         if (AtEnd()) {
-            FailUnfinished(start, L"a text is not closed");
+            FailUnfinished(start, L"a string is not closed");
         }
         const Position position = m_position;
         wchar_t c = Take();
@@ -202,7 +202,7 @@ CValue CReader::ReadString(Position start) {
         }
         if (c == L'\\') {
             if (AtEnd()) {
-                FailUnfinished(start, L"a text is not closed");
+                FailUnfinished(start, L"a string is not closed");
             }
             c = Take();
             if (c == L'n') {
@@ -213,7 +213,7 @@ CValue CReader::ReadString(Position start) {
                 c = L'\t';
             } else if (c != L'"' && c != L'\\') {
                 Fail(position, std::wstring(L"the escape \\") + c +
-                                   L" is not known: a backslash in a text is written \\\\");
+                                   L" is unknown: a backslash in a string is written \\\\");
             }
         }
         text += c;
@@ -231,7 +231,7 @@ std::wstring_view CReader::TakeWord() {
 CValue CReader::ReadWord(Position start) {
     const std::wstring_view word = TakeWord();
     if (word == L".") {
-        Fail(start, L"a dot outside a list");
+        Fail(start, L"a misplaced dot");
     }
     if (!LooksLikeNumber(word)) {
         return CValue::Symbol(word);
@@ -244,7 +244,7 @@ CValue CReader::ReadWord(Position start) {
     if (digits.find_first_of(".eE") == std::string::npos) {
         const auto number = ToNumber<std::int32_t>(digits);
         if (!number) {
-            Fail(start, L"the whole number " + std::wstring(word) + L" does not fit 32 bits");
+            Fail(start, L"the whole number " + std::wstring(word) + L" does not fit in 32 bits");
         }
         return CValue::Integer(*number);
     }

@@ -1,4 +1,4 @@
-// Functions on texts. Positions count from 1, in UTF-16 units.
+// Functions on texts. Positions count from 1, in UTF-16 code units.
 #include <algorithm>
 
 #include "lisp/Builtins.h"
@@ -17,7 +17,8 @@ LispResult Join(const CArguments& arguments) {
     for (std::size_t i = 0; i < arguments.Count(); ++i) {
         text += arguments.Text(i);
         if (text.size() > kMaxLength) {
-            arguments.Fail(L"the text would be longer than " + std::to_wstring(kMaxLength) + L" characters");
+            arguments.Fail(L"the string would be longer than " + std::to_wstring(kMaxLength) +
+                           L" characters");
         }
     }
     arguments.Evaluator().Step(text.size() / 16);
@@ -31,7 +32,7 @@ LispResult Length(const CArguments& arguments) {
         length += static_cast<std::int64_t>(arguments.Text(i).size());
     }
     if (length > INT32_MAX) {
-        arguments.Fail(L"the length does not fit 32 bits");
+        arguments.Fail(L"the length does not fit in 32 bits");
     }
     return CValue::Integer(static_cast<std::int32_t>(length));
 }
@@ -39,10 +40,10 @@ LispResult Length(const CArguments& arguments) {
 LispResult Part(const CArguments& arguments) {
     const std::wstring& text = arguments.Text(0);
     if (arguments.Integer(1) < 1) {
-        arguments.Refuse(1, L"a position from 1 on");
+        arguments.Refuse(1, L"a position of 1 or more");
     }
     if (arguments.Has(2) && arguments.Integer(2) < 0) {
-        arguments.Refuse(2, L"a length from 0 on");
+        arguments.Refuse(2, L"a length of 0 or more");
     }
     const std::size_t start = static_cast<std::size_t>(arguments.Integer(1)) - 1;
     const std::size_t length =
@@ -51,27 +52,27 @@ LispResult Part(const CArguments& arguments) {
 }
 
 // Only the letters of ASCII and Latin-1, so that the result does not depend on the locale.
-wchar_t OtherCase(wchar_t c, bool toCapital) {
+wchar_t ConvertCase(wchar_t c, bool toUpper) {
     constexpr wchar_t kDistance = 0x20;
-    const wchar_t capital = toCapital ? static_cast<wchar_t>(c - kDistance) : c;
+    const wchar_t capital = toUpper ? static_cast<wchar_t>(c - kDistance) : c;
     const bool letter =
         (capital >= L'A' && capital <= L'Z') || (capital >= 0xC0 && capital <= 0xDE && capital != 0xD7);
-    return !letter ? c : toCapital ? capital : static_cast<wchar_t>(c + kDistance);
+    return !letter ? c : toUpper ? capital : static_cast<wchar_t>(c + kDistance);
 }
 
-// In capitals, or in small letters when the second argument is not nil.
-LispResult Case(const CArguments& arguments) {
+// To uppercase, or to lowercase when the second argument is not nil.
+LispResult ChangeCase(const CArguments& arguments) {
     std::wstring text = arguments.Text(0);
-    const bool toCapital = !arguments.Has(1) || arguments[1].IsNil();
+    const bool toUpper = !arguments.Has(1) || arguments[1].IsNil();
     for (wchar_t& c : text) {
-        c = OtherCase(c, toCapital);
+        c = ConvertCase(c, toUpper);
     }
     return CValue::String(std::move(text));
 }
 
 LispResult Code(const CArguments& arguments) {
     if (arguments.Text(0).empty()) {
-        arguments.Refuse(0, L"a text of at least one character");
+        arguments.Refuse(0, L"a string of at least one character");
     }
     return CValue::Integer(static_cast<std::int32_t>(arguments.Text(0)[0]));
 }
@@ -86,7 +87,7 @@ LispResult Character(const CArguments& arguments) {
 
 constexpr Builtin kFunctions[] = {
     {L"STRCAT", 0, kAnyCount, Join}, {L"STRLEN", 0, kAnyCount, Length},
-    {L"SUBSTR", 2, 3, Part},         {L"STRCASE", 1, 2, Case},
+    {L"SUBSTR", 2, 3, Part},         {L"STRCASE", 1, 2, ChangeCase},
     {L"ASCII", 1, 1, Code},          {L"CHR", 1, 1, Character},
 };
 

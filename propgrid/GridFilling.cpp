@@ -56,7 +56,7 @@ bool ReadValue(EItemType kind, const void* source, Value& value) {
 
 }  // namespace
 
-// After the row was added with all that it has: the end of an editor may bring the client to look at it.
+// Ends the editor only when the row is complete: its result notifies the client, which may read the row.
 UINT CGridFilling::AddSection(const std::wstring& name, bool collapsed, UINT before) {
     const UINT id = m_model.AddSection(name, collapsed, before);
     LeaveEditor();
@@ -82,7 +82,7 @@ UINT CGridFilling::AddItemWithOptions(UINT section, EItemType kind, const std::w
     return id;
 }
 
-// The item knows the grid before it is asked to accept its value, and forgets it again if there is no row.
+// Sets m_pGrid first, since the model calls AcceptValue on the item; restores it if no row was added.
 UINT CGridFilling::InsertCustomItem(UINT section, const std::wstring& name, ICustomItem* item,
                                     bool editable) {
     CPropertyGrid* const previous = std::exchange(item->m_pGrid, static_cast<CPropertyGrid*>(this));
@@ -93,7 +93,7 @@ UINT CGridFilling::InsertCustomItem(UINT section, const std::wstring& name, ICus
     return id;
 }
 
-// The usual format is what a number without one has: a row costs less so.
+// The default format is not stored: a number without a format displays the same and takes less memory.
 UINT CGridFilling::AddItemWithOption(UINT section, EItemType kind, const std::wstring& name,
                                      const void* value, const std::wstring& option, bool editable,
                                      bool undefined) {

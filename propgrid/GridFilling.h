@@ -1,4 +1,5 @@
-// Filling the grid.
+// The part of the grid's client interface that adds sections and items. The grid copies the values that it is
+// given; a custom item stays its creator's.
 #pragma once
 
 #include <atlcomtime.h>
@@ -13,16 +14,16 @@ namespace tavrin::propgrid {
 
 class CGridFilling : public CGridLook {
 public:
-    // The id that stands for no section and no item.
+    // The id of no section and no item.
     static constexpr UINT NO_ID = kNoId;
 
-    // Adds a section before the one whose id is `before`, at the end when no section has that id.
+    // Adds a section before the one whose id is `before`, or at the end if no section has that id.
     // Returns its id; ids are given in the order of adding, from 0.
     UINT AddSection(const std::wstring& name, bool collapsed = false, UINT before = NO_ID);
 
-    // Appends an item of any kind to a section; the typed adds below are made of it. `value` points to
+    // Appends an item of any kind to a section; the typed functions below do the same. `value` points to
     // an int, a double, a std::wstring, a bool, a COleDateTime, a COLORREF or a LOGFONTW, whichever the
-    // kind stores (see EItemType); for IT_CUSTOM it is the ICustomItem* itself.
+    // kind stores (see EItemType); for IT_CUSTOM it is the item, converted to ICustomItem* first.
     //
     // Returns the item's id, from 0 in the order of adding. Returns NO_ID, and changes nothing, when no
     // section has that id, when the section has an item of exactly this name already, when the kind is
@@ -30,7 +31,7 @@ public:
     //
     // An item that is not editable is displayed in a colour of its own and opens no editor. An undefined one
     // displays the grid's undefined text instead of its value, and GetItemValue fails for it; a custom item
-    // never is undefined.
+    // is never undefined.
     UINT AddItem(UINT section, EItemType kind, const std::wstring& name, const void* value,
                  bool editable = true, bool undefined = false);
 
@@ -39,8 +40,8 @@ public:
     // A text may hold line breaks (CR LF), which are displayed as a pilcrow.
     UINT AddTextItem(UINT section, const std::wstring& name, const std::wstring& value, bool editable = true,
                      bool undefined = false);
-    // `format` is a printf format for exactly one int, or one double. It is the client's contract: it is
-    // passed to swprintf as it stands. An empty one stands for the default.
+    // `format` is a printf format for exactly one int, or one double. The client must make sure that it
+    // is valid: it is passed to swprintf unchanged. An empty one means the default.
     UINT AddIntegerItem(UINT section, const std::wstring& name, int value, const std::wstring& format = L"%d",
                         bool editable = true, bool undefined = false);
     UINT AddDoubleItem(UINT section, const std::wstring& name, double value,
@@ -66,8 +67,8 @@ public:
                       bool undefined = false);
     UINT AddFontItem(UINT section, const std::wstring& name, const LOGFONTW& value, bool editable = true,
                      bool undefined = false);
-    // The item stays the client's and must live as long as the grid holds it; its m_pGrid becomes this
-    // grid. Null is refused (NO_ID).
+    // The client keeps ownership of the item, which must live as long as the grid holds it; its m_pGrid
+    // becomes this grid. Null is refused (NO_ID).
     UINT AddCustomItem(UINT section, const std::wstring& name, ICustomItem* item, bool editable = true);
 
     // Removes all sections and items; ids start at 0 again. Deliberately leaves the focused ids alone: a

@@ -1,7 +1,7 @@
-// A self-drawn window that displays named, typed values in two columns, grouped in collapsible sections.
+// A custom-drawn window that displays named, typed values in two columns, grouped in collapsible sections.
 //
 // Put it on a dialog as the control of a placeholder (DDX_Control, SubclassDlgItem) or create it as any
-// child window; fill it with AddSection and the typed adds; read the values back with GetItemValue:
+// child window; fill it with AddSection and the typed Add functions; read the values back with GetItemValue:
 //
 //     const UINT section = m_grid.AddSection(L"Size");
 //     const UINT width = m_grid.AddDoubleItem(section, L"Width", 80.0);
@@ -9,13 +9,13 @@
 //     double value = 0;
 //     if (m_grid.GetItemValue(width, value)) ...
 //
-// Sections and items are known by the ids that their adds return. The grid owns its records, its fonts
-// and its scroll bar; custom items belong to the client. Filling it works before the window exists too.
+// Sections and items are identified by the ids that the Add functions return. The grid owns its records, its
+// fonts and its scroll bar; custom items belong to the client. Filling it works before the window exists too.
 // What else a client can call is in GridFilling.h, GridValues.h, GridRows.h, GridFocus.h, GridLook.h,
 // GridWording.h and GridColoring.h.
 //
-// Coordinates are pixels of the client area. A setter repaints if the window exists. Nothing that the
-// client itself sets is notified; a change by the user is, see WM_GRID_ITEM_CHANGED.
+// Coordinates are pixels of the client area. A setter repaints if the window exists. The owner is notified of
+// changes by the user (WM_GRID_ITEM_CHANGED), not of what the client itself sets.
 //
 // The user edits the focused row's value: in a text edit laid over it, in a list or a calendar dropped down
 // under it, or in a dialog, see EItemType and EEditMode. The grid owns the one editor that may be open; it
@@ -55,34 +55,36 @@ public:
     void NotifyChanged(UINT item) override;
 
     // What assistive technology calls the grid; empty at the start, which stands for the window's text. A
-    // client sets it to the text of the label that stands over the grid.
+    // client sets it to the text of the label that is above the grid.
     void SetAccessibleName(const std::wstring& name) { m_access.SetName(name); }
     const std::wstring& GetAccessibleName() const { return m_access.GetOwnName(); }
 
     // ---- Editing
 
     // An open editor belongs to one row and stands on its cell. What moves, hides or changes that cell or its
-    // item first ends the editor as EndEditing does: the typed text is stored in its own row and notified,
-    // then the operation goes on. The owner may do anything when it is notified, also remove the row that the
-    // operation is about: the operation is then refused.
+    // item first ends the editor as EndEditing does: the typed text is stored in its own row, the owner is
+    // notified, and then the operation goes on. The owner's handler may do anything, even remove the row that
+    // the operation is about: the operation is then refused.
     //
     // These end the editor:
     //   SetFocusedItem, SetFocusedSection   for another row than the focused one, or none
     //   SetItemValue                        of its item; the new value is the one that stays
     //   SetItemEditable, SetItemUndefined   of its item, for the other state
-    //   AddSection, AddItem, typed adds     in any section; the new row is complete before
+    //   AddSection, AddItem, ...            in any section; the new row is complete before
     //   SetDisplayMode                      always
     //   SetSectionCollapsed                 of any section
     //   SetGutterWidth                      for another position
-    //   another size or position of the grid's window, and its end
-    //   the arrow keys, "*", "/", a press of the mouse, the wheel, the scroll bar
+    //   EditFocusedItem, PressFocusedButton always
+    //   resizing, moving or destroying the grid's window, and WM_SETFONT
+    //   the arrow keys, "*", "/", "+" and "-" on a section, and the keys of keyboard editing while it is on
+    //   pressing a mouse button, and scrolling by the wheel or the scroll bar
     //
-    // ResetContents leaves it open; what it edits is gone then, and its result is dropped when it ends. All
-    // else leaves it open on its cell: whatever is refused or sets what is set already, the values and
-    // properties of other items, AcceptValues, colours, texts and flags, other keys and characters.
+    // ResetContents leaves it open; the item that it edits no longer exists, and its result is discarded. So
+    // does everything else: a call that is refused or changes nothing, the values and properties of other
+    // items, AcceptValues, colours, texts and flags, other keys and characters.
 
-    // Whether every value can be edited with the keyboard alone; false at construction. Then, on the focused
-    // row:
+    // Whether every value can be edited with the keyboard alone; false by default. While it is on, for the
+    // focused row:
     // - F2, F4 and Alt+Down open its editor: the edit with its text, the list, the calendar, the dialog;
     // - a printable character opens an in-place edit with that character in place of the text;
     // - Alt+Enter presses the "..." button: the dialog, or a custom item's OnButtonClicked;
@@ -94,7 +96,7 @@ public:
     void SetKeyboardEditing(bool on) { m_model.settings.keyboardEditing = on; }
     bool GetKeyboardEditing() const { return m_model.settings.keyboardEditing; }
     // What F2 and Alt+Enter do, whether keyboard editing is on or not: for a client's own keys, and for
-    // assistive technology. The focused row is scrolled into view for an editor that stands on it.
+    // assistive technology. The focused row is scrolled into view for an editor that opens in it.
     void EditFocusedItem();
     void PressFocusedButton();
 
@@ -105,7 +107,7 @@ public:
     void EndEditing();
     // For ICustomItem::SetStringValue: whether it is given the text that the edit was opened with, which the
     // user never touched or put back by Escape. An item whose text does not have all of its value then keeps
-    // the value. False for the same text typed anew, and outside of that call.
+    // the value. False if the same text was typed again, and outside that call.
     bool IsEditUntouched() const { return m_actions.IsEditUntouched(); }
 
 protected:
@@ -139,7 +141,7 @@ protected:
     afx_msg UINT OnGetDlgCode();
     afx_msg LRESULT OnChoiceMade(WPARAM index, LPARAM zero);
     afx_msg LRESULT OnEditDone(WPARAM text, LPARAM zero);
-    afx_msg LRESULT OnDateChosen(WPARAM alsoZero, LPARAM zero);
+    afx_msg LRESULT OnDateChosen(WPARAM zero, LPARAM alsoZero);
     afx_msg LRESULT OnGetAccessible(WPARAM flags, LPARAM object);
     afx_msg LRESULT OnAccessRequest(WPARAM zero, LPARAM alsoZero);
     afx_msg LRESULT OnGotFocus(WPARAM window, LPARAM zero);

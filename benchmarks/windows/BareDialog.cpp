@@ -10,13 +10,13 @@ using namespace Gdiplus::DllExports;
 
 namespace {
 
-struct SBareDialog {
+struct BareDialog {
     int pictureId;
     std::wstring picture;
     Gdiplus::GpImage* image = nullptr;
 };
 
-void Draw(const SBareDialog& bare, const DRAWITEMSTRUCT& item) {
+void Draw(const BareDialog& bare, const DRAWITEMSTRUCT& item) {
     Gdiplus::GpGraphics* graphics = nullptr;
     GdipCreateFromHDC(item.hDC, &graphics);
     GdipDrawImageRectI(graphics, bare.image, 0, 0, item.rcItem.right, item.rcItem.bottom);
@@ -24,11 +24,11 @@ void Draw(const SBareDialog& bare, const DRAWITEMSTRUCT& item) {
 }
 
 INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* const bare = reinterpret_cast<SBareDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
+    auto* const bare = reinterpret_cast<BareDialog*>(GetWindowLongPtrW(dialog, DWLP_USER));
     switch (message) {
         case WM_INITDIALOG: {
             SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-            auto& made = *reinterpret_cast<SBareDialog*>(lParam);
+            auto& made = *reinterpret_cast<BareDialog*>(lParam);
             GdipLoadImageFromFile(made.picture.c_str(), &made.image);
             const HWND control = GetDlgItem(dialog, made.pictureId);
             SetWindowLongPtrW(control, GWL_STYLE, GetWindowLongPtrW(control, GWL_STYLE) | SS_OWNERDRAW);
@@ -53,7 +53,7 @@ INT_PTR ShowBareDialog(HMODULE resources, int id, int pictureId, const std::wstr
     ULONG_PTR token = 0;
     const Gdiplus::GdiplusStartupInput input;
     Gdiplus::GdiplusStartup(&token, &input, nullptr);
-    SBareDialog bare = {pictureId, picture};
+    BareDialog bare = {pictureId, picture};
     const INT_PTR result =
         DialogBoxParamW(resources, MAKEINTRESOURCEW(id), owner, Procedure, reinterpret_cast<LPARAM>(&bare));
     GdipDisposeImage(bare.image);

@@ -1,8 +1,9 @@
-// Blocks that end at a guard page; the pages of a released block are inaccessible too. A wrong access faults
-// at the instruction that makes it.
+// Blocks that end at a guard page, except for up to 15 bytes of alignment; the pages of a released block are
+// inaccessible too. An access beyond these bytes or after release faults at once. A write to these bytes, or
+// before the block on its first page, is found by CheckBorder.
 //
-// Owns one reserved range of addresses. Reserving each block would use 64 KiB of addresses, so pages are
-// committed one by one inside the range. The number of live blocks is limited: each costs the system two
+// Owns one reserved address range. Reserving each block separately would take 64 KiB of address space, so the
+// pages of each block are committed inside the range. The number of live blocks is limited: each costs two
 // mappings, of which a Linux process may have 65530 under Wine.
 #pragma once
 

@@ -1,6 +1,6 @@
 // Checks items with the checker's rules, for authors who try them in DevHost: prints the findings that are
-// new since the item was checked last. Reads the item's files and TavrinRes.dll, which may change between
-// checks.
+// new since the last check of the item, and a line when none are left. Reads the item's files and
+// TavrinRes.dll, which may change between checks.
 #pragma once
 
 #include <map>
@@ -14,7 +14,7 @@ namespace devhost {
 
 class CItemCheck {
 public:
-    // The output must outlive the check.
+    // The output must outlive this object.
     explicit CItemCheck(CTextOutput& output) : m_output(output) {}
 
     // Forgets what was printed, so that the next checks print all their findings.
@@ -23,8 +23,8 @@ public:
     // Checks the template, the working file, the pictures, the slides and the texts of an item.
     void Check(const Item& item);
 
-    // Says why a dialog on this working file will have no rows, when an OK has replaced its parameters by
-    // assignments. `path` is its full path.
+    // Prints why a dialog on this working file will have no rows, if OK has replaced its parameters with
+    // assignments; otherwise prints nothing. `path` is the file's full path.
     void CheckBeforeDialog(const std::wstring& path);
 
 private:

@@ -8,9 +8,9 @@ namespace devhost {
 double GridSpacing(double unitsPerPixel, double leastPixels) {
     const double least = unitsPerPixel * leastPixels;
     const double decade = std::pow(10, std::floor(std::log10(least)));
-    constexpr double kRounding = 1 - 1e-9;
+    constexpr double kTolerance = 1 - 1e-9;  // a step that is too small only by rounding is accepted
     for (const double step : {1.0, 2.0, 5.0}) {
-        if (decade * step >= least * kRounding) {
+        if (decade * step >= least * kTolerance) {
             return decade * step;
         }
     }
@@ -18,11 +18,11 @@ double GridSpacing(double unitsPerPixel, double leastPixels) {
 }
 
 std::vector<double> GridSteps(double low, double high, double spacing) {
-    constexpr double kMostExact = 9e15;  // up to here every whole number is a double
+    constexpr double kMaxExact = 9e15;  // every integer up to here is exactly representable
     const double first = std::ceil(low / spacing);
     const double last = std::floor(high / spacing);
     std::vector<double> steps;
-    if (std::abs(first) <= kMostExact && std::abs(last) <= kMostExact) {
+    if (std::abs(first) <= kMaxExact && std::abs(last) <= kMaxExact) {
         for (double step = first; step <= last; ++step) {
             steps.push_back(step);
         }

@@ -24,7 +24,7 @@ private:
 };
 
 // What the browser opens on.
-struct CFirstFolder {
+struct FirstFolder {
     const std::wstring& path;
     bool hasSelectionCome = false;
 };
@@ -35,11 +35,11 @@ bool IsFolder(LPARAM list, const std::wstring& path) {
            ::lstrcmpi(name, path.c_str()) == 0;
 }
 
-// `data` is the CFirstFolder. Now and then Wine's browser does not find the folder while it is initialized,
+// `data` is the FirstFolder. Now and then Wine's browser does not find the folder while it is initialized,
 // and then selects one of its own: it is asked once more as soon as it has done so. The request is posted,
 // for the tree is in the middle of a selection.
 int CALLBACK OnBrowserEvent(HWND browser, UINT event, LPARAM parameter, LPARAM data) {
-    CFirstFolder& first = *reinterpret_cast<CFirstFolder*>(data);
+    FirstFolder& first = *reinterpret_cast<FirstFolder*>(data);
     const auto path = reinterpret_cast<LPARAM>(first.path.c_str());
     if (event == BFFM_INITIALIZED) {
         ::SendMessage(browser, BFFM_SETSELECTION, TRUE, path);
@@ -77,7 +77,7 @@ bool BrowseForFolder(std::wstring& path, HWND owner) {
     browse.lpszTitle = FolderBrowseTitle().c_str();
     browse.ulFlags = BIF_RETURNONLYFSDIRS | BIF_RETURNFSANCESTORS | BIF_NEWDIALOGSTYLE;
     browse.lpfn = OnBrowserEvent;
-    CFirstFolder first{path};
+    FirstFolder first{path};
     browse.lParam = reinterpret_cast<LPARAM>(&first);
     const LPITEMIDLIST chosen = ::SHBrowseForFolder(&browse);
     if (chosen == nullptr) {

@@ -27,17 +27,19 @@ std::optional<PaintedRow> CPaintPass::Next() {
             }
             LeaveList();
         }
-        if (m_displayMode == DM_SORTED || m_position >= m_model.GetSections().size()) {
+        // A section that was added above the current one has moved it.
+        const std::size_t position = m_section != nullptr ? m_section->position + std::size_t{1} : 0;
+        if (m_displayMode == DM_SORTED || position >= m_model.GetSections().size()) {
             break;
         }
-        if (const std::optional<PaintedRow> header = EnterSection(*m_model.GetSections()[m_position++])) {
+        if (const std::optional<PaintedRow> header = EnterSection(*m_model.GetSections()[position])) {
             return header;
         }
     }
     return std::nullopt;
 }
 
-// Records the header and begins the list of the items; the header, when it is in sight.
+// Records the header and begins the list of the items. Returns the header if it is visible.
 std::optional<PaintedRow> CPaintPass::EnterSection(const GridSection& section) {
     const GridView& view = m_layout.m_view;
     RowList list = MakeList(m_y, section.items.size());
@@ -112,7 +114,7 @@ std::optional<PaintedRow> CPaintPass::NextItem() {
     return PaintedRow{.section = nullptr, .item = &item, .row = row, .parts = PlaceItem(item, row)};
 }
 
-// The focused item's editor has its button, which is recorded with it.
+// Only the focused item has an edit button, if it has an editor; its rectangle is recorded.
 ItemParts CPaintPass::PlaceItem(const GridItem& item, const Rect& row) {
     ItemParts parts;
     parts.name = {row.left, row.top, m_list.gutter, row.bottom};

@@ -1,11 +1,11 @@
-// One paint's walk through the rows: gives those in sight from top to bottom and records where all of them
-// stand.
+// Iterates over the rows during one paint: returns the visible ones from top to bottom and records the
+// positions of all. Coordinates are pixels of the client area.
 //
 //     CPaintPass pass(layout);
 //     while (const std::optional<PaintedRow> row = pass.Next()) { ... }
 //
-// What is drawn in between may add rows: those below are painted too. It may also remove all rows: then the
-// walk ends.
+// Drawing a row may add rows: those below it are painted in this pass, except in the sorted display, which
+// shows them at the next paint. It may also remove all rows: the pass then ends.
 #pragma once
 
 #include <optional>
@@ -19,7 +19,7 @@ struct ItemParts {
     Rect name;                 // from the left edge to the divider
     Rect value;                // from the divider to the right edge, or to the button
     Rect button;               // the square at the right end; empty without an editor
-    int editMode = EM_CUSTOM;  // what the button is drawn as: of EEditMode, EM_CUSTOM without an editor
+    int editMode = EM_CUSTOM;  // EEditMode: how the button is drawn; EM_CUSTOM: no button
 };
 
 struct PaintedRow {
@@ -34,7 +34,7 @@ public:
     // Empties the rectangles of the sections.
     explicit CPaintPass(CGridLayout& layout);
 
-    // The next row in sight; none after the last.
+    // The next visible row; none after the last.
     std::optional<PaintedRow> Next();
 
 private:
@@ -52,8 +52,7 @@ private:
     unsigned m_generation;
     std::uint32_t m_displayMode;             // at the start
     int m_y;                                 // of the next section
-    std::size_t m_position = 0;              // of the next section
-    const GridSection* m_section = nullptr;  // whose items are walked; null in the sorted list
+    const GridSection* m_section = nullptr;  // the current one; null before the first, and when sorted
     RowList m_list;
     bool m_inList = false;
     std::uint32_t m_row = 0;  // the next of the list

@@ -19,7 +19,7 @@ enum EError : unsigned {
     EmptyRepetition = 9
 };
 
-struct STranslationError {
+struct TranslationError {
     EError error;
 };
 
@@ -48,7 +48,7 @@ public:
         try {
             const std::string text = Sequence().text;
             result.pattern.assign(text.begin(), text.end());
-        } catch (const STranslationError& failure) {
+        } catch (const TranslationError& failure) {
             result.error = failure.error;
         }
         result.groupCount = static_cast<unsigned>(m_groupCount);
@@ -105,7 +105,7 @@ private:
         }
         Take();
         if (quantifier != L'?' && element.canBeEmpty) {
-            throw STranslationError{EmptyRepetition};
+            throw TranslationError{EmptyRepetition};
         }
         const bool lazy = TakeIf(L'?');
         return {"(?:" + element.text + ")" + static_cast<char>(quantifier) + (lazy ? "?" : ""),
@@ -129,7 +129,7 @@ private:
             case L'(': {
                 const Part inside = Sequence();
                 if (!TakeIf(L')')) {
-                    throw STranslationError{ParenthesisExpected};
+                    throw TranslationError{ParenthesisExpected};
                 }
                 return {"(?:" + inside.text + ")", inside.canBeEmpty};
             }
@@ -150,7 +150,7 @@ private:
         ++m_groupCount;
         const Part inside = Sequence();
         if (!TakeIf(L'}')) {
-            throw STranslationError{BraceExpected};
+            throw TranslationError{BraceExpected};
         }
         return {"(" + inside.text + ")", inside.canBeEmpty};
     }
@@ -174,7 +174,7 @@ private:
             number = number > 1000 ? number : number * 10 + static_cast<std::uint64_t>(Peek() - L'0');
         }
         if (number >= m_groupCount) {
-            throw STranslationError{BadReference};
+            throw TranslationError{BadReference};
         }
         return {"\\g{" + std::to_string(number + 1) + "}", true};
     }
@@ -182,12 +182,12 @@ private:
     std::string Set() {
         std::string set = TakeIf(L'^') ? "[^" : "[";
         if (Peek() == L']') {
-            throw STranslationError{EmptySet};
+            throw TranslationError{EmptySet};
         }
         while (!TakeIf(L']')) {
             const bool escaped = TakeIf(L'\\');
             if (Peek() == L'\0') {
-                throw STranslationError{BracketExpected};
+                throw TranslationError{BracketExpected};
             }
             wchar_t first = Take();
             if (escaped && first == L't') {
@@ -196,12 +196,12 @@ private:
             wchar_t last = first;
             if (TakeIf(L'-')) {
                 if (Peek() == L'\0' || Peek() == L']') {
-                    throw STranslationError{BracketExpected};
+                    throw TranslationError{BracketExpected};
                 }
                 last = Take();
             }
             if (last < first) {
-                throw STranslationError{ReversedRange};
+                throw TranslationError{ReversedRange};
             }
             set += Character(first) + "-" + Character(last);
         }

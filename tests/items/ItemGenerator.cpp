@@ -82,8 +82,8 @@ const std::string& CItemGenerator::OneOf(const std::vector<std::string>& choices
     return choices[Below(choices.size())];
 }
 
-SGeneratedItem CItemGenerator::Item() {
-    SGeneratedItem item;
+GeneratedItem CItemGenerator::Item() {
+    GeneratedItem item;
     const Lines lines = FileLines();
     item.workingFile = Joined(lines);
     if (Chance(97)) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-struct SGeneratedItem {
+struct GeneratedItem {
     std::string workingFile;
     std::optional<std::string> templateFile;  // rarely missing
     double scale = 1.0;
@@ -19,7 +19,7 @@ class CItemGenerator {
 public:
     explicit CItemGenerator(unsigned seed) : m_random(seed) {}
 
-    SGeneratedItem Item();
+    GeneratedItem Item();
 
     // The bytes of one file.
     std::string File();

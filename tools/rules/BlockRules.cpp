@@ -114,7 +114,8 @@ void CBlockRules::TakeInside(const ItemLine& line) {
     }
     const std::wstring letters = Letters(line.text);
     if (letters == L"ENDVAR") {
-        m_closingWasMisspelt = ReportMisspelt(line, false);
+        ReportMisspelt(line, false);
+        m_closingWasMisspelt = true;
     } else if (letters == L"VAR" && !std::exchange(m_closingWasMisspelt, false)) {
         Findings().Add(kBlockNested, line, 0, line.text.size(),
                        "a block is already open, this line has no effect");
@@ -125,7 +126,8 @@ void CBlockRules::TakeOutside(const ItemLine& line) {
     const std::wstring letters = Letters(line.text);
     if (letters == L"VAR") {
         m_hasBlock = true;
-        m_openingWasMisspelt = ReportMisspelt(line, true);
+        ReportMisspelt(line, true);
+        m_openingWasMisspelt = true;
     } else if (letters == L"ENDVAR") {
         if (line.text != itemdlg::CBlockTracker::kClosingLine) {
             ReportMisspelt(line, false);
@@ -140,7 +142,7 @@ void CBlockRules::TakeOutside(const ItemLine& line) {
     }
 }
 
-bool CBlockRules::ReportMisspelt(const ItemLine& line, bool opening) {
+void CBlockRules::ReportMisspelt(const ItemLine& line, bool opening) {
     const std::wstring& text = line.text;
     std::string reason = "write it in capitals without other characters";
     if (text.find_first_of(L"abcdefghijklmnopqrstuvwxyz") == std::wstring::npos) {
@@ -153,7 +155,6 @@ bool CBlockRules::ReportMisspelt(const ItemLine& line, bool opening) {
     Findings().Add(kBlockLineMisspelt, line, 0, text.size(),
                    Quoted(text) + (opening ? " does not open a block: " : " does not close the block: ") +
                        reason + ", as in " + (opening ? "VAR" : "END_VAR"));
-    return true;
 }
 
 void CBlockRules::Finish() {

@@ -20,14 +20,14 @@ public:
 private:
     void TakeOutside(const ItemLine& line);
     void TakeInside(const ItemLine& line);
-    bool ReportMisspelt(const ItemLine& line, bool opening);
+    void ReportMisspelt(const ItemLine& line, bool opening);
 
     bool m_isWorkingFile;
-    std::optional<Finding> m_unclosed;  // the finding if the open block is not closed
-    std::optional<Finding> m_empty;     // the finding if it has no parameter
-    bool m_hasBlock = false;            // also one whose opening line is misspelt
-    bool m_openingWasMisspelt = false;  // what follows was meant to be inside a block,
-    bool m_closingWasMisspelt = false;  // or outside
+    std::optional<Finding> m_unclosed;  // to report if the open block is never closed
+    std::optional<Finding> m_empty;     // to report if the open block has no parameter
+    bool m_hasBlock = false;            // true also for a block whose opening line is misspelt
+    bool m_openingWasMisspelt = false;  // the lines that follow were meant to be inside a block
+    bool m_closingWasMisspelt = false;  // the lines that follow were meant to be outside
 };
 
 }  // namespace tavrin::tools

@@ -63,7 +63,7 @@ TEST_F(DrawFunctions, WhatCannotBeDrawnIsNamedAndNothingIsAdded) {
          {L"(draw-polyline '((0 0) 5))", L"DRAW-POLYLINE: 5 is not a point, a list of two or three numbers"},
          {L"(draw-circle '(0 0) 0)", L"DRAW-CIRCLE needs a number above zero as argument 2, not 0"},
          {L"(draw-arc '(0 0) 1 0 \"x\")", L"DRAW-ARC needs a number as argument 4, not \"x\""},
-         {L"(draw-text '(0 0) 1 0 5)", L"DRAW-TEXT needs a text as argument 4, not 5"},
+         {L"(draw-text '(0 0) 1 0 5)", L"DRAW-TEXT needs a string as argument 4, not 5"},
          {L"(draw-line '(0 0) '(1e300 0))", L"DRAW-LINE: a number is beyond 1e12 and cannot be drawn"}});
     EXPECT_TRUE(m_drawing.Entities().empty());
 }

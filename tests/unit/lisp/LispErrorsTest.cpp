@@ -200,7 +200,7 @@ TEST_F(LispErrors, TheErrorFunctionHasMemoryAfterTheLimitIsReached) {
 
 TEST_F(LispErrors, TheLengthOfATextIsLimited) {
     EXPECT_EQ(ErrorOf(L"(setq s \"x\") (while T (setq s (strcat s s)))"),
-              L"line 1: STRCAT: the text would be longer than 4000000 characters");
+              L"line 1: STRCAT: the string would be longer than 4000000 characters");
 }
 
 }  // namespace

@@ -89,6 +89,9 @@ TEST_F(LispFiles, ACharacterThatTheFileCannotHoldIsAnErrorAndNothingIsWritten) {
     EXPECT_EQ(ErrorOf(L"(setq f (open name \"w\")) (write-line \"ok\" f) (write-line \"a\u0416b\" f)"),
               L"line 1: WRITE-LINE: the file '" + Path(L"file.txt") +
                   L"' cannot hold the character U+0416: text files are Windows-1252");
+    EXPECT_EQ(ErrorOf(L"(write-line (strcat (chr 55357) (chr 56938)) f)"),
+              L"line 1: WRITE-LINE: the file '" + Path(L"file.txt") +
+                  L"' cannot hold the character U+1F6AA: text files are Windows-1252");
     Evaluate(L"(close f)");
     EXPECT_EQ(Bytes(L"file.txt"), "ok\r\n");
 }
@@ -101,7 +104,7 @@ TEST_F(LispFiles, WhatCannotBeOpenedIsNil) {
                   {L"(open (strcat name \"/no/where\") \"w\")", L"nil"}});
     ExpectErrors(
         {{L"(open name \"x\")", L"OPEN needs \"r\", \"w\" or \"a\" as argument 2, not \"x\""},
-         {L"(open 5 \"r\")", L"OPEN needs a text as argument 1, not 5"},
+         {L"(open 5 \"r\")", L"OPEN needs a string as argument 1, not 5"},
          {L"(close 5)", L"CLOSE needs an open file as argument 1, not 5"},
          {L"(read-line 5)", L"READ-LINE needs an open file as argument 1, not 5"},
          {L"(read-line (open \"none\" \"r\"))", L"READ-LINE needs an open file as argument 1, not nil"}});
@@ -134,7 +137,7 @@ TEST_F(LispFiles, LoadRunsAFileAndGivesItsLastValue) {
                   {L"a", L"1"},
                   {L"(load \"none\" 'otherwise)", L"OTHERWISE"}});
     ExpectErrors({{L"(load \"none\")",
-                   L"LOAD: the file 'none.lsp' is not found: check its name and the search folders"}});
+                   L"LOAD: the file 'none.lsp' was not found: check its name and the search folders"}});
 }
 
 TEST_F(LispFiles, ErrorsInAFileNameFileLineAndFunction) {
@@ -142,14 +145,14 @@ TEST_F(LispFiles, ErrorsInAFileNameFileLineAndFunction) {
           "; comment\n(defun inner (x)\n  (list\n    (strcat x)))\n(defun outer (x)\n  (inner x))\n");
     Evaluate(L"(load \"bad.lsp\")");
     EXPECT_EQ(ErrorOf(L"(outer 5)"),
-              L"bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a text as argument 1, not 5");
+              L"bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a string as argument 1, not 5");
     EXPECT_EQ(ErrorOf(L"\n(outer)"), L"line 2: OUTER takes 1 argument, not 0");
     Write(L"top.lsp", "(setq a 1)\n\n(car a)\n");
     EXPECT_EQ(ErrorOf(L"(load \"top.lsp\")"), L"top.lsp:3: CAR needs a list as argument 1, not 1");
     Write(L"calls.lsp", "(load \"bad.lsp\")\n(outer\n  \"a\")\n(mapcar\n  'outer '(1))");
     EXPECT_EQ(
         ErrorOf(L"(load \"calls.lsp\")"),
-        L"calls.lsp:4 > bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a text as argument 1, not 1");
+        L"calls.lsp:4 > bad.lsp:6 in OUTER > bad.lsp:4 in INNER: STRCAT needs a string as argument 1, not 1");
 }
 
 // Such as the drawing of an item, which item.lsp calls.

@@ -21,7 +21,7 @@ TEST_F(LispNumbers, WholeNumbersStayWholeUntilARealTakesPart) {
 }
 
 TEST_F(LispNumbers, AWholeNumberThatDoesNotFitIsAnErrorAndNotAnotherNumber) {
-    constexpr wchar_t kHint[] = L" does not fit 32 bits: calculate with reals, 1.0 instead of 1";
+    constexpr wchar_t kHint[] = L" does not fit in 32 bits: calculate with reals, 1.0 instead of 1";
     const std::pair<const wchar_t*, const wchar_t*> cases[] = {
         {L"(+ 2147483647 1)", L"+: the whole number 2147483648"},
         {L"(- -2147483648 1)", L"-: the whole number -2147483649"},
@@ -80,16 +80,16 @@ TEST_F(LispNumbers, MathematicsWorksOnReals) {
                   {L"(fix -2.9)", L"-2"},
                   {L"(fix 7)", L"7"},
                   {L"(float 2)", L"2.0"}});
-    ExpectErrors(
-        {{L"(sqrt -1)", L"SQRT needs a number that is not negative as argument 1, not -1"},
-         {L"(log 0)", L"LOG needs a number above zero as argument 1, not 0"},
-         {L"(exp 1000)", L"EXP: the result is not a finite number"},
-         {L"(expt 0 -1)", L"EXPT: the result is not a finite number"},
-         {L"(expt 2 31)", L"EXPT: the result does not fit 32 bits: calculate with reals, 2.0 instead of 2"},
-         {L"(expt -1.0 0.5)", L"EXPT: the result is not a finite number"},
-         {L"(fix 3e9)", L"FIX needs a number that fits 32 bits as argument 1, not 3e+09"},
-         {L"(sin \"a\")", L"SIN needs a number as argument 1, not \"a\""},
-         {L"(atan 1 2 3)", L"ATAN takes 1 to 2 arguments, not 3"}});
+    ExpectErrors({{L"(sqrt -1)", L"SQRT needs a number that is not negative as argument 1, not -1"},
+                  {L"(log 0)", L"LOG needs a number above zero as argument 1, not 0"},
+                  {L"(exp 1000)", L"EXP: the result is not a finite number"},
+                  {L"(expt 0 -1)", L"EXPT: the result is not a finite number"},
+                  {L"(expt 2 31)",
+                   L"EXPT: the result does not fit in 32 bits: calculate with reals, 2.0 instead of 2"},
+                  {L"(expt -1.0 0.5)", L"EXPT: the result is not a finite number"},
+                  {L"(fix 3e9)", L"FIX needs a number that fits in 32 bits as argument 1, not 3e+09"},
+                  {L"(sin \"a\")", L"SIN needs a number as argument 1, not \"a\""},
+                  {L"(atan 1 2 3)", L"ATAN takes 1 to 2 arguments, not 3"}});
 }
 
 TEST_F(LispNumbers, ComparisonsTakeAnyCountOfNumbersOrTexts) {
@@ -112,7 +112,7 @@ TEST_F(LispNumbers, ComparisonsTakeAnyCountOfNumbersOrTexts) {
                   {L"(< \"abc\" \"abd\")", L"T"},
                   {L"(> \"a\" \"B\")", L"T"}});
     ExpectErrors({{L"(< 1 \"2\")", L"< needs a number as argument 2, not \"2\""},
-                  {L"(< \"1\" 2)", L"< needs a text as argument 2, not 2"},
+                  {L"(< \"1\" 2)", L"< needs a string as argument 2, not 2"},
                   {L"(> nil 1)", L"> needs a number as argument 1, not nil"}});
 }
 

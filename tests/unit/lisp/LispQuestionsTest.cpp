@@ -103,11 +103,11 @@ TEST_F(LispQuestions, WrongArgumentsAreNamed) {
     ExpectErrors(
         {{L"(getpoint 5)", L"GETPOINT needs a point, a list of two or three numbers, as argument 1, not 5"},
          {L"(getpoint 1 2 3)", L"GETPOINT takes 0 to 2 arguments, not 3"},
-         {L"(getreal '(0 0))", L"GETREAL needs a text as argument 1, not (0 0)"},
-         {L"(getint 5)", L"GETINT needs a text as argument 1, not 5"},
-         {L"(getstring T 5)", L"GETSTRING needs a text as argument 2, not 5"},
-         {L"(alert 5)", L"ALERT needs a text as argument 1, not 5"},
-         {L"(getvar 5)", L"GETVAR needs a text as argument 1, not 5"}});
+         {L"(getreal '(0 0))", L"GETREAL needs a string as argument 1, not (0 0)"},
+         {L"(getint 5)", L"GETINT needs a string as argument 1, not 5"},
+         {L"(getstring T 5)", L"GETSTRING needs a string as argument 2, not 5"},
+         {L"(alert 5)", L"ALERT needs a string as argument 1, not 5"},
+         {L"(getvar 5)", L"GETVAR needs a string as argument 1, not 5"}});
 }
 
 TEST_F(LispQuestions, AlertsAndSystemVariablesAreTheHosts) {

@@ -22,14 +22,15 @@ TEST_F(LispTexts, AreJoinedMeasuredAndCut) {
                   {L"(ascii \"èx\")", L"232"},
                   {L"(chr 65)", L"\"A\""},
                   {L"(ascii (chr 8364))", L"8364"}});
-    ExpectErrors({{L"(strcat \"a\" 5)", L"STRCAT needs a text as argument 2, not 5"},
-                  {L"(strlen nil)", L"STRLEN needs a text as argument 1, not nil"},
-                  {L"(substr \"abc\" 0)", L"SUBSTR needs a position from 1 on as argument 2, not 0"},
-                  {L"(substr \"abc\" 1 -1)", L"SUBSTR needs a length from 0 on as argument 3, not -1"},
-                  {L"(substr \"abc\")", L"SUBSTR takes 2 to 3 arguments, not 1"},
-                  {L"(ascii \"\")", L"ASCII needs a text of at least one character as argument 1, not \"\""},
-                  {L"(chr 0)", L"CHR needs a code from 1 to 65535 as argument 1, not 0"},
-                  {L"(chr 65536)", L"CHR needs a code from 1 to 65535 as argument 1, not 65536"}});
+    ExpectErrors(
+        {{L"(strcat \"a\" 5)", L"STRCAT needs a string as argument 2, not 5"},
+         {L"(strlen nil)", L"STRLEN needs a string as argument 1, not nil"},
+         {L"(substr \"abc\" 0)", L"SUBSTR needs a position of 1 or more as argument 2, not 0"},
+         {L"(substr \"abc\" 1 -1)", L"SUBSTR needs a length of 0 or more as argument 3, not -1"},
+         {L"(substr \"abc\")", L"SUBSTR takes 2 to 3 arguments, not 1"},
+         {L"(ascii \"\")", L"ASCII needs a string of at least one character as argument 1, not \"\""},
+         {L"(chr 0)", L"CHR needs a code from 1 to 65535 as argument 1, not 0"},
+         {L"(chr 65536)", L"CHR needs a code from 1 to 65535 as argument 1, not 65536"}});
 }
 
 TEST_F(LispTexts, CaseIsThatOfLatinLettersWhateverTheLocale) {
@@ -53,7 +54,7 @@ TEST_F(LispTexts, NumbersAreReadFromWhatTheTextBeginsWith) {
                   {L"(atof \"nan\")", L"0.0"},
                   {L"(itoa -5)", L"\"-5\""}});
     ExpectErrors(
-        {{L"(atoi \"9999999999\")", L"ATOI: the number in \"9999999999\" does not fit 32 bits"},
+        {{L"(atoi \"9999999999\")", L"ATOI: the number in \"9999999999\" does not fit in 32 bits"},
          {L"(atof \"1e999\")", L"ATOF: the number in \"1e999\" is too large or too small for a real"},
          {L"(itoa 1.5)", L"ITOA needs a whole number as argument 1, not 1.5"}});
 }
@@ -98,7 +99,7 @@ TEST_F(LispTexts, WhatIsPrintedGoesOutAsItIs) {
     Evaluate(L"(print \"x\") (terpri) (prompt \"\\nmore\") (write-line \"line\") (write-char 65)");
     EXPECT_EQ(std::exchange(m_host.output, L""), L"\n\"x\" \n\nmoreline\nA");
     ExpectValues({{L"(terpri)", L"nil"}, {L"(prompt \"\")", L"nil"}, {L"(write-line \"a\")", L"\"a\""}});
-    ExpectErrors({{L"(prompt 5)", L"PROMPT needs a text as argument 1, not 5"},
+    ExpectErrors({{L"(prompt 5)", L"PROMPT needs a string as argument 1, not 5"},
                   {L"(princ 1 2)", L"PRINC needs an open file as argument 2, not 2"}});
 }
 

@@ -38,8 +38,9 @@ TEST(Reader, WholeNumbersHave32Bits) {
     EXPECT_EQ(Echo(L"007"), L"7");
     EXPECT_EQ(Echo(L"2147483647"), L"2147483647");
     EXPECT_EQ(Echo(L"-2147483648"), L"-2147483648");
-    ExpectError(L"2147483648", L"line 1, column 1: the whole number 2147483648 does not fit 32 bits");
-    ExpectError(L"(f -2147483649)", L"line 1, column 4: the whole number -2147483649 does not fit 32 bits");
+    ExpectError(L"2147483648", L"line 1, column 1: the whole number 2147483648 does not fit in 32 bits");
+    ExpectError(L"(f -2147483649)",
+                L"line 1, column 4: the whole number -2147483649 does not fit in 32 bits");
 }
 
 TEST(Reader, RealsHaveAPointOrAnExponent) {
@@ -81,7 +82,7 @@ TEST(Reader, TextsKnowFourEscapes) {
     EXPECT_EQ(CReader(L"\"(;'\n)\"").Read()->AsString(), L"(;'\n)");
     EXPECT_EQ(CReader(L"\"porta però 門\"").Read()->AsString(), L"porta però 門");
     ExpectError(LR"("ab\q")",
-                LR"(line 1, column 4: the escape \q is not known: a backslash in a text is written \\)");
+                LR"(line 1, column 4: the escape \q is unknown: a backslash in a string is written \\)");
 }
 
 TEST(Reader, ListsNest) {
@@ -99,7 +100,7 @@ TEST(Reader, ADotMakesAPair) {
     ExpectError(L"(a .", L"line 1, column 4: nothing follows the dot");
     ExpectError(L"(a . b c)", L"line 1, column 4: more than one expression follows the dot");
     ExpectError(L"(a . b", L"line 1, column 4: a parenthesis is not closed");
-    ExpectError(L" . ", L"line 1, column 2: a dot outside a list");
+    ExpectError(L" . ", L"line 1, column 2: a misplaced dot");
 }
 
 TEST(Reader, AnApostropheQuotesWhatFollows) {
@@ -131,8 +132,8 @@ TEST(Reader, AErrorNamesTheLineAndTheColumnWhereItBegins) {
     ExpectError(L"(a\n  (b c)\n", L"line 1, column 1: a parenthesis is not closed");
     ExpectError(L"(a\r\n  (b c)\r\n  (d", L"line 3, column 3: a parenthesis is not closed");
     ExpectError(L"1\n 2)", L"line 2, column 3: a closing parenthesis has no opening one");
-    ExpectError(L"(f \"ab)", L"line 1, column 4: a text is not closed");
-    ExpectError(L"\n\"ab\\", L"line 2, column 1: a text is not closed");
+    ExpectError(L"(f \"ab)", L"line 1, column 4: a string is not closed");
+    ExpectError(L"\n\"ab\\", L"line 2, column 1: a string is not closed");
 }
 
 TEST(Reader, NestingHasALimitInsteadOfTheStacks) {
@@ -140,9 +141,9 @@ TEST(Reader, NestingHasALimitInsteadOfTheStacks) {
     const std::wstring close(1000, L')');
     EXPECT_EQ(Echo(open + close), std::wstring(999, L'(') + L"nil" + std::wstring(999, L')'));
     ExpectError(std::wstring(100'000, L'('),
-                L"line 1, column 1002: expressions are nested more than 1000 deep");
+                L"line 1, column 1002: expressions are nested more than 1000 levels deep");
     ExpectError(std::wstring(100'000, L'\'') + L"a",
-                L"line 1, column 1002: expressions are nested more than 1000 deep");
+                L"line 1, column 1002: expressions are nested more than 1000 levels deep");
 }
 
 TEST(Reader, AListOfAMillionElementsIsReadPrintedAndLetGo) {

@@ -286,6 +286,21 @@ TEST_F(PaintPass, GivesARowThatIsAddedToTheSectionMeanwhileAndMovesTheNextOnesDo
     EXPECT_EQ(HeaderRect(1).top, 60);
 }
 
+TEST_F(PaintPass, DrawsEachSectionOnceWhenOneIsAddedAboveMeanwhile) {
+    model.settings.displayMode = DM_CATEGORIZED;
+    AddSection();
+    AddSection();
+    AddRows(0, 1);
+    CPaintPass pass(layout);
+    pass.Next();
+    pass.Next();
+    model.AddSection(L"added", false, 0);
+    EXPECT_EQ(pass.Next()->section->id, 1U);
+    EXPECT_FALSE(pass.Next());
+    EXPECT_EQ(HeaderRect(0).top, 0);
+    EXPECT_EQ(HeaderRect(1).top, 40);
+}
+
 TEST_F(PaintPass, EndsWhenAllRowsAreRemovedMeanwhile) {
     for (const std::uint32_t mode : {DM_CATEGORIZED, DM_SORTED, DM_FLAT}) {
         model.settings.displayMode = mode;

@@ -68,7 +68,7 @@ protected:
         fakeHost.distanceOf = [](const std::wstring& text) { return ParseLinear(text); };
     }
 
-    void PutFiles(const SGeneratedItem& item) {
+    void PutFiles(const GeneratedItem& item) {
         folder.Write(L"item_TMP.TXT", item.workingFile);
         if (item.templateFile) {
             folder.Write(L"item.TXT", *item.templateFile);
@@ -77,7 +77,7 @@ protected:
         }
     }
 
-    static CItemPreview PreviewOf(const SGeneratedItem& item) {
+    static CItemPreview PreviewOf(const GeneratedItem& item) {
         PreviewSettings settings;
         settings.scale = item.scale;
         settings.mode = item.mode;
@@ -160,7 +160,7 @@ protected:
         }
     }
 
-    void Compare(const SGeneratedItem& item, bool changeValues) {
+    void Compare(const GeneratedItem& item, bool changeValues) {
         driver.Forget();
         fakeHost.searched.clear();
         PutFiles(item);
@@ -186,7 +186,7 @@ protected:
         EXPECT_EQ(folder.Read(L"item.TXT"), TemplateAfter(item, preview));
     }
 
-    static std::string TemplateAfter(const SGeneratedItem& item, const CItemPreview& preview) {
+    static std::string TemplateAfter(const GeneratedItem& item, const CItemPreview& preview) {
         return item.templateFile
                    ? WrittenFile(preview.TemplateFileAfter(TextsOf(SplitLines(*item.templateFile))))
                    : "(no file)";
@@ -214,7 +214,7 @@ TEST_F(Preview, EqualsTheDialogOnEverySample) {
         SCOPED_TRACE(name);
         ++samples;
         const std::string working = name.substr(0, name.size() - 4) + "_TMP.TXT";
-        SGeneratedItem item;
+        GeneratedItem item;
         item.templateFile = ReadBytes(name);
         // Item routines write a copy of the template.
         item.workingFile = std::filesystem::exists(working) ? ReadBytes(working) : *item.templateFile;

@@ -74,7 +74,7 @@ protected:
     }
 
     CTempFolder m_folder;
-    SModuleHeap m_heap;
+    ModuleHeap m_heap;
     Texts m_messages;
 };
 

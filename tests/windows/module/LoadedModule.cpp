@@ -41,7 +41,7 @@ int CLoadedModule::Invoke(int code) const {
     return Send(SDS_INVOKE);
 }
 
-SModuleHeap::SModuleHeap() {
+ModuleHeap::ModuleHeap() {
     // The program folder's own, which the module then finds loaded; never given back.
     const HMODULE library = LoadLibraryW(L"TD_Alloc.dll");
     Fetch(library, "td_live_blocks", liveBlocks);

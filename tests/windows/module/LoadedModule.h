@@ -28,8 +28,8 @@ private:
 };
 
 // The functions of the checking allocator that are no operators; see HostHeap.h.
-struct SModuleHeap {
-    SModuleHeap();
+struct ModuleHeap {
+    ModuleHeap();
 
     std::size_t (*liveBlocks)();
     std::size_t (*allocations)();

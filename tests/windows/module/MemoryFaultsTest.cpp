@@ -24,7 +24,7 @@ const std::string updated =
     "free\r\nTitle\r\nVAR\r\n$1 = \"<<1501>>\"D900\r\n$2 = \"<<1502>>\"I2\r\nEND_VAR\r\n";
 
 // What a call gave.
-struct SOutcome {
+struct Outcome {
     std::vector<std::string> results;
     std::vector<std::wstring> messages;
     size_t allocations = 0;
@@ -44,7 +44,7 @@ protected:
     }
 
     // Calls the function whose `failing`-th allocation fails; 0 for none.
-    SOutcome Call(const CLoadedModule& module, int code, CArguments& arguments, size_t failing) {
+    Outcome Call(const CLoadedModule& module, int code, CArguments& arguments, size_t failing) {
         m_folder.Write(L"item_TMP.TXT", item);
         m_folder.Write(L"item.TXT", item);
         fakeHost.results.clear();
@@ -62,10 +62,10 @@ protected:
     // Lets each allocation of a call fail, one call each. `check` judges the outcome; the call that no longer
     // reaches its failing allocation must be a good one.
     void FailEachAllocation(int code, CArguments& arguments, const std::string& goodResult,
-                            const std::function<void(const SOutcome&)>& check) {
+                            const std::function<void(const Outcome&)>& check) {
         const auto callInFreshModule = [&](size_t failing) {
             const CLoadedModule module;
-            const SOutcome outcome = Call(module, code, arguments, failing);
+            const Outcome outcome = Call(module, code, arguments, failing);
             if (failing % 16 == 0) {
                 EXPECT_EQ(Call(module, code, arguments, 0).results, std::vector<std::string>{goodResult});
             }
@@ -76,7 +76,7 @@ protected:
         const int windows = WindowCount();
         for (size_t failing = 1;; ++failing) {
             SCOPED_TRACE(failing);
-            const SOutcome outcome = callInFreshModule(failing);
+            const Outcome outcome = callInFreshModule(failing);
             ASSERT_EQ(m_heap.liveBlocks(), 0U);
             // The system makes some objects for the first box or the first nested paint and keeps them: what
             // comes about again is the module's.
@@ -101,15 +101,15 @@ protected:
     }
 
     CTempFolder m_folder;
-    SModuleHeap m_heap;
+    ModuleHeap m_heap;
 };
 
-bool IsReported(const SOutcome& outcome, const wchar_t* text) {
+bool IsReported(const Outcome& outcome, const wchar_t* text) {
     return std::find(outcome.messages.begin(), outcome.messages.end(), text) != outcome.messages.end();
 }
 
 // A file is either unchanged or completely new. A new one may be cut short, which is reported.
-void ExpectWhole(const std::string& now, const std::string& rewritten, const SOutcome& outcome) {
+void ExpectWhole(const std::string& now, const std::string& rewritten, const Outcome& outcome) {
     if (outcome.results[0] == "nil") {
         EXPECT_EQ(now, item);
     } else if (now == item) {
@@ -125,7 +125,7 @@ void ExpectWhole(const std::string& now, const std::string& rewritten, const SOu
 TEST_F(MemoryFaults, TheItemDialogWritesWholeFilesOrReportsIt) {
     CArguments arguments;
     arguments.String(L"item").Real(1).Short(0);
-    FailEachAllocation(0, arguments, "0", [](const SOutcome& outcome) {
+    FailEachAllocation(0, arguments, "0", [](const Outcome& outcome) {
         EXPECT_FALSE(outcome.messages.empty());
         ExpectWhole(outcome.workingFile, assigned, outcome);
         ExpectWhole(outcome.templateFile, updated, outcome);
@@ -135,13 +135,13 @@ TEST_F(MemoryFaults, TheItemDialogWritesWholeFilesOrReportsIt) {
 TEST_F(MemoryFaults, TheChoiceAnswersTheChosenNameOrNil) {
     CArguments arguments;
     arguments.String(L"Replace").Short(0).String(L"a").String(L"b");
-    FailEachAllocation(1, arguments, "(100 \"a\")", [](const SOutcome&) {});
+    FailEachAllocation(1, arguments, "(100 \"a\")", [](const Outcome&) {});
 }
 
 TEST_F(MemoryFaults, ThePreviewAnswersZeroOrNil) {
     CArguments arguments;
     arguments.String(L"item");
-    FailEachAllocation(2, arguments, "0", [](const SOutcome&) {});
+    FailEachAllocation(2, arguments, "0", [](const Outcome&) {});
 }
 
 // The height of the grid's rows.

@@ -16,7 +16,7 @@ constexpr COLORREF textColor = RGB(0, 0, 140);
 constexpr COLORREF focusColor = RGB(0, 130, 0);
 constexpr COLORREF focusTextColor = RGB(255, 240, 0);
 
-SReport Chosen(int index) {
+Report Chosen(int index) {
     return {WM_GRID_CHOICE_MADE, index, {}};
 }
 
@@ -595,13 +595,13 @@ TEST_F(ComboList, LeavesOtherKeysAlone) {
 
 // ---- Endings
 
-struct SEnding {
+struct Ending {
     const char* name;
     std::function<void(CEditorGrid&, HWND list)> end;
     bool chooses = false;
 };
 
-std::ostream& operator<<(std::ostream& out, const SEnding& ending) {
+std::ostream& operator<<(std::ostream& out, const Ending& ending) {
     return out << ending.name;
 }
 
@@ -609,7 +609,7 @@ void Send(HWND list, UINT message, WPARAM wParam) {
     ::SendMessage(list, message, wParam, 0);
 }
 
-const SEnding endings[] = {
+const Ending endings[] = {
     {"Enter", [](auto&, HWND list) { Send(list, WM_KEYDOWN, VK_RETURN); }, true},
     {"Execute", [](auto&, HWND list) { Send(list, WM_KEYDOWN, VK_EXECUTE); }, true},
     {"Release", [](auto&, HWND list) { Send(list, WM_LBUTTONUP, 0); }, true},
@@ -621,7 +621,7 @@ const SEnding endings[] = {
     {"DestroyingItsWindow", [](auto&, HWND list) { ::DestroyWindow(list); }},
 };
 
-class ComboListEnding : public ComboList, public testing::WithParamInterface<SEnding> {
+class ComboListEnding : public ComboList, public testing::WithParamInterface<Ending> {
 protected:
     void End(HWND list) { GetParam().end(grid, list); }
 };
@@ -632,7 +632,7 @@ INSTANTIATE_TEST_SUITE_P(Endings, ComboListEnding, testing::ValuesIn(endings),
 TEST_P(ComboListEnding, ReportsAChoiceOnceToAGridThatDeletesIt) {
     const HWND list = Open(2).m_hWnd;
     End(list);
-    EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{Chosen(2)} : std::vector<SReport>());
+    EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{Chosen(2)} : std::vector<Report>());
     EXPECT_FALSE(::IsWindow(list));
     EXPECT_EQ(grid.editor == nullptr, GetParam().chooses) << "without a choice the object stays";
 }

@@ -6,7 +6,7 @@
 #include "tests/windows/support/ModalDriver.h"
 #include "tests/windows/support/Pixels.h"
 
-std::ostream& operator<<(std::ostream& out, const SReport& report) {
+std::ostream& operator<<(std::ostream& out, const Report& report) {
     return out << "message " << report.message << ", index " << report.index << ", text "
                << testing::PrintToString(report.text.substr(0, 200));
 }
@@ -47,7 +47,7 @@ void CEditorGrid::OnDestroy() {
     CPropertyGrid::OnDestroy();
 }
 
-void CEditorGrid::Take(const SReport& report) {
+void CEditorGrid::Take(const Report& report) {
     reports.push_back(report);
     if (beforeClosing) {
         beforeClosing();

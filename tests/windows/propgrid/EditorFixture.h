@@ -11,19 +11,19 @@
 #include "tests/windows/propgrid/GridFixture.h"
 
 // A message of an editor.
-struct SReport {
+struct Report {
     UINT message;
     int index;          // of WM_GRID_CHOICE_MADE
     std::wstring text;  // of WM_GRID_EDIT_DONE
-    bool operator==(const SReport&) const = default;
+    bool operator==(const Report&) const = default;
 };
-std::ostream& operator<<(std::ostream& out, const SReport& report);
+std::ostream& operator<<(std::ostream& out, const Report& report);
 
 // Keeps the editors' messages. Unless `keepsEditor` is set it destroys and deletes its editor inside the
 // message, as the grid does: the checking allocator then detects any later use by the editor.
 class CEditorGrid : public CPropertyGrid {
 public:
-    std::vector<SReport> reports;
+    std::vector<Report> reports;
     std::unique_ptr<CWnd> editor;
     std::function<void()> beforeClosing;  // called for each message
     bool keepsEditor = false;
@@ -41,7 +41,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void Take(const SReport& report);
+    void Take(const Report& report);
 };
 
 // A grid of 300 x 200 pixels at 10, 10 of a top-level window.

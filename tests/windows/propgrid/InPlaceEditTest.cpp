@@ -13,7 +13,7 @@ namespace {
 constexpr COLORREF back = RGB(0xE1, 0xE1, 0xE1);
 constexpr COLORREF textColor = RGB(0, 0, 140);
 
-SReport Done(const std::wstring& text) {
+Report Done(const std::wstring& text) {
     return {WM_GRID_EDIT_DONE, 0, text};
 }
 
@@ -134,11 +134,11 @@ TEST_F(InPlaceEdit, TakesEmptyInvertedHugeAndOffScreenRectangles) {
 // ---- Colours
 
 // What the edit answers when its background is about to be drawn.
-struct SColorsAnswered {
+struct ColorsAnswered {
     COLORREF text, back, brush;
 };
 
-SColorsAnswered AskForColors(CWnd& grid, HWND edit) {
+ColorsAnswered AskForColors(CWnd& grid, HWND edit) {
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
     const auto brush = reinterpret_cast<HGDIOBJ>(grid.SendMessage(
@@ -151,7 +151,7 @@ SColorsAnswered AskForColors(CWnd& grid, HWND edit) {
 
 TEST_F(InPlaceEdit, HasTheSystemsWindowColorsAtTheStart) {
     const CPropertyGridInPlaceEdit edit(&grid, Cell(), 0, 1000, L"x");
-    const SColorsAnswered colors = AskForColors(grid, edit.m_hWnd);
+    const ColorsAnswered colors = AskForColors(grid, edit.m_hWnd);
     EXPECT_EQ(colors.text, ::GetSysColor(COLOR_WINDOWTEXT));
     EXPECT_EQ(colors.back, ::GetSysColor(COLOR_WINDOW));
     EXPECT_EQ(colors.brush, ::GetSysColor(COLOR_WINDOW));
@@ -159,7 +159,7 @@ TEST_F(InPlaceEdit, HasTheSystemsWindowColorsAtTheStart) {
 
 TEST_F(InPlaceEdit, TakesOtherColors) {
     const HWND edit = Open(L"x").m_hWnd;
-    const SColorsAnswered colors = AskForColors(grid, edit);
+    const ColorsAnswered colors = AskForColors(grid, edit);
     EXPECT_EQ(colors.text, textColor);
     EXPECT_EQ(colors.back, back);
     EXPECT_EQ(colors.brush, back);
@@ -245,13 +245,13 @@ TEST_F(InPlaceEdit, SwallowsAltWithACharacterAndNothingElse) {
 
 // ---- Endings
 
-struct SEnding {
+struct Ending {
     const char* name;
     std::function<void(EditorTest&, CEditorGrid&, HWND edit)> end;
     bool backToInitialText = false;
 };
 
-std::ostream& operator<<(std::ostream& out, const SEnding& ending) {
+std::ostream& operator<<(std::ostream& out, const Ending& ending) {
     return out << ending.name;
 }
 
@@ -268,7 +268,7 @@ HWND FindSibling(HWND grid) {
     return ::GetDlgItem(::GetParent(grid), 101);
 }
 
-const SEnding endings[] = {
+const Ending endings[] = {
     {"Enter", [](auto&, auto&, HWND edit) { SendChar(edit, VK_RETURN); }},
     {"Tab", [](auto&, auto&, HWND edit) { SendChar(edit, VK_TAB); }},
     {"CtrlLeft", [](auto&, auto&, HWND edit) { PressWithCtrl(edit, VK_LEFT); }},
@@ -287,10 +287,10 @@ const SEnding endings[] = {
     {"Escape", [](auto&, auto&, HWND edit) { SendChar(edit, VK_ESCAPE); }, true},
 };
 
-class InPlaceEditEnding : public InPlaceEdit, public testing::WithParamInterface<SEnding> {
+class InPlaceEditEnding : public InPlaceEdit, public testing::WithParamInterface<Ending> {
 protected:
     void End(HWND edit) { GetParam().end(*this, grid, edit); }
-    SReport Expected() const { return Done(GetParam().backToInitialText ? L"12.5" : L"12.57"); }
+    Report Expected() const { return Done(GetParam().backToInitialText ? L"12.5" : L"12.57"); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Endings, InPlaceEditEnding, testing::ValuesIn(endings),

@@ -10,7 +10,7 @@
 
 namespace {
 
-const SReport dateChosen = {WM_GRID_DATE_CHOSEN, 0, {}};
+const Report dateChosen = {WM_GRID_DATE_CHOSEN, 0, {}};
 
 // Opens a calendar in the grid as the grid does for a date; `cell` is its value in client coordinates.
 CPropertyGridMonthCalCtrl& OpenCalendar(CEditorGrid& grid, const COleDateTime& date, CRect cell) {
@@ -264,13 +264,13 @@ TEST_F(MonthCal, ClosesWhenAChildOfAnotherWindowTakesTheFocus) {
 
 // ---- Endings
 
-struct SEnding {
+struct Ending {
     const char* name;
     std::function<void(CEditorGrid&, HWND calendar)> end;
     bool chooses = false;
 };
 
-std::ostream& operator<<(std::ostream& out, const SEnding& ending) {
+std::ostream& operator<<(std::ostream& out, const Ending& ending) {
     return out << ending.name;
 }
 
@@ -278,7 +278,7 @@ void SendKey(HWND calendar, UINT key) {
     ::SendMessage(calendar, WM_KEYDOWN, key, 1);
 }
 
-const SEnding endings[] = {
+const Ending endings[] = {
     {"Enter", [](auto&, HWND calendar) { SendKey(calendar, VK_RETURN); }, true},
     {"Execute", [](auto&, HWND calendar) { SendKey(calendar, VK_EXECUTE); }, true},
     {"Escape", [](auto&, HWND calendar) { SendKey(calendar, VK_ESCAPE); }},
@@ -289,7 +289,7 @@ const SEnding endings[] = {
     {"DestroyingItsWindow", [](auto&, HWND calendar) { ::DestroyWindow(calendar); }},
 };
 
-class MonthCalEnding : public MonthCal, public testing::WithParamInterface<SEnding> {
+class MonthCalEnding : public MonthCal, public testing::WithParamInterface<Ending> {
 protected:
     void End(HWND calendar) { GetParam().end(grid, calendar); }
 };
@@ -300,7 +300,7 @@ INSTANTIATE_TEST_SUITE_P(Endings, MonthCalEnding, testing::ValuesIn(endings),
 TEST_P(MonthCalEnding, ReportsADateOnceToAGridThatDeletesIt) {
     const HWND calendar = Open().m_hWnd;
     End(calendar);
-    EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{dateChosen} : std::vector<SReport>());
+    EXPECT_EQ(grid.reports, GetParam().chooses ? std::vector{dateChosen} : std::vector<Report>());
     EXPECT_FALSE(::IsWindow(calendar));
     EXPECT_EQ(grid.editor == nullptr, GetParam().chooses) << "without a date the object stays";
 }

@@ -33,6 +33,6 @@ int KernelHandleCount() {
 
 }  // namespace
 
-SProcessState SProcessState::Now(std::size_t liveBlocks) {
+ProcessState ProcessState::Now(std::size_t liveBlocks) {
     return {liveBlocks, GdiObjectCount(), WindowCount(), ThreadCount(), KernelHandleCount()};
 }

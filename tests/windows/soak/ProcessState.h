@@ -3,9 +3,9 @@
 
 #include <cstddef>
 
-struct SProcessState {
+struct ProcessState {
     // As things stand now. `liveBlocks` is the module's heap's own count.
-    static SProcessState Now(std::size_t liveBlocks);
+    static ProcessState Now(std::size_t liveBlocks);
 
     std::size_t heapBlocks = 0;  // the module's
     int gdiObjects = 0;

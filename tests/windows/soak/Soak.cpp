@@ -133,7 +133,7 @@ private:
     void PlanTyping(CSoakItem& item, std::deque<CSoakDriver::Step>& steps) {
         constexpr int rowsInSight = 12;
         for (int typing = m_choices.Below(4); typing > 0 && !item.EditableRows().empty(); --typing) {
-            const CSoakItem::SRow& row = item.EditableRows()[static_cast<std::size_t>(
+            const CSoakItem::Row& row = item.EditableRows()[static_cast<std::size_t>(
                 m_choices.Below(static_cast<int>(item.EditableRows().size())))];
             if (row.row >= rowsInSight) {
                 continue;
@@ -245,7 +245,7 @@ int main(int argc, char** argv) {
     BindHost(GetModuleHandleW(nullptr));
     OfferTextModule();
     TextOfModule(1501);
-    const SModuleHeap heap;
+    const ModuleHeap heap;
     callStarted = GetTickCount64();
     CloseHandle(CreateThread(nullptr, 0, Watch, nullptr, 0, nullptr));
 
@@ -259,12 +259,12 @@ int main(int argc, char** argv) {
             soak.CallAny();
         }
         const int calls = soak.Calls();
-        const SProcessState before = SProcessState::Now(heap.liveBlocks());
+        const ProcessState before = ProcessState::Now(heap.liveBlocks());
         soak.ChooseAgain(seed);
         while (soak.Calls() < 2 * calls) {
             soak.CallAny();
         }
-        const SProcessState after = SProcessState::Now(heap.liveBlocks());
+        const ProcessState after = ProcessState::Now(heap.liveBlocks());
         soak.PrintSummary();
         grown |= PrintGrowth("heap blocks", static_cast<long long>(before.heapBlocks),
                              static_cast<long long>(after.heapBlocks));

@@ -170,7 +170,7 @@ std::string CSoakItem::TakeValuesFrom(const std::string& workingFile) {
     for (const auto& [index, record] : m_records) {
         fixed[index] = ValueText(record, m_scale);
     }
-    for (const SRow& row : m_editableRows) {
+    for (const Row& row : m_editableRows) {
         fixed.erase(row.lineIndex);
     }
     for (const auto& [index, text] : m_written) {

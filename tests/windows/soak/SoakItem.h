@@ -25,7 +25,7 @@ private:
 class CSoakItem {
 public:
     // A row of the grid that a person can edit.
-    struct SRow {
+    struct Row {
         int row;        // from 0
         int lineIndex;  // of its parameter
         wchar_t type;   // I, D or R
@@ -37,7 +37,7 @@ public:
     const std::string& TemplateFile() const { return m_templateFile; }
     double Scale() const { return m_scale; }
     int Mode() const { return m_mode; }
-    const std::vector<SRow>& EditableRows() const { return m_editableRows; }
+    const std::vector<Row>& EditableRows() const { return m_editableRows; }
 
     // The person typed `number` into the row of that line.
     void Type(int lineIndex, double number);
@@ -60,5 +60,5 @@ private:
     std::string m_templateFile;
     ParamRecordMap m_records;
     std::map<int, std::wstring> m_written;  // value texts taken from a file, by line
-    std::vector<SRow> m_editableRows;
+    std::vector<Row> m_editableRows;
 };

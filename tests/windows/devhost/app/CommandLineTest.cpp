@@ -48,7 +48,7 @@ TEST(CommandLine, ASearchFolderMustBeAFolder) {
 TEST(CommandLine, ATextThatDoesNotParseIsFoundBeforeThePlugInIsLoaded) {
     const CEnvironment crash(L"TESTPLUGIN_LOAD", L"crash");
     ExpectMistake(RunHost({L"--eval", L"(give-nil)", L"--eval", L"(give-nil\n \"a"}),
-                  "--eval '(give-nil  \"a': line 2, column 2: a text is not closed");
+                  "--eval '(give-nil  \"a': line 2, column 2: a string is not closed");
     ExpectMistake(RunHost({L"--eval", L" ; nothing"}), "--eval ' ; nothing': there is nothing to evaluate");
 }
 

@@ -61,7 +61,7 @@ TEST_F(Script, ScriptsAndExpressionsAreDoneInTheOrderGiven) {
 TEST_F(Script, AMistakeEndsTheRunWithFileLineAndFunction) {
     ExpectFailure(Run("(princ \"first\")\n(defun f (x)\n  (strcat \"a\" x))\n(f 5)\n(princ \"never\")",
                       {L"--eval", L"(princ \"never\")"}),
-                  "test.lsp:4 > test.lsp:3 in F: STRCAT needs a text as argument 2, not 5",
+                  "test.lsp:4 > test.lsp:3 in F: STRCAT needs a string as argument 2, not 5",
                   "first\n; heap: 0 blocks held\n");
     ExpectFailure(Run("\n(unknown-function 1)"),
                   "test.lsp:2: the function UNKNOWN-FUNCTION is not defined: check its name and whether the "
@@ -70,7 +70,7 @@ TEST_F(Script, AMistakeEndsTheRunWithFileLineAndFunction) {
     ExpectFailure(Run("(echo '(1))"), "test.lsp:1: ECHO cannot take (1): only numbers and texts are passed");
     ExpectFailure(
         Run("(load \"other\")"),
-        "test.lsp:1: LOAD: the file 'other.lsp' is not found: check its name and the search folders");
+        "test.lsp:1: LOAD: the file 'other.lsp' was not found: check its name and the search folders");
 }
 
 TEST_F(Script, WhatCannotBeReadIsFoundBeforeAnythingIsLoadedOrRun) {
