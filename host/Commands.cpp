@@ -2,8 +2,6 @@
 
 #include <afxwin.h>
 
-#include <exception>
-
 #include "imagedlg/ChoiceSlides.h"
 #include "imagedlg/TavrinPreviewDlg.h"
 #include "imagedlg/TavrinSelMaskDlg.h"
@@ -16,8 +14,8 @@ namespace tavrin::host {
 
 namespace {
 
-// Runs the body of a command with the module's own resources, restored on every way out. What the body
-// throws ends here with a message box, as it would in a window procedure, and nil as LISP's result.
+// Runs the body of a command with the module's own resources, restored on every way out. When the body
+// throws, LISP gets nil; an exception of the framework's is shown in a message box first.
 template <typename Body>
 int RunFramed(Body body) {
     AFX_MAINTAIN_STATE2 moduleState(AfxGetStaticModuleState());
@@ -26,7 +24,7 @@ int RunFramed(Body body) {
     } catch (CException* exception) {
         exception->ReportError();
         exception->Delete();
-    } catch (const std::exception&) {
+    } catch (...) {  // nothing may reach the host
     }
     sds_retnil();
     return 0;

@@ -1,5 +1,5 @@
 // The choice dialog without its window: what its six cells show, which of them can be selected, which get
-// a frame, and how large the window is, all by the number of choices.
+// a frame, and how large the window is, all depending on the number of choices.
 //
 // Cells are numbered from 1, row by row (1 2 3 above 4 5 6); choices are numbered from 0. Rectangles and
 // points are in pixels.
@@ -10,20 +10,21 @@
 namespace tavrin::imagedlg {
 
 inline constexpr int kChoiceCells = 6;
-// A dialog with more choices, or with none, closes as soon as it would show.
+// A dialog with more choices, or with none, closes before it is shown.
 inline constexpr unsigned kMaxChoices = 6;
 
 // What a cell shows is the index of a choice, or one of these.
 inline constexpr int kCellEmpty = -1;
 inline constexpr int kCellLogo = -2;
-// Empty for every cell when the count is 0 or above kMaxChoices.
+
+// The content of a cell; kCellEmpty for every cell when the count is 0 or above kMaxChoices.
 int GetCellContent(unsigned count, int cell);
 
 // Whether a click selects the cell. With up to three choices that is the whole top row, even where it
 // shows nothing: the window is narrowed so that those cells are outside it.
 bool IsChoiceCellSelectable(unsigned count, int cell);
 
-// Whether typing the cell's number selects it: only where there is a choice in sight.
+// Whether typing the cell's number selects it: only if the cell shows a choice.
 bool IsChoiceCellTypeable(unsigned count, int cell);
 
 // The choice that selecting the (selectable) cell means; `previous` is the one selected before.

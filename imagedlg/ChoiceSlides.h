@@ -5,7 +5,7 @@ namespace tavrin::imagedlg {
 
 // Looked for first.
 inline constexpr wchar_t kFlatSlideEnding[] = L"_t.png";
-// Looked for second, where slides in space count too.
+// Looked for second, where 3D slides count too.
 inline constexpr wchar_t kSpaceSlideEnding[] = L"_t_3d.png";
 
 // The text that says that no choice has a slide.

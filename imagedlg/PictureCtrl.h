@@ -28,8 +28,8 @@ public:
     // What assistive technology calls the picture: the window's text, which is not drawn. To be called once
     // the window exists.
     void SetAccessibleName(const CString& name) { SetWindowText(name); }
-    // Makes the picture one to choose among, which a click on it selects, or a key; and whether it is
-    // selected. Both work before the window exists.
+    // For assistive technology: SetSelectable says that the picture can be selected, by a click or by `key`;
+    // SetSelected whether it is. Both work before the window exists.
     void SetSelectable(const std::wstring& key) { m_access.SetSelectable(key); }
     void SetSelected(bool selected) { m_access.SetSelected(selected); }
 

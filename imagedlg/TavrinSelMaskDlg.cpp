@@ -141,7 +141,7 @@ void CTavrinSelMaskDlg::RefreshSlides() {
 
 CString CTavrinSelMaskDlg::GetSlidePath(CString name) {
     if (!name.IsEmpty()) {
-        // Whether slides in space count was settled when the name became a choice.
+        // AddChoice has already decided whether 3D slides count.
         for (const wchar_t* ending : {kFlatSlideEnding, kSpaceSlideEnding}) {
             if (const auto path = FindSlide(name, ending)) {
                 return path->c_str();

@@ -59,7 +59,7 @@ public:
     virtual HBRUSH GetBackgroundBrush();
     virtual void RefreshSlides();
 
-    // The file to show for a choice: its slide, flat or in space; "empty.png" when the host finds neither
+    // The file to show for a choice: its flat slide, else its 3D one; "empty.png" when the host finds neither
     // any more or the name is empty. When that is missing too, a message box says so and the path is empty.
     virtual CString GetSlidePath(CString name);
     // Empty, without a message, when there is no "logo.png".

@@ -1,5 +1,5 @@
-// What the item dialog makes of a working file: its title and header, and one parameter after the other with
-// the row that it gets. The dialog is filled from this, and so is a preview of it.
+// What the item dialog makes of a working file: its title, its header and its parameters, each with what
+// becomes of it in the grid. Both the dialog and its preview are filled from this.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,8 @@ namespace tavrin::itemdlg {
 // What becomes of a parameter in the grid.
 enum EParameterRow {
     PR_SHOWN,         // it gets a row
-    PR_LABEL_TAKEN,   // none: a row above has exactly its label, and the grid takes no second one
-    PR_INVALID_TYPE,  // none, but a warning: its type letter is no capital
+    PR_LABEL_TAKEN,   // it gets no row: a row above has the same label
+    PR_INVALID_TYPE,  // it gets no row but a warning: its type letter is lower case
 };
 
 struct ItemParameter : ParameterRow {
@@ -23,14 +23,15 @@ struct ItemParameter : ParameterRow {
 };
 
 struct ItemContents {
-    // Of the window. Nothing when the file has no line for it, which leaves title and header as they are.
+    // The window's title. Nothing when the file is too short to have one: title and header stay unchanged.
     std::optional<std::wstring> title;
     std::wstring header;
     std::vector<ItemParameter> parameters;  // in the order of their lines
 };
 
-// Reads the lines of a working file. Distances and reals are multiplied by the scale; in read-only mode
-// marked rows are read-only. Title and header end at their first null character, as windows' texts do.
+// Reads the lines of a working file. Distances and reals are multiplied by the scale; in mode 1
+// (kReadOnlyMode) marked rows are read-only. Title and header end at their first null character, as windows'
+// texts do.
 ItemContents ReadItem(const TextLines& lines, double scale, int mode, const TextLookup& lookup,
                       const PlaceholderLookup& placeholder = PlaceholderNumber);
 

@@ -1,25 +1,25 @@
-// Text of the C runtime's locale as UTF-16 and back, without losing a byte.
+// Converts text between the C runtime's locale and UTF-16 without losing a byte.
 #pragma once
 
 #include <string>
 
 namespace tavrin::itemdlg {
 
-// In the "C" locale a byte is the character of the same number. In any other one, bytes that the locale
-// cannot convert there and back become characters 0xDC00 + byte, and such characters are written as that byte
-// again: every byte survives being read and written.
+// In the "C" locale a byte is the character with the same code. In any other locale, a byte that does not
+// survive the round trip becomes the character 0xDC00 + byte, which is written as that byte again.
 //
-// Keeps the locale's single bytes as they were when it was made; the locale must not change while it is used.
+// The locale's single bytes are looked up once, in the constructor: do not change the locale while an object
+// is in use.
 class CLocaleText {
 public:
     CLocaleText();
 
-    // One for the locale that is set now: the last one made, which is quick to copy, as long as the locale
-    // has kept its name. For the user-interface thread alone.
+    // A converter for the current locale. The last one is kept, and copied while the locale has the same
+    // name, since making one is slow. For the user-interface thread alone.
     static CLocaleText OfLocale();
 
     std::wstring Decode(const std::string& bytes) const;
-    // FALSE when the locale cannot express the text; bytes then holds what came before.
+    // False when the locale cannot express the text; `bytes` then holds what was encoded before that.
     bool Encode(const std::wstring& text, std::string& bytes) const;
 
 private:
@@ -28,7 +28,7 @@ private:
     size_t DecodeOne(const char* bytes, size_t count, wchar_t& unit) const;
 
     wchar_t m_units[256];  // the character of each single byte
-    bool m_isSingle[256];  // there and back, without looking at the bytes after it
+    bool m_isSingle[256];  // whether this byte alone survives the round trip
 };
 
 }  // namespace tavrin::itemdlg

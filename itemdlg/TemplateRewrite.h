@@ -29,14 +29,14 @@ std::wstring WorkingFileLine(const ParamRecord& record, const std::wstring& valu
 // comes back in the suffix. There is no blank between the type letter and the value.
 std::wstring TemplateFileLine(const ParamRecord& record, const std::wstring& valueText);
 
-// Replaces each line whose index has a record by the assignment line, blocks or not: the file must
-// still have the layout that the records were read from. Records beyond its end are left out. A record of
+// Replaces each line whose index has a record by the assignment line, inside a block or not: the file must
+// still have the layout that the records were read from. Records beyond its end are skipped. A record of
 // type U is assigned nothing, and `valueTextOf` is not called for it.
 void RewriteWorkingFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf);
 
-// Replaces, for each record, the last line in a block that has the record's
-// number, compared as text ("01" is not "1"). Records whose number does not occur and those of type U are
-// left out. `valueTextOf` is called in the order of the records' lines.
+// Replaces, for each record, the last line inside a block that has the record's number, compared as text
+// ("01" is not "1"). Records whose number does not occur and those of type U are skipped. `valueTextOf` is
+// called in the order of the records' lines.
 void RewriteTemplateFile(TextLines& lines, const ParamRecordMap& records, const ValueTextOf& valueTextOf);
 
 }  // namespace tavrin::itemdlg

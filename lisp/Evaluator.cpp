@@ -16,7 +16,8 @@ constexpr std::uint64_t kStepsBetweenPolls = 4096;
 // An *error* function may exceed the limit by this, since it runs where the error happened.
 constexpr std::size_t kStackForErrorHandler = std::size_t{256} * 1024;
 
-// An *error* function, and an evaluation that begins above the limit, may exceed it by one part in so many.
+// An *error* function, and an evaluation that begins above the limit, may exceed it by this fraction of it:
+// an eighth.
 constexpr std::size_t kReserve = 8;
 constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
 
@@ -28,11 +29,7 @@ constexpr wchar_t kTooDeep[] = L"calls are nested too deep: does the recursion c
 
 // Not the address of a local, which the address sanitizer may keep elsewhere.
 std::uintptr_t StackPointer() {
-#ifdef _MSC_VER
-    return reinterpret_cast<std::uintptr_t>(_AddressOfReturnAddress());
-#else
     return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-#endif
 }
 
 std::wstring ArgumentCount(std::size_t count) {
@@ -54,7 +51,10 @@ Definition ReadParameters(const std::wstring& name, const CValue& list) {
         if (parameter.Type() != VT_SYMBOL || parameter.IsSymbol(L"T")) {
             throw CLispError(name + L" cannot have " + Excerpt(parameter) + L" as a parameter");
         }
-        if (parameter.IsSymbol(L"/") && names == &definition.parameters) {
+        if (parameter.IsSymbol(L"/")) {
+            if (names == &definition.locals) {
+                throw CLispError(name + L" has more than one slash in its list of parameters");
+            }
             names = &definition.locals;
         } else {
             names->push_back(parameter.AsSymbol());
@@ -80,7 +80,7 @@ CValue DefinedFunction(const std::wstring& name, const CValue& definition, const
 
 }  // namespace
 
-// Enters a function, or the outermost source, for the location of errors.
+// Enters a function or a source, for the location of errors.
 class CEvaluator::CFrameScope {
 public:
     CFrameScope(CEvaluator& evaluator, Frame frame)

@@ -27,7 +27,7 @@ namespace tavrin::lisp {
 class CEvaluator {
 public:
     // How much of the thread's stack an evaluation may use, in bytes; deeper nesting is an error. The thread
-    // needs some hundred thousand bytes more than this.
+    // needs several hundred thousand bytes more than this.
     static constexpr std::size_t kStackBytes = std::size_t{4} * 1024 * 1024;
     // How much memory all values together may use, in bytes, unless another limit is set.
     static constexpr std::size_t kMemoryBytes = std::size_t{512} * 1024 * 1024;
@@ -37,7 +37,7 @@ public:
     CEvaluator(const CEvaluator&) = delete;
     CEvaluator& operator=(const CEvaluator&) = delete;
 
-    // Defines a native function; names do not distinguish case. False when the name is that of another native
+    // Defines a native function; names are not case-sensitive. False when the name is that of another native
     // function, or not a valid name. A value that LISP assigned to the name is replaced.
     bool Define(std::wstring_view name, NativeFunction function);
     // False when there is no such function. A value that LISP assigned to the name stays.
@@ -48,13 +48,13 @@ public:
     // been called if there is one.
     LispResult Run(const Source& source);
 
-    // Values may use so many bytes, from the next evaluation on. An evaluation that begins above the limit,
-    // because of what the variables hold, gets a reserve, so that it can release memory.
+    // How many bytes all values may use, from the next evaluation on. An evaluation that begins above the
+    // limit, because of what the variables hold, gets a reserve, so that it can release memory.
     void SetMemoryLimit(std::size_t bytes);
 
     // For built-in functions and special forms, during an evaluation.
 
-    // Throws CLispError without a location, like all functions below.
+    // Throws CLispError, like all functions below. It has a location only if a LISP function failed inside.
     LispResult Evaluate(const CValue& expression);
     // The same where a value is required: no value is an error that names `user`.
     CValue EvaluateValue(const CValue& expression, std::wstring_view user);
@@ -82,7 +82,7 @@ public:
     void CheckStack() const;
 
 private:
-    // A running function, or the outermost source.
+    // A running function or source; a source inside another is one that LOAD runs.
     struct Frame {
         const std::wstring* function;  // null for the source
         const std::wstring* file;

@@ -67,7 +67,7 @@ CValue AskUntil(const CArguments& arguments, const Question& question, EQuestion
 // (getpoint [BASE] [PROMPT])
 LispResult GetPoint(const CArguments& arguments) {
     const Question question = QuestionOf(arguments);
-    return AskUntil(arguments, question, Q_POINT, L"a point: click into the drawing or type X,Y",
+    return AskUntil(arguments, question, Q_POINT, L"a point: click in the drawing or type X,Y",
                     [](const LispAnswer& answer) -> std::optional<CValue> {
                         return answer.kind == ANSWER_POINT ? std::optional(PointValue(answer.point))
                                                            : std::nullopt;
@@ -77,7 +77,7 @@ LispResult GetPoint(const CArguments& arguments) {
 // (getdist [BASE] [PROMPT]): typed, or the distance to a point from BASE or from another point, asked next.
 LispResult GetDistance(const CArguments& arguments) {
     Question question = QuestionOf(arguments);
-    constexpr wchar_t kNeeded[] = L"a distance: click into the drawing or type a length";
+    constexpr wchar_t kNeeded[] = L"a distance: click in the drawing or type a length";
     const auto convert = [&](const LispAnswer& answer) -> std::optional<CValue> {
         if (answer.kind == ANSWER_TEXT) {
             const auto length = units::ParseLinear(answer.text);

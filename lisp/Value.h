@@ -39,7 +39,7 @@ public:
     static CValue Integer(std::int32_t number);
     static CValue Real(double number);
     static CValue String(std::wstring text);
-    // Symbols do not distinguish case and carry their name in capitals; "nil" gives nil.
+    // Symbols are not case-sensitive and carry their name in capitals; "nil" gives nil.
     static CValue Symbol(std::wstring_view name);
     static CValue Pair(CValue car, CValue cdr, SourceLine line = {});
     static CValue List(std::span<const CValue> elements, CValue tail = {}, SourceLine line = {});
@@ -49,7 +49,7 @@ public:
     // T or nil.
     static CValue Truth(bool holds);
 
-    EValueType Type() const { return EValueType(m_data.index()); }
+    EValueType Type() const { return static_cast<EValueType>(m_data.index()); }
     bool IsNil() const { return Type() == VT_NIL; }
     bool IsSymbol(std::wstring_view upperCaseName) const;
 

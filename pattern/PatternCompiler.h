@@ -35,7 +35,7 @@ private:
         bool sequenceEmpty = true;   // the sequence so far can match the empty text
         bool chainEmpty = false;     // an earlier alternative of this chain can
         bool operandDue = false;     // a bar or an exclamation mark waits for what it applies to
-        std::uint32_t group = 0;     // CaptureGroup: its number
+        std::uint32_t group = 0;     // FR_CAPTURE_GROUP: its number
         Address slots = kNone;       // of the current element
         Address lookaheads = kNone;  // the innermost look-ahead that waits for its atom; they are linked
         Address chainJumps = kNone;  // the last jump to the end of the alternation; they are linked

@@ -48,13 +48,13 @@ struct ImportedFunction {
 };
 
 #define TABLE_ROW(name) {#name, &IMPORT_POINTER(name)},
-const ImportedFunction importedFunctions[] = {SDS_FUNCTIONS(TABLE_ROW)};
+const ImportedFunction kImportedFunctions[] = {SDS_FUNCTIONS(TABLE_ROW)};
 
 }  // namespace
 
 std::wstring BindHost(HMODULE host) {
     std::wstring missing;
-    for (const ImportedFunction& function : importedFunctions) {
+    for (const ImportedFunction& function : kImportedFunctions) {
         *function.pointer = GetProcAddress(host, function.name);
         if (*function.pointer == nullptr) {
             if (!missing.empty()) {

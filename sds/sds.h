@@ -47,7 +47,7 @@ inline constexpr unsigned SDS_UNLOAD = 2;
 inline constexpr unsigned SDS_INVOKE = 5;
 inline constexpr unsigned SDS_LAST_REQUEST = 17;
 
-// Makes the LISP function `name` known under `code`; sds_undef takes it away again. 0 for failure.
+// Makes the LISP function `name` known under `code`; sds_undef removes it. 0 for failure.
 SDS_API int sds_defun(const wchar_t* name, short code);
 SDS_API int sds_undef(const wchar_t* name, short code);
 
@@ -62,18 +62,19 @@ SDS_API int sds_retnil(void);
 SDS_API int sds_retlist(const sds_resbuf* list);
 
 // A new list from pairs of a type code and a value (RTREAL: double, RTSHORT: int, RTSTR: const
-// wchar_t*), closed by RTNONE; null when there is no memory. The list belongs to the host's heap.
+// wchar_t*), ended by RTNONE; null when there is no memory. The host owns the list: the caller does not free
+// it.
 SDS_API sds_resbuf* sds_buildlist(int type, ...);
 
-// Reports that the running request failed; shows a text to the user.
+// sds_fail reports to the host that the running request failed; sds_alert shows a text to the user.
 SDS_API int sds_fail(const wchar_t* message);
 SDS_API int sds_alert(const wchar_t* message);
 
 // The host's main window.
 SDS_API HWND sds_getmainhwnd(void);
 
-// Looks for a file on the host's search path. On RTNORM `result` holds its full path; the buffer must
-// hold more than `capacity` characters.
+// Looks for a file on the host's search path. On RTNORM `result` holds its full path. It needs room for more
+// than `capacity` characters: some hosts write the terminating zero after the capacity.
 SDS_API int sds_findfile(const wchar_t* name, wchar_t* result, size_t capacity);
 
 // Reads a system variable; on RTNORM `result` holds its value (LUNITS and LUPREC: RTSHORT).

@@ -13,7 +13,8 @@ CItemCatalog::CItemCatalog(const std::vector<std::wstring>& folders) {
         const std::vector<Item> items = FindItems(folder);
         m_items.insert(m_items.end(), items.begin(), items.end());
         std::wstring full = FullPath(folder);
-        while (full.ends_with(L'\\')) {
+        // The backslash of a root such as "D:\" stays: "D:" is the current folder of that drive.
+        while (full.ends_with(L'\\') && std::filesystem::path(full).has_relative_path()) {
             full.pop_back();
         }
         m_folders.push_back(full);

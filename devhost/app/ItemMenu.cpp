@@ -87,9 +87,9 @@ void CItemMenu::PrintDifference(const std::vector<Item>& items, const std::vecto
 }
 
 void CItemMenu::CheckAll() {
+    m_check.Forget();
     Watch();
     NotifyRescan();
-    m_check.Forget();
     for (const Item& item : m_catalog.Items()) {
         m_check.Check(item);
     }

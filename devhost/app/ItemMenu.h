@@ -25,15 +25,15 @@ public:
     CItemMenu& operator=(const CItemMenu&) = delete;
 
     CItemCheck& Check() { return m_check; }
-    // Called after items were added or removed, and after the user had them looked for again.
+    // Called after items were added or removed, and after the user chose Rescan.
     void SetRescanListener(std::function<void()> onRescan) { m_onRescan = std::move(onRescan); }
 
 private:
     void Offer();
     void Run(std::size_t index);
-    // For a typed call: the item with this name in capitals, checked, also one that has just been made.
+    // For a typed call: finds the item, even a new one, by its name in capitals, and checks it.
     std::optional<std::wstring> Find(std::wstring_view function);
-    // Takes over what has changed on the disk.
+    // Picks up changes on the disk.
     void Watch();
     void PrintDifference(const std::vector<Item>& items, const std::vector<Item>& others,
                          const std::wstring& what);
@@ -50,7 +50,8 @@ private:
     std::function<void()> m_onRescan;
 };
 
-// Adds the items' folders to the search path, each item's before its parent, except those that it has.
+// Adds the items' folders to the search path, each item's before its parent, except folders that are already
+// in it.
 void AddToSearchPath(const CItemCatalog& catalog, CSearchPath& searchPath);
 
 }  // namespace devhost

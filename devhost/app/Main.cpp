@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +26,7 @@
 #include "devhost/drawing/SvgWriter.h"
 #include "devhost/drawlisp/DrawFunctions.h"
 #include "devhost/options/Options.h"
+#include "encoding/Encoding.h"
 #include "handles/ComApartment.h"
 #include "lisp/OneLine.h"
 
@@ -76,15 +78,16 @@ bool WriteDrawing(const CDrawing& drawing, const std::wstring& path) {
 // True when the plug-in was unloaded without errors and has freed all blocks. Then a run of scripts prints no
 // report.
 bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool quiet) {
-    bool inOrder = true;
+    bool isClean = true;
     try {
         plugIn.Unload();
     } catch (const CUserError& error) {
         output.Error(error.Text());
-        inOrder = false;
+        isClean = false;
     }
     const std::size_t blocks = heap.LiveBlocks();
-    std::wstring report = L"; heap: " + std::to_wstring(blocks) + L" blocks held";
+    std::wstring report =
+        L"; heap: " + std::to_wstring(blocks) + (blocks == 1 ? L" block held" : L" blocks held");
     if (blocks != 0) {
         report += L", " + std::to_wstring(heap.LiveBytes()) + L" bytes";
     }
@@ -92,18 +95,18 @@ bool Unload(CPlugIn& plugIn, const CHeapLibrary& heap, CTextOutput& output, bool
         output.Line(report);
     }
     heap.PrintLive();
-    return inOrder && blocks == 0;
+    return isClean && blocks == 0;
 }
 
-// Repeats the output in the window during its lifetime.
-class CListening {
+// Copies the output to the window during its lifetime.
+class COutputCopy {
 public:
-    CListening(CTextOutput& output, CMainWindow& window) : m_output(output) {
+    COutputCopy(CTextOutput& output, CMainWindow& window) : m_output(output) {
         output.SetListener([&window](std::wstring_view text) { window.AddText(text); });
     }
-    ~CListening() { m_output.SetListener(nullptr); }
-    CListening(const CListening&) = delete;
-    CListening& operator=(const CListening&) = delete;
+    ~COutputCopy() { m_output.SetListener(nullptr); }
+    COutputCopy(const COutputCopy&) = delete;
+    COutputCopy& operator=(const COutputCopy&) = delete;
 
 private:
     CTextOutput& m_output;
@@ -223,7 +226,7 @@ void SetCommands(const CDrawing& drawing, CTextOutput& output, CMainWindow& wind
     });
 }
 
-bool IsScriptsAlone(const std::vector<PreparedTask>& tasks) {
+bool AreAllScripts(const std::vector<PreparedTask>& tasks) {
     for (const PreparedTask& task : tasks) {
         if (!task.isScript) {
             return false;
@@ -258,7 +261,7 @@ int Run(const Options& options, CTextOutput& output) {
     CPlugIn plugIn(host, options.plugIn.empty() ? folder + L"\\TavrinWnd.dll" : options.plugIn);
     CSession session(evaluator, drawing, output, window);
 
-    auto listening = std::make_optional<CListening>(output, window);
+    auto listening = std::make_optional<COutputCopy>(output, window);
     ShareFormat(variables, window);
     CItemMenu items(catalog, searchPath, session, output, window);
     host.SetCallListener([&](const std::wstring& function, std::span<const lisp::CValue> arguments) {
@@ -278,8 +281,8 @@ int Run(const Options& options, CTextOutput& output) {
     if (!drawingPath.empty() && !WriteDrawing(drawing, drawingPath)) {
         throw NotWritten(drawingPath);
     }
-    const bool inOrder = Unload(plugIn, heap, output, IsScriptsAlone(tasks));
-    return status == kExitDone && !inOrder ? kExitFailed : status;
+    const bool isClean = Unload(plugIn, heap, output, AreAllScripts(tasks));
+    return status == kExitDone && !isClean ? kExitFailed : status;
 }
 
 }  // namespace
@@ -301,13 +304,15 @@ int wmain(int count, wchar_t** arguments) {
             output.Line(L"DevHost " DEVHOST_VERSION);
             return kExitDone;
         }
-        // As in the CAD application: plug-ins, and who asks their windows, count on it.
+        // As in the CAD application: plug-ins rely on it, and so do screen readers that query their windows.
         const tavrin::handles::CComApartment apartment;
         return Run(options, output);
     } catch (const CUserError& error) {
         output.Error(error.Text());
-    } catch (const std::exception&) {
+    } catch (const std::bad_alloc&) {
         output.Error(L"out of memory");
+    } catch (const std::exception& error) {
+        output.Error(L"unexpected error: " + encoding::DecodeUtf8OrWindows1252(error.what()));
     }
     return kExitFailed;
 }

@@ -48,7 +48,8 @@ void CPlugIn::Load() {
     const bool hasExtension = full.find(L'.', full.find_last_of(L'\\')) != std::wstring::npos;
     m_library = LoadLibraryW(hasExtension ? full.c_str() : (full + L'.').c_str());
     if (m_library == nullptr) {
-        throw CUserError(Quoted(m_given) + L' ' + WhyNotLoaded(GetLastError()));
+        const DWORD error = GetLastError();
+        throw CUserError(Quoted(m_given) + L' ' + WhyNotLoaded(error));
     }
     WatchPlugIn(m_library);
 

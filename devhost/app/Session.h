@@ -22,7 +22,8 @@ struct PreparedTask {
     lisp::Source source;
 };
 
-// Parses a task. Throws CUserError, which names the task, for syntax errors and for an empty expression.
+// Parses a task. Throws CUserError, which names the task, for a script that cannot be read, a syntax
+// error and an empty expression.
 PreparedTask Prepare(const Task& task);
 
 class CSession {

@@ -24,8 +24,8 @@ public:
 
     const std::vector<Entity>& Entities() const { return m_entities; }
 
-    // Starts a command: what Undo takes back at once. RevertCommand takes back what the command has changed
-    // so far, for good.
+    // Starts a command: what one Undo takes back. RevertCommand undoes what the command has changed so far;
+    // Redo does not bring it back.
     void BeginCommand() { m_history.BeginCommand(); }
     void RevertCommand();
     bool CanUndo() const { return m_history.CanUndo(); }
@@ -44,7 +44,7 @@ public:
     // font is not known here.
     std::optional<Box> Extents() const;
 
-    // Called after each change. An empty function removes the listener.
+    // Called after each change of the entities, not of the placement. An empty function removes it.
     void SetListener(std::function<void()> onChanged) { m_onChanged = std::move(onChanged); }
 
 private:

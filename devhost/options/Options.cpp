@@ -67,7 +67,7 @@ const wchar_t* HelpText() {
   DevHost.exe [OPTIONS]
 
   --plugin FILE   the plug-in to load (default: TavrinWnd.dll beside DevHost.exe)
-  --search DIR    search files in DIR before the current folder; repeatable, in order
+  --search DIR    search for files in DIR before the current folder; repeatable, in order
   --items DIR     a folder of items, DIR\NAME\NAME.lsp; repeatable (default: samples beside DevHost.exe)
   --texts FILE    the TavrinRes.dll with titles and labels (default: from the folder texts of the items, otherwise
                   the one that the system finds, such as that beside DevHost.exe)
@@ -84,9 +84,9 @@ const wchar_t* HelpText() {
 Scripts and expressions run in the order given. With none of them, or with --stay, DevHost stays open; its prompt
 accepts LISP calls such as (door), the routine of an item.
 
-Values are printed in LISP notation, or "; no result". The first failure ends the run: a LISP error, an error that
-the plug-in reports, or a call that cannot be made. After unloading the plug-in, DevHost reports the memory blocks
-that the plug-in has not freed.
+Values are printed in LISP notation; a call without a result prints "; no result". The first failure ends the run:
+a LISP error, an error that the plug-in reports, or a call that cannot be made. After unloading the plug-in, DevHost
+reports the memory blocks that the plug-in has not freed.
 
 Exit status: 0 success; 1 failure, or the plug-in has not freed all memory; 3 the plug-in or DevHost crashed;
 4 the checking allocator detected heap misuse; N after a call of (exit N).

@@ -27,7 +27,7 @@
 
 namespace devhost {
 
-// The kind of a question: a click into the drawing answers only the first, a typed line both.
+// The kind of a question: a click in the drawing answers only the first, a typed line both.
 enum EAsk { ASK_POINT, ASK_TEXT };
 
 // The user cancelled, or the application is closing.

@@ -43,7 +43,7 @@ Answer CMainWindow::Ask(std::wstring_view prompt, std::optional<Point> base, EAs
     m_isAnswered = false;
     m_answer = Cancelled();
     ShowPrompt(WithoutTrailingBlanks(prompt), std::wstring(prompt),
-               what == ASK_POINT ? L"click into the drawing, or type" : L"");
+               what == ASK_POINT ? L"click in the drawing, or type" : L"");
     SetWindowTextW(m_prompt, L"");
     EnableWindow(m_prompt, TRUE);
     if (what == ASK_POINT) {
@@ -88,7 +88,7 @@ std::optional<Point> CMainWindow::PickPoint(std::wstring_view prompt, std::optio
             if (const auto point = ParsePoint(*text, base, m_drawing->MousePoint())) {
                 return point;
             }
-            AddOutput(L"'" + *text + L"' is not a point: click into the drawing or type X,Y");
+            AddOutput(L"'" + *text + L"' is not a point: click in the drawing or type X,Y");
         }
     }
 }

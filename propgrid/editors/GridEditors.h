@@ -1,8 +1,8 @@
 // The one editor that may be open in a property grid: a text edit, a list or a calendar.
 //
-// It ends in one of two ways. An editor that has a result sends the grid its message (GridMessages.h); the
-// grid takes it out of here with Take and frees it when the result is handled. Or the grid closes it. An
-// editor that closed on its own without a result leaves its object here, which the next Close frees.
+// It ends in one of three ways. An editor that has a result sends the grid its message (GridMessages.h); the
+// grid takes it out of here with Take and frees it when the result is handled. Or the grid closes it. Or it
+// closes itself without a result: its object then stays here until the next Close.
 #pragma once
 
 #include <afxwin.h>
@@ -17,7 +17,7 @@
 
 namespace tavrin::propgrid {
 
-// Destroys the window of an editor, which may bring a message about its end, before the object.
+// Destroys an editor's window, which may send the message that the editor ended, and then its object.
 struct EditorDeleter {
     void operator()(CWnd* editor) const;
 };
@@ -33,14 +33,14 @@ public:
 
     bool IsOpen() const { return m_editor != nullptr && m_editor->GetSafeHwnd() != nullptr; }
 
-    // Each closes what is open. Rectangles are in client coordinates of the grid; a list and a calendar drop
-    // down under a cell.
-    // `typed` replaces the text as if it were typed there, unless it is 0: Escape puts the text back.
+    // Each closes what is open first. Rectangles are in client coordinates of the grid; a list or a calendar
+    // drops down under its cell. `typed`, unless it is 0, replaces the text as if it were typed; Escape
+    // restores `text`.
     void OpenTextEdit(const Rect& rect, const std::wstring& name, const std::wstring& text, wchar_t typed);
     void OpenList(const GridItem& item, const Rect& cell);
     void OpenCalendar(const DateValue& date, const Rect& cell);
 
-    // Closes what is open. The grid no longer owns the editor by then.
+    // Closes what is open. m_editor is already null when the editor's window is destroyed.
     void Close() { Take(); }
     EditorPointer Take() { return std::move(m_editor); }
 

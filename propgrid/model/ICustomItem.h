@@ -32,8 +32,8 @@ public:
     // the background mode is transparent; whatever the item changes in `dc` the grid restores.
     virtual void DrawItem(CDC& dc, CRect rect, bool focused) = 0;
 
-    // The grid takes the copy of the value that later changes are compared with: when the item is added
-    // and when all values are accepted.
+    // The item saves its value as the one that later changes are compared with. Called when the item is
+    // added and when all values are accepted.
     virtual void AcceptValue() = 0;
 
     // The left button went down in the grid while this item had the focus (EM_CUSTOM only). True
@@ -55,11 +55,12 @@ public:
     // notifies its owner and repaints.
     virtual bool SetStringValue(std::wstring text) = 0;
 
-    // A click on the value of an EM_DROPDOWN item: the item shows its own drop-down under `rect`.
+    // The user opens an EM_DROPDOWN item, by a click or a key: it shows its own drop-down under `rect`.
     virtual void ShowDropDown(CRect rect) = 0;
 
-    // The button of an EM_MODAL or EM_INPLACE_BUTTON item was pressed. True when the value changed; the
-    // grid then notifies its owner and repaints.
+    // The user pressed the button of an EM_MODAL or EM_INPLACE_BUTTON item, by the mouse or a key, or
+    // double-clicked an EM_MODAL item. True when the value changed; the grid then notifies its owner and
+    // repaints.
     virtual bool OnButtonClicked() = 0;
 
     // The grid that holds the item; not owned. Set when the item is added.

@@ -22,11 +22,12 @@ struct CheckContext {
 // All findings of one file, in the order of their positions.
 std::vector<Finding> CheckText(std::string_view bytes, const CheckContext& context);
 
-// Compares a working file with its template.
+// A file's contents, and its name for the user.
 struct NamedBytes {
     std::string file;
     std::string_view bytes;
 };
+// Compares a working file with its template.
 std::vector<Finding> ComparePair(const NamedBytes& templateFile, const NamedBytes& workingFile);
 
 }  // namespace tavrin::tools

@@ -24,6 +24,16 @@ void Append(std::vector<Finding>& findings, std::vector<Finding> more) {
                     std::make_move_iterator(more.end()));
 }
 
+// Nothing when it cannot be read: the item's own routine is reported elsewhere, and what it loads is checked
+// when it runs.
+RoutineContents ReadRoutineOrNothing(const std::string& bytes) {
+    try {
+        return ReadRoutine(encoding::DecodeUtf8OrWindows1252(bytes));
+    } catch (const lisp::CLispError&) {
+        return {};
+    }
+}
+
 }  // namespace
 
 std::vector<Finding> CFileCheck::Check(const ItemFile& file) {
@@ -43,7 +53,7 @@ std::vector<Finding> CFileCheck::Check(const ItemFile& file) {
     return findings;
 }
 
-// Compares each pair once, with the first of its two files.
+// Compares each pair once, when the first of its two files is checked.
 void CFileCheck::CheckPair(const ItemFile& file, const std::string& bytes, std::vector<Finding>& findings) {
     const std::string other =
         file.item +
@@ -76,22 +86,20 @@ void CFileCheck::CheckRoutine(const ItemFile& file, std::vector<Finding>& findin
 // The texts that the routine's helpers use: files that it loads from its folder or from the parent, where
 // item.lsp of the samples is.
 void CFileCheck::TakeLoadedTexts(const std::string& routine, const std::filesystem::path& folder) {
-    try {
-        const auto read = ReadRoutine(encoding::DecodeUtf8OrWindows1252(routine));
-        for (const std::wstring& load : read.loads) {
-            for (const std::filesystem::path& place : {folder, folder / ".."}) {
-                const std::string name = NameOf(place / PathOf(encoding::EncodeUtf8(load)));
-                if (IsFile(name)) {
-                    const std::wstring text = encoding::DecodeUtf8OrWindows1252(ReadBytes(name));
-                    for (const unsigned number : ReadRoutine(text).textNumbers) {
-                        m_usedTexts.set(number);
-                    }
-                    break;
+    for (const std::wstring& load : ReadRoutineOrNothing(routine).loads) {
+        std::filesystem::path file = PathOf(encoding::EncodeUtf8(load));
+        if (!file.has_extension()) {
+            file += ".lsp";  // as LOAD does
+        }
+        for (const std::filesystem::path& parent : {folder, folder / ".."}) {
+            const std::string name = NameOf(parent / file);
+            if (IsFile(name)) {
+                for (const unsigned number : ReadRoutineOrNothing(ReadBytes(name)).textNumbers) {
+                    m_usedTexts.set(number);
                 }
+                break;
             }
         }
-    } catch (const lisp::CLispError&) {
-        // Reported for the item's own routine; what it loads is checked when it runs.
     }
 }
 

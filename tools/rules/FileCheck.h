@@ -16,11 +16,12 @@ namespace tavrin::tools {
 
 class CFileCheck {
 public:
-    // `texts`, those of placeholders, must outlive the check; null when unknown.
+    // `texts`, which placeholders stand for, must outlive this object; null when unknown.
     explicit CFileCheck(const CTextTable* texts) : m_texts(texts) {}
 
-    // The findings of a file. A template and its working file are compared with the first of the two;
-    // pictures and the routine belong to the template. Throws CToolError when a file cannot be read.
+    // The findings of a file. A template and its working file are compared when the first of the two is
+    // checked; pictures and the routine are checked with the template. Throws CToolError when a file cannot
+    // be read.
     std::vector<Finding> Check(const ItemFile& file);
 
     // The numbers of the texts that the files checked so far use.

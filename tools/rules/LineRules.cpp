@@ -20,7 +20,7 @@ constexpr Rule kLineTab = {
     "$1\xE2\x90\x89= \"<<1501>>\"D 900"};
 
 constexpr Rule kLineNumber = {
-    "line-number", SV_ERROR, "a parameter's number contains other characters than digits",
+    "line-number", SV_ERROR, "a parameter's number contains characters other than digits",
     "Only digits are allowed between the $ and the =, and spaces after them. Otherwise the line is not a\n"
     "parameter: it gets no row.",
     "$1a = \"<<1501>>\"D 900\n$ 2 = \"<<1502>>\"D 2100"};
@@ -65,11 +65,11 @@ constexpr Rule kWorkingFileUsed = {"working-file-used", SV_NOTE, "a working file
                                    "over it.",
                                    "door_TMP.TXT: #1 = 900"};
 
-constexpr Rule kLineDollar = {
-    "line-dollar", SV_WARNING, "a parameter's $ is missing or a #",
-    "A parameter line begins with $, whatever its type; # occurs only in used working files. Otherwise this\n"
-    "line would be a parameter: now it gets no row.",
-    "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
+constexpr Rule kLineDollar = {"line-dollar", SV_WARNING, "a parameter's $ is missing or replaced by a #",
+                              "A parameter line begins with $, whatever its type; # occurs only in used "
+                              "working files. Apart from that\n"
+                              "this line is a parameter, but it gets no row.",
+                              "1 = \"<<1501>>\"D 900\n#2 = \"<<1502>>\"D 2100"};
 
 constexpr const Rule* kRules[] = {&kLineLeadingBlank, &kLineDollar,     &kLineTab,        &kLineNumber,
                                   &kLineEquals,       &kLineQuote,      &kLineTypeLetter, &kLineUnread,

@@ -17,7 +17,7 @@ constexpr std::size_t kLongestHeader = 29;
 constexpr Rule kTitleMissing = {
     "title-missing", SV_WARNING, "the second line is not a title",
     "The second line of both files is the title of the dialog: a placeholder such as <<2001>>, or the title\n"
-    "itself. Without it the dialog has the name of the file; if it is empty, the dialog has no name. A "
+    "itself. If the line is missing, the title is the name of the file; if it is empty, so is the title. A "
     "block\n"
     "or a parameter in this line is shown as the title too.",
     "Hinged door\nVAR\n$1 = \"<<1501>>\"D 900\nEND_VAR"};

@@ -45,6 +45,7 @@ TEST_F(LispControl, AFunctionHasParametersAndLocals) {
                   {L"(defun f (t))", L"F cannot have T as a parameter"},
                   {L"(defun f x)", L"F has X instead of a list of parameters"},
                   {L"(defun f (a . b))", L"F has (A . B) instead of a list of parameters"},
+                  {L"(defun f (a / b / c))", L"F has more than one slash in its list of parameters"},
                   {L"(defun f)", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
                   {L"(defun 5 ())", L"write (defun NAME (PARAMETERS / LOCALS) BODY ...)"},
                   {L"(defun t ())", L"T cannot be assigned to"}});

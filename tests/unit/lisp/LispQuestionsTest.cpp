@@ -37,8 +37,8 @@ TEST_F(LispQuestions, AnAnswerThatDoesNotFitIsAskedForAgain) {
     ExpectValues({{L"(getpoint)", L"(1.0 2.0 0.0)"}});
     EXPECT_EQ(m_host.asked.size(), 3u);
     EXPECT_EQ(m_host.output,
-              L"'5' is not a point: click into the drawing or type X,Y\n"
-              L"'a,b' is not a point: click into the drawing or type X,Y\n");
+              L"'5' is not a point: click in the drawing or type X,Y\n"
+              L"'a,b' is not a point: click in the drawing or type X,Y\n");
 }
 
 TEST_F(LispQuestions, ADistanceIsTypedOrShownByOneOrTwoPoints) {
@@ -55,7 +55,7 @@ TEST_F(LispQuestions, ADistanceIsTypedOrShownByOneOrTwoPoints) {
     Type(L"x");
     Enter();
     ExpectValues({{L"(getdist)", L"nil"}});
-    EXPECT_EQ(m_host.output, L"'x' is not a distance: click into the drawing or type a length\n");
+    EXPECT_EQ(m_host.output, L"'x' is not a distance: click in the drawing or type a length\n");
 }
 
 TEST_F(LispQuestions, NumbersAreTyped) {

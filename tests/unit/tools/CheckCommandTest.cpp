@@ -1,5 +1,6 @@
 // The check as a whole: the samples are clean, and files that break every rule give just what is expected.
 #include "tests/unit/tools/CheckRun.h"
+#include "tests/unit/tools/ToolFolder.h"
 #include "tools/files/Files.h"
 #include "tools/rules/RuleTable.h"
 
@@ -55,6 +56,22 @@ TEST_F(CheckCommand, SaysNothingOfTextsThatItDoesNotKnow) {
                              "text-missing", "text-unused"}) {
         EXPECT_EQ(output.find("[" + std::string(rule) + "]"), std::string::npos) << rule;
     }
+}
+
+// LOAD adds the extension, and one file that cannot be read does not hide the others.
+TEST(CheckRoutines, TextsOfTheFilesThatTheRoutineLoadsAreUsed) {
+    const CToolFolder folder;
+    std::filesystem::create_directory(folder.Path("gate"));
+    folder.Write("gate/gate.TXT", "gate\n<<2001>>\nVAR\n$1 = \"<<1501>>\"D 900\nEND_VAR\n");
+    folder.Write("gate/gate.lsp", "(load \"broken\") (load \"words\")");
+    folder.Write("gate/broken.lsp", "(");
+    folder.Write("words.lsp", "(res-text 1599)");
+    const std::string texts = folder.Write("TavrinRes.en.rc",
+                                           "LANGUAGE 0x09, 0x02\nSTRINGTABLE\nBEGIN\n1501 \"Width\"\n1599 "
+                                           "\"Too wide\"\n2001 \"Gate\"\nEND\n");
+    const CheckRun run = Check({folder.Path("gate"), "--texts", texts});
+    EXPECT_EQ(run.output.find("[text-unused]"), std::string::npos) << run.output;
+    EXPECT_NE(run.output.find("[picture-missing]"), std::string::npos) << run.output << run.errors;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 
 #include "tests/windows/devhost/app/HostProcess.h"
 
@@ -97,6 +98,16 @@ TEST(CommandLine, AConsoleOfItsOwnIsLetGo) {
     EXPECT_FALSE(HasConsole(host));
     PostMessageW(host.MainWindow(), WM_CLOSE, 0, 0);
     EXPECT_EQ(host.Wait().status, 0u);
+}
+
+TEST(CommandLine, TheFolderOfItemsMayBeTheRootOfADrive) {
+    const std::filesystem::path item = L"C:\\rootitem";
+    std::filesystem::create_directory(item);
+    std::ofstream(item / "rootitem.lsp") << "(defun rootitem () 7)";
+    const Outcome outcome = RunBare({L"--items", L"C:\\", L"--eval", L"(load \"rootitem.lsp\")"});
+    std::filesystem::remove_all(item);
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.output.substr(0, 9), "ROOTITEM\n");
 }
 
 TEST(CommandLine, WithoutTheConsoleAMistakeIsShownInABox) {

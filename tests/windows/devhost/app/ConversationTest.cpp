@@ -106,7 +106,7 @@ TEST_F(Conversation, QuestionsAreAnsweredByTyping) {
     const Outcome outcome = m_host->Wait();
     EXPECT_EQ(outcome.status, 0u);
     EXPECT_EQ(outcome.output,
-              "'nonsense' is not a point: click into the drawing or type X,Y\n"
+              "'nonsense' is not a point: click in the drawing or type X,Y\n"
               "((100.0 200.0 0.0) (3.0 4.0 0.0) 15.5 12 0.75 \"two words\")\n; heap: 0 blocks held\n");
 }
 

@@ -88,7 +88,7 @@ TEST_F(Prompt, LeakedBlocksMakeTheEndAFailure) {
     EXPECT_TRUE(WaitForOutput(L"(leak 1 8)\r\nnil"));
     const Outcome outcome = Close();
     EXPECT_EQ(outcome.status, 1u);
-    EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 blocks held, 8 bytes\n");
+    EXPECT_EQ(outcome.output, "(leak 1 8)\nnil\n; heap: 1 block held, 8 bytes\n");
 }
 
 // The top of the list's last character, in client coordinates; outside the client area when it is not

@@ -106,7 +106,7 @@ TEST_F(Script, AFailureOfThePlugInIsPrintedOnce) {
 TEST_F(Script, BlocksThatThePlugInKeepsAreReported) {
     const Outcome outcome = Run("(princ \"a\") (leak 1 8)");
     EXPECT_EQ(outcome.status, 1u);
-    EXPECT_EQ(outcome.output, "a\n; heap: 1 blocks held, 8 bytes\n");
+    EXPECT_EQ(outcome.output, "a\n; heap: 1 block held, 8 bytes\n");
 }
 
 TEST_F(Script, RecursionWithoutEndIsAMistakeAndNoCrash) {

@@ -124,7 +124,7 @@ TEST_F(Ask, WhatIsNoPointIsRefusedAndAskedForAgain) {
     ASSERT_TRUE(point);
     EXPECT_EQ(*point, (Point{1, 2}));
     EXPECT_EQ(Output(),
-              L"p: there\r\n'there' is not a point: click into the drawing or type X,Y\r\np: \r\np: 1,2");
+              L"p: there\r\n'there' is not a point: click in the drawing or type X,Y\r\np: \r\np: 1,2");
 }
 
 }  // namespace
