@@ -86,7 +86,8 @@ void CFileCheck::CheckRoutine(const ItemFile& file, std::vector<Finding>& findin
 // The texts that the routine's helpers use: files that it loads from its folder or from the parent, where
 // item.lsp of the samples is.
 void CFileCheck::TakeLoadedTexts(const std::string& routine, const std::filesystem::path& folder) {
-    for (const std::wstring& load : ReadRoutineOrNothing(routine).loads) {
+    const RoutineContents contents = ReadRoutineOrNothing(routine);
+    for (const std::wstring& load : contents.loads) {
         std::filesystem::path file = PathOf(encoding::EncodeUtf8(load));
         if (!file.has_extension()) {
             file += ".lsp";  // as LOAD does
@@ -94,7 +95,8 @@ void CFileCheck::TakeLoadedTexts(const std::string& routine, const std::filesyst
         for (const std::filesystem::path& parent : {folder, folder / ".."}) {
             const std::string name = NameOf(parent / file);
             if (IsFile(name)) {
-                for (const unsigned number : ReadRoutineOrNothing(ReadBytes(name)).textNumbers) {
+                const RoutineContents loaded = ReadRoutineOrNothing(ReadBytes(name));
+                for (const unsigned number : loaded.textNumbers) {
                     m_usedTexts.set(number);
                 }
                 break;
