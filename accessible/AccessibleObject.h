@@ -6,7 +6,7 @@
 // what the window does not offer DISP_E_MEMBERNOTFOUND. Nothing is thrown.
 //
 // Calls of other threads and processes come in through the system on the window's thread, provided that this
-// thread has initialised COM as a single-threaded apartment.
+// thread has initialized COM as a single-threaded apartment.
 #pragma once
 
 #include <windows.h>

@@ -21,9 +21,9 @@ CreateControlFunction LoadControlHost() {
         if (library == nullptr) {
             continue;
         }
-        const auto initialise = Find<BOOL(WINAPI*)()>(library, "AtlAxWinInit");
+        const auto initialize = Find<BOOL(WINAPI*)()>(library, "AtlAxWinInit");
         const auto create = Find<CreateControlFunction>(library, "AtlAxCreateControl");
-        if (initialise != nullptr && create != nullptr && initialise()) {
+        if (initialize != nullptr && create != nullptr && initialize()) {
             return create;
         }
         ::FreeLibrary(library);

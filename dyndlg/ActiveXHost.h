@@ -7,7 +7,7 @@ namespace tavrin::dyndlg {
 
 // Creates the control that `progId` names (a CLSID in braces does too) inside `window`, which then shows it
 // and releases it when it is destroyed. False when there is no such control or the system cannot host one.
-// COM must be initialised on the calling thread.
+// COM must be initialized on the calling thread.
 bool CreateActiveXIn(HWND window, LPCTSTR progId);
 
 }  // namespace tavrin::dyndlg

@@ -13,7 +13,7 @@ namespace tavrin::itemdlg {
 namespace {
 
 // The patterns are correct, so parsing fails only out of memory. The caller's static variable then stays
-// uninitialised, and the next call parses again.
+// uninitialized, and the next call parses again.
 pattern::CPatternMatcher Compiled(const wchar_t* text) {
     pattern::CPatternMatcher matcher;
     if (matcher.Parse(text, false) != pattern::PE_NONE) {

@@ -52,7 +52,7 @@ private:
 
     std::size_t m_size = 0;
     std::size_t m_capacity = inlineCapacity;
-    std::array<T, inlineCapacity> m_inline;  // left uninitialised: written before it is read
+    std::array<T, inlineCapacity> m_inline;  // left uninitialized: written before it is read
     T* m_data = m_inline.data();
     std::unique_ptr<T[]> m_heap;
 };

@@ -12,7 +12,7 @@ public:
     // The values of Boolean items ("True", "False").
     void SetBooleanTexts(const std::wstring& trueText, const std::wstring& falseText);
     std::wstring GetBooleanText(bool value) const { return value ? Texts().trueText : Texts().falseText; }
-    // The buttons of the grid's dialogs. Empty until the grid is initialised, which then takes the texts
+    // The buttons of the grid's dialogs. Empty until the grid is initialized, which then takes the texts
     // of its parent's controls 1 and 2, or "OK" and "Cancel".
     void SetOkText(const std::wstring& text) { Change(m_model.settings.texts.ok, text); }
     std::wstring GetOkText() const { return Texts().ok; }

@@ -68,7 +68,7 @@ BOOL CPropertyGrid::PreCreateWindow(CREATESTRUCT& create) {
     return CWnd::PreCreateWindow(create);
 }
 
-// Runs for a window that is being created too, before it has a size; that one is initialised when its
+// Runs for a window that is being created too, before it has a size; that one is initialized when its
 // WM_CREATE comes.
 void CPropertyGrid::PreSubclassWindow() {
     if (!m_creating) {

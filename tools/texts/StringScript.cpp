@@ -265,7 +265,7 @@ private:
 
     void TakeEscape(char letter) {
         switch (letter) {
-            case 'a':
+            case 'a':  // a backspace in resource scripts, not a bell
                 m_bytes += '\b';
                 break;
             case 'n':

@@ -361,17 +361,17 @@ TEST(TemplateText, ReportsAFailingAllocationAndRecovers) {
     bool failed = true;
     for (std::size_t allocations = 0; failed; ++allocations) {
         bool reported = false;
-        bool recognised = false;
+        bool recognized = false;
         {
             const CFailingMemory memory(allocations);
             try {
-                recognised = ParseParameterLine(line).has_value() && PlaceholderNumber(line) == 1501;
+                recognized = ParseParameterLine(line).has_value() && PlaceholderNumber(line) == 1501;
             } catch (const std::bad_alloc&) {
                 reported = true;
             }
             failed = memory.HasFailed();
         }
-        EXPECT_EQ(recognised, !failed);
+        EXPECT_EQ(recognized, !failed);
         EXPECT_EQ(reported, failed);
         EXPECT_EQ(ParseParameterLine(line)->number, L"1");
         EXPECT_EQ(PlaceholderNumber(line), 1501);

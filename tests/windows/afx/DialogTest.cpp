@@ -11,7 +11,7 @@ extern "C" HWND(WINAPI* __imp_SetActiveWindow)(HWND window) IMPORT_ENTRY(SetActi
 
 namespace {
 
-// A dialog that runs a step when it is initialised and one when it has been shown.
+// A dialog that runs a step when it is initialized and one when it has been shown.
 class CSteppedDialog : public CDialog {
 public:
     explicit CSteppedDialog(const CDialogTemplate& dialogTemplate, CWnd* parent = nullptr) {

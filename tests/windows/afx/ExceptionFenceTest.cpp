@@ -132,7 +132,7 @@ class CThrowingDialog : public CDialog {
     BOOL OnInitDialog() override { AfxThrowUserException(); }
 };
 
-TEST_F(ExceptionFence, EndsADialogWhoseInitialisationFails) {
+TEST_F(ExceptionFence, EndsADialogWhoseInitializationFails) {
     const CDialogTemplate empty;
     CThrowingDialog dialog;
     dialog.InitModalIndirect(empty.Get());

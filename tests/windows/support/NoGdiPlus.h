@@ -21,11 +21,11 @@ public:
 
 private:
     static constexpr int failed = 1;
-    static constexpr int notInitialised = 18;
+    static constexpr int notInitialized = 18;
 
     static int WINAPI Start(ULONG_PTR*, const void*, void*) { return failed; }
-    static int WINAPI Create(HDC, void**) { return notInitialised; }
-    static int WINAPI Load(IStream*, void**) { return notInitialised; }
+    static int WINAPI Create(HDC, void**) { return notInitialized; }
+    static int WINAPI Load(IStream*, void**) { return notInitialized; }
 
     const CImportHook<int(WINAPI*)(ULONG_PTR*, const void*, void*)> m_start{__imp_GdiplusStartup, Start};
     const CImportHook<int(WINAPI*)(HDC, void**)> m_create{__imp_GdipCreateFromHDC, Create};
