@@ -23,7 +23,7 @@ std::string ElementOf(const Box& box) {
     std::array<char, 160> text{};
     std::snprintf(text.data(), text.size(),
                   "  <rect x=\"%d\" y=\"%d\" width=\"%d\" height=\"%d\" fill=\"#%06x\"/>\n", box.x, box.y,
-                  box.width, box.height, static_cast<unsigned>(box.colour));
+                  box.width, box.height, static_cast<unsigned>(box.color));
     return text.data();
 }
 
@@ -35,9 +35,9 @@ void Paint(std::vector<unsigned char>& pixels, const BoxPicture& picture, const 
             const std::size_t at = (static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width) +
                                     static_cast<std::size_t>(x)) *
                                    kChannels;
-            pixels[at] = static_cast<unsigned char>(box.colour >> 16);
-            pixels[at + 1] = static_cast<unsigned char>(box.colour >> 8);
-            pixels[at + 2] = static_cast<unsigned char>(box.colour);
+            pixels[at] = static_cast<unsigned char>(box.color >> 16);
+            pixels[at + 1] = static_cast<unsigned char>(box.color >> 8);
+            pixels[at + 2] = static_cast<unsigned char>(box.color);
         }
     }
 }
@@ -49,23 +49,23 @@ void Append(void* bytes, void* data, int size) {
 }  // namespace
 
 void AppendFrame(std::vector<Box>& boxes, const Box& box, int thickness) {
-    boxes.push_back({box.x, box.y, box.width, thickness, box.colour});
-    boxes.push_back({box.x, box.y + box.height - thickness, box.width, thickness, box.colour});
-    boxes.push_back({box.x, box.y, thickness, box.height, box.colour});
-    boxes.push_back({box.x + box.width - thickness, box.y, thickness, box.height, box.colour});
+    boxes.push_back({box.x, box.y, box.width, thickness, box.color});
+    boxes.push_back({box.x, box.y + box.height - thickness, box.width, thickness, box.color});
+    boxes.push_back({box.x, box.y, thickness, box.height, box.color});
+    boxes.push_back({box.x + box.width - thickness, box.y, thickness, box.height, box.color});
 }
 
-void AppendDigit(std::vector<Box>& boxes, int x, int y, int height, int digit, std::uint32_t colour) {
+void AppendDigit(std::vector<Box>& boxes, int x, int y, int height, int digit, std::uint32_t color) {
     const int width = height / 2;
     const int pen = std::max(height / 8, 1);
     const int half = (height + pen) / 2;
-    const std::array<Box, 7> segments = {{{x, y, width, pen, colour},
-                                          {x, y, pen, half, colour},
-                                          {x + width - pen, y, pen, half, colour},
-                                          {x, y + half - pen, width, pen, colour},
-                                          {x, y + height - half, pen, half, colour},
-                                          {x + width - pen, y + height - half, pen, half, colour},
-                                          {x, y + height - pen, width, pen, colour}}};
+    const std::array<Box, 7> segments = {{{x, y, width, pen, color},
+                                          {x, y, pen, half, color},
+                                          {x + width - pen, y, pen, half, color},
+                                          {x, y + half - pen, width, pen, color},
+                                          {x, y + height - half, pen, half, color},
+                                          {x + width - pen, y + height - half, pen, half, color},
+                                          {x, y + height - pen, width, pen, color}}};
     for (std::size_t i = 0; i < segments.size(); ++i) {
         if ((kSegments.at(static_cast<std::size_t>(digit)) >> i & 1U) != 0) {
             boxes.push_back(segments[i]);

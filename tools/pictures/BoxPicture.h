@@ -13,7 +13,7 @@ struct Box {
     int y = 0;
     int width = 0;
     int height = 0;
-    std::uint32_t colour = 0;
+    std::uint32_t color = 0;
 };
 
 // Later boxes cover earlier ones. The background is white.
@@ -26,7 +26,7 @@ struct BoxPicture {
 // Appends the four sides of a frame that is `thickness` pixels wide and lies within the box.
 void AppendFrame(std::vector<Box>& boxes, const Box& box, int thickness);
 // Appends a digit, 0 to 9, with its upper left corner at that position; it is `height` / 2 wide.
-void AppendDigit(std::vector<Box>& boxes, int x, int y, int height, int digit, std::uint32_t colour);
+void AppendDigit(std::vector<Box>& boxes, int x, int y, int height, int digit, std::uint32_t color);
 
 std::string SvgOf(const BoxPicture& picture);
 // Boxes are cut off at the picture's edges. The same picture gives the same bytes. Throws std::bad_alloc.

@@ -118,7 +118,11 @@ void CByteRules::TakeLine(const ItemLine& line) {
     report(kSubstituteCharacter, L'\x1A',
            "the character 0x1A does not end the file, it is part of this line");
     report(kLoneReturn, L'\r', "a carriage return alone does not end a line, it is part of this line");
+    ReportNonAscii(line, start);
+}
 
+void CByteRules::ReportNonAscii(const ItemLine& line, std::size_t start) {
+    const std::wstring& text = line.text;
     const auto isForeign = [](wchar_t character) { return character >= 0x80; };
     const auto first = std::find_if(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), isForeign);
     if (first == text.end()) {

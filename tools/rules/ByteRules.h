@@ -1,6 +1,7 @@
 // Bytes that the module interprets differently than other programs.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "tools/rules/RuleGroup.h"
@@ -16,6 +17,10 @@ public:
 
     // Whether a file is UTF-16, with or without a byte order mark.
     static bool IsUtf16(std::wstring_view firstLine);
+
+private:
+    // Reports the first characters beyond ASCII from `start` on.
+    void ReportNonAscii(const ItemLine& line, std::size_t start);
 };
 
 }  // namespace tavrin::tools

@@ -121,6 +121,22 @@ Change ScriptChange(const std::string& name, const std::optional<std::string>& s
     return {name, true, {}, {{0, 0, LinesWithEnds(NewScript(templateName, WithModuleTexts(texts)))}}};
 }
 
+// Writes the changed files, or prints the changes.
+void WriteOrShow(const std::vector<Change>& changes, bool write) {
+    for (const Change& change : changes) {
+        if (write) {
+            WriteBytes(change.name, change.After());
+            Print(change.name + ": written\n");
+        } else {
+            Print(change.Diff());
+        }
+    }
+    Print("The dialog reads the working file: what writes it must write the same placeholders.\n");
+    if (!write) {
+        Print("Nothing was written: --write does it.\n");
+    }
+}
+
 }  // namespace
 
 int RunExtract(const std::vector<std::string>& arguments) {
@@ -155,18 +171,7 @@ int RunExtract(const std::vector<std::string>& arguments) {
             ScriptChange(scriptName, script, NameOf(PathOf(file).filename()), extraction.newTexts));
     }
     changes.push_back(templateChange);
-    for (const Change& change : changes) {
-        if (options.write) {
-            WriteBytes(change.name, change.After());
-            Print(change.name + ": written\n");
-        } else {
-            Print(change.Diff());
-        }
-    }
-    Print("The dialog reads the working file: what writes it must write the same placeholders.\n");
-    if (!options.write) {
-        Print("Nothing was written: --write does it.\n");
-    }
+    WriteOrShow(changes, options.write);
     return 0;
 }
 
