@@ -180,7 +180,7 @@ STDMETHODIMP CAccessibleObject::accNavigate(LONG direction, VARIANT start, VARIA
         if (direction < DIRECTION_UP || direction > DIRECTION_LAST_CHILD) {
             return E_INVALIDARG;
         }
-        const int found = FindNeighbour(static_cast<EDirection>(direction), id, contents.GetChildCount());
+        const int found = FindNeighbor(static_cast<EDirection>(direction), id, contents.GetChildCount());
         return found != kSelf ? GiveNumber(found, *end) : S_FALSE;
     });
 }

@@ -67,7 +67,7 @@ constexpr unsigned StateOf(const WindowCondition& window) {
 
 // The child that lies in a direction of `start` when `count` children stand one below the other; kSelf when
 // there is none. From the client area there are the first and the last child alone.
-constexpr int FindNeighbour(EDirection direction, int start, int count) {
+constexpr int FindNeighbor(EDirection direction, int start, int count) {
     if (start == kSelf) {
         const bool isFirst = direction == DIRECTION_FIRST_CHILD;
         return isFirst && count > 0 ? 1 : direction == DIRECTION_LAST_CHILD ? count : kSelf;

@@ -14,10 +14,10 @@ namespace {
 constexpr size_t longestPath = 32768;  // characters that Windows can have in one
 
 // The colours that the user mixed, kept while the module is loaded.
-std::array<COLORREF, 16> customColours = [] {
-    std::array<COLORREF, 16> colours;
-    colours.fill(RGB(255, 255, 255));
-    return colours;
+std::array<COLORREF, 16> customColors = [] {
+    std::array<COLORREF, 16> colors;
+    colors.fill(RGB(255, 255, 255));
+    return colors;
 }();
 
 INT_PTR AsResult(BOOL confirmed) {
@@ -56,7 +56,7 @@ CString CFileDialog::GetFileName() const {
 CColorDialog::CColorDialog(COLORREF initial, DWORD flags, CWnd* parent) : CCommonDialog(parent) {
     m_cc.lStructSize = sizeof m_cc;
     m_cc.rgbResult = initial;
-    m_cc.lpCustColors = customColours.data();
+    m_cc.lpCustColors = customColors.data();
     m_cc.Flags = flags | CC_RGBINIT;
 }
 

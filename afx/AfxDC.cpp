@@ -70,8 +70,8 @@ CPoint CDC::MoveTo(int x, int y) {
     return previous;
 }
 
-void CDC::FillSolidRect(LPCRECT rect, COLORREF colour) {
-    const COLORREF previous = ::SetBkColor(m_hDC, colour);
+void CDC::FillSolidRect(LPCRECT rect, COLORREF color) {
+    const COLORREF previous = ::SetBkColor(m_hDC, color);
     ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
     ::SetBkColor(m_hDC, previous);
 }

@@ -36,10 +36,10 @@ class CDC : public CObject {
     CBitmap* SelectObject(CBitmap* bitmap) { return CBitmap::FromHandle((HBITMAP)Select(bitmap)); }
     CGdiObject* SelectObject(CGdiObject* object) { return CGdiObject::FromHandle(Select(object)); }
 
-    virtual COLORREF SetBkColor(COLORREF colour) { return ::SetBkColor(m_hDC, colour); }
+    virtual COLORREF SetBkColor(COLORREF color) { return ::SetBkColor(m_hDC, color); }
     COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
     int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
-    virtual COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
+    virtual COLORREF SetTextColor(COLORREF color) { return ::SetTextColor(m_hDC, color); }
     COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
 
     CPoint MoveTo(int x, int y);
@@ -51,9 +51,9 @@ class CDC : public CObject {
     }
     BOOL Rectangle(LPCRECT rect) { return Rectangle(rect->left, rect->top, rect->right, rect->bottom); }
     void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
-    void FillSolidRect(LPCRECT rect, COLORREF colour);
-    void FillSolidRect(int x, int y, int width, int height, COLORREF colour) {
-        FillSolidRect(CRect(x, y, x + width, y + height), colour);
+    void FillSolidRect(LPCRECT rect, COLORREF color);
+    void FillSolidRect(int x, int y, int width, int height, COLORREF color) {
+        FillSolidRect(CRect(x, y, x + width, y + height), color);
     }
     void DrawFocusRect(LPCRECT rect) { ::DrawFocusRect(m_hDC, rect); }
     BOOL DrawFrameControl(LPRECT rect, UINT type, UINT state) {

@@ -145,7 +145,7 @@ HWND CDialog::FindOwner() const {
 }
 
 BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, HWND owner, void* initData) {
-    m_centre = HasNoPosition(dialogTemplate);
+    m_center = HasNoPosition(dialogTemplate);
     const CAfxWindowHook hook(this);
     const HWND window = ::CreateDialogIndirectParam(AfxGetResourceHandle(), dialogTemplate, owner,
                                                     DialogProcedure, reinterpret_cast<LPARAM>(initData));
@@ -231,7 +231,7 @@ BOOL CDialog::InitDialog() {
         return FALSE;
     }
     GetWindowRect(&after);
-    if (m_centre && before.TopLeft() == after.TopLeft() && !IsWindowVisible()) {
+    if (m_center && before.TopLeft() == after.TopLeft() && !IsWindowVisible()) {
         CenterWindow();
     }
     return setFocus;

@@ -55,7 +55,7 @@ private:
 
     LPCDLGTEMPLATE m_template = nullptr;
     void* m_initData = nullptr;
-    bool m_centre = false;  // the template leaves the position to the framework
+    bool m_center = false;  // the template leaves the position to the framework
     bool m_modal = false;
     bool m_ended = false;
     int m_result = -1;

@@ -63,14 +63,14 @@ BOOL CGdiObject::DeleteObject() {
     return handle != nullptr && ::DeleteObject(handle);
 }
 
-CPen::CPen(int style, int width, COLORREF colour) {
-    if (!CreatePen(style, width, colour)) {
+CPen::CPen(int style, int width, COLORREF color) {
+    if (!CreatePen(style, width, color)) {
         AfxThrowResourceException();
     }
 }
 
-CBrush::CBrush(COLORREF colour) {
-    if (!CreateSolidBrush(colour)) {
+CBrush::CBrush(COLORREF color) {
+    if (!CreateSolidBrush(color)) {
         AfxThrowResourceException();
     }
 }

@@ -32,13 +32,11 @@ class CPen : public CGdiObject {
     DECLARE_DYNAMIC(CPen)
 
     CPen() = default;
-    CPen(int style, int width, COLORREF colour);  // throws CResourceException* on failure
+    CPen(int style, int width, COLORREF color);  // throws CResourceException* on failure
     static CPen* PASCAL FromHandle(HPEN handle) {
         return dynamic_cast<CPen*>(CGdiObject::FromHandle(handle));
     }
-    BOOL CreatePen(int style, int width, COLORREF colour) {
-        return Attach(::CreatePen(style, width, colour));
-    }
+    BOOL CreatePen(int style, int width, COLORREF color) { return Attach(::CreatePen(style, width, color)); }
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
 };
 
@@ -46,11 +44,11 @@ class CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 
     CBrush() = default;
-    CBrush(COLORREF colour);  // throws CResourceException* on failure
+    CBrush(COLORREF color);  // throws CResourceException* on failure
     static CBrush* PASCAL FromHandle(HBRUSH handle) {
         return dynamic_cast<CBrush*>(CGdiObject::FromHandle(handle));
     }
-    BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
+    BOOL CreateSolidBrush(COLORREF color) { return Attach(::CreateSolidBrush(color)); }
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
 

@@ -33,14 +33,14 @@ END_MESSAGE_MAP()
 
 namespace {
 
-bool IsControlColour(UINT message) {
+bool IsControlColor(UINT message) {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
 }
 
 // The message in the form in which message maps identify it.
 AFX_MESSAGE MakeMapMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     AFX_MESSAGE result{message, wParam, lParam};
-    if (IsControlColour(message)) {
+    if (IsControlColor(message)) {
         result.message = WM_CTLCOLOR;
         result.id = message - WM_CTLCOLORMSGBOX;
     } else if (message == WM_COMMAND) {

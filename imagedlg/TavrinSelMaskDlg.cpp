@@ -23,9 +23,9 @@ PixelRect ScreenRectOf(const CWnd& window) {
 }
 
 // White erases the black frame of an earlier selection.
-void PaintFrame(CDC& dc, const RECT& cell, COLORREF colour) {
+void PaintFrame(CDC& dc, const RECT& cell, COLORREF color) {
     const PixelRect outline = GetFrameOutline({cell.left, cell.top, cell.right, cell.bottom});
-    const CPen pen(PS_SOLID, kFrameWidth, colour);
+    const CPen pen(PS_SOLID, kFrameWidth, color);
     const handles::CSelectedObject selectedPen(dc, pen);
     dc.MoveTo(outline.left, outline.top);
     dc.LineTo(outline.right, outline.top);

@@ -29,10 +29,10 @@ struct DrawableVisitor {
         return line.points.size() >= 2 && std::all_of(line.points.begin(), line.points.end(), IsDrawable);
     }
     bool operator()(const CircleEntity& circle) const {
-        return IsDrawable(circle.centre) && AreNumbers({circle.radius}) && circle.radius > 0;
+        return IsDrawable(circle.center) && AreNumbers({circle.radius}) && circle.radius > 0;
     }
     bool operator()(const ArcEntity& arc) const {
-        return IsDrawable(arc.centre) && AreNumbers({arc.radius, arc.start, arc.end}) && arc.radius > 0;
+        return IsDrawable(arc.center) && AreNumbers({arc.radius, arc.start, arc.end}) && arc.radius > 0;
     }
     bool operator()(const TextEntity& text) const {
         return IsDrawable(text.position) && AreNumbers({text.height, text.angle}) && text.height > 0;
@@ -54,18 +54,18 @@ public:
         }
     }
     void operator()(const CircleEntity& circle) {
-        Take({circle.centre.x - circle.radius, circle.centre.y - circle.radius});
-        Take({circle.centre.x + circle.radius, circle.centre.y + circle.radius});
+        Take({circle.center.x - circle.radius, circle.center.y - circle.radius});
+        Take({circle.center.x + circle.radius, circle.center.y + circle.radius});
     }
     void operator()(const ArcEntity& arc) {
         const double sweep = SweepOf(arc);
-        Take(PointOnCircle(arc.centre, arc.radius, arc.start));
-        Take(PointOnCircle(arc.centre, arc.radius, arc.start + sweep));
+        Take(PointOnCircle(arc.center, arc.radius, arc.start));
+        Take(PointOnCircle(arc.center, arc.radius, arc.start + sweep));
         // Between its ends, the extreme points of an arc are in the directions of the axes.
         constexpr double kQuarter = kTurn / 4;
         for (double angle = std::ceil(arc.start / kQuarter) * kQuarter; angle < arc.start + sweep;
              angle += kQuarter) {
-            Take(PointOnCircle(arc.centre, arc.radius, angle));
+            Take(PointOnCircle(arc.center, arc.radius, angle));
         }
     }
     void operator()(const TextEntity& text) {
@@ -99,8 +99,8 @@ double SweepOf(const ArcEntity& arc) {
     return sweep > 0 ? sweep : sweep + kTurn;
 }
 
-Point PointOnCircle(Point centre, double radius, double angle) {
-    return {centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle)};
+Point PointOnCircle(Point center, double radius, double angle) {
+    return {center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)};
 }
 
 bool CDrawing::Add(Entity entity) {

@@ -23,14 +23,14 @@ struct PolylineEntity {
 };
 
 struct CircleEntity {
-    Point centre;
+    Point center;
     double radius = 0;  // above zero
 };
 
 // The part of a circle from angle `start` counter-clockwise to angle `end`; the whole circle when both are
 // the same direction.
 struct ArcEntity {
-    Point centre;
+    Point center;
     double radius = 0;  // above zero
     double start = 0;
     double end = 0;
@@ -49,7 +49,7 @@ using Entity = std::variant<LineEntity, PolylineEntity, CircleEntity, ArcEntity,
 // The angle that the arc spans: above zero, at most a full turn.
 double SweepOf(const ArcEntity& arc);
 // The point of a circle in the direction `angle`.
-Point PointOnCircle(Point centre, double radius, double angle);
+Point PointOnCircle(Point center, double radius, double angle);
 
 // The height of a capital letter as a fraction of the font size, for all views.
 inline constexpr double kCapitalFraction = 0.72;

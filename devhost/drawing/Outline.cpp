@@ -20,7 +20,7 @@ struct OutlineVisitor {
         return points;
     }
     std::vector<Point> operator()(const CircleEntity& circle) const {
-        std::vector<Point> points = (*this)(ArcEntity{circle.centre, circle.radius, 0, 0});
+        std::vector<Point> points = (*this)(ArcEntity{circle.center, circle.radius, 0, 0});
         points.back() = points.front();
         return points;
     }
@@ -33,7 +33,7 @@ struct OutlineVisitor {
         const auto chords = static_cast<int>(std::min(std::ceil(sweep / angle), kMostChords));
         std::vector<Point> points;
         for (int i = 0; i <= chords; ++i) {
-            points.push_back(PointOnCircle(arc.centre, arc.radius, arc.start + sweep * i / chords));
+            points.push_back(PointOnCircle(arc.center, arc.radius, arc.start + sweep * i / chords));
         }
         return points;
     }

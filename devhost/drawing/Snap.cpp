@@ -23,8 +23,8 @@ public:
     }
     void operator()(const CircleEntity&) {}
     void operator()(const ArcEntity& arc) {
-        Try(PointOnCircle(arc.centre, arc.radius, arc.start));
-        Try(PointOnCircle(arc.centre, arc.radius, arc.end));
+        Try(PointOnCircle(arc.center, arc.radius, arc.start));
+        Try(PointOnCircle(arc.center, arc.radius, arc.end));
     }
     void operator()(const TextEntity&) {}
 

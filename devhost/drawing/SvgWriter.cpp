@@ -74,19 +74,19 @@ struct ElementVisitor {
         return (line.closed ? "<polygon points=\"" : "<polyline points=\"") + points + "\"/>";
     }
     std::string operator()(const CircleEntity& circle) const {
-        return "<circle" + Attribute("cx", circle.centre.x) + Attribute("cy", -circle.centre.y) +
+        return "<circle" + Attribute("cx", circle.center.x) + Attribute("cy", -circle.center.y) +
                Attribute("r", circle.radius) + "/>";
     }
     std::string operator()(const ArcEntity& arc) const {
         const double sweep = SweepOf(arc);
         // A path from a point to itself would be empty.
         if (sweep == 2 * std::numbers::pi) {
-            return (*this)(CircleEntity{arc.centre, arc.radius});
+            return (*this)(CircleEntity{arc.center, arc.radius});
         }
         const char* large = sweep > std::numbers::pi ? "1" : "0";
-        return "<path d=\"M " + Pair(PointOnCircle(arc.centre, arc.radius, arc.start)) + " A " +
+        return "<path d=\"M " + Pair(PointOnCircle(arc.center, arc.radius, arc.start)) + " A " +
                Number(arc.radius) + ' ' + Number(arc.radius) + " 0 " + large + " 0 " +
-               Pair(PointOnCircle(arc.centre, arc.radius, arc.start + sweep)) + "\"/>";
+               Pair(PointOnCircle(arc.center, arc.radius, arc.start + sweep)) + "\"/>";
     }
     std::string operator()(const TextEntity& text) const {
         const double degrees = text.angle * 180 / std::numbers::pi;

@@ -13,7 +13,7 @@ namespace devhost {
 
 namespace {
 
-constexpr COLORREF kErrorColour = RGB(176, 0, 32);
+constexpr COLORREF kErrorColor = RGB(176, 0, 32);
 constexpr std::wstring_view kError = L"; error: ";
 
 // A row of the control: a line of the text, or the part of one that fits its width.
@@ -64,7 +64,7 @@ void DrawErrors(HWND edit) {
         dc.Get(), reinterpret_cast<HGDIOBJ>(SendMessageW(edit, WM_GETFONT, 0, 0)));
     SendMessageW(GetParent(edit), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.Get()),
                  reinterpret_cast<LPARAM>(edit));
-    SetTextColor(dc.Get(), kErrorColour);
+    SetTextColor(dc.Get(), kErrorColor);
     IntersectClipRect(dc.Get(), area.left, area.top, area.right, area.bottom);
     TEXTMETRICW metrics;
     GetTextMetricsW(dc.Get(), &metrics);

@@ -25,8 +25,8 @@ constexpr int kLeastOutput = 40;
 constexpr int kLeastDrawing = 60;
 constexpr int kCodeHeight = 14;
 
-constexpr COLORREF kLabelColour = RGB(0, 60, 160);
-constexpr COLORREF kCodeColour = RGB(28, 36, 48);
+constexpr COLORREF kLabelColor = RGB(0, 60, 160);
+constexpr COLORREF kCodeColor = RGB(28, 36, 48);
 
 HWND CreateControl(HWND parent, EControl id, const wchar_t* className, DWORD style) {
     HWND control = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent,
@@ -180,7 +180,7 @@ void CMainWindow::PaintBackground(HDC dc) const {
 }
 
 HBRUSH CMainWindow::PaintControl(HDC dc, HWND control) const {
-    SetTextColor(dc, control == m_label ? kLabelColour : kCodeColour);
+    SetTextColor(dc, control == m_label ? kLabelColor : kCodeColor);
     SetBkColor(dc, GetSysColor(COLOR_WINDOW));
     return GetSysColorBrush(COLOR_WINDOW);
 }

@@ -78,10 +78,10 @@ public:
         }
     }
 
-    void Entities(std::span<const Entity> entities, COLORREF colour) {
-        m_colour = colour;
+    void Entities(std::span<const Entity> entities, COLORREF color) {
+        m_color = color;
         // Rounded down, so that details stay apart.
-        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, colour));
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(2) / 2, color));
         const handles::CSelectedObject selection(m_dc, pen);
         for (const Entity& entity : entities) {
             if (const auto* text = std::get_if<TextEntity>(&entity)) {
@@ -99,8 +99,8 @@ private:
         SetPixelV(m_dc, dot.x, dot.y, large ? kLargeDot : kDot);
     }
 
-    void Stroke(COLORREF colour, POINT from, POINT to) {
-        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), colour));
+    void Stroke(COLORREF color, POINT from, POINT to) {
+        const handles::GdiOwner pen(CreatePen(PS_SOLID, m_scale(1), color));
         const handles::CSelectedObject selection(m_dc, pen);
         MoveToEx(m_dc, from.x, from.y, nullptr);
         LineTo(m_dc, to.x, to.y);
@@ -131,7 +131,7 @@ private:
         }
         Polyline(m_dc, run.data(), static_cast<int>(run.size()));
         // The system leaves a line's last pixel out.
-        SetPixelV(m_dc, run.back().x, run.back().y, m_colour);
+        SetPixelV(m_dc, run.back().x, run.back().y, m_color);
     }
 
     void Text(const TextEntity& text) {
@@ -155,7 +155,7 @@ private:
         const handles::CSelectedObject selection(m_dc, font);
         SetTextAlign(m_dc, TA_BASELINE | TA_LEFT);
         SetBkMode(m_dc, TRANSPARENT);
-        SetTextColor(m_dc, m_colour);
+        SetTextColor(m_dc, m_color);
         const POINT start = Rounded(pixel);
         TextOutW(m_dc, start.x, start.y, text.text.c_str(), static_cast<int>(text.text.size()));
     }
@@ -165,7 +165,7 @@ private:
     RECT m_client;
     Box m_limits;
     CScale m_scale;
-    COLORREF m_colour = kInk;
+    COLORREF m_color = kInk;
 };
 
 }  // namespace

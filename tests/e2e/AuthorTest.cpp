@@ -65,7 +65,7 @@ TEST_F(Author, TheItemFollowsTheMouseWhileItIsPlacedAndEscapeLeaves) {
     PressOk();
     const Window main = WaitForQuestion();
     constexpr Rgb placed{130, 140, 155};
-    const auto grey = [&] {
+    const auto gray = [&] {
         const Screenshot now = main.Look();
         int count = 0;
         for (int y = 0; y < 400; ++y) {
@@ -76,7 +76,7 @@ TEST_F(Author, TheItemFollowsTheMouseWhileItIsPlacedAndEscapeLeaves) {
         return count;
     };
     main.Wheel(400, 300, -1);
-    EXPECT_TRUE(WaitUntil([&] { return grey() > 200; }));
+    EXPECT_TRUE(WaitUntil([&] { return gray() > 200; }));
     main.Press("Escape");
     EXPECT_EQ(host.Wait(), 1) << "cancelled";
 }

@@ -70,12 +70,12 @@ TEST_F(ItemDialog, EnterPressesOk) {
 TEST_F(ItemDialog, TheHeaderIsADarkerBandThanTheRest) {
     Open();
     // After the header's text, and at the far end of its line.
-    EXPECT_EQ(screen.At(X(454), Y(2)), headerGrey);
-    EXPECT_EQ(screen.At(X(643), Y(9)), headerGrey);
+    EXPECT_EQ(screen.At(X(454), Y(2)), headerGray);
+    EXPECT_EQ(screen.At(X(643), Y(9)), headerGray);
     // Around the buttons, and below the rows of the grid.
-    EXPECT_EQ(screen.At(X(500), Y(279)), dialogGrey);
-    EXPECT_EQ(screen.At(X(590), Y(271)), dialogGrey);
-    EXPECT_EQ(screen.At(X(453) + 190, RowY(1)), dialogGrey);
+    EXPECT_EQ(screen.At(X(500), Y(279)), dialogGray);
+    EXPECT_EQ(screen.At(X(590), Y(271)), dialogGray);
+    EXPECT_EQ(screen.At(X(453) + 190, RowY(1)), dialogGray);
 }
 
 TEST_F(ItemDialog, ThePictureTakesTheWholeLeftPart) {
@@ -95,7 +95,7 @@ TEST_F(ItemDialog, OpensWithoutAPicture) {
     dialog = Window::WithTitle("Porta a battente");
     ASSERT_TRUE(dialog.IsValid());
     LookWhenPainted();
-    EXPECT_EQ(screen.At(X(200), Y(150)), dialogGrey);
+    EXPECT_EQ(screen.At(X(200), Y(150)), dialogGray);
     EXPECT_TRUE(dialog.PressUntilClosed("Escape"));
     EXPECT_EQ(host.Wait(), 0) << host.Errors();
 }

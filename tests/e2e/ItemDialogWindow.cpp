@@ -13,7 +13,7 @@ void ItemDialogWindow::Open(const std::string& call, int units, int precision) {
 // The height of the grid's first row: its bottom line has the header's grey. 0 when there is no line.
 int ItemDialogWindow::FindRowHeight() const {
     for (int y = Y(18) + 2; y < Y(18) + 100; ++y) {
-        if (screen.At(RowEnd() - 3, y) == headerGrey) {
+        if (screen.At(RowEnd() - 3, y) == headerGray) {
             return y - Y(18);
         }
     }
@@ -24,15 +24,15 @@ void ItemDialogWindow::LookWhenPainted() {
     EXPECT_TRUE(WaitUntil([this] {
         screen = dialog.Look();
         m_rowHeight = FindRowHeight();
-        return screen.At(X(643), Y(9)) == headerGrey && m_rowHeight > 0;
+        return screen.At(X(643), Y(9)) == headerGray && m_rowHeight > 0;
     })) << "the header or the grid's rows were never drawn";
 }
 
-bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
+bool ItemDialogWindow::ValueShows(int row, Rgb color) const {
     const Screenshot now = dialog.Look();
     for (int y = RowY(row) - m_rowHeight / 2; y < RowY(row) + m_rowHeight / 2; ++y) {
         for (int x = X(453) + 211; x < RowEnd(); ++x) {
-            if (now.At(x, y) == colour) {
+            if (now.At(x, y) == color) {
                 return true;
             }
         }
@@ -40,8 +40,8 @@ bool ItemDialogWindow::ValueShows(int row, Rgb colour) const {
     return false;
 }
 
-void ItemDialogWindow::ExpectInValue(int row, Rgb colour) const {
-    if (!WaitUntil([&] { return ValueShows(row, colour); })) {
+void ItemDialogWindow::ExpectInValue(int row, Rgb color) const {
+    if (!WaitUntil([&] { return ValueShows(row, color); })) {
         FailWithScreen("row " + std::to_string(row) + " does not have the colour, the dialog is " +
                        (dialog.IsOpen() ? "open" : "closed"));
     }

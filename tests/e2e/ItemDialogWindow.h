@@ -10,8 +10,8 @@
 #include "tests/e2e/Desktop.h"
 #include "tests/e2e/HostRun.h"
 
-inline constexpr Rgb headerGrey{0xC8, 0xC8, 0xC8};
-inline constexpr Rgb dialogGrey{0xE1, 0xE1, 0xE1};
+inline constexpr Rgb headerGray{0xC8, 0xC8, 0xC8};
+inline constexpr Rgb dialogGray{0xE1, 0xE1, 0xE1};
 inline constexpr Rgb modifiedYellow{255, 255, 80};
 inline constexpr Rgb labelBlue{0, 60, 160};
 
@@ -37,7 +37,7 @@ protected:
     void ClickValue(int row) const { dialog.Click(ValueX(), RowY(row)); }
     void ClickButton(int row) const { dialog.Click(ButtonX(), RowY(row)); }
     // Waits until some pixel of the row's value has the colour.
-    void ExpectInValue(int row, Rgb colour) const;
+    void ExpectInValue(int row, Rgb color) const;
 
     // A click on the value opens its edit with the caret after the text; the text is replaced.
     void Type(int row, const std::string& text) const;
@@ -54,7 +54,7 @@ protected:
     Screenshot screen{""};
 
 private:
-    bool ValueShows(int row, Rgb colour) const;
+    bool ValueShows(int row, Rgb color) const;
     int FindRowHeight() const;
 
     int m_rowHeight = 0;

@@ -27,7 +27,7 @@ protected:
         ExpectFocus(expected);
     }
     void ExpectFocus(int row) {
-        EXPECT_TRUE(WaitUntil([&] { return dialog.Look().At(X(453) + 16, RowY(row)) != dialogGrey; }))
+        EXPECT_TRUE(WaitUntil([&] { return dialog.Look().At(X(453) + 16, RowY(row)) != dialogGray; }))
             << "row " << row << " does not get the focus";
     }
     // Types over the value of the focused row.

@@ -38,7 +38,7 @@ TEST_F(DrawFunctions, APolylineIsOpenUnlessItIsToBeClosed) {
 
 TEST_F(DrawFunctions, CirclesAndArcsHaveACentreAndARadius) {
     ExpectValues({{L"(draw-circle '(1 2) 3)", L"T"}});
-    EXPECT_EQ(Only<CircleEntity>().centre, (Point{1, 2}));
+    EXPECT_EQ(Only<CircleEntity>().center, (Point{1, 2}));
     EXPECT_EQ(Only<CircleEntity>().radius, 3);
     ExpectValues({{L"(draw-clear)", L"T"}, {L"(draw-arc '(1 2) 3 0 1.5)", L"T"}});
     EXPECT_EQ(Only<ArcEntity>().start, 0);

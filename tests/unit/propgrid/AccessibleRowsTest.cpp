@@ -25,11 +25,11 @@ protected:
     AccessibleRows() {
         model.settings.displayMode = DM_CATEGORIZED;
         size = AddSection(L"Size");
-        colour = AddSection(L"Colour", true);
+        color = AddSection(L"Colour", true);
         rest = AddSection(L"Rest");
         width = AddItem(size, L"Width", IT_INTEGER, 80);
         height = AddItem(size, L"Height", IT_INTEGER, 200);
-        paint = AddItem(colour, L"Paint");
+        paint = AddItem(color, L"Paint");
         note = AddItem(rest, L"Note", IT_STRING, std::wstring(L"none"));
     }
 
@@ -51,7 +51,7 @@ protected:
     }
 
     CAccessibleRows rows{model, layout};
-    Id size = 0, colour = 0, rest = 0, width = 0, height = 0, paint = 0, note = 0;
+    Id size = 0, color = 0, rest = 0, width = 0, height = 0, paint = 0, note = 0;
 };
 
 TEST_F(AccessibleRows, AreTheHeadersAndTheItemsOfExpandedSections) {
@@ -152,7 +152,7 @@ TEST_F(AccessibleRows, AreReadOnlyWhenTheyAreNotEditable) {
 TEST_F(AccessibleRows, AreExpandedOrCollapsedWhenTheyAreHeaders) {
     constexpr unsigned kCan = STATE_FOCUSABLE | STATE_SELECTABLE;
     EXPECT_EQ(rows.GetState(ChildOfSection(size), {}), kCan | STATE_EXPANDED);
-    EXPECT_EQ(rows.GetState(ChildOfSection(colour), {}), kCan | STATE_COLLAPSED);
+    EXPECT_EQ(rows.GetState(ChildOfSection(color), {}), kCan | STATE_COLLAPSED);
 }
 
 TEST_F(AccessibleRows, TakeTheStateOfTheirWindow) {
@@ -200,13 +200,13 @@ TEST_F(AccessibleRows, AreNotHitBesideThem) {
 TEST_F(AccessibleRows, OfferWhatTheKeyboardDoes) {
     EXPECT_EQ(rows.GetDefaultAction(ChildOf(width)), L"Edit");
     EXPECT_EQ(rows.GetDefaultAction(ChildOfSection(size)), L"Collapse");
-    EXPECT_EQ(rows.GetDefaultAction(ChildOfSection(colour)), L"Expand");
+    EXPECT_EQ(rows.GetDefaultAction(ChildOfSection(color)), L"Expand");
     EXPECT_EQ(rows.GetDefaultAction(kSelf), L"");
     EXPECT_EQ(rows.GetShortcut(ChildOf(width)), L"") << "no key edits";
     model.settings.keyboardEditing = true;
     EXPECT_EQ(rows.GetShortcut(ChildOf(width)), L"F2");
     EXPECT_EQ(rows.GetShortcut(ChildOfSection(size)), L"-");
-    EXPECT_EQ(rows.GetShortcut(ChildOfSection(colour)), L"+");
+    EXPECT_EQ(rows.GetShortcut(ChildOfSection(color)), L"+");
     EXPECT_EQ(rows.GetShortcut(kSelf), L"");
 }
 

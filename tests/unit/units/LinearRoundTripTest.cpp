@@ -153,7 +153,7 @@ TEST(LinearRoundTrip, EveryThousandthUpToThirteenInches) {
 
 TEST(LinearRoundTrip, NeighboursOfWholeFeetAndOfEachPowerOfTenAndTwo) {
     std::vector<double> values;
-    const auto addWithNeighbours = [&](double value) {
+    const auto addWithNeighbors = [&](double value) {
         values.push_back(std::nextafter(value, 0));
         values.push_back(value);
         if (value < std::numeric_limits<double>::max()) {
@@ -161,17 +161,17 @@ TEST(LinearRoundTrip, NeighboursOfWholeFeetAndOfEachPowerOfTenAndTwo) {
         }
     };
     for (int feet = 1; feet <= 200; ++feet) {
-        addWithNeighbours(12.0 * feet);
+        addWithNeighbors(12.0 * feet);
     }
     for (int exponent = -323; exponent <= 308; ++exponent) {
         for (const double digit : {1.0, 5.0, 9.5, 9.999999999}) {
             if (const double value = digit * std::pow(10.0, exponent); std::isfinite(value)) {
-                addWithNeighbours(value);
+                addWithNeighbors(value);
             }
         }
     }
     for (int exponent = -1074; exponent <= 1023; ++exponent) {
-        addWithNeighbours(std::ldexp(1.0, exponent));
+        addWithNeighbors(std::ldexp(1.0, exponent));
     }
     values.push_back(std::numeric_limits<double>::max());
     CheckAll(values);

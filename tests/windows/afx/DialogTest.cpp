@@ -392,10 +392,10 @@ TEST_F(Dialog, ThatOnlyChangesItsSizeIsCentredStill) {
 TEST_F(Dialog, IsCentredOverItsOwnerUnlessItIsPlaced) {
     CRect owner;
     m_owner.GetWindowRect(owner);
-    CSteppedDialog centred(m_empty, &m_owner);
-    centred.DoModal();
-    EXPECT_NEAR(centred.m_rect.CenterPoint().x, owner.CenterPoint().x, 1);
-    EXPECT_NEAR(centred.m_rect.CenterPoint().y, owner.CenterPoint().y, 1);
+    CSteppedDialog centerd(m_empty, &m_owner);
+    centerd.DoModal();
+    EXPECT_NEAR(centerd.m_rect.CenterPoint().x, owner.CenterPoint().x, 1);
+    EXPECT_NEAR(centerd.m_rect.CenterPoint().y, owner.CenterPoint().y, 1);
     CSteppedDialog placed(m_empty, &m_owner);
     placed.m_onInit = [&] { return placed.SetWindowPos(&CWnd::wndTop, 100, 5, 0, 0, SWP_NOSIZE); };
     placed.DoModal();

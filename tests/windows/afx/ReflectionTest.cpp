@@ -9,14 +9,14 @@ namespace {
 class CAskedEdit : public CEdit {
 public:
     CBrush m_brush{RGB(1, 2, 3)};
-    bool m_leaveColour = false;
+    bool m_leaveColor = false;
     std::string m_messages;
 
 protected:
     DECLARE_MESSAGE_MAP()
     HBRUSH CtlColor(CDC* dc, UINT kind) {
         m_messages += "colour " + std::to_string(kind) + ";";
-        if (m_leaveColour) {
+        if (m_leaveColor) {
             return nullptr;
         }
         dc->SetBkColor(RGB(1, 2, 3));
@@ -75,7 +75,7 @@ protected:
         m_parent.m_messages.clear();
         m_edit.m_messages.clear();
     }
-    LRESULT AskColour(UINT message, const CWnd& control) {
+    LRESULT AskColor(UINT message, const CWnd& control) {
         CClientDC dc(&m_parent);
         return m_parent.SendMessage(message, reinterpret_cast<WPARAM>(dc.m_hDC),
                                     reinterpret_cast<LPARAM>(control.m_hWnd));
@@ -86,14 +86,14 @@ protected:
 };
 
 TEST_F(Reflection, AsksTheControlForItsColoursWhenTheParentCallsItsBase) {
-    EXPECT_EQ(AskColour(WM_CTLCOLOREDIT, m_edit), reinterpret_cast<LRESULT>(m_edit.m_brush.m_hObject));
+    EXPECT_EQ(AskColor(WM_CTLCOLOREDIT, m_edit), reinterpret_cast<LRESULT>(m_edit.m_brush.m_hObject));
     EXPECT_EQ(m_parent.m_messages, "colour 1 of 5;");
     EXPECT_EQ(m_edit.m_messages, "colour 1;");
 }
 
 TEST_F(Reflection, LeavesTheColoursToTheParentWhenTheControlGivesNoBrush) {
-    m_edit.m_leaveColour = true;
-    const LRESULT brush = AskColour(WM_CTLCOLOREDIT, m_edit);
+    m_edit.m_leaveColor = true;
+    const LRESULT brush = AskColor(WM_CTLCOLOREDIT, m_edit);
     EXPECT_EQ(m_edit.m_messages, "colour 1;");
     EXPECT_NE(brush, 0) << "the system's brush";
     EXPECT_NE(brush, reinterpret_cast<LRESULT>(m_edit.m_brush.m_hObject));
@@ -102,7 +102,7 @@ TEST_F(Reflection, LeavesTheColoursToTheParentWhenTheControlGivesNoBrush) {
 TEST_F(Reflection, DoesNotAskTheControlWhenTheParentDecides) {
     CBrush own(RGB(9, 9, 9));
     m_parent.m_brush = own;
-    EXPECT_EQ(AskColour(WM_CTLCOLORSTATIC, m_edit), reinterpret_cast<LRESULT>(own.m_hObject));
+    EXPECT_EQ(AskColor(WM_CTLCOLORSTATIC, m_edit), reinterpret_cast<LRESULT>(own.m_hObject));
     EXPECT_EQ(m_edit.m_messages, "");
     m_parent.m_brush = nullptr;
 }

@@ -15,32 +15,32 @@ constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF black = RGB(0, 0, 0);
 
 // 0xRRGGBB by the number of the choice.
-constexpr std::array<unsigned, 6> slideColours = {0xE00000, 0x00A000, 0x0000E0, 0xC0C000, 0x00C0C0, 0xC000C0};
-constexpr unsigned logoColour = 0x404080;
-constexpr unsigned emptyColour = 0xA0A0A0;
+constexpr std::array<unsigned, 6> slideColors = {0xE00000, 0x00A000, 0x0000E0, 0xC0C000, 0x00C0C0, 0xC000C0};
+constexpr unsigned logoColor = 0x404080;
+constexpr unsigned emptyColor = 0xA0A0A0;
 
-COLORREF AsColourRef(unsigned rgb) {
+COLORREF AsColorRef(unsigned rgb) {
     return RGB(rgb >> 16, rgb >> 8 & 0xFF, rgb & 0xFF);
 }
 
-std::string PlainPicture(unsigned colour) {
+std::string PlainPicture(unsigned color) {
     constexpr int size = 64;
-    return PngFile(size, size, std::vector<unsigned>(size * size, colour));
+    return PngFile(size, size, std::vector<unsigned>(size * size, color));
 }
 
-char NameOf(COLORREF colour) {
-    for (size_t number = 0; number < slideColours.size(); ++number) {
-        if (colour == AsColourRef(slideColours[number])) {
+char NameOf(COLORREF color) {
+    for (size_t number = 0; number < slideColors.size(); ++number) {
+        if (color == AsColorRef(slideColors[number])) {
             return static_cast<char>('0' + number);
         }
     }
-    if (colour == CLR_INVALID) {
+    if (color == CLR_INVALID) {
         return ' ';
     }
-    return colour == AsColourRef(logoColour)    ? 'L'
-           : colour == AsColourRef(emptyColour) ? 'E'
-           : colour == white                    ? '.'
-                                                : '?';
+    return color == AsColorRef(logoColor)    ? 'L'
+           : color == AsColorRef(emptyColor) ? 'E'
+           : color == white                  ? '.'
+                                             : '?';
 }
 
 // What five pixels across an edge of a cell show: one outside the frame, three of the frame, one inside.
@@ -89,15 +89,15 @@ CChoiceFixture::CChoiceFixture() {
 
 void CChoiceFixture::WriteSlide(int number, const std::wstring& ending) const {
     m_folder.Write(L"c" + std::to_wstring(number) + ending,
-                   PlainPicture(slideColours[static_cast<size_t>(number) % slideColours.size()]));
+                   PlainPicture(slideColors[static_cast<size_t>(number) % slideColors.size()]));
 }
 
 void CChoiceFixture::WriteSlides(int count) const {
     for (int number = 0; number < count; ++number) {
         WriteSlide(number);
     }
-    m_folder.Write(L"logo.png", PlainPicture(logoColour));
-    m_folder.Write(L"empty.png", PlainPicture(emptyColour));
+    m_folder.Write(L"logo.png", PlainPicture(logoColor));
+    m_folder.Write(L"empty.png", PlainPicture(emptyColor));
 }
 
 void CChoiceFixture::Fill(CTavrinSelMaskDlg& dialog, int count) {

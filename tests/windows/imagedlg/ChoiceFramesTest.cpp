@@ -12,7 +12,7 @@ extern "C" HGDIOBJ(WINAPI* __imp_SelectObject)(HDC dc, HGDIOBJ object) IMPORT_EN
 namespace {
 
 constexpr COLORREF white = RGB(255, 255, 255);
-constexpr COLORREF grey = RGB(128, 128, 128);
+constexpr COLORREF gray = RGB(128, 128, 128);
 
 // By count, from 1. Cells outside the window show nothing.
 constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- ", "B-----",
@@ -21,11 +21,11 @@ constexpr std::array<const char*, 7> shownFrames = {"",       "B  -  ", "B- -- "
 using ChoiceFrames = CChoiceFixture;
 
 // Paints over all that the dialog shows, so that white frames can be distinguished from its white surface.
-void CoverWithGrey(HWND window) {
+void CoverWithGray(HWND window) {
     RECT client;
     GetClientRect(window, &client);
     const HDC dc = GetDC(window);
-    const HBRUSH brush = CreateSolidBrush(grey);
+    const HBRUSH brush = CreateSolidBrush(gray);
     FillRect(dc, &client, brush);
     DeleteObject(brush);
     ReleaseDC(window, dc);
@@ -44,9 +44,9 @@ TEST_F(ChoiceFrames, TheOtherCellsHaveWhiteOnesAndSkippedCellsNone) {
                                                     "BW WW ", "BWWW-W", "BWWWWW"};
     for (size_t count = 1; count <= 6; ++count) {
         RunPainted(static_cast<int>(count), [&](CTavrinSelMaskDlg& dialog) {
-            CoverWithGrey(dialog);
+            CoverWithGray(dialog);
             dialog.PaintFrames();
-            EXPECT_EQ(FramesIn(dialog, grey), painted[count]) << count;
+            EXPECT_EQ(FramesIn(dialog, gray), painted[count]) << count;
         });
     }
 }
@@ -97,7 +97,7 @@ TEST_F(ChoiceFrames, StandAgainAfterAnotherWindowCoveredTheDialog) {
 TEST_F(ChoiceFrames, StandAgainAfterTheWholeDialogIsRepainted) {
     RunPainted(4, [&](CTavrinSelMaskDlg& dialog) {
         dialog.SelectCell(5);
-        CoverWithGrey(dialog);
+        CoverWithGray(dialog);
         dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
         EXPECT_EQ(FramesIn(dialog, white), "-- -B ");
         EXPECT_EQ(ShownIn(dialog), "01 23 ");
@@ -130,9 +130,9 @@ TEST_F(ChoiceFrames, RunOverAHiddenButton) {
         CWnd& hidden = *dialog.GetDlgItem(IDC_CHOICE_REPLACE);
         ASSERT_FALSE(hidden.IsWindowVisible());
         hidden.SetWindowPos(nullptr, 0, 0, 60, 60, SWP_NOZORDER | SWP_NOREDRAW);
-        CoverWithGrey(dialog);
+        CoverWithGray(dialog);
         dialog.PaintFrames();
-        EXPECT_EQ(FramesIn(dialog, grey), "BWWWWW");
+        EXPECT_EQ(FramesIn(dialog, gray), "BWWWWW");
     });
 }
 
@@ -140,12 +140,12 @@ TEST_F(ChoiceFrames, RunOverAHiddenButton) {
 TEST_F(ChoiceFrames, NeverRunOverAButton) {
     for (const int count : {1, 2}) {
         RunPainted(count, [&](CTavrinSelMaskDlg& dialog) {
-            CoverWithGrey(dialog);
+            CoverWithGray(dialog);
             dialog.PaintFrames();
             const CClientPixels pixels(dialog);
             for (const int button : {IDOK, IDCANCEL}) {
                 const RECT rect = RectOf(dialog, ::GetDlgItem(dialog, button));
-                EXPECT_EQ(pixels.Count(rect, grey), (rect.right - rect.left) * (rect.bottom - rect.top))
+                EXPECT_EQ(pixels.Count(rect, gray), (rect.right - rect.left) * (rect.bottom - rect.top))
                     << count;
             }
         });

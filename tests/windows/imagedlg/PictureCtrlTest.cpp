@@ -28,7 +28,7 @@ constexpr COLORREF blue = RGB(0, 0, 255);
 
 // A picture of one colour, or of a left and a right one. Large enough for its middle to be free of the soft
 // edge that stretching gives it.
-std::string Coloured(unsigned left, unsigned right) {
+std::string Colored(unsigned left, unsigned right) {
     constexpr int size = 64;
     std::vector<unsigned> pixels;
     for (int pixel = 0; pixel < size * size; ++pixel) {
@@ -38,11 +38,11 @@ std::string Coloured(unsigned left, unsigned right) {
 }
 
 std::string Red() {
-    return Coloured(0xFF0000, 0xFF0000);
+    return Colored(0xFF0000, 0xFF0000);
 }
 
 std::string Blue() {
-    return Coloured(0x0000FF, 0x0000FF);
+    return Colored(0x0000FF, 0x0000FF);
 }
 
 // A parent window that paints itself white and hands owner drawing on to its children.
@@ -81,7 +81,7 @@ TEST_F(PictureCtrl, IsEmptyForAFileThatIsNotThere) {
 }
 
 TEST_F(PictureCtrl, StretchesThePictureOverTheWholeCell) {
-    m_folder.Write(L"square.bmp", Coloured(0xFF0000, 0x0000FF));
+    m_folder.Write(L"square.bmp", Colored(0xFF0000, 0x0000FF));
     CPictureCtrl picture;
     Bind(picture, {10, 10, 60, 210});
     ASSERT_TRUE(picture.LoadFromFile(m_folder.Path(L"square.bmp").c_str()));

@@ -11,7 +11,7 @@ namespace {
 constexpr COLORREF white = RGB(255, 255, 255);
 
 // Left half red, right half blue.
-std::string TwoColours(EPngForm form) {
+std::string TwoColors(EPngForm form) {
     constexpr int size = 16;
     std::vector<unsigned> pixels;
     for (int pixel = 0; pixel < size * size; ++pixel) {
@@ -46,7 +46,7 @@ protected:
         });
     }
 
-    void ExpectTwoColours(const std::string& bytes) {
+    void ExpectTwoColors(const std::string& bytes) {
         Show(bytes, [](const CClientPixels& pixels) {
             const int quarter = pixels.Width() / 4;
             EXPECT_EQ(pixels.At(quarter, pixels.Height() / 2), RGB(255, 0, 0));
@@ -66,7 +66,7 @@ TEST_F(PictureFiles, AFileThatIsNoPictureLeavesTheCellEmpty) {
 }
 
 TEST_F(PictureFiles, APictureCutOffAnywhereDoesNoHarm) {
-    const std::string whole = TwoColours(EPngForm::Rgb8);
+    const std::string whole = TwoColors(EPngForm::Rgb8);
     for (size_t size = 1; size < whole.size(); size += whole.size() / 7) {
         Show(whole.substr(0, size), [](const CClientPixels&) {});
     }
@@ -74,7 +74,7 @@ TEST_F(PictureFiles, APictureCutOffAnywhereDoesNoHarm) {
 }
 
 TEST_F(PictureFiles, APictureWithDamagedBytesDoesNoHarm) {
-    const std::string whole = TwoColours(EPngForm::Palette);
+    const std::string whole = TwoColors(EPngForm::Palette);
     for (size_t position = 8; position < whole.size(); position += whole.size() / 7) {
         std::string damaged = whole;
         damaged[position] = static_cast<char>(~damaged[position]);
@@ -91,15 +91,15 @@ TEST_F(PictureFiles, OnePixelFillsTheCell) {
 }
 
 TEST_F(PictureFiles, SixteenBitsPerColourAreDrawn) {
-    ExpectTwoColours(TwoColours(EPngForm::Rgb16));
+    ExpectTwoColors(TwoColors(EPngForm::Rgb16));
 }
 
 TEST_F(PictureFiles, APaletteIsDrawn) {
-    ExpectTwoColours(TwoColours(EPngForm::Palette));
+    ExpectTwoColors(TwoColors(EPngForm::Palette));
 }
 
 TEST_F(PictureFiles, AnInterlacedPictureIsDrawn) {
-    ExpectTwoColours(TwoColours(EPngForm::Interlaced));
+    ExpectTwoColors(TwoColors(EPngForm::Interlaced));
 }
 
 // Whether there is memory to decode it depends on the machine; it is drawn or the cell stays empty.
@@ -120,7 +120,7 @@ TEST_F(PictureFiles, APictureLargerThanAnyMemoryLeavesTheCellEmpty) {
 // Every character that a file name may hold, in names short enough for every file system.
 TEST_F(PictureFiles, NamesMayHoldEveryCharacterOfAFileName) {
     const std::wstring forbidden = L"<>:\"/\\|?*";
-    const std::string picture = TwoColours(EPngForm::Rgb8);
+    const std::string picture = TwoColors(EPngForm::Rgb8);
     std::wstring name;
     CTavrinSelMaskDlg dialog;
     dialog.SetArguments(L"", 0);
@@ -154,7 +154,7 @@ TEST_F(PictureFiles, APathTooLongForTheSearchIsNotFound) {
     const size_t longest = 253 - m_folder.Path(L"_t.png").size();
     for (const size_t length : {longest, longest + 1}) {
         const std::wstring name(length, L'n');
-        m_folder.Write(name + L"_t.png", TwoColours(EPngForm::Rgb8));
+        m_folder.Write(name + L"_t.png", TwoColors(EPngForm::Rgb8));
         EXPECT_EQ(dialog.AddChoice(name.c_str()), length == longest) << length;
     }
 }

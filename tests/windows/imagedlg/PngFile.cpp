@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr unsigned char trueColour = 2;
-constexpr unsigned char paletteColour = 3;
+constexpr unsigned char trueColor = 2;
+constexpr unsigned char paletteColor = 3;
 
 void PutBigEndian(std::string& bytes, std::uint32_t value, int size) {
     for (int byte = size - 1; byte >= 0; --byte) {
@@ -34,18 +34,18 @@ std::string Chunk(const std::string& type, const std::string& data) {
     return bytes;
 }
 
-std::string Header(unsigned width, unsigned height, int depth, unsigned char colourType, bool interlaced) {
+std::string Header(unsigned width, unsigned height, int depth, unsigned char colorType, bool interlaced) {
     std::string data;
     PutBigEndian(data, width, 4);
     PutBigEndian(data, height, 4);
     data += static_cast<char>(depth);
-    data += static_cast<char>(colourType);
+    data += static_cast<char>(colorType);
     data += std::string(2, '\0');  // the one compression, the one set of filters
     data += interlaced ? '\1' : '\0';
     return Chunk("IHDR", data);
 }
 
-std::string Colour(unsigned rgb) {
+std::string Color(unsigned rgb) {
     std::string bytes;
     PutBigEndian(bytes, rgb, 3);
     return bytes;
@@ -154,11 +154,11 @@ std::string PngFile(int width, int height, const std::vector<unsigned>& pixels, 
     std::string palette;
     const auto sample = [&](size_t index) {
         if (form == EPngForm::Palette) {
-            palette += Colour(pixels[index]);
+            palette += Color(pixels[index]);
             return std::string(1, static_cast<char>(palette.size() / 3 - 1));
         }
         std::string bytes;
-        for (const char byte : Colour(pixels[index])) {
+        for (const char byte : Color(pixels[index])) {
             bytes += std::string(form == EPngForm::Rgb16 ? 2 : 1, byte);
         }
         return bytes;
@@ -172,12 +172,12 @@ std::string PngFile(int width, int height, const std::vector<unsigned>& pixels, 
     }
     return File(
         Header(static_cast<unsigned>(width), static_cast<unsigned>(height), form == EPngForm::Rgb16 ? 16 : 8,
-               form == EPngForm::Palette ? paletteColour : trueColour, form == EPngForm::Interlaced),
+               form == EPngForm::Palette ? paletteColor : trueColor, form == EPngForm::Interlaced),
         palette, Stored(data));
 }
 
-std::string HugePngFile(unsigned size, unsigned colour) {
+std::string HugePngFile(unsigned size, unsigned color) {
     const std::uint32_t rowSize = 1 + (size + 7) / 8;
-    return File(Header(size, size, 1, paletteColour, false), Colour(colour) + Colour(0),
+    return File(Header(size, size, 1, paletteColor, false), Color(color) + Color(0),
                 CZeroStream(rowSize * size).Bytes());
 }

@@ -18,4 +18,4 @@ std::string PngFile(int width, int height, const std::vector<unsigned>& pixels,
 
 // A picture of one colour, `size` pixels wide and high: one bit per pixel in memory, next to nothing in
 // the file.
-std::string HugePngFile(unsigned size, unsigned colour);
+std::string HugePngFile(unsigned size, unsigned color);

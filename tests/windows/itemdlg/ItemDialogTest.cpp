@@ -3,8 +3,8 @@
 
 namespace {
 
-constexpr COLORREF headerGrey = 0xC8C8C8;
-constexpr COLORREF dialogGrey = 0xE1E1E1;
+constexpr COLORREF headerGray = 0xC8C8C8;
+constexpr COLORREF dialogGray = 0xE1E1E1;
 
 class ItemDialog : public ItemDialogFixture {
 protected:
@@ -103,14 +103,14 @@ TEST_F(ItemDialog, PaintsTheHeaderDarkerThanTheRest) {
     InDialog([](HWND dialog, CPropertyGrid&) {
         PumpMessages();
         const CClientPixels header(::GetDlgItem(dialog, 102));
-        EXPECT_EQ(header.At(1, 1), headerGrey);
-        EXPECT_EQ(header.At(header.Width() - 2, header.Height() - 2), headerGrey);
-        EXPECT_EQ(header.Count({0, 0, header.Width(), header.Height()}, dialogGrey), 0);
+        EXPECT_EQ(header.At(1, 1), headerGray);
+        EXPECT_EQ(header.At(header.Width() - 2, header.Height() - 2), headerGray);
+        EXPECT_EQ(header.Count({0, 0, header.Width(), header.Height()}, dialogGray), 0);
         RECT surroundings = {530, 268, 645, 290};
         ::MapDialogRect(dialog, &surroundings);
         const CClientPixels whole(dialog);
-        EXPECT_EQ(whole.At(surroundings.left, surroundings.bottom - 2), dialogGrey);
-        EXPECT_EQ(whole.At(surroundings.right - 2, surroundings.bottom - 2), dialogGrey);
+        EXPECT_EQ(whole.At(surroundings.left, surroundings.bottom - 2), dialogGray);
+        EXPECT_EQ(whole.At(surroundings.right - 2, surroundings.bottom - 2), dialogGray);
     });
     Run();
 }
@@ -118,8 +118,8 @@ TEST_F(ItemDialog, PaintsTheHeaderDarkerThanTheRest) {
 TEST_F(ItemDialog, GivesTheGridItsGreys) {
     WriteItem("");
     InDialog([](HWND, CPropertyGrid& grid) {
-        EXPECT_EQ(grid.GetBackColor(), dialogGrey);
-        EXPECT_EQ(grid.GetShadeColor(), headerGrey);
+        EXPECT_EQ(grid.GetBackColor(), dialogGray);
+        EXPECT_EQ(grid.GetShadeColor(), headerGray);
         EXPECT_EQ(grid.GetDisplayMode(), 2U);
         EXPECT_EQ(grid.GetGutterWidth(), 210);
         EXPECT_EQ(grid.GetSectionName(0), L"Item Data");

@@ -78,21 +78,21 @@ TEST_F(ItemOpening, TheRowsReadBeforeAFailureStay) {
 TEST_F(ItemOpening, APictureThatAnotherProgramHoldsIsLeftOutWithoutAMessage) {
     WriteItem(block);
     folder.Write(L"item.png", BitmapFile(2, 2, std::vector<unsigned>(4, 0x3060C0)));
-    const auto greyOfPicture = [this] {
-        bool grey = false;
+    const auto grayOfPicture = [this] {
+        bool gray = false;
         InDialog(
             [&](HWND dialog, CPropertyGrid&) {
                 PumpMessages();
                 const CClientPixels picture(::GetDlgItem(dialog, 101));
-                grey = picture.At(picture.Width() / 2, picture.Height() / 2) == 0xE1E1E1;
+                gray = picture.At(picture.Width() / 2, picture.Height() / 2) == 0xE1E1E1;
             },
             IDCANCEL);
         EXPECT_EQ(Run(), IDCANCEL);
-        return grey;
+        return gray;
     };
-    EXPECT_FALSE(greyOfPicture());
+    EXPECT_FALSE(grayOfPicture());
     const CFileLock lock(folder.Path(L"item.png"));
-    EXPECT_TRUE(greyOfPicture());
+    EXPECT_TRUE(grayOfPicture());
     EXPECT_TRUE(driver.messages.empty());
 }
 

@@ -39,11 +39,11 @@ COLORREF CClientPixels::At(int x, int y) const {
     return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
 }
 
-int CClientPixels::Count(const RECT& area, COLORREF colour) const {
+int CClientPixels::Count(const RECT& area, COLORREF color) const {
     int count = 0;
     for (int y = area.top; y < area.bottom; ++y) {
         for (int x = area.left; x < area.right; ++x) {
-            count += At(x, y) == colour ? 1 : 0;
+            count += At(x, y) == color ? 1 : 0;
         }
     }
     return count;

@@ -17,7 +17,7 @@ public:
     COLORREF At(int x, int y) const;
 
     // How many pixels of `area` (client coordinates) have the colour.
-    int Count(const RECT& area, COLORREF colour) const;
+    int Count(const RECT& area, COLORREF color) const;
 
 private:
     int m_width = 0;

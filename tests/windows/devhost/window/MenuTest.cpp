@@ -14,7 +14,7 @@ protected:
         SendMessageW(m_window.Handle(), WM_INITMENU, reinterpret_cast<WPARAM>(menu), 0);
         return GetMenuState(menu, command, MF_BYCOMMAND);
     }
-    bool IsGrey(UINT command) { return (StateOf(command) & MF_GRAYED) != 0; }
+    bool IsGray(UINT command) { return (StateOf(command) & MF_GRAYED) != 0; }
     std::wstring Title(UINT command) const {
         wchar_t text[100] = L"";
         GetMenuStringW(GetMenu(m_window.Handle()), command, text, 100, MF_BYCOMMAND);
@@ -112,10 +112,10 @@ TEST_F(Menu, TheCurrentLanguageIsMarkedAndAnotherIsChosen) {
 }
 
 TEST_F(Menu, ReloadIsGreyUntilSomeoneDoesIt) {
-    EXPECT_TRUE(IsGrey(IDM_RELOAD));
+    EXPECT_TRUE(IsGray(IDM_RELOAD));
     int reloads = 0;
     m_window.SetReloadHandler([&] { ++reloads; });
-    EXPECT_FALSE(IsGrey(IDM_RELOAD));
+    EXPECT_FALSE(IsGray(IDM_RELOAD));
     PostKey(VK_F5);
     Handle();
     EXPECT_EQ(reloads, 1);
@@ -139,35 +139,35 @@ TEST_F(Menu, WhileBusyWhatBeginsSomethingIsGrey) {
     m_window.SetReloadHandler([] {});
     m_drawing.Add(CircleEntity{{0, 0}, 1});
     for (const UINT command : {UINT{IDM_ITEM}, UINT{IDM_LANGUAGE}, UINT{IDM_RELOAD}, UINT{IDM_CLEAR}}) {
-        EXPECT_FALSE(IsGrey(command)) << command;
+        EXPECT_FALSE(IsGray(command)) << command;
         m_window.SetBusy(true);
-        EXPECT_TRUE(IsGrey(command)) << command;
-        EXPECT_FALSE(IsGrey(IDM_FIT));
+        EXPECT_TRUE(IsGray(command)) << command;
+        EXPECT_FALSE(IsGray(IDM_FIT));
         m_window.SetBusy(false);
     }
 }
 
 TEST_F(Menu, ClearEmptiesTheDrawing) {
-    EXPECT_TRUE(IsGrey(IDM_CLEAR));
+    EXPECT_TRUE(IsGray(IDM_CLEAR));
     m_drawing.Add(CircleEntity{{0, 0}, 1});
-    EXPECT_FALSE(IsGrey(IDM_CLEAR));
+    EXPECT_FALSE(IsGray(IDM_CLEAR));
     PostCommand(IDM_CLEAR);
     Handle();
     EXPECT_TRUE(m_drawing.Entities().empty());
 }
 
 TEST_F(Menu, UndoAndRedoTakeCommandsBackAndRepeatThem) {
-    EXPECT_TRUE(IsGrey(IDM_UNDO));
+    EXPECT_TRUE(IsGray(IDM_UNDO));
     m_drawing.BeginCommand();
     m_drawing.Add(CircleEntity{{0, 0}, 1});
     PostCommand(IDM_CLEAR);
     Handle();
-    EXPECT_TRUE(IsGrey(IDM_REDO));
+    EXPECT_TRUE(IsGray(IDM_REDO));
     PressWithControl('Z');
     EXPECT_EQ(m_drawing.Entities().size(), 1u) << "what Clear has removed";
     PressWithControl('Z');
     EXPECT_TRUE(m_drawing.Entities().empty());
-    EXPECT_TRUE(IsGrey(IDM_UNDO));
+    EXPECT_TRUE(IsGray(IDM_UNDO));
     PressWithControl('Y');
     EXPECT_EQ(m_drawing.Entities().size(), 1u);
 }
@@ -184,14 +184,14 @@ TEST_F(Menu, TheKeysOfUndoAreThePromptsWhileItHasAText) {
 
 TEST_F(Menu, SaveAndRescanAreGreyUntilSomeoneDoesThem) {
     m_drawing.Add(CircleEntity{{0, 0}, 1});
-    EXPECT_TRUE(IsGrey(IDM_SAVE));
-    EXPECT_TRUE(IsGrey(IDM_RESCAN));
+    EXPECT_TRUE(IsGray(IDM_SAVE));
+    EXPECT_TRUE(IsGray(IDM_RESCAN));
     int rescans = 0;
     m_window.SetRescanHandler([&] { ++rescans; });
     m_window.SetSaveHandler([](const std::wstring&) {});
-    EXPECT_FALSE(IsGrey(IDM_SAVE));
+    EXPECT_FALSE(IsGray(IDM_SAVE));
     m_drawing.Clear();
-    EXPECT_TRUE(IsGrey(IDM_SAVE)) << "there is nothing to save";
+    EXPECT_TRUE(IsGray(IDM_SAVE)) << "there is nothing to save";
     PostCommand(IDM_RESCAN);
     Handle();
     EXPECT_EQ(rescans, 1);

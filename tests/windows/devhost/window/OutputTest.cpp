@@ -7,7 +7,7 @@ using namespace devhost;
 
 namespace {
 
-constexpr COLORREF kErrorColour = RGB(176, 0, 32);
+constexpr COLORREF kErrorColor = RGB(176, 0, 32);
 
 class Output : public CWindowFixture {
 protected:
@@ -30,7 +30,7 @@ protected:
         std::vector<int> red;
         for (int line = 0; line < lines; ++line) {
             red.push_back(pixels.Count({0, line * LineHeight(), pixels.Width(), (line + 1) * LineHeight()},
-                                       kErrorColour));
+                                       kErrorColor));
         }
         return red;
     }
