@@ -462,23 +462,21 @@ TEST_F(PropertyGridPaint, EmptiesTheRectanglesOfASectionThatTheSortedDisplayDoes
 
 // ---- From right to left
 
-// What the screen shows of a window's client area, whichever way the window runs.
-class CScreenPicture {
+// A window's client area from left to right, whichever way the window runs. Read from the window and not from
+// the screen, which shows it later.
+class CClientPicture {
 public:
-    explicit CScreenPicture(const CWnd& window) {
-        CRect area;
-        window.GetClientRect(&area);
-        window.ClientToScreen(&area);
-        if (area.left > area.right) {
-            std::swap(area.left, area.right);
-        }
-        const HDC screen = ::GetDC(nullptr);
-        for (int y = area.top; y < area.bottom; ++y) {
-            for (int x = area.left; x < area.right; ++x) {
-                m_pixels[{x - area.left, y - area.top}] = ::GetPixel(screen, x, y);
+    explicit CClientPicture(HWND window) {
+        RECT client;
+        ::GetClientRect(window, &client);
+        const HDC dc = ::GetDC(window);
+        ::SetLayout(dc, 0);
+        for (int y = 0; y < client.bottom; ++y) {
+            for (int x = 0; x < client.right; ++x) {
+                m_pixels[{x, y}] = ::GetPixel(dc, x, y);
             }
         }
-        ::ReleaseDC(nullptr, screen);
+        ::ReleaseDC(window, dc);
     }
     // The pixels of one colour, the leftmost and the topmost at 0.
     std::set<std::pair<int, int>> Shape(COLORREF color) const {
@@ -530,8 +528,8 @@ TEST_F(PropertyGridPaint, NeverMirrorsATextInADialogThatRunsFromRightToLeft) {
         shown->Invalidate();
         shown->UpdateWindow();
     }
-    const CScreenPicture picture(rightToLeft);
-    const CScreenPicture expected(leftToRight);
+    const CClientPicture picture(rightToLeft);
+    const CClientPicture expected(leftToRight);
     ASSERT_GT(expected.Shape(text).size(), 20U);
     EXPECT_EQ(picture.Shape(text), expected.Shape(text));
     EXPECT_EQ(picture.Shape(editable), expected.Shape(editable));

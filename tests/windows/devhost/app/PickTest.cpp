@@ -141,8 +141,8 @@ TEST_F(Pick, ADialogMayHideItselfForThePick) {
 
 TEST_F(Pick, PickedPointsStayAsCrossesAndALineFollowsTheMouse) {
     Start(L"(pick-distance \"First: \") (pick-point \"Stay\")", L"First: ");
-    const COLORREF sheet = PixelAt(300, 150);
-    EXPECT_EQ(sheet, RGB(250, 250, 245));
+    const COLORREF sheet = RGB(250, 250, 245);
+    ASSERT_TRUE(WaitUntil([&] { return PixelAt(300, 150) == sheet; }));
     Click(200, 150);
     ASSERT_TRUE(WaitForPrompt(L"Second point: "));
     const COLORREF cross = RGB(0, 60, 160);
