@@ -19,7 +19,7 @@ void CGridAccess::Disconnect() {
 // The children's numbers are those of the moment at which all of them are taken.
 void CGridAccess::Report() {
     const HWND window = Window();
-    for (const AccessibleEvent& event : m_changes.Take(::GetFocus() == window)) {
+    for (const AccessibleEvent& event : m_changes.Take([=] { return ::GetFocus() == window; })) {
         ReportEvent(window, event.event, event.child);
     }
 }

@@ -21,7 +21,7 @@ void CAccessibleChanges::Note(accessible::EEvent event, Id item) {
     }
 }
 
-std::vector<AccessibleEvent> CAccessibleChanges::Take(bool windowHasFocus) {
+std::vector<AccessibleEvent> CAccessibleChanges::Take(const std::function<bool()>& windowHasFocus) {
     std::vector<AccessibleEvent> events;
     AddShapeEvents(events);
     AddItemEvents(events);
@@ -69,14 +69,15 @@ void CAccessibleChanges::AddItemEvents(std::vector<AccessibleEvent>& events) {
     }
 }
 
-void CAccessibleChanges::AddFocusEvents(std::vector<AccessibleEvent>& events, bool windowHasFocus) {
+void CAccessibleChanges::AddFocusEvents(std::vector<AccessibleEvent>& events,
+                                        const std::function<bool()>& windowHasFocus) {
     const bool moved = std::exchange(m_focus, m_model.GetFocus()) != m_model.GetFocus();
     const bool isNew = std::exchange(m_focusIsNew, false);
     const int child = m_rows.GetFocusedChild();
     if (moved) {
         events.push_back({EVENT_SELECTION, child});
     }
-    if ((moved || isNew) && windowHasFocus) {
+    if ((moved || isNew) && windowHasFocus()) {
         events.push_back({EVENT_FOCUS, child});
     }
 }

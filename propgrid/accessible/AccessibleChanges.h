@@ -4,6 +4,7 @@
 // that is filling the grid causes one report.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "accessible/Terms.h"
@@ -30,9 +31,10 @@ public:
     void NoteWindowFocus() { m_focusIsNew = true; }
 
     // What has changed, the rows themselves first; nothing after that until there are further changes. The
-    // focus is reported while the window has it, the selection always. The children are those of the rows as
-    // they are now; what happened to rows that the display does not have is left out.
-    std::vector<AccessibleEvent> Take(bool windowHasFocus);
+    // focus is reported while the window has it, which is asked only after a change of the focus; the
+    // selection always. The children are those of the rows as they are now; what happened to rows that the
+    // display does not have is left out.
+    std::vector<AccessibleEvent> Take(const std::function<bool()>& windowHasFocus);
 
 private:
     using enum accessible::EEvent;
@@ -57,7 +59,7 @@ private:
     Shape ReadShape() const;
     void AddShapeEvents(std::vector<AccessibleEvent>& events);
     void AddItemEvents(std::vector<AccessibleEvent>& events);
-    void AddFocusEvents(std::vector<AccessibleEvent>& events, bool windowHasFocus);
+    void AddFocusEvents(std::vector<AccessibleEvent>& events, const std::function<bool()>& windowHasFocus);
 
     const CGridModel& m_model;
     const CAccessibleRows& m_rows;

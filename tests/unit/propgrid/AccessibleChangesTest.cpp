@@ -20,9 +20,11 @@ protected:
         AddItem(0, L"a");
         AddItem(0, L"b");
         AddItem(1, L"c");
-        changes.Take(false);
+        Take();
     }
-    Events Take(bool windowHasFocus = false) { return changes.Take(windowHasFocus); }
+    Events Take(bool windowHasFocus = false) {
+        return changes.Take([=] { return windowHasFocus; });
+    }
 
     CAccessibleRows rows{model, layout};
     CAccessibleChanges changes{model, rows};
