@@ -12,6 +12,7 @@
 
 #include "benchmarks/BenchTable.h"
 #include "benchmarks/windows/BareDialog.h"
+#include "benchmarks/windows/MemoryFolder.h"
 #include "benchmarks/windows/PaintedSentinel.h"
 #include "res/resource.h"
 #include "sds/HostBinding.h"
@@ -111,7 +112,7 @@ void Rewrite(const std::filesystem::path& path) {
 
 int main() {
     BindHost(GetModuleHandleW(nullptr));
-    const CTempFolder folder;
+    const CTempFolder folder(kMemoryFolder);
     for (const wchar_t* name : {L"door.png", L"door.TXT", L"door_TMP.TXT", L"door_preview.png"}) {
         std::filesystem::copy_file(std::wstring(SAMPLES L"door/") + name, folder.Path(name));
     }

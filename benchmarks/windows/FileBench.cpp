@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "benchmarks/BenchTable.h"
+#include "benchmarks/windows/MemoryFolder.h"
 #include "itemdlg/ItemContents.h"
 #include "itemdlg/TemplateRewrite.h"
 #include "itemdlg/TextFile.h"
@@ -78,7 +79,7 @@ void CallOfStandardLibrary(const std::wstring& source, const std::wstring& targe
 }  // namespace
 
 int main() {
-    const CTempFolder folder;
+    const CTempFolder folder(kMemoryFolder);
     const std::wstring source = folder.Path(L"source.TXT");
     const std::wstring target = folder.Path(L"target.TXT");
     for (const std::size_t parameters : {10U, 100U, 1000U, 10000U, 100000U}) {

@@ -6,14 +6,17 @@
 #include <fstream>
 #include <iterator>
 
+std::wstring CTempFolder::SystemFolder() {
+    wchar_t path[MAX_PATH];
+    GetTempPathW(MAX_PATH, path);
+    return path;
+}
+
 // A process with the same number may have left a folder: one that holds a DLL cannot be removed while that is
 // loaded.
-CTempFolder::CTempFolder() {
+CTempFolder::CTempFolder(const std::wstring& parent) {
     static int number = 0;
-    wchar_t base[MAX_PATH];
-    GetTempPathW(MAX_PATH, base);
-    const std::wstring start =
-        std::wstring(base) + L"tavrin_" + std::to_wstring(GetCurrentProcessId()) + L"_";
+    const std::wstring start = parent + L"tavrin_" + std::to_wstring(GetCurrentProcessId()) + L"_";
     do {
         m_path = start + std::to_wstring(++number) + L"\\";
     } while (!std::filesystem::create_directories(m_path));

@@ -5,7 +5,8 @@
 
 class CTempFolder {
 public:
-    CTempFolder();
+    // In the folder `parent`, which ends with a backslash.
+    explicit CTempFolder(const std::wstring& parent = SystemFolder());
     ~CTempFolder();
     CTempFolder(const CTempFolder&) = delete;
     CTempFolder& operator=(const CTempFolder&) = delete;
@@ -18,5 +19,8 @@ public:
     std::string Read(const std::wstring& name) const;
 
 private:
+    // The system's folder for temporary files.
+    static std::wstring SystemFolder();
+
     std::wstring m_path;
 };
