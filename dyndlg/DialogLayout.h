@@ -43,13 +43,4 @@ private:
     DialogExtent m_extent;
 };
 
-// Gives ids to controls that come without one. An id is never given twice.
-class CControlIds {
-public:
-    std::uint32_t Next() { return m_next++; }
-
-private:
-    std::uint32_t m_next = 1024;
-};
-
 }  // namespace tavrin::dyndlg

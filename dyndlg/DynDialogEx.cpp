@@ -110,9 +110,9 @@ UINT CDynDialogEx::AddSubclassedDlgControl(LPCTSTR className, LPCTSTR caption, D
 
 UINT CDynDialogEx::Add(DynControl control, const RECT* rect, int defaultRight) {
     // One counter for all dialogs: two that are open at the same time share no assigned id.
-    static CControlIds ids;
+    static UINT nextId = 1024;
     if (control.id == 0) {
-        control.id = ids.Next();
+        control.id = nextId++;
     }
     if (rect != nullptr) {
         const DialogRect given = {rect->left, rect->top, rect->right, rect->bottom};

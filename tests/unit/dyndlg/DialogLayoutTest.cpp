@@ -95,11 +95,4 @@ TEST(DialogLayout, TheLargestNumbersDoNotOverflow) {
     EXPECT_EQ(ExtentOf({{greatest, greatest, least, least}}), (DialogExtent{0, 0, 0, 0}));
 }
 
-TEST(ControlIds, CountUpFrom1024) {
-    CControlIds ids;
-    EXPECT_EQ(ids.Next(), 1024U);
-    EXPECT_EQ(ids.Next(), 1025U);
-    EXPECT_EQ(ids.Next(), 1026U);
-}
-
 }  // namespace
