@@ -1,5 +1,7 @@
 #include "host/CommandTable.h"
 
+#include <iterator>
+
 #include "host/Commands.h"
 #include "sds/sds.h"
 
@@ -7,6 +9,12 @@ namespace tavrin::host {
 
 namespace {
 
+struct CommandRow {
+    const wchar_t* name;  // of the LISP function
+    int (*run)();         // reads the arguments, shows the dialog, sets the result; see Commands.h
+};
+
+// A row's position is the code under which the host knows the function.
 constexpr CommandRow kCommandTable[] = {
     {L"tavrinwnd", RunItemDialog},
     {L"tavrinselmask", RunChoiceDialog},
@@ -14,10 +22,6 @@ constexpr CommandRow kCommandTable[] = {
 };
 
 }  // namespace
-
-std::span<const CommandRow> CommandTable() {
-    return kCommandTable;
-}
 
 void RegisterCommands() {
     short code = 0;

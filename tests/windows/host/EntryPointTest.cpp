@@ -1,11 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "host/CommandTable.h"
 #include "sds/sds.h"
 #include "tests/windows/support/Arguments.h"
 #include "tests/windows/support/FakeHost.h"
-
-using namespace tavrin::host;
 
 extern "C" int icrxEntryPoint(unsigned request, void* packet);
 
@@ -88,13 +85,6 @@ TEST_F(EntryPoint, TheOtherRequestsAskForNothing) {
     EXPECT_TRUE(fakeHost.undefined.empty());
     EXPECT_TRUE(fakeHost.failures.empty());
     EXPECT_TRUE(fakeHost.results.empty());
-}
-
-TEST_F(EntryPoint, ARowsPositionIsItsCode) {
-    ASSERT_EQ(CommandTable().size(), 3U);
-    EXPECT_STREQ(CommandTable()[0].name, L"tavrinwnd");
-    EXPECT_STREQ(CommandTable()[1].name, L"tavrinselmask");
-    EXPECT_STREQ(CommandTable()[2].name, L"tavrinprevmask");
 }
 
 }  // namespace
