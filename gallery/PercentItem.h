@@ -12,7 +12,6 @@ public:
 
     // The id that the grid gave the item, for notifying the grid of changes.
     void SetId(UINT id) { m_id = id; }
-    int GetPercent() const { return m_percent; }
     void SetPercent(int percent) { m_percent = percent; }
 
     // EM_CUSTOM: there is no editor, the mouse is the item's own.

@@ -35,7 +35,6 @@ public:
 
     // The grid's name; its window's text while it is empty.
     void SetName(const std::wstring& name) { m_name = name; }
-    const std::wstring& GetOwnName() const { return m_name; }
 
     // The answer to WM_GETOBJECT, see CAccessibleWindow. Disconnect is for WM_DESTROY.
     std::optional<LRESULT> Answer(WPARAM flags, LPARAM object);

@@ -57,7 +57,6 @@ public:
     // What assistive technology calls the grid; empty at the start, which stands for the window's text. A
     // client sets it to the text of the label that is above the grid.
     void SetAccessibleName(const std::wstring& name) { m_access.SetName(name); }
-    const std::wstring& GetAccessibleName() const { return m_access.GetOwnName(); }
 
     // ---- Editing
 
@@ -94,7 +93,6 @@ public:
     // "*", "/" and, for a focused section, "+" and "-" keep their meaning. The first four do nothing on a row
     // that is not editable.
     void SetKeyboardEditing(bool on) { m_model.settings.keyboardEditing = on; }
-    bool GetKeyboardEditing() const { return m_model.settings.keyboardEditing; }
     // What F2 and Alt+Enter do, whether keyboard editing is on or not: for a client's own keys, and for
     // assistive technology. The focused row is scrolled into view for an editor that opens in it.
     void EditFocusedItem();
