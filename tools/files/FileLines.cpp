@@ -49,12 +49,4 @@ std::string BytesOf(std::wstring_view text) {
     return bytes;
 }
 
-std::string WrittenFile(const itemdlg::TextLines& lines) {
-    std::string bytes;
-    for (const std::wstring& line : lines) {
-        bytes += BytesOf(line) + "\r\n";
-    }
-    return bytes;
-}
-
 }  // namespace tavrin::tools

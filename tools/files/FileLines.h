@@ -39,7 +39,4 @@ itemdlg::TextLines TextsOf(const std::vector<FileLine>& lines);
 // The bytes of a text, whose characters must be at most 0xFF.
 std::string BytesOf(std::wstring_view text);
 
-// The file as the module writes it: every line ends with CR LF.
-std::string WrittenFile(const itemdlg::TextLines& lines);
-
 }  // namespace tavrin::tools

@@ -186,6 +186,15 @@ protected:
         EXPECT_EQ(folder.Read(L"item.TXT"), TemplateAfter(item, preview));
     }
 
+    // As the module writes them.
+    static std::string WrittenFile(const TextLines& lines) {
+        std::string bytes;
+        for (const std::wstring& line : lines) {
+            bytes += BytesOf(line) + "\r\n";
+        }
+        return bytes;
+    }
+
     static std::string TemplateAfter(const GeneratedItem& item, const CItemPreview& preview) {
         return item.templateFile
                    ? WrittenFile(preview.TemplateFileAfter(TextsOf(SplitLines(*item.templateFile))))
